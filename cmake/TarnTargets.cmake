@@ -1,0 +1,68 @@
+# SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+# SPDX-License-Identifier: Apache-2.0
+
+# The three kinds of target of this project. A folder's CMakeLists.txt is then its list of
+# files and what it links; warnings, sanitizers, labels and time limits stand here.
+
+include_guard()
+
+# What every target of ours is compiled with.
+add_library(tarn_options INTERFACE)
+target_compile_features(tarn_options INTERFACE cxx_std_20)
+target_include_directories(tarn_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
+target_compile_options(tarn_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
+    -Wold-style-cast -Werror)
+target_compile_definitions(tarn_options INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_DEPRECATED_WARNINGS)
+if(TARN_SANITIZE)
+    target_compile_options(tarn_options INTERFACE
+        -fsanitize=${TARN_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(tarn_options INTERFACE -fsanitize=${TARN_SANITIZE})
+endif()
+
+function(_tarn_prepare target)
+    set_target_properties(${target} PROPERTIES
+        CXX_EXTENSIONS OFF CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
+    if(TARN_QT)
+        set_target_properties(${target} PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON)
+    endif()
+endfunction()
+
+# tarn_library(<name> SOURCES <files> [LINK <public>] [LINK_PRIVATE <private>])
+function(tarn_library name)
+    cmake_parse_arguments(arg "" "" "SOURCES;LINK;LINK_PRIVATE" ${ARGN})
+    add_library(${name} STATIC ${arg_SOURCES})
+    target_link_libraries(${name} PUBLIC tarn_options ${arg_LINK} PRIVATE ${arg_LINK_PRIVATE})
+    _tarn_prepare(${name})
+endfunction()
+
+# tarn_program(<name> SOURCES <files> [LINK <libraries>])
+function(tarn_program name)
+    cmake_parse_arguments(arg "" "" "SOURCES;LINK" ${ARGN})
+    add_executable(${name} ${arg_SOURCES})
+    target_link_libraries(${name} PRIVATE tarn_options ${arg_LINK})
+    _tarn_prepare(${name})
+endfunction()
+
+# tarn_test(<name> LABELS <labels> TIMEOUT <seconds> SOURCES <files> [LINK <libraries>])
+#
+# LABELS are of unit, wire, gui, slow. With the word QTEST the program is one QTest class and
+# one test of ctest; without it, it is GoogleTest, and each TEST is a test of ctest.
+function(tarn_test name)
+    cmake_parse_arguments(arg "QTEST" "TIMEOUT" "LABELS;SOURCES;LINK" ${ARGN})
+    tarn_program(${name} SOURCES ${arg_SOURCES} LINK ${arg_LINK})
+    # Tests may include the doubles in tests/support and the simulator beside the product.
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
+    if(arg_QTEST)
+        target_link_libraries(${name} PRIVATE Qt5::Test)
+        add_test(NAME ${name} COMMAND ${name})
+        set_tests_properties(${name} PROPERTIES
+            LABELS "${arg_LABELS}" TIMEOUT ${arg_TIMEOUT} ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+    else()
+        target_link_libraries(${name} PRIVATE GTest::gmock GTest::gtest_main)
+        gtest_discover_tests(${name}
+            TEST_PREFIX ${name}. DISCOVERY_TIMEOUT 60
+            PROPERTIES LABELS "${arg_LABELS}" TIMEOUT ${arg_TIMEOUT})
+    endif()
+endfunction()
