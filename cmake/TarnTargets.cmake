@@ -42,6 +42,8 @@ function(tarn_program name)
     cmake_parse_arguments(arg "" "" "SOURCES;LINK" ${ARGN})
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE tarn_options ${arg_LINK})
+    set_target_properties(${name} PROPERTIES
+        RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
     _tarn_prepare(${name})
 endfunction()
 
