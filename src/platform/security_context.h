@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+
+/// What integrated logon needs of the operating system: a client-side security context of the
+/// "Negotiate" package for the user of this process.
+namespace platform {
+
+/// Result of a security operation. A negative one is a failure.
+using SecurityStatus = std::int32_t;
+
+inline constexpr SecurityStatus securityOk = 0;
+inline constexpr SecurityStatus securityContinueNeeded = 0x90312;
+inline constexpr SecurityStatus securityCompleteNeeded = 0x90313;
+inline constexpr SecurityStatus securityCompleteAndContinue = 0x90314;
+
+/// A handle of the security interface. Both words zero: nothing is held. Nobody frees one; it
+/// ends with the process.
+struct SecurityHandle {
+    std::uint64_t lower = 0;
+    std::uint64_t upper = 0;
+
+    bool held() const { return lower != 0 || upper != 0; }
+};
+
+/// The operations of the security interface, one function each. None of them raises.
+class SecurityOperations {
+public:
+    virtual ~SecurityOperations() = default;
+
+    /// The largest token of the "Negotiate" package, in bytes.
+    virtual SecurityStatus queryMaxTokenSize(std::uint32_t& maxTokenSize) = 0;
+
+    /// Outbound credentials of the user of this process.
+    virtual SecurityStatus acquireCredentials(SecurityHandle& credentials) = 0;
+
+    /// One round. `targetName` is UTF-8. An empty `input` means the first round: then `context` is
+    /// only written. `output` is the room for the token to send, `outputSize` what was used of it.
+    virtual SecurityStatus initializeContext(SecurityHandle& credentials, SecurityHandle& context,
+                                             const std::string& targetName,
+                                             std::span<std::uint8_t> input,
+                                             std::span<std::uint8_t> output,
+                                             std::uint32_t& outputSize) = 0;
+
+    /// Completes the token that the last round wrote.
+    virtual SecurityStatus completeToken(SecurityHandle& context,
+                                         std::span<std::uint8_t> token) = 0;
+};
+
+/// The operations of this system, or null where there is no such interface. Lives as long as the
+/// process.
+SecurityOperations* securityOperations();
+
+/// Whether this system can log on its current user without a password.
+bool integratedLogonAvailable();
+
+} // namespace platform
