@@ -15,6 +15,10 @@ target_compile_options(tarn_options INTERFACE
     -Wold-style-cast -Werror)
 target_compile_definitions(tarn_options INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_DEPRECATED_WARNINGS)
+find_program(TARN_MOLD mold)
+if(TARN_MOLD)
+    target_link_options(tarn_options INTERFACE -fuse-ld=mold)
+endif()
 if(TARN_SANITIZE)
     target_compile_options(tarn_options INTERFACE
         -fsanitize=${TARN_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
