@@ -1,0 +1,117 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "session/connection.h"
+
+#include <exception>
+#include <utility>
+
+#include <QCoreApplication>
+
+#include <boost/make_shared.hpp>
+
+#include "api/client_connection.h"
+#include "hessian/serialize_exception.h"
+#include "session/agent_kind.h"
+#include "session/agent_url.h"
+#include "session/integrated_logon.h"
+#include "session/text.h"
+#include "transport/raw_stream_dispatcher.h"
+
+namespace session {
+
+using hessiancln::ClientConnection;
+using hessianser::serialize_exception;
+using Root = boost::shared_ptr<ClientConnection>;
+
+namespace {
+
+// What the client announces. The version that people see is another one.
+const std::string clientVersion = "13.0.0.0";
+
+/// Stores the kind of the agent before judging it, so that a refused one stays visible.
+void admitAgent(ClientConnection& bootstrap) {
+    g_clientType = bootstrap.getTarnClientType();
+    g_isMobileClient = isMobileAgent(g_clientType);
+    g_isNotebookClient = isNotebookAgent(g_clientType);
+    if (!isAdmittedAgent(g_clientType)) {
+        const QString text =
+            QCoreApplication::translate("Session", "It is not allowed to connect to %1 using %2.");
+        throw serialize_exception(toWire(
+            text.arg(fromWire(agentKindName(g_clientType)), QStringLiteral("Tarn-Mobile User"))));
+    }
+}
+
+/// The agent answers frames on the port that it answered HTTP on.
+void moveToRawStream(ClientConnection& root) {
+    root.setDispatcher(
+        boost::make_shared<hessiancln::CRawStreamDispacher>(true, 0u, std::string()));
+}
+
+} // namespace
+
+void connectToAgent(const std::string& address, const std::string& user,
+                    const std::string& password, std::int32_t flag) {
+    std::string apiUrl;
+    std::string baseUrl;
+    normalizeAgentUrl(address, apiUrl, baseUrl);
+    // Made before the lock is taken, so that it goes when the lock has been released.
+    ClientConnection bootstrap(apiUrl, false, 0, std::string());
+    const std::lock_guard lock(g_connectionMutex);
+    g_connection.reset();
+    admitAgent(bootstrap);
+
+    Root root;
+    const bool integrated = user.empty() && integratedLogonAvailable();
+    if (!integrated) {
+        root = bootstrap.login(baseUrl, clientVersion, user, password, flag);
+    } else if (!performIntegratedLogon(root, bootstrap, baseUrl, clientVersion,
+                                       *securityOperations())) {
+        return;
+    }
+    // An agent may end a login without a fault and without a session.
+    if (!root) {
+        return;
+    }
+    moveToRawStream(*root);
+    g_connection = std::move(root);
+    g_currentUser = integrated ? currentWindowsUser() : user;
+}
+
+void disconnectFromAgent() {
+    const std::lock_guard lock(g_connectionMutex);
+    if (!g_connection) {
+        return;
+    }
+    try {
+        g_connection->logout();
+    } catch (const std::exception&) {
+        // A dead agent must not stop the disconnect.
+    }
+    g_connection.reset();
+}
+
+Root getConnection() {
+    const std::lock_guard lock(g_connectionMutex);
+    if (!g_connection) {
+        throw serialize_exception("No API connection exists");
+    }
+    return g_connection;
+}
+
+QStringList readDomainList(const std::string& address) {
+    QStringList domains;
+    try {
+        std::string apiUrl;
+        std::string baseUrl;
+        normalizeAgentUrl(address, apiUrl, baseUrl);
+        ClientConnection bootstrap(apiUrl, false, 0, std::string());
+        for (const std::string& domain : bootstrap.getAvailableDomains()) {
+            domains.append(fromWire(domain));
+        }
+    } catch (const std::exception&) {
+        // Without domains the login simply offers none.
+    }
+    return domains;
+}
+
+} // namespace session

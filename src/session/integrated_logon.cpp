@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "session/integrated_logon.h"
+
+#include <optional>
+#include <utility>
+
+#include "api/client_connection.h"
+#include "session/sspi_client_context.h"
+#include "session/token_frame.h"
+
+namespace session {
+
+using hessiancln::ClientConnection;
+using platform::SecurityOperations;
+
+namespace {
+
+// The service stands on the machine of the user, whatever address it is reached by.
+const char* const targetName = "OstrandBakSvc/localhost";
+
+std::optional<SecurityOperations*> operationsOverride;
+
+} // namespace
+
+bool integratedLogonAvailable() {
+    return securityOperations() != nullptr;
+}
+
+bool performIntegratedLogon(boost::shared_ptr<ClientConnection>& connectionOut,
+                            ClientConnection& bootstrap, const std::string& url,
+                            const std::string& version, SecurityOperations& operations) {
+    SspiClientContext context(operations);
+    boost::shared_ptr<ClientConnection> root;
+    while (!context.done() && context.runRound(targetName) && !context.outToken().empty()) {
+        auto answer = bootstrap.sspi_login(url, version, frameToken(context.outToken()));
+        root = std::move(answer.conn);
+        context.setInToken(framedToken(answer.context));
+    }
+    if (!context.done()) {
+        return false;
+    }
+    connectionOut = std::move(root);
+    return true;
+}
+
+SecurityOperations* securityOperations() {
+    return operationsOverride.value_or(platform::securityOperations());
+}
+
+SecurityOperationsOverride::SecurityOperationsOverride(SecurityOperations* operations) {
+    operationsOverride = operations;
+}
+
+SecurityOperationsOverride::~SecurityOperationsOverride() {
+    operationsOverride.reset();
+}
+
+} // namespace session

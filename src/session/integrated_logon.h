@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+
+#include <boost/shared_ptr.hpp>
+
+#include "platform/security_context.h"
+#include "platform/user_name.h"
+
+namespace hessiancln {
+class ClientConnection;
+}
+
+/// Logging in as the current user of this system, without a password.
+namespace session {
+
+using platform::currentWindowsUser;
+
+/// Whether this system offers integrated logon.
+bool integratedLogonAvailable();
+
+/// Carries tokens between this system and the agent until the security context is complete. `url`
+/// is the agent's base URL, `version` that of this client.
+///
+/// True: `connectionOut` holds what the agent's last answer gave as the session's root object,
+/// which may be null. False: the logon didn't complete, and `connectionOut` is untouched, as it is
+/// when an exception of the remote call passes through.
+bool performIntegratedLogon(boost::shared_ptr<hessiancln::ClientConnection>& connectionOut,
+                            hessiancln::ClientConnection& bootstrap, const std::string& url,
+                            const std::string& version, platform::SecurityOperations& operations);
+
+/// The security operations in use; null where the system has none.
+platform::SecurityOperations* securityOperations();
+
+/// Puts `operations`, which may be null, in the place of this system's for as long as the object
+/// lives. One at a time, and while nobody logs in.
+class SecurityOperationsOverride {
+public:
+    explicit SecurityOperationsOverride(platform::SecurityOperations* operations);
+    SecurityOperationsOverride(const SecurityOperationsOverride&) = delete;
+    SecurityOperationsOverride& operator=(const SecurityOperationsOverride&) = delete;
+    ~SecurityOperationsOverride();
+};
+
+} // namespace session

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "session/process_values.h"
+
+#include "api/client_connection.h"
+
+namespace session {
+
+boost::shared_ptr<hessiancln::ClientConnection> g_connection;
+std::mutex g_connectionMutex;
+std::int32_t g_clientType = 0;
+bool g_isMobileClient = false;
+bool g_isNotebookClient = false;
+bool g_isCentrallyManaged = false;
+bool g_is2FAEnabled = false;
+std::string g_currentUser;
+QString g_language;
+
+bool connectedToAgent() {
+    const std::lock_guard lock(g_connectionMutex);
+    return g_connection != nullptr;
+}
+
+std::int32_t clientType() {
+    return g_clientType;
+}
+
+const std::string& currentUser() {
+    return g_currentUser;
+}
+
+} // namespace session

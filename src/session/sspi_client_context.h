@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <span>
+#include <string>
+#include <vector>
+
+#include "platform/security_context.h"
+
+namespace session {
+
+/// The client's side of one integrated logon: turns the agent's last token into the next one to
+/// send, round by round, until the context is complete.
+class SspiClientContext {
+public:
+    /// `operations` has to outlive this object.
+    explicit SspiClientContext(platform::SecurityOperations& operations);
+
+    /// Runs one round. False when an operation failed; `failedOperation` may then name it.
+    bool runRound(const std::string& targetName);
+
+    /// The token from the agent for the next round; empty before the first one.
+    void setInToken(std::span<const std::uint8_t> token);
+
+    /// The token to send to the agent. Valid until the next round.
+    std::span<const std::uint8_t> outToken() const;
+
+    /// The context is complete.
+    bool done() const { return done_; }
+
+    /// Status and name of the operation that failed. A failure to acquire credentials leaves no
+    /// trace here.
+    platform::SecurityStatus failedStatus() const { return failedStatus_; }
+    const std::string& failedOperation() const { return failedOperation_; }
+
+private:
+    /// A buffer of the package's largest token, made once, and how much of it is in use.
+    struct Token {
+        std::vector<std::uint8_t> room;
+        std::size_t size = 0;
+    };
+
+    bool acquireCredentials();
+    bool check(platform::SecurityStatus status, const char* operation);
+
+    platform::SecurityOperations& operations_;
+    Token inToken_;
+    Token outToken_;
+    platform::SecurityHandle credentials_;
+    platform::SecurityHandle context_;
+    bool done_ = false;
+    platform::SecurityStatus failedStatus_ = platform::securityOk;
+    std::string failedOperation_;
+};
+
+} // namespace session
