@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "api/remote_object.h"
+
+namespace hessiancln {
+
+namespace detail {
+
+/// What the object's `types` call a class.
+template <ProxyClass P>
+constexpr std::string_view plainName() {
+    if constexpr (requires { P::className; })
+        return P::className;
+    else
+        return P::family;
+}
+
+} // namespace detail
+
+/// A second proxy, of the narrower class, for the object behind `source`, which stays as it is.
+/// Both stand for one reference of the agent's and share its release. Asks the agent, so that it
+/// costs one round trip and raises what a remote method raises; raises `invoke_exception` if the
+/// object isn't of that class. `source` isn't null.
+template <class Derived, class Base>
+boost::shared_ptr<Derived> checkedCast(const boost::shared_ptr<Base>& source) {
+    static_assert(std::derived_from<Derived, Base> && ProxyClass<Base>);
+    source->requireType(detail::plainName<Base>(), detail::plainName<Derived>());
+    auto narrower = boost::make_shared<Derived>(source->url(), false, 0u, std::string());
+    narrower->shareObjectOf(*source);
+    return narrower;
+}
+
+} // namespace hessiancln

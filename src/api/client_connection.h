@@ -1,0 +1,107 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include <boost/shared_ptr.hpp>
+
+#include "api/activity_records.h"
+#include "api/backup_set.h"
+#include "api/backup_set_records.h"
+#include "api/client_configuration.h"
+#include "api/data_source_browser.h"
+#include "api/event_records.h"
+#include "api/generic_activity.h"
+#include "api/remote_object.h"
+#include "api/retention_rule_manager.h"
+#include "api/schedule_manager.h"
+#include "api/sspi_login_info.h"
+#include "api/system_activity_manager.h"
+#include "api/tarn_client_info.h"
+#include "api/tfa_manager.h"
+
+namespace hessiancln {
+
+/// The root: the entry point that needs no login, and the session that a login gives.
+///
+/// The entry point stands at the agent's address with "/api" behind it, and serves
+/// `getTarnClientType`, `getAvailableDomains` and the two ways to log in. Times are seconds since
+/// 1970 UTC.
+class ClientConnection : public RemoteObject {
+public:
+    using RemoteObject::RemoteObject;
+
+    using Set = boost::shared_ptr<BackupSet>;
+    using Activity = boost::shared_ptr<GenericActivity>;
+
+    /// The kind of agent, as the number that it sends.
+    std::int32_t getTarnClientType() { return call<std::int32_t>("getTarnClientType"); }
+    std::vector<std::string> getAvailableDomains() {
+        return call<std::vector<std::string>>("getAvailableDomains");
+    }
+
+    /// Starts a session. `flag` is 1 if a password was typed, 0 otherwise.
+    boost::shared_ptr<ClientConnection> login(const std::string& url, const std::string& version,
+                                              const std::string& user, const std::string& password,
+                                              std::int32_t flag) {
+        return call<boost::shared_ptr<ClientConnection>>("login", url, version, user, password,
+                                                         flag);
+    }
+    /// One step of integrated logon.
+    sspi_login_info sspi_login(const std::string& url, const std::string& version,
+                               const hessianser::Binary& token) {
+        return call<sspi_login_info>("sspi_login", url, version, token);
+    }
+    /// Ends the session.
+    void logout() { call<void>("logout"); }
+
+    std::vector<tarn_client_info> getTarnClientInfo() {
+        return call<std::vector<tarn_client_info>>("getTarnClientInfo");
+    }
+
+    std::vector<backup_set_info> backup_sets_info() {
+        return call<std::vector<backup_set_info>>("backup_sets_info");
+    }
+    Set backup_set(std::int32_t id) { return call<Set>("backup_set", id); }
+    /// Puts a set that was made by a browser among the agent's sets.
+    void addBackupSet(const Set& set) { call<void>("addBackupSet", set); }
+    /// Deletes the set; the activity reports it.
+    Activity removeBackupSet(const Set& set) { return call<Activity>("removeBackupSet", set); }
+
+    std::vector<running_activity_info> running_activities() {
+        return call<std::vector<running_activity_info>>("running_activities");
+    }
+    Activity activity(std::int32_t id) { return call<Activity>("activity", id); }
+    std::vector<activity_log_info> activity_log(std::int32_t from, std::int32_t to) {
+        return call<std::vector<activity_log_info>>("activity_log", from, to);
+    }
+    /// The events of a time span, or with both times 0 those of one activity.
+    std::vector<event_log_info> event_log(std::int32_t from, std::int32_t to,
+                                          std::int32_t activity_id) {
+        return call<std::vector<event_log_info>>("event_log", from, to, activity_id);
+    }
+
+    boost::shared_ptr<DataSourceBrowser> createBrowser(std::int32_t kind) {
+        return call<boost::shared_ptr<DataSourceBrowser>>("createBrowser", kind);
+    }
+    boost::shared_ptr<ScheduleManager> getScheduleManager() {
+        return call<boost::shared_ptr<ScheduleManager>>("getScheduleManager");
+    }
+    boost::shared_ptr<RetentionRuleManager> getRetentionRuleManager() {
+        return call<boost::shared_ptr<RetentionRuleManager>>("getRetentionRuleManager");
+    }
+    boost::shared_ptr<ClientConfiguration> getConfigurationManager() {
+        return call<boost::shared_ptr<ClientConfiguration>>("getConfigurationManager");
+    }
+    boost::shared_ptr<TFAManager> getTFAManager() {
+        return call<boost::shared_ptr<TFAManager>>("getTFAManager");
+    }
+    boost::shared_ptr<SystemActivityManager> getSystemActivityManager() {
+        return call<boost::shared_ptr<SystemActivityManager>>("getSystemActivityManager");
+    }
+};
+
+} // namespace hessiancln

@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstdint>
+
+#include "api/remote_object.h"
+
+namespace hessiancln {
+
+/// An activity that is running on the agent: the result of everything that starts one.
+class GenericActivity : public RemoteObject {
+public:
+    using RemoteObject::RemoteObject;
+
+    /// Asks the agent to stop it, and doesn't wait until it has.
+    void Stop() { call<void>("Stop"); }
+    std::int32_t getID() { return call<std::int32_t>("getID"); }
+};
+
+} // namespace hessiancln

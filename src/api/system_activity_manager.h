@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include <boost/shared_ptr.hpp>
+
+#include "api/generic_activity.h"
+#include "api/orphaned_backup_set.h"
+#include "api/remote_object.h"
+
+namespace hessiancln {
+
+/// Gets back what an agent has lost.
+class SystemActivityManager : public RemoteObject {
+public:
+    using RemoteObject::RemoteObject;
+
+    using Activity = boost::shared_ptr<GenericActivity>;
+    using Orphan = boost::shared_ptr<OrphanedBackupSet>;
+
+    std::vector<Orphan> getOrphanedbackupSets() {
+        return call<std::vector<Orphan>>("getOrphanedbackupSets");
+    }
+    Activity recover_tarnclient_database(std::int32_t mode) {
+        return call<Activity>("recover_tarnclient_database", mode);
+    }
+    /// The id of the set that takes its place.
+    std::int32_t recover_orphaned_backup_set(const Orphan& orphan) {
+        return call<std::int32_t>("recover_orphaned_backup_set", orphan);
+    }
+};
+
+} // namespace hessiancln

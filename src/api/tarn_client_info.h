@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "hessian/record_layout.h"
+
+namespace hessiancln {
+
+/// A row of the list that describes the agent.
+struct tarn_client_info {
+    std::string name; ///< the caption
+    std::string value;
+
+    static constexpr std::string_view wireType = "com.norvel.api.tarn_client_info";
+    static constexpr auto fields() {
+        using hessianser::field;
+        using R = tarn_client_info;
+        return hessianser::fields(field("name", &R::name), field("value", &R::value));
+    }
+};
+
+} // namespace hessiancln
