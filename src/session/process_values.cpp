@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "session/process_values.h"
 
-#include "api/client_connection.h"
-
 namespace session {
 
 boost::shared_ptr<hessiancln::ClientConnection> g_connection;

@@ -1,0 +1,149 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "session/login_fields.h"
+
+#include <gtest/gtest.h>
+
+#include "session/text.h"
+
+// Results are compared as UTF-8, so that a failure prints them.
+namespace {
+
+using session::fromWire;
+using session::toWire;
+
+std::string address(const char* userText) {
+    return toWire(session::agentAddressOf(fromWire(userText)));
+}
+
+std::string host(const char* agentAddress) {
+    return toWire(session::hostForDisplay(fromWire(agentAddress)));
+}
+
+std::string user(const char* userText, bool asCurrentUser, std::optional<QString> domain) {
+    return toWire(session::loginUserOf(fromWire(userText), asCurrentUser, domain));
+}
+
+const std::optional<QString> noDomain;
+const std::optional<QString> office = QStringLiteral("OFFICE");
+
+TEST(AgentAddress, IsThisMachineWithoutAColon) {
+    EXPECT_EQ(address("anna"), "127.0.0.1:4411");
+    EXPECT_EQ(address(""), "127.0.0.1:4411");
+}
+
+TEST(AgentAddress, IsAllBehindTheFirstColon) {
+    EXPECT_EQ(address("anna:backup.lan"), "backup.lan");
+    EXPECT_EQ(address("anna:backup.lan:99"), "backup.lan:99");
+}
+
+TEST(AgentAddress, KeepsASchemeAndAPortOfItsOwn) {
+    EXPECT_EQ(address("anna:http://backup.lan:99"), "http://backup.lan:99");
+}
+
+TEST(AgentAddress, IsEmptyBehindALastColon) {
+    EXPECT_EQ(address("anna:"), "");
+}
+
+TEST(AgentAddress, NeedsNoUserBeforeIt) {
+    EXPECT_EQ(address(":backup.lan"), "backup.lan");
+}
+
+TEST(HostForDisplay, LosesThePort) {
+    EXPECT_EQ(host("127.0.0.1:4411"), "127.0.0.1");
+    EXPECT_EQ(host("backup.lan:99"), "backup.lan");
+}
+
+TEST(HostForDisplay, LosesEitherScheme) {
+    EXPECT_EQ(host("http://backup.lan:99"), "backup.lan");
+    EXPECT_EQ(host("https://backup.lan:99"), "backup.lan");
+    EXPECT_EQ(host("https://backup.lan"), "backup.lan");
+}
+
+TEST(HostForDisplay, LosesOneSchemeOnly) {
+    EXPECT_EQ(host("http://https://backup.lan"), "https");
+}
+
+TEST(HostForDisplay, KeepsASchemeInUpperCase) {
+    EXPECT_EQ(host("HTTP://backup.lan:99"), "HTTP://backup.lan");
+}
+
+TEST(HostForDisplay, IsTheAddressWithoutAColon) {
+    EXPECT_EQ(host("backup.lan"), "backup.lan");
+    EXPECT_EQ(host(""), "");
+}
+
+TEST(HostForDisplay, IsCutAtTheLastColon) {
+    EXPECT_EQ(host("[::1]:4411"), "[::1]");
+}
+
+TEST(HostForDisplay, IsNotCutAtAColonInFront) {
+    EXPECT_EQ(host(":99"), ":99");
+    EXPECT_EQ(host("http://:99"), ":99");
+}
+
+TEST(HostForDisplay, IsCutAtAColonBehindOneCharacter) {
+    EXPECT_EQ(host("a:1"), "a");
+}
+
+TEST(LoginUser, IsTheWholeTextWithoutAColon) {
+    EXPECT_EQ(user("anna", false, noDomain), "anna");
+}
+
+TEST(LoginUser, IsTheTextBeforeTheFirstColon) {
+    EXPECT_EQ(user("anna:backup.lan:99", false, noDomain), "anna");
+}
+
+TEST(LoginUser, MayBeEmpty) {
+    EXPECT_EQ(user("", false, noDomain), "");
+    EXPECT_EQ(user(":backup.lan", false, noDomain), "");
+}
+
+TEST(LoginUser, StaysEmptyWithADomain) {
+    EXPECT_EQ(user("", false, office), "");
+    EXPECT_EQ(user(":backup.lan", false, office), "");
+}
+
+TEST(LoginUser, GetsTheDomainInFrontOfAPlainName) {
+    EXPECT_EQ(user("anna", false, office), "OFFICE\\anna");
+}
+
+TEST(LoginUser, GetsTheDomainButNotTheAddress) {
+    EXPECT_EQ(user("anna:backup.lan", false, office), "OFFICE\\anna");
+}
+
+TEST(LoginUser, ALeadingBackslashMeansNoDomain) {
+    EXPECT_EQ(user("\\anna", false, office), "anna");
+}
+
+TEST(LoginUser, ALeadingBackslashHidesALaterOne) {
+    EXPECT_EQ(user("\\HOME\\anna", false, office), "HOME\\anna");
+}
+
+TEST(LoginUser, ABackslashAloneIsNobody) {
+    EXPECT_EQ(user("\\", false, office), "");
+}
+
+TEST(LoginUser, KeepsADomainOfItsOwn) {
+    EXPECT_EQ(user("HOME\\anna", false, office), "HOME\\anna");
+}
+
+TEST(LoginUser, ABackslashInTheAddressIsNoDomain) {
+    EXPECT_EQ(user("anna:a\\b", false, office), "OFFICE\\anna");
+}
+
+TEST(LoginUser, AsCurrentUserGetsNoDomain) {
+    EXPECT_EQ(user("anna", true, office), "anna");
+    EXPECT_EQ(user("\\anna", true, office), "\\anna");
+}
+
+TEST(LoginUser, WithoutDomainsKeepsItsBackslashes) {
+    EXPECT_EQ(user("\\anna", false, noDomain), "\\anna");
+    EXPECT_EQ(user("HOME\\anna", false, noDomain), "HOME\\anna");
+}
+
+TEST(LoginUser, AnEmptyChoiceOfDomainIsADomain) {
+    EXPECT_EQ(user("anna", false, QString()), "\\anna");
+}
+
+} // namespace
