@@ -2,14 +2,35 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstdint>
+#include <string>
+#include <vector>
+
 #include "api/remote_object.h"
+#include "api/user_email.h"
 
 namespace hessiancln {
 
-/// Two-factor login: codes, and the addresses that they are sent to.
+/// Two-factor login: codes, and the addresses that they are sent to. `mode` says what a code is
+/// asked for: 1 to send the list of addresses, 2 for backup sets and deletions.
 class TFAManager : public RemoteObject {
 public:
     using RemoteObject::RemoteObject;
+
+    std::vector<user_email> getUserEmails() {
+        return call<std::vector<user_email>>("getUserEmails");
+    }
+    bool is2FAEnabled() { return call<bool>("is2FAEnabled"); }
+    /// Has a code sent by mail. The address that it went to.
+    std::string requestCode(std::int32_t mode) { return call<std::string>("requestCode", mode); }
+    /// Replaces the whole list.
+    void setUserEmails(const std::vector<user_email>& emails) {
+        call<void>("setUserEmails", emails);
+    }
+    /// Raises `invoke_exception` if the code is wrong.
+    void validateCode(const std::string& code, std::int32_t mode) {
+        call<void>("validateCode", code, mode);
+    }
 };
 
 } // namespace hessiancln
