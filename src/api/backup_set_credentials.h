@@ -2,17 +2,86 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstdint>
+#include <string>
 #include <string_view>
 
 #include "api/remote_object.h"
+#include "hessian/kinds.h"
 
 namespace hessiancln {
 
-/// How the agent gets access to the computer that a set belongs to.
+/// What runs on a computer that the agent reaches by SSH.
+enum class SSHAccessType : std::int32_t {
+    Perl = 0,
+    Python = 1,
+    DirectScriptExecution = 2,
+};
+constexpr auto declaredValues(SSHAccessType) {
+    return hessianser::values({{0, 2}});
+}
+
+/// How the agent gets access to the computer that a set belongs to. Which class the object has, and
+/// so what it asks for, is the agent's choice.
 class BackupSetCredentials : public RemoteObject {
 public:
     static constexpr std::string_view family = "BackupSetCredentials";
     using RemoteObject::RemoteObject;
+
+    /// Tries to get access. Raises `invoke_exception` with the reason of a refusal.
+    void check(const std::string& computer) { call<void>("check", computer); }
+    /// True if the agent's own account is used.
+    bool isUsingClientCredentials() { return call<bool>("isUsingClientCredentials"); }
+    void setUsingClientCredentials(bool value) { call<void>("setUsingClientCredentials", value); }
+};
+
+/// A user of a Windows computer.
+class Win32FS_Generic_BackupSetCredentials : public BackupSetCredentials {
+public:
+    static constexpr std::string_view className = "Win32FS_Generic_BackupSetCredentials";
+    using BackupSetCredentials::BackupSetCredentials;
+
+    std::string getUserName() { return call<std::string>("getUserName"); }
+    void setCredentials(const std::string& user, const std::string& password) {
+        call<void>("setCredentials", user, password);
+    }
+};
+
+/// A user of a Unix computer.
+class UnixFS_Generic_BackupSetCredentials : public BackupSetCredentials {
+public:
+    static constexpr std::string_view className = "UnixFS_Generic_BackupSetCredentials";
+    using BackupSetCredentials::BackupSetCredentials;
+
+    std::string getUserName() { return call<std::string>("getUserName"); }
+    void setCredentials(const std::string& user, const std::string& password) {
+        call<void>("setCredentials", user, password);
+    }
+};
+
+/// A user who logs in to a Unix computer by SSH, and the user to become there.
+class UnixFS_SSH_BackupSetCredentials : public UnixFS_Generic_BackupSetCredentials {
+public:
+    static constexpr std::string_view className = "UnixFS_SSH_BackupSetCredentials";
+    using UnixFS_Generic_BackupSetCredentials::UnixFS_Generic_BackupSetCredentials;
+
+    /// Logs in by an identity file.
+    void setCredentialsViaKeyFile(const std::string& user, const std::string& keyFile,
+                                  const std::string& passphrase) {
+        call<void>("setCredentialsViaKeyFile", user, keyFile, passphrase);
+    }
+    /// Empty if nobody is to become.
+    std::string getSudoUser() { return call<std::string>("getSudoUser"); }
+    /// Two empty texts switch it off.
+    void setSudoAs(const std::string& user, const std::string& password) {
+        call<void>("setSudoAs", user, password);
+    }
+    SSHAccessType getSSHAccessType() { return call<SSHAccessType>("getSSHAccessType"); }
+    /// Path of the interpreter or script; may be empty.
+    std::string getSSHInterpreterPath() { return call<std::string>("getSSHInterpreterPath"); }
+    void setSSHAccessType(SSHAccessType type, const std::string& path) {
+        call<void>("setSSHAccessType", type, path);
+    }
 };
 
 } // namespace hessiancln

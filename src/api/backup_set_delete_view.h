@@ -2,14 +2,25 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "api/remote_object.h"
+#include <cstdint>
+#include <vector>
+
+#include <boost/shared_ptr.hpp>
+
+#include "api/backup_set_data_view.h"
+#include "api/delete_activity_initiator.h"
 
 namespace hessiancln {
 
 /// What a set holds, filtered, to be deleted from.
-class BackupSetDeleteView : public RemoteObject {
+class BackupSetDeleteView : public BackupSetDataView {
 public:
-    using RemoteObject::RemoteObject;
+    using BackupSetDataView::BackupSetDataView;
+
+    boost::shared_ptr<DeleteActivityInitiator>
+    prepareDelete(const std::vector<std::int64_t>& items) {
+        return call<boost::shared_ptr<DeleteActivityInitiator>>("prepareDelete", items);
+    }
 };
 
 } // namespace hessiancln

@@ -2,17 +2,62 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstdint>
+#include <string>
 #include <string_view>
 
 #include "api/remote_object.h"
+#include "hessian/kinds.h"
 
 namespace hessiancln {
+
+enum class BackupSetItemType : std::int32_t {
+    Inclusion = 0,
+    Exclusion = 1,
+    RegularExpression = 2,
+};
+constexpr auto declaredValues(BackupSetItemType) {
+    return hessianser::values({{0, 2}});
+}
 
 /// One thing that a backup set includes or leaves out.
 class BackupSetItem : public RemoteObject {
 public:
     static constexpr std::string_view family = "BackupSetItem";
     using RemoteObject::RemoteObject;
+
+    /// The path that the item is about.
+    std::string getFolder() { return call<std::string>("getFolder"); }
+    BackupSetItemType getType() { return call<BackupSetItemType>("getType"); }
+};
+
+/// Includes a path with all below it.
+class BackupSetInclusionItem : public BackupSetItem {
+public:
+    static constexpr std::string_view className = "BackupSetInclusionItem";
+    using BackupSetItem::BackupSetItem;
+};
+
+/// Leaves out a path.
+class BackupSetFileItem : public BackupSetItem {
+public:
+    static constexpr std::string_view className = "BackupSetFileItem";
+    using BackupSetItem::BackupSetItem;
+};
+
+/// Selects or rejects files below its folder by a regular expression.
+class BackupSetRegexExclusion : public BackupSetItem {
+public:
+    static constexpr std::string_view className = "BackupSetRegexExclusion";
+    using BackupSetItem::BackupSetItem;
+
+    std::string getExpression() { return call<std::string>("getExpression"); }
+    /// True if the expression selects files, false if it rejects them.
+    bool getInclusion() { return call<bool>("getInclusion"); }
+    void setInclusion(bool value) { call<void>("setInclusion", value); }
+    void setNegate(bool value) { call<void>("setNegate", value); }
+    void setCaseSensitive(bool value) { call<void>("setCaseSensitive", value); }
+    void setMatchDirectories(bool value) { call<void>("setMatchDirectories", value); }
 };
 
 } // namespace hessiancln

@@ -2,14 +2,25 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "api/remote_object.h"
+#include <cstdint>
+#include <vector>
+
+#include <boost/shared_ptr.hpp>
+
+#include "api/backup_set_data_view.h"
+#include "api/restore_activity_initiator.h"
 
 namespace hessiancln {
 
 /// What a set holds, filtered, to be restored from.
-class BackupSetRestoreView : public RemoteObject {
+class BackupSetRestoreView : public BackupSetDataView {
 public:
-    using RemoteObject::RemoteObject;
+    using BackupSetDataView::BackupSetDataView;
+
+    boost::shared_ptr<RestoreActivityInitiator>
+    prepareRestore(const std::vector<std::int64_t>& items) {
+        return call<boost::shared_ptr<RestoreActivityInitiator>>("prepareRestore", items);
+    }
 };
 
 } // namespace hessiancln

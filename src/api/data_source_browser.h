@@ -2,17 +2,68 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstdint>
+#include <string>
 #include <string_view>
+#include <vector>
 
+#include <boost/shared_ptr.hpp>
+
+#include "api/backup_set_credentials.h"
+#include "api/backup_set_item.h"
+#include "api/browser_records.h"
 #include "api/remote_object.h"
 
 namespace hessiancln {
 
-/// Looks at what can be backed up on a computer.
+/// Looks at what can be backed up on a computer, and makes items of it.
 class DataSourceBrowser : public RemoteObject {
 public:
     static constexpr std::string_view family = "DataSourceBrowser";
     using RemoteObject::RemoteObject;
+
+    using Credentials = boost::shared_ptr<BackupSetCredentials>;
+    using Exclusion = boost::shared_ptr<BackupSetFileItem>;
+    using Inclusion = boost::shared_ptr<BackupSetInclusionItem>;
+    using RegexExclusion = boost::shared_ptr<BackupSetRegexExclusion>;
+
+    Exclusion createExclusionItem(const std::string& computer, const std::string& path) {
+        return call<Exclusion>("createExclusionItem", computer, path);
+    }
+    /// `generations`: how many of them are kept of each file.
+    Inclusion createInclusionItem(const std::string& computer, const std::string& path,
+                                  std::int32_t generations) {
+        return call<Inclusion>("createInclusionItem", computer, path, generations);
+    }
+    RegexExclusion createRegexExclusion(const std::string& computer, const std::string& path,
+                                        const std::string& expression) {
+        return call<RegexExclusion>("createRegexExclusion", computer, path, expression);
+    }
+    /// The agent's full name of the source that somebody typed.
+    std::string expandToFullPath(const std::string& name) {
+        return call<std::string>("expandToFullPath", name);
+    }
+    Credentials getCurrentCredentials() { return call<Credentials>("getCurrentCredentials"); }
+    /// To be repeated after each change of the object.
+    void setCurrentCredentials(const Credentials& value) {
+        call<void>("setCurrentCredentials", value);
+    }
+    std::vector<PreDefinedBrowseItem> getPredefinedItems(const std::string& computer) {
+        return call<std::vector<PreDefinedBrowseItem>>("getPredefinedItems", computer);
+    }
+    /// The children of a path; the top level if it is empty.
+    std::vector<browse_item_info> getSubItems(const std::string& computer,
+                                              const std::string& path) {
+        return call<std::vector<browse_item_info>>("getSubItems", computer, path);
+    }
+    /// Fresh credentials of the class that the computer needs.
+    Credentials neededCredentials(const std::string& computer) {
+        return call<Credentials>("neededCredentials", computer);
+    }
+    /// The children of a node of the network; the top level if `path` is empty.
+    std::vector<net_item_info> networkDiscovery(const std::string& path) {
+        return call<std::vector<net_item_info>>("networkDiscovery", path);
+    }
 };
 
 } // namespace hessiancln

@@ -2,7 +2,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <vector>
+
+#include <boost/shared_ptr.hpp>
+
 #include "api/remote_object.h"
+#include "api/schedule.h"
+#include "api/schedule_detail.h"
 
 namespace hessiancln {
 
@@ -10,6 +16,20 @@ namespace hessiancln {
 class ScheduleManager : public RemoteObject {
 public:
     using RemoteObject::RemoteObject;
+
+    using SchedulePointer = boost::shared_ptr<Schedule>;
+    using WeeklyDetail = boost::shared_ptr<WeeklyScheduleDetail>;
+    using MonthlyDetail = boost::shared_ptr<MonthlyScheduleDetail>;
+
+    std::vector<SchedulePointer> definedSchedules() {
+        return call<std::vector<SchedulePointer>>("definedSchedules");
+    }
+    SchedulePointer createSchedule() { return call<SchedulePointer>("createSchedule"); }
+    void removeSchedule(const SchedulePointer& schedule) { call<void>("removeSchedule", schedule); }
+    /// A detail that no schedule has yet.
+    WeeklyDetail createWeeklyDetail() { return call<WeeklyDetail>("createWeeklyDetail"); }
+    /// A detail that no schedule has yet.
+    MonthlyDetail createMonthlyDetail() { return call<MonthlyDetail>("createMonthlyDetail"); }
 };
 
 } // namespace hessiancln

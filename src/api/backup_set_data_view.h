@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "api/data_view_records.h"
+#include "api/remote_object.h"
+
+namespace hessiancln {
+
+/// What a set holds, for one choice of filter values. Ids mean nothing outside the view that they
+/// come from.
+class BackupSetDataView : public RemoteObject {
+public:
+    using RemoteObject::RemoteObject;
+
+    /// The children of an item; the top level for -1.
+    std::vector<SelectableItem> getSubItems(std::int64_t item) {
+        return call<std::vector<SelectableItem>>("getSubItems", item);
+    }
+    /// The stored versions of a file, in no order.
+    std::vector<file_generations> getItemGenerations(std::int64_t item) {
+        return call<std::vector<file_generations>>("getItemGenerations", item);
+    }
+};
+
+} // namespace hessiancln

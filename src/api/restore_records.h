@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "hessian/record_layout.h"
+
+namespace hessiancln {
+
+/// A share, or place at the top of a computer, that chosen items lie in.
+struct selected_shares {
+    std::string share_name;       ///< the agent's name of it, as `source_share` takes it
+    std::string truncatable_path; ///< what a restore may drop of the path, with backslashes
+
+    static constexpr std::string_view wireType = "com.norvel.api.selected_shares";
+    static constexpr auto fields() {
+        using hessianser::field;
+        using R = selected_shares;
+        return hessianser::fields(field("share_name", &R::share_name),
+                                  field("truncatable_path", &R::truncatable_path));
+    }
+};
+
+/// Where a share is restored to.
+struct share_mapping {
+    std::string source_share;
+    std::string destination_path;    ///< a directory of the destination computer
+    std::int32_t truncate_level = 0; ///< how many leading levels of the path are dropped
+
+    static constexpr std::string_view wireType = "com.norvel.api.share_mapping";
+    static constexpr auto fields() {
+        using hessianser::field;
+        using R = share_mapping;
+        return hessianser::fields(field("source_share", &R::source_share),
+                                  field("destination_path", &R::destination_path),
+                                  field("truncate_level", &R::truncate_level));
+    }
+};
+
+} // namespace hessiancln

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstdint>
+
+#include "hessian/kinds.h"
+
+namespace hessiancln {
+
+/// What stands in a tree of a computer's or a backup set's content, 0 to 13.
+enum class SelectableItemType : std::int32_t {
+    Drive = 0,
+    Folder = 1,
+    OtherFolder = 2,
+    File = 3,
+    Database = 7,
+};
+constexpr auto declaredValues(SelectableItemType) {
+    return hessianser::values({{0, 13}});
+}
+
+} // namespace hessiancln
