@@ -26,7 +26,9 @@ public:
     ICallDispatcher(const ICallDispatcher&) = delete;
     ICallDispatcher& operator=(const ICallDispatcher&) = delete;
 
-    /// Waits for the calls that workers have taken, then fails the queued ones.
+    /// Waits for the calls that workers have taken, then fails the queued ones. A class that
+    /// implements `sendRequest` calls `stopWorkers` in its own destructor, since no worker may find
+    /// it half destroyed.
     virtual ~ICallDispatcher();
 
     /// Sends `request` to the object at `url` and blocks until the whole reply is there. May be
@@ -34,8 +36,10 @@ public:
     /// transport and `trace_exception` when a trace is on and can't be written.
     virtual std::string sendRequest(const std::string& url, const std::string& request) = 0;
 
-    /// Queues the call and returns. One of the two handlers runs, once, on another thread. Blocks
-    /// while 16 calls are queued already.
+    /// Queues the call and returns. One of the two handlers runs, once, on another thread; only a
+    /// call to a dispatcher or connection that has ended already fails on the calling thread.
+    /// Blocks while 16 calls are queued. An exception out of `onSuccess` ends in `onFailure` of the
+    /// same call; `onFailure` must not raise.
     virtual void asyncSendRequest(const std::string& url, const std::string& request,
                                   Handler onSuccess, Handler onFailure);
 
@@ -45,6 +49,10 @@ public:
 protected:
     std::uint32_t traceLevel() const { return traceLevel_; }
     const std::string& traceFile() const { return traceFile_; }
+
+    /// Ends the workers, once each has finished the call that it has taken, and fails the calls
+    /// that are left. There is no way back. Does nothing the second time.
+    void stopWorkers();
 
 private:
     struct WorkerPool;

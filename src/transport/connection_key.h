@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace hessiancln {
+
+/// The endpoint that a raw stream leads to.
+struct ConnectionKey {
+    bool useTls = false;
+    std::string host;
+    std::uint32_t port = 0;
+
+    /// TLS first, then by port, then by host without regard to case.
+    bool operator<(const ConnectionKey& other) const;
+};
+
+} // namespace hessiancln

@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+#include <boost/asio/io_context.hpp>
+#include <boost/asio/ssl/context.hpp>
+#include <boost/asio/steady_timer.hpp>
+#include <boost/beast/http/message.hpp>
+#include <boost/beast/http/parser.hpp>
+#include <boost/beast/http/string_body.hpp>
+
+#include "transport/http_call_dispatcher.h"
+#include "transport/tcp_connection.h"
+#include "transport/tracer.h"
+
+namespace hessiancln {
+
+/// One request and its answer on a connection of their own, all on the calling thread. Only the
+/// dispatcher includes this header.
+class HttpExchange {
+public:
+    /// `trace` must outlive this object. Raises `boost::system::system_error`.
+    HttpExchange(bool useTls, const HttpLimits& limits, const Tracer& trace);
+
+    /// Raises `invoke_exception`.
+    void connect(const std::string& host, std::uint32_t port);
+
+    /// Sends `body`, gives back the body of the answer and closes the connection. Raises
+    /// `invoke_exception` unless the answer is whole and its status 200.
+    std::string post(const std::string& host, std::uint32_t port, const std::string& path,
+                     const std::string& body);
+
+private:
+    using Request = boost::beast::http::request<boost::beast::http::string_body>;
+    using ResponseParser = boost::beast::http::response_parser<boost::beast::http::string_body>;
+
+    template <class Stream>
+    void exchange(Stream& stream, const Request& request, ResponseParser& parser);
+    template <class Stream>
+    ErrorCode send(Stream& stream, const Request& request);
+    template <class Stream>
+    ErrorCode receive(Stream& stream, ResponseParser& parser);
+
+    /// Starts an asynchronous operation, which gets the completion to call, and waits for its end
+    /// or for the time-out.
+    ErrorCode await(const std::function<void(TcpConnection::Completion)>& start);
+
+    boost::asio::io_context io_{1};
+    boost::asio::ssl::context context_;
+    HttpLimits limits_;
+    const Tracer& trace_;
+    boost::asio::steady_timer timer_;
+    TcpConnection connection_;
+};
+
+} // namespace hessiancln

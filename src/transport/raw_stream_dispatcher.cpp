@@ -1,0 +1,170 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "transport/raw_stream_dispatcher.h"
+
+#include <condition_variable>
+#include <exception>
+#include <thread>
+#include <utility>
+
+#include "transport/parse_url.h"
+#include "transport/single_stream_connection.h"
+#include "transport/trace_exception.h"
+#include "transport/tracer.h"
+
+namespace hessiancln {
+
+namespace {
+
+ConnectionKey endpointOf(const std::string& url) {
+    ConnectionKey key;
+    std::string path;
+    parseUrl(url, key.useTls, key.host, path, key.port);
+    return key;
+}
+
+} // namespace
+
+/// Ends connections on threads that nobody joins, and knows when the last of them is done.
+class CRawStreamDispacher::Teardowns {
+public:
+    static void begin(const std::shared_ptr<Teardowns>& teardowns, ConnectionPtr connection) {
+        {
+            const std::lock_guard lock(teardowns->mutex_);
+            ++teardowns->running_;
+        }
+        try {
+            std::thread([teardowns, connection]() mutable {
+                end(connection);
+                teardowns->done();
+            }).detach();
+        } catch (const std::system_error&) {
+            end(connection);
+            teardowns->done();
+        }
+    }
+
+    void waitForAll() {
+        std::unique_lock lock(mutex_);
+        none_.wait(lock, [this] { return running_ == 0; });
+    }
+
+private:
+    static void end(ConnectionPtr& connection) {
+        try {
+            connection->WaitForStop();
+        } catch (const trace_exception&) {
+            // The connection has ended nevertheless, and its caller has gone.
+        }
+        connection.reset();
+    }
+
+    void done() {
+        const std::lock_guard lock(mutex_);
+        --running_;
+        none_.notify_all();
+    }
+
+    std::mutex mutex_;
+    std::condition_variable none_;
+    int running_ = 0;
+};
+
+CRawStreamDispacher::CRawStreamDispacher(std::uint32_t traceLevel, std::string traceFile,
+                                         bool reuseConnections)
+    : ICallDispatcher(traceLevel, std::move(traceFile))
+    , reuseConnections_(reuseConnections)
+    , teardowns_(std::make_shared<Teardowns>()) {}
+
+CRawStreamDispacher::~CRawStreamDispacher() {
+    try {
+        CRawStreamDispacher::stopConnections();
+    } catch (const trace_exception&) {
+        // The event log has it, and every connection has ended.
+    }
+    teardowns_->waitForAll();
+    stopWorkers();
+}
+
+std::string CRawStreamDispacher::sendRequest(const std::string& url, const std::string& request) {
+    const Tracer trace(traceLevel(), traceFile());
+    trace.step("CRawStreamDispacher::sendRequest ENTER");
+    const ConnectionKey key = endpointOf(url);
+    std::string response;
+    if (reuseConnections_) {
+        connectionFor(key)->SendRequest(url, request, response);
+    } else {
+        response = sendOnFreshConnection(key, url, request);
+    }
+    trace.step("CRawStreamDispacher::sendRequest LEAVE");
+    return response;
+}
+
+CRawStreamDispacher::ConnectionPtr CRawStreamDispacher::connectionFor(const ConnectionKey& key) {
+    const std::lock_guard lock(connectionMutex_);
+    const auto known = connections_.find(key);
+    if (known != connections_.end() && known->second->isOpen()) {
+        return known->second;
+    }
+    auto fresh = CSingleStreamDispatcherConnection::start(key, traceLevel(), traceFile());
+    connections_[key] = fresh;
+    return fresh;
+}
+
+std::string CRawStreamDispacher::sendOnFreshConnection(const ConnectionKey& key,
+                                                       const std::string& url,
+                                                       const std::string& request) {
+    const ConnectionPtr connection =
+        CSingleStreamDispatcherConnection::start(key, traceLevel(), traceFile());
+    std::string response;
+    try {
+        connection->SendRequest(url, request, response);
+    } catch (const trace_exception&) {
+        // Unlike after any other failure, the stream is up and would stay.
+        Teardowns::begin(teardowns_, connection);
+        throw;
+    }
+    Teardowns::begin(teardowns_, connection);
+    return response;
+}
+
+void CRawStreamDispacher::asyncSendRequest(const std::string& url, const std::string& request,
+                                           Handler onSuccess, Handler onFailure) {
+    const Tracer trace(traceLevel(), traceFile());
+    trace.step("CRawStreamDispacher::asyncSendRequest ENTER");
+    const ConnectionKey key = endpointOf(url);
+    ConnectionPtr connection;
+    {
+        const std::lock_guard lock(connectionMutex_);
+        const auto known = connections_.find(key);
+        connection = known != connections_.end()
+                         ? known->second
+                         : CSingleStreamDispatcherConnection::start(key, 0, "");
+        connections_[key] = connection;
+    }
+    connection->asyncSendRequest(url, request, std::move(onSuccess), std::move(onFailure));
+    trace.step("CRawStreamDispacher::asyncSendRequest LEAVE");
+}
+
+void CRawStreamDispacher::stopConnections() {
+    // The mutex isn't held while a connection's thread ends, since one of its handlers may be on
+    // its way in here with the next call.
+    std::map<ConnectionKey, ConnectionPtr> ending;
+    {
+        const std::lock_guard lock(connectionMutex_);
+        ending.swap(connections_);
+    }
+    std::exception_ptr traceFailure;
+    for (const auto& [key, connection] : ending) {
+        try {
+            connection->WaitForStop();
+        } catch (const trace_exception&) {
+            traceFailure = std::current_exception();
+        }
+    }
+    if (traceFailure) {
+        std::rethrow_exception(traceFailure);
+    }
+}
+
+} // namespace hessiancln

@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <string>
+
+#include <boost/shared_ptr.hpp>
+
+#include "transport/connection_key.h"
+#include "transport/i_call_dispatcher.h"
+
+namespace hessiancln {
+
+class CSingleStreamDispatcherConnection;
+
+/// Carries a session: calls go as frames over one long-lived stream for each endpoint, and replies
+/// may overtake each other.
+///
+/// A connection that came up stays, even when its stream has died: every later call raises the
+/// text of its death at once, so that taking leave of a dead agent never waits. One that didn't
+/// come up is replaced by the next call.
+class CRawStreamDispacher final : public ICallDispatcher {
+public:
+    /// Without `reuseConnections` each `sendRequest` has a connection of its own.
+    CRawStreamDispacher(std::uint32_t traceLevel, std::string traceFile, bool reuseConnections);
+    ~CRawStreamDispacher() override;
+
+    std::string sendRequest(const std::string& url, const std::string& request) override;
+
+    /// The handlers run on the connection's own thread and must not end that connection. Blocks
+    /// while 16 frames are unwritten. Always reuses connections.
+    void asyncSendRequest(const std::string& url, const std::string& request, Handler onSuccess,
+                          Handler onFailure) override;
+
+    /// Ends every connection; calls under way raise. The next call connects anew.
+    void stopConnections() override;
+
+private:
+    using ConnectionPtr = boost::shared_ptr<CSingleStreamDispatcherConnection>;
+    class Teardowns;
+
+    ConnectionPtr connectionFor(const ConnectionKey& key);
+    std::string sendOnFreshConnection(const ConnectionKey& key, const std::string& url,
+                                      const std::string& request);
+
+    bool reuseConnections_;
+    std::mutex connectionMutex_;
+    std::map<ConnectionKey, ConnectionPtr> connections_;
+    std::shared_ptr<Teardowns> teardowns_;
+};
+
+} // namespace hessiancln

@@ -1,0 +1,300 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "transport/single_stream_connection.h"
+
+#include <utility>
+
+#include <boost/asio/executor_work_guard.hpp>
+#include <boost/asio/post.hpp>
+#include <boost/make_shared.hpp>
+
+namespace hessiancln {
+
+namespace asio = boost::asio;
+
+namespace {
+
+constexpr std::size_t unwrittenLimit = 16;
+
+} // namespace
+
+/// Where the caller of a blocking call sleeps. The stream holds a share in it, since it may find
+/// the reply when the caller has left with an exception.
+struct CSingleStreamDispatcherConnection::PendingReply {
+    void succeed(std::string& reply) {
+        {
+            const std::lock_guard lock(mutex);
+            response.swap(reply);
+            done = true;
+        }
+        condition.notify_one();
+    }
+
+    void fail(const std::string& text) {
+        {
+            const std::lock_guard lock(mutex);
+            failure = text;
+        }
+        condition.notify_one();
+    }
+
+    void wait() {
+        std::unique_lock lock(mutex);
+        condition.wait(lock, [this] { return done || failure; });
+    }
+
+    std::mutex mutex;
+    std::condition_variable condition;
+    bool done = false;
+    std::optional<std::string> failure;
+    std::string response;
+};
+
+boost::shared_ptr<CSingleStreamDispatcherConnection>
+CSingleStreamDispatcherConnection::start(const ConnectionKey& key, std::uint32_t traceLevel,
+                                         const std::string& traceFile,
+                                         std::uint32_t lastRequestId) {
+    auto connection = boost::make_shared<CSingleStreamDispatcherConnection>(
+        key, traceLevel, traceFile, lastRequestId);
+    try {
+        connection->thread_ = std::thread([connection] { connection->run(); });
+    } catch (const std::system_error& failure) {
+        throw invoke_exception() << "Failed to start a connection thread: " << failure.what();
+    }
+    return connection;
+}
+
+CSingleStreamDispatcherConnection::CSingleStreamDispatcherConnection(const ConnectionKey& key,
+                                                                     std::uint32_t traceLevel,
+                                                                     const std::string& traceFile,
+                                                                     std::uint32_t lastRequestId)
+    : key_(key)
+    , trace_(traceLevel, traceFile)
+    , nextRequestId_(lastRequestId) {}
+
+CSingleStreamDispatcherConnection::~CSingleStreamDispatcherConnection() {
+    // A connection that nobody stopped ends on its own thread, with the last reference.
+    if (thread_.joinable()) {
+        thread_.detach();
+    }
+}
+
+void CSingleStreamDispatcherConnection::SendRequest(const std::string& url,
+                                                    const std::string& request,
+                                                    std::string& response) {
+    trace_.step("CSingleStreamDispatcherConnection::SendRequest ENTER");
+
+    const auto reply = std::make_shared<PendingReply>();
+    auto call = std::make_unique<Call>();
+    call->url = url;
+    call->request = request;
+    call->succeed = [reply](std::string& body) { reply->succeed(body); };
+    call->fail = [reply](const std::string& text) { reply->fail(text); };
+    if (submit(call)) {
+        reply->wait();
+    } else {
+        reply->failure = errorText();
+    }
+
+    if (!reply->done) {
+        trace_.step("CSingleStreamDispatcherConnection::SendRequest EXCEPTION");
+        throw invoke_exception(*reply->failure);
+    }
+    response.swap(reply->response);
+    trace_.step("CSingleStreamDispatcherConnection::SendRequest LEAVE");
+}
+
+void CSingleStreamDispatcherConnection::asyncSendRequest(const std::string& url,
+                                                         const std::string& request,
+                                                         Handler onSuccess, Handler onFailure) {
+    trace_.step("CSingleStreamDispatcherConnection::asyncSendRequest ENTER");
+    // A handler that calls on is the writer itself, and would wait for ever.
+    if (std::this_thread::get_id() != streamThread_) {
+        std::unique_lock lock(writeMutex_);
+        writeCondition_.wait(lock, [this] { return terminated_ || writeCount_ < unwrittenLimit; });
+    }
+
+    auto call = std::make_unique<Call>();
+    call->url = url;
+    call->request = request;
+    call->succeed = [onSuccess = std::move(onSuccess)](std::string& body) { onSuccess(body); };
+    call->fail = std::move(onFailure);
+    call->asynchronous = true;
+    if (!submit(call)) {
+        // The thread that would tell has ended.
+        call->fail(errorText());
+    }
+    trace_.step("CSingleStreamDispatcherConnection::asyncSendRequest LEAVE");
+}
+
+void CSingleStreamDispatcherConnection::WaitForStop() {
+    // A broken trace file fails the caller, but not before the thread has ended.
+    std::exception_ptr traceFailure;
+    try {
+        trace_.step("CSingleStreamDispatcherConnection::WaitForStop ENTER");
+    } catch (const std::exception&) {
+        traceFailure = std::current_exception();
+    }
+    io_.stop();
+    if (thread_.joinable()) {
+        thread_.join();
+    }
+    open_ = false;
+    connection_.reset();
+    if (traceFailure) {
+        std::rethrow_exception(traceFailure);
+    }
+    trace_.step("CSingleStreamDispatcherConnection::WaitForStop LEAVE");
+}
+
+/// Hands the call to the connection's thread; false, with the call untouched, if the stream is
+/// dead. Calls that come before the stream is up wait for it.
+bool CSingleStreamDispatcherConnection::submit(CallPtr& call) {
+    bool wake = false;
+    {
+        const std::lock_guard lock(stateMutex_);
+        if (terminated_) {
+            return false;
+        }
+        submitted_.push_back(std::move(call));
+        wake = streaming_ && submitted_.size() == 1;
+    }
+    if (wake) {
+        asio::post(io_, [this] { guarded([this] { enqueueSubmitted(); }); });
+    }
+    return true;
+}
+
+std::string CSingleStreamDispatcherConnection::errorText() {
+    const std::lock_guard lock(stateMutex_);
+    return errorText_.what();
+}
+
+void CSingleStreamDispatcherConnection::run() {
+    streamThread_ = std::this_thread::get_id();
+    guarded([this] { IOProcessingThread(); });
+}
+
+void CSingleStreamDispatcherConnection::IOProcessingThread() {
+    trace_.step("CSingleStreamDispatcherConnection::IOProcessingThread ENTER");
+    const auto stayUntilStopped = asio::make_work_guard(io_);
+    if (connect()) {
+        startStreaming();
+        io_.run();
+    } else if (terminated_) {
+        return;
+    }
+    terminate("Stream connection terminated");
+    trace_.step("CSingleStreamDispatcherConnection::IOProcessingThread LEAVE");
+}
+
+/// False if the connection didn't come up or was stopped before it did.
+bool CSingleStreamDispatcherConnection::connect() {
+    if (!createConnection()) {
+        return false;
+    }
+    trace_.detail("connecting: ", key_.host, " port: ", key_.port);
+
+    ErrorCode error;
+    std::optional<ErrorCode> result;
+    const auto endpoints = connection_->resolve(key_.host, key_.port, error);
+    if (error) {
+        result = error;
+    } else {
+        result = await([&](auto done) { connection_->asyncConnect(endpoints, done); });
+    }
+    if (result && *result) {
+        trace_.detail("connect: ", result->value(), " msg: ", result->message());
+        terminate(connectFailure(key_.host, key_.port, *result));
+        return false;
+    }
+
+    if (result && key_.useTls) {
+        result = await([&](auto done) { connection_->asyncHandshake(done); });
+        if (result && *result) {
+            trace_.detail("SSL Handshake: ", result->value(), " msg: ", result->message());
+            terminate(handshakeFailure(*result));
+            return false;
+        }
+    }
+    return result.has_value();
+}
+
+bool CSingleStreamDispatcherConnection::createConnection() {
+    ErrorCode error = make_error_code(boost::system::errc::not_enough_memory);
+    try {
+        asio::ssl::context context = makeTlsContext();
+        trace_.detail("boost::asio::ssl::context created");
+        connection_ = std::make_unique<TcpConnection>(
+            io_, context, key_.useTls, [this] { terminate("Stream connection closed"); });
+        return true;
+    } catch (const boost::system::system_error& failure) {
+        error = failure.code();
+        trace_.detail("pion::tcp::connection::create EXCEPTION: ", failure.what());
+    } catch (const std::bad_alloc& failure) {
+        trace_.detail("pion::tcp::connection::create EXCEPTION: ", failure.what());
+    }
+    terminate(connectFailure(key_.host, key_.port, error));
+    return false;
+}
+
+/// Runs one operation to its end, as if it blocked, but gives nothing when the connection is
+/// stopped meanwhile.
+std::optional<ErrorCode> CSingleStreamDispatcherConnection::await(
+    const std::function<void(TcpConnection::Completion)>& start) {
+    std::optional<ErrorCode> result;
+    start([&result](const ErrorCode& error) { result = error; });
+    while (!result && io_.run_one() > 0) {
+    }
+    return result;
+}
+
+void CSingleStreamDispatcherConnection::startStreaming() {
+    trace_.detail("issue async_read");
+    readResponseHeader();
+    {
+        const std::lock_guard lock(stateMutex_);
+        streaming_ = true;
+    }
+    asio::post(io_, [this] { guarded([this] { enqueueSubmitted(); }); });
+}
+
+void CSingleStreamDispatcherConnection::terminate(const std::string& text) {
+    std::list<CallPtr> left;
+    {
+        const std::lock_guard lock(stateMutex_);
+        if (terminated_) {
+            return;
+        }
+        errorText_ << text;
+        terminated_ = true;
+        for (auto& [id, call] : waiting_) {
+            left.push_back(std::move(call));
+        }
+        left.splice(left.end(), submitted_);
+        const std::lock_guard writeLock(writeMutex_);
+        writeCondition_.notify_all();
+    }
+    waiting_.clear();
+
+    // A stream that was up keeps its socket, which marks it as one not to be replaced.
+    if (streaming_) {
+        connection_->shutDown();
+    } else {
+        open_ = false;
+        if (connection_) {
+            connection_->close();
+        }
+    }
+    io_.stop();
+
+    for (const CallPtr& call : left) {
+        try {
+            call->fail(text);
+        } catch (...) {
+            // The others must hear of it too.
+        }
+    }
+}
+
+} // namespace hessiancln

@@ -1,0 +1,148 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <atomic>
+#include <condition_variable>
+#include <cstdint>
+#include <functional>
+#include <list>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <thread>
+
+#include <boost/asio/io_context.hpp>
+#include <boost/enable_shared_from_this.hpp>
+#include <boost/shared_ptr.hpp>
+
+#include "transport/connection_key.h"
+#include "transport/frame.h"
+#include "transport/i_call_dispatcher.h"
+#include "transport/invoke_exception.h"
+#include "transport/tcp_connection.h"
+#include "transport/tracer.h"
+
+namespace hessiancln {
+
+/// One stream of frames to an agent, with the thread that does its reading and writing.
+///
+/// It connects on that thread, carries calls until the stream dies, and stays dead: from then on
+/// every call raises the text of the death at once. Each call is, at any time, in one of two
+/// places: `submitted_`, until the thread takes it, and then `waiting_`. Whoever ends the stream
+/// fails what stands in both, so that no caller is left behind.
+class CSingleStreamDispatcherConnection
+    : public boost::enable_shared_from_this<CSingleStreamDispatcherConnection> {
+public:
+    using Handler = ICallDispatcher::Handler;
+
+    /// A new connection whose thread runs already. The thread holds a reference, so a connection
+    /// that nobody stops lives until its stream dies. Raises `invoke_exception` if the system
+    /// gives no thread.
+    static boost::shared_ptr<CSingleStreamDispatcherConnection>
+    start(const ConnectionKey& key, std::uint32_t traceLevel, const std::string& traceFile,
+          std::uint32_t lastRequestId = 0);
+
+    CSingleStreamDispatcherConnection(const ConnectionKey& key, std::uint32_t traceLevel,
+                                      const std::string& traceFile, std::uint32_t lastRequestId);
+    CSingleStreamDispatcherConnection(const CSingleStreamDispatcherConnection&) = delete;
+    CSingleStreamDispatcherConnection& operator=(const CSingleStreamDispatcherConnection&) = delete;
+    virtual ~CSingleStreamDispatcherConnection();
+
+    /// Blocks, without a limit, until the reply stands in `response`. Raises `invoke_exception`
+    /// when the stream dies before that.
+    void SendRequest(const std::string& url, const std::string& request, std::string& response);
+
+    /// Queues the call; blocks while 16 frames are unwritten. The handlers run on this
+    /// connection's thread, and on the caller's if the stream is dead already.
+    void asyncSendRequest(const std::string& url, const std::string& request, Handler onSuccess,
+                          Handler onFailure);
+
+    /// Ends the stream in whatever state it is, and its thread. Not for handlers.
+    void WaitForStop();
+
+    /// False once the socket is closed: the connection never came up, or has ended.
+    bool isOpen() const { return open_; }
+
+private:
+    struct Call {
+        std::string url;
+        std::string request;
+        std::function<void(std::string&)> succeed; ///< may take the reply out of its argument
+        Handler fail;
+        bool asynchronous = false;
+    };
+    using CallPtr = std::unique_ptr<Call>;
+    struct PendingReply;
+
+    // Any thread
+    bool submit(CallPtr& call);
+    std::string errorText();
+
+    // The connection's own thread
+    void run();
+    void IOProcessingThread();
+    bool connect();
+    bool createConnection();
+    std::optional<ErrorCode> await(const std::function<void(TcpConnection::Completion)>& start);
+    void startStreaming();
+    void enqueueSubmitted();
+    CallPtr takeSubmitted();
+    void enqueue(CallPtr& call);
+    void enqueueAsyncSendRequest(CallPtr& call);
+    std::string prepareRequest(const Call& call);
+    void startWriting(bool writeCompleted);
+    void readResponseHeader();
+    void readResponseHeaderComplete(const ErrorCode& error);
+    void readData();
+    void readDataComplete(const ErrorCode& error, std::size_t pieceStart);
+    void takeReply();
+    void terminate(const std::string& text);
+    template <class Step>
+    void guarded(Step step);
+
+    const ConnectionKey key_;
+    const Tracer trace_;
+
+    boost::asio::io_context io_{1};
+    std::unique_ptr<TcpConnection> connection_;
+    std::thread thread_;
+    std::atomic<std::thread::id> streamThread_;
+    std::atomic<bool> open_ = true;
+
+    std::mutex stateMutex_; ///< guards the next four
+    std::atomic<bool> terminated_ = false;
+    invoke_exception errorText_;
+    bool streaming_ = false;
+    std::list<CallPtr> submitted_;
+
+    std::mutex writeMutex_; ///< guards the next two; may be taken with the state mutex held
+    std::condition_variable writeCondition_;
+    std::size_t writeCount_ = 0;
+    std::list<std::string> writeQueue_;
+
+    // Only the connection's own thread touches what follows.
+    std::uint32_t nextRequestId_;
+    std::map<std::uint32_t, CallPtr> waiting_;
+    ResponseHeader header_{};
+    std::uint64_t responseLength_ = 0;
+    std::uint32_t checksum_ = 0;
+    std::string data_; ///< the reply as far as it has come, with its checksum
+};
+
+/// Runs a step of the connection's thread. What it raises ends the stream, and not the program.
+template <class Step>
+void CSingleStreamDispatcherConnection::guarded(Step step) {
+    try {
+        step();
+    } catch (const std::exception& failure) {
+        terminate(failure.what());
+    } catch (...) {
+        open_ = false;
+        connection_->finish();
+    }
+}
+
+} // namespace hessiancln

@@ -1,0 +1,205 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+// The half of the connection that writes request frames and reads response frames.
+#include "transport/single_stream_connection.h"
+
+#include <algorithm>
+#include <limits>
+#include <new>
+#include <stdexcept>
+#include <utility>
+
+#include "transport/checksum.h"
+
+namespace hessiancln {
+
+namespace asio = boost::asio;
+
+namespace {
+
+// The codec counts the bytes of a message in 32 bits. Beyond that a length is refused before any
+// memory is asked for: some systems would grant it, and fail the process when it is touched.
+constexpr std::uint64_t largestMessage = std::numeric_limits<std::uint32_t>::max();
+
+// A message is read in pieces small enough to stay in the processor's cache, from the clearing of
+// the memory to the checksum over it. Memory is touched only as far as bytes have arrived.
+constexpr std::size_t pieceSize = 256 * 1024;
+
+/// Rounded up, since messages of similar sizes then share blocks; the largest number for a size
+/// that can't be told.
+std::uint64_t blockSize(std::uint64_t messageLength) {
+    constexpr std::uint64_t step = 1024;
+    constexpr std::uint64_t largest = std::numeric_limits<std::uint64_t>::max();
+    if (messageLength > largest - checksumSize - step) {
+        return largest;
+    }
+    return (messageLength + checksumSize + step - 1) / step * step;
+}
+
+void reserve(std::string& data, std::uint64_t messageLength) {
+    const std::uint64_t size = blockSize(messageLength);
+    try {
+        if (messageLength > largestMessage) {
+            throw std::length_error("more than a message can be");
+        }
+        data.reserve(size);
+    } catch (const std::exception&) {
+        throw invoke_exception() << "Failed to allocate " << size << " bytes for data receiving";
+    }
+}
+
+} // namespace
+
+void CSingleStreamDispatcherConnection::enqueueSubmitted() {
+    while (CallPtr call = takeSubmitted()) {
+        try {
+            if (call->asynchronous) {
+                enqueueAsyncSendRequest(call);
+            } else {
+                enqueue(call);
+            }
+        } catch (const std::exception& failure) {
+            terminate(failure.what());
+            if (call) {
+                call->fail(failure.what());
+            }
+        }
+    }
+}
+
+CSingleStreamDispatcherConnection::CallPtr CSingleStreamDispatcherConnection::takeSubmitted() {
+    const std::lock_guard lock(stateMutex_);
+    if (submitted_.empty()) {
+        return nullptr;
+    }
+    CallPtr call = std::move(submitted_.front());
+    submitted_.pop_front();
+    return call;
+}
+
+void CSingleStreamDispatcherConnection::enqueueAsyncSendRequest(CallPtr& call) {
+    trace_.step("CSingleStreamDispatcherConnection::enqueueAsyncSendRequest ENTER");
+    enqueue(call);
+    trace_.step("CSingleStreamDispatcherConnection::enqueueAsyncSendRequest LEAVE");
+}
+
+void CSingleStreamDispatcherConnection::enqueue(CallPtr& call) {
+    std::string frame = prepareRequest(*call);
+    waiting_[nextRequestId_] = std::move(call);
+    bool idle = false;
+    {
+        const std::lock_guard lock(writeMutex_);
+        writeQueue_.push_back(std::move(frame));
+        idle = ++writeCount_ == 1;
+    }
+    if (idle) {
+        startWriting(false);
+    }
+}
+
+std::string CSingleStreamDispatcherConnection::prepareRequest(const Call& call) {
+    trace_.step("CSingleStreamDispatcherConnection::prepareRequest ENTER");
+    do {
+        ++nextRequestId_;
+    } while (waiting_.contains(nextRequestId_)); // after 2^32 calls an id may be still in use
+    std::string frame = requestFrame(nextRequestId_, call.url, call.request);
+    trace_.step("CSingleStreamDispatcherConnection::prepareRequest LEAVE");
+    return frame;
+}
+
+void CSingleStreamDispatcherConnection::startWriting(bool writeCompleted) {
+    trace_.step("CSingleStreamDispatcherConnection::startWriting ENTER");
+    const std::string* frame = nullptr;
+    {
+        const std::lock_guard lock(writeMutex_);
+        if (writeCompleted) {
+            writeQueue_.pop_front();
+            --writeCount_;
+            writeCondition_.notify_all();
+        }
+        if (writeCount_ != 0) {
+            frame = &writeQueue_.front();
+        }
+    }
+    if (frame) {
+        connection_->asyncWrite(asio::buffer(*frame), [this](const ErrorCode& error, std::size_t) {
+            guarded([&] {
+                if (error) {
+                    connection_->shutDown(); // the read that is under way ends the stream
+                }
+                startWriting(true);
+            });
+        });
+    }
+    trace_.step("CSingleStreamDispatcherConnection::startWriting LEAVE");
+}
+
+void CSingleStreamDispatcherConnection::readResponseHeader() {
+    connection_->asyncRead(asio::buffer(header_), [this](const ErrorCode& error, std::size_t) {
+        guarded([&] { readResponseHeaderComplete(error); });
+    });
+}
+
+void CSingleStreamDispatcherConnection::readResponseHeaderComplete(const ErrorCode& error) {
+    trace_.step("CSingleStreamDispatcherConnection::readResponseHeaderComplete ENTER");
+    if (error) {
+        throw invoke_exception() << "Receive failed (header): " << error.message() << " ("
+                                 << error.value() << ")";
+    }
+    if (!hasResponseMagic(header_)) {
+        throw invoke_exception() << "Remote side did not send a response back. (" << dump(header_)
+                                 << ")";
+    }
+    responseLength_ = responseLength(header_);
+    checksum_ = checksumOf(header_);
+    data_.clear();
+    reserve(data_, responseLength_);
+    readData();
+    trace_.step("CSingleStreamDispatcherConnection::readResponseHeaderComplete LEAVE");
+}
+
+void CSingleStreamDispatcherConnection::readData() {
+    const std::size_t held = data_.size();
+    const std::size_t piece = std::min(responseLength_ + checksumSize - held, pieceSize);
+    data_.resize(held + piece);
+    connection_->asyncRead(asio::buffer(data_.data() + held, piece),
+                           [this, held](const ErrorCode& error, std::size_t) {
+                               guarded([&] { readDataComplete(error, held); });
+                           });
+}
+
+void CSingleStreamDispatcherConnection::readDataComplete(const ErrorCode& error,
+                                                         std::size_t pieceStart) {
+    if (error) {
+        throw invoke_exception() << "Receive failed (data): " << error.message() << " ("
+                                 << error.value() << ")";
+    }
+    const std::size_t end = std::min<std::uint64_t>(data_.size(), responseLength_);
+    if (pieceStart < end) {
+        checksum_ = continueChecksum(checksum_, data_.data() + pieceStart, end - pieceStart);
+    }
+    if (data_.size() < responseLength_ + checksumSize) {
+        readData();
+    } else {
+        takeReply();
+    }
+}
+
+void CSingleStreamDispatcherConnection::takeReply() {
+    const std::uint32_t stored = storedChecksum(data_.data() + responseLength_);
+    if (checksum_ != stored) {
+        throw invoke_exception() << "Response checksums mismatch: "
+                                 << static_cast<std::int32_t>(checksum_)
+                                 << " != " << static_cast<std::int32_t>(stored);
+    }
+    data_.resize(responseLength_);
+    if (const auto found = waiting_.find(responseId(header_)); found != waiting_.end()) {
+        // Forgotten only afterwards: a handler that raises ends the stream, and its own call is
+        // then told of the failure like all others.
+        found->second->succeed(data_);
+        waiting_.erase(found);
+    }
+    readResponseHeader();
+}
+
+} // namespace hessiancln

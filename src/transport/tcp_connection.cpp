@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "transport/tcp_connection.h"
+
+#include <limits>
+
+#include <boost/asio/connect.hpp>
+
+namespace hessiancln {
+
+namespace asio = boost::asio;
+
+namespace {
+
+/// As in "111 (Connection refused)".
+std::string describe(const ErrorCode& error) {
+    return std::to_string(error.value()) + " (" + error.message() + ")";
+}
+
+} // namespace
+
+asio::ssl::context makeTlsContext() {
+    asio::ssl::context context(asio::ssl::context::sslv23);
+    context.set_options(asio::ssl::context::no_compression);
+    return context;
+}
+
+TcpConnection::TcpConnection(asio::io_context& io, asio::ssl::context& context, bool useTls,
+                             FinishedHandler finished)
+    : stream_(io, context)
+    , useTls_(useTls)
+    , finished_(std::move(finished)) {}
+
+TcpConnection::Endpoints TcpConnection::resolve(const std::string& host, std::uint32_t port,
+                                                ErrorCode& error) {
+    // The system's resolver would fold a larger number into some other port.
+    if (port > std::numeric_limits<std::uint16_t>::max()) {
+        error = asio::error::service_not_found;
+        return {};
+    }
+    asio::ip::tcp::resolver resolver(stream_.get_executor());
+    return resolver.resolve(host, std::to_string(port), asio::ip::resolver_base::numeric_service,
+                            error);
+}
+
+void TcpConnection::asyncConnect(const Endpoints& endpoints, Completion completion) {
+    asio::async_connect(socket(), endpoints,
+                        [this, completion = std::move(completion)](const ErrorCode& error,
+                                                                   const asio::ip::tcp::endpoint&) {
+                            if (!error) {
+                                // A call is one small write; it must not wait for the
+                                // acknowledgement of the one before.
+                                ErrorCode ignored;
+                                socket().set_option(asio::ip::tcp::no_delay(true), ignored);
+                            }
+                            completion(error);
+                        });
+}
+
+void TcpConnection::asyncHandshake(Completion completion) {
+    stream_.async_handshake(TlsStream::client, std::move(completion));
+}
+
+void TcpConnection::shutDown() {
+    ErrorCode ignored;
+    socket().shutdown(Socket::shutdown_both, ignored);
+}
+
+void TcpConnection::close() {
+    ErrorCode ignored;
+    socket().shutdown(Socket::shutdown_both, ignored);
+    socket().close(ignored);
+}
+
+void TcpConnection::finish() {
+    close();
+    if (finished_) {
+        finished_();
+    }
+}
+
+std::string connectFailure(const std::string& host, std::uint32_t port, const ErrorCode& error) {
+    return "Failed to connect to '" + host + "' on port " + std::to_string(port) + ". O/S error " +
+           describe(error);
+}
+
+std::string handshakeFailure(const ErrorCode& error) {
+    return "SSL Handshake failed. Error " + describe(error);
+}
+
+} // namespace hessiancln

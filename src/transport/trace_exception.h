@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "base/streamed_exception.h"
+
+namespace hessiancln {
+
+/// A trace entry that couldn't be written. It passes through the operation that traced.
+class trace_exception final : public base::StreamedException<trace_exception> {
+    using StreamedException::StreamedException;
+};
+
+} // namespace hessiancln
