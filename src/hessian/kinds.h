@@ -27,9 +27,12 @@ struct EnumRange {
 ///     enum class EventLogType : std::int32_t { Info, Warning, Error };
 ///     constexpr auto declaredValues(EventLogType) { return hessianser::values({{0, 2}}); }
 ///
-/// Ranges ascend. A number outside them reads as the reserved value.
+/// A number outside the ranges reads as the reserved value. Ranges that don't ascend don't compile.
 template <std::size_t N>
-constexpr std::array<EnumRange, N> values(const EnumRange (&ranges)[N]) {
+consteval std::array<EnumRange, N> values(const EnumRange (&ranges)[N]) {
+    for (std::size_t i = 0; i < N; ++i)
+        if (ranges[i].first > ranges[i].last || (i > 0 && ranges[i].first <= ranges[i - 1].last))
+            throw "the ranges of an enumeration have to ascend";
     return std::to_array(ranges);
 }
 
@@ -99,8 +102,8 @@ concept RemoteReference = requires {
 namespace detail {
 template <class T>
 struct ListElement;
-template <class E>
-struct ListElement<std::vector<E>> {
+template <class E, class A>
+struct ListElement<std::vector<E, A>> {
     using type = E;
 };
 } // namespace detail

@@ -78,7 +78,8 @@ Binary readBinary(Cursor& in) {
     Binary data;
     for (bool last = false; !last;) {
         const Chunk chunk = readChunk(in, 'b', 'B', Count::Bytes);
-        data.insert(data.end(), chunk.data.begin(), chunk.data.end());
+        const auto* bytes = reinterpret_cast<const std::uint8_t*>(chunk.data.data());
+        data.insert(data.end(), bytes, bytes + chunk.data.size());
         last = chunk.last;
     }
     return data;

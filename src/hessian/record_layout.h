@@ -32,6 +32,36 @@ constexpr std::tuple<F...> fields(F... field) {
 
 namespace detail {
 
+/// Characters and bytes are the same number in such a name, and one chunk holds it.
+constexpr bool isPlainName(std::string_view name) {
+    return name.size() <= maximumChunk && std::all_of(name.begin(), name.end(), [](char c) {
+               return static_cast<unsigned char>(c) < 0x80;
+           });
+}
+
+template <std::size_t N>
+constexpr bool arePlainNames(const std::array<std::string_view, N>& names) {
+    return std::all_of(names.begin(), names.end(), isPlainName);
+}
+
+template <std::size_t N>
+constexpr bool areDistinct(const std::array<std::string_view, N>& names) {
+    for (auto name = names.begin(); name != names.end(); ++name)
+        if (std::find(names.begin(), name, *name) != name)
+            return false;
+    return true;
+}
+
+/// The keys of a record in the order in which they are written.
+template <class R>
+constexpr auto keysOf() {
+    return std::apply(
+        [](const auto&... field) {
+            return std::array<std::string_view, sizeof...(field)>{field.key...};
+        },
+        R::fields());
+}
+
 /// Where a member stands in the image of its record: its key with the head, then its value.
 struct MemberPlace {
     std::size_t key;
@@ -50,6 +80,10 @@ struct RecordLayout {
     static constexpr auto fields = R::fields();
     static constexpr std::size_t count = std::tuple_size_v<decltype(fields)>;
     using Indices = std::make_index_sequence<count>;
+
+    static_assert(isPlainName(R::wireType), "a wire type name is short and in ASCII");
+    static_assert(arePlainNames(keysOf<R>()), "a key is short and in ASCII");
+    static_assert(areDistinct(keysOf<R>()), "a record has no key twice");
 
     template <std::size_t I>
     using Member = std::remove_cvref_t<decltype(std::declval<R&>().*std::get<I>(fields).member)>;
@@ -102,12 +136,16 @@ struct RecordLayout {
         return {image.data() + places[i].key, places[i].value - places[i].key};
     }
 
-    /// The member whose key is `name`, or `count`.
-    static std::size_t find(std::string_view name) {
-        std::size_t i = 0;
-        while (i < count && key(i).substr(3) != name)
-            ++i;
-        return i;
+    /// Bytes behind the tag of member `i`, if it is a number.
+    static constexpr std::size_t numberSize(std::size_t i) {
+        const std::size_t size = places[i].end - places[i].value;
+        return size > sizeOfBool ? size - 1 : 0;
+    }
+
+    /// The key of member `i`, with the tag of its value if it is a number.
+    static constexpr std::string_view head(std::size_t i) {
+        const std::size_t tag = numberSize(i) == 0 ? 0 : 1;
+        return {image.data() + places[i].key, places[i].value + tag - places[i].key};
     }
 
     static constexpr bool startsRun(std::size_t i) { return i == 0 || !places[i - 1].fixed; }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "hessian/kinds.h"
@@ -39,8 +40,8 @@ template <class R>
 std::uint32_t sizeOfRecord(const R& record);
 template <class R>
 void readRecord(Cursor& in, R& fresh);
-template <class T>
-void readList(Cursor& in, std::vector<T>& list);
+template <class T, class A>
+void readList(Cursor& in, std::vector<T, A>& list);
 
 } // namespace detail
 
@@ -120,19 +121,33 @@ void readValue(Cursor& in, T& value) {
 
 namespace detail {
 
-template <class T>
-void readList(Cursor& in, std::vector<T>& list) {
+/// Makes room for the elements still to come, as far as the bytes still to come allow if they are
+/// like those read so far. The length that may stand before a list isn't to be trusted.
+template <class T, class A>
+void growList(std::vector<T, A>& list, std::size_t bytesRead, std::size_t bytesLeft) {
+    const std::size_t size = list.size();
+    if (size == list.max_size())
+        throw std::length_error("list<T> too long");
+    const std::size_t likely = size * bytesLeft / std::max<std::size_t>(bytesRead, 1);
+    const std::size_t room = std::max<std::size_t>({likely, size, 1});
+    list.reserve(size + std::min(room, list.max_size() - size));
+}
+
+template <class T, class A>
+void readList(Cursor& in, std::vector<T, A>& list) {
     list.clear();
+    const std::uint32_t all = in.remaining;
     if (!readListStart(in))
         return;
     do {
-        if (list.size() == list.max_size())
-            throw std::length_error("list<T> too long");
-        T& element = list.emplace_back();
+        if (list.size() == list.capacity())
+            growList(list, all - in.remaining, in.remaining);
         if constexpr (Record<T>)
-            readRecord(in, element);
+            readRecord(in, list.emplace_back());
+        else if constexpr (fixedSize<T> != 0)
+            list.push_back(readValue<T>(in));
         else
-            readValue(in, element);
+            readValue(in, list.emplace_back());
     } while (readListContinues(in));
 }
 
@@ -162,6 +177,8 @@ void writeMember(const R& record, std::string& out) {
 template <class R>
 void writeRecord(const R& record, std::string& out) {
     using Layout = RecordLayout<R>;
+    if constexpr (Layout::count == 0)
+        out.append(Layout::mapStart);
     [&]<std::size_t... I>(std::index_sequence<I...>) {
         (writeMember<R, I>(record, out), ...);
     }
@@ -176,7 +193,7 @@ std::uint32_t sizeOfRecord(const R& record) {
     std::uint32_t size = Layout::image.size();
     [&]<std::size_t... I>(std::index_sequence<I...>) {
         const auto add = [&]<std::size_t J>(std::integral_constant<std::size_t, J>) {
-            if constexpr (fixedSize<typename Layout::template Member<J>> == 0)
+            if constexpr (!Layout::places[J].fixed)
                 size += sizeOfValue(record.*std::get<J>(Layout::fields).member);
         };
         (add(std::integral_constant<std::size_t, I>{}), ...);
@@ -185,41 +202,54 @@ std::uint32_t sizeOfRecord(const R& record) {
     return size;
 }
 
-/// Reads member `I` if its key stands next.
+/// Reads member `I` if it stands next, in the plainest form of its key. One comparison tells that
+/// for the key and a number's tag; what it refuses is left where it is.
 template <class R, std::size_t I>
-bool readExpectedMember(Cursor& in, R& record) {
-    constexpr std::string_view key = RecordLayout<R>::key(I);
-    if (!in.startsWith(key))
-        return false;
-    in.skip(key.size());
-    readValue(in, record.*std::get<I>(RecordLayout<R>::fields).member);
-    return true;
-}
-
-template <class R, std::size_t I>
-void readMemberValue(Cursor& in, R& record) {
-    readValue(in, record.*std::get<I>(RecordLayout<R>::fields).member);
-}
-
-/// Reads members in any order from `expected` on, up to the record's end.
-template <class R>
-void readMembers(Cursor& in, R& record) {
+void readIfNext(Cursor& in, R& record) {
     using Layout = RecordLayout<R>;
-    using ReadMember = void (*)(Cursor&, R&);
-    static constexpr auto readers = []<std::size_t... I>(std::index_sequence<I...>) {
-        return std::array<ReadMember, sizeof...(I)>{readMemberValue<R, I>...};
-    }
-    (typename Layout::Indices{});
+    using Member = typename Layout::template Member<I>;
+    constexpr std::string_view head = Layout::head(I);
+    constexpr std::size_t numberSize = Layout::numberSize(I);
+    if (in.remaining < head.size() + numberSize ||
+        std::memcmp(in.pos, head.data(), head.size()) != 0)
+        return;
+    in.skip(head.size());
+    auto& value = record.*std::get<I>(Layout::fields).member;
+    if constexpr (numberSize == 0)
+        readValue(in, value);
+    else if constexpr (Int64<Member>)
+        value = static_cast<Member>(loadBigEndian<std::uint64_t>(in.pos));
+    else if constexpr (Int32<Member>)
+        value = static_cast<Member>(loadBigEndian<std::uint32_t>(in.pos));
+    else
+        value = enumerationFrom<Member>(
+            static_cast<std::int32_t>(loadBigEndian<std::uint32_t>(in.pos)));
+    in.skip(numberSize);
+}
+
+/// Reads the next member by its name, and fails where `readIfNext` found nothing it could read.
+template <class R>
+void readByName(Cursor& in, R& record) {
+    using Layout = RecordLayout<R>;
     std::string_view name;
     std::string scratch;
-    while (readMemberName(in, name, scratch)) {
-        const std::size_t index = Layout::find(name);
-        if (index == readers.size())
-            fail("Unknown map field type");
-        readers[index](in, record);
+    readMemberName(in, name, scratch);
+    const bool known = [&]<std::size_t... I>(std::index_sequence<I...>) {
+        const auto readIf = [&](std::string_view key, const auto& field) {
+            if (name != key)
+                return false;
+            readValue(in, record.*field.member);
+            return true;
+        };
+        return (readIf(std::get<I>(Layout::fields).key, std::get<I>(Layout::fields)) || ...);
     }
+    (typename Layout::Indices{});
+    if (!known)
+        fail("Unknown map field type");
 }
 
+/// Members may come in any order and any of them may be missing. Each round takes those that come
+/// in the order of the description, so one round is enough for what an agent writes.
 template <class R>
 void readRecord(Cursor& in, R& fresh) {
     using Layout = RecordLayout<R>;
@@ -227,14 +257,16 @@ void readRecord(Cursor& in, R& fresh) {
         in.skip(Layout::mapStart.size());
     else
         readMapStart(in, R::wireType);
-    const bool inOrder = [&]<std::size_t... I>(std::index_sequence<I...>) {
-        return (readExpectedMember<R, I>(in, fresh) && ...);
+    while (!in.at('z')) {
+        const std::uint32_t before = in.remaining;
+        [&]<std::size_t... I>(std::index_sequence<I...>) {
+            (readIfNext<R, I>(in, fresh), ...);
+        }
+        (typename Layout::Indices{});
+        if (in.remaining == before)
+            readByName(in, fresh);
     }
-    (typename Layout::Indices{});
-    if (inOrder && in.at('z'))
-        in.skip(1);
-    else
-        readMembers(in, fresh);
+    readEnd(in);
 }
 
 } // namespace detail

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "hessian/writer.h"
 
+#include <algorithm>
+
 #include "hessian/byte_order.h"
 #include "hessian/serialize_exception.h"
 #include "hessian/utf8.h"
@@ -21,8 +23,8 @@ Chunk cutByBytes(std::string_view rest) {
 }
 
 Chunk cutByCharacters(std::string_view rest) {
-    if (rest.size() <= maximumChunk && isAscii(rest))
-        return {rest.size(), static_cast<std::uint16_t>(rest.size())};
+    if (const std::string_view head = rest.substr(0, maximumChunk); isAscii(head))
+        return cutByBytes(head);
     std::size_t bytes = 0;
     std::uint16_t count = 0;
     while (count < maximumChunk && bytes < rest.size()) {
