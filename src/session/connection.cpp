@@ -44,7 +44,7 @@ void admitAgent(ClientConnection& bootstrap) {
 /// The agent answers frames on the port that it answered HTTP on.
 void moveToRawStream(ClientConnection& root) {
     root.setDispatcher(
-        boost::make_shared<hessiancln::CRawStreamDispacher>(true, 0u, std::string()));
+        boost::make_shared<hessiancln::CRawStreamDispacher>(0u, std::string(), true));
 }
 
 } // namespace
