@@ -48,10 +48,11 @@ void bind(T& value, const boost::shared_ptr<ICallDispatcher>& dispatcher) {
             value->setDispatcher(dispatcher);
     } else if constexpr (hessianser::List<T>) {
         for (auto& element : value)
-            bind(element, dispatcher);
+            hessiancln::bind(element, dispatcher);
     } else {
-        std::apply([&](const auto&... field) { (bind(value.*field.member, dispatcher), ...); },
-                   T::fields());
+        std::apply(
+            [&](const auto&... field) { (hessiancln::bind(value.*field.member, dispatcher), ...); },
+            T::fields());
     }
 }
 

@@ -123,7 +123,7 @@ Result RemoteObject::call(std::string_view method, const Arguments&... arguments
     } else {
         auto result = hessianser::readValue<Result>(in);
         hessianser::readEnd(in);
-        bind(result, dispatcher_);
+        hessiancln::bind(result, dispatcher_);
         return result;
     }
 }
