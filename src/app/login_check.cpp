@@ -1,0 +1,137 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "app/login_check.h"
+
+#include <algorithm>
+#include <optional>
+
+#include <QComboBox>
+#include <QEvent>
+#include <QLabel>
+
+#include "session/connection.h"
+#include "session/integrated_logon.h"
+#include "session/login_fields.h"
+#include "session/text.h"
+#include "ui/remote_action.h"
+#include "ui_login_check.h"
+
+namespace {
+
+constexpr int kLoggedIn = 0;
+constexpr int kCancelled = 1;
+constexpr std::int32_t kPasswordLogin = 1;
+constexpr int kWidth = 294;
+constexpr int kHeight = 180;
+
+QString currentUserName() {
+    return session::fromWire(session::currentWindowsUser());
+}
+
+} // namespace
+
+LoginCheck::LoginCheck(QWidget* parent)
+    : QDialog(parent)
+    , ui_(std::make_unique<Ui::LoginCheck>()) {
+    ui_->setupUi(this);
+    ui_->lineEditUserName->setText(currentUserName());
+
+    const QStringList domains = session::readDomainList("127.0.0.1");
+    if (!domains.isEmpty())
+        addDomains(domains);
+    if (!session::integratedLogonAvailable())
+        withoutIntegratedLogon();
+    // Last, since a disabled field doesn't take the focus.
+    if (!ui_->lineEditUserName->text().isEmpty())
+        ui_->lineEditPassword->setFocus();
+    fitToTexts();
+}
+
+LoginCheck::~LoginCheck() = default;
+
+void LoginCheck::addDomains(const QStringList& domains) {
+    labelDomain_ = new QLabel(ui_->groupLoginInfo);
+    comboDomain_ = new QComboBox(ui_->groupLoginInfo);
+    labelDomain_->setObjectName(QStringLiteral("labelDomain"));
+    comboDomain_->setObjectName(QStringLiteral("comboDomain"));
+    labelDomain_->setBuddy(comboDomain_);
+    comboDomain_->addItems(domains);
+    ui_->formLayout->insertRow(0, labelDomain_, comboDomain_);
+    setTabOrder(comboDomain_, ui_->lineEditUserName);
+    retranslateDomains();
+}
+
+void LoginCheck::retranslateDomains() {
+    if (!comboDomain_)
+        return;
+    labelDomain_->setText(tr("&From:"));
+    comboDomain_->setAccessibleName(tr("Domain"));
+}
+
+void LoginCheck::withoutIntegratedLogon() {
+    ui_->chkSSPILogin->setChecked(false);
+    on_chkSSPILogin_clicked(false);
+    ui_->chkSSPILogin->hide();
+}
+
+/// The told size is that of the English texts in a common font. It grows where they don't fit.
+void LoginCheck::fitToTexts() {
+    const int button = std::max(ui_->buttonLogin->minimumSizeHint().width(),
+                                ui_->buttonQuit->minimumSizeHint().width());
+    ui_->buttonLogin->setMinimumWidth(button);
+    ui_->buttonQuit->setMinimumWidth(button);
+    ensurePolished();
+    const QSize needed = layout()->minimumSize();
+    setMinimumWidth(needed.width());
+    setFixedHeight(std::max(kHeight, needed.height()));
+    resize(std::max(kWidth, needed.width()), height());
+}
+
+void LoginCheck::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange) {
+        ui_->retranslateUi(this);
+        retranslateDomains();
+        fitToTexts();
+    }
+    QDialog::changeEvent(event);
+}
+
+void LoginCheck::on_chkSSPILogin_clicked(bool checked) {
+    ui_->groupLoginInfo->setEnabled(!checked);
+    ui_->lineEditUserName->setText(currentUserName());
+    ui_->lineEditPassword->clear();
+    if (comboDomain_)
+        comboDomain_->setCurrentIndex(0);
+}
+
+QString LoginCheck::agentAddress() const {
+    return session::agentAddressOf(ui_->lineEditUserName->text());
+}
+
+QString LoginCheck::host() const {
+    return session::hostForDisplay(agentAddress());
+}
+
+QString LoginCheck::user() const {
+    std::optional<QString> domain;
+    if (comboDomain_)
+        domain = comboDomain_->currentText();
+    return session::loginUserOf(ui_->lineEditUserName->text(), ui_->chkSSPILogin->isChecked(),
+                                domain);
+}
+
+void LoginCheck::OnLogin() {
+    ui::remoteAction(*this, tr("Login Failed"), ui::Cursor::wait, [this] {
+        const std::string address = session::toWire(agentAddress());
+        if (ui_->chkSSPILogin->isChecked())
+            session::connectToAgent(address, "", "", 0);
+        else
+            session::connectToAgent(address, session::toWire(user()),
+                                    session::toWire(ui_->lineEditPassword->text()), kPasswordLogin);
+        done(kLoggedIn);
+    });
+}
+
+void LoginCheck::OnQuit() {
+    done(kCancelled);
+}

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "app/qt_single_application.h"
+#include "app/simple_gui_main_window.h"
+#include "app/start_up.h"
+#include "platform/foreground.h"
+#include "resources/pictures.h"
+#include "session/connection.h"
+
+namespace {
+
+constexpr int kAnswerTime = 5000;
+
+/// What has to be set before the application object exists.
+void prepareApplication() {
+    platform::allowSetForeground();
+    // Where the style is missing, Qt's own choice stays.
+    QApplication::setStyle(QStringLiteral("plastique"));
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+}
+
+void logIn(SimpleGUIMainWindow& window) {
+    window.doLogin(true);
+    if (!session::connectedToAgent())
+        window.doLogin(false);
+}
+
+int runWindow(QtSingleApplication& application) {
+    SimpleGUIMainWindow window;
+    window.show();
+    QObject::connect(&application, &QtSingleApplication::messageReceived, &window,
+                     &SimpleGUIMainWindow::showMainWindow);
+    logIn(window);
+    const int status = QApplication::exec();
+    session::disconnectFromAgent();
+    return status;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    prepareApplication();
+    QtSingleApplication application(argc, argv);
+    resources::initPictures();
+    app::applyStyleSheet(application);
+    if (application.sendMessage(QString(), kAnswerTime))
+        return 0;
+    session::g_language = app::languageOf(QCoreApplication::arguments());
+    app::installTranslation(application, session::g_language);
+    return runWindow(application);
+}

@@ -1,0 +1,110 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "app/qt_single_application.h"
+
+#include <memory>
+
+#include <QDeadlineTimer>
+#include <QLocalSocket>
+#include <QStandardPaths>
+#include <QThread>
+#include <QtEndian>
+
+namespace {
+
+// A message is its length in UTF-8 as 4 bytes, then the text; the answer is one byte.
+constexpr int kLengthSize = 4;
+constexpr quint32 kLongestMessage = 64 * 1024;
+constexpr char kConfirmation = '!';
+constexpr int kPauseBeforeNextTry = 20;
+
+QString inRuntimeDirectory(const QString& name) {
+    return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + QLatin1Char('/') +
+           name;
+}
+
+QByteArray frame(const QString& message) {
+    const QByteArray text = message.toUtf8();
+    QByteArray bytes(kLengthSize, '\0');
+    qToBigEndian(static_cast<quint32>(text.size()), bytes.data());
+    return bytes + text;
+}
+
+/// The first instance may hold its lock and not listen yet, hence more than one try.
+bool connectUntil(QLocalSocket& socket, const QString& name, const QDeadlineTimer& deadline) {
+    while (!deadline.hasExpired()) {
+        socket.connectToServer(name);
+        if (socket.waitForConnected(static_cast<int>(deadline.remainingTime())))
+            return true;
+        QThread::msleep(kPauseBeforeNextTry);
+    }
+    return false;
+}
+
+/// Whether a whole message has come; if so, it is taken from the socket into `message`.
+bool takeMessage(QLocalSocket& socket, QString& message) {
+    if (socket.bytesAvailable() < kLengthSize)
+        return false;
+    const QByteArray head = socket.peek(kLengthSize);
+    const auto length = qFromBigEndian<quint32>(head.constData());
+    if (length > kLongestMessage) {
+        socket.abort();
+        return false;
+    }
+    if (socket.bytesAvailable() < kLengthSize + static_cast<qint64>(length))
+        return false;
+    socket.skip(kLengthSize);
+    message = QString::fromUtf8(socket.read(length));
+    return true;
+}
+
+} // namespace
+
+QtSingleApplication::QtSingleApplication(int& argc, char** argv)
+    : QApplication(argc, argv)
+    , socketName_(inRuntimeDirectory(QStringLiteral("tarn-mobile-user")))
+    , lock_(socketName_ + QStringLiteral(".lock")) {
+    // A lock is stale when its process is gone, however old it is.
+    lock_.setStaleLockTime(0);
+    first_ = lock_.tryLock();
+    if (first_)
+        listen();
+}
+
+bool QtSingleApplication::sendMessage(const QString& message, int timeout) {
+    if (first_)
+        return false;
+    const QDeadlineTimer deadline(timeout);
+    QLocalSocket socket;
+    if (!connectUntil(socket, socketName_, deadline))
+        return false;
+    socket.write(frame(message));
+    while (socket.bytesAvailable() == 0)
+        if (!socket.waitForReadyRead(static_cast<int>(deadline.remainingTime())))
+            return false;
+    return socket.read(1) == QByteArray(1, kConfirmation);
+}
+
+void QtSingleApplication::listen() {
+    connect(&server_, &QLocalServer::newConnection, this, &QtSingleApplication::receive);
+    server_.setSocketOptions(QLocalServer::UserAccessOption);
+    // We hold the lock, so a socket that stands there is what a crash has left.
+    QLocalServer::removeServer(socketName_);
+    server_.listen(socketName_);
+}
+
+void QtSingleApplication::receive() {
+    while (QLocalSocket* socket = server_.nextPendingConnection()) {
+        connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
+        auto take = [this, socket] {
+            QString message;
+            if (!takeMessage(*socket, message))
+                return;
+            socket->write(&kConfirmation, 1);
+            socket->flush();
+            emit messageReceived(message);
+        };
+        connect(socket, &QLocalSocket::readyRead, this, take);
+        take();
+    }
+}

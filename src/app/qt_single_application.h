@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QApplication>
+#include <QLocalServer>
+#include <QLockFile>
+#include <QString>
+
+/// The application object of a program that runs once per user. The first process to start
+/// listens for messages of later ones; which is the first, a lock file in the user's runtime
+/// directory decides, so that a crash leaves nothing behind that would block the next start.
+class QtSingleApplication : public QApplication {
+    Q_OBJECT
+public:
+    QtSingleApplication(int& argc, char** argv);
+
+    /// Gives the message to the first instance. True when that one has confirmed it within the
+    /// time-out, in milliseconds; false at once if this process is the first.
+    bool sendMessage(const QString& message, int timeout = 5000);
+
+signals:
+    /// Another process has started and sent this. The text may be empty.
+    void messageReceived(const QString& message);
+
+private:
+    void listen();
+    void receive();
+
+    QString socketName_;
+    QLockFile lock_;
+    QLocalServer server_;
+    bool first_ = false;
+};

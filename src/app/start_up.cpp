@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "app/start_up.h"
+
+#include <memory>
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QTextStream>
+#include <QTranslator>
+
+#include "ui/error_box.h"
+
+namespace app {
+
+QString languageOf(const QStringList& arguments) {
+    const int option = arguments.indexOf(QStringLiteral("--lang"));
+    if (option < 0 || option + 1 >= arguments.size())
+        return {};
+    const QString& code = arguments.at(option + 1);
+    return code == QLatin1String("en") ? QString() : code;
+}
+
+void installTranslation(QApplication& application, const QString& language) {
+    if (language.isEmpty())
+        return;
+    const QString name = QStringLiteral("sg_i18n_%1").arg(language);
+    // Empty, but not null: a null text would make Qt try the suffix ".qm" and shorter names.
+    const QString none = QLatin1String("");
+    auto translator = std::make_unique<QTranslator>();
+    if (!translator->load(name, none, none, none)) {
+        // There is nothing to translate these two with.
+        ui::showError(nullptr, QStringLiteral("Translation error"),
+                      QStringLiteral("Failed to load translation data from %1").arg(name));
+        return;
+    }
+    QApplication::installTranslator(translator.get());
+    translator.release()->setParent(&application);
+}
+
+void applyStyleSheet(QApplication& application) {
+    application.setStyleSheet(QString());
+    QFile file(QDir::current().absoluteFilePath(QStringLiteral("tarnmobile.css")));
+    if (file.open(QIODevice::ReadOnly | QIODevice::Text))
+        application.setStyleSheet(QTextStream(&file).readAll());
+}
+
+} // namespace app

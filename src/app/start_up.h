@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+class QApplication;
+
+/// The steps of start-up that stand between the application object and its first window.
+namespace app {
+
+/// The language code behind the first "--lang". Empty for the built-in English: when there is no
+/// such option, when nothing follows it, and for the code "en".
+QString languageOf(const QStringList& arguments);
+
+/// Installs the translation file for `language` from the current directory, for the rest of the
+/// process. An error box tells when there is none, and the texts stay English.
+void installTranslation(QApplication& application, const QString& language);
+
+/// Takes "tarnmobile.css" from the current directory as the style sheet, if there is one.
+void applyStyleSheet(QApplication& application);
+
+} // namespace app

@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "resources/pictures.h"
+
+#include <QtGlobal>
+
+// The macro declares a function, so it can't stand inside a namespace.
+static void initPicturesResource() {
+    Q_INIT_RESOURCE(pictures);
+}
+
+namespace resources {
+
+void initPictures() {
+    initPicturesResource();
+}
+
+} // namespace resources

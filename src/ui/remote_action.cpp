@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "ui/remote_action.h"
+
+#include <optional>
+
+#include "ui/error_box.h"
+#include "ui/wait_cursor.h"
+
+namespace ui {
+
+bool remoteAction(QWidget& widget, const QString& title, Cursor cursor,
+                  const std::function<void()>& work) {
+    std::optional<WaitCursor> waiting;
+    if (cursor == Cursor::wait)
+        waiting.emplace(widget);
+    try {
+        work();
+        return true;
+    } catch (const std::exception& error) {
+        showError(&widget, title, errorText(error));
+        return false;
+    }
+}
+
+} // namespace ui
