@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QPixmap>
+#include <QString>
+
+namespace ui {
+
+/// The picture `base` in grey with `overlay` in its lower right corner; both are resources. Each
+/// pair is composed once in the life of the application object.
+QPixmap greyOverlayPixmap(const QString& base, const QString& overlay);
+
+} // namespace ui

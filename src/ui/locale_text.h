@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QLocale>
+#include <QString>
+
+/// Numbers and times in the form of the system's locale.
+namespace ui {
+
+QString numberText(qint64 number);
+
+/// A time in seconds since 1970 UTC, shown as local time.
+QString timeText(qint64 seconds, QLocale::FormatType format);
+
+} // namespace ui

@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QString>
+
+#include "api/backup_set_records.h"
+
+namespace ui {
+
+/// What people call the data of a backup set.
+QString getSetDataType(hessiancln::BackupDataType type);
+
+} // namespace ui

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "ui/shared_icon.h"
+
+#include <QCoreApplication>
+#include <QHash>
+
+namespace ui {
+
+namespace {
+
+QHash<QString, QIcon>& icons() {
+    static QHash<QString, QIcon> icons;
+    return icons;
+}
+
+} // namespace
+
+QIcon sharedIcon(const QString& resource) {
+    if (const auto found = icons().constFind(resource); found != icons().constEnd())
+        return *found;
+    // Pictures must not outlive the application object.
+    if (icons().isEmpty())
+        qAddPostRoutine([] { icons().clear(); });
+    return *icons().insert(resource, QIcon(resource));
+}
+
+} // namespace ui

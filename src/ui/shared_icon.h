@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QIcon>
+#include <QString>
+
+namespace ui {
+
+/// The icon of a resource, read once in the life of the application object: views ask for the
+/// same few icons for each cell that they paint.
+QIcon sharedIcon(const QString& resource);
+
+} // namespace ui
