@@ -13,7 +13,7 @@
 #include <boost/make_shared.hpp>
 #include <boost/shared_ptr.hpp>
 
-#include "api/bind.h"
+#include "api/bind_proxies.h"
 #include "hessian/value.h"
 
 namespace hessiancln {
@@ -123,7 +123,7 @@ Result RemoteObject::call(std::string_view method, const Arguments&... arguments
     } else {
         auto result = hessianser::readValue<Result>(in);
         hessianser::readEnd(in);
-        hessiancln::bind(result, dispatcher_);
+        bindProxies(result, dispatcher_);
         return result;
     }
 }

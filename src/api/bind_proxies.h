@@ -40,7 +40,7 @@ constexpr bool holdsProxies() {
 /// Gives `dispatcher` to every proxy in `value` that has none, however deep it stands in lists and
 /// records. Null references are left alone.
 template <hessianser::Value T>
-void bind(T& value, const boost::shared_ptr<ICallDispatcher>& dispatcher) {
+void bindProxies(T& value, const boost::shared_ptr<ICallDispatcher>& dispatcher) {
     if constexpr (!detail::holdsProxies<T>()) {
         return;
     } else if constexpr (hessianser::RemoteReference<T>) {
@@ -48,10 +48,10 @@ void bind(T& value, const boost::shared_ptr<ICallDispatcher>& dispatcher) {
             value->setDispatcher(dispatcher);
     } else if constexpr (hessianser::List<T>) {
         for (auto& element : value)
-            hessiancln::bind(element, dispatcher);
+            bindProxies(element, dispatcher);
     } else {
         std::apply(
-            [&](const auto&... field) { (hessiancln::bind(value.*field.member, dispatcher), ...); },
+            [&](const auto&... field) { (bindProxies(value.*field.member, dispatcher), ...); },
             T::fields());
     }
 }
