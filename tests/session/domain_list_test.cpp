@@ -11,10 +11,10 @@
 namespace {
 
 using session::readDomainList;
-using session_tests::closedPort;
 using session_tests::webPage;
 using session_tests::WebServer;
 using support::bytes;
+using support::closedPort;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
