@@ -90,6 +90,10 @@ void CSingleStreamDispatcherConnection::SendRequest(const std::string& url,
     call->request = request;
     call->succeed = [reply](std::string& body) { reply->succeed(body); };
     call->fail = [reply](const std::string& text) { reply->fail(text); };
+    {
+        const std::lock_guard lock(writeMutex_);
+        ++writeCount_;
+    }
     if (submit(call)) {
         reply->wait();
     } else {
@@ -108,10 +112,14 @@ void CSingleStreamDispatcherConnection::asyncSendRequest(const std::string& url,
                                                          const std::string& request,
                                                          Handler onSuccess, Handler onFailure) {
     trace_.step("CSingleStreamDispatcherConnection::asyncSendRequest ENTER");
-    // A handler that calls on is the writer itself, and would wait for ever.
-    if (std::this_thread::get_id() != streamThread_) {
+    {
         std::unique_lock lock(writeMutex_);
-        writeCondition_.wait(lock, [this] { return terminated_ || writeCount_ < unwrittenLimit; });
+        // A handler that calls on is the writer itself, and would wait for ever.
+        if (std::this_thread::get_id() != streamThread_) {
+            writeCondition_.wait(lock,
+                                 [this] { return terminated_ || writeCount_ < unwrittenLimit; });
+        }
+        ++writeCount_;
     }
 
     auto call = std::make_unique<Call>();

@@ -120,7 +120,7 @@ private:
 
     std::mutex writeMutex_; ///< guards the next two; may be taken with the state mutex held
     std::condition_variable writeCondition_;
-    std::size_t writeCount_ = 0;
+    std::size_t writeCount_ = 0; ///< calls not yet written, in the queue or on their way into it
     std::list<std::string> writeQueue_;
 
     // Only the connection's own thread touches what follows.

@@ -90,7 +90,7 @@ void CSingleStreamDispatcherConnection::enqueue(CallPtr& call) {
     {
         const std::lock_guard lock(writeMutex_);
         writeQueue_.push_back(std::move(frame));
-        idle = ++writeCount_ == 1;
+        idle = writeQueue_.size() == 1;
     }
     if (idle) {
         startWriting(false);
@@ -117,7 +117,7 @@ void CSingleStreamDispatcherConnection::startWriting(bool writeCompleted) {
             --writeCount_;
             writeCondition_.notify_all();
         }
-        if (writeCount_ != 0) {
+        if (!writeQueue_.empty()) {
             frame = &writeQueue_.front();
         }
     }

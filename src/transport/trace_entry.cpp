@@ -22,7 +22,7 @@ std::string prefix() {
     const auto now = boost::posix_time::second_clock::local_time();
     const auto date = now.date();
     const auto time = now.time_of_day();
-    boost::format format("%ld (%ld) %d/%d/%d %02d:%02d:%02d ");
+    boost::format format("%ld (%ld) %d/%d/%d %02d:%02d:%02d ", std::locale::classic());
     format % platform::processId() % platform::threadId();
     format % date.month().as_number() % date.day().as_number() % date.year();
     format % time.hours() % time.minutes() % time.seconds();

@@ -1,0 +1,373 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "tests/support/loopback_server.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <csignal>
+#include <cstring>
+#include <stdexcept>
+#include <system_error>
+#include <utility>
+
+#include <arpa/inet.h>
+#include <gtest/gtest.h>
+#include <netinet/in.h>
+#include <netinet/tcp.h>
+#include <openssl/err.h>
+#include <openssl/evp.h>
+#include <openssl/ssl.h>
+#include <openssl/x509.h>
+#include <sys/socket.h>
+#include <sys/time.h>
+#include <unistd.h>
+
+#include "tests/support/bytes.h"
+
+// Written on bare sockets and OpenSSL, so that it shares no code and no habits with the transport.
+namespace support {
+namespace {
+
+constexpr int patience = 20; // seconds
+
+[[noreturn]] void fail(const std::string& what) {
+    throw std::runtime_error("peer: " + what);
+}
+
+std::uint32_t crc32(std::string_view bytes) {
+    std::uint32_t crc = 0xFFFFFFFF;
+    for (const char c : bytes) {
+        crc ^= static_cast<unsigned char>(c);
+        for (int bit = 0; bit < 8; ++bit) {
+            crc = (crc >> 1) ^ ((crc & 1) != 0 ? 0xEDB88320 : 0);
+        }
+    }
+    return ~crc;
+}
+
+std::string bigEndian(std::uint64_t number, int size) {
+    std::string bytes;
+    for (int shift = 8 * (size - 1); shift >= 0; shift -= 8) {
+        bytes += static_cast<char>(number >> shift);
+    }
+    return bytes;
+}
+
+std::uint64_t number(std::string_view bytes) {
+    std::uint64_t value = 0;
+    for (const char c : bytes) {
+        value = value << 8 | static_cast<unsigned char>(c);
+    }
+    return value;
+}
+
+/// One key and certificate for all servers of the program.
+SSL_CTX* makeContext() {
+    SSL_CTX* context = SSL_CTX_new(TLS_server_method());
+    EVP_PKEY* key = EVP_EC_gen("P-256");
+    X509* certificate = X509_new();
+    X509_set_version(certificate, 2);
+    ASN1_INTEGER_set(X509_get_serialNumber(certificate), 1);
+    X509_gmtime_adj(X509_getm_notBefore(certificate), -3600);
+    X509_gmtime_adj(X509_getm_notAfter(certificate), 24 * 3600);
+    X509_set_pubkey(certificate, key);
+    X509_NAME* name = X509_get_subject_name(certificate);
+    const unsigned char host[] = "127.0.0.1";
+    X509_NAME_add_entry_by_txt(name, "CN", MBSTRING_ASC, host, -1, -1, 0);
+    X509_set_issuer_name(certificate, name);
+    X509_sign(certificate, key, EVP_sha256());
+    SSL_CTX_use_certificate(context, certificate);
+    SSL_CTX_use_PrivateKey(context, key);
+    X509_free(certificate);
+    EVP_PKEY_free(key);
+    return context;
+}
+
+/// `port` may be 0, and is then the one that the system has picked.
+int listenOnLoopback(std::uint16_t& port) {
+    const int listener = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    address.sin_port = htons(port);
+    const int on = 1;
+    ::setsockopt(listener, SOL_SOCKET, SO_REUSEADDR, &on, sizeof on);
+    socklen_t size = sizeof address;
+    auto* any = reinterpret_cast<sockaddr*>(&address);
+    if (listener < 0 || ::bind(listener, any, size) != 0 || ::listen(listener, 64) != 0 ||
+        ::getsockname(listener, any, &size) != 0) {
+        throw std::system_error(errno, std::generic_category(), "no listener");
+    }
+    port = ntohs(address.sin_port);
+    return listener;
+}
+
+} // namespace
+
+std::string responseFrame(std::uint32_t id, std::string_view message) {
+    std::string covered = bigEndian(id, 4) + bigEndian(message.size(), 8);
+    covered += message;
+    return "@RSP" + covered + bigEndian(crc32(covered), 4);
+}
+
+Peer::Peer(int socket, ssl_ctx_st* context)
+    : socket_(socket)
+    , context_(context) {
+    const timeval limit{patience, 0};
+    const int on = 1;
+    ::setsockopt(socket_, SOL_SOCKET, SO_RCVTIMEO, &limit, sizeof limit);
+    ::setsockopt(socket_, SOL_SOCKET, SO_SNDTIMEO, &limit, sizeof limit);
+    ::setsockopt(socket_, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
+}
+
+Peer::~Peer() {
+    SSL_free(tls_);
+    ::close(socket_);
+}
+
+Peer& Peer::open() {
+    if (context_) {
+        tls_ = SSL_new(context_);
+        SSL_set_fd(tls_, socket_);
+        if (SSL_accept(tls_) != 1) {
+            fail("the handshake failed");
+        }
+    }
+    return *this;
+}
+
+std::size_t Peer::receiveSome(char* buffer, std::size_t size) {
+    if (!tls_) {
+        const ssize_t got = ::recv(socket_, buffer, size, 0);
+        if (got < 0 && errno != ECONNRESET) {
+            fail(std::string("nothing received: ") + std::strerror(errno));
+        }
+        return static_cast<std::size_t>(std::max<ssize_t>(got, 0));
+    }
+    std::size_t got = 0;
+    if (SSL_read_ex(tls_, buffer, size, &got) == 1) {
+        return got;
+    }
+    // This client never says goodbye, so the end of the socket is the end of the stream.
+    const int cause = SSL_get_error(tls_, 0);
+    const bool end = cause == SSL_ERROR_ZERO_RETURN ||
+                     (cause == SSL_ERROR_SYSCALL && errno == ECONNRESET) ||
+                     ERR_GET_REASON(ERR_peek_error()) == SSL_R_UNEXPECTED_EOF_WHILE_READING;
+    ERR_clear_error();
+    if (!end) {
+        fail("nothing received on TLS");
+    }
+    return 0;
+}
+
+std::string Peer::receive(std::size_t size) {
+    std::string bytes(size, '\0');
+    for (std::size_t held = 0; held < size;) {
+        const std::size_t got = receiveSome(bytes.data() + held, size - held);
+        if (got == 0) {
+            fail("closed after " + std::to_string(held) + " of " + std::to_string(size) + " bytes");
+        }
+        held += got;
+    }
+    return bytes;
+}
+
+std::string Peer::receiveUntil(std::string_view end) {
+    std::string bytes;
+    while (!bytes.ends_with(end)) {
+        bytes += receive(1);
+    }
+    return bytes;
+}
+
+Peer& Peer::expect(std::string_view bytes) {
+    const std::string got = receive(bytes.size());
+    if (got != bytes) {
+        fail("expected " + printable(bytes) + "\n     but got " + printable(got));
+    }
+    return *this;
+}
+
+RequestFrame Peer::receiveFrame() {
+    const std::string start = receive(12);
+    if (!start.starts_with("@REQ")) {
+        fail("not a request frame: " + printable(start));
+    }
+    RequestFrame frame;
+    frame.id = static_cast<std::uint32_t>(number(start.substr(4, 4)));
+    frame.url = receive(number(start.substr(8)));
+    const std::string length = receive(8);
+    frame.message = receive(number(length));
+    const std::string covered = start.substr(4) + frame.url + length + frame.message;
+    if (number(receive(4)) != crc32(covered)) {
+        fail("the checksum of a request is wrong");
+    }
+    return frame;
+}
+
+Peer& Peer::expectClose() {
+    char byte = 0;
+    if (receiveSome(&byte, 1) != 0) {
+        fail("bytes where the end was expected");
+    }
+    return *this;
+}
+
+Peer& Peer::receiveUntilClose() {
+    char forgotten[4096];
+    while (receiveSome(forgotten, sizeof forgotten) != 0) {
+    }
+    return *this;
+}
+
+Peer& Peer::send(std::string_view bytes) {
+    while (!bytes.empty()) {
+        std::size_t sent = 0;
+        if (tls_) {
+            if (SSL_write_ex(tls_, bytes.data(), bytes.size(), &sent) != 1) {
+                fail("nothing sent on TLS");
+            }
+        } else {
+            const ssize_t got = ::send(socket_, bytes.data(), bytes.size(), MSG_NOSIGNAL);
+            if (got < 0) {
+                fail(std::string("nothing sent: ") + std::strerror(errno));
+            }
+            sent = static_cast<std::size_t>(got);
+        }
+        bytes.remove_prefix(sent);
+    }
+    return *this;
+}
+
+Peer& Peer::sendByteByByte(std::string_view bytes) {
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        send(bytes.substr(i, 1));
+    }
+    return *this;
+}
+
+void Peer::close() {
+    ::shutdown(socket_, SHUT_RDWR);
+}
+
+void Peer::closePolitely() {
+    if (tls_) {
+        SSL_shutdown(tls_);
+    }
+    close();
+}
+
+void Peer::reset() {
+    // A close with unread bytes or a linger time of zero is a reset; the descriptor stays ours.
+    const linger none{1, 0};
+    ::setsockopt(socket_, SOL_SOCKET, SO_LINGER, &none, sizeof none);
+    const int placeholder = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    ::dup2(placeholder, socket_);
+    ::close(placeholder);
+}
+
+void Peer::interrupt() {
+    ::shutdown(socket_, SHUT_RDWR);
+}
+
+LoopbackServer::LoopbackServer(Mode mode, std::vector<Script> scripts, std::uint16_t port)
+    : mode_(mode)
+    , scripts_(std::move(scripts))
+    , port_(port) {
+    static SSL_CTX* const context = makeContext();
+    context_ = context;
+    listener_ = listenOnLoopback(port_);
+    acceptor_ = std::thread([this] { acceptAll(); });
+}
+
+LoopbackServer::~LoopbackServer() {
+    stop();
+}
+
+std::string LoopbackServer::url(std::string_view path, std::string_view host) const {
+    std::string url = mode_ == Mode::tls ? "https://" : "http://";
+    return (((url += host) += ":") += std::to_string(port_)) += path;
+}
+
+std::size_t LoopbackServer::connections() {
+    const std::lock_guard lock(mutex_);
+    return connections_.size();
+}
+
+bool LoopbackServer::waitForEnded(std::size_t count) {
+    std::unique_lock lock(mutex_);
+    return changed_.wait_for(lock, std::chrono::seconds(patience), [&] { return ended_ >= count; });
+}
+
+void LoopbackServer::tolerateFailures() {
+    const std::lock_guard lock(mutex_);
+    tolerant_ = true;
+}
+
+void LoopbackServer::stop() {
+    {
+        const std::lock_guard lock(mutex_);
+        if (std::exchange(stopping_, true)) {
+            return;
+        }
+        for (const Connection& connection : connections_) {
+            connection.peer->interrupt();
+        }
+    }
+    ::shutdown(listener_, SHUT_RDWR);
+    acceptor_.join();
+    for (Connection& connection : connections_) {
+        connection.thread.join();
+    }
+    connections_.clear();
+    ::close(listener_);
+}
+
+void LoopbackServer::acceptAll() {
+    for (;;) {
+        const int socket = ::accept4(listener_, nullptr, nullptr, SOCK_CLOEXEC);
+        const std::lock_guard lock(mutex_);
+        if (socket < 0 || stopping_) {
+            if (socket >= 0) {
+                ::close(socket);
+            }
+            return;
+        }
+        const Script& script = scripts_[std::min(connections_.size(), scripts_.size() - 1)];
+        auto peer = std::make_unique<Peer>(socket, mode_ == Mode::tls ? context_ : nullptr);
+        Peer& used = *peer;
+        connections_.push_back({std::move(peer), {}});
+        connections_.back().thread = std::thread([this, &used, &script] { play(used, script); });
+    }
+}
+
+void LoopbackServer::play(Peer& peer, const Script& script) {
+    // A write to a client that has gone must not end the program. Only here: in the client's own
+    // threads it must not happen.
+    sigset_t brokenPipe;
+    sigemptyset(&brokenPipe);
+    sigaddset(&brokenPipe, SIGPIPE);
+    pthread_sigmask(SIG_BLOCK, &brokenPipe, nullptr);
+
+    std::string failure;
+    try {
+        script(peer);
+    } catch (const std::exception& raised) {
+        failure = raised.what();
+    }
+    peer.close();
+    const std::lock_guard lock(mutex_);
+    if (!failure.empty() && !stopping_ && !tolerant_) {
+        ADD_FAILURE() << failure;
+    }
+    ++ended_;
+    changed_.notify_all();
+}
+
+std::uint16_t closedPort() {
+    std::uint16_t port = 0;
+    ::close(listenOnLoopback(port));
+    return port;
+}
+
+} // namespace support

@@ -1,0 +1,372 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+
+// Streams that fail: each way of failing has its text, and leaves no caller behind.
+#include <future>
+#include <memory>
+#include <thread>
+#include <utility>
+#include <vector>
+
+#include "tests/support/bytes.h"
+#include "tests/support/signal.h"
+#include "tests/transport/raw_stream_fixture.h"
+#include "transport/raw_stream_dispatcher.h"
+#include "transport/trace_exception.h"
+
+namespace {
+
+using namespace hessiancln;
+using support::bytes;
+using support::LoopbackServer;
+using support::Peer;
+using support::responseFrame;
+using support::Signal;
+using Mode = LoopbackServer::Mode;
+
+class RawStreamFailures : public RawStream {
+protected:
+    /// What the one call raises that is sent to a server which plays this script.
+    static std::string failureWith(LoopbackServer::Script script) {
+        LoopbackServer server(GetParam(), std::move(script));
+        CRawStreamDispacher dispatcher(0, "", true);
+        return failureOf(dispatcher, server.url());
+    }
+
+    /// Reads one request, says this, and closes.
+    static LoopbackServer::Script answer(const std::string& response) {
+        return [response](Peer& peer) {
+            peer.open().receiveFrame();
+            peer.send(response);
+            peer.close();
+        };
+    }
+};
+
+TARN_ON_PLAIN_AND_TLS(RawStreamFailures);
+
+TEST_P(RawStreamFailures, AClosedPort) {
+    const std::string scheme = GetParam() == Mode::tls ? "https" : "http";
+    const std::string port = std::to_string(support::closedPort());
+    CRawStreamDispacher dispatcher(0, "", true);
+    EXPECT_EQ(failureOf(dispatcher, scheme + "://127.0.0.1:" + port + "/api"),
+              "Failed to connect to '127.0.0.1' on port " + port +
+                  ". O/S error 111 (Connection refused)");
+}
+
+TEST_P(RawStreamFailures, AHostThatCannotExist) {
+    CRawStreamDispacher dispatcher(0, "", true);
+    EXPECT_TRUE(failureOf(dispatcher, "https://no-such-host.invalid:4411/")
+                    .starts_with("Failed to connect to 'no-such-host.invalid' on port 4411. O/S "
+                                 "error "));
+}
+
+TEST_P(RawStreamFailures, APortThatCannotExist) {
+    CRawStreamDispacher dispatcher(0, "", true);
+    EXPECT_TRUE(failureOf(dispatcher, "https://127.0.0.1:70000/")
+                    .starts_with("Failed to connect to '127.0.0.1' on port 70000. O/S error "));
+}
+
+TEST_P(RawStreamFailures, AUrlThatIsNone) {
+    CRawStreamDispacher dispatcher(0, "", true);
+    EXPECT_EQ(failureOf(dispatcher, "api"), "Invalid URL (does not start with http/https): 'api'");
+    EXPECT_EQ(failureOf(dispatcher, "http://h:0/"), "Invalid port component in host 'h:0'");
+}
+
+TEST_P(RawStreamFailures, APeerThatClosesAtOnce) {
+    const std::string text = failureWith([](Peer& peer) { peer.close(); });
+    EXPECT_TRUE(text.starts_with(GetParam() == Mode::tls ? "SSL Handshake failed. Error "
+                                                         : "Receive failed (header): "))
+        << text;
+}
+
+TEST_P(RawStreamFailures, APeerThatClosesAfterTheRequest) {
+    EXPECT_EQ(failureWith(answer("")), "Receive failed (header): " + cut());
+}
+
+TEST_P(RawStreamFailures, APeerThatClosesPolitely) {
+    EXPECT_EQ(failureWith([](Peer& peer) {
+                  peer.open().receiveFrame();
+                  peer.closePolitely();
+              }),
+              "Receive failed (header): End of file (2)");
+}
+
+TEST_P(RawStreamFailures, APeerThatResets) {
+    EXPECT_EQ(failureWith([](Peer& peer) {
+                  peer.open().receiveFrame();
+                  peer.reset();
+              }),
+              "Receive failed (header): Connection reset by peer (104)");
+}
+
+TEST_P(RawStreamFailures, APeerThatClosesWithinTheHeader) {
+    EXPECT_EQ(failureWith(answer(responseFrame(1, "pong").substr(0, 15))),
+              "Receive failed (header): " + cut());
+}
+
+TEST_P(RawStreamFailures, APeerThatClosesWithinTheData) {
+    EXPECT_EQ(failureWith(answer(responseFrame(1, "pong").substr(0, 18))),
+              "Receive failed (data): " + cut());
+}
+
+TEST_P(RawStreamFailures, APeerThatClosesWithinLargeData) {
+    EXPECT_EQ(failureWith(answer(responseFrame(1, std::string(1'000'000, 'x')).substr(0, 700'000))),
+              "Receive failed (data): " + cut());
+}
+
+TEST_P(RawStreamFailures, APeerThatClosesWithinTheChecksum) {
+    const std::string frame = responseFrame(1, "pong");
+    EXPECT_EQ(failureWith(answer(frame.substr(0, frame.size() - 1))),
+              "Receive failed (data): " + cut());
+}
+
+TEST_P(RawStreamFailures, APeerThatClosesWithinTheRequest) {
+    // So the client is still writing, which must neither end the program nor wait for ever.
+    LoopbackServer server(GetParam(), [](Peer& peer) {
+        peer.open().receive(12);
+        peer.reset();
+    });
+    CRawStreamDispacher dispatcher(0, "", true);
+    const std::string text = failureOf(dispatcher, server.url(), std::string(32'000'000, 'x'));
+    EXPECT_TRUE(text.starts_with("Receive failed (header): ")) << text;
+}
+
+TEST_P(RawStreamFailures, FourOtherBytesAtTheStart) {
+    EXPECT_EQ(failureWith(answer("HTTP/1.1 400 Bad Request\r\n\r\n")),
+              "Remote side did not send a response back. (485454502F312E312034303020426164)");
+}
+
+TEST_P(RawStreamFailures, FourOtherBytesWithHighOnesAmongThem) {
+    EXPECT_EQ(failureWith(answer(bytes("'@RSQ' 80 01 02 03 04 05 06 07 08 09 0a FE"))),
+              "Remote side did not send a response back. (40525351FF0102030405060708090AFFFFFFFE)");
+}
+
+TEST_P(RawStreamFailures, AWrongChecksum) {
+    // The right one is C4B1AA43, printed as the signed number that it is.
+    EXPECT_EQ(
+        failureWith(answer(bytes("'@RSP' 00 00 00 01 00 00 00 00 00 00 00 04 'pong' 00 00 00 01"))),
+        "Response checksums mismatch: -994989501 != 1");
+}
+
+TEST_P(RawStreamFailures, AWrongChecksumEndsAllCallsOfTheConnection) {
+    LoopbackServer server(GetParam(), [](Peer& peer) {
+        peer.open();
+        peer.receiveFrame();
+        peer.receiveFrame();
+        peer.send(bytes("'@RSP' 00 00 00 01 00 00 00 00 00 00 00 04 'pong' 00 00 00 01"));
+        peer.expectClose();
+    });
+    CRawStreamDispacher dispatcher(0, "", true);
+    const std::string expected = "Response checksums mismatch: -994989501 != 1";
+    std::thread other([&] { EXPECT_EQ(failureOf(dispatcher, server.url()), expected); });
+    EXPECT_EQ(failureOf(dispatcher, server.url()), expected);
+    other.join();
+    EXPECT_EQ(failureOf(dispatcher, server.url()), expected);
+    EXPECT_TRUE(server.waitForEnded(1)); // the peer has seen the end too
+}
+
+TEST_P(RawStreamFailures, ALengthOfTwoToTheFortyIsRefused) {
+    EXPECT_EQ(failureWith(answer(bytes("'@RSP' 00 00 00 01 00 00 01 00 00 00 00 00"))),
+              "Failed to allocate 1099511628800 bytes for data receiving");
+}
+
+TEST_P(RawStreamFailures, ALengthThatIsOneMoreThanAMessageCanBeIsRefused) {
+    EXPECT_EQ(failureWith(answer(bytes("'@RSP' 00 00 00 01 00 00 00 01 00 00 00 00"))),
+              "Failed to allocate 4294968320 bytes for data receiving");
+}
+
+TEST_P(RawStreamFailures, ALengthNearTwoToTheSixtyFourIsRefused) {
+    for (const char* length : {"FF FF FF FF FF FF FF FF", "FF FF FF FF FF FF FF FC",
+                               "FF FF FF FF FF FF FF FB", "FF FF FF FF FF FF FC 00"}) {
+        EXPECT_EQ(failureWith(answer(bytes("'@RSP' 00 00 00 01 " + std::string(length)))),
+                  "Failed to allocate 18446744073709551615 bytes for data receiving");
+    }
+}
+
+TEST_P(RawStreamFailures, EveryWaitingCallerIsTold) {
+    LoopbackServer server(GetParam(), [](Peer& peer) {
+        peer.open();
+        for (int i = 0; i < 16; ++i) {
+            peer.receiveFrame();
+        }
+        peer.close();
+    });
+    CRawStreamDispacher dispatcher(0, "", true);
+    std::vector<std::thread> callers;
+    for (int i = 0; i < 16; ++i) {
+        callers.emplace_back([&] {
+            EXPECT_EQ(failureOf(dispatcher, server.url()), "Receive failed (header): " + cut());
+        });
+    }
+    for (std::thread& caller : callers) {
+        caller.join();
+    }
+}
+
+TEST_P(RawStreamFailures, AStreamThatDiedRaisesItsTextAgainWithoutConnecting) {
+    LoopbackServer server(GetParam(), answer(""));
+    CRawStreamDispacher dispatcher(0, "", true);
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(failureOf(dispatcher, server.url()), "Receive failed (header): " + cut());
+    }
+    EXPECT_EQ(server.connections(), 1u);
+}
+
+TEST_P(RawStreamFailures, AStreamThatDiedWhileIdleRaisesItsText) {
+    LoopbackServer server(GetParam(), [](Peer& peer) {
+        peer.open();
+        peer.send(responseFrame(peer.receiveFrame().id, "pong"));
+        peer.close();
+    });
+    CRawStreamDispacher dispatcher(0, "", true);
+    EXPECT_EQ(dispatcher.sendRequest(server.url(), "ping"), "pong");
+    ASSERT_TRUE(server.waitForEnded(1));
+    // The call may come before the end of the stream does; it is told in either case.
+    const std::string text = failureOf(dispatcher, server.url());
+    EXPECT_TRUE(text.starts_with("Receive failed (header): ")) << text;
+    EXPECT_EQ(failureOf(dispatcher, server.url()), text);
+    EXPECT_EQ(server.connections(), 1u);
+}
+
+TEST_P(RawStreamFailures, AConnectThatFailedIsTriedAnew) {
+    const std::string scheme = GetParam() == Mode::tls ? "https" : "http";
+    const std::uint16_t port = support::closedPort();
+    const std::string url = scheme + "://127.0.0.1:" + std::to_string(port) + "/api";
+    CRawStreamDispacher dispatcher(0, "", true);
+    EXPECT_TRUE(failureOf(dispatcher, url).starts_with("Failed to connect to "));
+
+    LoopbackServer server(
+        GetParam(),
+        [](Peer& peer) {
+            peer.open();
+            peer.send(responseFrame(peer.receiveFrame().id, "pong")).expectClose();
+        },
+        port);
+    EXPECT_EQ(dispatcher.sendRequest(url, "ping"), "pong");
+}
+
+TEST_P(RawStreamFailures, WithoutReuseAFailureIsToldAndTheNextCallConnectsAnew) {
+    LoopbackServer server(GetParam(), std::vector<LoopbackServer::Script>{
+                                          answer(""), answer(responseFrame(1, "pong"))});
+    CRawStreamDispacher dispatcher(0, "", false);
+    EXPECT_EQ(failureOf(dispatcher, server.url()), "Receive failed (header): " + cut());
+    EXPECT_EQ(dispatcher.sendRequest(server.url(), "ping"), "pong");
+}
+
+TEST_P(RawStreamFailures, AnAsynchronousCallIsToldOnce) {
+    LoopbackServer server(GetParam(), answer(""));
+    std::promise<std::string> told;
+    CRawStreamDispacher dispatcher(0, "", true);
+    dispatcher.asyncSendRequest(
+        server.url(), "ping", [](const std::string&) { ADD_FAILURE() << "no reply was sent"; },
+        [&](const std::string& text) { told.set_value(text); });
+    EXPECT_EQ(told.get_future().get(), "Receive failed (header): " + cut());
+}
+
+TEST_P(RawStreamFailures, AnAsynchronousCallToADeadStreamIsTold) {
+    LoopbackServer server(GetParam(), answer(""));
+    CRawStreamDispacher dispatcher(0, "", true);
+    const std::string expected = "Receive failed (header): " + cut();
+    EXPECT_EQ(failureOf(dispatcher, server.url()), expected);
+    std::promise<std::string> told;
+    dispatcher.asyncSendRequest(
+        server.url(), "ping", [](const std::string&) { ADD_FAILURE() << "the stream is dead"; },
+        [&](const std::string& text) { told.set_value(text); });
+    EXPECT_EQ(told.get_future().get(), expected);
+    EXPECT_EQ(server.connections(), 1u);
+}
+
+TEST_P(RawStreamFailures, AsynchronousCallsAreToldInTheOrderOfTheirIds) {
+    LoopbackServer server(GetParam(), [](Peer& peer) {
+        peer.open();
+        for (int i = 0; i < 5; ++i) {
+            peer.receiveFrame();
+        }
+        peer.close();
+    });
+    std::vector<int> order;
+    Signal all;
+    CRawStreamDispacher dispatcher(0, "", true);
+    for (int i = 0; i < 5; ++i) {
+        dispatcher.asyncSendRequest(
+            server.url(), "ping", [](const std::string&) { ADD_FAILURE(); },
+            [&, i](const std::string&) {
+                order.push_back(i);
+                if (i == 4) {
+                    all.raise();
+                }
+                throw std::runtime_error("must not keep the others from hearing of it");
+            });
+    }
+    ASSERT_TRUE(all.wait());
+    EXPECT_EQ(order, (std::vector<int>{0, 1, 2, 3, 4}));
+}
+
+TEST_P(RawStreamFailures, AHandlerThatRaisesEndsTheConnectionWithItsText) {
+    LoopbackServer server(GetParam(), [](Peer& peer) {
+        peer.open();
+        peer.send(responseFrame(peer.receiveFrame().id, "pong")).expectClose();
+    });
+    std::promise<std::string> told;
+    CRawStreamDispacher dispatcher(0, "", true);
+    dispatcher.asyncSendRequest(
+        server.url(), "ping",
+        [](const std::string&) { throw std::runtime_error("the handler failed"); },
+        [&](const std::string& text) { told.set_value(text); });
+    EXPECT_EQ(told.get_future().get(), "the handler failed");
+    EXPECT_EQ(failureOf(dispatcher, server.url()), "the handler failed");
+}
+
+TEST_P(RawStreamFailures, AHandlerThatRaisesSomethingWithoutATextClosesTheConnection) {
+    LoopbackServer server(GetParam(), [](Peer& peer) {
+        peer.open();
+        peer.send(responseFrame(peer.receiveFrame().id, "pong")).expectClose();
+    });
+    std::promise<std::string> told;
+    CRawStreamDispacher dispatcher(0, "", true);
+    dispatcher.asyncSendRequest(
+        server.url(), "ping", [](const std::string&) { throw 42; },
+        [&](const std::string& text) { told.set_value(text); });
+    EXPECT_EQ(told.get_future().get(), "Stream connection closed");
+    EXPECT_EQ(dispatcher.sendRequest(server.url(), "ping"), "pong"); // its socket was closed
+    EXPECT_EQ(server.connections(), 2u);
+}
+
+TEST(RawStreamHandshake, APlainServerBehindHttps) {
+    LoopbackServer server(Mode::plain, [](Peer& peer) {
+        peer.receive(1);
+        peer.send("HTTP/1.1 400 Bad Request\r\n\r\n");
+        peer.close();
+    });
+    CRawStreamDispacher dispatcher(0, "", true);
+    const std::string text =
+        failureOf(dispatcher, "https://127.0.0.1:" + std::to_string(server.port()) + "/");
+    EXPECT_TRUE(text.starts_with("SSL Handshake failed. Error ")) << text;
+    EXPECT_TRUE(text.ends_with("(wrong version number)")) << text;
+}
+
+TEST(RawStreamHandshake, APeerThatClosesDuringTheHandshake) {
+    LoopbackServer server(Mode::tls, [](Peer& peer) {
+        peer.receive(5);
+        peer.close();
+    });
+    CRawStreamDispacher dispatcher(0, "", true);
+    EXPECT_TRUE(failureOf(dispatcher, server.url()).starts_with("SSL Handshake failed. Error "));
+}
+
+TEST(RawStreamHandshake, OneThatFailedIsTriedAnew) {
+    LoopbackServer server(Mode::tls,
+                          std::vector<LoopbackServer::Script>{
+                              [](Peer& peer) { peer.close(); },
+                              [](Peer& peer) {
+                                  peer.open();
+                                  peer.send(responseFrame(peer.receiveFrame().id, "pong"));
+                                  peer.expectClose();
+                              }});
+    CRawStreamDispacher dispatcher(0, "", true);
+    EXPECT_TRUE(failureOf(dispatcher, server.url()).starts_with("SSL Handshake failed. Error "));
+    EXPECT_EQ(dispatcher.sendRequest(server.url(), "ping"), "pong");
+}
+
+} // namespace
