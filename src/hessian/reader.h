@@ -28,7 +28,7 @@ struct Cursor {
 
     /// The next bytes are there and are `bytes`.
     bool startsWith(std::string_view bytes) const {
-        return remaining >= bytes.size() && std::memcmp(pos, bytes.data(), bytes.size()) == 0;
+        return remaining >= bytes.size() && std::string_view(pos, bytes.size()) == bytes;
     }
 
     void skip(std::size_t count) {

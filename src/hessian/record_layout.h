@@ -94,7 +94,7 @@ struct RecordLayout {
         []<std::size_t... I>(std::index_sequence<I...>) {
         std::array<MemberPlace, count> result{};
         std::size_t at = mapStartSize;
-        const auto place = [&at](std::string_view key, std::size_t size) {
+        [[maybe_unused]] const auto place = [&at](std::string_view key, std::size_t size) {
             const std::size_t value = at + 3 + key.size();
             const MemberPlace here{at, value, value + size, size != 0};
             at = here.end;
@@ -119,7 +119,7 @@ struct RecordLayout {
         result[0] = 'M';
         put(1, 't', R::wireType);
         (put(places[I].key, 'S', std::get<I>(fields).key), ...);
-        const auto tag = [&result](std::size_t at, std::size_t size) {
+        [[maybe_unused]] const auto tag = [&result](std::size_t at, std::size_t size) {
             if (size != 0)
                 result[at] = size == sizeOfBool ? 'F' : size == sizeOfInt32 ? 'I' : 'L';
         };

@@ -192,10 +192,11 @@ std::uint32_t sizeOfRecord(const R& record) {
     using Layout = RecordLayout<R>;
     std::uint32_t size = Layout::image.size();
     [&]<std::size_t... I>(std::index_sequence<I...>) {
-        const auto add = [&]<std::size_t J>(std::integral_constant<std::size_t, J>) {
-            if constexpr (!Layout::places[J].fixed)
-                size += sizeOfValue(record.*std::get<J>(Layout::fields).member);
-        };
+        [[maybe_unused]] const auto add =
+            [&]<std::size_t J>(std::integral_constant<std::size_t, J>) {
+                if constexpr (!Layout::places[J].fixed)
+                    size += sizeOfValue(record.*std::get<J>(Layout::fields).member);
+            };
         (add(std::integral_constant<std::size_t, I>{}), ...);
     }
     (typename Layout::Indices{});
@@ -210,8 +211,7 @@ void readIfNext(Cursor& in, R& record) {
     using Member = typename Layout::template Member<I>;
     constexpr std::string_view head = Layout::head(I);
     constexpr std::size_t numberSize = Layout::numberSize(I);
-    if (in.remaining < head.size() + numberSize ||
-        std::memcmp(in.pos, head.data(), head.size()) != 0)
+    if (in.remaining < head.size() + numberSize || !in.startsWith(head))
         return;
     in.skip(head.size());
     auto& value = record.*std::get<I>(Layout::fields).member;
@@ -235,7 +235,7 @@ void readByName(Cursor& in, R& record) {
     std::string scratch;
     readMemberName(in, name, scratch);
     const bool known = [&]<std::size_t... I>(std::index_sequence<I...>) {
-        const auto readIf = [&](std::string_view key, const auto& field) {
+        [[maybe_unused]] const auto readIf = [&](std::string_view key, const auto& field) {
             if (name != key)
                 return false;
             readValue(in, record.*field.member);
