@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+
+#include "hessian/reader.h"
+
+namespace simulator {
+
+/// The method's name, read from the head of a call. Raises `Violation` if there is none.
+std::string readCallHead(hessianser::Cursor& in);
+
+} // namespace simulator

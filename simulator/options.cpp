@@ -1,0 +1,122 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "simulator/options.h"
+
+#include <charconv>
+#include <cmath>
+
+namespace simulator {
+namespace {
+
+constexpr std::uint16_t defaultPort = 4411;
+constexpr double fastest = 1'000'000;
+
+template <class Number>
+Number number(const std::string& option, const std::string& text, Number least, Number most) {
+    Number value{};
+    const char* const end = text.data() + text.size();
+    const auto parsed = std::from_chars(text.data(), end, value);
+    if (parsed.ec != std::errc() || parsed.ptr != end || !(value >= least && value <= most))
+        throw BadOption("'" + text + "' is no value for " + option);
+    return value;
+}
+
+/// Hands out the arguments one after the other.
+class Arguments {
+public:
+    explicit Arguments(const std::vector<std::string>& all)
+        : all_(all) {}
+
+    bool empty() const { return next_ == all_.size(); }
+    const std::string& next() { return all_[next_++]; }
+    const std::string& valueOf(const std::string& option) {
+        if (empty())
+            throw BadOption(option + " needs a value");
+        return next();
+    }
+
+private:
+    const std::vector<std::string>& all_;
+    std::size_t next_ = 0;
+};
+
+Scenario scenario(const std::string& name) {
+    const std::optional<Scenario> found = scenarioNamed(name);
+    if (!found)
+        throw BadOption("there is no scenario '" + name + "'");
+    return *found;
+}
+
+void applyValue(Options& options, const std::string& option, const std::string& value) {
+    if (option == "--port")
+        options.port = number<std::uint16_t>(option, value, 0, 65535);
+    else if (option == "--scenario")
+        options.scenario = scenario(value);
+    else if (option == "--user")
+        options.user = value;
+    else if (option == "--password")
+        options.password = value;
+    else if (option == "--domain")
+        options.domains.push_back(value);
+    else if (option == "--speed")
+        options.speed = number<double>(option, value, 1 / fastest, fastest);
+    else if (option == "--log")
+        options.logFile = value;
+    else
+        throw BadOption("there is no option '" + option + "'");
+}
+
+bool takesValue(std::string_view option) {
+    for (const std::string_view known :
+         {"--port", "--scenario", "--user", "--password", "--domain", "--speed", "--log"})
+        if (option == known)
+            return true;
+    return false;
+}
+
+} // namespace
+
+CommandLine parseCommandLine(const std::vector<std::string>& arguments) {
+    CommandLine result;
+    result.options.port = defaultPort;
+    result.options.recordCalls = false;
+    Arguments rest(arguments);
+    while (!rest.empty()) {
+        const std::string option = rest.next();
+        if (option == "--help")
+            result.action = CommandLine::Action::Help;
+        else if (option == "--version")
+            result.action = CommandLine::Action::Version;
+        else if (option == "--plain")
+            result.options.plain = true;
+        else if (option == "--no-guest")
+            result.options.guest = false;
+        else if (takesValue(option))
+            applyValue(result.options, option, rest.valueOf(option));
+        else
+            throw BadOption("there is no option '" + option + "'");
+    }
+    return result;
+}
+
+std::string_view helpText() {
+    return R"(Usage: tarn-agent-simulator [option...]
+
+A backup agent to show and to test the client with. It listens on 127.0.0.1 only.
+
+  --port PORT          listen on this port; 0 takes a free one (default 4411)
+  --scenario NAME      what the agent holds: default, empty, central, notebook,
+                       first-run, unix or large
+  --user NAME          who may log in (default demo)
+  --password TEXT      with which password (default demo)
+  --domain NAME        a domain that the user may belong to; may be repeated
+  --no-guest           refuse a login with an empty user name
+  --speed FACTOR       let activities run this much faster (default 1)
+  --log FILE           write a line for each call
+  --plain              no TLS
+  --help               show this text
+  --version            show the version
+)";
+}
+
+} // namespace simulator

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include "simulator/objects/servant.h"
+#include "simulator/world/world.h"
+
+namespace simulator {
+
+class BackupSetItem;
+
+/// A backup set; on a Windows agent it is a `Win32FS_BackupSet` too.
+class BackupSet final : public Servant {
+public:
+    static constexpr std::string_view family = "BackupSet";
+
+    BackupSet(std::shared_ptr<Session> opened, World& world, World::Set set);
+
+    const World::Set& set() const { return set_; }
+    std::string label() const override;
+
+private:
+    void offerFigures();
+    void offerSettings();
+    void offerActivities();
+
+    hessiancln::backup_set_status status() const;
+    hessiancln::backup_set_overview_info overview() const;
+    std::vector<std::shared_ptr<BackupSetItem>> items() const;
+
+    World& world_;
+    World::Set set_;
+};
+
+} // namespace simulator

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "simulator/remote/client_connection.h"
+
+#include "simulator/remote/backup_set.h"
+#include "simulator/remote/generic_activity.h"
+#include "simulator/remote/system_activity_manager.h"
+#include "simulator/remote/tfa_manager.h"
+
+namespace simulator {
+
+ClientConnection::ClientConnection(std::shared_ptr<Session> opened, World& world)
+    : Servant(std::move(opened))
+    , world_(world) {
+    implements("ClientConnection");
+    on("getTarnClientType", [this] { return world_.clientType; });
+    on("logout", [this] { session()->ended = true; });
+    on("getTarnClientInfo", [this] { return world_.about; });
+
+    on("backup_sets_info", [this] {
+        std::vector<hessiancln::backup_set_info> list;
+        for (const auto& set : world_.sets())
+            list.push_back(set->info);
+        return list;
+    });
+    on("backup_set", [this](std::int32_t id) {
+        const World::Set set = world_.set(id);
+        if (!set)
+            throw Refusal("There is no backup set with the id " + std::to_string(id) + ".");
+        return std::make_shared<BackupSet>(session(), world_, set);
+    });
+
+    on("running_activities", [this] { return world_.running(); });
+    on("activity", [this](std::int32_t id) {
+        if (!world_.isRunning(id))
+            throw Refusal("There is no running activity with the id " + std::to_string(id) + ".");
+        return std::make_shared<GenericActivity>(session(), world_, id);
+    });
+    on("activity_log",
+       [this](std::int32_t from, std::int32_t to) { return world_.activityLog(from, to); });
+    on("event_log", [this](std::int32_t from, std::int32_t to, std::int32_t activityId) {
+        return world_.eventLog(from, to, activityId);
+    });
+
+    on("getTFAManager", [this] { return std::make_shared<TFAManager>(session(), world_); });
+    on("getSystemActivityManager",
+       [this] { return std::make_shared<SystemActivityManager>(session(), world_); });
+}
+
+} // namespace simulator

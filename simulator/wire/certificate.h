@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <boost/asio/ssl/context.hpp>
+
+namespace simulator::wire {
+
+/// A server's TLS context with a fresh key and a certificate that it signed itself, both in
+/// memory only. Raises `std::runtime_error`.
+boost::asio::ssl::context selfSignedContext();
+
+} // namespace simulator::wire

@@ -1,0 +1,241 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "simulator/wire/connection.h"
+
+#include <deque>
+#include <optional>
+#include <type_traits>
+#include <utility>
+
+#include <boost/asio/read.hpp>
+#include <boost/asio/ssl/stream.hpp>
+#include <boost/asio/steady_timer.hpp>
+#include <boost/asio/write.hpp>
+#include <boost/beast/core/flat_buffer.hpp>
+#include <boost/beast/http/parser.hpp>
+#include <boost/beast/http/read.hpp>
+#include <boost/beast/http/string_body.hpp>
+
+#include "simulator/wire/frame.h"
+
+namespace simulator::wire {
+namespace {
+
+namespace asio = boost::asio;
+namespace beast = boost::beast;
+namespace http = beast::http;
+using boost::system::error_code;
+using tcp = asio::ip::tcp;
+using TlsStream = asio::ssl::stream<tcp::socket>;
+
+template <class Stream>
+constexpr bool isTls = std::is_same_v<Stream, TlsStream>;
+
+HttpRequest plainRequest(const http::request<http::string_body>& parsed) {
+    HttpRequest request;
+    request.method = std::string(parsed.method_string());
+    request.target = std::string(parsed.target());
+    for (const auto& field : parsed)
+        request.headers.emplace_back(std::string(field.name_string()), std::string(field.value()));
+    request.body = parsed.body();
+    return request;
+}
+
+template <class Stream>
+class StreamConnection final : public Connection,
+                               public std::enable_shared_from_this<StreamConnection<Stream>> {
+public:
+    template <class... TlsContext>
+    StreamConnection(Exchange& exchange, tcp::socket socket, TlsContext&... context)
+        : exchange_(exchange)
+        , stream_(std::move(socket), context...) {}
+
+    void start() override {
+        error_code ignored;
+        socket().set_option(tcp::no_delay(true), ignored);
+        if constexpr (isTls<Stream>) {
+            const auto self = this->shared_from_this();
+            stream_.async_handshake(asio::ssl::stream_base::server, [self](error_code error) {
+                if (!error)
+                    self->sniff();
+            });
+        } else {
+            sniff();
+        }
+    }
+
+    void cut() override {
+        error_code ignored;
+        socket().shutdown(tcp::socket::shutdown_both, ignored);
+        socket().close(ignored);
+    }
+
+private:
+    struct Outgoing {
+        std::string bytes;
+        bool last;
+    };
+
+    tcp::socket& socket() {
+        if constexpr (isTls<Stream>)
+            return stream_.next_layer();
+        else
+            return stream_;
+    }
+
+    std::string_view received() const {
+        const auto data = buffer_.data();
+        return {static_cast<const char*>(data.data()), data.size()};
+    }
+
+    /// Reads until there are `size` bytes, then goes on with `next`.
+    void readUpTo(std::size_t size, void (StreamConnection::*next)()) {
+        const auto self = this->shared_from_this();
+        asio::async_read(stream_, buffer_, asio::transfer_at_least(size - received().size()),
+                         [self, next](error_code error, std::size_t) {
+                             if (!error)
+                                 ((*self).*next)();
+                         });
+    }
+
+    /// The first bytes tell a client that posts from one that sends frames.
+    void sniff() {
+        const std::string_view begun = received().substr(0, requestMagic.size());
+        if (begun.empty() || (begun.size() < requestMagic.size() && begun.front() == '@'))
+            readUpTo(begun.size() + 1, &StreamConnection::sniff);
+        else if (begun.front() == '@')
+            takeFrames();
+        else
+            readRequest();
+    }
+
+    void takeFrames() {
+        try {
+            for (;;) {
+                const auto parsed = parseRequest(received());
+                if (const auto* more = std::get_if<Incomplete>(&parsed))
+                    return readUpTo(more->size, &StreamConnection::takeFrames);
+                const auto& frame = std::get<RequestFrame>(parsed);
+                const CallMessage call{Channel::Stream, std::string(frame.url), frame.message};
+                deliver(exchange_.answer(call), frame.id);
+                if (!socket().is_open())
+                    return;
+                buffer_.consume(frame.size);
+            }
+        } catch (const BadFrame& bad) {
+            exchange_.reportViolation(bad.what());
+            cut();
+        }
+    }
+
+    void deliver(Answer answer, std::uint32_t id) {
+        if (answer.silent)
+            return;
+        std::string frame = responseFrame(id, answer.message);
+        if (answer.wrongMagic)
+            frame.replace(0, responseMagic.size(), "@ERR");
+        if (answer.wrongChecksum)
+            frame.back() = static_cast<char>(frame.back() ^ 1);
+        sendLater(std::move(frame), answer);
+    }
+
+    void readRequest() {
+        parser_.emplace();
+        parser_->body_limit(maximumCall);
+        const auto self = this->shared_from_this();
+        http::async_read(stream_, buffer_, *parser_,
+                         [self](error_code error, std::size_t) { self->takeRequest(error); });
+    }
+
+    void takeRequest(error_code error) {
+        if (error == http::error::end_of_stream || error == asio::error::eof)
+            return cut();
+        if (error) {
+            // Other failures are the socket's own.
+            if (error.category() == http::make_error_code(http::error::bad_method).category())
+                refuse({{400, "Bad Request"}, "neither HTTP nor a frame: " + error.message()});
+            return;
+        }
+        const HttpRequest request = plainRequest(parser_->get());
+        const bool keepAlive = parser_->get().keep_alive();
+        std::optional<Refused> refused = checkRequest(request);
+        if (refused)
+            return refuse(*refused);
+        const std::string scheme = isTls<Stream> ? "https://" : "http://";
+        const std::string url = scheme + *request.header("Host") + request.target;
+        if (!exchange_.knowsObject(url))
+            return refuse({{404, "Not Found"}, "no object has the URL " + url});
+        const Answer answer = exchange_.answer({Channel::Http, url, request.body});
+        if (answer.silent)
+            return waitForClose();
+        const HttpStatus status = answer.status.value_or(HttpStatus{200, "OK"});
+        sendLater(httpResponse(status, answer.status ? "" : answer.message, keepAlive), answer,
+                  !keepAlive);
+        if (keepAlive)
+            readRequest();
+    }
+
+    void refuse(const Refused& refused) {
+        exchange_.reportViolation(refused.why);
+        send(httpResponse(refused.status, refused.why + "\n", false), true);
+    }
+
+    /// Holds the connection open until the other side gives up.
+    void waitForClose() { readUpTo(received().size() + 1, &StreamConnection::waitForClose); }
+
+    void sendLater(std::string bytes, const Answer& answer, bool last = false) {
+        if (answer.cutAt)
+            bytes.resize(std::min(*answer.cutAt, bytes.size()));
+        last = last || answer.cutAt || answer.cutBehind;
+        if (answer.delay.count() == 0)
+            return send(std::move(bytes), last);
+        const auto timer = std::make_shared<asio::steady_timer>(stream_.get_executor());
+        timer->expires_after(answer.delay);
+        const auto self = this->shared_from_this();
+        timer->async_wait([self, timer, last, bytes = std::move(bytes)](error_code error) mutable {
+            if (!error)
+                self->send(std::move(bytes), last);
+        });
+    }
+
+    void send(std::string bytes, bool last) {
+        outgoing_.push_back({std::move(bytes), last});
+        if (outgoing_.size() == 1)
+            writeNext();
+    }
+
+    void writeNext() {
+        if (outgoing_.front().bytes.empty())
+            return cut();
+        const auto self = this->shared_from_this();
+        asio::async_write(stream_, asio::buffer(outgoing_.front().bytes),
+                          [self](error_code error, std::size_t) { self->written(error); });
+    }
+
+    void written(error_code error) {
+        if (error || outgoing_.front().last)
+            return cut();
+        outgoing_.pop_front();
+        if (!outgoing_.empty())
+            writeNext();
+    }
+
+    Exchange& exchange_;
+    Stream stream_;
+    beast::flat_buffer buffer_;
+    std::optional<http::request_parser<http::string_body>> parser_;
+    std::deque<Outgoing> outgoing_;
+};
+
+} // namespace
+
+std::shared_ptr<Connection> makePlainConnection(tcp::socket socket, Exchange& exchange) {
+    return std::make_shared<StreamConnection<tcp::socket>>(exchange, std::move(socket));
+}
+
+std::shared_ptr<Connection> makeTlsConnection(tcp::socket socket, asio::ssl::context& context,
+                                              Exchange& exchange) {
+    return std::make_shared<StreamConnection<TlsStream>>(exchange, std::move(socket), context);
+}
+
+} // namespace simulator::wire

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "simulator/wire/http_rules.h"
+
+namespace simulator::wire {
+
+enum class Channel { Http, Stream };
+
+/// A call message and the URL of the object that it goes to.
+struct CallMessage {
+    Channel channel;
+    std::string url;
+    std::string_view bytes;
+};
+
+/// What goes back for a call, and what is done to it on the way.
+struct Answer {
+    std::string message;
+    std::chrono::milliseconds delay{0};
+    bool silent = false;
+    /// In place of a body, over HTTP.
+    std::optional<HttpStatus> status;
+    bool wrongMagic = false;
+    bool wrongChecksum = false;
+    /// The connection is closed behind so many bytes of the frame or of the response.
+    std::optional<std::size_t> cutAt;
+    bool cutBehind = false;
+};
+
+/// What stands behind the wire. Called on the I/O thread only.
+class Exchange {
+public:
+    virtual ~Exchange() = default;
+
+    virtual Answer answer(const CallMessage& call) = 0;
+
+    /// Whether an object of this URL is or was there.
+    virtual bool knowsObject(const std::string& url) = 0;
+
+    /// Tells of bytes that were refused before they became a call.
+    virtual void reportViolation(const std::string& text) = 0;
+};
+
+} // namespace simulator::wire

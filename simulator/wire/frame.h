@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <variant>
+
+/// The frames of the long-lived stream as the agent sees them: it takes requests and gives
+/// responses. Integers are big-endian; the checksum is CRC-32 and covers all behind the magic.
+namespace simulator::wire {
+
+inline constexpr std::string_view requestMagic = "@REQ";
+inline constexpr std::string_view responseMagic = "@RSP";
+
+/// The longest URL and the longest call that a client has a reason to send.
+inline constexpr std::uint32_t maximumUrl = 4096;
+inline constexpr std::uint64_t maximumCall = 64u << 20;
+
+/// Bytes that no right client sends. The stream can't be followed behind them.
+class BadFrame : public std::runtime_error {
+public:
+    using runtime_error::runtime_error;
+};
+
+/// There must be `size` bytes before it can be told how the frame goes on.
+struct Incomplete {
+    std::size_t size;
+};
+
+/// A whole request. The texts point into the bytes that were parsed.
+struct RequestFrame {
+    std::uint32_t id;
+    std::string_view url;
+    std::string_view message;
+    std::size_t size;
+};
+
+/// Looks at the head of `bytes`. Raises `BadFrame`.
+std::variant<Incomplete, RequestFrame> parseRequest(std::string_view bytes);
+
+std::string responseFrame(std::uint32_t id, std::string_view message);
+
+std::uint32_t checksum(std::string_view bytes);
+
+} // namespace simulator::wire

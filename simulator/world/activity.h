@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "api/activity_records.h"
+#include "simulator/world/clock.h"
+
+namespace simulator {
+
+/// How the agent counts the ends of activities.
+enum class Ending { Completed = 0, WithErrors = 1, WithWarnings = 2, Stopped = 3 };
+
+/// What an activity is going to do.
+struct ActivityPlan {
+    hessiancln::ActivityType type{};
+    std::string description;
+    std::string user;
+    std::int32_t set_id = 0;
+    std::int32_t schedule_id = 0;
+    std::int32_t files = 0;
+    std::int64_t bytes = 0;
+    Milliseconds duration = 0; ///< at speed 1
+    std::vector<std::string> directories;
+    std::int32_t errors = 0;
+    std::int32_t warnings = 0;
+    /// Called once when it has ended, with what it did.
+    std::function<void(const hessiancln::activity_log_info&)> ended;
+};
+
+/// An activity under way. All it shows follows from the time, so it needs no timer.
+class Activity {
+public:
+    Activity(std::int32_t id, ActivityPlan plan, Milliseconds start, double speed);
+
+    std::int32_t id() const { return id_; }
+    Milliseconds end() const { return end_; }
+    const ActivityPlan& plan() const { return plan_; }
+
+    /// As the list of running activities has it.
+    hessiancln::running_activity_info at(Milliseconds now) const;
+
+    /// The row of the log if it ends now, before its time if `stopped`.
+    hessiancln::activity_log_info outcome(Milliseconds now, bool stopped) const;
+
+private:
+    /// How much of the data is done, 0 to 1: nothing while it connects and scans.
+    double share(Milliseconds now) const;
+    double progress(Milliseconds now) const;
+    std::string status(Milliseconds now) const;
+
+    std::int32_t id_;
+    ActivityPlan plan_;
+    Milliseconds start_;
+    Milliseconds end_;
+};
+
+} // namespace simulator

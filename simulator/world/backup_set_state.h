@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "api/backup_set_records.h"
+
+namespace simulator {
+
+/// An item of a set: what it takes in or leaves out.
+struct ItemState {
+    enum class Kind { Inclusion = 0, Exclusion = 1, Regex = 2 } kind = Kind::Inclusion;
+    std::string computer;
+    std::string folder;
+    std::int32_t generations = 9999;
+};
+
+/// All that the agent knows of a set. The figures stand in `info`, which is what lists show.
+struct BackupSetState {
+    hessiancln::backup_set_info info;
+    std::int32_t leastGenerations = -1;
+    std::int32_t mostGenerations = 0;
+    hessiancln::ScheduleDetailType scheduleType{};
+    std::vector<ItemState> items;
+    std::vector<hessiancln::backup_sessions> sessions; ///< oldest first
+    std::string localStoragePath;
+    bool usingLocalTransmissionCache = false;
+    bool useVss = true;
+};
+
+} // namespace simulator

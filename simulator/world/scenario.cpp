@@ -1,0 +1,230 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "simulator/world/scenario.h"
+
+#include <array>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "simulator/world/history.h"
+#include "simulator/world/world.h"
+
+namespace simulator {
+namespace {
+
+using hessiancln::ActivityType;
+using hessiancln::BackupDataType;
+using hessiancln::ScheduleDetailType;
+
+constexpr std::int64_t mebibyte = 1 << 20;
+constexpr std::int64_t gibibyte = 1 << 30;
+
+constexpr std::array<std::pair<std::string_view, Scenario>, 7> names{{
+    {"default", Scenario::Default},
+    {"empty", Scenario::Empty},
+    {"central", Scenario::Central},
+    {"notebook", Scenario::Notebook},
+    {"first-run", Scenario::FirstRun},
+    {"unix", Scenario::Unix},
+    {"large", Scenario::Large},
+}};
+
+/// What a set starts with; the rest follows.
+struct SetDescription {
+    std::string name;
+    std::vector<std::string> folders;
+    std::int64_t size;
+    std::int32_t files;
+};
+
+BackupSetState describedSet(const std::string& computer, const SetDescription& described) {
+    BackupSetState set;
+    auto& info = set.info;
+    info.computer = computer;
+    info.name = described.name;
+    info.is_active = true;
+    info.in_sync = true;
+    info.has_items = !described.folders.empty();
+    info.owner_id = 1;
+    info.owner_name = "anna";
+    info.retention_rule_id = 1;
+    info.retention_rule_name = "Standard retention";
+    info.schedule_id = 1;
+    info.schedule_name = "Every evening";
+    info.online_data_size = described.size;
+    info.online_file_count = described.files;
+    info.tarnsys_compressed_size = described.size * 58 / 100;
+    set.scheduleType = ScheduleDetailType::Weekly;
+    set.leastGenerations = described.folders.empty() ? -1 : 1;
+    set.mostGenerations = described.folders.empty() ? 0 : 30;
+    for (const std::string& folder : described.folders)
+        set.items.push_back({ItemState::Kind::Inclusion, computer, folder});
+    return set;
+}
+
+void tell(World& world, const std::string& name, const std::string& value) {
+    world.about.push_back({name, value});
+}
+
+void describeAgent(World& world, const std::string& system, bool central, bool firstRun) {
+    tell(world, "Computer", world.computer);
+    tell(world, "Operating System", system);
+    tell(world, "Tarn-Client Version", "14.2.0.1180");
+    tell(world, "Database", "Embedded, 214 MB");
+    tell(world, "Account", firstRun ? "" : "OSTRAND-40117");
+    tell(world, "Client Number", firstRun ? "" : "A4C1-0093-17");
+    tell(world, "Tarn-System", firstRun ? "" : "vault1.example.net");
+    tell(world, "Centrally Managed Backup Policy", central ? "Yes" : "No");
+    tell(world, "InitialClient", firstRun ? "Yes" : "No");
+}
+
+const std::string windows = "Windows 11 Pro 23H2 (build 22631)";
+
+void addDiligentSets(World& world, History& history) {
+    const std::string home = "C:\\Users\\anna\\";
+    const auto documents = world.addSet(
+        describedSet(world.computer,
+                     {"Documents", {home + "Documents", home + "Desktop"}, 38 * gibibyte, 84'211}));
+    const auto pictures = world.addSet(describedSet(
+        world.computer,
+        {"Pictures and Videos", {home + "Pictures", home + "Videos"}, 412 * gibibyte, 61'730}));
+    const auto mail = world.addSet(
+        describedSet(world.computer, {"Mail archive", {"D:\\Mail"}, 17 * gibibyte, 318}));
+    const auto projects = world.addSet(
+        describedSet(world.computer,
+                     {"Kundenprojekte Müller & Söhne", {"D:\\Projects"}, 96 * gibibyte, 203'448}));
+    history.dailyBackups(documents, 45, 20);
+    history.dailyBackups(pictures, 45, 21);
+    history.dailyBackups(mail, 30, 12);
+    history.dailyBackups(projects, 30, 19);
+    history.run(documents, ActivityType::Restore, 9'400, 75, 3, 12 * mebibyte);
+    history.run(projects, ActivityType::Synchronization, 15'000, 48, 203'448, 0);
+    history.run(pictures, ActivityType::Delete, 52'000, 31, 1'204, 3 * gibibyte);
+
+    projects->info.schedule_id = 2;
+    projects->info.schedule_name = "First of the month";
+    projects->scheduleType = ScheduleDetailType::Monthly;
+    mail->info.using_local_storage = true;
+    mail->localStoragePath = "E:\\LocalStorage";
+    mail->info.local_storage_data_size = 17 * gibibyte;
+    mail->info.local_storage_file_count = 318;
+}
+
+/// Sets that need attention, and one that this client doesn't list.
+void addOddSets(World& world) {
+    auto lost = describedSet(world.computer, {"Old workstation", {}, 54 * gibibyte, 40'127});
+    lost.info.computer = "HP-8200";
+    lost.info.retention_rule_id = 0;
+    lost.info.retention_rule_name.clear();
+    lost.info.schedule_id = -1;
+    lost.info.schedule_name.clear();
+    lost.info.last_sync_time = seconds(world.now()) - 3 * 86'400;
+    world.addSet(std::move(lost));
+
+    auto stale = describedSet(world.computer, {"Tax returns", {"D:\\Tax"}, 2 * gibibyte, 1'940});
+    stale.info.in_sync = false;
+    stale.info.retention_rule_id = 0;
+    stale.info.retention_rule_name.clear();
+    stale.mostGenerations = 7;
+    world.addSet(std::move(stale));
+
+    auto database = describedSet(world.computer, {"Inventory", {"INVENTORY"}, gibibyte, 3});
+    database.info.data_type = BackupDataType::MSSQLServer;
+    world.addSet(std::move(database));
+
+    auto fresh = describedSet(world.computer, {"Music", {"D:\\Music"}, 0, 0});
+    fresh.mostGenerations = 1;
+    fresh.info.schedule_id = -1;
+    fresh.info.schedule_name.clear();
+    world.addSet(std::move(fresh));
+}
+
+void populateWindows(World& world, bool central) {
+    world.computer = "ANNA-LAPTOP";
+    describeAgent(world, windows, central, false);
+    History history(world);
+    addDiligentSets(world, history);
+    history.adminRuns(45);
+    history.write();
+    addOddSets(world);
+    if (central)
+        for (std::size_t i = 0; i < 3; ++i)
+            world.sets()[i]->info.is_created_by_policy = true;
+    ActivityPlan plan = world.backupOf(world.sets()[1], "anna");
+    plan.files = 3'120;
+    plan.bytes = 6 * gibibyte;
+    plan.duration = 420'000;
+    world.start(std::move(plan));
+}
+
+void populateUnix(World& world) {
+    world.computer = "build01.example.net";
+    world.pathsOfWindows = false;
+    describeAgent(world, "Debian GNU/Linux 12, kernel 6.1.0", false, false);
+    History history(world);
+    const auto home = world.addSet(
+        describedSet(world.computer, {"Home directories", {"/home"}, 128 * gibibyte, 512'303}));
+    const auto settings = world.addSet(
+        describedSet(world.computer, {"System settings", {"/etc", "/usr/local"}, gibibyte, 9'120}));
+    history.dailyBackups(home, 30, 2);
+    history.dailyBackups(settings, 30, 3);
+    history.adminRuns(30);
+    history.write();
+}
+
+void populateLarge(World& world) {
+    world.computer = "ANNA-LAPTOP";
+    describeAgent(world, windows, false, false);
+    constexpr int setCount = 2'000;
+    constexpr std::size_t rowCount = 100'000;
+    for (int i = 1; i <= setCount; ++i) {
+        const std::string number = std::to_string(i);
+        const std::string computer = "WS-" + std::string(4 - number.size(), '0') + number;
+        world.addSet(describedSet(
+            computer, {"Documents of department " + number,
+                       {"D:\\Departments\\" + number},
+                       world.random().between(1, 400) * gibibyte,
+                       static_cast<std::int32_t>(world.random().between(1'000, 90'000))}));
+    }
+    History history(world);
+    history.bulk(rowCount);
+    history.write();
+}
+
+void populateBare(World& world, bool firstRun) {
+    world.computer = "ANNA-LAPTOP";
+    describeAgent(world, windows, false, firstRun);
+    if (firstRun)
+        world.customer = {};
+}
+
+} // namespace
+
+std::optional<Scenario> scenarioNamed(std::string_view name) {
+    for (const auto& [known, scenario] : names)
+        if (known == name)
+            return scenario;
+    return std::nullopt;
+}
+
+void populate(World& world, Scenario scenario) {
+    world.clientType = scenario == Scenario::Notebook ? 14 : 8;
+    switch (scenario) {
+    case Scenario::Default:
+    case Scenario::Notebook:
+        return populateWindows(world, false);
+    case Scenario::Central:
+        return populateWindows(world, true);
+    case Scenario::Unix:
+        return populateUnix(world);
+    case Scenario::Large:
+        return populateLarge(world);
+    case Scenario::Empty:
+        return populateBare(world, false);
+    case Scenario::FirstRun:
+        return populateBare(world, true);
+    }
+}
+
+} // namespace simulator

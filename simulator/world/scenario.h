@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+namespace simulator {
+
+/// What kind of agent there is, and what it holds.
+enum class Scenario {
+    Default,  ///< the notebook of somebody who backs up diligently, with a backup under way
+    Empty,    ///< no sets, nothing ever ran
+    Central,  ///< sets that come from a central policy
+    Notebook, ///< an agent of the notebook kind
+    FirstRun, ///< never configured
+    Unix,     ///< an agent on a Unix computer
+    Large,    ///< 2,000 sets and 100,000 rows in the activity log
+};
+
+/// By the names of the command line: "default", "first-run" and so on.
+std::optional<Scenario> scenarioNamed(std::string_view name);
+
+class World;
+
+/// Fills an empty world.
+void populate(World& world, Scenario scenario);
+
+} // namespace simulator

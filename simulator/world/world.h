@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "api/activity_records.h"
+#include "api/backup_set_records.h"
+#include "api/event_records.h"
+#include "api/tarn_client_info.h"
+#include "api/user_email.h"
+#include "api/user_info.h"
+#include "simulator/world/activity.h"
+#include "simulator/world/backup_set_state.h"
+#include "simulator/world/clock.h"
+#include "simulator/world/random.h"
+
+namespace simulator {
+
+/// What the agent has and does, without any wire. Times follow the clock that it was given; the
+/// rest follows the seed, so that equal clocks and seeds make equal worlds.
+class World {
+public:
+    using Set = std::shared_ptr<BackupSetState>;
+
+    World(Clock clock, double speed, std::uint64_t seed);
+
+    Milliseconds now() const { return clock_(); }
+    Random& random() { return random_; }
+
+    /// Ends what has come to its end by now.
+    void advance();
+
+    std::int32_t clientType = 8;
+    bool pathsOfWindows = true;
+    std::string computer;
+    std::vector<hessiancln::tarn_client_info> about;
+    hessiancln::user_info customer{276, hessiancln::EmployeeCountCode::UpTo50,
+                                   hessiancln::IndustryCode::Computer};
+    bool twoFactor = false;
+    std::vector<hessiancln::user_email> userEmails;
+
+    /// In the order of the lists.
+    const std::vector<Set>& sets() const { return sets_; }
+    /// Null if there is none.
+    Set set(std::int32_t id) const;
+    /// Gives the set an id and puts it behind the others.
+    Set addSet(BackupSetState state);
+    void removeSet(std::int32_t id);
+
+    /// Begins an activity and gives it an id.
+    std::int32_t start(ActivityPlan plan);
+    /// False if no such activity is under way.
+    bool stop(std::int32_t activityId);
+    bool isRunning(std::int32_t activityId) const;
+    std::vector<hessiancln::running_activity_info> running() const;
+
+    /// A row of the past, older than all that follow. Its id is given.
+    std::int32_t addToLog(hessiancln::activity_log_info row);
+    void addEvent(hessiancln::event_log_info event);
+    /// The events that the end of an activity leaves.
+    void reportEnd(const hessiancln::activity_log_info& row);
+
+    /// The rows that touch the span, both ends included, in seconds.
+    std::vector<hessiancln::activity_log_info> activityLog(std::int32_t from,
+                                                           std::int32_t to) const;
+    /// The events of one activity, or of the span if `activityId` is 0.
+    std::vector<hessiancln::event_log_info> eventLog(std::int32_t from, std::int32_t to,
+                                                     std::int32_t activityId) const;
+    /// The newest row of that kind for that set; an empty row if there is none.
+    hessiancln::activity_log_info lastActivity(std::int32_t setId,
+                                               hessiancln::ActivityType type) const;
+
+    /// What a backup of the set would do now.
+    ActivityPlan backupOf(const Set& set, const std::string& user);
+    ActivityPlan synchronisationOf(const Set& set, const std::string& user);
+
+private:
+    void end(std::vector<Activity>::iterator activity, Milliseconds when, bool stopped);
+
+    Clock clock_;
+    double speed_;
+    Random random_;
+    std::int32_t lastSetId_ = 0;
+    std::int32_t lastActivityId_ = 1000;
+    std::vector<Set> sets_;
+    std::vector<Activity> running_;
+    std::vector<hessiancln::activity_log_info> log_;
+    std::vector<hessiancln::event_log_info> events_;
+};
+
+} // namespace simulator
