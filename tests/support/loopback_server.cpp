@@ -3,6 +3,7 @@
 #include "tests/support/loopback_server.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <csignal>
 #include <cstring>
@@ -34,13 +35,22 @@ constexpr int patience = 20; // seconds
     throw std::runtime_error("peer: " + what);
 }
 
-std::uint32_t crc32(std::string_view bytes) {
-    std::uint32_t crc = 0xFFFFFFFF;
-    for (const char c : bytes) {
-        crc ^= static_cast<unsigned char>(c);
+constexpr std::array<std::uint32_t, 256> crcTable = [] {
+    std::array<std::uint32_t, 256> table{};
+    for (std::uint32_t byte = 0; byte < 256; ++byte) {
+        std::uint32_t crc = byte;
         for (int bit = 0; bit < 8; ++bit) {
             crc = (crc >> 1) ^ ((crc & 1) != 0 ? 0xEDB88320 : 0);
         }
+        table[byte] = crc;
+    }
+    return table;
+}();
+
+std::uint32_t crc32(std::string_view bytes) {
+    std::uint32_t crc = 0xFFFFFFFF;
+    for (const char c : bytes) {
+        crc = (crc >> 8) ^ crcTable[(crc ^ static_cast<unsigned char>(c)) & 0xFF];
     }
     return ~crc;
 }

@@ -24,7 +24,7 @@ struct RequestFrame {
     std::string message;
 };
 
-/// The bytes of a response frame, with a checksum worked out bit by bit.
+/// The bytes of a response frame, with a checksum of the server's own making.
 std::string responseFrame(std::uint32_t id, std::string_view message);
 
 /// The server's end of one connection: the verbs of a script. Every verb raises when the other

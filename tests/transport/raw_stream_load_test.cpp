@@ -1,0 +1,106 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+// Much of everything: many calls, much data.
+#include <fstream>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <unistd.h>
+
+#include "tests/support/bytes.h"
+#include "tests/transport/raw_stream_fixture.h"
+#include "transport/raw_stream_dispatcher.h"
+
+namespace {
+
+using namespace hessiancln;
+using support::bytes;
+using support::LoopbackServer;
+using support::Peer;
+using support::RequestFrame;
+using support::responseFrame;
+
+class RawStreamLoad : public RawStream {};
+
+TARN_ON_PLAIN_AND_TLS(RawStreamLoad);
+
+/// Bytes of memory that the process has touched.
+std::size_t residentSize() {
+    std::size_t total = 0;
+    std::size_t resident = 0;
+    std::ifstream("/proc/self/statm") >> total >> resident;
+    return resident * static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
+}
+
+TEST_P(RawStreamLoad, CarriesAHundredThousandCallsInARow) {
+    constexpr int calls = 100'000;
+    LoopbackServer server(GetParam(), [](Peer& peer) {
+        peer.open();
+        for (int i = 0; i < calls; ++i) {
+            const RequestFrame frame = peer.receiveFrame();
+            peer.send(responseFrame(frame.id, frame.message));
+        }
+        peer.expectClose();
+    });
+    CRawStreamDispacher dispatcher(0, "", true);
+    const std::string url = server.url();
+    for (int i = 0; i < calls; ++i) {
+        const std::string message = std::to_string(i);
+        ASSERT_EQ(dispatcher.sendRequest(url, message), message);
+    }
+    EXPECT_EQ(server.connections(), 1u);
+}
+
+TEST_P(RawStreamLoad, CarriesAReplyOf64MiBWithoutASecondCopy) {
+    constexpr std::size_t size = 64 * 1024 * 1024;
+    std::string reply(size, '\0');
+    for (std::size_t i = 0; i < size; ++i) {
+        reply[i] = static_cast<char>(i * 2654435761u >> 13);
+    }
+    const std::string frame = responseFrame(1, reply);
+    LoopbackServer server(GetParam(), [&](Peer& peer) {
+        peer.open().receiveFrame();
+        peer.send(frame).expectClose();
+    });
+    CRawStreamDispacher dispatcher(0, "", true);
+    const std::size_t before = residentSize();
+    const std::string received = dispatcher.sendRequest(server.url(), "ping");
+    const std::size_t grown = residentSize() - before;
+    EXPECT_TRUE(received == reply);
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+    EXPECT_LT(grown, size + size / 4);
+#endif
+    RecordProperty("grown", static_cast<int>(grown / 1024));
+}
+
+TEST_P(RawStreamLoad, ALengthThatIsOnlyClaimedTouchesNoMemory) {
+    // The largest length that is taken at all, with only the start of its data behind it.
+    LoopbackServer server(GetParam(), [&](Peer& peer) {
+        peer.open().receiveFrame();
+        peer.send(bytes("'@RSP' 00 00 00 01 00 00 00 00 FF FF FF FF 'only this'"));
+        peer.close();
+    });
+    CRawStreamDispacher dispatcher(0, "", true);
+    const std::size_t before = residentSize();
+    const std::string text = failureOf(dispatcher, server.url());
+    // Where the system doesn't promise that much memory, it is refused.
+    EXPECT_TRUE(text == "Receive failed (data): " + cut() ||
+                text == "Failed to allocate 4294968320 bytes for data receiving")
+        << text;
+    EXPECT_LT(residentSize(), before + 16 * 1024 * 1024);
+}
+
+TEST_P(RawStreamLoad, ALengthThatIsRefusedTouchesNoMemory) {
+    LoopbackServer server(GetParam(), [&](Peer& peer) {
+        peer.open().receiveFrame();
+        peer.send(bytes("'@RSP' 00 00 00 01 00 00 01 00 00 00 00 00"));
+        peer.receiveUntilClose();
+    });
+    CRawStreamDispacher dispatcher(0, "", true);
+    const std::size_t before = residentSize();
+    EXPECT_TRUE(failureOf(dispatcher, server.url()).starts_with("Failed to allocate "));
+    EXPECT_LT(residentSize(), before + 16 * 1024 * 1024);
+}
+
+} // namespace
