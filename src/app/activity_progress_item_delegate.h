@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QStyledItemDelegate>
+
+class RunningActivitiesModel;
+
+/// Paints how far a running activity is, as a bar if that can be told, else as text. For a column
+/// of a view that shows the model itself; the model outlives the delegate.
+class CActivityProgressItemDelegate : public QStyledItemDelegate {
+    Q_OBJECT
+public:
+    explicit CActivityProgressItemDelegate(const RunningActivitiesModel& model,
+                                           QObject* parent = nullptr);
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
+
+private:
+    const RunningActivitiesModel& model_;
+};

@@ -1,0 +1,109 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "app/event_log_model.h"
+
+#include <array>
+
+#include "api/client_connection.h"
+#include "session/connection.h"
+#include "session/text.h"
+#include "ui/locale_text.h"
+#include "ui/shared_icon.h"
+
+namespace {
+
+using R = hessiancln::event_log_info;
+using app::LabelKey;
+using app::TableColumn;
+
+constexpr Qt::Alignment right = Qt::AlignRight | Qt::AlignVCenter;
+
+struct Severity {
+    const char* label;
+    const char* icon;
+};
+
+constexpr std::array<Severity, 3> severities{{
+    {QT_TRANSLATE_NOOP("EventLogModel", "Info"), ":/icons/event_info.png"},
+    {QT_TRANSLATE_NOOP("EventLogModel", "Warn"), ":/icons/event_warning.png"},
+    {QT_TRANSLATE_NOOP("EventLogModel", "Err"), ":/icons/event_error.png"},
+}};
+
+constexpr std::array<const char*, 14> categories{
+    QT_TRANSLATE_NOOP("EventLogModel", "Application"),
+    QT_TRANSLATE_NOOP("EventLogModel", "Socket"),
+    QT_TRANSLATE_NOOP("EventLogModel", "Message"),
+    QT_TRANSLATE_NOOP("EventLogModel", "Database"),
+    QT_TRANSLATE_NOOP("EventLogModel", "Exception"),
+    QT_TRANSLATE_NOOP("EventLogModel", "I/O"),
+    QT_TRANSLATE_NOOP("EventLogModel", "Operating System"),
+    QT_TRANSLATE_NOOP("EventLogModel", "Security"),
+    QT_TRANSLATE_NOOP("EventLogModel", "MAPI"),
+    QT_TRANSLATE_NOOP("EventLogModel", "Novell"),
+    QT_TRANSLATE_NOOP("EventLogModel", "Oracle"),
+    QT_TRANSLATE_NOOP("EventLogModel", "RMAN"),
+    QT_TRANSLATE_NOOP("EventLogModel", "XML"),
+    QT_TRANSLATE_NOOP("EventLogModel", "DB2"),
+};
+
+QString unknownLabel() {
+    return QStringLiteral("???");
+}
+
+QString typeLabel(const R& record) {
+    const auto number = static_cast<std::size_t>(record.type);
+    return number < severities.size() ? EventLogModel::tr(severities[number].label)
+                                      : unknownLabel();
+}
+
+QIcon typeIcon(const R& record) {
+    const auto number = static_cast<std::size_t>(record.type);
+    return ui::sharedIcon(QLatin1String(number < severities.size() ? severities[number].icon
+                                                                   : ":/icons/icon_unknown.png"));
+}
+
+QString categoryLabel(const R& record) {
+    const auto number = static_cast<std::size_t>(record.category);
+    return number < categories.size() ? EventLogModel::tr(categories[number]) : unknownLabel();
+}
+
+/// Large numbers are codes of the operating system, which people know in hexadecimal.
+QString eventNumberText(const R& record) {
+    if (record.event_id <= 0xffffff)
+        return ui::numberText(record.event_id);
+    return QStringLiteral("0x%1").arg(record.event_id, 8, 16, QLatin1Char('0'));
+}
+
+const std::array<TableColumn<R>, 8> columns{{
+    {QT_TRANSLATE_NOOP("EventLogModel", "Type"),
+     typeLabel,
+     LabelKey<R>{[](const R& record) { return static_cast<std::int32_t>(record.type); }, typeLabel},
+     {},
+     typeIcon},
+    {QT_TRANSLATE_NOOP("EventLogModel", "Time"),
+     [](const R& record) { return ui::timeText(record.when, QLocale::LongFormat); },
+     [](const R& record) -> std::int64_t { return record.when; }},
+    {QT_TRANSLATE_NOOP("EventLogModel", "User"),
+     [](const R& record) { return session::fromWire(record.user); }, &R::user},
+    {QT_TRANSLATE_NOOP("EventLogModel", "Category"), categoryLabel,
+     LabelKey<R>{[](const R& record) { return static_cast<std::int32_t>(record.category); },
+                 categoryLabel}},
+    {QT_TRANSLATE_NOOP("EventLogModel", "Event #"), eventNumberText,
+     [](const R& record) -> std::int64_t { return record.event_id; }, right},
+    {QT_TRANSLATE_NOOP("EventLogModel", "Activity"),
+     [](const R& record) { return ui::numberText(record.activity_id); },
+     [](const R& record) -> std::int64_t { return record.activity_id; }, right},
+    {QT_TRANSLATE_NOOP("EventLogModel", "Detail"),
+     [](const R& record) { return session::fromWire(record.extra_info); }, &R::extra_info},
+    {QT_TRANSLATE_NOOP("EventLogModel", "Description"),
+     [](const R& record) { return session::fromWire(record.description); }, &R::description},
+}};
+
+} // namespace
+
+EventLogModel::EventLogModel(QObject* parent)
+    : RecordTableModel(columns, parent) {}
+
+void EventLogModel::refresh(std::int32_t from, std::int32_t to, std::int32_t activityId) {
+    setRecords(session::getConnection()->event_log(from, to, activityId));
+}

@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "app/running_activities_model.h"
+
+#include <array>
+
+#include <QDateTime>
+
+#include "api/client_connection.h"
+#include "app/running_activity_progress.h"
+#include "session/connection.h"
+#include "session/text.h"
+#include "ui/activity_type_text.h"
+#include "ui/locale_text.h"
+
+namespace {
+
+using R = hessiancln::running_activity_info;
+using app::LabelKey;
+using app::TableColumn;
+
+QString typeLabel(const R& record) {
+    return ui::activityTypeLabel(record.type);
+}
+
+const std::array<TableColumn<R>, 5> columns{{
+    {QT_TRANSLATE_NOOP("RunningActivitiesModel", "Type"),
+     typeLabel,
+     LabelKey<R>{[](const R& record) { return static_cast<std::int32_t>(record.type); }, typeLabel},
+     {},
+     [](const R& record) { return ui::activityTypeIcon(record.type); }},
+    {QT_TRANSLATE_NOOP("RunningActivitiesModel", "Start Time"),
+     [](const R& record) { return ui::timeText(record.start_time, QLocale::ShortFormat); },
+     [](const R& record) -> std::int64_t { return record.start_time; }},
+    {QT_TRANSLATE_NOOP("RunningActivitiesModel", "User Name"),
+     [](const R& record) { return session::fromWire(record.user); }, &R::user},
+    {QT_TRANSLATE_NOOP("RunningActivitiesModel", "Progress"), app::progressText, {}},
+    {QT_TRANSLATE_NOOP("RunningActivitiesModel", "Description"),
+     [](const R& record) { return session::fromWire(record.description); }, &R::description},
+}};
+
+/// Text of the agent inside a rich text.
+QString rich(const std::string& text) {
+    return session::fromWire(text).toHtmlEscaped();
+}
+
+QString toolTip(const R& record) {
+    using Model = RunningActivitiesModel;
+    QString text = QStringLiteral("<html><h3>%1</h3><table>").arg(typeLabel(record));
+    text += Model::tr("<tr><td><b>Start:</b></td> <td>%1</<td></tr>")
+                .arg(ui::timeText(record.start_time, QLocale::LongFormat));
+    if (!record.status_msg.empty())
+        text +=
+            Model::tr("<tr><td><b>Status:</b></td> <td>%1</<td></tr>").arg(rich(record.status_msg));
+    if (!record.process_dir.empty())
+        text += Model::tr("<tr><td><b>Directory:</b></td><td>%1</<td></tr>")
+                    .arg(rich(record.process_dir));
+    return text + QStringLiteral("</table></html>");
+}
+
+} // namespace
+
+std::int64_t RunningActivitiesModel::systemClock() {
+    return QDateTime::currentSecsSinceEpoch();
+}
+
+RunningActivitiesModel::RunningActivitiesModel(QObject* parent, Clock clock)
+    : RecordTableModel(columns, parent)
+    , clock_(std::move(clock)) {}
+
+void RunningActivitiesModel::refresh() {
+    setActivities(session::getConnection()->running_activities());
+}
+
+void RunningActivitiesModel::setActivities(std::vector<R> activities) {
+    reportChanges(activities);
+    setRecords(std::move(activities));
+}
+
+void RunningActivitiesModel::reportChanges(const std::vector<R>& activities) {
+    if (skipComparison_) {
+        skipComparison_ = false;
+        return;
+    }
+    const auto changes = app::compareRunningActivities(activities, records(), knownIds_, clock_());
+    if (!changes.appeared.isEmpty() || !changes.disappeared.isEmpty())
+        emit activityChangeDetected(changes.appeared, changes.disappeared);
+    knownIds_ = app::idsOf(activities);
+}
+
+void RunningActivitiesModel::clear() {
+    RecordTableModel::clear();
+    knownIds_.clear();
+    skipComparison_ = true;
+}
+
+bool RunningActivitiesModel::hasActivityOnSet(std::int32_t setId) const {
+    return std::any_of(records().begin(), records().end(),
+                       [setId](const R& record) { return record.set_id == setId; });
+}
+
+QVariant RunningActivitiesModel::rowData(const R& record, int role) const {
+    return role == Qt::ToolTipRole ? QVariant(toolTip(record)) : QVariant();
+}

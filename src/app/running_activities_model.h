@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <functional>
+
+#include "api/activity_records.h"
+#include "app/record_table_model.h"
+#include "app/running_activity_changes.h"
+
+Q_DECLARE_METATYPE(hessiancln::running_activity_info)
+
+/// What the agent is doing now. Tells what has begun and what has ended between two refreshes.
+class RunningActivitiesModel : public app::RecordTableModel<hessiancln::running_activity_info> {
+    Q_OBJECT
+public:
+    enum Column { type, startTime, userName, progress, description };
+
+    /// Gives seconds since 1970 UTC.
+    using Clock = std::function<std::int64_t()>;
+    static std::int64_t systemClock();
+
+    explicit RunningActivitiesModel(QObject* parent = nullptr, Clock clock = systemClock);
+
+    /// Asks the agent. Raises what the call raises, and then leaves everything as it was.
+    void refresh();
+
+    /// Takes a list from the agent: compares it with the one before, then replaces the rows. The
+    /// first list after a `clear` isn't compared.
+    void setActivities(std::vector<hessiancln::running_activity_info> activities);
+
+    /// Also forgets what was running, so that a session that has gone isn't reported as ended work.
+    void clear() override;
+
+    bool hasActivityOnSet(std::int32_t setId) const;
+
+signals:
+    /// At least one of the lists has an entry. Sent while the rows are still the old ones.
+    void activityChangeDetected(QList<hessiancln::running_activity_info> appeared,
+                                QList<hessiancln::running_activity_info> disappeared);
+
+protected:
+    QVariant rowData(const hessiancln::running_activity_info& record, int role) const override;
+
+private:
+    void reportChanges(const std::vector<hessiancln::running_activity_info>& activities);
+
+    Clock clock_;
+    app::ActivityIds knownIds_;
+    bool skipComparison_ = true;
+};
