@@ -7,7 +7,6 @@
 #include <type_traits>
 #include <utility>
 
-#include <boost/asio/read.hpp>
 #include <boost/asio/ssl/stream.hpp>
 #include <boost/asio/steady_timer.hpp>
 #include <boost/asio/write.hpp>
@@ -27,6 +26,8 @@ namespace http = beast::http;
 using boost::system::error_code;
 using tcp = asio::ip::tcp;
 using TlsStream = asio::ssl::stream<tcp::socket>;
+
+constexpr std::size_t readAtOnce = 64u << 10;
 
 template <class Stream>
 constexpr bool isTls = std::is_same_v<Stream, TlsStream>;
@@ -88,14 +89,20 @@ private:
         return {static_cast<const char*>(data.data()), data.size()};
     }
 
-    /// Reads until there are `size` bytes, then goes on with `next`.
+    /// Reads until there are `size` bytes, then goes on with `next`. Memory follows the bytes that
+    /// came, not those that were announced.
     void readUpTo(std::size_t size, void (StreamConnection::*next)()) {
         const auto self = this->shared_from_this();
-        asio::async_read(stream_, buffer_, asio::transfer_at_least(size - received().size()),
-                         [self, next](error_code error, std::size_t) {
-                             if (!error)
-                                 ((*self).*next)();
-                         });
+        stream_.async_read_some(buffer_.prepare(readAtOnce),
+                                [self, size, next](error_code error, std::size_t count) {
+                                    if (error)
+                                        return;
+                                    self->buffer_.commit(count);
+                                    if (self->received().size() < size)
+                                        self->readUpTo(size, next);
+                                    else
+                                        ((*self).*next)();
+                                });
     }
 
     /// The first bytes tell a client that posts from one that sends frames.
