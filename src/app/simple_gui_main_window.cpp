@@ -27,6 +27,15 @@ constexpr int kDetailsWidth = 350;
 constexpr int kSetNameWidth = 330;
 constexpr int kSecondsPerHeartbeat = 5;
 
+/// Wants all the width that there is, and needs none. In a row of tool bars the last one gets what
+/// the others don't want; with this in the first bar, the last one stands at the right end.
+class Filler : public QWidget {
+public:
+    using QWidget::QWidget;
+    QSize sizeHint() const override { return {QWIDGETSIZE_MAX / 2, 0}; }
+    QSize minimumSizeHint() const override { return {0, 0}; }
+};
+
 } // namespace
 
 SimpleGUIMainWindow::SimpleGUIMainWindow(QWidget* parent)
@@ -58,10 +67,8 @@ void SimpleGUIMainWindow::setUpBranding() {
 }
 
 void SimpleGUIMainWindow::setUpToolBars() {
-    // The logo stands at the right end, so the bar before it takes the free width.
-    auto* filler = new QWidget(ui_->toolBar);
-    filler->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    ui_->toolBar->addWidget(filler);
+    ui_->toolBar->addWidget(new Filler(ui_->toolBar));
+    ui_->toolBarLogo->setMinimumWidth(ui_->toolBarLogo->sizeHint().width());
 }
 
 void SimpleGUIMainWindow::setUpDateRange() {
@@ -72,6 +79,7 @@ void SimpleGUIMainWindow::setUpDateRange() {
 
 void SimpleGUIMainWindow::setUpBackupSetsView() {
     ui_->backupSetsView->setModel(&backupSets_);
+    ui_->backupSetsView->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     ui_->backupSetsView->setColumnWidth(BackupSetsModel::nameColumn, kSetNameWidth);
     connect(ui_->backupSetsView->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &SimpleGUIMainWindow::OnBackupSetSelectionChanged);

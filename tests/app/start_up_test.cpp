@@ -1,0 +1,136 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include <QDir>
+#include <QFile>
+#include <QMessageBox>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTranslator>
+
+#include "app/start_up.h"
+#include "tests/support/gui_modal_driver.h"
+
+namespace {
+
+void write(const QString& name, const QByteArray& bytes) {
+    QFile file(name);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("Can't write %s", qPrintable(name));
+}
+
+} // namespace
+
+class StartUpTest : public QObject {
+    Q_OBJECT
+private slots:
+    void init() {
+        directory_ = std::make_unique<QTemporaryDir>();
+        QVERIFY(QDir::setCurrent(directory_->path()));
+    }
+    void cleanup() {
+        qApp->setStyleSheet(QString());
+        QDir::setCurrent(QDir::rootPath());
+        directory_.reset();
+    }
+
+    void findsTheLanguage_data() {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("language");
+        const QString program = QStringLiteral("tarn-mobile-user");
+        const QString option = QStringLiteral("--lang");
+        const QString de = QStringLiteral("de");
+        QTest::newRow("no option") << QStringList{program} << QString();
+        QTest::newRow("a code") << QStringList{program, option, de} << de;
+        QTest::newRow("last argument") << QStringList{program, option} << QString();
+        QTest::newRow("en is the built-in English")
+            << QStringList{program, option, QStringLiteral("en")} << QString();
+        QTest::newRow("EN is a code like any other")
+            << QStringList{program, option, QStringLiteral("EN")} << QStringLiteral("EN");
+        QTest::newRow("the first of two")
+            << QStringList{program, option, de, option, QStringLiteral("fr")} << de;
+        QTest::newRow("the option as the code of the option")
+            << QStringList{program, option, option, de} << option;
+        QTest::newRow("among others")
+            << QStringList{program, QStringLiteral("-x"), option, de, QStringLiteral("y")} << de;
+        QTest::newRow("not the exact option")
+            << QStringList{program, QStringLiteral("--lang=de"), QStringLiteral("--LANG"), de}
+            << QString();
+    }
+    void findsTheLanguage() {
+        QFETCH(QStringList, arguments);
+        QTEST(app::languageOf(arguments), "language");
+    }
+
+    void installsATranslationFromTheCurrentDirectory() {
+        QVERIFY(QFile::copy(QStringLiteral(TARN_TRANSLATION_DE), QStringLiteral("sg_i18n_de")));
+        support::ModalDriver modals;
+        app::installTranslation(*qApp, QStringLiteral("de"));
+        QVERIFY(modals.done());
+        QCOMPARE(QCoreApplication::translate("LoginCheck", "Login"), QStringLiteral("Anmeldung"));
+        delete qApp->findChild<QTranslator*>();
+        QCOMPARE(QCoreApplication::translate("LoginCheck", "Login"), QStringLiteral("Login"));
+    }
+
+    void tellsThatATranslationIsMissing() { expectTranslationError(QStringLiteral("EN")); }
+
+    void takesNoFileOfAnotherName() {
+        // What Qt would try on its own: a suffix, and the name cut at its underscores.
+        for (const char* name : {"sg_i18n_de.qm", "sg_i18n", "sg_i18n.qm", "sg", "sg.qm"})
+            QVERIFY(QFile::copy(QStringLiteral(TARN_TRANSLATION_DE), QString::fromLatin1(name)));
+        expectTranslationError(QStringLiteral("de"));
+    }
+
+    void tellsThatATranslationIsDamaged() {
+        write(QStringLiteral("sg_i18n_de"), "not a translation");
+        expectTranslationError(QStringLiteral("de"));
+    }
+
+    void needsNoFileForEnglish() {
+        support::ModalDriver modals;
+        app::installTranslation(*qApp, QString());
+        QVERIFY(modals.done());
+    }
+
+    void takesTheStyleSheet() {
+        write(QStringLiteral("tarnmobile.css"), "QLabel { color: red; }");
+        app::applyStyleSheet(*qApp);
+        QCOMPARE(qApp->styleSheet(), QStringLiteral("QLabel { color: red; }"));
+    }
+
+    void anEmptyFileGivesAnEmptyStyleSheet() {
+        write(QStringLiteral("tarnmobile.css"), "");
+        qApp->setStyleSheet(QStringLiteral("QLabel { color: red; }"));
+        app::applyStyleSheet(*qApp);
+        QCOMPARE(qApp->styleSheet(), QString());
+    }
+
+    void noFileGivesAnEmptyStyleSheet() {
+        qApp->setStyleSheet(QStringLiteral("QLabel { color: red; }"));
+        app::applyStyleSheet(*qApp);
+        QCOMPARE(qApp->styleSheet(), QString());
+    }
+
+    void aFileThatCantBeOpenedGivesAnEmptyStyleSheet() {
+        QVERIFY(QDir().mkdir(QStringLiteral("tarnmobile.css")));
+        support::ModalDriver modals;
+        app::applyStyleSheet(*qApp);
+        QVERIFY(modals.done());
+        QCOMPARE(qApp->styleSheet(), QString());
+    }
+
+private:
+    void expectTranslationError(const QString& code) {
+        support::ModalDriver modals;
+        modals.expectErrorBox(QStringLiteral("Translation error"),
+                              QStringLiteral("Failed to load translation data from sg_i18n_") +
+                                  code);
+        app::installTranslation(*qApp, code);
+        QVERIFY(modals.done());
+        QVERIFY(!qApp->findChild<QTranslator*>());
+    }
+
+    std::unique_ptr<QTemporaryDir> directory_;
+};
+
+QTEST_MAIN(StartUpTest)
+#include "start_up_test.moc"

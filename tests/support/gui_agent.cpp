@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "tests/support/gui_agent.h"
+
+#include "session/connection.h"
+#include "tests/support/gui_port_redirect.h"
+
+namespace support {
+
+GuiAgent::GuiAgent(simulator::Options options)
+    : Simulator(std::move(options)) {
+    redirectLocalAgent(port());
+}
+
+GuiAgent::~GuiAgent() {
+    redirectLocalAgent(0);
+}
+
+void resetSession() {
+    session::disconnectFromAgent();
+    session::g_clientType = 0;
+    session::g_isMobileClient = false;
+    session::g_isNotebookClient = false;
+    session::g_isCentrallyManaged = false;
+    session::g_is2FAEnabled = false;
+    session::g_currentUser.clear();
+    session::g_language.clear();
+}
+
+} // namespace support
