@@ -87,16 +87,13 @@ wire::Answer Agent::run(Step& step) {
     step.call.method = readCallHead(step.in);
     const auto servant = find(step.message, step.call.method);
     step.call.className = servant->className();
-    if (step.call.method == "Release" && servant->session()) {
-        release(step);
-        wire::Answer answer;
-        answer.message = std::string("r\x01\0z", 4);
-        return answer;
-    }
-    Servant::Prepared prepared = servant->prepare(step.call.method, step.in, objects_);
+    Servant::Prepared prepared = step.call.method == "Release" && servant->session()
+                                     ? prepareRelease(step)
+                                     : servant->prepare(step.call.method, step.in, objects_);
     step.call.className = prepared.className;
     step.call.arguments = prepared.arguments;
-    if (servant->session() && servant->session()->ended)
+    const bool ended = servant->session() && servant->session()->ended;
+    if (ended && step.call.method != "Release")
         throw Violation("the session has ended");
 
     objects_.watch();
@@ -136,11 +133,11 @@ std::shared_ptr<Servant> Agent::find(const wire::CallMessage& call, const std::s
     return servant;
 }
 
-void Agent::release(Step& step) {
+Servant::Prepared Agent::prepareRelease(Step& step) {
     if (step.in.remaining != 1 || !step.in.at('z'))
         throw Violation("Release has arguments");
-    record(step);
-    objects_.release(step.message.url);
+    return {step.call.className, "",
+            [this, url = step.message.url](std::string&) { objects_.release(url); }};
 }
 
 wire::Answer Agent::refuse(Step& step, const std::string& text, bool violation) {
@@ -148,6 +145,9 @@ wire::Answer Agent::refuse(Step& step, const std::string& text, bool violation) 
         violate(step.call.text() + ": " + text);
     step.outcome = "fault: " + text;
     wire::Answer answer;
+    if (violation && step.message.channel == wire::Channel::Http &&
+        entryBase(step.message.url).empty())
+        answer.status = wire::HttpStatus{403, "Forbidden"};
     answer.message = faultReply({text, violation ? "Violation" : "Refused"});
     return answer;
 }

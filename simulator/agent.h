@@ -44,7 +44,7 @@ private:
     wire::Answer run(Step& step);
     wire::Answer refuse(Step& step, const std::string& text, bool violation);
     std::shared_ptr<Servant> find(const wire::CallMessage& call, const std::string& method);
-    void release(Step& step);
+    Servant::Prepared prepareRelease(Step& step);
     void record(const Step& step);
     void violate(const std::string& text);
     void writeLine(const std::string& text);

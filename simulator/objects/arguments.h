@@ -96,6 +96,7 @@ void writeResult(const T& result, References& references, std::string& out) {
             writeResult(object, references, out);
         hessianser::writeEnd(out);
     } else {
+        out.reserve(out.size() + hessianser::sizeOfValue(result) + hessianser::sizeOfEnd);
         hessianser::writeValue(result, out);
     }
 }

@@ -30,6 +30,16 @@ ClientConnection::ClientConnection(std::shared_ptr<Session> opened, World& world
         return std::make_shared<BackupSet>(session(), world_, set);
     });
 
+    on("addBackupSet", [this](const std::shared_ptr<BackupSet>& set) {
+        if (world_.set(set->set()->info.id))
+            throw Refusal("The backup set is already there.");
+        world_.addSet(set->set());
+    });
+    on("removeBackupSet", [this](const std::shared_ptr<BackupSet>& set) {
+        const auto id = world_.start(world_.removalOf(set->set(), session()->user));
+        return std::make_shared<GenericActivity>(session(), world_, id);
+    });
+
     on("running_activities", [this] { return world_.running(); });
     on("activity", [this](std::int32_t id) {
         if (!world_.isRunning(id))

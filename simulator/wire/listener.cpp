@@ -3,6 +3,8 @@
 #include "simulator/wire/listener.h"
 
 #include <algorithm>
+#include <chrono>
+#include <string>
 #include <system_error>
 #include <thread>
 #include <vector>
@@ -19,6 +21,13 @@ namespace simulator::wire {
 namespace asio = boost::asio;
 using boost::system::error_code;
 using tcp = asio::ip::tcp;
+
+namespace {
+
+// As when the process has no descriptors left.
+constexpr std::chrono::milliseconds pauseBetweenFailures{20};
+
+} // namespace
 
 struct Listener::Parts {
     Parts(std::uint16_t port, bool useTls, Exchange& behind)
@@ -40,6 +49,8 @@ struct Listener::Parts {
                 return;
             if (!error)
                 serve(std::move(socket));
+            else
+                std::this_thread::sleep_for(pauseBetweenFailures);
             accept();
         });
     }
@@ -66,7 +77,8 @@ Listener::Listener(std::uint16_t port, bool tls, Exchange& exchange) {
     try {
         parts_ = std::make_unique<Parts>(port, tls, exchange);
     } catch (const boost::system::system_error& error) {
-        throw std::system_error(error.code().value(), std::system_category());
+        throw std::system_error(error.code().value(), std::system_category(),
+                                "can't listen on port " + std::to_string(port));
     }
     parts_->thread = std::thread([&io = parts_->io] { io.run(); });
 }

@@ -17,6 +17,7 @@ using hessiancln::ActivityType;
 using hessiancln::BackupDataType;
 using hessiancln::ScheduleDetailType;
 
+constexpr Milliseconds quarterOfAnHour = 15 * 60 * 1000;
 constexpr std::int64_t mebibyte = 1 << 20;
 constexpr std::int64_t gibibyte = 1 << 30;
 
@@ -156,6 +157,7 @@ void populateWindows(World& world, bool central) {
     plan.bytes = 6 * gibibyte;
     plan.duration = 420'000;
     world.start(std::move(plan));
+    world.keepBusy(quarterOfAnHour);
 }
 
 void populateUnix(World& world) {

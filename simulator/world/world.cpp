@@ -36,6 +36,7 @@ World::World(Clock clock, double speed, std::uint64_t seed)
 
 void World::advance() {
     const Milliseconds time = now();
+    startDueBackups();
     for (;;) {
         const auto next =
             std::min_element(running_.begin(), running_.end(),
@@ -46,16 +47,33 @@ void World::advance() {
     }
 }
 
+void World::keepBusy(Milliseconds every) {
+    busyEvery_ = every;
+    nextBackup_ = now() + every;
+}
+
+void World::startDueBackups() {
+    if (busyEvery_ == 0 || now() < nextBackup_ || sets_.empty())
+        return;
+    nextBackup_ = now() + busyEvery_;
+    const Set& set = sets_[turns_++ % sets_.size()];
+    if (!set->info.is_active || !set->info.in_sync || set->items.empty())
+        return;
+    ActivityPlan plan = backupOf(set, set->info.owner_name);
+    plan.schedule_id = set->info.schedule_id;
+    start(std::move(plan));
+}
+
 World::Set World::set(std::int32_t id) const {
     const auto found = std::find_if(sets_.begin(), sets_.end(),
                                     [id](const Set& set) { return set->info.id == id; });
     return found == sets_.end() ? nullptr : *found;
 }
 
-World::Set World::addSet(BackupSetState state) {
-    state.info.id = ++lastSetId_;
-    sets_.push_back(std::make_shared<BackupSetState>(std::move(state)));
-    return sets_.back();
+World::Set World::addSet(Set set) {
+    set->info.id = ++lastSetId_;
+    sets_.push_back(set);
+    return set;
 }
 
 void World::removeSet(std::int32_t id) {
@@ -209,6 +227,22 @@ ActivityPlan World::synchronisationOf(const Set& set, const std::string& user) {
             return;
         set->info.in_sync = true;
         set->info.last_sync_time = row.end_time;
+    };
+    return plan;
+}
+
+ActivityPlan World::removalOf(const Set& set, const std::string& user) {
+    ActivityPlan plan;
+    plan.type = ActivityType::Delete;
+    plan.description = set->info.name;
+    plan.user = user;
+    plan.set_id = set->info.id;
+    plan.files = set->info.online_file_count;
+    plan.bytes = set->info.online_data_size;
+    plan.duration = random_.between(15, 40) * 1000;
+    plan.ended = [this, id = set->info.id](const activity_log_info& row) {
+        if (row.completion != hessiancln::ActivityCompletion(Ending::Stopped))
+            removeSet(id);
     };
     return plan;
 }

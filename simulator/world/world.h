@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "api/activity_records.h"
@@ -48,7 +49,10 @@ public:
     /// Null if there is none.
     Set set(std::int32_t id) const;
     /// Gives the set an id and puts it behind the others.
-    Set addSet(BackupSetState state);
+    Set addSet(Set set);
+    Set addSet(BackupSetState state) {
+        return addSet(std::make_shared<BackupSetState>(std::move(state)));
+    }
     void removeSet(std::int32_t id);
 
     /// Begins an activity and gives it an id.
@@ -77,13 +81,22 @@ public:
     /// What a backup of the set would do now.
     ActivityPlan backupOf(const Set& set, const std::string& user);
     ActivityPlan synchronisationOf(const Set& set, const std::string& user);
+    /// Deletes all that the set holds, and then the set.
+    ActivityPlan removalOf(const Set& set, const std::string& user);
+
+    /// From now on a backup of one set after the other begins so often.
+    void keepBusy(Milliseconds every);
 
 private:
+    void startDueBackups();
     void end(std::vector<Activity>::iterator activity, Milliseconds when, bool stopped);
 
     Clock clock_;
     double speed_;
     Random random_;
+    Milliseconds busyEvery_ = 0;
+    Milliseconds nextBackup_ = 0;
+    std::size_t turns_ = 0;
     std::int32_t lastSetId_ = 0;
     std::int32_t lastActivityId_ = 1000;
     std::vector<Set> sets_;
