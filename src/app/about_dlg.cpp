@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "app/about_dlg.h"
+
+#include <QEvent>
+
+#include "session/process_values.h"
+#include "ui/branding_resources.h"
+#include "ui_about_dlg.h"
+
+namespace {
+
+constexpr int iconEdge = 64;
+
+} // namespace
+
+AboutDlg::AboutDlg(QWidget* parent)
+    : QDialog(parent)
+    , ui_(std::make_unique<Ui::AboutDlg>()) {
+    ui_->setupUi(this);
+    const QIcon icon = ui::g_branding.applicationIcon();
+    setWindowIcon(icon);
+    ui_->labelIcon->setPixmap(icon.pixmap(iconEdge));
+    setTexts();
+    connect(ui_->buttonClose, &QPushButton::clicked, this, &AboutDlg::accept);
+    setUpInformation();
+}
+
+AboutDlg::~AboutDlg() = default;
+
+void AboutDlg::setTexts() {
+    const QString name = tr("%1").arg(QStringLiteral("Tarn-Mobile User"));
+    setWindowTitle(name);
+    ui_->labelName->setText(name);
+    ui_->labelVersion->setText(tr("Version %1").arg(QStringLiteral("14.2.0.0")) +
+                               QLatin1Char('\n') + QStringLiteral(TARN_COPYRIGHT));
+}
+
+void AboutDlg::setUpInformation() {
+    ui_->groupInfo->setVisible(session::connectedToAgent());
+    ui_->tableInfo->setModel(&model_);
+    ui_->tableInfo->setColumnWidth(TarnClientInfoModel::item, 140);
+    ui_->tableInfo->setColumnWidth(TarnClientInfoModel::value, 270);
+    model_.refresh();
+}
+
+void AboutDlg::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange) {
+        ui_->retranslateUi(this);
+        setTexts();
+    }
+    QDialog::changeEvent(event);
+}

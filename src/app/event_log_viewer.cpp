@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "app/event_log_viewer.h"
+
+#include <array>
+
+#include <QDateTime>
+#include <QEvent>
+#include <QSignalBlocker>
+
+#include "app/wire_time.h"
+#include "ui/branding_resources.h"
+#include "ui/remote_action.h"
+#include "ui_event_log_viewer.h"
+
+namespace {
+
+constexpr std::array columnWidths{60, 220, 80, 100, 80, 80, 80, 1500};
+
+} // namespace
+
+EventLogViewer::EventLogViewer(QWidget* parent)
+    : QDialog(parent)
+    , ui_(std::make_unique<Ui::EventLogViewer>()) {
+    ui_->setupUi(this);
+    setWindowIcon(ui::g_branding.applicationIcon());
+    setUpTable();
+    connect(ui_->timeFrom, &QDateTimeEdit::dateTimeChanged, this, &EventLogViewer::refreshData);
+    connect(ui_->timeTo, &QDateTimeEdit::dateTimeChanged, this, &EventLogViewer::refreshData);
+    connect(ui_->spinActivityID, qOverload<int>(&QSpinBox::valueChanged), this,
+            &EventLogViewer::refreshData);
+    connect(ui_->checkActivityID, &QCheckBox::clicked, this, &EventLogViewer::updateEnabling);
+    connect(ui_->checkActivityID, &QCheckBox::clicked, this, &EventLogViewer::refreshData);
+    connect(ui_->buttonClose, &QPushButton::clicked, this, &EventLogViewer::accept);
+}
+
+EventLogViewer::~EventLogViewer() = default;
+
+void EventLogViewer::setUpTable() {
+    ui_->tableEvents->setModel(&model_);
+    for (std::size_t column = 0; column < columnWidths.size(); ++column)
+        ui_->tableEvents->setColumnWidth(static_cast<int>(column), columnWidths[column]);
+    ui_->tableEvents->sortByColumn(EventLogModel::time, Qt::DescendingOrder);
+}
+
+void EventLogViewer::showFor(const QDateTime& from, const QDateTime& to, std::int32_t activityId) {
+    {
+        // The whole filter is one question to the agent.
+        const QSignalBlocker quietFrom(ui_->timeFrom);
+        const QSignalBlocker quietTo(ui_->timeTo);
+        const QSignalBlocker quietId(ui_->spinActivityID);
+        ui_->timeFrom->setDateTime(from);
+        ui_->timeTo->setDateTime(to);
+        ui_->spinActivityID->setValue(activityId);
+        ui_->checkActivityID->setChecked(activityId != 0);
+    }
+    updateEnabling();
+    refreshData();
+}
+
+void EventLogViewer::refreshData() {
+    ui::remoteAction(*this, tr("Error"), ui::Cursor::arrow, [this] {
+        const int id = ui_->spinActivityID->value();
+        if (ui_->checkActivityID->isChecked() && id != 0)
+            model_.refresh(0, 0, id);
+        else
+            model_.refresh(app::wireTime(ui_->timeFrom->dateTime()),
+                           app::wireTime(ui_->timeTo->dateTime()), 0);
+    });
+}
+
+void EventLogViewer::updateEnabling() {
+    const bool byActivity = ui_->checkActivityID->isChecked();
+    ui_->spinActivityID->setEnabled(byActivity);
+    for (QWidget* widget :
+         std::initializer_list<QWidget*>{ui_->labelFrom, ui_->timeFrom, ui_->labelTo, ui_->timeTo})
+        widget->setEnabled(!byActivity);
+}
+
+void EventLogViewer::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange)
+        ui_->retranslateUi(this);
+    QDialog::changeEvent(event);
+}

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <memory>
+
+#include <QDialog>
+
+#include "app/event_log_model.h"
+
+class QDateTime;
+
+namespace Ui {
+class EventLogViewer;
+}
+
+/// The agent's event log, filtered by time or by activity. Each change of the filter asks the
+/// agent anew; a failure is shown, and the table keeps its rows.
+class EventLogViewer : public QDialog {
+    Q_OBJECT
+public:
+    explicit EventLogViewer(QWidget* parent = nullptr);
+    ~EventLogViewer() override;
+
+    /// Sets the filter: the activity, or with id 0 the times. Asks the agent once.
+    void showFor(const QDateTime& from, const QDateTime& to, std::int32_t activityId);
+
+    EventLogModel& model() { return model_; }
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private slots:
+    void refreshData();
+    void updateEnabling();
+
+private:
+    void setUpTable();
+
+    std::unique_ptr<Ui::EventLogViewer> ui_;
+    EventLogModel model_;
+};
