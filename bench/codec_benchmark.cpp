@@ -42,8 +42,6 @@ void measureReading(benchmark::State& state, const std::string& message, Read re
         bench::Rows list = read(message);
         benchmark::DoNotOptimize(list.data());
     }
-    state.counters["bytes"] =
-        benchmark::Counter(static_cast<double>(message.size()) / static_cast<double>(rowCount));
 }
 
 void decodeInOrder(benchmark::State& state) {
