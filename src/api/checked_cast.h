@@ -29,6 +29,8 @@ constexpr std::string_view plainName() {
 template <class Derived, class Base>
 boost::shared_ptr<Derived> checkedCast(const boost::shared_ptr<Base>& source) {
     static_assert(std::derived_from<Derived, Base> && ProxyClass<Base>);
+    static_assert(detail::plainName<Derived>() != detail::plainName<Base>(),
+                  "the narrower class has no className of its own");
     source->requireType(detail::plainName<Base>(), detail::plainName<Derived>());
     auto narrower = boost::make_shared<Derived>(source->url(), false, 0u, std::string());
     narrower->shareObjectOf(*source);
