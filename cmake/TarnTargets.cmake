@@ -56,6 +56,17 @@ function(tarn_program name)
     _tarn_prepare(${name})
 endfunction()
 
+# Gives the labels to all tests of a GoogleTest program. They are known to ctest only, and a list
+# doesn't survive the way there among the other properties.
+function(_tarn_label name labels)
+    set(script ${CMAKE_CURRENT_BINARY_DIR}/${name}_labels.cmake)
+    file(WRITE ${script}
+        "foreach(test IN LISTS ${name}_TESTS)\n"
+        "    set_tests_properties(\"\${test}\" PROPERTIES LABELS \"${labels}\")\n"
+        "endforeach()\n")
+    set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES ${script})
+endfunction()
+
 # tarn_test(<name> LABELS <labels> TIMEOUT <seconds> SOURCES <files> [LINK <libraries>])
 #
 # LABELS are of unit, wire, gui, slow. With the word QTEST the program is one QTest class and
@@ -74,6 +85,7 @@ function(tarn_test name)
         target_link_libraries(${name} PRIVATE GTest::gmock GTest::gtest_main)
         gtest_discover_tests(${name}
             TEST_PREFIX ${name}. DISCOVERY_TIMEOUT 60
-            PROPERTIES LABELS "${arg_LABELS}" TIMEOUT ${arg_TIMEOUT})
+            PROPERTIES TIMEOUT ${arg_TIMEOUT})
+        _tarn_label(${name} "${arg_LABELS}")
     endif()
 endfunction()

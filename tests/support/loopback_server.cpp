@@ -374,6 +374,10 @@ void LoopbackServer::play(Peer& peer, const Script& script) {
     changed_.notify_all();
 }
 
+void PrintTo(LoopbackServer::Mode mode, std::ostream* out) {
+    *out << (mode == LoopbackServer::Mode::tls ? "TLS" : "plain");
+}
+
 std::uint16_t closedPort() {
     std::uint16_t port = 0;
     ::close(listenOnLoopback(port));

@@ -7,6 +7,7 @@
 #include <functional>
 #include <memory>
 #include <mutex>
+#include <ostream>
 #include <string>
 #include <string_view>
 #include <thread>
@@ -124,6 +125,9 @@ private:
     bool tolerant_ = false;
     bool stopping_ = false;
 };
+
+/// As a parameterised test shows it.
+void PrintTo(LoopbackServer::Mode mode, std::ostream* out);
 
 /// A port of loopback that nobody listens on.
 std::uint16_t closedPort();
