@@ -29,7 +29,8 @@ const std::map<std::string, std::set<std::string>> allowed = [] {
         {"api", {"base", "hessian", "transport"}},
     };
     std::set<std::string> below{"base", "platform", "hessian", "transport", "api"};
-    for (const char* folder : {"session", "ui", "models", "config", "wizards", "app"}) {
+    for (const char* folder :
+         {"resources", "session", "ui", "models", "config", "wizards", "app"}) {
         table[folder] = below;
         below.insert(folder);
     }
