@@ -29,16 +29,16 @@ struct Options {
     Scenario scenario = Scenario::Default;
     std::string user = "demo";
     std::string password = "demo";
-    std::vector<std::string> domains;
+    std::vector<std::string> domains{};
     bool guest = true;  ///< an empty user is let in
     double speed = 1.0; ///< how fast activities progress
-    std::string logFile;
+    std::string logFile{};
     bool plain = false; ///< no TLS
 
     Clock clock = systemClock();
     std::uint64_t seed = 1;
     /// Plays the agent's part of an integrated logon; without it each one is refused.
-    std::function<LogonStep(const std::string& token)> integratedLogon;
+    std::function<LogonStep(const std::string& token)> integratedLogon{};
     /// Keep the call log for tests. It grows without end.
     bool recordCalls = true;
 };

@@ -68,6 +68,8 @@ T readArgument(hessianser::Cursor& in, References& references) {
         hessianser::readNull(in);
         return T{};
     } else if constexpr (IsObjectList<T>::value) {
+        if (in.startsWith("Vt") || in.startsWith("Vl"))
+            throw Violation("a list isn't written as its kind is");
         T list;
         if (hessianser::readListStart(in)) {
             do

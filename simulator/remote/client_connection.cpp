@@ -33,7 +33,7 @@ ClientConnection::ClientConnection(std::shared_ptr<Session> opened, World& world
     on("addBackupSet", [this](const std::shared_ptr<BackupSet>& set) {
         if (world_.set(set->set()->info.id))
             throw Refusal("The backup set is already there.");
-        world_.addSet(set->set());
+        world_.enlist(set->set());
     });
     on("removeBackupSet", [this](const std::shared_ptr<BackupSet>& set) {
         const auto id = world_.start(world_.removalOf(set->set(), session()->user));

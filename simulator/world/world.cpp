@@ -70,9 +70,14 @@ World::Set World::set(std::int32_t id) const {
     return found == sets_.end() ? nullptr : *found;
 }
 
-World::Set World::addSet(Set set) {
+void World::enlist(const Set& set) {
     set->info.id = ++lastSetId_;
     sets_.push_back(set);
+}
+
+World::Set World::addSet(BackupSetState state) {
+    const auto set = std::make_shared<BackupSetState>(std::move(state));
+    enlist(set);
     return set;
 }
 

@@ -49,10 +49,8 @@ public:
     /// Null if there is none.
     Set set(std::int32_t id) const;
     /// Gives the set an id and puts it behind the others.
-    Set addSet(Set set);
-    Set addSet(BackupSetState state) {
-        return addSet(std::make_shared<BackupSetState>(std::move(state)));
-    }
+    void enlist(const Set& set);
+    Set addSet(BackupSetState state);
     void removeSet(std::int32_t id);
 
     /// Begins an activity and gives it an id.

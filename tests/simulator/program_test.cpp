@@ -1,0 +1,181 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include <cerrno>
+#include <csignal>
+#include <fstream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <poll.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "tests/simulator/raw_client.h"
+
+using namespace std::string_literals;
+using ::testing::HasSubstr;
+
+namespace {
+
+constexpr int limitMilliseconds = 20'000;
+
+/// The program, started and watched by its own id.
+class Program {
+public:
+    explicit Program(std::vector<std::string> arguments) {
+        int out[2];
+        if (::pipe2(out, O_CLOEXEC) != 0)
+            throw std::runtime_error("no pipe");
+        id_ = ::fork();
+        if (id_ == 0) {
+            ::dup2(out[1], STDOUT_FILENO);
+            ::dup2(out[1], STDERR_FILENO);
+            arguments.insert(arguments.begin(), SIMULATOR_PROGRAM);
+            std::vector<char*> raw;
+            for (std::string& argument : arguments)
+                raw.push_back(argument.data());
+            raw.push_back(nullptr);
+            ::execv(SIMULATOR_PROGRAM, raw.data());
+            ::_exit(127);
+        }
+        ::close(out[1]);
+        output_ = out[0];
+    }
+
+    ~Program() {
+        if (id_ > 0) {
+            ::kill(id_, SIGKILL);
+            ::waitpid(id_, nullptr, 0);
+        }
+        ::close(output_);
+    }
+
+    std::string line() {
+        std::string text;
+        while (!text.ends_with('\n')) {
+            char byte = 0;
+            if (!readable() || ::read(output_, &byte, 1) != 1)
+                throw std::runtime_error("no whole line: " + text);
+            text += byte;
+        }
+        return text;
+    }
+
+    std::string rest() {
+        std::string text;
+        char part[4096];
+        while (readable()) {
+            const ssize_t got = ::read(output_, part, sizeof part);
+            if (got <= 0)
+                return text;
+            text.append(part, static_cast<std::size_t>(got));
+        }
+        throw std::runtime_error("the program doesn't end");
+    }
+
+    void signal(int number) { ::kill(id_, number); }
+
+    /// The exit status, when it has closed its output; 1000 and more for a signal.
+    int status() {
+        rest();
+        int status = 0;
+        ::waitpid(id_, &status, 0);
+        id_ = -1;
+        return WIFEXITED(status) ? WEXITSTATUS(status) : 1000 + WTERMSIG(status);
+    }
+
+private:
+    bool readable() {
+        pollfd waiting{output_, POLLIN, 0};
+        return ::poll(&waiting, 1, limitMilliseconds) == 1;
+    }
+
+    pid_t id_ = -1;
+    int output_ = -1;
+};
+
+std::uint16_t portOf(const std::string& line) {
+    return static_cast<std::uint16_t>(std::stoi(line.substr(line.rfind(':') + 1)));
+}
+
+void endsOn(int signal) {
+    Program program({"--port", "0"});
+    const std::string line = program.line();
+    EXPECT_EQ(line.substr(0, 18), "https://127.0.0.1:");
+    raw::Connection open(portOf(line), true);
+    program.signal(signal);
+    EXPECT_EQ(program.status(), 0);
+}
+
+TEST(Program, EndsOnSigterm) {
+    endsOn(SIGTERM);
+}
+
+TEST(Program, EndsOnSigint) {
+    endsOn(SIGINT);
+}
+
+TEST(Program, ListensWithoutTlsIfTold) {
+    Program program({"--port", "0", "--plain"});
+    const std::string line = program.line();
+    EXPECT_EQ(line.substr(0, 17), "http://127.0.0.1:");
+    const std::uint16_t port = portOf(line);
+    EXPECT_EQ(raw::exchange(port, false, raw::post(port, "/api", raw::call("getTarnClientType"))),
+              raw::reply(raw::int32(8)));
+}
+
+TEST(Program, WritesALineForEachCallAndNoPassword) {
+    const std::string file = ::testing::TempDir() + "simulator-" + std::to_string(::getpid());
+    Program program({"--port", "0", "--log", file, "--user", "anna", "--password", "s3cret"});
+    const std::uint16_t port = portOf(program.line());
+    const std::string base = "https://127.0.0.1:" + std::to_string(port);
+    const std::string login =
+        raw::call("login", raw::text(base) + raw::text("13.0.0.0") + raw::text("anna") +
+                               raw::text("s3cret") + raw::int32(1));
+    raw::exchange(port, true, raw::post(port, "/api", login));
+    program.signal(SIGTERM);
+    EXPECT_EQ(program.status(), 0);
+    std::ifstream log(file);
+    const std::string text{std::istreambuf_iterator<char>(log), {}};
+    ::unlink(file.c_str());
+    EXPECT_THAT(text, HasSubstr("http   ClientConnection.login(\"" + base +
+                                "\", \"13.0.0.0\", \"anna\", ***, 1) ok\n"));
+    EXPECT_EQ(text.find("s3cret"), std::string::npos);
+}
+
+TEST(Program, RefusesABadOption) {
+    Program program({"--prot", "0"});
+    EXPECT_EQ(program.line(), "tarn-agent-simulator: there is no option '--prot'; see --help\n");
+    EXPECT_EQ(program.status(), 2);
+}
+
+TEST(Program, SaysThatThePortIsInUse) {
+    Program first({"--port", "0"});
+    const std::string port = std::to_string(portOf(first.line()));
+    Program second({"--port", port});
+    EXPECT_EQ(second.line(),
+              "tarn-agent-simulator: can't listen on port " + port + ": Address already in use\n");
+    EXPECT_EQ(second.status(), 1);
+}
+
+TEST(Program, SaysThatTheLogCannotBeWritten) {
+    Program program({"--port", "0", "--log", "/nowhere/at/all"});
+    EXPECT_EQ(program.line(),
+              "tarn-agent-simulator: the log file '/nowhere/at/all' can't be written\n");
+    EXPECT_EQ(program.status(), 1);
+}
+
+TEST(Program, TellsHelpAndVersion) {
+    Program help({"--help"});
+    EXPECT_THAT(help.rest(), HasSubstr("Usage: tarn-agent-simulator"));
+    EXPECT_EQ(help.status(), 0);
+    Program version({"--version"});
+    EXPECT_THAT(version.line(), HasSubstr("tarn-agent-simulator "));
+    EXPECT_EQ(version.status(), 0);
+}
+
+} // namespace

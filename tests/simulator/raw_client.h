@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+/// A client that shares no line with the product or the simulator: bytes by hand, over a socket
+/// of its own. Each wait has a limit, and fails with `std::runtime_error`.
+namespace raw {
+
+/// A connection to 127.0.0.1.
+class Connection {
+public:
+    Connection(std::uint16_t port, bool tls);
+    ~Connection();
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+
+    void send(std::string_view bytes);
+
+    /// Exactly so many bytes.
+    std::string receive(std::size_t count);
+
+    /// All that comes until the other side closes.
+    std::string receiveRest();
+
+    /// True if nothing comes, and nothing is closed, for so long.
+    bool silentFor(int milliseconds);
+
+private:
+    struct Parts;
+    std::unique_ptr<Parts> parts_;
+};
+
+// The forms of the wire. Texts are ASCII.
+std::string text(std::string_view value);
+std::string int32(std::int32_t value);
+std::string remote(std::string_view type, std::string_view url);
+std::string call(std::string_view method, std::string_view arguments = {});
+
+/// "r", 1, 0, the value, "z".
+std::string reply(std::string_view value = {});
+
+std::string fault(std::string_view code, std::string_view message);
+
+std::string requestFrame(std::uint32_t id, std::string_view url, std::string_view message);
+
+/// A right POST of the message, but for what a test changes.
+std::string post(std::uint16_t port, std::string_view target, std::string_view message);
+
+/// Sends one POST on a connection of its own. The status line, or the body of a 200.
+std::string exchange(std::uint16_t port, bool tls, std::string_view request);
+
+/// A response frame's message, after its head and its checksum were compared.
+std::string receiveResponse(Connection& connection, std::uint32_t id);
+
+/// CRC-32, a bit at a time.
+std::uint32_t crc(std::string_view bytes);
+
+/// The URL of the reference that a reply holds.
+std::string referenceIn(std::string_view reply);
+
+} // namespace raw
