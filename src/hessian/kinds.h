@@ -114,9 +114,19 @@ concept List = !Bytes<T> && requires {
     typename detail::ListElement<T>::type;
 };
 
+namespace detail {
 template <class T>
-concept Value = Boolean<T> || Int32<T> || Int64<T> || String<T> || Bytes<T> || Enumeration<T> ||
-    Record<T> || RemoteReference<T> || List<T>;
+constexpr bool isValue() {
+    if constexpr (List<T>)
+        return isValue<typename ListElement<T>::type>();
+    else
+        return Boolean<T> || Int32<T> || Int64<T> || String<T> || Bytes<T> || Enumeration<T> ||
+               Record<T> || RemoteReference<T>;
+}
+} // namespace detail
+
+template <class T>
+concept Value = detail::isValue<T>();
 
 /// Kinds that take the same number of bytes whatever their value; 0 for the others.
 template <class T>

@@ -88,6 +88,12 @@ struct RecordLayout {
     template <std::size_t I>
     using Member = std::remove_cvref_t<decltype(std::declval<R&>().*std::get<I>(fields).member)>;
 
+    static_assert(
+        []<std::size_t... I>(std::index_sequence<I...>) {
+            return (Value<Member<I>> && ...);
+        }(Indices{}),
+        "the members of a record are of the kinds that the wire knows");
+
     static constexpr std::size_t mapStartSize = 4 + R::wireType.size();
 
     static constexpr std::array<MemberPlace, count> places =

@@ -206,6 +206,19 @@ constexpr std::array<char, 32768> longName = [] {
     return name;
 }();
 
+enum class Undescribed : std::int32_t {};
+struct Unknown {};
+
+// The set of kinds is closed.
+static_assert(hessianser::Value<everything>);
+static_assert(hessianser::Value<std::vector<std::vector<Handle>>>);
+static_assert(!hessianser::Value<double>);
+static_assert(!hessianser::Value<std::int16_t>);
+static_assert(!hessianser::Value<const char*>);
+static_assert(!hessianser::Value<Undescribed>);
+static_assert(!hessianser::Value<Unknown>);
+static_assert(!hessianser::Value<std::vector<float>>);
+
 // A record that breaks one of these doesn't compile.
 static_assert(isPlainName("name"));
 static_assert(isPlainName({longName.data(), 32767}));

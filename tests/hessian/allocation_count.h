@@ -1,0 +1,12 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstddef>
+
+namespace codec_test {
+
+/// How often the program has allocated so far, from its own `operator new`.
+extern std::size_t allocations;
+
+} // namespace codec_test
