@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+
+#include <gmock/gmock.h>
+
+#include "session/connection.h"
+#include "simulator/simulator.h"
+#include "simulator/world/world.h"
+#include "tests/session/session_fixture.h"
+
+namespace session_tests {
+
+/// A session with a simulated agent over TLS. At the end nothing may be left on the agent that
+/// wasn't released, and nothing may have been done that no right client does.
+class AgentTest : public SessionTest {
+protected:
+    explicit AgentTest(simulator::Options options = {})
+        : agent(std::move(options)) {}
+
+    void TearDown() override {
+        session::g_connection.reset();
+        if (!agentGone) {
+            EXPECT_THAT(agent.liveObjects(), testing::IsEmpty());
+        }
+        EXPECT_THAT(agent.violations(), testing::IsEmpty());
+        EXPECT_EQ(agent.waitingInjections(), 0u);
+    }
+
+    void logIn() { session::connectToAgent(agent.address(), "demo", "demo", 1); }
+
+    /// As the agent's log shows the login of `user` with a password.
+    std::string loginText(const std::string& user) const {
+        return "ClientConnection.login(\"" + agent.baseUrl() + "\", \"13.0.0.0\", \"" + user +
+               "\", ***, 1)";
+    }
+
+    void stopAgent() {
+        agent.stop();
+        agentGone = true;
+    }
+
+    void setClientType(std::int32_t type) {
+        agent.withWorld([type](simulator::World& world) { world.clientType = type; });
+    }
+
+    static constexpr const char* askKind = "ClientConnection.getTarnClientType()";
+    static constexpr const char* logout = "ClientConnection.logout()";
+    static constexpr const char* release = "ClientConnection.Release()";
+
+    simulator::Simulator agent;
+    /// The agent can't be reached any more, so nothing can be released.
+    bool agentGone = false;
+};
+
+} // namespace session_tests
