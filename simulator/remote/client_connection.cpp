@@ -3,6 +3,7 @@
 #include "simulator/remote/client_connection.h"
 
 #include "simulator/remote/backup_set.h"
+#include "simulator/remote/client_configuration.h"
 #include "simulator/remote/generic_activity.h"
 #include "simulator/remote/system_activity_manager.h"
 #include "simulator/remote/tfa_manager.h"
@@ -52,6 +53,8 @@ ClientConnection::ClientConnection(std::shared_ptr<Session> opened, World& world
         return world_.eventLog(from, to, activityId);
     });
 
+    on("getConfigurationManager",
+       [this] { return std::make_shared<ClientConfiguration>(session(), world_); });
     on("getTFAManager", [this] { return std::make_shared<TFAManager>(session(), world_); });
     on("getSystemActivityManager",
        [this] { return std::make_shared<SystemActivityManager>(session(), world_); });

@@ -15,6 +15,7 @@ namespace {
 
 using hessiancln::ActivityType;
 using hessiancln::BackupDataType;
+using hessiancln::KeyEncryptionType;
 using hessiancln::ScheduleDetailType;
 
 constexpr Milliseconds quarterOfAnHour = 15 * 60 * 1000;
@@ -73,8 +74,19 @@ void describeAgent(World& world, const std::string& system, bool central, bool f
     tell(world, "Operating System", system);
     tell(world, "Tarn-Client Version", "14.2.0.1180");
     tell(world, "Database", "Embedded, 214 MB");
-    tell(world, "Account", firstRun ? "" : "OSTRAND-40117");
-    tell(world, "Client Number", firstRun ? "" : "A4C1-0093-17");
+    auto& enrolled = world.registration;
+    if (!firstRun) {
+        enrolled.customer_name = "Müller & Söhne GmbH";
+        enrolled.account_num = "OSTRAND-40117";
+        enrolled.client_num = "A4C100931700";
+        enrolled.private_key_enc = enrolled.account_key_enc = KeyEncryptionType::AES256;
+        enrolled.private_key = "the quick brown fox";
+        enrolled.account_key = "jumps over the lazy dog";
+        enrolled.tarnsys_ip_addr = "vault1.example.net\\;vault2.example.net";
+        enrolled.escrow_enc_key = true;
+    }
+    tell(world, "Account", enrolled.account_num);
+    tell(world, "Client Number", enrolled.client_num);
     tell(world, "Tarn-System", firstRun ? "" : "vault1.example.net");
     tell(world, "Centrally Managed Backup Policy", central ? "Yes" : "No");
     tell(world, "InitialClient", firstRun ? "Yes" : "No");

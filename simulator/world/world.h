@@ -10,6 +10,7 @@
 
 #include "api/activity_records.h"
 #include "api/backup_set_records.h"
+#include "api/client_configuration_records.h"
 #include "api/event_records.h"
 #include "api/tarn_client_info.h"
 #include "api/user_email.h"
@@ -39,6 +40,7 @@ public:
     bool pathsOfWindows = true;
     std::string computer;
     std::vector<hessiancln::tarn_client_info> about;
+    hessiancln::tarnc_reg_info registration;
     hessiancln::user_info customer{276, hessiancln::EmployeeCountCode::UpTo50,
                                    hessiancln::IndustryCode::Computer};
     bool twoFactor = false;

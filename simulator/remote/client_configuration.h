@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "api/client_configuration_records.h"
+#include "simulator/objects/servant.h"
+#include "simulator/world/world.h"
+
+namespace simulator {
+
+/// What the agent knows about the customer.
+class UserInfoConfiguration final : public Servant {
+public:
+    UserInfoConfiguration(std::shared_ptr<Session> opened, World& world)
+        : Servant(std::move(opened)) {
+        implements("UserInfoConfiguration");
+        on("getUserInfo", [&world] { return world.customer; });
+        on("setUserInfo", [&world](const hessiancln::user_info& info) { world.customer = info; });
+    }
+};
+
+/// The agent's own settings.
+class ClientConfiguration final : public Servant {
+public:
+    ClientConfiguration(std::shared_ptr<Session> opened, World& world)
+        : Servant(std::move(opened)) {
+        implements("ClientConfiguration");
+        on("getCustomerName", [&world] { return world.registration.customer_name; });
+        on("getAccountNumber", [&world] { return world.registration.account_num; });
+        on("getClientNumber", [&world] { return world.registration.client_num; });
+        on("getTarnCRegistrationInfo", [&world] { return world.registration; });
+        on("getClientOSType",
+           [&world] { return hessiancln::ClientOSType(world.pathsOfWindows ? 0 : 1); });
+        on("getUserInfoConfiguration",
+           [this, &world] { return std::make_shared<UserInfoConfiguration>(session(), world); });
+    }
+};
+
+} // namespace simulator
