@@ -20,18 +20,12 @@ void prepareApplication() {
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
 }
 
-void logIn(SimpleGUIMainWindow& window) {
-    window.doLogin(true);
-    if (!session::connectedToAgent())
-        window.doLogin(false);
-}
-
 int runWindow(QtSingleApplication& application) {
     SimpleGUIMainWindow window;
     window.show();
     QObject::connect(&application, &QtSingleApplication::messageReceived, &window,
                      &SimpleGUIMainWindow::showMainWindow);
-    logIn(window);
+    app::logInAtStart(window);
     const int status = QApplication::exec();
     session::disconnectFromAgent();
     return status;

@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: Apache-2.0
 // How the main window learns the agent's state, and what it lets the user do then.
 #include <algorithm>
+#include <stdexcept>
 #include <string_view>
 
 #include "api/client_connection.h"
 #include "app/enable_state.h"
 #include "app/simple_gui_main_window.h"
 #include "session/connection.h"
+
 #include "ui/error_box.h"
 #include "ui_simple_gui_main_window.h"
 
@@ -60,7 +62,10 @@ void SimpleGUIMainWindow::readClientInfo() {
     const auto policy = std::find_if(rows.begin(), rows.end(), tellsPolicy);
     if (policy != rows.end())
         session::g_isCentrallyManaged = policy->value == kYes;
-    session::g_is2FAEnabled = connection->getTFAManager()->is2FAEnabled();
+    const auto twoFactor = connection->getTFAManager();
+    if (!twoFactor)
+        throw std::runtime_error("The agent has no two-factor manager");
+    session::g_is2FAEnabled = twoFactor->is2FAEnabled();
 }
 
 void SimpleGUIMainWindow::refreshBackupSets() {

@@ -10,6 +10,8 @@
 #include <QTextStream>
 #include <QTranslator>
 
+#include "app/simple_gui_main_window.h"
+#include "session/connection.h"
 #include "ui/error_box.h"
 
 namespace app {
@@ -44,6 +46,13 @@ void applyStyleSheet(QApplication& application) {
     QFile file(QDir::current().absoluteFilePath(QStringLiteral("tarnmobile.css")));
     if (file.open(QIODevice::ReadOnly | QIODevice::Text))
         application.setStyleSheet(QTextStream(&file).readAll());
+}
+
+void logInAtStart(SimpleGUIMainWindow& window) {
+    window.doLogin(true);
+    // What that returns says less than the session does.
+    if (!session::connectedToAgent())
+        window.doLogin(false);
 }
 
 } // namespace app

@@ -6,8 +6,9 @@
 #include <QStringList>
 
 class QApplication;
+class SimpleGUIMainWindow;
 
-/// The steps of start-up that stand between the application object and its first window.
+/// The steps of start-up between the application object and the event loop.
 namespace app {
 
 /// The language code behind the first "--lang". Empty for the built-in English: when there is no
@@ -20,5 +21,9 @@ void installTranslation(QApplication& application, const QString& language);
 
 /// Takes "tarnmobile.css" from the current directory as the style sheet, if there is one.
 void applyStyleSheet(QApplication& application);
+
+/// Tries the agent on this machine first, and asks the user if that gave no session. Without one
+/// in the end the window stays as it is.
+void logInAtStart(SimpleGUIMainWindow& window);
 
 } // namespace app

@@ -1,0 +1,241 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include <QAccessible>
+#include <QAction>
+#include <QDateTimeEdit>
+#include <QLabel>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QSplitter>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTableView>
+#include <QTest>
+#include <QToolBar>
+#include <QToolButton>
+#include <QTranslator>
+
+#include "app/simple_gui_main_window.h"
+#include "resources/pictures.h"
+#include "tests/support/gui_agent.h"
+#include "tests/support/gui_modal_driver.h"
+
+using support::child;
+
+namespace {
+
+/// The object names of the entries of a menu or tool bar, a separator as "-". What has no name
+/// there is a filler.
+QStringList entries(const QWidget& bar) {
+    QStringList names;
+    for (const QAction* action : bar.actions())
+        if (action->isSeparator())
+            names << QStringLiteral("-");
+        else if (!action->objectName().isEmpty())
+            names << action->objectName();
+    return names;
+}
+
+QStringList words(const char* text) {
+    return QString::fromLatin1(text).split(QLatin1Char(' '));
+}
+
+} // namespace
+
+/// What stands in the main window and how it is called, without any session.
+class MainWindowFormTest : public QObject {
+    Q_OBJECT
+private slots:
+    void initTestCase() { resources::initPictures(); }
+    void init() { window_ = std::make_unique<SimpleGUIMainWindow>(); }
+    void cleanup() { window_.reset(); }
+
+    void hasItsActions_data() {
+        QTest::addColumn<QString>("label");
+        QTest::addColumn<bool>("hasIcon");
+        action("actionLogin", "&Connect");
+        action("actionLogout", "&Disconnect");
+        action("actionQuit", "&Quit");
+        action("actionNew_Backup_Set", "&New Set");
+        action("actionBackup_Now", "&Backup");
+        action("actionRestore", "&Restore");
+        action("actionSynchronize", "&Synchronize");
+        action("actionDeleteFromOnline", "&Delete");
+        action("actionAdmin", "&Admin");
+        action("actionLogo", "Logo");
+        action("action_Recovery", "&Recovery");
+        action("action_About", "&About Tarn-Mobile User");
+        action("actionRegister", "R&e-Register");
+        action("actionRegistration_Info", "Registration &Info");
+        action("actionHelp", "&Help");
+        QTest::newRow("actionLDAP_Account") << QStringLiteral("LDA&P User Account") << false;
+        action("actionTFASettings", "&Two Factor Authentication");
+    }
+    void hasItsActions() {
+        QFETCH(QString, label);
+        QFETCH(bool, hasIcon);
+        const auto& found = child<QAction>(*window_, QTest::currentDataTag());
+        QCOMPARE(found.text(), label);
+        QCOMPARE(!found.icon().pixmap(32).isNull(), hasIcon);
+        QVERIFY(found.shortcut().isEmpty());
+    }
+
+    void hasItsMenus() {
+        QStringList titles;
+        for (const QAction* menu : window_->menuBar()->actions())
+            titles << menu->text();
+        QCOMPARE(titles, (QStringList{QStringLiteral("&Application"), QStringLiteral("&Backup Set"),
+                                      QStringLiteral("&Configuration"), QStringLiteral("&Help")}));
+        QCOMPARE(entries(child<QWidget>(*window_, "menu_Application")),
+                 words("actionLogin actionLogout - actionQuit"));
+        QCOMPARE(entries(child<QWidget>(*window_, "menu_Backup_Set")),
+                 words("actionNew_Backup_Set actionBackup_Now actionRestore "
+                       "actionDeleteFromOnline - actionSynchronize"));
+        QCOMPARE(entries(child<QWidget>(*window_, "menu_Configuration")),
+                 words("actionLDAP_Account actionAdmin action_Recovery actionRegister "
+                       "actionRegistration_Info actionTFASettings"));
+        QCOMPARE(entries(child<QWidget>(*window_, "menu_Help")), words("actionHelp action_About"));
+    }
+
+    void hasItsToolBars() {
+        window_->show();
+        const auto& bar = child<QToolBar>(*window_, "toolBar");
+        const auto& logo = child<QToolBar>(*window_, "toolBarLogo");
+        QCOMPARE(bar.windowTitle(), QStringLiteral("Main Tool Bar"));
+        QCOMPARE(entries(bar), words("actionNew_Backup_Set actionBackup_Now actionRestore "
+                                     "actionDeleteFromOnline"));
+        QCOMPARE(entries(logo), words("actionLogo"));
+        QCOMPARE(bar.iconSize(), QSize(32, 32));
+        QCOMPARE(logo.iconSize(), QSize(280, 50));
+        QCOMPARE(bar.toolButtonStyle(), Qt::ToolButtonTextUnderIcon);
+        QVERIFY(!bar.isFloatable());
+        QVERIFY(!logo.isFloatable());
+        QVERIFY(!logo.isMovable());
+        // Side by side, the logo at the right end and not wider than it has to be.
+        QCOMPARE(bar.geometry().top(), logo.geometry().top());
+        QVERIFY(logo.geometry().left() > bar.geometry().right());
+        QCOMPARE(logo.geometry().right(), window_->rect().right());
+        QVERIFY(bar.width() > window_->width() / 2);
+    }
+
+    void isLaidOutAsItShouldBe() {
+        window_->show();
+        const auto& upDown = child<QSplitter>(*window_, "splitter_2");
+        const auto& leftRight = child<QSplitter>(*window_, "splitterSetView");
+        auto& tabs = child<QTabWidget>(*window_, "tabWidget");
+        QCOMPARE(upDown.orientation(), Qt::Vertical);
+        QCOMPARE(leftRight.orientation(), Qt::Horizontal);
+        QCOMPARE(upDown.widget(0), &leftRight);
+        QCOMPARE(upDown.widget(1), &tabs);
+        QCOMPARE(leftRight.widget(0), &child<QTableView>(*window_, "backupSetsView"));
+        QCOMPARE(leftRight.widget(1), &child<QWidget>(*window_, "pageProperties"));
+        QCOMPARE(tabs.tabText(0), QStringLiteral("Running Activities"));
+        QCOMPARE(tabs.tabText(1), QStringLiteral("Activity Log"));
+        for (const char* name : {"tableCurrentActivities", "buttonStop"})
+            QVERIFY(tabs.widget(0)->isAncestorOf(&child<QWidget>(*window_, name)));
+        for (const char* name : {"tableActivityLog", "labelDateTimeFrom", "dateTimeFrom",
+                                 "labelDateTimeTo", "dateTimeTo", "buttonEventLog"})
+            QVERIFY(tabs.widget(1)->isAncestorOf(&child<QWidget>(*window_, name)));
+        QCOMPARE(window_->width(), 1000);
+        // 650 to 350, less the handle between them.
+        QVERIFY(qAbs(leftRight.sizes().at(1) - 350) <= 20);
+    }
+
+    void namesTheDetailsOfASet() {
+        const char* const captions[][2] = {
+            {"labLastBackup", "Last backup:"}, {"labFileGens", "Protected file generations:"},
+            {"labSize", "Protected size:"},    {"labItems", "Protected items:"},
+            {"labSchedule", "Schedule:"},      {"labRetention", "Retention:"},
+        };
+        for (const auto& [name, caption] : captions)
+            QCOMPARE(child<QLabel>(*window_, name).text(), QString::fromLatin1(caption));
+        for (const char* name :
+             {"valLastBackup", "valFileGens", "valSize", "valItems", "valSchedule", "valRetention"})
+            QCOMPARE(child<QLabel>(*window_, name).text(), QString());
+        const char* const buttons[][2] = {
+            {"btnItems", "Edit backup set items"},
+            {"btnSchedule", "Create/Edit schedule"},
+            {"btnRetention", "Create/Edit retention rules"},
+        };
+        for (const auto& [name, tip] : buttons) {
+            const auto& button = child<QAbstractButton>(*window_, name);
+            QCOMPARE(button.toolTip(), QString::fromLatin1(tip));
+            QCOMPARE(button.size(), QSize(28, 28));
+            QVERIFY(!button.icon().isNull());
+        }
+    }
+
+    void showsYesterdayAndTodayInTheLog() {
+        const auto& from = child<QDateTimeEdit>(*window_, "dateTimeFrom");
+        const auto& to = child<QDateTimeEdit>(*window_, "dateTimeTo");
+        QCOMPARE(from.dateTime(), QDateTime(QDate::currentDate().addDays(-1), QTime(0, 0)));
+        QCOMPARE(to.dateTime(), QDateTime(QDate::currentDate(), QTime(23, 59, 59, 999)));
+        for (const QDateTimeEdit* edit : {&from, &to}) {
+            QVERIFY(edit->calendarPopup());
+            QCOMPARE(edit->displayFormat(), QStringLiteral("yyyy-MM-dd HH:mm"));
+        }
+        QCOMPARE(child<QLabel>(*window_, "labelDateTimeFrom").text(), QStringLiteral("&From:"));
+        QCOMPARE(child<QLabel>(*window_, "labelDateTimeTo").text(), QStringLiteral("&To:"));
+        QCOMPARE(child<QLabel>(*window_, "labelDateTimeFrom").buddy(), &from);
+        QCOMPARE(child<QLabel>(*window_, "labelDateTimeTo").buddy(), &to);
+        QCOMPARE(child<QPushButton>(*window_, "buttonEventLog").text(), QStringLiteral("&Events"));
+        QCOMPARE(child<QPushButton>(*window_, "buttonStop").text(), QStringLiteral("&Stop"));
+    }
+
+    void namesEachWidgetThatTabReaches() {
+        int checked = 0;
+        for (QWidget* widget : window_->findChildren<QWidget*>()) {
+            if (!(widget->focusPolicy() & Qt::TabFocus) || widget->focusProxy() ||
+                widget->objectName().startsWith(QLatin1String("qt_")))
+                continue;
+            QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
+            QVERIFY(accessible);
+            const QString name = accessible->text(QAccessible::Name);
+            QVERIFY2(!name.isEmpty(), qPrintable(widget->objectName()));
+            ++checked;
+        }
+        QVERIFY(checked >= 10);
+    }
+
+    void tabFollowsTheEye() {
+        QStringList names;
+        QWidget* widget = &child<QWidget>(*window_, "backupSetsView");
+        do {
+            if (!widget->objectName().isEmpty() &&
+                !widget->objectName().startsWith(QLatin1String("qt_")) &&
+                (widget->focusPolicy() & Qt::TabFocus) && !qobject_cast<QTabBar*>(widget->parent()))
+                names << widget->objectName();
+            widget = widget->nextInFocusChain();
+        } while (widget->objectName() != QLatin1String("backupSetsView"));
+        QCOMPARE(names,
+                 words("backupSetsView btnItems btnSchedule btnRetention tabWidget "
+                       "tableCurrentActivities buttonStop dateTimeFrom dateTimeTo buttonEventLog "
+                       "tableActivityLog"));
+    }
+
+    void opensInTheTextsOfATranslation() {
+        QTranslator german;
+        const QString none = QLatin1String("");
+        QVERIFY(german.load(QStringLiteral(TARN_TRANSLATION_DE), none, none, none));
+        window_->setWindowTitle(QStringLiteral("Ostrand Backup - demo@there"));
+        QCoreApplication::installTranslator(&german);
+        QTRY_COMPARE(child<QAction>(*window_, "actionLogin").text(), QStringLiteral("&Verbinden"));
+        QCOMPARE(window_->windowTitle(), QStringLiteral("Ostrand Backup - demo@there"));
+
+        SimpleGUIMainWindow fresh;
+        QCOMPARE(child<QMenu>(fresh, "menu_Help").title(), QStringLiteral("&Hilfe"));
+        QCOMPARE(fresh.windowTitle(), QStringLiteral("Ostrand Backup"));
+        QCoreApplication::removeTranslator(&german);
+    }
+
+private:
+    static void action(const char* name, const char* label) {
+        QTest::newRow(name) << QString::fromLatin1(label) << true;
+    }
+
+    std::unique_ptr<SimpleGUIMainWindow> window_;
+};
+
+QTEST_MAIN(MainWindowFormTest)
+#include "main_window_form_test.moc"
