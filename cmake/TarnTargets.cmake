@@ -28,6 +28,10 @@ if(TARN_SANITIZE)
     if(TARN_SANITIZE MATCHES "thread" AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
         target_compile_options(tarn_options INTERFACE -Wno-tsan)
     endif()
+    # GCC takes <regex> for uninitialized once the address sanitizer has rewritten it.
+    if(TARN_SANITIZE MATCHES "address" AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        target_compile_options(tarn_options INTERFACE -Wno-maybe-uninitialized)
+    endif()
 endif()
 
 function(_tarn_prepare target)
