@@ -19,6 +19,7 @@
 ///     Nullable<C>                      the same, or null
 ///     std::vector<std::shared_ptr<C>>  a list of them
 ///     Secret                           a string that no log shows
+///     std::vector<const R*>            as a result only, records that aren't copied
 namespace simulator {
 
 /// Writes `result` at the end of a reply; what is an object is handed out.
@@ -96,6 +97,15 @@ void writeResult(const T& result, References& references, std::string& out) {
         out.push_back('V');
         for (const auto& object : result)
             writeResult(object, references, out);
+        hessianser::writeEnd(out);
+    } else if constexpr (IsRowList<T>::value) {
+        std::size_t size = 2 * hessianser::sizeOfEnd;
+        for (const auto* row : result)
+            size += hessianser::sizeOfValue(*row);
+        out.reserve(out.size() + size + hessianser::sizeOfEnd);
+        out.push_back('V');
+        for (const auto* row : result)
+            hessianser::writeValue(*row, out);
         hessianser::writeEnd(out);
     } else {
         out.reserve(out.size() + hessianser::sizeOfValue(result) + hessianser::sizeOfEnd);

@@ -40,6 +40,11 @@ template <class C>
 struct IsObjectList<std::vector<std::shared_ptr<C>>> : std::true_type {};
 
 template <class T>
+struct IsRowList : std::false_type {};
+template <class R>
+struct IsRowList<std::vector<const R*>> : std::true_type {};
+
+template <class T>
 struct IsNullable : std::false_type {};
 template <class C>
 struct IsNullable<Nullable<C>> : std::true_type {};

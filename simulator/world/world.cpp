@@ -165,21 +165,21 @@ void World::addEvent(event_log_info event) {
     events_.push_back(std::move(event));
 }
 
-std::vector<activity_log_info> World::activityLog(std::int32_t from, std::int32_t to) const {
-    std::vector<activity_log_info> rows;
+Rows<activity_log_info> World::activityLog(std::int32_t from, std::int32_t to) const {
+    Rows<activity_log_info> rows;
     for (const activity_log_info& row : log_)
         if (row.start_time <= to && row.end_time >= from)
-            rows.push_back(row);
+            rows.push_back(&row);
     return rows;
 }
 
-std::vector<event_log_info> World::eventLog(std::int32_t from, std::int32_t to,
-                                            std::int32_t activityId) const {
-    std::vector<event_log_info> rows;
+Rows<event_log_info> World::eventLog(std::int32_t from, std::int32_t to,
+                                     std::int32_t activityId) const {
+    Rows<event_log_info> rows;
     for (const event_log_info& event : events_) {
         const bool inSpan = from <= event.when && event.when <= to;
         if (activityId == 0 ? inSpan : event.activity_id == activityId)
-            rows.push_back(event);
+            rows.push_back(&event);
     }
     return rows;
 }

@@ -22,6 +22,10 @@
 
 namespace simulator {
 
+/// Rows of a log, which may be too long to be copied. Good until the world changes.
+template <class Row>
+using Rows = std::vector<const Row*>;
+
 /// What the agent has and does, without any wire. Times follow the clock that it was given; the
 /// rest follows the seed, so that equal clocks and seeds make equal worlds.
 class World {
@@ -69,11 +73,10 @@ public:
     void reportEnd(const hessiancln::activity_log_info& row);
 
     /// The rows that touch the span, both ends included, in seconds.
-    std::vector<hessiancln::activity_log_info> activityLog(std::int32_t from,
-                                                           std::int32_t to) const;
+    Rows<hessiancln::activity_log_info> activityLog(std::int32_t from, std::int32_t to) const;
     /// The events of one activity, or of the span if `activityId` is 0.
-    std::vector<hessiancln::event_log_info> eventLog(std::int32_t from, std::int32_t to,
-                                                     std::int32_t activityId) const;
+    Rows<hessiancln::event_log_info> eventLog(std::int32_t from, std::int32_t to,
+                                              std::int32_t activityId) const;
     /// The newest row of that kind for that set; an empty row if there is none.
     hessiancln::activity_log_info lastActivity(std::int32_t setId,
                                                hessiancln::ActivityType type) const;

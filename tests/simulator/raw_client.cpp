@@ -115,8 +115,8 @@ bool Connection::silentFor(int milliseconds) {
     // What TLS itself has to say is no answer, so that poll alone can't tell.
     parts_->limitWaits({0, milliseconds * 1000});
     char byte = 0;
-    const auto got = parts_->ssl ? SSL_read(parts_->ssl, &byte, 1)
-                                 : ::recv(parts_->socket, &byte, 1, 0);
+    const auto got =
+        parts_->ssl ? SSL_read(parts_->ssl, &byte, 1) : ::recv(parts_->socket, &byte, 1, 0);
     const bool timedOut = got < 0 && (errno == EAGAIN || errno == EWOULDBLOCK);
     parts_->limitWaits({limitSeconds, 0});
     return timedOut;

@@ -40,15 +40,16 @@ TEST_F(WorldTest, IsTheSameForTheSameClockAndSeed) {
     ASSERT_EQ(rows.size(), otherRows.size());
     ASSERT_GT(rows.size(), 100u);
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        EXPECT_EQ(rows[i].start_time, otherRows[i].start_time);
-        EXPECT_EQ(rows[i].data_size, otherRows[i].data_size);
+        EXPECT_EQ(rows[i]->start_time, otherRows[i]->start_time);
+        EXPECT_EQ(rows[i]->data_size, otherRows[i]->data_size);
     }
 }
 
 TEST_F(WorldTest, HasALogInOrderThatEndsInThePast) {
     const World world = make(Scenario::Default);
     std::int32_t last = 0;
-    for (const auto& row : world.activityLog(never, farAway)) {
+    for (const auto* line : world.activityLog(never, farAway)) {
+        const auto& row = *line;
         EXPECT_GE(row.start_time, last);
         EXPECT_LT(row.end_time, seconds(now_));
         EXPECT_GE(row.end_time, row.start_time);
@@ -100,7 +101,7 @@ TEST_F(WorldTest, LetsAnActivityProgressAndEndInTheLog) {
 
     pass(world, 46'000);
     EXPECT_THAT(world.running(), IsEmpty());
-    const auto row = world.activityLog(never, farAway).at(0);
+    const auto& row = *world.activityLog(never, farAway).at(0);
     EXPECT_EQ(row.id, id);
     EXPECT_EQ(row.type, ActivityType::Backup);
     EXPECT_EQ(row.end_time - row.start_time, 100);
@@ -118,7 +119,7 @@ TEST_F(WorldTest, EndsAnActivityAtItsOwnTimeHoweverLateOneLooks) {
     plan.duration = 10'000;
     world.start(plan);
     pass(world, 3'600'000);
-    const auto row = world.activityLog(never, farAway).at(0);
+    const auto& row = *world.activityLog(never, farAway).at(0);
     EXPECT_EQ(row.end_time - row.start_time, 10);
 }
 
@@ -140,7 +141,7 @@ TEST_F(WorldTest, StopsAnActivity) {
     pass(world, 2'000);
     EXPECT_TRUE(world.stop(id));
     EXPECT_FALSE(world.stop(id));
-    const auto row = world.activityLog(never, farAway).at(0);
+    const auto& row = *world.activityLog(never, farAway).at(0);
     EXPECT_EQ(row.end_time, seconds(now_));
     EXPECT_EQ(static_cast<std::int32_t>(row.completion), 3);
     EXPECT_EQ(set->info.last_backup, seconds(now_));
@@ -154,7 +155,7 @@ TEST_F(WorldTest, BringsASetBackInSync) {
     pass(world, 120'000);
     EXPECT_FALSE(world.isRunning(id));
     EXPECT_TRUE(set->info.in_sync);
-    EXPECT_EQ(set->info.last_sync_time, world.activityLog(never, farAway).at(0).end_time);
+    EXPECT_EQ(set->info.last_sync_time, world.activityLog(never, farAway).at(0)->end_time);
 }
 
 TEST_F(WorldTest, RemovesASetWhenItsRemovalHasEnded) {
