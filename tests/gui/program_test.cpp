@@ -1,0 +1,188 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include <QElapsedTimer>
+#include <QLocalSocket>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "app/qt_single_application.h"
+#include "app/simple_gui_main_window.h"
+#include "resources/pictures.h"
+#include "tests/support/gui_agent.h"
+
+using support::GuiAgent;
+using namespace std::chrono_literals;
+
+namespace {
+
+/// The real program in a process of its own, which ends with this object. Its own machine's agent
+/// is that at `agentPort`, and nobody else runs in its runtime directory but whom the test put
+/// there.
+class Client : public QProcess {
+public:
+    Client(const QString& runtimeDirectory, quint16 agentPort) {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtimeDirectory);
+        environment.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(TARN_PORT_REDIRECT));
+        environment.insert(QStringLiteral("TARN_TEST_AGENT_PORT"), QString::number(agentPort));
+        // The redirect stands before a sanitizer's own library, which is all right here.
+        environment.insert(QStringLiteral("ASAN_OPTIONS"),
+                           QStringLiteral("verify_asan_link_order=0:") +
+                               environment.value(QStringLiteral("ASAN_OPTIONS")));
+        setProcessEnvironment(environment);
+        setWorkingDirectory(runtimeDirectory);
+        setProcessChannelMode(QProcess::ForwardedChannels);
+    }
+    ~Client() override {
+        kill();
+        waitForFinished();
+    }
+
+    bool launch(const QStringList& arguments = {}) {
+        start(QStringLiteral(TARN_PROGRAM), arguments);
+        return waitForStarted();
+    }
+};
+
+QtSingleApplication& application() {
+    return *qobject_cast<QtSingleApplication*>(qApp);
+}
+
+} // namespace
+
+/// Starts of the real program: alone, and while this process is the first instance.
+class ProgramTest : public QObject {
+    Q_OBJECT
+private slots:
+    void initTestCase() { resources::initPictures(); }
+
+    void listsTheSetsOfTheAgentAndAsksAgainWithEachHeartbeat() {
+        const GuiAgent agent;
+        const QTemporaryDir elsewhere;
+        Client client(elsewhere.path(), agent.port());
+        QVERIFY(client.launch());
+        QVERIFY(agent.waitForCall("backup_sets_info", 1, 20s));
+        QVERIFY(agent.waitForCall("backup_sets_info", 2, 20s));
+        QCOMPARE(client.state(), QProcess::Running);
+        QCOMPARE(agent.violations(), std::vector<std::string>{});
+    }
+
+    void runsOnWithoutAnAgentBehindTheLoginDialog() {
+        // The dialog asks for domains before it opens, so that call shows how far the start came.
+        simulator::Options options;
+        options.guest = false;
+        const GuiAgent agent(options);
+        const QTemporaryDir elsewhere;
+        Client client(elsewhere.path(), agent.port());
+        QVERIFY(client.launch());
+        QVERIFY(agent.waitForCall("getAvailableDomains", 1, 20s));
+        QVERIFY(!client.waitForFinished(500));
+    }
+
+    void aSecondStartRaisesTheFirstAndEnds_data() {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::newRow("plain") << QStringList();
+        // The translation, which isn't there, would be missed later on.
+        QTest::newRow("with a language")
+            << QStringList{QStringLiteral("--lang"), QStringLiteral("xx")};
+    }
+    void aSecondStartRaisesTheFirstAndEnds() {
+        QFETCH(QStringList, arguments);
+        const GuiAgent agent;
+        SimpleGUIMainWindow window;
+        window.showMinimized();
+        QSignalSpy messages(&application(), &QtSingleApplication::messageReceived);
+        connect(&application(), &QtSingleApplication::messageReceived, &window,
+                &SimpleGUIMainWindow::showMainWindow);
+        Client second(qEnvironmentVariable("XDG_RUNTIME_DIR"), agent.port());
+        QVERIFY(second.launch(arguments));
+        QTRY_COMPARE_WITH_TIMEOUT(second.state(), QProcess::NotRunning, 4500);
+        QCOMPARE(second.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(second.exitCode(), 0);
+        QCOMPARE(messages.size(), 1);
+        QCOMPARE(messages[0][0].toString(), QString());
+        QVERIFY(!window.isMinimized());
+        QVERIFY(window.isVisible());
+        QCOMPARE(agent.callLog().size(), std::size_t(0));
+    }
+
+    void aSecondStartCarriesOnWhenTheFirstDoesntAnswer() {
+        const GuiAgent agent;
+        QSignalSpy messages(&application(), &QtSingleApplication::messageReceived);
+        QElapsedTimer time;
+        Client second(qEnvironmentVariable("XDG_RUNTIME_DIR"), agent.port());
+        QVERIFY(second.launch());
+        time.start();
+        // This waits without an event loop, so the second one gets no answer from here.
+        QVERIFY(agent.waitForCall("backup_sets_info", 1, 30s));
+        QVERIFY2(time.elapsed() >= 4500, "the first instance has 5 seconds to answer");
+        // The message has waited; it must not be taken for that of a later test.
+        QTRY_COMPARE(messages.size(), 1);
+    }
+
+    void aCrashOfTheFirstDoesntHoldUpTheNextStart() {
+        const GuiAgent agent;
+        const QTemporaryDir elsewhere;
+        {
+            Client crashed(elsewhere.path(), agent.port());
+            QVERIFY(crashed.launch());
+            QVERIFY(agent.waitForCall("backup_sets_info", 1, 20s));
+        }
+        const std::size_t logins = 2;
+        Client next(elsewhere.path(), agent.port());
+        QElapsedTimer time;
+        time.start();
+        QVERIFY(next.launch());
+        QVERIFY(agent.waitForCall("login", logins, 20s));
+        QVERIFY2(time.elapsed() < 4500, "nobody is there to wait for");
+    }
+
+    void theFirstInstanceSendsNothing() {
+        QVERIFY(!application().sendMessage(QStringLiteral("to myself"), 5000));
+    }
+
+    void messagesThatComeInPiecesAreWhole() {
+        QSignalSpy messages(&application(), &QtSingleApplication::messageReceived);
+        QLocalSocket peer;
+        connectTo(peer);
+        for (const char byte : QByteArray("\0\0\0\3a\xC3\xA4", 7)) {
+            QCOMPARE(messages.size(), 0);
+            QCOMPARE(peer.write(&byte, 1), qint64(1));
+            QVERIFY(peer.flush());
+            QTest::qWait(1);
+        }
+        QTRY_COMPARE(messages.size(), 1);
+        QCOMPARE(messages[0][0].toString(), QString::fromUtf8("aä"));
+        QTRY_COMPARE(peer.bytesAvailable(), qint64(1));
+    }
+
+    void aPeerThatAnnouncesTooMuchIsDropped() {
+        QSignalSpy messages(&application(), &QtSingleApplication::messageReceived);
+        QLocalSocket peer;
+        connectTo(peer);
+        peer.write(QByteArray("\xFF\xFF\xFF\xFF", 4));
+        QTRY_COMPARE(peer.state(), QLocalSocket::UnconnectedState);
+        QCOMPARE(messages.size(), 0);
+    }
+
+private:
+    static void connectTo(QLocalSocket& peer) {
+        peer.connectToServer(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) +
+                             QStringLiteral("/tarn-mobile-user"));
+        QVERIFY(peer.waitForConnected(5000));
+    }
+};
+
+int main(int argc, char** argv) {
+    const QTemporaryDir runtimeDirectory;
+    qputenv("XDG_RUNTIME_DIR", runtimeDirectory.path().toLocal8Bit());
+    QtSingleApplication application(argc, argv);
+    ProgramTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "program_test.moc"
