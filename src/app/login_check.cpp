@@ -56,6 +56,7 @@ void LoginCheck::addDomains(const QStringList& domains) {
     comboDomain_->setObjectName(QStringLiteral("comboDomain"));
     labelDomain_->setBuddy(comboDomain_);
     comboDomain_->addItems(domains);
+    comboDomain_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     ui_->formLayout->insertRow(0, labelDomain_, comboDomain_);
     setTabOrder(comboDomain_, ui_->lineEditUserName);
     retranslateDomains();

@@ -2,6 +2,40 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name></name>
+    <message>
+        <source>&lt;tr&gt;&lt;td&gt;&lt;b&gt;Start:&lt;/b&gt;&lt;/td&gt; &lt;td&gt;%1&lt;/&lt;td&gt;&lt;/tr&gt;</source>
+        <translation>&lt;tr&gt;&lt;td&gt;&lt;b&gt;Beginn:&lt;/b&gt;&lt;/td&gt; &lt;td&gt;%1&lt;/&lt;td&gt;&lt;/tr&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;tr&gt;&lt;td&gt;&lt;b&gt;Status:&lt;/b&gt;&lt;/td&gt; &lt;td&gt;%1&lt;/&lt;td&gt;&lt;/tr&gt;</source>
+        <translation>&lt;tr&gt;&lt;td&gt;&lt;b&gt;Status:&lt;/b&gt;&lt;/td&gt; &lt;td&gt;%1&lt;/&lt;td&gt;&lt;/tr&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;tr&gt;&lt;td&gt;&lt;b&gt;Directory:&lt;/b&gt;&lt;/td&gt;&lt;td&gt;%1&lt;/&lt;td&gt;&lt;/tr&gt;</source>
+        <translation>&lt;tr&gt;&lt;td&gt;&lt;b&gt;Verzeichnis:&lt;/b&gt;&lt;/td&gt;&lt;td&gt;%1&lt;/&lt;td&gt;&lt;/tr&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>AboutDlg</name>
+    <message>
+        <source>Tarn-Client Info</source>
+        <translation>Informationen zum Tarn-Client</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>%1</source>
+        <translation>%1</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+</context>
+<context>
     <name>ActivityLogModel</name>
     <message>
         <source>%1 days, %2:%3:%4</source>
@@ -10,6 +44,63 @@
     <message>
         <source>%1 second(s)</source>
         <translation>%1 Sekunde(n)</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Warnings</source>
+        <translation>Warnungen</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Beginn</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Data size</source>
+        <translation>Datenmenge</translation>
+    </message>
+</context>
+<context>
+    <name>BackupSetViewItem</name>
+    <message>
+        <source>Backup of: %1</source>
+        <translation>Sicherung von: %1</translation>
+    </message>
+    <message>
+        <source>This backup set is a recovered backup set. You must edit
+the backup set items, schedule and the retention for this
+backup set using the buttons on the right.</source>
+        <translation>Sicherung von: %1</translation>
+    </message>
+    <message>
+        <source>Backup set name</source>
+        <translation>Name des Sicherungssatzes</translation>
+    </message>
+    <message>
+        <source>Rename backup set error</source>
+        <translation>Fehler beim Umbenennen des Sicherungssatzes</translation>
     </message>
 </context>
 <context>
@@ -21,6 +112,156 @@
     <message>
         <source>Computer</source>
         <translation>Computer</translation>
+    </message>
+</context>
+<context>
+    <name>EventLogModel</name>
+    <message>
+        <source>Info</source>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>Warn</source>
+        <translation>Warn</translation>
+    </message>
+    <message>
+        <source>Err</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Application</source>
+        <translation>Anwendung</translation>
+    </message>
+    <message>
+        <source>Socket</source>
+        <translation>Socket</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Meldung</translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation>Datenbank</translation>
+    </message>
+    <message>
+        <source>Exception</source>
+        <translation>Ausnahme</translation>
+    </message>
+    <message>
+        <source>I/O</source>
+        <translation>E/A</translation>
+    </message>
+    <message>
+        <source>Operating System</source>
+        <translation>Betriebssystem</translation>
+    </message>
+    <message>
+        <source>Security</source>
+        <translation>Sicherheit</translation>
+    </message>
+    <message>
+        <source>MAPI</source>
+        <translation>MAPI</translation>
+    </message>
+    <message>
+        <source>Novell</source>
+        <translation>Novell</translation>
+    </message>
+    <message>
+        <source>Oracle</source>
+        <translation>Oracle</translation>
+    </message>
+    <message>
+        <source>RMAN</source>
+        <translation>RMAN</translation>
+    </message>
+    <message>
+        <source>XML</source>
+        <translation>XML</translation>
+    </message>
+    <message>
+        <source>DB2</source>
+        <translation>DB2</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Benutzer</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Kategorie</translation>
+    </message>
+    <message>
+        <source>Event #</source>
+        <translation>Ereignis-Nr.</translation>
+    </message>
+    <message>
+        <source>Activity</source>
+        <translation>Aktivität</translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation>Detail</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+</context>
+<context>
+    <name>EventLogViewer</name>
+    <message>
+        <source>Event Log Viewer</source>
+        <translation>Ereignisanzeige</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>Ereignisse</translation>
+    </message>
+    <message>
+        <source>Viewing Filter</source>
+        <translation>Anzeigefilter</translation>
+    </message>
+    <message>
+        <source>&amp;From:</source>
+        <translation>&amp;Von:</translation>
+    </message>
+    <message>
+        <source>Events from</source>
+        <translation>Ereignisse von</translation>
+    </message>
+    <message>
+        <source>&amp;To:</source>
+        <translation>&amp;Bis:</translation>
+    </message>
+    <message>
+        <source>Events to</source>
+        <translation>Ereignisse bis</translation>
+    </message>
+    <message>
+        <source>&amp;Activity ID:</source>
+        <translation>&amp;Aktivitäts-ID:</translation>
+    </message>
+    <message>
+        <source>Activity ID</source>
+        <translation>Aktivitäts-ID</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
     </message>
 </context>
 <context>
@@ -72,6 +313,33 @@
     <message>
         <source>Login Failed</source>
         <translation>Anmeldung fehlgeschlagen</translation>
+    </message>
+</context>
+<context>
+    <name>RunningActivitiesModel</name>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Start Time</source>
+        <translation>Beginn</translation>
+    </message>
+    <message>
+        <source>User Name</source>
+        <translation>Benutzername</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>%L1 files</source>
+        <translation>%L1 Dateien</translation>
     </message>
 </context>
 <context>
@@ -271,6 +539,57 @@
         <source>Current connection terminated</source>
         <translation>Die Verbindung wurde beendet</translation>
     </message>
+    <message>
+        <source>UNKNOWN</source>
+        <translation>UNBEKANNT</translation>
+    </message>
+    <message>
+        <source>Never backed up</source>
+        <translation>Nie gesichert</translation>
+    </message>
+    <message>
+        <source>Not Scheduled</source>
+        <translation>Ohne Zeitplan</translation>
+    </message>
+    <message>
+        <source>Daily</source>
+        <translation>Täglich</translation>
+    </message>
+    <message>
+        <source>Monthly</source>
+        <translation>Monatlich</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Benutzerdefiniert</translation>
+    </message>
+    <message>
+        <source>Time-based</source>
+        <translation>Zeitbasiert</translation>
+    </message>
+    <message>
+        <source>No items</source>
+        <translation>Keine Elemente</translation>
+    </message>
+    <message>
+        <source>%1 to %2 generations</source>
+        <translation>%1 bis %2 Generationen</translation>
+    </message>
+    <message>
+        <source>%1 generation(s)</source>
+        <translation>%1 Generation(en)</translation>
+    </message>
+</context>
+<context>
+    <name>TarnClientInfoModel</name>
+    <message>
+        <source>Item</source>
+        <translation>Eintrag</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
 </context>
 <context>
     <name>activityTypeLabel</name>
@@ -444,6 +763,13 @@
     <message>
         <source>Unknown Data Type</source>
         <translation>Unbekannter Datentyp</translation>
+    </message>
+</context>
+<context>
+    <name>openBackupSet</name>
+    <message>
+        <source>The agent doesn&apos;t know this backup set.</source>
+        <translation>Der Agent kennt diesen Sicherungssatz nicht.</translation>
     </message>
 </context>
 <context>
