@@ -6,7 +6,7 @@
 
 namespace simulator {
 
-std::string quoted(std::string_view text) {
+std::string inQuotes(std::string_view text) {
     std::string result = "\"";
     for (const char c : text) {
         if (c == '"' || c == '\\')

@@ -56,7 +56,7 @@ template <class T>
 std::string describe(const T& value);
 
 /// In quotes, with what would break a line escaped.
-std::string quoted(std::string_view text);
+std::string inQuotes(std::string_view text);
 
 /// The key of a record's member that holds a password or an encryption key.
 bool isSecretKey(std::string_view key);
@@ -107,7 +107,7 @@ std::string describe(const T& value) {
     else if constexpr (hessianser::Int32<T> || hessianser::Int64<T>)
         return std::to_string(value);
     else if constexpr (hessianser::String<T>)
-        return quoted(value);
+        return inQuotes(value);
     else if constexpr (hessianser::Bytes<T>)
         return "<" + std::to_string(value.size()) + " bytes>";
     else if constexpr (hessianser::Record<T>)

@@ -1,0 +1,178 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "api/client_configuration_records.h"
+#include "simulator/objects/describe.h"
+#include "simulator/world/world.h"
+#include "tests/simulator/agent_test.h"
+
+using namespace std::string_literals;
+using simulator::World;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+
+namespace {
+
+/// What the session's objects answer, as bytes, and what they do to the world.
+class Remote : public AgentTest {
+protected:
+    void SetUp() override {
+        start({.scenario = simulator::Scenario::Empty});
+        logIn();
+        agent_->withWorld([](World& world) {
+            simulator::BackupSetState set;
+            set.info.name = "Papers";
+            set.info.computer = "PC";
+            set.info.has_items = true;
+            set.items.push_back({simulator::ItemState::Kind::Inclusion, "PC", "C:\\Papers"});
+            world.addSet(set);
+        });
+        set_ = setUrl(1);
+    }
+
+    void TearDown() override { EXPECT_THAT(agent_->violations(), IsEmpty()); }
+
+    static std::string int64(char last) { return "L\0\0\0\0\0\0\0"s + last; }
+
+    static std::string member(std::string_view key, const std::string& value) {
+        return raw::text(key) + value;
+    }
+
+    static std::string record(const std::string& type, const std::string& members) {
+        const std::string name = "com.norvel.api." + type;
+        return "Mt\0"s + static_cast<char>(name.size()) + name + members + "z";
+    }
+
+    std::string reference(const std::string& reply) { return raw::referenceIn(reply); }
+
+    std::string set_;
+};
+
+TEST_F(Remote, GivesTheOverview) {
+    agent_->withWorld([](World& world) {
+        auto& set = *world.sets().front();
+        set.info.last_sync_time = 1;
+        set.info.last_successful_backup = 2;
+        set.info.online_data_size = 3;
+        set.info.online_file_count = 4;
+        set.info.local_storage_data_size = 5;
+        set.info.local_storage_file_count = 6;
+        set.info.tarnsys_compressed_size = 7;
+        set.leastGenerations = 8;
+        set.mostGenerations = 9;
+        set.info.retention_rule_id = 10;
+        set.info.retention_rule_name = "R";
+        set.info.schedule_id = 11;
+        set.info.schedule_name = "S";
+        set.scheduleType = hessiancln::ScheduleDetailType::Monthly;
+    });
+    const std::string status = record(
+        "backup_set_status",
+        member("last_sync_time", raw::int32(1)) + member("last_successful_backup", raw::int32(2)) +
+            member("on_line_data_size", int64(3)) + member("on_line_file_count", raw::int32(4)) +
+            member("local_storage_data_size", int64(5)) +
+            member("local_storage_file_count", raw::int32(6)) +
+            member("tarnsystem_compressed_size", int64(7)));
+    EXPECT_EQ(callOn(set_, "getCurrentStatus"), raw::reply(status));
+    EXPECT_EQ(
+        callOn(set_, "getOverview"),
+        raw::reply(record("backup_set_overview_info",
+                          member("data_type", raw::int32(0)) + member("status", status) +
+                              member("min_gen", raw::int32(8)) + member("max_gen", raw::int32(9)) +
+                              member("retention_rule_id", raw::int32(10)) +
+                              member("retention_rule_name", raw::text("R")) +
+                              member("schedule_id", raw::int32(11)) +
+                              member("schedule_name", raw::text("S")) +
+                              member("schedule_type", raw::int32(3)))));
+}
+
+TEST_F(Remote, HasNoBackupTimesForASetThatNeverRan) {
+    EXPECT_EQ(callOn(set_, "backup_times"), raw::reply("Vz"));
+}
+
+TEST_F(Remote, GivesAnEmptyRowForAnActivityThatNeverRan) {
+    EXPECT_THAT(callOn(set_, "getLastActivityOfType", raw::int32(0)),
+                HasSubstr(member("start_time", raw::int32(0))));
+}
+
+TEST_F(Remote, RunsABackupOnDemand) {
+    const std::string items = callOn(set_, "items");
+    const std::string parameters = reference(callOn(set_, "createDefaultBackupParameters"));
+    EXPECT_EQ(callOn(parameters, "setDoRetentionAfter", "T"), raw::reply());
+    EXPECT_EQ(callOn(parameters, "setPreScanSource", "T"), raw::reply());
+    agent_->clearCallLog();
+    const std::string activity =
+        reference(callOn(set_, "start_backup",
+                         items.substr(3, items.size() - 4) +
+                             raw::remote("com.norvel.api.BackupStartParameters", parameters)));
+    EXPECT_THAT(agent_->callTexts(),
+                ElementsAre("BackupSet.start_backup([BackupSetItem(C:\\Papers)]"
+                            ", BackupStartParameters)"));
+    EXPECT_EQ(callOn(activity, "getID"), raw::reply(raw::int32(1001)));
+    EXPECT_THAT(call("running_activities"), HasSubstr(member("activity_id", raw::int32(1001))));
+    pass(600'000);
+    EXPECT_EQ(call("running_activities"), raw::reply("Vz"));
+    EXPECT_THAT(call("activity_log", raw::int32(0) + raw::int32(0x7FFFFFFF)),
+                HasSubstr(member("id", raw::int32(1001))));
+    EXPECT_THAT(callOn(set_, "backup_times"), HasSubstr(member("activity_id", raw::int32(1001))));
+}
+
+TEST_F(Remote, StopsAnActivity) {
+    callOn(set_, "start_sync", "F");
+    const std::string activity = reference(call("activity", raw::int32(1001)));
+    EXPECT_EQ(callOn(activity, "Stop"), raw::reply());
+    EXPECT_EQ(callOn(activity, "getID"), raw::reply(raw::int32(1001)));
+    EXPECT_EQ(call("running_activities"), raw::reply("Vz"));
+    EXPECT_THAT(call("activity", raw::int32(1001)), HasSubstr("no running activity"));
+}
+
+TEST_F(Remote, RefusesABackupOfNothing) {
+    const std::string parameters = reference(callOn(set_, "createDefaultBackupParameters"));
+    EXPECT_THAT(callOn(set_, "start_backup",
+                       "Vz" + raw::remote("com.norvel.api.BackupStartParameters", parameters)),
+                HasSubstr("no items"));
+}
+
+TEST_F(Remote, TellsAnItem) {
+    const std::string items = callOn(set_, "items");
+    const std::string item =
+        items.substr(items.find("http"), items.rfind("zz") - items.find("http"));
+    EXPECT_EQ(callOn(item, "getFolder"), raw::reply(raw::text("C:\\Papers")));
+    EXPECT_EQ(callOn(item, "getType"), raw::reply(raw::int32(0)));
+    EXPECT_EQ(callOn(item, "types"), raw::reply("V" + raw::text("BackupSetItem") +
+                                                raw::text("BackupSetInclusionItem") + "z"));
+}
+
+TEST_F(Remote, TellsTheEventsOfAnActivity) {
+    callOn(set_, "start_sync", "F");
+    EXPECT_THAT(call("event_log", raw::int32(0) + raw::int32(0) + raw::int32(1001)),
+                HasSubstr("Activity started: Papers"));
+}
+
+TEST_F(Remote, TellsTheSecondFactor) {
+    const std::string manager = reference(call("getTFAManager"));
+    EXPECT_EQ(callOn(manager, "is2FAEnabled"), raw::reply("F"));
+    agent_->withWorld([](World& world) { world.twoFactor = true; });
+    EXPECT_EQ(callOn(manager, "is2FAEnabled"), raw::reply("T"));
+}
+
+TEST_F(Remote, TellsTheCustomer) {
+    const std::string settings = reference(call("getConfigurationManager"));
+    const std::string info = reference(callOn(settings, "getUserInfoConfiguration"));
+    EXPECT_EQ(callOn(info, "getUserInfo"),
+              raw::reply(record("user_info", member("country_code", raw::int32(276)) +
+                                                 member("num_of_employees", raw::int32(1)) +
+                                                 member("industry_code", raw::int32(4)))));
+}
+
+TEST_F(Remote, HidesKeysInTheCallLog) {
+    hessiancln::tarnc_reg_info info;
+    info.customer_name = "C";
+    info.private_key = "open";
+    info.account_key = "sesame";
+    const std::string shown = simulator::describe(info);
+    EXPECT_THAT(shown, HasSubstr("customer_name=\"C\""));
+    EXPECT_THAT(shown, HasSubstr("private_key=***, account_key=***"));
+}
+
+} // namespace
