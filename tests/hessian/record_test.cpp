@@ -39,7 +39,7 @@ TEST(Record, SizeIsTheBytesWrittenWhateverTheText) {
     for (const std::string& text :
          {std::string(), std::string("plain"), std::string("\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80"),
           repeat("x", 32767), repeat("x", 32768), repeat("\xC3\xA9", 32767),
-          repeat("\xF0\x9F\x98\x80", 70000), "x" + repeat("\xE2\x82\xAC", 32767)}) {
+          repeat("\xF0\x9F\x98\x80", 70000), std::string("x") + repeat("\xE2\x82\xAC", 32767)}) {
         std::string out;
         const label value{text, false, text};
         hessianser::writeValue(value, out);

@@ -95,7 +95,7 @@ TEST(Writer, ChunksOfTextAreCutByCharacters) {
 }
 
 TEST(Writer, OneWideCharacterShiftsTheCut) {
-    EXPECT_EQ(textOf("\xC3\xA9" + repeat("x", 32767)),
+    EXPECT_EQ(textOf(std::string("\xC3\xA9") + repeat("x", 32767)),
               bytes("73 7F FF C3 A9") + repeat("x", 32766) + bytes("53 00 01 'x'"));
 }
 
