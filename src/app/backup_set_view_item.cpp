@@ -30,7 +30,11 @@ BackupSetViewItem::BackupSetViewItem(QWidget* parent, Rename rename)
     ui_->setupUi(this);
 }
 
-BackupSetViewItem::~BackupSetViewItem() = default;
+BackupSetViewItem::~BackupSetViewItem() {
+    // The editor loses the focus as it goes, which must not rename anything.
+    if (nameEditor_)
+        disconnect(nameEditor_, nullptr, this, nullptr);
+}
 
 void BackupSetViewItem::setRecord(const hessiancln::backup_set_info& record) {
     record_ = record;
