@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QDateTime>
-#include <QTimeZone>
 #include <QtGlobal>
 
 #include "app/set_card_look.h"
