@@ -14,6 +14,7 @@ namespace {
 using hessiancln::invoke_exception;
 using session_tests::textOf;
 using testing::ElementsAre;
+using testing::EndsWith;
 using testing::IsEmpty;
 
 class SessionLifetime : public session_tests::AgentTest {
@@ -92,13 +93,8 @@ TEST_F(SessionLifetime, ObjectsOfTheSessionAreReleasedOnceEach) {
     first.reset();
     session::disconnectFromAgent();
     second.reset();
-    EXPECT_EQ(agent.callTexts().size(), 6u);
-    EXPECT_EQ(agent.callTexts()[0], askSet);
-    EXPECT_EQ(agent.callTexts()[1], askSet);
-    EXPECT_THAT(agent.callTexts()[2], testing::EndsWith("BackupSet.Release()"));
-    EXPECT_EQ(agent.callTexts()[3], logout);
-    EXPECT_EQ(agent.callTexts()[4], release);
-    EXPECT_THAT(agent.callTexts()[5], testing::EndsWith("BackupSet.Release()"));
+    EXPECT_THAT(agent.callTexts(), ElementsAre(askSet, askSet, EndsWith("BackupSet.Release()"),
+                                               logout, release, EndsWith("BackupSet.Release()")));
     EXPECT_THAT(agent.liveObjects(), IsEmpty());
 }
 
