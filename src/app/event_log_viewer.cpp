@@ -6,6 +6,7 @@
 
 #include <QDateTime>
 #include <QEvent>
+#include <QHeaderView>
 #include <QSignalBlocker>
 
 #include "app/wire_time.h"
@@ -40,6 +41,8 @@ void EventLogViewer::setUpTable() {
     ui_->tableEvents->setModel(&model_);
     for (std::size_t column = 0; column < columnWidths.size(); ++column)
         ui_->tableEvents->setColumnWidth(static_cast<int>(column), columnWidths[column]);
+    // In the middle of its column, the header of the widest one would be out of sight.
+    ui_->tableEvents->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     ui_->tableEvents->sortByColumn(EventLogModel::time, Qt::DescendingOrder);
 }
 

@@ -45,15 +45,14 @@ QString rich(const std::string& text) {
 }
 
 QString toolTip(const R& record) {
-    using Model = RunningActivitiesModel;
     QString text = QStringLiteral("<html><h3>%1</h3><table>").arg(typeLabel(record));
-    text += Model::tr("<tr><td><b>Start:</b></td> <td>%1</<td></tr>")
+    text += RunningActivitiesModel::tr("<tr><td><b>Start:</b></td> <td>%1</<td></tr>")
                 .arg(ui::timeText(record.start_time, QLocale::LongFormat));
     if (!record.status_msg.empty())
-        text +=
-            Model::tr("<tr><td><b>Status:</b></td> <td>%1</<td></tr>").arg(rich(record.status_msg));
+        text += RunningActivitiesModel::tr("<tr><td><b>Status:</b></td> <td>%1</<td></tr>")
+                    .arg(rich(record.status_msg));
     if (!record.process_dir.empty())
-        text += Model::tr("<tr><td><b>Directory:</b></td><td>%1</<td></tr>")
+        text += RunningActivitiesModel::tr("<tr><td><b>Directory:</b></td><td>%1</<td></tr>")
                     .arg(rich(record.process_dir));
     return text + QStringLiteral("</table></html>");
 }

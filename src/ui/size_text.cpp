@@ -10,16 +10,16 @@ QString sizeToString(double bytes) {
     constexpr double kilobyte = 1024;
     constexpr double megabyte = kilobyte * 1024;
     constexpr double gigabyte = megabyte * 1024;
-    const auto tr = [](const char* text) {
-        return QCoreApplication::translate("sizeToString", text);
-    };
     if (bytes < kilobyte)
-        return tr("%1 Byte(s)").arg(static_cast<qint64>(bytes));
+        return QCoreApplication::translate("sizeToString", "%1 Byte(s)")
+            .arg(static_cast<qint64>(bytes));
     if (bytes < megabyte)
-        return tr("%1 KB").arg(bytes / kilobyte, 0, 'f', 2);
+        return QCoreApplication::translate("sizeToString", "%1 KB")
+            .arg(bytes / kilobyte, 0, 'f', 2);
     if (bytes < gigabyte)
-        return tr("%1 MB").arg(bytes / megabyte, 0, 'f', 2);
-    return tr("%1 GB").arg(bytes / gigabyte, 0, 'f', 2);
+        return QCoreApplication::translate("sizeToString", "%1 MB")
+            .arg(bytes / megabyte, 0, 'f', 2);
+    return QCoreApplication::translate("sizeToString", "%1 GB").arg(bytes / gigabyte, 0, 'f', 2);
 }
 
 } // namespace ui
