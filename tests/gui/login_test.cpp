@@ -77,7 +77,13 @@ struct FailingSecurity : support::ScriptedSecurityOperations {
 class LoginTest : public QObject {
     Q_OBJECT
 private slots:
-    void initTestCase() { resources::initPictures(); }
+    void initTestCase() {
+        resources::initPictures();
+        // The size of a common desktop; that of this platform is larger.
+        QFont font = QApplication::font();
+        font.setPointSize(9);
+        QApplication::setFont(font);
+    }
     void cleanup() { support::resetSession(); }
 
     void looksAsItShould() {
@@ -184,7 +190,20 @@ private slots:
         QCOMPARE(form.itemAt(0, QFormLayout::LabelRole)->widget(),
                  &child<QLabel>(dialog, "labelDomain"));
         QCOMPARE(child<QLabel>(dialog, "labelDomain").text(), QStringLiteral("&From:"));
+        QCOMPARE(dialog.size(), QSize(294, 180));
+    }
+
+    void growsWhereItsTextsNeedMoreRoom() {
+        const QFont usual = QApplication::font();
+        QFont large = usual;
+        large.setPointSize(24);
+        QApplication::setFont(large);
+        const GuiAgent agent(inDomains());
+        LoginCheck dialog;
+        QApplication::setFont(usual);
+        QVERIFY(dialog.height() > 180);
         QVERIFY(dialog.height() >= dialog.layout()->minimumSize().height());
+        QVERIFY(dialog.width() >= dialog.layout()->minimumSize().width());
     }
 
     void logsIn() {
