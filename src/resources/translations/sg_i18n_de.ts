@@ -2,21 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
-    <name></name>
-    <message>
-        <source>&lt;tr&gt;&lt;td&gt;&lt;b&gt;Start:&lt;/b&gt;&lt;/td&gt; &lt;td&gt;%1&lt;/&lt;td&gt;&lt;/tr&gt;</source>
-        <translation>&lt;tr&gt;&lt;td&gt;&lt;b&gt;Beginn:&lt;/b&gt;&lt;/td&gt; &lt;td&gt;%1&lt;/&lt;td&gt;&lt;/tr&gt;</translation>
-    </message>
-    <message>
-        <source>&lt;tr&gt;&lt;td&gt;&lt;b&gt;Status:&lt;/b&gt;&lt;/td&gt; &lt;td&gt;%1&lt;/&lt;td&gt;&lt;/tr&gt;</source>
-        <translation>&lt;tr&gt;&lt;td&gt;&lt;b&gt;Status:&lt;/b&gt;&lt;/td&gt; &lt;td&gt;%1&lt;/&lt;td&gt;&lt;/tr&gt;</translation>
-    </message>
-    <message>
-        <source>&lt;tr&gt;&lt;td&gt;&lt;b&gt;Directory:&lt;/b&gt;&lt;/td&gt;&lt;td&gt;%1&lt;/&lt;td&gt;&lt;/tr&gt;</source>
-        <translation>&lt;tr&gt;&lt;td&gt;&lt;b&gt;Verzeichnis:&lt;/b&gt;&lt;/td&gt;&lt;td&gt;%1&lt;/&lt;td&gt;&lt;/tr&gt;</translation>
-    </message>
-</context>
-<context>
     <name>AboutDlg</name>
     <message>
         <source>Tarn-Client Info</source>
@@ -340,6 +325,18 @@ backup set using the buttons on the right.</source>
     <message>
         <source>%L1 files</source>
         <translation>%L1 Dateien</translation>
+    </message>
+    <message>
+        <source>&lt;tr&gt;&lt;td&gt;&lt;b&gt;Start:&lt;/b&gt;&lt;/td&gt; &lt;td&gt;%1&lt;/&lt;td&gt;&lt;/tr&gt;</source>
+        <translation>&lt;tr&gt;&lt;td&gt;&lt;b&gt;Beginn:&lt;/b&gt;&lt;/td&gt; &lt;td&gt;%1&lt;/&lt;td&gt;&lt;/tr&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;tr&gt;&lt;td&gt;&lt;b&gt;Status:&lt;/b&gt;&lt;/td&gt; &lt;td&gt;%1&lt;/&lt;td&gt;&lt;/tr&gt;</source>
+        <translation>&lt;tr&gt;&lt;td&gt;&lt;b&gt;Status:&lt;/b&gt;&lt;/td&gt; &lt;td&gt;%1&lt;/&lt;td&gt;&lt;/tr&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;tr&gt;&lt;td&gt;&lt;b&gt;Directory:&lt;/b&gt;&lt;/td&gt;&lt;td&gt;%1&lt;/&lt;td&gt;&lt;/tr&gt;</source>
+        <translation>&lt;tr&gt;&lt;td&gt;&lt;b&gt;Verzeichnis:&lt;/b&gt;&lt;/td&gt;&lt;td&gt;%1&lt;/&lt;td&gt;&lt;/tr&gt;</translation>
     </message>
 </context>
 <context>
@@ -773,7 +770,7 @@ backup set using the buttons on the right.</source>
     </message>
 </context>
 <context>
-    <name>ui</name>
+    <name>sizeToString</name>
     <message>
         <source>%1 Byte(s)</source>
         <translation>%1 Byte</translation>
