@@ -423,6 +423,12 @@ private slots:
         QVERIFY(window_->isMaximized());
     }
 
+    void closingTheWindowEndsTheEventLoop() {
+        QTimer::singleShot(0, window_.get(), &QWidget::close);
+        QTimer::singleShot(5000, window_.get(), [] { QCoreApplication::exit(1); });
+        QCOMPARE(QCoreApplication::exec(), 0);
+    }
+
     void quitEndsTheEventLoop() {
         QTimer::singleShot(0, &child<QAction>(*window_, "actionQuit"), &QAction::trigger);
         QTimer::singleShot(5000, window_.get(), [] { QCoreApplication::exit(1); });
