@@ -109,7 +109,7 @@ std::string describe(const T& value) {
     else if constexpr (hessianser::String<T>)
         return inQuotes(value);
     else if constexpr (hessianser::Bytes<T>)
-        return "<" + std::to_string(value.size()) + " bytes>";
+        return '<' + std::to_string(value.size()) + " bytes>";
     else if constexpr (hessianser::Record<T>)
         return detail::describeRecord(value);
     else

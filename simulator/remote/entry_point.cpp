@@ -31,6 +31,7 @@ std::string unframed(const Binary& framed) {
 
 Binary framed(const std::string& token) {
     Binary result;
+    result.reserve(4 + token.size());
     for (int shift = 0; shift < 32; shift += 8)
         result.push_back(static_cast<std::uint8_t>(token.size() >> shift & 0xFF));
     result.insert(result.end(), token.begin(), token.end());
