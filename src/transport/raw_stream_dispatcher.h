@@ -31,8 +31,9 @@ public:
 
     std::string sendRequest(const std::string& url, const std::string& request) override;
 
-    /// The handlers run on the connection's own thread and must not end that connection. Blocks
-    /// while 16 frames are unwritten. Always reuses connections.
+    /// The handlers run on the connection's own thread. They may call on with this operation, but
+    /// must not end that connection; a blocking call over it raises. Blocks while 16 frames are
+    /// unwritten. Always reuses connections.
     void asyncSendRequest(const std::string& url, const std::string& request, Handler onSuccess,
                           Handler onFailure) override;
 

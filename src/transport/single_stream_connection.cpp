@@ -83,6 +83,10 @@ void CSingleStreamDispatcherConnection::SendRequest(const std::string& url,
                                                     const std::string& request,
                                                     std::string& response) {
     trace_.step("CSingleStreamDispatcherConnection::SendRequest ENTER");
+    // A handler would wait for the thread that it runs on.
+    if (std::this_thread::get_id() == streamThread_) {
+        throw invoke_exception("A handler can't wait for a reply on its own connection");
+    }
 
     const auto reply = std::make_shared<PendingReply>();
     auto call = std::make_unique<Call>();

@@ -52,7 +52,7 @@ public:
     virtual ~CSingleStreamDispatcherConnection();
 
     /// Blocks, without a limit, until the reply stands in `response`. Raises `invoke_exception`
-    /// when the stream dies before that.
+    /// when the stream dies before that, and in a handler of this connection.
     void SendRequest(const std::string& url, const std::string& request, std::string& response);
 
     /// Queues the call; blocks while 16 frames are unwritten. The handlers run on this

@@ -333,6 +333,22 @@ TEST_P(RawStreamFailures, AHandlerThatRaisesSomethingWithoutATextClosesTheConnec
     EXPECT_EQ(server.connections(), 2u);
 }
 
+TEST_P(RawStreamFailures, ABlockingCallInAHandlerRaisesInPlaceOfWaitingForItself) {
+    LoopbackServer server(GetParam(), [](Peer& peer) {
+        peer.open();
+        peer.send(responseFrame(peer.receiveFrame().id, "pong"));
+        peer.send(responseFrame(peer.receiveFrame().id, "pong")).expectClose();
+    });
+    std::promise<std::string> told;
+    CRawStreamDispacher dispatcher(0, "", true);
+    dispatcher.asyncSendRequest(
+        server.url(), "ping",
+        [&](const std::string&) { told.set_value(failureOf(dispatcher, server.url())); },
+        [](const std::string& text) { ADD_FAILURE() << text; });
+    EXPECT_EQ(told.get_future().get(), "A handler can't wait for a reply on its own connection");
+    EXPECT_EQ(dispatcher.sendRequest(server.url(), "ping"), "pong"); // the stream goes on
+}
+
 TEST(RawStreamHandshake, APlainServerBehindHttps) {
     LoopbackServer server(Mode::plain, [](Peer& peer) {
         peer.receive(1);
