@@ -19,6 +19,7 @@ public:
     /// Takes a source name and a text, like `platform::reportError`.
     using EventLog = std::function<void(const std::string&, const std::string&)>;
 
+    /// Every block has its time, so nothing asks for `timed` yet.
     explicit TraceEntry(std::string file, bool timed = true,
                         EventLog eventLog = platform::reportError);
     TraceEntry(const TraceEntry&) = delete;
@@ -42,7 +43,7 @@ private:
 
     std::string file_;
     std::ostringstream text_;
-    bool timed_;
+    [[maybe_unused]] bool timed_;
     EventLog eventLog_;
 };
 

@@ -27,6 +27,8 @@ public:
     ~TemporaryFile() { std::filesystem::remove(path_); }
 
     std::string path() const { return path_.string(); }
+    /// A file that can't be made, as it would stand below this one.
+    std::string impossiblePath() const { return (path_ / "file").string(); }
     bool exists() const { return std::filesystem::exists(path_); }
 
     std::string text() const {

@@ -322,7 +322,8 @@ TEST(HttpFailures, AServerThatIsSilentInTheHandshakeRaisesAfterTheTimeOut) {
 
 TEST(HttpTrace, ABrokenTraceFileFailsTheCall) {
     LoopbackServer server(Mode::plain, answer(okStart + "Content-Length: 4\r\n\r\npong"));
-    CHttpCallDispatcher dispatcher(1, "/nonexistent/trace");
+    const support::TemporaryFile missing;
+    CHttpCallDispatcher dispatcher(1, missing.impossiblePath());
     EXPECT_THROW(dispatcher.sendRequest(server.url(), "ping"), trace_exception);
     EXPECT_EQ(server.connections(), 0u);
 }

@@ -59,8 +59,9 @@ TEST(PlainFileLogger, IsSilentWhileNoFileIsOpen) {
 }
 
 TEST(PlainFileLogger, SaysWhenItCannotOpen) {
+    const TemporaryFile missing;
     PlainFileLogger logger;
-    EXPECT_FALSE(logger.open("/nonexistent/log"));
+    EXPECT_FALSE(logger.open(missing.impossiblePath()));
 }
 
 } // namespace

@@ -3,8 +3,12 @@
 #include "transport/trace_entry.h"
 
 #include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
 #include <filesystem>
 #include <locale>
+#include <optional>
 #include <regex>
 #include <utility>
 #include <vector>
@@ -52,6 +56,57 @@ TEST(TraceEntry, WritesOneLineWithThePrefix) {
     EXPECT_EQ(parts[2], std::to_string(platform::threadId()));
     EXPECT_EQ(withoutPrefix(line), "|port: 4411 open");
     EXPECT_TRUE(file.text().ends_with("open\n"));
+}
+
+/// As in "11/3/2026 09:05:07", typed out again from the parts of the system's local time.
+std::string localTime() {
+    const std::time_t now = std::time(nullptr);
+    std::tm parts{};
+    ::localtime_r(&now, &parts);
+    char text[64];
+    std::snprintf(text, sizeof text, "%d/%d/%d %02d:%02d:%02d", parts.tm_mon + 1, parts.tm_mday,
+                  parts.tm_year + 1900, parts.tm_hour, parts.tm_min, parts.tm_sec);
+    return text;
+}
+
+/// Sets the zone that the process lives in, and at its end the one before.
+class TimeZone {
+public:
+    explicit TimeZone(const char* zone) {
+        if (const char* before = std::getenv("TZ")) {
+            before_ = before;
+        }
+        ::setenv("TZ", zone, 1);
+        ::tzset();
+    }
+    TimeZone(const TimeZone&) = delete;
+    TimeZone& operator=(const TimeZone&) = delete;
+    ~TimeZone() {
+        before_ ? ::setenv("TZ", before_->c_str(), 1) : ::unsetenv("TZ");
+        ::tzset();
+    }
+
+private:
+    std::optional<std::string> before_;
+};
+
+/// The two zones are a day apart, so that in one of them the day isn't the number of the month.
+TEST(TraceEntry, TellsTheLocalTimeWithTheMonthBeforeTheDay) {
+    for (const char* zone : {"Test-12", "Test+12"}) {
+        const TimeZone here(zone);
+        const TemporaryFile file;
+        const std::string before = localTime();
+        TraceEntry entry(file.path());
+        entry << "text";
+        entry.flush();
+        const std::string after = localTime();
+
+        ASSERT_EQ(file.lines().size(), 1u);
+        const std::string line = file.lines()[0];
+        const std::size_t start = line.find(") ") + 2;
+        const std::string told = line.substr(start, line.rfind(" text") - start);
+        EXPECT_TRUE(told == before || told == after) << told << " in place of " << before;
+    }
 }
 
 TEST(TraceEntry, IndentsTheSecondLineByTheWidthOfThePrefix) {
@@ -119,17 +174,19 @@ TEST(TraceEntry, DestroyedWithoutFlushWritesItsTextWithAWarning) {
 }
 
 TEST(TraceEntry, DestroyedWithoutFlushRaisesNothing) {
+    const TemporaryFile missing;
     EventLog log;
-    { TraceEntry("/nonexistent/trace", true, log.sink()) << "forgotten"; }
+    { TraceEntry(missing.impossiblePath(), true, log.sink()) << "forgotten"; }
     EXPECT_EQ(log.reports.size(), 1u);
 }
 
 TEST(TraceEntry, ADirectoryThatDoesNotExistIsReportedAndRaised) {
+    const TemporaryFile missing;
     EventLog log;
-    TraceEntry entry("/nonexistent/trace", true, log.sink());
+    TraceEntry entry(missing.impossiblePath(), true, log.sink());
     entry << "text";
-    const std::string expected =
-        "Failed to trace to '/nonexistent/trace'. O/S error: No such file or directory";
+    const std::string expected = "Failed to trace to '" + missing.impossiblePath() +
+                                 "'. O/S error: No such file or directory";
     try {
         entry.flush();
         FAIL() << "nothing raised";

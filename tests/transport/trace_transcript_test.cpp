@@ -279,8 +279,9 @@ TEST_P(HttpTrace, OfAHandshakeThatFails) {
 }
 
 TEST(RawTraceFailure, ABrokenTraceFileFailsTheCall) {
+    const TemporaryFile missing;
     LoopbackServer server(Mode::plain, pong);
-    CRawStreamDispacher dispatcher(1, "/nonexistent/trace", true);
+    CRawStreamDispacher dispatcher(1, missing.impossiblePath(), true);
     EXPECT_THROW(dispatcher.sendRequest(server.url(), "ping"), trace_exception);
     EXPECT_THROW(dispatcher.asyncSendRequest(server.url(), "ping", {}, {}), trace_exception);
 }
