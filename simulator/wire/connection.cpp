@@ -160,18 +160,18 @@ private:
         if (error) {
             // Other failures are the socket's own.
             if (error.category() == http::make_error_code(http::error::bad_method).category())
-                refuse({{400, "Bad Request"}, "neither HTTP nor a frame: " + error.message()});
+                refuse({400, "Bad Request"}, "neither HTTP nor a frame: " + error.message());
             return;
         }
         const HttpRequest request = plainRequest(parser_->get());
         const bool keepAlive = parser_->get().keep_alive();
         std::optional<Refused> refused = checkRequest(request);
         if (refused)
-            return refuse(*refused);
+            return refuse(refused->status, refused->why);
         const std::string scheme = isTls<Stream> ? "https://" : "http://";
         const std::string url = scheme + *request.header("Host") + request.target;
         if (!exchange_.knowsObject(url))
-            return refuse({{404, "Not Found"}, "no object has the URL " + url});
+            return refuse({404, "Not Found"}, "no object has the URL " + url);
         const Answer answer = exchange_.answer({Channel::Http, url, request.body});
         if (answer.silent)
             return waitForClose();
@@ -182,9 +182,9 @@ private:
             readRequest();
     }
 
-    void refuse(const Refused& refused) {
-        exchange_.reportViolation(refused.why);
-        send(httpResponse(refused.status, refused.why + "\n", false), true);
+    void refuse(const HttpStatus& status, const std::string& why) {
+        exchange_.reportViolation(why);
+        send(httpResponse(status, why + "\n", false), true);
     }
 
     /// Holds the connection open until the other side gives up.
