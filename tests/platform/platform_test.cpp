@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 #include <cstdlib>
+#include <string>
 #include <thread>
 
 #include <gtest/gtest.h>
@@ -13,6 +14,7 @@
 
 #ifndef _WIN32
 #include <pwd.h>
+#include <syslog.h>
 #include <unistd.h>
 #endif
 
@@ -40,11 +42,17 @@ TEST(Foreground, MayBePassedAtAnyTime) {
     EXPECT_NO_THROW(platform::allowSetForeground());
 }
 
-TEST(EventLog, TakesAnyText) {
-    EXPECT_NO_THROW(platform::reportError("TarnPlatformTest", "100%s of a test \xF0\x9F\x8C\xB2"));
-}
-
 #ifndef _WIN32
+
+TEST(EventLog, GetsAnErrorUnderTheNameOfItsSource) {
+    ::openlog("test", LOG_PERROR, LOG_USER); // so that it can be read here too
+    ::setlogmask(LOG_MASK(LOG_ERR));
+    testing::internal::CaptureStderr();
+    platform::reportError("HessianClientAPI", "100%s of a test \xF0\x9F\x8C\xB2");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "test: HessianClientAPI: 100%s of a test \xF0\x9F\x8C\xB2\n");
+    ::closelog();
+}
 
 TEST(ProcessId, IsTheSystemsOwn) {
     EXPECT_EQ(platform::processId(), static_cast<long>(::getpid()));
