@@ -7,10 +7,6 @@
 
 namespace hessianser {
 
-void fail(const char* text) {
-    throw serialize_exception(text);
-}
-
 bool isAscii(std::string_view text) {
     const char* at = text.data();
     std::size_t left = text.size();
