@@ -7,9 +7,15 @@
 #include <gtest/gtest.h>
 
 #include "api/activity_records.h"
+#include "api/backup_set_credentials.h"
+#include "api/backup_set_item.h"
 #include "api/backup_set_records.h"
+#include "api/browser_records.h"
+#include "api/client_configuration_records.h"
 #include "api/event_records.h"
+#include "api/retention_time_span.h"
 #include "api/schedule_detail_type.h"
+#include "api/user_info.h"
 #include "hessian/value.h"
 #include "tests/support/bytes.h"
 
@@ -43,32 +49,43 @@ std::string written(E value) {
 
 struct Row {
     const char* name;
-    std::int32_t last; ///< the declared numbers go from 0 to this one
+    std::int32_t first; ///< the declared numbers go from this one
+    std::int32_t last;  ///< to this one
     std::int32_t other;
     std::int32_t (*read)(std::int32_t);
 };
 
 const Row rows[] = {
-    {"BackupDataType", 29, 30, readAs<BackupDataType>},
-    {"BackupSetType", 3, 4, readAs<BackupSetType>},
-    {"ActivityType", 30, 31, readAs<ActivityType>},
-    {"ActivityCompletion", 35, 36, readAs<ActivityCompletion>},
-    {"EventLogType", 2, 3, readAs<EventLogType>},
-    {"EventCategory", 13, 14, readAs<EventCategory>},
-    {"ScheduleDetailType", 3, 4, readAs<ScheduleDetailType>},
+    {"BackupDataType", 0, 29, 30, readAs<BackupDataType>},
+    {"BackupSetType", 0, 3, 4, readAs<BackupSetType>},
+    {"ActivityType", 0, 30, 31, readAs<ActivityType>},
+    {"ActivityCompletion", 0, 35, 36, readAs<ActivityCompletion>},
+    {"EventLogType", 0, 2, 3, readAs<EventLogType>},
+    {"EventCategory", 0, 13, 14, readAs<EventCategory>},
+    {"ScheduleDetailType", 0, 3, 4, readAs<ScheduleDetailType>},
+    {"KeyEncryptionType", 0, 7, 8, readAs<KeyEncryptionType>},
+    {"ClientOSType", 0, 2, 3, readAs<ClientOSType>},
+    {"DayOfWeekCode", 0, 6, 7, readAs<DayOfWeekCode>},
+    {"EmployeeCountCode", 1, 7, 8, readAs<EmployeeCountCode>},
+    {"IndustryCode", 1, 8, 9, readAs<IndustryCode>},
+    {"SelectableItemType", 0, 13, 14, readAs<SelectableItemType>},
+    {"NetItemType", 0, 1, 2, readAs<NetItemType>},
+    {"BackupSetItemType", 0, 2, 3, readAs<BackupSetItemType>},
+    {"SSHAccessType", 0, 2, 3, readAs<SSHAccessType>},
+    {"RetentionTimeUnit", 0, 6, 7, readAs<RetentionTimeUnit>},
 };
 
 TEST(Enumerations, DeclaredNumbersStandForThemselves) {
     for (const Row& row : rows)
-        for (std::int32_t number = 0; number <= row.last; ++number)
+        for (std::int32_t number = row.first; number <= row.last; ++number)
             EXPECT_EQ(row.read(number), number) << row.name;
 }
 
 TEST(Enumerations, AnyOtherNumberReadsAsTheReservedOne) {
     using Limits = std::numeric_limits<std::int32_t>;
     for (const Row& row : rows)
-        for (const std::int32_t number :
-             {-1, row.other, row.other + 1, row.other + 256, Limits::min(), Limits::max()})
+        for (const std::int32_t number : {row.first - 1, row.other, row.other + 1, row.other + 256,
+                                          Limits::min(), Limits::max()})
             EXPECT_EQ(row.read(number), row.other) << row.name << ' ' << number;
 }
 
