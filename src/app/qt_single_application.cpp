@@ -18,6 +18,17 @@ constexpr quint32 kLongestMessage = 64 * 1024;
 constexpr char kConfirmation = '!';
 constexpr int kPauseBeforeNextTry = 20;
 
+/// Whether this process is the first one. Nobody else is where no lock can be made at all.
+bool takeLock(QLockFile& lock) {
+    if (lock.tryLock())
+        return true;
+    // The file's text may be damaged, or name a machine that had another name. What is removed
+    // here is only a file that no living process holds.
+    if (lock.error() == QLockFile::LockFailedError && lock.removeStaleLockFile() && lock.tryLock())
+        return true;
+    return lock.error() != QLockFile::LockFailedError;
+}
+
 QString inRuntimeDirectory(const QString& name) {
     return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + QLatin1Char('/') +
            name;
@@ -66,7 +77,7 @@ QtSingleApplication::QtSingleApplication(int& argc, char** argv)
     , lock_(socketName_ + QStringLiteral(".lock")) {
     // A lock is stale when its process is gone, however old it is.
     lock_.setStaleLockTime(0);
-    first_ = lock_.tryLock();
+    first_ = takeLock(lock_);
     if (first_)
         listen();
 }

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 #include <QElapsedTimer>
+#include <QFile>
 #include <QLocalSocket>
 #include <QProcess>
 #include <QSignalSpy>
@@ -139,6 +140,35 @@ private slots:
         QVERIFY(next.launch());
         QVERIFY(agent.waitForCall("login", logins, 20s));
         QVERIFY2(time.elapsed() < 4500, "nobody is there to wait for");
+    }
+
+    void aLockThatNobodyHoldsDoesntHoldUpTheStart_data() {
+        QTest::addColumn<QByteArray>("lock");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("damaged") << QByteArray("\xFF\n\n\0no lock at all", 18);
+        QTest::newRow("of a machine that had another name")
+            << QByteArray::number(QCoreApplication::applicationPid()) +
+                   "\ntarn-mobile-user\nits-old-name\n";
+    }
+    void aLockThatNobodyHoldsDoesntHoldUpTheStart() {
+        QFETCH(QByteArray, lock);
+        const GuiAgent agent;
+        const QTemporaryDir elsewhere;
+        QFile file(elsewhere.filePath(QStringLiteral("tarn-mobile-user.lock")));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(lock), qint64(lock.size()));
+        file.close();
+        Client client(elsewhere.path(), agent.port());
+        QElapsedTimer time;
+        time.start();
+        QVERIFY(client.launch());
+        QVERIFY(agent.waitForCall("backup_sets_info", 1, 20s));
+        QVERIFY2(time.elapsed() < 4500, "nobody is there to wait for");
+
+        Client second(elsewhere.path(), agent.port());
+        QVERIFY(second.launch());
+        QVERIFY(second.waitForFinished(4500));
+        QCOMPARE(second.exitCode(), 0);
     }
 
     void theFirstInstanceSendsNothing() {
