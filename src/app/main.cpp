@@ -22,7 +22,7 @@ void prepareApplication() {
 
 int runWindow(QtSingleApplication& application) {
     SimpleGUIMainWindow window;
-    window.show();
+    app::showAtOnce(window);
     QObject::connect(&application, &QtSingleApplication::messageReceived, &window,
                      &SimpleGUIMainWindow::showMainWindow);
     app::logInAtStart(window);

@@ -5,14 +5,25 @@
 #include <memory>
 
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QTextStream>
+#include <QThread>
 #include <QTranslator>
+#include <QWidget>
+#include <QWindow>
 
 #include "app/simple_gui_main_window.h"
 #include "session/connection.h"
 #include "ui/error_box.h"
+
+namespace {
+
+constexpr int kTimeToAppear = 500;
+constexpr int kTimeBetweenLooks = 10;
+
+} // namespace
 
 namespace app {
 
@@ -46,6 +57,17 @@ void applyStyleSheet(QApplication& application) {
     QFile file(QDir::current().absoluteFilePath(QStringLiteral("tarnmobile.css")));
     if (file.open(QIODevice::ReadOnly | QIODevice::Text))
         application.setStyleSheet(QTextStream(&file).readAll());
+}
+
+void showAtOnce(QWidget& window) {
+    window.show();
+    const QDeadlineTimer deadline(kTimeToAppear);
+    while (!window.windowHandle()->isExposed() && !deadline.hasExpired()) {
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        QThread::msleep(kTimeBetweenLooks);
+    }
+    // Appearing may have asked for another layout.
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 void logInAtStart(SimpleGUIMainWindow& window) {

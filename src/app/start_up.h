@@ -6,6 +6,7 @@
 #include <QStringList>
 
 class QApplication;
+class QWidget;
 class SimpleGUIMainWindow;
 
 /// The steps of start-up between the application object and the event loop.
@@ -21,6 +22,10 @@ void installTranslation(QApplication& application, const QString& language);
 
 /// Takes "tarnmobile.css" from the current directory as the style sheet, if there is one.
 void applyStyleSheet(QApplication& application);
+
+/// Shows `window` and returns when it has been painted, or after half a second where nobody lets it
+/// appear. What follows may block for as long as an agent stays silent. Input has to wait.
+void showAtOnce(QWidget& window);
 
 /// Tries the agent on this machine first, and asks the user if that gave no session. Without one
 /// in the end the window stays as it is.

@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTranslator>
+#include <QWidget>
 
 #include "app/start_up.h"
 #include "tests/support/gui_modal_driver.h"
@@ -17,6 +18,14 @@ void write(const QString& name, const QByteArray& bytes) {
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
         qFatal("Can't write %s", qPrintable(name));
 }
+
+class PaintCount : public QWidget {
+public:
+    int paints = 0;
+
+protected:
+    void paintEvent(QPaintEvent*) override { ++paints; }
+};
 
 } // namespace
 
@@ -116,6 +125,13 @@ private slots:
         app::applyStyleSheet(*qApp);
         QVERIFY(modals.done());
         QCOMPARE(qApp->styleSheet(), QString());
+    }
+
+    void theWindowIsPaintedBeforeALoginBlocks() {
+        PaintCount window;
+        app::showAtOnce(window);
+        QVERIFY(window.isVisible());
+        QVERIFY(window.paints > 0);
     }
 
 private:
