@@ -5,12 +5,13 @@
 #include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 
 #include "app/open_backup_set.h"
 #include "session/process_values.h"
 #include "session/text.h"
-#include "ui/error_box.h"
+#include "ui/remote_action.h"
 #include "ui_backup_set_view_item.h"
 
 namespace {
@@ -44,6 +45,8 @@ void BackupSetViewItem::setRecord(const hessiancln::backup_set_info& record) {
 void BackupSetViewItem::render() {
     ui_->labelSetName->setText(session::fromWire(record_.name));
     ui_->labelAdditionalInfo->setText(tr("Backup of: %1").arg(session::fromWire(record_.computer)));
+    setAccessibleName(ui_->labelSetName->text());
+    setAccessibleDescription(ui_->labelAdditionalInfo->text());
     applyLook(app::setCardLook(record_, session::g_isCentrallyManaged));
 }
 
@@ -105,23 +108,45 @@ void BackupSetViewItem::startEditingSetName() {
 }
 
 void BackupSetViewItem::endEditingSetName() {
-    if (!editingName_)
+    if (!editingName_ || sendingName_)
         return;
-    {
-        // Losing the focus ends an edit too, and this one is ending already.
-        const QSignalBlocker quiet(nameEditor_);
-        setFocus();
-        ui_->labelSetName->show();
-        nameEditor_->hide();
-    }
-    const QString name = nameEditor_->text().trimmed();
-    try {
-        rename_(record_.id, name);
-        ui_->labelSetName->setText(name);
-    } catch (const std::exception& error) {
-        ui::showError(this, tr("Rename backup set error"), ui::errorText(error));
-    }
+    hideNameEditor();
+    sendName(nameEditor_->text().trimmed());
     editingName_ = false;
+}
+
+void BackupSetViewItem::abandonEditing() {
+    if (!editingName_ || sendingName_)
+        return;
+    hideNameEditor();
+    editingName_ = false;
+}
+
+void BackupSetViewItem::hideNameEditor() {
+    // Losing the focus ends an edit too, and this one is ending already.
+    const QSignalBlocker quiet(nameEditor_);
+    setFocus();
+    ui_->labelSetName->show();
+    nameEditor_->hide();
+}
+
+void BackupSetViewItem::sendName(const QString& name) {
+    const QScopedValueRollback<bool> sending(sendingName_, true);
+    // The box belongs to the window: the list may let go of this card while it is open.
+    const bool renamed = ui::remoteAction(*window(), tr("Rename backup set error"),
+                                          ui::Cursor::arrow, [&] { rename_(record_.id, name); });
+    if (renamed)
+        ui_->labelSetName->setText(name);
+    if (deleteOnceSent_)
+        deleteLater();
+}
+
+bool BackupSetViewItem::event(QEvent* event) {
+    if (event->type() == QEvent::DeferredDelete && sendingName_) {
+        deleteOnceSent_ = true;
+        return true;
+    }
+    return QWidget::event(event);
 }
 
 void BackupSetViewItem::contextMenuEvent(QContextMenuEvent* event) {

@@ -38,6 +38,11 @@ public:
     /// Whether the name is being edited, or is just being sent to the agent.
     bool editingName() const { return editingName_; }
 
+    /// Closes the editor and forgets what was typed, for a card that has to go.
+    void abandonEditing();
+
+    bool event(QEvent* event) override;
+
 signals:
     void contextMenuNeedsDisplay(BackupSetViewItem* source, QContextMenuEvent* event);
 
@@ -54,6 +59,8 @@ private:
     void applyLook(const app::SetCardLook& look);
     void showToolTip();
     void startEditingSetName();
+    void hideNameEditor();
+    void sendName(const QString& name);
     QLineEdit& nameEditor();
 
     std::unique_ptr<Ui::BackupSetViewItem> ui_;
@@ -62,4 +69,6 @@ private:
     app::SetCardLook look_;
     QLineEdit* nameEditor_ = nullptr; ///< made for the first rename; the card owns it
     bool editingName_ = false;
+    bool sendingName_ = false;
+    bool deleteOnceSent_ = false;
 };

@@ -2,14 +2,15 @@
 // SPDX-License-Identifier: Apache-2.0
 // How the main window learns the agent's state, and what it lets the user do then.
 #include <algorithm>
-#include <stdexcept>
 #include <string_view>
 
 #include "api/client_connection.h"
+#include "app/backup_set_view_item.h"
 #include "app/enable_state.h"
+#include "app/required.h"
 #include "app/simple_gui_main_window.h"
+#include "app/wire_time.h"
 #include "session/connection.h"
-
 #include "ui/error_box.h"
 #include "ui_simple_gui_main_window.h"
 
@@ -32,16 +33,30 @@ bool tellsPolicy(const tarn_client_info& info) {
 
 void SimpleGUIMainWindow::refreshAll() {
     if (!session::connectedToAgent()) {
+        clearActivities();
         ui_->backupSetsView->clearSelection();
-        backupSets_.setSets({});
+        setCardCount(0);
         return;
     }
     try {
         RefreshTarnClientInfo();
+        RefreshActivityLogs();
         refreshBackupSets();
     } catch (const std::exception& error) {
         showStatus(ui::errorText(error));
+        clearActivities();
     }
+}
+
+void SimpleGUIMainWindow::clearActivities() {
+    activityLog_.clear();
+    running_.clear();
+}
+
+void SimpleGUIMainWindow::endSession(const std::exception& error) {
+    showStatus(ui::errorText(error));
+    clearActivities();
+    OnDisconnect();
 }
 
 void SimpleGUIMainWindow::RefreshTarnClientInfo() {
@@ -51,8 +66,7 @@ void SimpleGUIMainWindow::RefreshTarnClientInfo() {
         readClientInfo();
         updateEnabling();
     } catch (const std::exception& error) {
-        showStatus(ui::errorText(error));
-        OnDisconnect();
+        endSession(error);
     }
 }
 
@@ -62,43 +76,40 @@ void SimpleGUIMainWindow::readClientInfo() {
     const auto policy = std::find_if(rows.begin(), rows.end(), tellsPolicy);
     if (policy != rows.end())
         session::g_isCentrallyManaged = policy->value == kYes;
-    const auto twoFactor = connection->getTFAManager();
-    if (!twoFactor)
-        throw std::runtime_error("The agent has no two-factor manager");
-    session::g_is2FAEnabled = twoFactor->is2FAEnabled();
+    session::g_is2FAEnabled = app::required(connection->getTFAManager())->is2FAEnabled();
 }
 
-void SimpleGUIMainWindow::refreshBackupSets() {
-    auto sets = session::getConnection()->backup_sets_info();
-    const auto* selected = selectedSet();
-    const std::int32_t selectedId = selected ? selected->id : -1;
-    backupSets_.setSets(std::move(sets));
-    const int row = selected ? backupSets_.rowOf(selectedId) : -1;
-    if (row >= 0)
-        ui_->backupSetsView->selectRow(row);
-    updateEnabling();
+void SimpleGUIMainWindow::RefreshActivityLogs() {
+    if (!session::connectedToAgent())
+        return;
+    try {
+        readActivities();
+        updateEnabling();
+    } catch (const std::exception& error) {
+        endSession(error);
+    }
 }
 
-const hessiancln::backup_set_info* SimpleGUIMainWindow::selectedSet() const {
-    const QModelIndexList rows = ui_->backupSetsView->selectionModel()->selectedRows();
-    return rows.isEmpty() ? nullptr : &backupSets_.setAt(rows.first().row());
-}
-
-void SimpleGUIMainWindow::OnBackupSetSelectionChanged(const QItemSelection&,
-                                                      const QItemSelection&) {
-    updateEnabling();
+void SimpleGUIMainWindow::readActivities() {
+    activityLog_.refresh(app::wireTime(ui_->dateTimeFrom->dateTime()),
+                         app::wireTime(ui_->dateTimeTo->dateTime()));
+    running_.refresh();
 }
 
 void SimpleGUIMainWindow::updateEnabling() {
     app::EnableInputs in;
     in.connected = session::connectedToAgent();
+    in.activitySelected = ui_->tableCurrentActivities->selectionModel()->hasSelection();
     in.centrallyManaged = session::g_isCentrallyManaged;
     in.twoFactorEnabled = session::g_is2FAEnabled;
-    if (const auto* set = selectedSet()) {
+    in.setHasBackedUpData = hasBackedUpData_;
+    if (const BackupSetViewItem* card = selectedSetItem()) {
+        const hessiancln::backup_set_info& set = card->record();
         in.setSelected = true;
-        in.setInSync = set->in_sync;
-        in.setHasItems = set->has_items;
-        in.setCreatedByPolicy = set->is_created_by_policy;
+        in.setInSync = set.in_sync;
+        in.setHasItems = set.has_items;
+        in.setCreatedByPolicy = set.is_created_by_policy;
+        in.activityRunsOnSet = running_.hasActivityOnSet(set.id);
     }
 
     const app::EnableState on = app::enableState(in);

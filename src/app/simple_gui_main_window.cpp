@@ -2,21 +2,19 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "app/simple_gui_main_window.h"
 
+#include <array>
+
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QEvent>
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QKeyEvent>
+#include <QMenu>
 #include <QScreen>
 
-#include <boost/date_time/posix_time/posix_time_types.hpp>
-
-#include "app/login_check.h"
-#include "session/connection.h"
-#include "session/integrated_logon.h"
-#include "session/text.h"
+#include "app/activity_progress_item_delegate.h"
 #include "ui/branding_resources.h"
-#include "ui/error_box.h"
 #include "ui_simple_gui_main_window.h"
 
 namespace {
@@ -24,8 +22,8 @@ namespace {
 constexpr int kWidth = 1000;
 constexpr int kSetsWidth = 650;
 constexpr int kDetailsWidth = 350;
-constexpr int kSetNameWidth = 330;
-constexpr int kSecondsPerHeartbeat = 5;
+constexpr std::array kLogWidths{150, 280, 60, 80, 140, 140, 120, 60, 100};
+constexpr std::array kRunningWidths{130, 140, 120, 320, 450};
 
 /// Wants all the width that there is, and needs none. In a row of tool bars the last one gets what
 /// the others don't want; with this in the first bar, the last one stands at the right end.
@@ -36,27 +34,45 @@ public:
     QSize minimumSizeHint() const override { return {0, 0}; }
 };
 
+template <class Widths>
+void setUpTable(QTableView& table, app::SortedTableModel& model, const Widths& widths,
+                int sortColumn) {
+    table.setModel(&model);
+    for (std::size_t column = 0; column < widths.size(); ++column)
+        table.setColumnWidth(static_cast<int>(column), widths[column]);
+    table.sortByColumn(sortColumn, Qt::DescendingOrder);
+}
+
 } // namespace
 
-SimpleGUIMainWindow::SimpleGUIMainWindow(QWidget* parent)
+SimpleGUIMainWindow::SimpleGUIMainWindow(QWidget* parent, std::unique_ptr<app::TrayIcon> tray)
     : QMainWindow(parent)
     , ui_(std::make_unique<Ui::SimpleGUIMainWindow>())
-    , heartbeatEventType_(QEvent::registerEventType()) {
+    , heartbeatEventType_(QEvent::registerEventType())
+    , tray_(std::move(tray))
+    , actionShow_(new QAction(this))
+    , actionHide_(new QAction(this))
+    , trayMenu_(new QMenu(this)) {
     ui_->setupUi(this);
     ui_->pageProperties->resize(ui_->pageProperties->layout()->sizeHint());
     setUpBranding();
     setUpToolBars();
     setUpDateRange();
+    setUpActivityLog();
+    setUpRunningActivities();
     setUpBackupSetsView();
     setUpGeometry();
     updateEnabling();
     watcher_ = boost::thread(&SimpleGUIMainWindow::activityWatcherLoop, this);
+    ui_->backupSetsView->installEventFilter(this);
+    setUpTray();
 }
 
 SimpleGUIMainWindow::~SimpleGUIMainWindow() {
     stopWatcher_ = true;
     watcher_.interrupt();
     watcher_.join();
+    abandonEditing();
 }
 
 void SimpleGUIMainWindow::setUpBranding() {
@@ -77,10 +93,24 @@ void SimpleGUIMainWindow::setUpDateRange() {
     ui_->dateTimeTo->setDateTime(QDateTime(today, QTime(23, 59, 59, 999)));
 }
 
+void SimpleGUIMainWindow::setUpActivityLog() {
+    setUpTable(*ui_->tableActivityLog, activityLog_, kLogWidths, ActivityLogModel::start);
+}
+
+void SimpleGUIMainWindow::setUpRunningActivities() {
+    QTableView& table = *ui_->tableCurrentActivities;
+    setUpTable(table, running_, kRunningWidths, RunningActivitiesModel::startTime);
+    app::keepSortArrow(table, running_);
+    table.setItemDelegateForColumn(RunningActivitiesModel::progress,
+                                   new CActivityProgressItemDelegate(running_, &table));
+    connect(table.selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &SimpleGUIMainWindow::OnRunningActivitySelectionChanged);
+    connect(&running_, &RunningActivitiesModel::activityChangeDetected, this,
+            &SimpleGUIMainWindow::activityChangeDetected);
+}
+
 void SimpleGUIMainWindow::setUpBackupSetsView() {
-    ui_->backupSetsView->setModel(&backupSets_);
-    ui_->backupSetsView->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    ui_->backupSetsView->setColumnWidth(BackupSetsModel::nameColumn, kSetNameWidth);
+    ui_->backupSetsView->setModel(&setRows_);
     connect(ui_->backupSetsView->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &SimpleGUIMainWindow::OnBackupSetSelectionChanged);
 }
@@ -94,24 +124,21 @@ void SimpleGUIMainWindow::setUpGeometry() {
     ui_->splitterSetView->setStretchFactor(1, 0);
 }
 
-void SimpleGUIMainWindow::activityWatcherLoop() {
-    int seconds = 0;
-    while (!stopWatcher_) {
-        if (++seconds == kSecondsPerHeartbeat) {
-            QCoreApplication::postEvent(this,
-                                        new QEvent(static_cast<QEvent::Type>(heartbeatEventType_)));
-            seconds = 0;
-        }
-        boost::this_thread::sleep(boost::posix_time::seconds(1));
-    }
-}
-
 bool SimpleGUIMainWindow::event(QEvent* event) {
     if (event->type() == heartbeatEventType_) {
         refreshAll();
         return true;
     }
     return QMainWindow::event(event);
+}
+
+bool SimpleGUIMainWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == ui_->backupSetsView && event->type() == QEvent::KeyPress &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Delete) {
+        OnDelete();
+        return true;
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 void SimpleGUIMainWindow::changeEvent(QEvent* event) {
@@ -121,65 +148,7 @@ void SimpleGUIMainWindow::changeEvent(QEvent* event) {
         ui_->retranslateUi(this);
         setWindowTitle(title);
         ui_->actionLogo->setToolTip(ui::g_branding.description());
+        setTrayTexts();
     }
     QMainWindow::changeEvent(event);
-}
-
-bool SimpleGUIMainWindow::doLogin(bool automatic) {
-    QString server;
-    QString user;
-    if (automatic) {
-        showStatus(tr("Logging to Tarn-Client..."));
-        try {
-            session::connectToAgent("127.0.0.1:4411", "", "", 0);
-        } catch (const std::exception& error) {
-            showStatus(ui::errorText(error));
-            return false;
-        }
-        server = QStringLiteral("127.0.0.1");
-        user = session::fromWire(session::currentWindowsUser());
-    } else {
-        LoginCheck dialog(this);
-        dialog.setWindowIcon(windowIcon());
-        if (dialog.exec() != 0)
-            return false;
-        server = dialog.host();
-        user = dialog.user();
-    }
-    showSession(server, user);
-    updateEnabling();
-    refreshAll();
-    return true;
-}
-
-void SimpleGUIMainWindow::showSession(const QString& server, const QString& user) {
-    showStatus(tr("Logged in to '%1' as '%2'").arg(server, user));
-    setWindowTitle(tr("Ostrand Backup - %1@%2").arg(user, server));
-}
-
-void SimpleGUIMainWindow::showStatus(const QString& text) {
-    ui_->statusbar->showMessage(text);
-}
-
-void SimpleGUIMainWindow::OnConnect() {
-    doLogin(false);
-}
-
-void SimpleGUIMainWindow::OnDisconnect() {
-    session::disconnectFromAgent();
-    setWindowTitle(tr("Ostrand Backup"));
-    showStatus(tr("Current connection terminated"));
-    updateEnabling();
-}
-
-void SimpleGUIMainWindow::OnQuit() {
-    QCoreApplication::quit();
-}
-
-void SimpleGUIMainWindow::showMainWindow() {
-    if (isMaximized())
-        showMaximized();
-    else
-        showNormal();
-    activateWindow();
 }

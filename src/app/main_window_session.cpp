@@ -1,0 +1,106 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+// How a session of the main window begins and ends.
+#include <QCoreApplication>
+#include <QDateTime>
+
+#include "api/client_connection.h"
+#include "app/initial_configuration.h"
+#include "app/login_check.h"
+#include "app/required.h"
+#include "app/simple_gui_main_window.h"
+#include "session/connection.h"
+#include "session/integrated_logon.h"
+#include "session/text.h"
+#include "ui/error_box.h"
+#include "ui/locale_text.h"
+#include "ui/remote_action.h"
+#include "ui_simple_gui_main_window.h"
+
+bool SimpleGUIMainWindow::doLogin(bool automatic) {
+    QString server;
+    QString user;
+    if (automatic) {
+        showStatus(tr("Logging to Tarn-Client..."));
+        try {
+            session::connectToAgent("127.0.0.1:4411", "", "", 0);
+        } catch (const std::exception& error) {
+            showStatus(ui::errorText(error));
+            return false;
+        }
+        server = QStringLiteral("127.0.0.1");
+        user = session::fromWire(session::currentWindowsUser());
+    } else {
+        LoginCheck dialog(this);
+        dialog.setWindowIcon(windowIcon());
+        if (dialog.exec() != 0)
+            return false;
+        server = dialog.host();
+        user = dialog.user();
+    }
+    showSession(server, user);
+    updateEnabling();
+    refreshAll();
+    checkInitialConfiguration();
+    offerNewBackupSet();
+    return true;
+}
+
+void SimpleGUIMainWindow::showSession(const QString& server, const QString& user) {
+    showStatus(tr("Logged in to '%1' as '%2'").arg(server, user));
+    setWindowTitle(tr("Ostrand Backup - %1@%2").arg(user, server));
+}
+
+void SimpleGUIMainWindow::showStatus(const QString& text) {
+    ui_->statusbar->showMessage(text);
+}
+
+void SimpleGUIMainWindow::OnConnect() {
+    doLogin(false);
+}
+
+void SimpleGUIMainWindow::OnDisconnect() {
+    session::disconnectFromAgent();
+    setWindowTitle(tr("Ostrand Backup"));
+    showStatus(tr("Current connection terminated"));
+    updateEnabling();
+}
+
+void SimpleGUIMainWindow::OnQuit() {
+    QCoreApplication::quit();
+}
+
+void SimpleGUIMainWindow::checkInitialConfiguration() {
+    if (!session::connectedToAgent())
+        return;
+    bool needed = false;
+    const bool asked =
+        ui::remoteAction(*this, tr("Configuration Error"), ui::Cursor::arrow, [&needed] {
+            const auto connection = session::getConnection();
+            const auto agent = connection->getTarnClientInfo();
+            const auto manager = app::required(connection->getConfigurationManager());
+            const auto customer = app::required(manager->getUserInfoConfiguration());
+            needed = app::needsInitialConfiguration(agent, customer->getUserInfo());
+        });
+    if (!asked)
+        OnDisconnect();
+    else if (needed)
+        openInitialConfiguration();
+}
+
+void SimpleGUIMainWindow::openInitialConfiguration() {}
+
+void SimpleGUIMainWindow::offerNewBackupSet() {
+    if (session::connectedToAgent() && setRows_.rowCount() == 0 && !session::g_isCentrallyManaged)
+        OnNewBackupSet();
+}
+
+void SimpleGUIMainWindow::startDailyAdmin() {
+    ui::remoteAction(*this, tr("Error"), ui::Cursor::arrow, [this] {
+        const auto manager = app::required(session::getConnection()->getConfigurationManager());
+        const auto activity = manager->start_daily_admin();
+        RefreshActivityLogs();
+        showStatus(tr("%1: Daily admin started.")
+                       .arg(ui::timeText(QDateTime::currentSecsSinceEpoch(), QLocale::LongFormat)));
+    });
+}

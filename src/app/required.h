@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <stdexcept>
+
+#include <boost/shared_ptr.hpp>
+
+#include <QCoreApplication>
+
+#include "session/text.h"
+
+namespace app {
+
+/// An object of the agent that this program can't do without. Raises `std::runtime_error` where
+/// the agent gave none.
+template <class Proxy>
+boost::shared_ptr<Proxy> required(boost::shared_ptr<Proxy> object) {
+    if (!object)
+        throw std::runtime_error(session::toWire(
+            QCoreApplication::translate("required", "The agent doesn't have what was asked for.")));
+    return object;
+}
+
+} // namespace app
