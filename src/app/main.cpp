@@ -4,6 +4,7 @@
 #include "app/simple_gui_main_window.h"
 #include "app/start_up.h"
 #include "platform/foreground.h"
+#include "platform/standard_streams.h"
 #include "resources/pictures.h"
 #include "session/connection.h"
 
@@ -13,6 +14,7 @@ constexpr int kAnswerTime = 5000;
 
 /// What has to be set before the application object exists.
 void prepareApplication() {
+    platform::fillStandardStreams();
     platform::allowSetForeground();
     // Where the style is missing, Qt's own choice stays.
     QApplication::setStyle(QStringLiteral("plastique"));

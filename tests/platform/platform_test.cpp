@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
+#include <cstdio>
 #include <cstdlib>
+#include <initializer_list>
 #include <string>
 #include <thread>
 
@@ -10,9 +12,11 @@
 #include "platform/foreground.h"
 #include "platform/process_id.h"
 #include "platform/security_context.h"
+#include "platform/standard_streams.h"
 #include "platform/user_name.h"
 
 #ifndef _WIN32
+#include <fcntl.h>
 #include <pwd.h>
 #include <syslog.h>
 #include <unistd.h>
@@ -52,6 +56,31 @@ TEST(EventLog, GetsAnErrorUnderTheNameOfItsSource) {
     EXPECT_EQ(testing::internal::GetCapturedStderr(),
               "test: HessianClientAPI: 100%s of a test \xF0\x9F\x8C\xB2\n");
     ::closelog();
+}
+
+/// In a process of its own: fills what is left when `closed` has been closed, and tells by its exit
+/// status which place the next file gets.
+[[noreturn]] void placeOfNextFile(std::initializer_list<int> closed, bool fill) {
+    // What a test runner left open above the three would hide the places to come.
+    ::close_range(3, ~0u, 0);
+    for (const int place : closed)
+        ::close(place);
+    if (fill)
+        platform::fillStandardStreams();
+    ::_exit(::open("/dev/zero", O_RDONLY));
+}
+
+TEST(StandardStreams, AreFilledSoThatNoOtherFileTakesTheirPlace) {
+    EXPECT_EXIT(placeOfNextFile({2}, false), testing::ExitedWithCode(2), "");
+    EXPECT_EXIT(placeOfNextFile({2}, true), testing::ExitedWithCode(3), "");
+    EXPECT_EXIT(placeOfNextFile({0, 2}, true), testing::ExitedWithCode(3), "");
+    EXPECT_EXIT(placeOfNextFile({0, 1, 2}, true), testing::ExitedWithCode(3), "");
+}
+
+TEST(StandardStreams, StayWhatTheyAreWhereTheyAreOpen) {
+    EXPECT_EXIT(placeOfNextFile({}, true), testing::ExitedWithCode(3), "");
+    EXPECT_EXIT((platform::fillStandardStreams(), std::fputs("said", stderr), ::_exit(0)),
+                testing::ExitedWithCode(0), "^said$");
 }
 
 TEST(ProcessId, IsTheSystemsOwn) {
