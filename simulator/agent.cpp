@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "simulator/agent.h"
 
+#include <algorithm>
 #include <ctime>
 #include <stdexcept>
 #include <utility>
@@ -33,6 +34,14 @@ std::string timeText(Milliseconds time) {
     char text[32];
     const std::size_t size = std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%SZ", &parts);
     return {text, size};
+}
+
+/// One line that a terminal can show, whatever a client has put into its text.
+std::string asLine(std::string text) {
+    std::replace_if(
+        text.begin(), text.end(), [](unsigned char byte) { return byte < ' ' || byte == 0x7F; },
+        '?');
+    return text;
 }
 
 } // namespace
@@ -166,7 +175,7 @@ void Agent::violate(const std::string& text) {
 
 void Agent::writeLine(const std::string& text) {
     if (log_.is_open())
-        log_ << timeText(world_.now()) << ' ' << text << std::endl;
+        log_ << timeText(world_.now()) << ' ' << asLine(text) << std::endl;
 }
 
 } // namespace simulator

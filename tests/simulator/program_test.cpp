@@ -147,6 +147,21 @@ TEST(Program, WritesALineForEachCallAndNoPassword) {
     EXPECT_EQ(text.find("s3cret"), std::string::npos);
 }
 
+TEST(Program, LetsNoClientForgeALine) {
+    const std::string file = ::testing::TempDir() + "simulator-" + std::to_string(::getpid());
+    Program program({"--port", "0", "--log", file});
+    const std::uint16_t port = portOf(program.line());
+    raw::exchange(port, true, raw::post(port, "/api", raw::call("a\nforged\x1B[2J")));
+    program.signal(SIGTERM);
+    EXPECT_EQ(program.status(), 0);
+    std::ifstream log(file);
+    const std::string text{std::istreambuf_iterator<char>(log), {}};
+    ::unlink(file.c_str());
+    EXPECT_THAT(text, HasSubstr("a?forged?[2J"));
+    EXPECT_EQ(text.find("\nforged"), std::string::npos);
+    EXPECT_EQ(text.find('\x1B'), std::string::npos);
+}
+
 TEST(Program, RefusesABadOption) {
     Program program({"--prot", "0"});
     EXPECT_EQ(program.line(), "tarn-agent-simulator: there is no option '--prot'; see --help\n");
