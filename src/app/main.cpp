@@ -27,8 +27,7 @@ int runWindow(QtSingleApplication& application) {
     app::showAtOnce(window);
     QObject::connect(&application, &QtSingleApplication::messageReceived, &window,
                      &SimpleGUIMainWindow::showMainWindow);
-    app::logInAtStart(window);
-    const int status = QApplication::exec();
+    const int status = app::runLoggedIn(window);
     session::disconnectFromAgent();
     return status;
 }

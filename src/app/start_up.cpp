@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QTextStream>
 #include <QThread>
+#include <QTimer>
 #include <QTranslator>
 #include <QWidget>
 #include <QWindow>
@@ -75,6 +76,12 @@ void logInAtStart(SimpleGUIMainWindow& window) {
     // What that returns says less than the session does.
     if (!session::connectedToAgent())
         window.doLogin(false);
+}
+
+int runLoggedIn(SimpleGUIMainWindow& window) {
+    // The loop forgets a quit that came before it, so the login is the first thing that it runs.
+    QTimer::singleShot(0, &window, [&window] { logInAtStart(window); });
+    return QApplication::exec();
 }
 
 } // namespace app

@@ -31,4 +31,8 @@ void showAtOnce(QWidget& window);
 /// in the end the window stays as it is.
 void logInAtStart(SimpleGUIMainWindow& window);
 
+/// Logs in as above, then runs the event loop until the end, and gives its status. A quit that
+/// comes while the login still asks, as from the tray, ends both.
+int runLoggedIn(SimpleGUIMainWindow& window);
+
 } // namespace app

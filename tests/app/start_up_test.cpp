@@ -5,10 +5,15 @@
 #include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QTranslator>
 #include <QWidget>
 
+#include "app/login_check.h"
+#include "app/simple_gui_main_window.h"
 #include "app/start_up.h"
+#include "resources/pictures.h"
+#include "session/process_values.h"
 #include "tests/support/gui_modal_driver.h"
 
 namespace {
@@ -32,6 +37,7 @@ protected:
 class StartUpTest : public QObject {
     Q_OBJECT
 private slots:
+    void initTestCase() { resources::initPictures(); }
     void init() {
         directory_ = std::make_unique<QTemporaryDir>();
         QVERIFY(QDir::setCurrent(directory_->path()));
@@ -132,6 +138,27 @@ private slots:
         app::showAtOnce(window);
         QVERIFY(window.isVisible());
         QVERIFY(window.paints > 0);
+    }
+
+    void aQuitDuringTheLoginEndsTheProgram() {
+        // No agent is there, so the login asks.
+        SimpleGUIMainWindow window;
+        QTimer quit;
+        connect(&quit, &QTimer::timeout, [&] {
+            if (qobject_cast<LoginCheck*>(QApplication::activeModalWidget()))
+                window.OnQuit();
+        });
+        quit.start(10);
+        bool hung = false;
+        QTimer::singleShot(10'000, [&] {
+            hung = true;
+            quit.stop();
+            QApplication::closeAllWindows();
+            QCoreApplication::quit();
+        });
+        QCOMPARE(app::runLoggedIn(window), 0);
+        QVERIFY(!hung);
+        QVERIFY(!session::connectedToAgent());
     }
 
 private:
