@@ -9,7 +9,6 @@
 #include <boost/beast/core/flat_buffer.hpp>
 #include <boost/beast/http/read.hpp>
 #include <boost/beast/http/write.hpp>
-#include <boost/format.hpp>
 
 #include "transport/invoke_exception.h"
 #include "transport/plain_file_logger.h"
@@ -65,7 +64,7 @@ void HttpExchange::connect(const std::string& host, std::uint32_t port) {
 std::string HttpExchange::post(const std::string& host, std::uint32_t port, const std::string& path,
                                const std::string& body) {
     Request request(http::verb::post, path, 11, body);
-    request.set(http::field::host, host + boost::str(boost::format(":%u") % port));
+    request.set(http::field::host, host + ":" + std::to_string(port));
     request.set(http::field::user_agent, "NorvelHessianCln/1.0");
     request.prepare_payload();
 
