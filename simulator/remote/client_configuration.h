@@ -4,6 +4,7 @@
 
 #include "api/client_configuration_records.h"
 #include "simulator/objects/servant.h"
+#include "simulator/remote/generic_activity.h"
 #include "simulator/world/world.h"
 
 namespace simulator {
@@ -31,6 +32,10 @@ public:
         on("getTarnCRegistrationInfo", [&world] { return world.registration; });
         on("getClientOSType",
            [&world] { return hessiancln::ClientOSType(world.pathsOfWindows ? 0 : 1); });
+        on("start_daily_admin", [this, &world] {
+            const auto id = world.start(world.dailyAdmin(session()->user));
+            return std::make_shared<GenericActivity>(session(), world, id);
+        });
         on("getUserInfoConfiguration",
            [this, &world] { return std::make_shared<UserInfoConfiguration>(session(), world); });
     }

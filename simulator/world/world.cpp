@@ -252,4 +252,13 @@ ActivityPlan World::removalOf(const Set& set, const std::string& user) {
     return plan;
 }
 
+ActivityPlan World::dailyAdmin(const std::string& user) {
+    ActivityPlan plan;
+    plan.type = ActivityType::DailyAdmin;
+    plan.description = "Daily administration";
+    plan.user = user;
+    plan.duration = random_.between(20, 60) * 1000;
+    return plan;
+}
+
 } // namespace simulator

@@ -87,6 +87,9 @@ public:
     /// Deletes all that the set holds, and then the set.
     ActivityPlan removalOf(const Set& set, const std::string& user);
 
+    /// The agent's own daily work.
+    ActivityPlan dailyAdmin(const std::string& user);
+
     /// From now on a backup of one set after the other begins so often.
     void keepBusy(Milliseconds every);
 

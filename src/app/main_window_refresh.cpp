@@ -34,8 +34,7 @@ bool tellsPolicy(const tarn_client_info& info) {
 void SimpleGUIMainWindow::refreshAll() {
     if (!session::connectedToAgent()) {
         clearActivities();
-        ui_->backupSetsView->clearSelection();
-        setCardCount(0);
+        clearSets();
         return;
     }
     try {

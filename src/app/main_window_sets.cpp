@@ -55,6 +55,12 @@ void SimpleGUIMainWindow::refreshBackupSets() {
     updateEnabling();
 }
 
+void SimpleGUIMainWindow::clearSets() {
+    abandonEditing();
+    ui_->backupSetsView->clearSelection();
+    setCardCount(0);
+}
+
 void SimpleGUIMainWindow::setCardCount(int count) {
     const int before = setRows_.rowCount();
     for (int row = count; row < before; ++row)
@@ -130,7 +136,8 @@ void SimpleGUIMainWindow::backupSetContextMenu(BackupSetViewItem*, QContextMenuE
 
 void SimpleGUIMainWindow::showSetDetails() {
     const BackupSetViewItem* card = selectedSetItem();
-    if (!card) {
+    // As rows go one by one with their session, the view may select another one for a moment.
+    if (!card || !session::connectedToAgent()) {
         fillDetails({});
         return;
     }

@@ -134,6 +134,7 @@ private:
     void endSession(const std::exception& error);
 
     void refreshBackupSets();
+    void clearSets();
     void setCardCount(int count);
     BackupSetViewItem* cardAt(int row) const;
     BackupSetViewItem* requireSetItem();

@@ -6,7 +6,7 @@ namespace app {
 
 namespace {
 
-constexpr int balloonTime = 10'000;
+constexpr int balloonTime = 10000;
 
 } // namespace
 

@@ -20,12 +20,16 @@
 #include "simulator/world/backup_set_state.h"
 #include "simulator/world/world.h"
 #include "tests/support/gui_agent.h"
+#include "tests/support/gui_main_window.h"
 #include "tests/support/gui_modal_driver.h"
 
 using simulator::World;
+using support::cardsOf;
 using support::child;
 using support::GuiAgent;
 using support::isDialog;
+using support::MainWindowDriver;
+using support::methodsOf;
 using support::ModalDriver;
 
 namespace {
@@ -36,24 +40,6 @@ const QString kNoConnection = QStringLiteral("No API connection exists");
 
 QString currentUser() {
     return session::fromWire(session::currentWindowsUser());
-}
-
-/// The name and computer of each set that the agent shows to a program for files.
-QStringList setsOf(GuiAgent& agent) {
-    QStringList sets;
-    agent.withWorld([&](World& world) {
-        for (const auto& set : world.sets())
-            if (set->info.data_type == hessiancln::BackupDataType::FileSystem)
-                sets << session::fromWire(set->info.name + " on " + set->info.computer);
-    });
-    return sets;
-}
-
-std::vector<std::string> methods(const GuiAgent& agent) {
-    std::vector<std::string> names;
-    for (const auto& call : agent.callLog())
-        names.push_back(call.method);
-    return names;
 }
 
 void press(QWidget& dialog, const char* button) {
@@ -67,49 +53,45 @@ class MainWindowTest : public QObject {
     Q_OBJECT
 private slots:
     void initTestCase() { resources::initPictures(); }
-    void init() {
-        window_ = std::make_unique<SimpleGUIMainWindow>();
-        window_->show();
-    }
-    void cleanup() {
-        window_.reset();
-        support::resetSession();
-    }
+    void init() { driver_ = std::make_unique<MainWindowDriver>(); }
+    void cleanup() { driver_.reset(); }
 
     void startsWithoutASession() {
-        QCOMPARE(window_->windowTitle(), kPlainTitle);
+        QCOMPARE(window().windowTitle(), kPlainTitle);
         QVERIFY(isEnabled("actionLogin"));
         QVERIFY(!isEnabled("actionLogout"));
         QVERIFY(!isEnabled("actionNew_Backup_Set"));
-        QVERIFY(!child<QMenu>(*window_, "menu_Backup_Set").isEnabled());
-        QVERIFY(child<QWidget>(*window_, "btnItems")
-                    .isEnabledTo(&child<QWidget>(*window_, "pageProperties")));
-        QVERIFY(!child<QWidget>(*window_, "pageProperties").isEnabled());
+        QVERIFY(!child<QMenu>(window(), "menu_Backup_Set").isEnabled());
+        QVERIFY(child<QWidget>(window(), "btnItems")
+                    .isEnabledTo(&child<QWidget>(window(), "pageProperties")));
+        QVERIFY(!child<QWidget>(window(), "pageProperties").isEnabled());
     }
 
     void logsInToTheAgentOfThisMachineAndListsItsSets() {
         GuiAgent agent;
-        QVERIFY(window_->doLogin(true));
+        QVERIFY(window().doLogin(true));
         QVERIFY(session::connectedToAgent());
         QCOMPARE(status(), QStringLiteral("Logged in to '127.0.0.1' as '%1'").arg(currentUser()));
-        QCOMPARE(window_->windowTitle(),
+        QCOMPARE(window().windowTitle(),
                  QStringLiteral("Ostrand Backup - %1@127.0.0.1").arg(currentUser()));
-        QCOMPARE(sets(), setsOf(agent));
+        QCOMPARE(sets(), cardsOf(agent));
         QVERIFY(sets().size() > 3);
         QVERIFY(isEnabled("actionNew_Backup_Set"));
         QVERIFY(!isEnabled("actionLogin"));
-        QCOMPARE(methods(agent),
+        QCOMPARE(methodsOf(agent),
                  (std::vector<std::string>{"getTarnClientType", "login", "getTarnClientInfo",
-                                           "getTFAManager", "is2FAEnabled", "Release",
-                                           "backup_sets_info"}));
+                                           "getTFAManager", "is2FAEnabled", "activity_log",
+                                           "running_activities", "backup_sets_info",
+                                           "getTarnClientInfo", "getConfigurationManager",
+                                           "getUserInfoConfiguration", "getUserInfo"}));
         QCOMPARE(agent.violations(), std::vector<std::string>{});
     }
 
     void tellsWhyTheFirstLoginFailed() {
-        QVERIFY(!window_->doLogin(true));
+        QVERIFY(!window().doLogin(true));
         QCOMPARE(status(), QStringLiteral("Failed to connect to '127.0.0.1' on port 4411. O/S "
                                           "error 111 (Connection refused)"));
-        QCOMPARE(window_->windowTitle(), kPlainTitle);
+        QCOMPARE(window().windowTitle(), kPlainTitle);
     }
 
     void asksTheUserWhenTheFirstLoginFailed() {
@@ -122,17 +104,17 @@ private slots:
             child<QLineEdit>(dialog, "lineEditPassword").setText(QStringLiteral("demo"));
             press(dialog, "buttonLogin");
         });
-        app::logInAtStart(*window_);
+        app::logInAtStart(window());
         QVERIFY(modals.done());
         QCOMPARE(status(), QStringLiteral("Logged in to '127.0.0.1' as 'demo'"));
-        QCOMPARE(window_->windowTitle(), QStringLiteral("Ostrand Backup - demo@127.0.0.1"));
-        QCOMPARE(sets(), setsOf(agent));
+        QCOMPARE(window().windowTitle(), QStringLiteral("Ostrand Backup - demo@127.0.0.1"));
+        QCOMPARE(sets(), cardsOf(agent));
     }
 
     void asksNobodyWhenTheFirstLoginWorked() {
         const GuiAgent agent;
         ModalDriver modals;
-        app::logInAtStart(*window_);
+        app::logInAtStart(window());
         QVERIFY(modals.done());
         QVERIFY(session::connectedToAgent());
     }
@@ -141,11 +123,11 @@ private slots:
         ModalDriver modals;
         modals.expect(QStringLiteral("login"), isDialog<LoginCheck>,
                       [](QWidget& dialog) { press(dialog, "buttonQuit"); });
-        app::logInAtStart(*window_);
+        app::logInAtStart(window());
         QVERIFY(modals.done());
-        QVERIFY(window_->isVisible());
+        QVERIFY(window().isVisible());
         QVERIFY(status().startsWith(QStringLiteral("Failed to connect")));
-        QCOMPARE(window_->windowTitle(), kPlainTitle);
+        QCOMPARE(window().windowTitle(), kPlainTitle);
         QVERIFY(isEnabled("actionLogin"));
         QVERIFY(!session::connectedToAgent());
     }
@@ -157,10 +139,10 @@ private slots:
                 .setText(QStringLiteral("anna:far.example:99"));
             QTest::keyClick(&dialog, Qt::Key_Escape);
         });
-        app::logInAtStart(*window_);
+        app::logInAtStart(window());
         QVERIFY(modals.done());
         QCOMPARE(status(), QStringLiteral("Logged in to 'far.example' as 'anna'"));
-        QCOMPARE(window_->windowTitle(), QStringLiteral("Ostrand Backup - anna@far.example"));
+        QCOMPARE(window().windowTitle(), QStringLiteral("Ostrand Backup - anna@far.example"));
         for (const char* name :
              {"actionLogout", "actionNew_Backup_Set", "actionBackup_Now", "actionRestore",
               "actionDeleteFromOnline", "actionSynchronize", "actionAdmin"})
@@ -182,15 +164,15 @@ private slots:
             child<QLineEdit>(dialog, "lineEditPassword").setText(QStringLiteral("demo"));
             press(dialog, "buttonLogin");
         });
-        child<QAction>(*window_, "actionLogin").trigger();
+        child<QAction>(window(), "actionLogin").trigger();
         QVERIFY(modals.done());
         QVERIFY(session::connectedToAgent());
-        QCOMPARE(sets(), setsOf(agent));
+        QCOMPARE(sets(), cardsOf(agent));
     }
 
     void aHeartbeatShowsWhatChanged() {
         GuiAgent agent;
-        window_->doLogin(true);
+        window().doLogin(true);
         agent.withWorld([](World& world) {
             world.removeSet(world.sets().back()->info.id);
             world.sets().front()->info.name = "Renamed";
@@ -200,33 +182,9 @@ private slots:
             world.addSet(added);
         });
         beat();
-        QCOMPARE(sets(), setsOf(agent));
+        QCOMPARE(sets(), cardsOf(agent));
         QCOMPARE(sets().first().left(7), QStringLiteral("Renamed"));
-        QCOMPARE(sets().last(), QStringLiteral("Added on elsewhere"));
-    }
-
-    void aSetOfADatabaseNeverShows() {
-        GuiAgent agent({.scenario = simulator::Scenario::Empty});
-        agent.withWorld([](World& world) {
-            simulator::BackupSetState database;
-            database.info.data_type = hessiancln::BackupDataType::MSSQLServer;
-            world.addSet(database);
-        });
-        window_->doLogin(true);
-        QCOMPARE(sets(), QStringList());
-        QVERIFY(agent.waitForCall("backup_sets_info"));
-    }
-
-    void theSelectionFollowsItsSet() {
-        GuiAgent agent;
-        window_->doLogin(true);
-        view().selectRow(2);
-        const QString selected = sets().at(2);
-        agent.withWorld([](World& world) { world.removeSet(world.sets().front()->info.id); });
-        beat();
-        QCOMPARE(view().selectionModel()->selectedRows().size(), 1);
-        QCOMPARE(view().selectionModel()->selectedRows().first().row(), 1);
-        QCOMPARE(sets().at(1), selected);
+        QCOMPARE(sets().last(), QStringLiteral("Added\nBackup of: elsewhere"));
     }
 
     void theSelectedSetDecidesWhatCanBeDone() {
@@ -236,7 +194,7 @@ private slots:
             info.in_sync = true;
             info.has_items = true;
         });
-        window_->doLogin(true);
+        window().doLogin(true);
         QVERIFY(!isEnabled("actionSynchronize"));
         view().selectRow(0);
         QVERIFY(isEnabled("actionSynchronize"));
@@ -259,10 +217,10 @@ private slots:
         GuiAgent agent;
         const std::string wire = session::toWire(name);
         agent.withWorld([&](World& world) { world.about = {{wire, "Yes"}}; });
-        window_->doLogin(true);
+        window().doLogin(true);
         QVERIFY(session::g_isCentrallyManaged);
         QVERIFY(!isEnabled("actionNew_Backup_Set"));
-        QVERIFY(!child<QWidget>(*window_, "btnItems").isEnabled());
+        QVERIFY(!child<QWidget>(window(), "btnItems").isEnabled());
 
         agent.withWorld([&](World& world) { world.about = {{wire, "yes"}}; });
         beat();
@@ -276,7 +234,7 @@ private slots:
             world.about = {{"Zentral-verwaltete Backup-Politik", "Yes"},
                            {"Centrally Managed Backup Policy", "No"}};
         });
-        window_->doLogin(true);
+        window().doLogin(true);
         QVERIFY(session::g_isCentrallyManaged);
         agent.withWorld([](World& world) { world.about = {{"Version", "1"}}; });
         beat();
@@ -286,20 +244,20 @@ private slots:
     void twoFactorSettingsStayEnabledAfterADisconnect() {
         GuiAgent agent;
         agent.withWorld([](World& world) { world.twoFactor = true; });
-        window_->doLogin(true);
+        window().doLogin(true);
         QVERIFY(isEnabled("actionTFASettings"));
-        child<QAction>(*window_, "actionLogout").trigger();
+        child<QAction>(window(), "actionLogout").trigger();
         QVERIFY(isEnabled("actionTFASettings"));
-        QVERIFY(!child<QMenu>(*window_, "menu_Configuration").isEnabled());
+        QVERIFY(!child<QMenu>(window(), "menu_Configuration").isEnabled());
     }
 
     void disconnectingLogsOutAndEmptiesTheWindow() {
         const GuiAgent agent;
-        window_->doLogin(true);
+        window().doLogin(true);
         view().selectRow(0);
-        child<QAction>(*window_, "actionLogout").trigger();
+        child<QAction>(window(), "actionLogout").trigger();
         QVERIFY(!session::connectedToAgent());
-        QCOMPARE(window_->windowTitle(), kPlainTitle);
+        QCOMPARE(window().windowTitle(), kPlainTitle);
         QCOMPARE(status(), kTerminated);
         QCOMPARE(sets(), QStringList());
         QVERIFY(view().selectionModel()->selectedRows().isEmpty());
@@ -312,7 +270,7 @@ private slots:
 
     void anAgentThatGoesEndsTheSession() {
         GuiAgent agent;
-        window_->doLogin(true);
+        window().doLogin(true);
         agent.stop();
         QElapsedTimer time;
         time.start();
@@ -320,60 +278,9 @@ private slots:
         QVERIFY2(time.elapsed() < 2000, "a dead agent must not hold the window up");
         QVERIFY(!session::connectedToAgent());
         QCOMPARE(status(), kNoConnection);
-        QCOMPARE(window_->windowTitle(), kPlainTitle);
+        QCOMPARE(window().windowTitle(), kPlainTitle);
         QCOMPARE(sets(), QStringList());
         QVERIFY(isEnabled("actionLogin"));
-    }
-
-    void aFailureOfTheAgentsInformationEndsTheSession_data() {
-        QTest::addColumn<QString>("method");
-        for (const char* method : {"getTarnClientInfo", "getTFAManager", "is2FAEnabled"})
-            QTest::newRow(method) << QString::fromLatin1(method);
-    }
-    void aFailureOfTheAgentsInformationEndsTheSession() {
-        QFETCH(QString, method);
-        GuiAgent agent;
-        window_->doLogin(true);
-        agent.inject(session::toWire(method), simulator::Fault{"Out of order."});
-        beat();
-        QCOMPARE(agent.waitingInjections(), std::size_t(0));
-        QVERIFY(!session::connectedToAgent());
-        QCOMPARE(status(), kNoConnection);
-        QCOMPARE(window_->windowTitle(), kPlainTitle);
-        QCOMPARE(sets(), QStringList());
-        QCOMPARE(agent.liveObjects(), std::vector<std::string>{});
-    }
-
-    void anAgentWithoutTwoFactorManagerEndsTheSession() {
-        GuiAgent agent;
-        window_->doLogin(true);
-        agent.inject("getTFAManager", simulator::NullResult{});
-        beat();
-        QVERIFY(!session::connectedToAgent());
-        QCOMPARE(status(), kNoConnection);
-    }
-
-    void aFailureOfTheListAloneIsToldAndForgiven() {
-        GuiAgent agent;
-        window_->doLogin(true);
-        const QStringList before = sets();
-        agent.inject("backup_sets_info", simulator::Fault{"The catalogue is locked."});
-        agent.withWorld([](World& world) { world.sets().front()->info.name = "Renamed"; });
-        beat();
-        QVERIFY(session::connectedToAgent());
-        QCOMPARE(status(), QStringLiteral("The catalogue is locked."));
-        QCOMPARE(sets(), before);
-        beat();
-        QCOMPARE(sets(), setsOf(agent));
-    }
-
-    void aMalformedRecordInTheListIsToldAndForgiven() {
-        GuiAgent agent;
-        window_->doLogin(true);
-        agent.inject("backup_sets_info", simulator::UnknownKey{});
-        beat();
-        QVERIFY(session::connectedToAgent());
-        QCOMPARE(status(), QStringLiteral("Unknown map field type"));
     }
 
     void aHeartbeatWithoutASessionAsksNobody() {
@@ -385,53 +292,21 @@ private slots:
 
     void aHeartbeatIsDeliveredUnderAnOpenDialog() {
         GuiAgent agent;
-        window_->doLogin(true);
+        window().doLogin(true);
         ModalDriver modals;
         modals.expect(QStringLiteral("login"), isDialog<LoginCheck>, [&](QWidget& dialog) {
             agent.withWorld([](World& world) { world.sets().front()->info.name = "Renamed"; });
-            QCoreApplication::postEvent(window_.get(), new QEvent(heartbeat()));
-            QTRY_COMPARE(sets(), setsOf(agent));
+            driver_->postBeat();
+            QTRY_COMPARE(sets(), cardsOf(agent));
             press(dialog, "buttonQuit");
         });
-        window_->OnConnect();
+        window().OnConnect();
         QVERIFY(modals.done());
     }
 
-    void twoHundredHeartbeatsLeaveNoObjectBehind() {
-        GuiAgent agent;
-        window_->doLogin(true);
-        view().selectRow(0);
-        for (int i = 0; i < 200; ++i)
-            beat();
-        QCOMPARE(agent.liveObjects().size(), std::size_t(1));
-        window_->OnDisconnect();
-        QCOMPARE(agent.liveObjects(), std::vector<std::string>{});
-        QCOMPARE(agent.violations(), std::vector<std::string>{});
-    }
-
-    void comesBackFromBeingMinimized() {
-        window_->showMinimized();
-        QVERIFY(window_->isMinimized());
-        window_->showMainWindow();
-        QVERIFY(!window_->isMinimized());
-        QVERIFY(window_->isVisible());
-    }
-
-    void staysMaximizedWhenItIsRaised() {
-        window_->showMaximized();
-        window_->showMainWindow();
-        QVERIFY(window_->isMaximized());
-    }
-
-    void closingTheWindowEndsTheEventLoop() {
-        QTimer::singleShot(0, window_.get(), &QWidget::close);
-        QTimer::singleShot(5000, window_.get(), [] { QCoreApplication::exit(1); });
-        QCOMPARE(QCoreApplication::exec(), 0);
-    }
-
     void quitEndsTheEventLoop() {
-        QTimer::singleShot(0, &child<QAction>(*window_, "actionQuit"), &QAction::trigger);
-        QTimer::singleShot(5000, window_.get(), [] { QCoreApplication::exit(1); });
+        QTimer::singleShot(0, &child<QAction>(window(), "actionQuit"), &QAction::trigger);
+        QTimer::singleShot(5000, &window(), [] { QCoreApplication::exit(1); });
         QCOMPARE(QCoreApplication::exec(), 0);
     }
 
@@ -439,7 +314,7 @@ private slots:
         GuiAgent agent;
         QElapsedTimer sinceStart;
         sinceStart.start();
-        window_->doLogin(true);
+        window().doLogin(true);
         agent.clearCallLog();
         QTRY_COMPARE_WITH_TIMEOUT(calls(agent, "backup_sets_info"), 1, 8000);
         QElapsedTimer sinceFirst;
@@ -453,39 +328,26 @@ private slots:
     void endsItsThreadAtOnce() {
         QElapsedTimer time;
         time.start();
-        window_.reset();
+        driver_.reset();
         QVERIFY(time.elapsed() < 1000);
     }
 
 private:
-    QEvent::Type heartbeat() const {
-        return static_cast<QEvent::Type>(window_->heartbeatEventType());
-    }
-    void beat() {
-        QEvent event(heartbeat());
-        QCoreApplication::sendEvent(window_.get(), &event);
-    }
+    SimpleGUIMainWindow& window() { return driver_->window(); }
+    QTableView& view() { return driver_->sets(); }
+    QStringList sets() { return driver_->cards(); }
+    bool isEnabled(const char* action) { return driver_->isEnabled(action); }
+    QString status() { return driver_->status(); }
+    void beat() { driver_->beat(); }
 
     static int calls(const GuiAgent& agent, const char* method) {
         int count = 0;
-        for (const std::string& name : methods(agent))
+        for (const std::string& name : methodsOf(agent))
             count += name == method;
         return count;
     }
 
-    QTableView& view() { return child<QTableView>(*window_, "backupSetsView"); }
-    QStringList sets() {
-        QStringList rows;
-        const QAbstractItemModel& model = *view().model();
-        for (int row = 0; row < model.rowCount(); ++row)
-            rows << model.index(row, 0).data().toString() + QStringLiteral(" on ") +
-                        model.index(row, 1).data().toString();
-        return rows;
-    }
-    bool isEnabled(const char* action) { return child<QAction>(*window_, action).isEnabled(); }
-    QString status() { return window_->statusBar()->currentMessage(); }
-
-    std::unique_ptr<SimpleGUIMainWindow> window_;
+    std::unique_ptr<MainWindowDriver> driver_;
 };
 
 QTEST_MAIN(MainWindowTest)

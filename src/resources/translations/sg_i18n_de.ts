@@ -89,17 +89,6 @@ backup set using the buttons on the right.</source>
     </message>
 </context>
 <context>
-    <name>BackupSetsModel</name>
-    <message>
-        <source>Name</source>
-        <translation>Name</translation>
-    </message>
-    <message>
-        <source>Computer</source>
-        <translation>Computer</translation>
-    </message>
-</context>
-<context>
     <name>EventLogModel</name>
     <message>
         <source>Info</source>
@@ -576,6 +565,82 @@ backup set using the buttons on the right.</source>
         <source>%1 generation(s)</source>
         <translation>%1 Generation(en)</translation>
     </message>
+    <message>
+        <source>Started - </source>
+        <translation>Gestartet – </translation>
+    </message>
+    <message>
+        <source>Completed - </source>
+        <translation>Beendet – </translation>
+    </message>
+    <message>
+        <source> - %1</source>
+        <translation> – %1</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>%1: On-demand backup started for &apos;%2&apos;</source>
+        <translation>%1: Sicherung auf Anforderung für „%2“ gestartet</translation>
+    </message>
+    <message>
+        <source>%1: On-demand Synchronization started for &apos;%2&apos;</source>
+        <translation>%1: Synchronisierung auf Anforderung für „%2“ gestartet</translation>
+    </message>
+    <message>
+        <source>Sent a stop request to activity with id %1</source>
+        <translation>Die Aktivität mit der ID %1 wurde aufgefordert anzuhalten</translation>
+    </message>
+    <message>
+        <source>Failed to open the help file %1.</source>
+        <translation>Die Hilfedatei %1 konnte nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>Configuration Error</source>
+        <translation>Konfigurationsfehler</translation>
+    </message>
+    <message>
+        <source>%1: Daily admin started.</source>
+        <translation>%1: Tägliche Verwaltung gestartet.</translation>
+    </message>
+    <message>
+        <source>No backup set selected.</source>
+        <translation>Es ist kein Sicherungssatz ausgewählt.</translation>
+    </message>
+    <message>
+        <source>Error checking backup set properties</source>
+        <translation>Fehler beim Lesen der Eigenschaften des Sicherungssatzes</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Anzeigen</translation>
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation>Ausblenden</translation>
+    </message>
+    <message>
+        <source>%1</source>
+        <translation>%1</translation>
+    </message>
+    <message>
+        <source>Ostrand Backup Activity</source>
+        <translation>Ostrand Backup – Aktivität</translation>
+    </message>
+    <message>
+        <source>%1 is still running!</source>
+        <translation>%1 läuft noch!</translation>
+    </message>
+    <message>
+        <source>You can click the icon to show the window.
+
+Click here to not show this reminder again.</source>
+        <translation>Ein Klick auf das Symbol zeigt das Fenster wieder an.
+
+Klicken Sie hier, um diesen Hinweis nicht mehr zu sehen.</translation>
+    </message>
 </context>
 <context>
     <name>TarnClientInfoModel</name>
@@ -767,6 +832,13 @@ backup set using the buttons on the right.</source>
     <message>
         <source>The agent doesn&apos;t know this backup set.</source>
         <translation>Der Agent kennt diesen Sicherungssatz nicht.</translation>
+    </message>
+</context>
+<context>
+    <name>required</name>
+    <message>
+        <source>The agent doesn&apos;t have what was asked for.</source>
+        <translation>Der Agent stellt das Angeforderte nicht bereit.</translation>
     </message>
 </context>
 <context>
