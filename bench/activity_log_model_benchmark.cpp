@@ -2,33 +2,25 @@
 // SPDX-License-Identifier: Apache-2.0
 
 // What a refresh of the activity log costs under a window that shows it, sorted by its start,
-// latest first. The reference is Qt's own model of items, filled with the same values and sorted
-// by a proxy. Values are kept there as numbers, not as texts, which favours the reference.
+// latest first, beside Qt's own model of items, filled with the same values and sorted by a proxy.
 
 #include <algorithm>
 #include <chrono>
-#include <memory>
 #include <random>
 
-#include <malloc.h>
-
 #include <QApplication>
-#include <QSortFilterProxyModel>
-#include <QStandardItemModel>
-#include <QTableView>
 
 #include <benchmark/benchmark.h>
 
 #include "activity_rows.h"
 #include "app/activity_log_model.h"
+#include "item_model.h"
+#include "memory.h"
 #include "resources/pictures.h"
-#include "session/text.h"
-#include "ui/activity_type_text.h"
 
 namespace {
 
 constexpr std::size_t rowCount = 100'000;
-constexpr int columnCount = 9;
 
 const bench::Rows& rows() {
     static const bench::Rows rows = [] {
@@ -37,23 +29,6 @@ const bench::Rows& rows() {
         return made;
     }();
     return rows;
-}
-
-/// Bytes that are in use on the heap.
-double heapInUse() {
-    const auto info = mallinfo2();
-    return static_cast<double>(info.uordblks + info.hblkhd);
-}
-
-std::unique_ptr<QTableView> shownView(QAbstractItemModel& model) {
-    auto view = std::make_unique<QTableView>();
-    view->setModel(&model);
-    view->setSortingEnabled(true);
-    view->sortByColumn(ActivityLogModel::start, Qt::DescendingOrder);
-    view->resize(1000, 300);
-    view->show();
-    QCoreApplication::processEvents();
-    return view;
 }
 
 /// The time until the window shows what `refresh` has brought.
@@ -72,57 +47,18 @@ void measure(benchmark::State& state, Refresh refresh) {
 
 void modelRefresh(benchmark::State& state) {
     ActivityLogModel model;
-    const auto view = shownView(model);
+    const auto view = bench::shownView(model);
     measure(state, [&](bench::Rows& fetched) { model.setRecords(std::move(fetched)); });
     view->setModel(nullptr);
-    const double full = heapInUse();
+    const double full = bench::heapInUse();
     model.clear();
-    state.counters["bytes_per_row"] = (full - heapInUse()) / rowCount;
-}
-
-QStandardItem* numberItem(qint64 number) {
-    auto item = std::make_unique<QStandardItem>();
-    item->setData(number, Qt::DisplayRole);
-    return item.release();
-}
-
-/// A row for a model of items, which takes them.
-QList<QStandardItem*> itemsOf(const hessiancln::activity_log_info& row) {
-    return {std::make_unique<QStandardItem>(ui::activityTypeIcon(row.type),
-                                            ui::activityTypeLabel(row.type))
-                .release(),
-            std::make_unique<QStandardItem>(session::fromWire(row.description)).release(),
-            numberItem(row.errors),
-            numberItem(row.warnings),
-            numberItem(row.start_time),
-            numberItem(row.end_time),
-            numberItem(row.end_time - row.start_time),
-            numberItem(row.file_count),
-            numberItem(row.data_size)};
-}
-
-std::unique_ptr<QStandardItemModel> itemModel(const bench::Rows& fetched) {
-    auto model = std::make_unique<QStandardItemModel>(0, columnCount);
-    for (const auto& row : fetched)
-        model->appendRow(itemsOf(row));
-    return model;
+    state.counters["bytes_per_row"] = (full - bench::heapInUse()) / rowCount;
 }
 
 void itemModelRefresh(benchmark::State& state) {
-    auto model = std::make_unique<QStandardItemModel>(0, columnCount);
-    QSortFilterProxyModel sorted;
-    sorted.setSourceModel(model.get());
-    const auto view = shownView(sorted);
-    measure(state, [&](bench::Rows& fetched) {
-        auto fresh = itemModel(fetched);
-        sorted.setSourceModel(fresh.get());
-        model = std::move(fresh);
-    });
-    view->setModel(nullptr);
-    const double full = heapInUse();
-    sorted.setSourceModel(nullptr);
-    model.reset();
-    state.counters["bytes_per_row"] = (full - heapInUse()) / rowCount;
+    bench::ItemModel model;
+    measure(state, [&](const bench::Rows& fetched) { model.refresh(fetched); });
+    state.counters["bytes_per_row"] = model.clear() / rowCount;
 }
 
 BENCHMARK(itemModelRefresh)->UseManualTime()->Unit(benchmark::kMillisecond);

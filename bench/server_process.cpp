@@ -5,6 +5,7 @@
 #include <array>
 #include <csignal>
 #include <cstdio>
+#include <ctime>
 #include <exception>
 #include <stdexcept>
 
@@ -52,6 +53,14 @@ ServerProcess::ServerProcess(const std::function<void(const Listening&)>& serve)
 ServerProcess::~ServerProcess() {
     ::kill(child_, SIGKILL);
     ::waitpid(child_, nullptr, 0);
+}
+
+double ServerProcess::processorTime() const {
+    clockid_t clock{};
+    timespec used{};
+    if (::clock_getcpuclockid(child_, &clock) != 0 || ::clock_gettime(clock, &used) != 0)
+        throw std::runtime_error("This system doesn't tell the time that a server has used");
+    return static_cast<double>(used.tv_sec) + static_cast<double>(used.tv_nsec) * 1e-9;
 }
 
 } // namespace bench

@@ -27,6 +27,9 @@ public:
 
     std::uint16_t port() const { return port_; }
 
+    /// The processor's time that the server has used, in seconds. Raises `std::runtime_error`.
+    double processorTime() const;
+
 private:
     pid_t child_ = -1;
     std::uint16_t port_ = 0;

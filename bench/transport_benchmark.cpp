@@ -16,6 +16,7 @@
 
 #include "frame_echo.h"
 #include "grpc_echo.h"
+#include "memory.h"
 #include "server_process.h"
 #include "transport/raw_stream_dispatcher.h"
 
@@ -70,23 +71,14 @@ void callGrpc(benchmark::State& state) {
     measureCalls(state, [&] { return client.call(message) == message; });
 }
 
-/// Bytes of memory, as in the line "VmRSS:   1234 kB".
-double memory(std::string_view field) {
-    std::ifstream status("/proc/self/status");
-    for (std::string line; std::getline(status, line);)
-        if (line.starts_with(field))
-            return std::stod(line.substr(field.size())) * 1024;
-    throw std::runtime_error("This system doesn't tell the memory of a process");
-}
-
 /// The peak of the memory in use since this was made.
 class MemoryPeak {
 public:
     MemoryPeak() {
         std::ofstream("/proc/self/clear_refs") << "5" << std::flush;
-        start_ = memory("VmRSS:");
+        start_ = bench::memory("VmRSS:");
     }
-    double growth() const { return memory("VmHWM:") - start_; }
+    double growth() const { return bench::memory("VmHWM:") - start_; }
 
 private:
     double start_;
