@@ -40,6 +40,8 @@ void setUpTable(QTableView& table, app::SortedTableModel& model, const Widths& w
     table.setModel(&model);
     for (std::size_t column = 0; column < widths.size(); ++column)
         table.setColumnWidth(static_cast<int>(column), widths[column]);
+    // In the middle of its column, the header of a wide one would be out of sight.
+    table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     table.sortByColumn(sortColumn, Qt::DescendingOrder);
 }
 

@@ -3,7 +3,6 @@
 // Takes pictures of the main window with a simulated agent behind it. Best on a real display:
 //   xvfb-run -s "-screen 0 1600x1000x24" take_pictures docs/pictures
 #include <cstdio>
-#include <utility>
 
 #include <QApplication>
 #include <QDir>
@@ -12,7 +11,6 @@
 #include <QTranslator>
 
 #include "resources/pictures.h"
-#include "simulator/world/clock.h"
 #include "tests/support/gui_agent.h"
 #include "tests/support/gui_main_window.h"
 #include "tests/support/gui_modal_driver.h"
@@ -21,13 +19,10 @@ namespace {
 
 using support::child;
 
-/// An agent whose first activity has been at work for two minutes.
-simulator::Options busyAgent() {
+/// An agent whose work goes by so fast that a few seconds show some progress.
+simulator::Options fastAgent() {
     simulator::Options options;
-    options.clock = [first = true]() mutable {
-        const simulator::Milliseconds now = simulator::systemClock()();
-        return std::exchange(first, false) ? now - 120000 : now;
-    };
+    options.speed = 60;
     return options;
 }
 
@@ -38,10 +33,12 @@ void save(QWidget& window, const QDir& folder, const QString& name) {
 }
 
 void takePictures(const QDir& folder) {
-    support::GuiAgent agent(busyAgent());
+    support::GuiAgent agent(fastAgent());
     support::MainWindowDriver driver;
     driver.window().doLogin(true);
     driver.sets().selectRow(0);
+    QTest::qWait(3000);
+    driver.beat();
     save(driver.window(), folder, QStringLiteral("main-window"));
     child<QTabWidget>(driver.window(), "tabWidget").setCurrentIndex(1);
     save(driver.window(), folder, QStringLiteral("activity-log"));
