@@ -82,7 +82,8 @@ RefreshedWindow::RefreshedWindow(std::uint16_t port) {
     root->setDispatcher(timer_);
     firstRefresh_ = refreshUntilShown();
     child<QTableView>(window_, "backupSetsView").selectRow(0);
-    QCoreApplication::processEvents();
+    // The first one paints what the selection has changed.
+    refreshUntilShown();
     timer_->take();
 }
 
