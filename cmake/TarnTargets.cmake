@@ -94,8 +94,14 @@ function(tarn_test name)
     if(arg_QTEST)
         target_link_libraries(${name} PRIVATE Qt5::Test)
         add_test(NAME ${name} COMMAND ${name})
+        set(environment QT_QPA_PLATFORM=offscreen)
+        if(TARN_SANITIZE MATCHES "address")
+            # Qt's libraries have no frame pointers, so that a short stack would hide whose a leak is.
+            list(APPEND environment ASAN_OPTIONS=fast_unwind_on_malloc=0
+                LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/leaks_of_qt.txt:print_suppressions=0)
+        endif()
         set_tests_properties(${name} PROPERTIES
-            LABELS "${arg_LABELS}" TIMEOUT ${arg_TIMEOUT} ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+            LABELS "${arg_LABELS}" TIMEOUT ${arg_TIMEOUT} ENVIRONMENT "${environment}")
     else()
         target_link_libraries(${name} PRIVATE GTest::gmock GTest::gtest_main)
         gtest_discover_tests(${name}
