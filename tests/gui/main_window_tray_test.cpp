@@ -191,10 +191,13 @@ void MainWindowTrayTest::announcesWhatBeginsAndEnds() {
     driver_->beat();
     agent_->withWorld(stopAll);
     driver_->beat();
-    QCOMPARE(linesOfBalloons(),
-             (QStringList{QStringLiteral("Started - Backup - Documents"),
-                          QStringLiteral("Completed - Backup - Pictures and Videos"),
-                          QStringLiteral("Completed - Backup - Documents")}));
+    // The table shows the youngest first, so the order depends on the second of each start.
+    QStringList lines = linesOfBalloons();
+    QVERIFY(!lines.isEmpty());
+    QCOMPARE(lines.takeFirst(), QStringLiteral("Started - Backup - Documents"));
+    lines.sort();
+    QCOMPARE(lines, (QStringList{QStringLiteral("Completed - Backup - Documents"),
+                                 QStringLiteral("Completed - Backup - Pictures and Videos")}));
     QCOMPARE(tray().balloons.size(), 2);
     QCOMPARE(agent_->liveObjects().size(), std::size_t(1));
 }
