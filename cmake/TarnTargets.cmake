@@ -42,26 +42,26 @@ endif()
 function(_tarn_prepare target)
     set_target_properties(${target} PROPERTIES
         CXX_EXTENSIONS OFF CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
-    if(arg_PRECOMPILE)
-        target_precompile_headers(${target} PRIVATE ${arg_PRECOMPILE})
-    endif()
 endfunction()
-
-# PRECOMPILE names the headers, as they stand behind #include, that a large target reads in most of
-# its sources; it pays from about eight sources on.
 
 # tarn_library(<name> SOURCES <files> [LINK <public>] [LINK_PRIVATE <private>]
 #              [PRECOMPILE <headers>])
+#
+# PRECOMPILE names the headers, as they stand behind #include, that most of the sources read; it
+# pays from about eight sources on.
 function(tarn_library name)
     cmake_parse_arguments(arg "" "" "SOURCES;LINK;LINK_PRIVATE;PRECOMPILE" ${ARGN})
     add_library(${name} STATIC ${arg_SOURCES})
     target_link_libraries(${name} PUBLIC tarn_options ${arg_LINK} PRIVATE ${arg_LINK_PRIVATE})
     _tarn_prepare(${name})
+    if(arg_PRECOMPILE)
+        target_precompile_headers(${name} PRIVATE ${arg_PRECOMPILE})
+    endif()
 endfunction()
 
-# tarn_program(<name> SOURCES <files> [LINK <libraries>] [PRECOMPILE <headers>])
+# tarn_program(<name> SOURCES <files> [LINK <libraries>])
 function(tarn_program name)
-    cmake_parse_arguments(arg "" "" "SOURCES;LINK;PRECOMPILE" ${ARGN})
+    cmake_parse_arguments(arg "" "" "SOURCES;LINK" ${ARGN})
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE tarn_options ${arg_LINK})
     set_target_properties(${name} PROPERTIES
@@ -80,15 +80,13 @@ function(_tarn_label name labels)
     set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES ${script})
 endfunction()
 
-# tarn_test(<name> LABELS <labels> TIMEOUT <seconds> SOURCES <files> [LINK <libraries>]
-#           [PRECOMPILE <headers>])
+# tarn_test(<name> LABELS <labels> TIMEOUT <seconds> SOURCES <files> [LINK <libraries>])
 #
 # LABELS are of unit, wire, gui, slow. With the word QTEST the program is one QTest class and
 # one test of ctest; without it, it is GoogleTest, and each TEST is a test of ctest.
 function(tarn_test name)
-    cmake_parse_arguments(arg "QTEST" "TIMEOUT" "LABELS;SOURCES;LINK;PRECOMPILE" ${ARGN})
-    tarn_program(${name}
-        SOURCES ${arg_SOURCES} LINK ${arg_LINK} PRECOMPILE ${arg_PRECOMPILE})
+    cmake_parse_arguments(arg "QTEST" "TIMEOUT" "LABELS;SOURCES;LINK" ${ARGN})
+    tarn_program(${name} SOURCES ${arg_SOURCES} LINK ${arg_LINK})
     # Tests may include the doubles in tests/support and the simulator beside the product.
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
     if(arg_QTEST)
