@@ -10,9 +10,9 @@
 #include "app/backup_set_view_item.h"
 #include "app/event_log_viewer.h"
 #include "app/open_backup_set.h"
-#include "app/required.h"
 #include "app/simple_gui_main_window.h"
 #include "session/connection.h"
+#include "session/required.h"
 #include "session/text.h"
 #include "ui/locale_text.h"
 #include "ui/remote_action.h"
@@ -37,7 +37,7 @@ QString timeNow() {
 boost::shared_ptr<hessiancln::GenericActivity> startBackup(std::int32_t setId) {
     const auto set = app::openBackupSet(setId);
     const auto items = set->items();
-    const auto parameters = app::required(set->createDefaultBackupParameters());
+    const auto parameters = session::required(set->createDefaultBackupParameters());
     parameters->setDoRetentionAfter(true);
     parameters->setPreScanSource(true);
     return set->start_backup(items, parameters);
@@ -75,7 +75,7 @@ void SimpleGUIMainWindow::OnStopActivity() {
     ui::remoteAction(*this, tr("Error"), ui::Cursor::arrow, [this] {
         for (const int row : selectedRows(*ui_->tableCurrentActivities)) {
             const auto activity =
-                app::required(session::getConnection()->activity(running_.at(row).activity_id));
+                session::required(session::getConnection()->activity(running_.at(row).activity_id));
             activity->Stop();
             showStatus(tr("Sent a stop request to activity with id %1")
                            .arg(ui::numberText(activity->getID())));

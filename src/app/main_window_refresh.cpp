@@ -7,10 +7,10 @@
 #include "api/client_connection.h"
 #include "app/backup_set_view_item.h"
 #include "app/enable_state.h"
-#include "app/required.h"
 #include "app/simple_gui_main_window.h"
 #include "app/wire_time.h"
 #include "session/connection.h"
+#include "session/required.h"
 #include "ui/error_box.h"
 #include "ui_simple_gui_main_window.h"
 
@@ -75,7 +75,7 @@ void SimpleGUIMainWindow::readClientInfo() {
     const auto policy = std::find_if(rows.begin(), rows.end(), tellsPolicy);
     if (policy != rows.end())
         session::g_isCentrallyManaged = policy->value == kYes;
-    session::g_is2FAEnabled = app::required(connection->getTFAManager())->is2FAEnabled();
+    session::g_is2FAEnabled = session::required(connection->getTFAManager())->is2FAEnabled();
 }
 
 void SimpleGUIMainWindow::RefreshActivityLogs() {

@@ -7,10 +7,10 @@
 #include "api/client_connection.h"
 #include "app/initial_configuration.h"
 #include "app/login_check.h"
-#include "app/required.h"
 #include "app/simple_gui_main_window.h"
 #include "session/connection.h"
 #include "session/integrated_logon.h"
+#include "session/required.h"
 #include "session/text.h"
 #include "ui/error_box.h"
 #include "ui/locale_text.h"
@@ -78,8 +78,8 @@ void SimpleGUIMainWindow::checkInitialConfiguration() {
         ui::remoteAction(*this, tr("Configuration Error"), ui::Cursor::arrow, [&needed] {
             const auto connection = session::getConnection();
             const auto agent = connection->getTarnClientInfo();
-            const auto manager = app::required(connection->getConfigurationManager());
-            const auto customer = app::required(manager->getUserInfoConfiguration());
+            const auto manager = session::required(connection->getConfigurationManager());
+            const auto customer = session::required(manager->getUserInfoConfiguration());
             needed = app::needsInitialConfiguration(agent, customer->getUserInfo());
         });
     if (!asked)
@@ -97,7 +97,7 @@ void SimpleGUIMainWindow::offerNewBackupSet() {
 
 void SimpleGUIMainWindow::startDailyAdmin() {
     ui::remoteAction(*this, tr("Error"), ui::Cursor::arrow, [this] {
-        const auto manager = app::required(session::getConnection()->getConfigurationManager());
+        const auto manager = session::required(session::getConnection()->getConfigurationManager());
         const auto activity = manager->start_daily_admin();
         RefreshActivityLogs();
         showStatus(tr("%1: Daily admin started.")

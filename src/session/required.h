@@ -10,16 +10,16 @@
 
 #include "session/text.h"
 
-namespace app {
+namespace session {
 
 /// An object of the agent that this program can't do without. Raises `std::runtime_error` where
 /// the agent gave none.
 template <class Proxy>
 boost::shared_ptr<Proxy> required(boost::shared_ptr<Proxy> object) {
     if (!object)
-        throw std::runtime_error(session::toWire(
+        throw std::runtime_error(toWire(
             QCoreApplication::translate("required", "The agent doesn't have what was asked for.")));
     return object;
 }
 
-} // namespace app
+} // namespace session
