@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+
+#include "api/backup_set_credentials.h"
+
+namespace wizards {
+
+/// The credentials that the user has typed in a wizard, passwords included: an agent doesn't give
+/// them back. Text is UTF-8. A setter remembers its values and sends them at once, so that they
+/// are remembered even if sending raises an exception.
+class CachedCredentials {
+public:
+    void setPassword(const std::string& newUser, const std::string& newPassword,
+                     hessiancln::Win32FS_Generic_BackupSetCredentials& credentials);
+    void setPassword(const std::string& newUser, const std::string& newPassword,
+                     hessiancln::UnixFS_Generic_BackupSetCredentials& credentials);
+    void setKeyFile(const std::string& newUser, const std::string& file,
+                    const std::string& newPassphrase,
+                    hessiancln::UnixFS_SSH_BackupSetCredentials& credentials);
+    void setSudo(const std::string& newUser, const std::string& newPassword,
+                 hessiancln::UnixFS_SSH_BackupSetCredentials& credentials);
+    void setSSHAccess(hessiancln::SSHAccessType type, const std::string& interpreterPath,
+                      hessiancln::UnixFS_SSH_BackupSetCredentials& credentials);
+
+    /// Sends what is remembered to another object, as far as its class has use for it. Asks the
+    /// agent nothing as long as nothing is remembered.
+    void applyTo(const boost::shared_ptr<hessiancln::BackupSetCredentials>& credentials) const;
+
+private:
+    void remember(const std::string& newUser, const std::string& newPassword);
+    void applyToSSH(hessiancln::UnixFS_SSH_BackupSetCredentials& credentials) const;
+
+    bool hasPassword = false;
+    std::string user;
+    std::string password;
+    bool hasKeyFile = false;
+    std::string keyUser;
+    std::string keyFile;
+    std::string passphrase;
+    bool hasSudo = false;
+    std::string sudoUser;
+    std::string sudoPassword;
+    bool hasSSHAccess = false;
+    hessiancln::SSHAccessType sshAccessType =
+        hessianser::reservedValue<hessiancln::SSHAccessType>();
+    std::string sshInterpreterPath;
+};
+
+} // namespace wizards

@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include <QWizardPage>
+
+#include <boost/shared_ptr.hpp>
+
+#include "wizards/cached_credentials.h"
+
+class CComputerTreeModel;
+class QItemSelection;
+
+namespace hessiancln {
+class BackupSet;
+class DataSourceBrowser;
+} // namespace hessiancln
+
+namespace Ui {
+class SelectDataSourcePage;
+}
+
+/// Which computer a set backs up, and with which login. The page owns the browser of its wizard,
+/// and writes each change of the credentials to it at once: only so can the next page look into
+/// the computer. What is wrong with the credentials is shown in a box; the page stays usable.
+class SelectDataSourcePage : public QWizardPage {
+    Q_OBJECT
+public:
+    /// Whether a user of this machine, in UTF-8, is one of its administrators.
+    using AdministratorTest = std::function<bool(const std::string& user)>;
+
+    /// Takes a fresh browser from the session, and starts with the agent's own computer. Raises
+    /// what the session raises if that fails.
+    explicit SelectDataSourcePage(QWidget* parent = nullptr);
+    SelectDataSourcePage(const AdministratorTest& isAdministrator, QWidget* parent = nullptr);
+    ~SelectDataSourcePage() override;
+
+    boost::shared_ptr<hessiancln::DataSourceBrowser> browser() const { return browser_; }
+    /// Without blanks around it.
+    QString computerName() const;
+    /// The user that the page shows; empty if the source wants none.
+    QString connectUser() const;
+
+    /// Shows the source of a set that has items. False if it isn't a set of files, which this
+    /// program doesn't edit. Raises what the set's calls raise, but for those about credentials.
+    bool initFromSet(const boost::shared_ptr<hessiancln::BackupSet>& set);
+    /// The same for a set without items, whose credentials are of no use yet.
+    bool initFromEmptySet(const boost::shared_ptr<hessiancln::BackupSet>& set);
+    /// Offers the computer of a set as the one to restore to. Always true.
+    bool initForRestore(const boost::shared_ptr<hessiancln::BackupSet>& set);
+    /// Gives the credentials to the set. Raises what the calls raise.
+    void applyCredentials(const boost::shared_ptr<hessiancln::BackupSet>& set);
+
+    bool isComplete() const override { return complete_; }
+    /// Lets the agent try the credentials.
+    bool validatePage() override;
+
+public slots:
+    void OnShowNetDiscoveryTree();
+    void treeSelectionChanged(const QItemSelection& selected, const QItemSelection& deselected);
+    void computerNameEdited();
+    void computerNameChanged();
+    void OnSelectConnectAs();
+    void OnSelectSudo();
+    void OnSelectSSHAccess();
+    void on_chkUseTarnClientAccount_clicked(bool checked);
+    void treeExpanded(const QModelIndex& index);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    using Credentials = boost::shared_ptr<hessiancln::BackupSetCredentials>;
+
+    void connectWidgets();
+    void showTree();
+    void takeNeededCredentials();
+    bool showComputerOfFileSet(hessiancln::BackupSet& set);
+    void setComplete(bool complete);
+    void enableConnectAs();
+
+    void refresh();
+    void showRows(bool connectAs, bool ssh);
+    void showUserOf(const Credentials& credentials, const std::vector<std::string>& types);
+    void showSSH(hessiancln::UnixFS_SSH_BackupSetCredentials& credentials);
+
+    Credentials currentCredentials();
+    boost::shared_ptr<hessiancln::UnixFS_SSH_BackupSetCredentials> currentSSHCredentials();
+    template <class Class>
+    void askForPassword(const Credentials& credentials);
+    void askForSSHLogin(const Credentials& credentials);
+
+    std::unique_ptr<Ui::SelectDataSourcePage> ui_;
+    boost::shared_ptr<hessiancln::DataSourceBrowser> browser_;
+    std::unique_ptr<CComputerTreeModel> model_;
+    wizards::CachedCredentials cache_;
+    bool complete_ = true;
+    bool useClientAccount_ = false; ///< the flag of the credentials, as far as it is known
+    bool editing_ = false; ///< an edited name is at the agent, or its failure on the screen
+};

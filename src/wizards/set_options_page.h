@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <memory>
+
+#include <QWizardPage>
+
+#include <boost/shared_ptr.hpp>
+
+#include "api/client_configuration_records.h"
+
+class CRestoreDestinationDirectoryOnlyModel;
+class CRestoreDestinationModel;
+
+namespace hessiancln {
+class BackupSet;
+class DataSourceBrowser;
+} // namespace hessiancln
+
+namespace Ui {
+class SetOptionsPage;
+}
+
+/// Whether a set keeps a copy on local storage, and in which folder of the agent's computer.
+class SetOptionsPage : public QWizardPage {
+    Q_OBJECT
+public:
+    /// Asks the agent for its kind of paths. Raises what the calls raise.
+    explicit SetOptionsPage(QWidget* parent = nullptr);
+    ~SetOptionsPage() override;
+
+    /// The id of the `SelectDataSourcePage` whose browser shows the folders; -1, as at first, if
+    /// none comes before this page.
+    void setDataSourcePageId(int id) { dataSourcePageId_ = id; }
+    int dataSourcePageId() const { return dataSourcePageId_; }
+
+    /// Shows the options of a set. Always true. Raises what the set's calls raise.
+    bool load(const boost::shared_ptr<hessiancln::BackupSet>& set);
+    /// Raises what the set's calls raise.
+    void apply(const boost::shared_ptr<hessiancln::BackupSet>& set);
+
+    void initializePage() override;
+    bool isComplete() const override;
+
+public slots:
+    void on_chkLocalCopy_clicked(bool checked);
+    void on_chkLocalCache_clicked(bool checked);
+    void on_editLocalPath_textChanged();
+    void on_btnLocalPath_toggled(bool checked);
+    void dirTreeSelectionChanged();
+    void treeExpanded(const QModelIndex& index);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void buildModels(const boost::shared_ptr<hessiancln::DataSourceBrowser>& browser);
+    void showFolder(bool wanted);
+    bool moveTreeToPath();
+
+    std::unique_ptr<Ui::SetOptionsPage> ui_;
+    int dataSourcePageId_ = -1;
+    hessiancln::ClientOSType osType_;
+    std::unique_ptr<CRestoreDestinationModel> model_; ///< null until needed, like the next
+    std::unique_ptr<CRestoreDestinationDirectoryOnlyModel> directories_;
+};
