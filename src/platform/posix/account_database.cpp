@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "platform/posix/account_database.h"
+
+#include <cerrno>
+
+#include <grp.h>
+#include <pwd.h>
+
+namespace platform {
+
+namespace {
+
+// A group of a directory service can have very many members; a database that wants more room than
+// this is taken for broken.
+constexpr std::size_t firstRoom = 4 * 1024;
+constexpr std::size_t mostRoom = 16 * 1024 * 1024;
+
+class SystemAccounts final : public AccountDatabase {
+public:
+    std::optional<Account> account(const std::string& name) override {
+        std::vector<char> texts;
+        passwd entry{};
+        passwd* found = nullptr;
+        const int failure = readWithRoom(texts, [&] {
+            return getpwnam_r(name.c_str(), &entry, texts.data(), texts.size(), &found);
+        });
+        if (failure != 0 || !found) {
+            return std::nullopt;
+        }
+        return Account{found->pw_uid, found->pw_gid};
+    }
+
+    std::optional<Group> group(const std::string& name) override {
+        std::vector<char> texts;
+        ::group entry{};
+        ::group* found = nullptr;
+        const int failure = readWithRoom(texts, [&] {
+            return getgrnam_r(name.c_str(), &entry, texts.data(), texts.size(), &found);
+        });
+        if (failure != 0 || !found) {
+            return std::nullopt;
+        }
+        Group result{found->gr_gid, {}};
+        for (char** member = found->gr_mem; member && *member; ++member) {
+            result.members.emplace_back(*member);
+        }
+        return result;
+    }
+};
+
+} // namespace
+
+int readWithRoom(std::vector<char>& texts, const std::function<int()>& read) {
+    int failure = ERANGE;
+    for (std::size_t room = firstRoom; failure == ERANGE && room <= mostRoom; room *= 4) {
+        texts.resize(room);
+        do {
+            failure = read();
+        } while (failure == EINTR);
+    }
+    return failure;
+}
+
+AccountDatabase& systemAccounts() {
+    static SystemAccounts accounts;
+    return accounts;
+}
+
+} // namespace platform

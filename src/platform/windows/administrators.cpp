@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "platform/administrators.h"
+
+#include <memory>
+#include <span>
+#include <vector>
+
+#include <windows.h>
+
+#include <lm.h>
+
+#include "platform/windows/wide_text.h"
+
+namespace platform {
+
+namespace {
+
+struct FreeSid {
+    void operator()(void* sid) const { ::FreeSid(sid); }
+};
+using OwnedSid = std::unique_ptr<void, FreeSid>;
+
+struct FreeNetworkBuffer {
+    void operator()(void* buffer) const { NetApiBufferFree(buffer); }
+};
+using OwnedGroups = std::unique_ptr<LOCALGROUP_USERS_INFO_0, FreeNetworkBuffer>;
+
+OwnedSid administratorsSid() {
+    SID_IDENTIFIER_AUTHORITY authority = {SECURITY_NT_AUTHORITY};
+    PSID sid = nullptr;
+    if (!AllocateAndInitializeSid(&authority, 2, SECURITY_BUILTIN_DOMAIN_RID,
+                                  DOMAIN_ALIAS_RID_ADMINS, 0, 0, 0, 0, 0, 0, &sid)) {
+        return nullptr;
+    }
+    return OwnedSid(sid);
+}
+
+/// Whether the group is the one of the SID. Its name is no proof: it differs by language.
+bool isGroup(const wchar_t* name, PSID wanted) {
+    std::vector<unsigned char> sid(SECURITY_MAX_SID_SIZE);
+    DWORD sidSize = static_cast<DWORD>(sid.size());
+    std::vector<wchar_t> domain(256);
+    DWORD domainSize = static_cast<DWORD>(domain.size());
+    SID_NAME_USE use{};
+    BOOL found =
+        LookupAccountNameW(nullptr, name, sid.data(), &sidSize, domain.data(), &domainSize, &use);
+    if (!found && GetLastError() == ERROR_INSUFFICIENT_BUFFER) {
+        sid.resize(sidSize);
+        domain.resize(domainSize);
+        found = LookupAccountNameW(nullptr, name, sid.data(), &sidSize, domain.data(), &domainSize,
+                                   &use);
+    }
+    return found && EqualSid(sid.data(), wanted);
+}
+
+} // namespace
+
+bool isAdministrator(const std::string& user) {
+    const std::wstring name = toWide(user);
+    // A zero inside the name would cut it short on its way to the system.
+    if (name.empty() || name.find(L'\0') != std::wstring::npos) {
+        return false;
+    }
+    LPBYTE buffer = nullptr;
+    DWORD count = 0;
+    DWORD total = 0;
+    const NET_API_STATUS status =
+        NetUserGetLocalGroups(nullptr, name.c_str(), 0, LG_INCLUDE_INDIRECT, &buffer,
+                              MAX_PREFERRED_LENGTH, &count, &total);
+    const OwnedGroups groups(reinterpret_cast<LOCALGROUP_USERS_INFO_0*>(buffer));
+    if (status != NERR_Success || !groups) {
+        return false;
+    }
+    const OwnedSid administrators = administratorsSid();
+    if (!administrators) {
+        return false;
+    }
+    for (const LOCALGROUP_USERS_INFO_0& group : std::span(groups.get(), count)) {
+        if (isGroup(group.lgrui0_name, administrators.get())) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace platform
