@@ -37,7 +37,8 @@ public:
 
     /// The wizard's id of the page that says which computer is backed up. Without one, -1, the page
     /// works on the computer of the set that was loaded.
-    int dataSourcePageId = -1;
+    void setDataSourcePageId(int id) { dataSourcePageId_ = id; }
+    int dataSourcePageId() const { return dataSourcePageId_; }
 
     /// Keeps the set, to be shown when the page is entered. False, if this program doesn't edit the
     /// set's kind of data. Exceptions of the remote call go to the caller.
@@ -80,6 +81,7 @@ private:
     CDataSourceDirOnlyModel* folders_ = nullptr; ///< likewise
     Browser browser_;
     Set set_; ///< null for a new set
+    int dataSourcePageId_ = -1;
     QString computer_;
     QString connectUser_;
     bool hadSelection_ = false;
