@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <boost/shared_ptr.hpp>
+
+#include "models/lazy_tree_model.h"
+
+namespace hessiancln {
+class DataSourceBrowser;
+}
+
+/// The network, in which a computer is picked. A container has no rows until it is fetched; views
+/// do so by `fetchMore`. If that fails, a box tells so. Nothing is asked for by the constructor.
+class CComputerTreeModel : public models::LazyTreeModel {
+    Q_OBJECT
+public:
+    explicit CComputerTreeModel(boost::shared_ptr<hessiancln::DataSourceBrowser> browser,
+                                QObject* parent = nullptr);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+
+    /// False for a container and for an invalid index.
+    bool isComputer(const QModelIndex& index) const;
+
+protected:
+    void fetch(models::LazyNode& node) const override;
+};

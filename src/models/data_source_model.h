@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include <boost/shared_ptr.hpp>
+
+#include "models/lazy_tree_model.h"
+#include "models/path_item.h"
+
+class CDataSourceItem;
+
+namespace hessiancln {
+class DataSourceBrowser;
+}
+
+/// Hears of changes in a tree of `CDataSourceItem`.
+class IDataBrowserSupport {
+public:
+    virtual ~IDataBrowserSupport() = default;
+
+    /// The check state of the item was set.
+    virtual void checkStateChanged(CDataSourceItem& item) = 0;
+};
+
+/// The drives, folders and files of a computer, with check boxes of which a backup set's items are
+/// made. A folder is fetched when somebody looks at its rows; one that can't be read has a sign and
+/// no rows. Checking and collecting fetch nothing. Nothing is asked for by the constructor.
+class CDataSourceModel : public models::LazyTreeModel, public IDataBrowserSupport {
+    Q_OBJECT
+public:
+    /// `computer` is UTF-8, a full source name.
+    CDataSourceModel(std::string computer, boost::shared_ptr<hessiancln::DataSourceBrowser> browser,
+                     QObject* parent = nullptr);
+    ~CDataSourceModel() override;
+
+    /// The check state is that of `models::CheckState`. What stands below something excluded has
+    /// none.
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    /// Only for the check state: anything that is true as a bool checks.
+    bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+    /// What is selected, from the top down: an inclusion for each topmost checked item, followed by
+    /// the exclusions below it.
+    std::vector<models::PathItem> getSelection() const;
+    /// Marks what a path names, whatever its case. Fetches the folders on the path. Returns whether
+    /// the path was found; if not, nothing was marked.
+    bool markItem(const models::PathItem& item);
+    bool hasSelection() const;
+    /// Also true for an invalid index, which stands for the computer.
+    bool isDirectory(const QModelIndex& index) const;
+
+    void checkStateChanged(CDataSourceItem& item) override;
+
+signals:
+    /// Once for each item whose check state was set.
+    void itemSelectionChanged();
+
+private:
+    CDataSourceItem& itemAt(const QModelIndex& index) const;
+};

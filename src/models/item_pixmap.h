@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QPixmap>
+
+#include "api/selectable_item_type.h"
+
+namespace models {
+
+/// The picture of an item of a tree by its kind. With `noAccess` it has a sign in its lower right
+/// corner; those pictures stay in `QPixmapCache`. Databases have no picture.
+QPixmap itemPixmap(hessiancln::SelectableItemType type, bool noAccess = false);
+
+} // namespace models

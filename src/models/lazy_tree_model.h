@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <memory>
+
+#include <QAbstractItemModel>
+
+#include "models/lazy_node.h"
+
+namespace models {
+
+/// A tree of one column over nodes that are fetched when somebody looks at them: also `rowCount`
+/// and `index` fetch, so that nobody ever sees a folder without the rows that it is going to have.
+class LazyTreeModel : public QAbstractItemModel {
+    Q_OBJECT
+public:
+    QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
+    QModelIndex parent(const QModelIndex& index) const override;
+    using QObject::parent;
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    bool hasChildren(const QModelIndex& parent = {}) const override;
+    void fetchMore(const QModelIndex& parent) override;
+    bool canFetchMore(const QModelIndex& parent) const override;
+
+    /// The names down to the node, UTF-8, joined by backslashes; empty for an invalid index.
+    std::string fullPath(const QModelIndex& index) const;
+
+protected:
+    LazyTreeModel(std::unique_ptr<LazyNode> root, QObject* parent);
+
+    /// The root for an invalid index.
+    LazyNode& nodeAt(const QModelIndex& index) const;
+    /// Invalid for the root.
+    QModelIndex indexOf(const LazyNode& node) const;
+
+    /// Has the node fetch its children, if it hasn't yet. Views hear of a node that turned out to
+    /// have none once they are done with what they do.
+    virtual void fetch(LazyNode& node) const;
+
+    void announceLook(const LazyNode& node) const;
+
+private:
+    std::unique_ptr<LazyNode> root_;
+};
+
+} // namespace models

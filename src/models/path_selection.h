@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <vector>
+
+#include "models/checkable_node.h"
+#include "models/path_item.h"
+
+/// A selection in a tree with check boxes as a list of paths, and back.
+namespace models {
+
+/// For each topmost node that is wholly checked, its path, followed by the exclusions below it.
+/// Fetches the root if need be, and nothing else.
+std::vector<PathItem> selectedPaths(CheckableNode& root);
+
+/// Marks the node that the path names, regardless of case, and fetches the folders on the path.
+/// Returns whether there is such a node. `changed` is told of the nodes above that change, not of
+/// the node itself. Nodes below it stay as they are.
+bool markPath(CheckableNode& root, const PathItem& item, const CheckListener& changed);
+
+} // namespace models
