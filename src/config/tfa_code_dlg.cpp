@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "config/tfa_code_dlg.h"
+
+#include <QEvent>
+
+#include "api/client_connection.h"
+#include "session/connection.h"
+#include "session/text.h"
+#include "ui/branding_resources.h"
+#include "ui/remote_action.h"
+#include "ui_tfa_code_dlg.h"
+
+TFACodeDlg::TFACodeDlg(int purpose, QWidget* parent)
+    : QDialog(parent)
+    , ui_(std::make_unique<Ui::TFACodeDlg>())
+    , purpose_(purpose) {
+    ui_->setupUi(this);
+    setWindowIcon(ui::g_branding.applicationIcon());
+    connect(ui_->btnCancel, &QPushButton::clicked, this, &TFACodeDlg::reject);
+    // Once the dialog is on the screen: a failure's box then stands before it.
+    QMetaObject::invokeMethod(this, &TFACodeDlg::on_btnResend_clicked, Qt::QueuedConnection);
+}
+
+TFACodeDlg::~TFACodeDlg() = default;
+
+void TFACodeDlg::on_btnResend_clicked() {
+    ui::remoteAction(*this, tr("Error"), ui::Cursor::wait, [this] {
+        const std::string address =
+            session::getConnection()->getTFAManager()->requestCode(purpose_);
+        ui_->editEmail->setText(session::fromWire(address));
+    });
+}
+
+void TFACodeDlg::on_btnValidate_clicked() {
+    const std::string code = session::toWire(ui_->editCode->text());
+    const bool valid = ui::remoteAction(*this, tr("Error"), ui::Cursor::wait, [&] {
+        session::getConnection()->getTFAManager()->validateCode(code, purpose_);
+    });
+    if (valid)
+        accept();
+}
+
+void TFACodeDlg::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange)
+        ui_->retranslateUi(this);
+    QDialog::changeEvent(event);
+}

@@ -1,0 +1,119 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "config/tfa_users_viewer.h"
+
+#include <QEvent>
+#include <QFile>
+#include <QFileDialog>
+#include <QHeaderView>
+#include <QMessageBox>
+
+#include "api/client_connection.h"
+#include "config/tfa_code_dlg.h"
+#include "config/tfa_user_dlg.h"
+#include "config/user_email_csv.h"
+#include "session/connection.h"
+#include "ui/branding_resources.h"
+#include "ui/fitting_text_delegate.h"
+#include "ui/remote_action.h"
+#include "ui_tfa_users_viewer.h"
+
+namespace {
+
+/// What a code is asked for, in the agent's words.
+constexpr int forwardPurpose = 1;
+
+} // namespace
+
+TFAUsersViewer::TFAUsersViewer(QWidget* parent)
+    : QDialog(parent)
+    , ui_(std::make_unique<Ui::TFAUsersViewer>()) {
+    ui_->setupUi(this);
+    setWindowIcon(ui::g_branding.applicationIcon());
+    setUpTable();
+    connect(ui_->btnClose, &QPushButton::clicked, this, &TFAUsersViewer::reject);
+    // Once the dialog is on the screen: a failure's box then stands before it.
+    QMetaObject::invokeMethod(this, &TFAUsersViewer::read, Qt::QueuedConnection);
+}
+
+TFAUsersViewer::~TFAUsersViewer() = default;
+
+void TFAUsersViewer::setUpTable() {
+    QTableView& table = *ui_->tableUsers;
+    table.setModel(&model_);
+    table.setItemDelegate(new ui::FittingTextDelegate(&table));
+    table.setColumnWidth(TFAUsersModel::username, 160);
+    table.setColumnWidth(TFAUsersModel::domain, 140);
+    table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    connect(table.selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &TFAUsersViewer::updateEnabling);
+    connect(&model_, &QAbstractItemModel::modelReset, this, &TFAUsersViewer::updateEnabling);
+    connect(&table, &QTableView::doubleClicked, this, &TFAUsersViewer::on_btnEdit_clicked);
+    updateEnabling();
+}
+
+void TFAUsersViewer::read() {
+    ui::remoteAction(*this, tr("Error"), ui::Cursor::wait, [this] { model_.refresh(); });
+}
+
+int TFAUsersViewer::selectedRow() const {
+    const QModelIndexList rows = ui_->tableUsers->selectionModel()->selectedRows();
+    return rows.isEmpty() ? -1 : rows.first().row();
+}
+
+void TFAUsersViewer::updateEnabling() {
+    const bool selected = selectedRow() >= 0;
+    ui_->btnEdit->setEnabled(selected);
+    ui_->btnDelete->setEnabled(selected);
+}
+
+void TFAUsersViewer::on_btnAdd_clicked() {
+    TFAUserDlg dialog({}, this);
+    if (dialog.exec() == QDialog::Accepted)
+        model_.insert(dialog.userEmail());
+}
+
+void TFAUsersViewer::on_btnEdit_clicked() {
+    const int row = selectedRow();
+    if (row < 0)
+        return;
+    TFAUserDlg dialog(model_.userEmails().at(static_cast<std::size_t>(row)), this);
+    if (dialog.exec() == QDialog::Accepted)
+        model_.replace(row, dialog.userEmail());
+}
+
+void TFAUsersViewer::on_btnDelete_clicked() {
+    const int row = selectedRow();
+    if (row >= 0)
+        model_.remove(row);
+}
+
+void TFAUsersViewer::on_btnImport_clicked() {
+    QFileDialog dialog(this, tr("Please choose a .CSV file"), {}, tr("CSV Files (*.csv)"));
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    QFile file(config::firstCsvFile(dialog.selectedFiles()));
+    if (file.fileName().isEmpty() || !file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return;
+    ui::remoteAction(*this, tr("Configuration Error"), ui::Cursor::wait,
+                     [&] { model_.insert(config::readUserEmails(file)); });
+}
+
+void TFAUsersViewer::on_btnUpdate_clicked() {
+    TFACodeDlg code(forwardPurpose, this);
+    if (code.exec() != QDialog::Accepted)
+        return;
+    const bool sent = ui::remoteAction(*this, tr("Configuration Error"), ui::Cursor::wait, [this] {
+        session::getConnection()->getTFAManager()->setUserEmails(model_.userEmails());
+    });
+    if (sent)
+        QMessageBox::information(this, tr("Forward to Tarn-System"),
+                                 tr("User email list is successfully sent to Tarn-System."));
+}
+
+void TFAUsersViewer::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange)
+        ui_->retranslateUi(this);
+    QDialog::changeEvent(event);
+}

@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "config/user_email_csv.h"
+
+#include <algorithm>
+
+#include <QTextStream>
+
+#include "config/user_email_rules.h"
+#include "session/text.h"
+
+namespace config {
+
+namespace {
+
+bool isSeparator(QChar character) {
+    return character == QLatin1Char(',') || character == QLatin1Char('|') ||
+           character == QLatin1Char('\t');
+}
+
+} // namespace
+
+std::optional<hessiancln::user_email> userEmailOf(const QString& line) {
+    const auto domain = std::find_if(line.begin(), line.end(), isSeparator);
+    if (domain == line.end())
+        return std::nullopt;
+    const auto email = std::find_if(domain + 1, line.end(), isSeparator);
+    if (email == line.end())
+        return std::nullopt;
+    const auto rest = std::find_if(email + 1, line.end(), isSeparator);
+
+    const auto field = [](auto begin, auto end) {
+        return session::toWire(QString(begin, static_cast<int>(end - begin)));
+    };
+    return hessiancln::user_email{field(line.begin(), domain), field(domain + 1, email),
+                                  field(email + 1, rest)};
+}
+
+std::vector<hessiancln::user_email> readUserEmails(QIODevice& file) {
+    QTextStream text(&file);
+    text.setCodec("UTF-8");
+    std::vector<hessiancln::user_email> rows;
+    for (QString line; text.readLineInto(&line);)
+        if (auto row = userEmailOf(line); row && problemOf(*row).isEmpty())
+            rows.push_back(std::move(*row));
+    return rows;
+}
+
+QString firstCsvFile(const QStringList& names) {
+    for (const QString& name : names)
+        if (name.endsWith(QStringLiteral(".csv"), Qt::CaseInsensitive))
+            return name;
+    return {};
+}
+
+} // namespace config

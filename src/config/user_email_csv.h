@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include <QString>
+
+#include "api/user_email.h"
+
+class QIODevice;
+
+namespace config {
+
+/// The row in a line of a list of addresses: user name, domain and address, each ended by a comma,
+/// a vertical bar or a tab. What follows is ignored. None, if the line is shorter.
+std::optional<hessiancln::user_email> userEmailOf(const QString& line);
+
+/// The good rows of a file, in its order. Lines without a row and rows that break a rule are left
+/// out. The file is UTF-8, unless it begins with the mark of UTF-16 or UTF-32. The device is open
+/// for reading, as text.
+std::vector<hessiancln::user_email> readUserEmails(QIODevice& file);
+
+/// The first of the names that ends in ".csv", in whatever case; empty if none does.
+QString firstCsvFile(const QStringList& names);
+
+} // namespace config

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "ui/wizard_frame.h"
+
+#include <QCoreApplication>
+#include <QPixmap>
+#include <QPushButton>
+#include <QWizard>
+
+#include "ui/branding_resources.h"
+
+namespace ui {
+
+namespace {
+
+constexpr int largest = 65536;
+
+struct WizardButtonText {
+    Q_DECLARE_TR_FUNCTIONS(WizardButtonText)
+};
+
+void setButton(QWizard& wizard, QWizard::WizardButton which, const QString& text,
+               const QString& icon) {
+    wizard.setButton(which, new QPushButton(QIcon(icon), text, &wizard));
+    // With each page the wizard writes its own texts anew, unless it was given others.
+    wizard.setButtonText(which, text);
+}
+
+} // namespace
+
+void frameWizard(QWizard& wizard, const QString& title, const QString& watermark) {
+    wizard.setWindowTitle(title);
+    wizard.setWindowIcon(g_branding.applicationIcon());
+    wizard.setPixmap(QWizard::WatermarkPixmap, QPixmap(watermark));
+    setButton(wizard, QWizard::BackButton, WizardButtonText::tr("&Back"),
+              QStringLiteral(":/button/back"));
+    setButton(wizard, QWizard::NextButton, WizardButtonText::tr("&Next"),
+              QStringLiteral(":/button/forward"));
+    setButton(wizard, QWizard::FinishButton, WizardButtonText::tr("&Finish"),
+              QStringLiteral(":/button/ok"));
+    setButton(wizard, QWizard::CancelButton, WizardButtonText::tr("&Cancel"),
+              QStringLiteral(":/button/cancel"));
+}
+
+void allowAnySize(QWizard& wizard) {
+    wizard.setMaximumSize(largest, largest);
+}
+
+} // namespace ui
