@@ -33,6 +33,10 @@ private:
     CheckState checkState_ = CheckState::Unchecked;
 };
 
+/// What becomes of a node, whose mark is taken away, of a tree that knows exclusions: excluded if
+/// what is around it is selected, else unchecked. At the top nothing is around.
+CheckState excludedIfSelectedAround(const CheckableNode& node);
+
 /// Is told of each node whose state was set.
 using CheckListener = std::function<void(CheckableNode&)>;
 

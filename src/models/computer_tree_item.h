@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include <QCoreApplication>
 
@@ -30,6 +31,8 @@ public:
 private:
     /// Shows a box if the agent can't tell.
     Children askForChildren() override;
+    std::vector<hessiancln::net_item_info> discover(const std::string& path);
+    Children childrenOf(std::vector<hessiancln::net_item_info> entries) const;
 
     boost::shared_ptr<hessiancln::DataSourceBrowser> browser_;
     hessiancln::net_item_info info_;

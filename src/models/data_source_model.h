@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -14,6 +15,9 @@ class CDataSourceItem;
 
 namespace hessiancln {
 class DataSourceBrowser;
+}
+namespace models {
+class CheckableNode;
 }
 
 /// Hears of changes in a tree of `CDataSourceItem`.
@@ -34,7 +38,6 @@ public:
     /// `computer` is UTF-8, a full source name.
     CDataSourceModel(std::string computer, boost::shared_ptr<hessiancln::DataSourceBrowser> browser,
                      QObject* parent = nullptr);
-    ~CDataSourceModel() override;
 
     /// The check state is that of `models::CheckState`. What stands below something excluded has
     /// none.
@@ -60,5 +63,7 @@ signals:
     void itemSelectionChanged();
 
 private:
+    /// The root for an invalid index.
     CDataSourceItem& itemAt(const QModelIndex& index) const;
+    std::function<void(models::CheckableNode&)> listener();
 };

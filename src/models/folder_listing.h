@@ -18,6 +18,9 @@ namespace models {
 
 class LazyNode;
 
+/// The kind of a root, which nobody sees.
+constexpr hessiancln::SelectableItemType rootType{14};
+
 /// A computer as a browser sees it; what all nodes of a tree share.
 struct BrowsedComputer {
     std::string name; ///< UTF-8

@@ -39,8 +39,6 @@ protected:
     /// have none once they are done with what they do.
     virtual void fetch(LazyNode& node) const;
 
-    void announceLook(const LazyNode& node) const;
-
 private:
     std::unique_ptr<LazyNode> root_;
 };

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "models/small_tree_view.h"
 
-CSmallTreeView::CSmallTreeView(QWidget* parent) : QTreeView(parent) {
+CSmallTreeView::CSmallTreeView(QWidget* parent)
+    : QTreeView(parent) {
     setUniformRowHeights(true);
 }
 

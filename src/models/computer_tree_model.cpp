@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "models/computer_tree_model.h"
+
+#include <memory>
+#include <utility>
+
+#include <QPixmap>
+
+#include "api/data_source_browser.h"
+#include "models/computer_tree_item.h"
+#include "models/item_pixmap.h"
+#include "session/text.h"
+
+CComputerTreeModel::CComputerTreeModel(boost::shared_ptr<hessiancln::DataSourceBrowser> browser,
+                                       QObject* parent)
+    : LazyTreeModel(std::make_unique<CComputerTreeItem>(std::move(browser)), parent) {}
+
+int CComputerTreeModel::rowCount(const QModelIndex& parent) const {
+    return static_cast<int>(nodeAt(parent).children().size());
+}
+
+QVariant CComputerTreeModel::data(const QModelIndex& index, int role) const {
+    if (!index.isValid())
+        return {};
+    if (role == Qt::DisplayRole)
+        return session::fromWire(nodeAt(index).name());
+    if (role == Qt::DecorationRole)
+        return models::resourcePixmap(isComputer(index)
+                                          ? QStringLiteral(":icons/browse_computer.png")
+                                          : QStringLiteral(":icons/browse_network.png"));
+    return {};
+}
+
+bool CComputerTreeModel::isComputer(const QModelIndex& index) const {
+    return nodeAt(index).isLeaf();
+}
+
+void CComputerTreeModel::fetch(models::LazyNode& node) const {
+    auto children = node.load();
+    if (children.empty())
+        return;
+    // Until now the folder had no rows, so views are told, whoever it was that looked.
+    auto& model = const_cast<CComputerTreeModel&>(*this);
+    model.beginInsertRows(indexOf(node), 0, static_cast<int>(children.size()) - 1);
+    node.adopt(std::move(children));
+    model.endInsertRows();
+}

@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "models/item_pixmap.h"
+
+#include <QIcon>
+#include <QImage>
+#include <QPainter>
+#include <QPixmapCache>
+
+#include "ui/shared_icon.h"
+
+namespace models {
+
+namespace {
+
+using hessiancln::SelectableItemType;
+
+QString resourceOf(SelectableItemType type) {
+    switch (type) {
+    case SelectableItemType::Drive:
+        return QStringLiteral(":/tree/hdd");
+    case SelectableItemType::Folder:
+    case SelectableItemType::OtherFolder:
+        return QStringLiteral(":/tree/folder");
+    case SelectableItemType::File:
+        return QStringLiteral(":/tree/file");
+    case SelectableItemType::Database:
+        return QStringLiteral(":/tree/db");
+    }
+    return QStringLiteral(":/tree/unknown");
+}
+
+QSizeF sizeOnScreen(const QPixmap& pixmap) {
+    return QSizeF(pixmap.size()) / pixmap.devicePixelRatio();
+}
+
+QPixmap compose(const QPixmap& base, const QPixmap& sign) {
+    QImage image(base.size(), QImage::Format_ARGB32);
+    image.setDevicePixelRatio(base.devicePixelRatio());
+    image.fill(Qt::transparent);
+    const QSizeF corner = sizeOnScreen(base) - sizeOnScreen(sign);
+    QPainter painter(&image);
+    painter.drawPixmap(0, 0, base);
+    painter.drawPixmap(QPointF(corner.width(), corner.height()), sign);
+    painter.end();
+    return QPixmap::fromImage(image);
+}
+
+} // namespace
+
+QPixmap resourcePixmap(const QString& resource) {
+    const QIcon icon = ui::sharedIcon(resource);
+    const auto sizes = icon.availableSizes();
+    return sizes.isEmpty() ? QPixmap() : icon.pixmap(sizes.front());
+}
+
+QPixmap itemPixmap(SelectableItemType type, bool noAccess) {
+    const QString resource = resourceOf(type);
+    const QPixmap base = resourcePixmap(resource);
+    if (!noAccess || base.isNull())
+        return base;
+    const QString key = QStringLiteral("NO_ACCESS") + resource;
+    QPixmap composed;
+    if (!QPixmapCache::find(key, &composed)) {
+        composed = compose(base, resourcePixmap(QStringLiteral(":/tree/no_access")));
+        QPixmapCache::insert(key, composed);
+    }
+    return composed;
+}
+
+} // namespace models

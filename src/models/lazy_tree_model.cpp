@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "models/lazy_tree_model.h"
+
+#include <utility>
+
+namespace models {
+
+LazyTreeModel::LazyTreeModel(std::unique_ptr<LazyNode> root, QObject* parent)
+    : QAbstractItemModel(parent)
+    , root_(std::move(root)) {}
+
+QModelIndex LazyTreeModel::index(int row, int column, const QModelIndex& parent) const {
+    LazyNode& node = nodeAt(parent);
+    fetch(node);
+    const auto place = static_cast<std::size_t>(row);
+    if (column != 0 || row < 0 || place >= node.children().size())
+        return {};
+    return createIndex(row, column, node.children()[place].get());
+}
+
+QModelIndex LazyTreeModel::parent(const QModelIndex& index) const {
+    const LazyNode* above = nodeAt(index).parent();
+    return above ? indexOf(*above) : QModelIndex();
+}
+
+int LazyTreeModel::rowCount(const QModelIndex& parent) const {
+    LazyNode& node = nodeAt(parent);
+    fetch(node);
+    return static_cast<int>(node.children().size());
+}
+
+int LazyTreeModel::columnCount(const QModelIndex&) const {
+    return 1;
+}
+
+bool LazyTreeModel::hasChildren(const QModelIndex& parent) const {
+    return nodeAt(parent).mayHaveChildren();
+}
+
+void LazyTreeModel::fetchMore(const QModelIndex& parent) {
+    fetch(nodeAt(parent));
+}
+
+bool LazyTreeModel::canFetchMore(const QModelIndex& parent) const {
+    const LazyNode& node = nodeAt(parent);
+    return !node.isLeaf() && !node.isFetched();
+}
+
+std::string LazyTreeModel::fullPath(const QModelIndex& index) const {
+    return models::fullPath(nodeAt(index));
+}
+
+LazyNode& LazyTreeModel::nodeAt(const QModelIndex& index) const {
+    return index.isValid() ? *static_cast<LazyNode*>(index.internalPointer()) : *root_;
+}
+
+QModelIndex LazyTreeModel::indexOf(const LazyNode& node) const {
+    return node.parent() ? createIndex(node.row(), 0, const_cast<LazyNode*>(&node)) : QModelIndex();
+}
+
+void LazyTreeModel::fetch(LazyNode& node) const {
+    node.fetch();
+}
+
+} // namespace models

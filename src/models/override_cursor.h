@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QGuiApplication>
+
+namespace models {
+
+/// The wait cursor over the whole program for as long as this object lives. Such objects may nest.
+class OverrideCursor {
+public:
+    OverrideCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~OverrideCursor() { QGuiApplication::restoreOverrideCursor(); }
+    OverrideCursor(const OverrideCursor&) = delete;
+    OverrideCursor& operator=(const OverrideCursor&) = delete;
+};
+
+} // namespace models
