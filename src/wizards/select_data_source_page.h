@@ -11,9 +11,9 @@
 #include <boost/shared_ptr.hpp>
 
 #include "wizards/cached_credentials.h"
+#include "wizards/credentials_kind.h"
 
 class CComputerTreeModel;
-class QItemSelection;
 
 namespace hessiancln {
 class BackupSet;
@@ -61,7 +61,7 @@ public:
 
 public slots:
     void OnShowNetDiscoveryTree();
-    void treeSelectionChanged(const QItemSelection& selected, const QItemSelection& deselected);
+    void treeSelectionChanged();
     void computerNameEdited();
     void computerNameChanged();
     void OnSelectConnectAs();
@@ -77,19 +77,18 @@ private:
     using Credentials = boost::shared_ptr<hessiancln::BackupSetCredentials>;
 
     void connectWidgets();
-    void showTree();
     void takeNeededCredentials();
     bool showComputerOfFileSet(hessiancln::BackupSet& set);
     void setComplete(bool complete);
+
+    /// Shows what the present credentials say. To be called whenever the source may be another.
+    void refresh();
+    void showRows(wizards::CredentialsKind kind);
+    void showLogin(const Credentials& credentials, wizards::CredentialsKind kind);
+    void showSSHLogin(hessiancln::UnixFS_SSH_BackupSetCredentials& credentials);
     void enableConnectAs();
 
-    void refresh();
-    void showRows(bool connectAs, bool ssh);
-    void showUserOf(const Credentials& credentials, const std::vector<std::string>& types);
-    void showSSH(hessiancln::UnixFS_SSH_BackupSetCredentials& credentials);
-
     Credentials currentCredentials();
-    boost::shared_ptr<hessiancln::UnixFS_SSH_BackupSetCredentials> currentSSHCredentials();
     template <class Class>
     void askForPassword(const Credentials& credentials);
     void askForSSHLogin(const Credentials& credentials);

@@ -56,7 +56,10 @@ protected:
 
 private:
     void buildModels(const boost::shared_ptr<hessiancln::DataSourceBrowser>& browser);
-    void showFolder(bool wanted);
+    bool isFolderWanted() const;
+    void showFolderIfWanted();
+    void showFolder(bool shown);
+    /// Selects the folder, or the deepest one on the way there that exists. False if there is none.
     bool moveTreeToPath();
 
     std::unique_ptr<Ui::SetOptionsPage> ui_;

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "wizards/enter_simple_user_psw.h"
+
+#include "ui_enter_simple_user_psw.h"
+#include "wizards/user_name_validator.h"
+
+CEnterSimpleUserPsw::CEnterSimpleUserPsw(const QString& user, QWidget* parent)
+    : QDialog(parent)
+    , ui_(std::make_unique<Ui::CEnterSimpleUserPsw>()) {
+    ui_->setupUi(this);
+    ui_->editUserName->setText(user);
+    ui_->editUserName->setValidator(new CUserNameValidator(ui_->editUserName));
+    ui_->editPassword->setText(QStringLiteral("**********"));
+    ui_->editUserName->selectAll();
+    ui_->editPassword->selectAll();
+
+    connect(ui_->editPassword, &QLineEdit::textEdited, this, &CEnterSimpleUserPsw::PasswordChanged);
+    connect(ui_->btnOK, &QPushButton::clicked, this, &CEnterSimpleUserPsw::accept);
+    connect(ui_->btnCancel, &QPushButton::clicked, this, &CEnterSimpleUserPsw::reject);
+}
+
+CEnterSimpleUserPsw::~CEnterSimpleUserPsw() = default;
+
+QString CEnterSimpleUserPsw::user() const {
+    return ui_->editUserName->text();
+}
+
+QString CEnterSimpleUserPsw::password() const {
+    return ui_->editPassword->text();
+}
+
+void CEnterSimpleUserPsw::PasswordChanged() {
+    ui_->btnOK->setEnabled(true);
+}

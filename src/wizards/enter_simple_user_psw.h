@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <memory>
+
+#include <QDialog>
+
+namespace Ui {
+class CEnterSimpleUserPsw;
+}
+
+/// Asks for a user and a password. It starts with a mask where the password is, and can't be
+/// confirmed before a password was typed.
+class CEnterSimpleUserPsw : public QDialog {
+    Q_OBJECT
+public:
+    explicit CEnterSimpleUserPsw(const QString& user, QWidget* parent = nullptr);
+    ~CEnterSimpleUserPsw() override;
+
+    QString user() const;
+    QString password() const;
+
+public slots:
+    void PasswordChanged();
+
+private:
+    std::unique_ptr<Ui::CEnterSimpleUserPsw> ui_;
+};

@@ -1,0 +1,325 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "wizards/select_data_source_page.h"
+
+#include <QScopedValueRollback>
+
+#include "api/checked_cast.h"
+#include "api/client_connection.h"
+#include "models/computer_tree_model.h"
+#include "platform/administrators.h"
+#include "session/agent_kind.h"
+#include "session/connection.h"
+#include "session/required.h"
+#include "session/text.h"
+#include "ui/remote_action.h"
+#include "ui_select_data_source_page.h"
+#include "wizards/computer_name.h"
+#include "wizards/enter_simple_user_psw.h"
+#include "wizards/ssh_access_text.h"
+#include "wizards/ssh_access_type.h"
+#include "wizards/ssh_connect_as_dlg.h"
+#include "wizards/ssh_sudo_credentials.h"
+
+using hessiancln::checkedCast;
+using session::fromWire;
+using session::toWire;
+using wizards::CredentialsKind;
+
+using Windows = hessiancln::Win32FS_Generic_BackupSetCredentials;
+using Unix = hessiancln::UnixFS_Generic_BackupSetCredentials;
+using SSH = hessiancln::UnixFS_SSH_BackupSetCredentials;
+
+namespace {
+
+constexpr std::int32_t kBrowserForNewSet = 0;
+
+} // namespace
+
+SelectDataSourcePage::SelectDataSourcePage(QWidget* parent)
+    : SelectDataSourcePage(platform::isAdministrator, parent) {}
+
+SelectDataSourcePage::SelectDataSourcePage(const AdministratorTest& isAdministrator,
+                                           QWidget* parent)
+    : QWizardPage(parent)
+    , ui_(std::make_unique<Ui::SelectDataSourcePage>())
+    , browser_(session::required(session::getConnection()->createBrowser(kBrowserForNewSet)))
+    , model_(std::make_unique<CComputerTreeModel>(browser_)) {
+    ui_->setupUi(this);
+    ui_->chkUseTarnClientAccount->setVisible(!session::isNotebookAgent(session::clientType()) &&
+                                             isAdministrator(session::currentUser()));
+    OnShowNetDiscoveryTree();
+    ui_->editComputerName->setText(fromWire(browser_->expandToFullPath("My Computer")));
+    ui_->treeNetworkDiscovery->setModel(model_.get());
+    connectWidgets();
+    takeNeededCredentials();
+    refresh();
+}
+
+SelectDataSourcePage::~SelectDataSourcePage() = default;
+
+void SelectDataSourcePage::connectWidgets() {
+    using Page = SelectDataSourcePage;
+    connect(ui_->btnShowNetDiscovery, &QPushButton::toggled, this, &Page::OnShowNetDiscoveryTree);
+    connect(ui_->treeNetworkDiscovery, &QTreeView::expanded, this, &Page::treeExpanded);
+    connect(ui_->treeNetworkDiscovery->selectionModel(), &QItemSelectionModel::selectionChanged,
+            this, &Page::treeSelectionChanged);
+    connect(ui_->editComputerName, &QLineEdit::textChanged, this, &Page::computerNameChanged);
+    connect(ui_->editComputerName, &QLineEdit::editingFinished, this, &Page::computerNameEdited);
+    connect(ui_->btnConnectAs, &QPushButton::clicked, this, &Page::OnSelectConnectAs);
+    connect(ui_->btnSudo, &QPushButton::clicked, this, &Page::OnSelectSudo);
+    connect(ui_->btnSSHAccess, &QPushButton::clicked, this, &Page::OnSelectSSHAccess);
+}
+
+void SelectDataSourcePage::takeNeededCredentials() {
+    ui::remoteAction(*window(), tr("Error R1"), ui::Cursor::arrow, [this] {
+        const Credentials credentials =
+            session::required(browser_->neededCredentials(toWire(computerName())));
+        cache_.applyTo(credentials);
+        browser_->setCurrentCredentials(credentials);
+    });
+}
+
+QString SelectDataSourcePage::computerName() const {
+    return ui_->editComputerName->text().trimmed();
+}
+
+QString SelectDataSourcePage::connectUser() const {
+    return ui_->editConnectAs->text();
+}
+
+bool SelectDataSourcePage::initFromSet(const boost::shared_ptr<hessiancln::BackupSet>& set) {
+    if (!showComputerOfFileSet(*set))
+        return false;
+    ui::remoteAction(*window(), tr("Init Error"), ui::Cursor::arrow, [&] {
+        const Credentials credentials = session::required(set->getCredentials());
+        useClientAccount_ = credentials->isUsingClientCredentials();
+        browser_->setCurrentCredentials(credentials);
+    });
+    refresh();
+    return true;
+}
+
+bool SelectDataSourcePage::initFromEmptySet(const boost::shared_ptr<hessiancln::BackupSet>& set) {
+    return showComputerOfFileSet(*set);
+}
+
+bool SelectDataSourcePage::initForRestore(const boost::shared_ptr<hessiancln::BackupSet>& set) {
+    ui::remoteAction(*window(), tr("Init Error"), ui::Cursor::arrow,
+                     [&] { ui_->editComputerName->setText(fromWire(set->getComputerName())); });
+    return true;
+}
+
+bool SelectDataSourcePage::showComputerOfFileSet(hessiancln::BackupSet& set) {
+    if (set.getDataType() != hessiancln::BackupDataType::FileSystem)
+        return false;
+    ui_->editComputerName->setText(fromWire(set.getComputerName()));
+    ui_->editComputerName->setEnabled(false);
+    ui_->btnShowNetDiscovery->setEnabled(false);
+    return true;
+}
+
+void SelectDataSourcePage::applyCredentials(const boost::shared_ptr<hessiancln::BackupSet>& set) {
+    set->setCredentials(browser_->getCurrentCredentials());
+}
+
+bool SelectDataSourcePage::validatePage() {
+    return ui::remoteAction(*window(), tr("Credential check failed"), ui::Cursor::wait,
+                            [this] { currentCredentials()->check(toWire(computerName())); });
+}
+
+void SelectDataSourcePage::setComplete(bool complete) {
+    complete_ = complete;
+    emit completeChanged();
+}
+
+SelectDataSourcePage::Credentials SelectDataSourcePage::currentCredentials() {
+    return session::required(browser_->getCurrentCredentials());
+}
+
+void SelectDataSourcePage::refresh() {
+    ui::remoteAction(*window(), tr("Error R2"), ui::Cursor::arrow, [this] {
+        const Credentials credentials = currentCredentials();
+        const CredentialsKind kind = wizards::credentialsKind(credentials->types());
+        showRows(kind);
+        computerNameChanged();
+        showLogin(credentials, kind);
+        browser_->setCurrentCredentials(credentials);
+    });
+}
+
+void SelectDataSourcePage::showRows(CredentialsKind kind) {
+    const bool wantsUser = kind != CredentialsKind::Other;
+    const bool overSSH = kind == CredentialsKind::SSH;
+    for (QWidget* widget :
+         {static_cast<QWidget*>(ui_->labelConnectAs), static_cast<QWidget*>(ui_->editConnectAs),
+          static_cast<QWidget*>(ui_->btnConnectAs)})
+        widget->setVisible(wantsUser);
+    for (QWidget* widget :
+         {static_cast<QWidget*>(ui_->labelSudo), static_cast<QWidget*>(ui_->editSudo),
+          static_cast<QWidget*>(ui_->btnSudo), static_cast<QWidget*>(ui_->labelSSHAccess),
+          static_cast<QWidget*>(ui_->editSSHAccess), static_cast<QWidget*>(ui_->btnSSHAccess)})
+        widget->setVisible(overSSH);
+}
+
+void SelectDataSourcePage::showLogin(const Credentials& credentials, CredentialsKind kind) {
+    switch (kind) {
+    case CredentialsKind::Windows:
+        ui_->editConnectAs->setText(fromWire(checkedCast<Windows>(credentials)->getUserName()));
+        break;
+    case CredentialsKind::SSH:
+        showSSHLogin(*checkedCast<SSH>(credentials));
+        break;
+    case CredentialsKind::Unix:
+        ui_->editConnectAs->setText(fromWire(checkedCast<Unix>(credentials)->getUserName()));
+        break;
+    case CredentialsKind::Other:
+        break;
+    }
+}
+
+void SelectDataSourcePage::showSSHLogin(SSH& credentials) {
+    ui_->editConnectAs->setText(fromWire(credentials.getUserName()));
+    ui_->editSudo->setText(fromWire(credentials.getSudoUser()));
+    const auto access = credentials.getSSHAccessType();
+    ui_->editSSHAccess->setText(
+        wizards::sshAccessText(access, fromWire(credentials.getSSHInterpreterPath())));
+}
+
+void SelectDataSourcePage::computerNameChanged() {
+    const bool local = wizards::isLocalComputer(computerName());
+    ui_->chkUseTarnClientAccount->setEnabled(local);
+    ui_->chkUseTarnClientAccount->setChecked(local && useClientAccount_);
+    enableConnectAs();
+}
+
+void SelectDataSourcePage::enableConnectAs() {
+    const bool own = !ui_->chkUseTarnClientAccount->isChecked();
+    ui_->btnConnectAs->setEnabled(own);
+    ui_->editConnectAs->setEnabled(own);
+}
+
+void SelectDataSourcePage::computerNameEdited() {
+    // A field loses the focus to the very box that tells of its failure, and one that only shows
+    // the tree's choice when the user passes through it: nothing was typed then.
+    if (editing_ || ui_->editComputerName->isReadOnly())
+        return;
+    const QScopedValueRollback editing(editing_, true);
+    const bool expanded = ui::remoteAction(*window(), tr("Error"), ui::Cursor::arrow, [this] {
+        const std::string name = browser_->expandToFullPath(toWire(computerName()));
+        ui_->editComputerName->setText(fromWire(name));
+    });
+    if (!expanded)
+        return;
+    ui_->treeNetworkDiscovery->selectionModel()->clearSelection();
+    refresh();
+    setComplete(true);
+}
+
+void SelectDataSourcePage::treeSelectionChanged() {
+    const QItemSelection selection = ui_->treeNetworkDiscovery->selectionModel()->selection();
+    if (selection.size() != 1)
+        return;
+    const QModelIndex index = selection.indexes().value(0);
+    ui_->editComputerName->setText(fromWire(model_->fullPath(index)));
+    refresh();
+    setComplete(model_->isComputer(index));
+}
+
+void SelectDataSourcePage::treeExpanded(const QModelIndex& index) {
+    ui_->treeNetworkDiscovery->scrollTo(index, QAbstractItemView::PositionAtTop);
+}
+
+void SelectDataSourcePage::OnShowNetDiscoveryTree() {
+    const bool shown = ui_->btnShowNetDiscovery->isChecked();
+    ui_->treeNetworkDiscovery->setVisible(shown);
+    ui_->editComputerName->setReadOnly(shown);
+    QSizePolicy policy = ui_->groupDataSource->sizePolicy();
+    policy.setVerticalStretch(shown ? 1 : 0);
+    ui_->groupDataSource->setSizePolicy(policy);
+}
+
+void SelectDataSourcePage::on_chkUseTarnClientAccount_clicked(bool checked) {
+    const bool done = ui::remoteAction(*window(), tr("Error"), ui::Cursor::arrow, [&] {
+        currentCredentials()->setUsingClientCredentials(checked);
+        useClientAccount_ = checked;
+        enableConnectAs();
+    });
+    if (!done)
+        computerNameChanged();
+}
+
+void SelectDataSourcePage::OnSelectConnectAs() {
+    ui::remoteAction(*window(), tr("Error"), ui::Cursor::arrow, [this] {
+        const Credentials credentials = currentCredentials();
+        switch (wizards::credentialsKind(credentials->types())) {
+        case CredentialsKind::Windows:
+            askForPassword<Windows>(credentials);
+            break;
+        case CredentialsKind::Unix:
+            askForPassword<Unix>(credentials);
+            break;
+        case CredentialsKind::SSH:
+            askForSSHLogin(credentials);
+            break;
+        case CredentialsKind::Other:
+            break;
+        }
+    });
+}
+
+template <class Class>
+void SelectDataSourcePage::askForPassword(const Credentials& credentials) {
+    const auto login = checkedCast<Class>(credentials);
+    CEnterSimpleUserPsw dialog(fromWire(login->getUserName()), window());
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    cache_.setPassword(toWire(dialog.user()), toWire(dialog.password()), *login);
+    browser_->setCurrentCredentials(credentials);
+    ui_->editConnectAs->setText(dialog.user());
+}
+
+void SelectDataSourcePage::askForSSHLogin(const Credentials& credentials) {
+    const auto login = checkedCast<SSH>(credentials);
+    CSSHConnectAsDlg dialog(fromWire(login->getUserName()), window());
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    if (dialog.usesPassword())
+        cache_.setPassword(toWire(dialog.user()), toWire(dialog.password()), *login);
+    else
+        cache_.setKeyFile(toWire(dialog.identityUser()), toWire(dialog.identityFile()),
+                          toWire(dialog.passphrase()), *login);
+    browser_->setCurrentCredentials(credentials);
+    showSSHLogin(*login);
+}
+
+void SelectDataSourcePage::OnSelectSudo() {
+    ui::remoteAction(*window(), tr("Error"), ui::Cursor::arrow, [this] {
+        const auto login = checkedCast<SSH>(currentCredentials());
+        CSSHSudoCredentials dialog(fromWire(login->getSudoUser()), window());
+        if (dialog.exec() != QDialog::Accepted)
+            return;
+        if (dialog.noSudo())
+            cache_.setSudo({}, {}, *login);
+        else
+            cache_.setSudo(toWire(dialog.user()), toWire(dialog.password()), *login);
+        refresh();
+    });
+}
+
+void SelectDataSourcePage::OnSelectSSHAccess() {
+    ui::remoteAction(*window(), tr("Error"), ui::Cursor::arrow, [this] {
+        const auto login = checkedCast<SSH>(currentCredentials());
+        CSSHAccessType dialog(*login, window());
+        if (dialog.exec() != QDialog::Accepted)
+            return;
+        cache_.setSSHAccess(dialog.type(), toWire(dialog.path()), *login);
+        showSSHLogin(*login);
+    });
+}
+
+void SelectDataSourcePage::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange)
+        ui_->retranslateUi(this);
+    QWizardPage::changeEvent(event);
+}

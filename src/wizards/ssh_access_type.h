@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <memory>
+
+#include <QDialog>
+
+#include "api/backup_set_credentials.h"
+
+namespace Ui {
+class CSSHAccessType;
+}
+
+/// Asks what runs on a computer that the agent reaches by SSH.
+class CSSHAccessType : public QDialog {
+    Q_OBJECT
+public:
+    /// Starts with what the credentials say. Raises what their calls raise.
+    explicit CSSHAccessType(hessiancln::UnixFS_SSH_BackupSetCredentials& credentials,
+                            QWidget* parent = nullptr);
+    ~CSSHAccessType() override;
+
+    hessiancln::SSHAccessType type() const;
+    /// Of the interpreter or of the script; may be empty but for a script.
+    QString path() const;
+
+public slots:
+    void OkPressed();
+
+private:
+    std::unique_ptr<Ui::CSSHAccessType> ui_;
+};
