@@ -3,6 +3,10 @@
 #pragma once
 
 #include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
 
 #include <QString>
 #include <QWizardPage>
@@ -13,7 +17,6 @@ class CDataSourceDirOnlyModel;
 class CDataSourceModel;
 class CFileExtensionValidator;
 class CSelectDisplayDelegate;
-class QItemSelection;
 class QModelIndex;
 
 namespace Ui {
@@ -23,7 +26,17 @@ class ItemsSelectPage;
 namespace hessiancln {
 class BackupSet;
 class DataSourceBrowser;
+struct PreDefinedBrowseItem;
 } // namespace hessiancln
+
+namespace models {
+struct PathItem;
+}
+
+namespace wizards {
+struct FileTypes;
+struct StoredItems;
+} // namespace wizards
 
 /// What a backup set holds: which kinds of file, and from where. The agent stores no kinds of file,
 /// only paths and filters; file_type_expressions.h tells how the one becomes the other.
@@ -57,13 +70,8 @@ protected:
 
 private slots:
     void on_checkEverything_stateChanged(int state);
-    void on_checkDocuments_clicked();
-    void on_checkVideo_clicked();
-    void on_checkPictures_clicked();
-    void on_checkMusic_clicked();
-    void on_checkEmail_clicked();
-    void on_checkCustomInc_clicked();
-    void on_checkCustomExc_clicked();
+    void on_checkCustomInc_clicked(bool checked);
+    void on_checkCustomExc_clicked(bool checked);
     void on_editCustomInc_textChanged();
     void on_radioSpecificLocation_clicked();
     void on_radioCustom_clicked();
@@ -74,15 +82,36 @@ private slots:
 private:
     using Browser = boost::shared_ptr<hessiancln::DataSourceBrowser>;
 
+    /// Where the items come from.
+    struct Source {
+        Browser browser;
+        QString computer;
+        QString connectUser; ///< empty without a data source page
+    };
+    struct Contents;
+
+    void showPatterns();
+    std::optional<Source> changedSource() const;
+    Contents fetch(const Source& source) const;
+    void showContents(Contents contents);
+    void showPresets(const std::vector<hessiancln::PreDefinedBrowseItem>& presets);
+    void showTree(std::unique_ptr<CDataSourceModel> model);
+    void showFileTypes(const wizards::StoredItems& stored);
+    void showLocation(const std::set<std::string>& inclusions);
+    void chooseSpecificLocation();
+    void chooseCustomLocation();
+    void showTreeOrNot(bool shown);
+    bool anyKind() const;
+    wizards::FileTypes fileTypes() const;
+    std::vector<models::PathItem> paths() const;
+
     std::unique_ptr<Ui::ItemsSelectPage> ui_;
     CFileExtensionValidator* validator_;         ///< owned by the page, shared by both fields
-    CSelectDisplayDelegate* delegate_ = nullptr; ///< owned by the page; null before the first load
-    CDataSourceModel* model_ = nullptr;          ///< likewise
-    CDataSourceDirOnlyModel* folders_ = nullptr; ///< likewise
-    Browser browser_;
-    Set set_; ///< null for a new set
+    CSelectDisplayDelegate* delegate_ = nullptr; ///< owned by the page; null until it is needed
+    std::unique_ptr<CDataSourceModel> model_;    ///< null until the page has been entered
+    std::unique_ptr<CDataSourceDirOnlyModel> folders_; ///< likewise
+    bool hadSelection_ = false;                        ///< what was last said of the model
+    Set set_;                                          ///< null for a new set
+    Source source_;                                    ///< what the models were made for
     int dataSourcePageId_ = -1;
-    QString computer_;
-    QString connectUser_;
-    bool hadSelection_ = false;
 };

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <array>
+#include <cstdint>
 #include <memory>
 
 #include <QWizardPage>
@@ -16,6 +18,7 @@ namespace hessiancln {
 class BackupSet;
 class RetentionRule;
 class RetentionRuleManager;
+enum class RetentionTimeUnit : std::int32_t;
 } // namespace hessiancln
 
 /// How long what a backup set has backed up is kept. Each set gets a rule of its own, so that no
@@ -43,11 +46,14 @@ private slots:
     void on_checkLocalKeepAllGens_clicked(bool checked);
 
 private:
+    struct Interval;
+
+    std::array<Interval, 3> intervals() const;
+    void checkInterval(hessiancln::RetentionTimeUnit validFor);
     void loadCleanup(hessiancln::RetentionRule& rule);
     void loadLocalStorage(hessiancln::BackupSet& set, hessiancln::RetentionRule& rule);
-    void write(hessiancln::RetentionRuleManager& manager, hessiancln::RetentionRule& rule);
-    void writeIntervals(hessiancln::RetentionRuleManager& manager, hessiancln::RetentionRule& rule);
-    void writeCleanup(hessiancln::RetentionRule& rule);
+    void write(hessiancln::RetentionRuleManager& manager, hessiancln::RetentionRule& rule) const;
+    void writeCleanup(hessiancln::RetentionRule& rule) const;
 
     std::unique_ptr<Ui::RetentionSelectPage> ui_;
 };

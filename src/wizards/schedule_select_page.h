@@ -23,6 +23,10 @@ class ScheduleDetail;
 class ScheduleManager;
 } // namespace hessiancln
 
+namespace wizards {
+struct StopTime;
+}
+
 /// When a backup set is backed up: not at all, on days of the week or on a day of the month. Each
 /// set gets a schedule of its own, so that no other set is touched. One value here is the agent's
 /// and not the set's: how late a missed schedule may still run.
@@ -53,6 +57,8 @@ private slots:
     void on_checkStop_clicked(bool checked);
     void on_checkOccurEvery_clicked(bool checked);
     void on_comboStopInDays_currentIndexChanged(int index);
+    void on_timeStart_timeChanged();
+    void on_timeStop_timeChanged();
 
 private:
     using SchedulePointer = boost::shared_ptr<hessiancln::Schedule>;
@@ -63,11 +69,14 @@ private:
     void loadTimes(hessiancln::ScheduleDetail& detail);
     void applySchedule(hessiancln::BackupSet& set);
     void write(hessiancln::ScheduleManager& manager, hessiancln::Schedule& schedule);
-    DetailPointer createDetail(hessiancln::ScheduleManager& manager);
-    void showTimes(bool shown);
+    DetailPointer createDetail(hessiancln::ScheduleManager& manager) const;
+    void writeTimes(hessiancln::ScheduleDetail& detail) const;
+    void showTimes(QWidget& days);
     void switchOccurEveryOff();
     std::array<QCheckBox*, 7> dayBoxes() const;
     std::int32_t days() const;
+    void setDays(std::int32_t mask);
+    wizards::StopTime stopTime() const;
 
     std::unique_ptr<Ui::ScheduleSelectPage> ui_;
 };
