@@ -6,9 +6,15 @@
 
 #include "app/about_dlg.h"
 #include "app/backup_set_view_item.h"
+#include "app/open_backup_set.h"
 #include "app/simple_gui_main_window.h"
+#include "config/tfa_users_viewer.h"
 #include "ui/branding_resources.h"
 #include "ui/remote_action.h"
+#include "wizards/items_flow.h"
+#include "wizards/new_set_flow.h"
+#include "wizards/retention_flow.h"
+#include "wizards/schedule_flow.h"
 
 void SimpleGUIMainWindow::on_actionLogo_triggered() {
     QDesktopServices::openUrl(QUrl::fromUserInput(ui::g_branding.homePageUrl()));
@@ -37,20 +43,50 @@ void SimpleGUIMainWindow::on_actionLDAP_Account_triggered() {}
 
 void SimpleGUIMainWindow::on_actionAdmin_triggered() {}
 
-void SimpleGUIMainWindow::on_actionTFASettings_triggered() {}
+void SimpleGUIMainWindow::on_actionTFASettings_triggered() {
+    ui::remoteAction(*this, tr("2FA Settings Error"), ui::Cursor::arrow, [this] {
+        TFAUsersViewer dialog(this);
+        dialog.exec();
+    });
+}
 
-void SimpleGUIMainWindow::OnNewBackupSet() {}
+void SimpleGUIMainWindow::OnNewBackupSet() {
+    ui::remoteAction(*this, tr("New Backup Set Error"), ui::Cursor::arrow, [this] {
+        if (const auto id = wizards::createBackupSet(*this))
+            selectSetOnceListed(*id);
+    });
+}
 
 void SimpleGUIMainWindow::on_btnItems_clicked() {
-    requireSetItem();
+    const BackupSetViewItem* card = requireSetItem();
+    if (!card)
+        return;
+    // A copy: the card may go while the wizard is open.
+    const hessiancln::backup_set_info info = card->record();
+    ui::remoteAction(*this, tr("Editing Backup Set Items Error"), ui::Cursor::arrow, [this, &info] {
+        const wizards::SetFeatures features = wizards::readSetFeatures();
+        wizards::editItems(*this, features, app::openBackupSet(info.id), info.has_items);
+    });
 }
 
 void SimpleGUIMainWindow::on_btnRetention_clicked() {
-    requireSetItem();
+    editSelectedSet(wizards::editRetention);
 }
 
 void SimpleGUIMainWindow::on_btnSchedule_clicked() {
-    requireSetItem();
+    editSelectedSet(wizards::editSchedule);
+}
+
+void SimpleGUIMainWindow::editSelectedSet(
+    bool (*edit)(QWidget& parent, const boost::shared_ptr<hessiancln::BackupSet>& set)) {
+    const BackupSetViewItem* card = requireSetItem();
+    if (!card)
+        return;
+    const std::int32_t id = card->record().id;
+    ui::remoteAction(*this, tr("Error"), ui::Cursor::arrow, [this, edit, id] {
+        if (edit(*this, app::openBackupSet(id)))
+            showSetDetails();
+    });
 }
 
 void SimpleGUIMainWindow::OnRestore() {

@@ -26,6 +26,10 @@ namespace app {
 struct SetDetails;
 }
 
+namespace hessiancln {
+class BackupSet;
+}
+
 /// The program's one top-level window: the backup sets of the agent that the session is with, its
 /// activities, and the commands on them. It stores no state of the connection; each look at it
 /// asks the session.
@@ -141,6 +145,8 @@ private:
     void selectCard(int row);
     void abandonEditing();
     void showSetDetails();
+    void editSelectedSet(bool (*edit)(QWidget& parent,
+                                      const boost::shared_ptr<hessiancln::BackupSet>& set));
     void fillDetails(const app::SetDetails& details);
 
     std::unique_ptr<Ui::SimpleGUIMainWindow> ui_;

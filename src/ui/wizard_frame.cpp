@@ -9,11 +9,14 @@
 
 #include "ui/branding_resources.h"
 
+Q_DECLARE_METATYPE(std::exception_ptr)
+
 namespace ui {
 
 namespace {
 
 constexpr int largest = 65536;
+constexpr char failureProperty[] = "failure";
 
 struct WizardButtonText {
     Q_DECLARE_TR_FUNCTIONS(WizardButtonText)
@@ -44,6 +47,21 @@ void frameWizard(QWizard& wizard, const QString& title, const QString& watermark
 
 void allowAnySize(QWizard& wizard) {
     wizard.setMaximumSize(largest, largest);
+}
+
+bool runWizard(QWizard& wizard) {
+    const bool finished = wizard.exec() == QDialog::Accepted;
+    const auto failure = wizard.property(failureProperty).value<std::exception_ptr>();
+    if (failure)
+        std::rethrow_exception(failure);
+    return finished;
+}
+
+void failWizard(QWizard* wizard, const std::exception_ptr& failure) {
+    if (!wizard)
+        std::rethrow_exception(failure);
+    wizard->setProperty(failureProperty, QVariant::fromValue(failure));
+    wizard->reject();
 }
 
 } // namespace ui

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <exception>
+
 #include <QString>
 
 class QWizard;
@@ -14,5 +16,13 @@ void frameWizard(QWizard& wizard, const QString& title, const QString& watermark
 
 /// Lets the user make a wizard as large as the screen allows, whatever its pages want.
 void allowAnySize(QWizard& wizard);
+
+/// Runs a wizard until it is closed. Whether it was finished. Raises what a page handed to
+/// `failWizard`.
+bool runWizard(QWizard& wizard);
+
+/// For a page whose handler met an exception that is for the one who runs the wizard: it can't
+/// leave through the event loop. Ends the wizard. Without one it is raised at once.
+void failWizard(QWizard* wizard, const std::exception_ptr& failure);
 
 } // namespace ui
