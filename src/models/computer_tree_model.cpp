@@ -37,10 +37,14 @@ bool CComputerTreeModel::isComputer(const QModelIndex& index) const {
 }
 
 void CComputerTreeModel::fetch(models::LazyNode& node) const {
-    auto children = node.load();
-    if (children.empty())
+    if (node.isFetched())
         return;
-    // Until now the folder had no rows, so views are told, whoever it was that looked.
+    auto children = node.load();
+    if (children.empty()) {
+        announceEmpty(node);
+        return;
+    }
+    // Until now the container had no rows, so views are told, whoever it was that looked.
     auto& model = const_cast<CComputerTreeModel&>(*this);
     model.beginInsertRows(indexOf(node), 0, static_cast<int>(children.size()) - 1);
     node.adopt(std::move(children));

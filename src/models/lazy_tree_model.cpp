@@ -60,7 +60,22 @@ QModelIndex LazyTreeModel::indexOf(const LazyNode& node) const {
 }
 
 void LazyTreeModel::fetch(LazyNode& node) const {
+    if (node.isFetched())
+        return;
     node.fetch();
+    if (node.children().empty())
+        announceEmpty(node);
+}
+
+void LazyTreeModel::announceEmpty(LazyNode& node) const {
+    if (node.isLeaf() || !node.parent())
+        return;
+    auto* model = const_cast<LazyTreeModel*>(this);
+    const auto announce = [model, &node] {
+        const QModelIndex index = model->indexOf(node);
+        emit model->dataChanged(index, index);
+    };
+    QMetaObject::invokeMethod(model, announce, Qt::QueuedConnection);
 }
 
 } // namespace models

@@ -35,9 +35,12 @@ protected:
     /// Invalid for the root.
     QModelIndex indexOf(const LazyNode& node) const;
 
-    /// Has the node fetch its children, if it hasn't yet. Views hear of a node that turned out to
-    /// have none once they are done with what they do.
+    /// Has the node fetch its children, if it hasn't yet.
     virtual void fetch(LazyNode& node) const;
+
+    /// Tells views that a node turned out to have no children, which changes its look; not at once,
+    /// since it is views at work that have nodes fetched.
+    void announceEmpty(LazyNode& node) const;
 
 private:
     std::unique_ptr<LazyNode> root_;

@@ -7,8 +7,54 @@
 #include "models/checkable_node.h"
 #include "models/item_pixmap.h"
 
+namespace {
+
+QSize sizeOnScreen(const QPixmap& pixmap) {
+    return (QSizeF(pixmap.size()) / pixmap.devicePixelRatio()).toSize();
+}
+
+} // namespace
+
+/// Where the parts of an item stand.
+struct CSelectDisplayDelegate::Parts {
+    QRect box;
+    QRect picture;
+    QRect text;
+};
+
 CSelectDisplayDelegate::CSelectDisplayDelegate(QObject* parent)
     : QItemDelegate(parent) {}
+
+void CSelectDisplayDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                                   const QModelIndex& index) const {
+    const QStyleOptionViewItem look = setOptions(index, option);
+    const Parts parts = partsOf(look, index, false);
+    painter->save();
+    painter->setClipRect(look.rect);
+    drawBackground(painter, look, index);
+    if (const QVariant state = index.data(Qt::CheckStateRole); state.isValid())
+        drawCheck(painter, look, parts.box, static_cast<Qt::CheckState>(state.toInt()));
+    painter->drawPixmap(parts.picture.topLeft(), index.data(Qt::DecorationRole).value<QPixmap>());
+    drawDisplay(painter, look, parts.text, index.data().toString());
+    drawFocus(painter, look, parts.text);
+    painter->restore();
+}
+
+QSize CSelectDisplayDelegate::sizeHint(const QStyleOptionViewItem& option,
+                                       const QModelIndex& index) const {
+    const Parts parts = partsOf(option, index, true);
+    return (parts.box | parts.picture | parts.text).size();
+}
+
+CSelectDisplayDelegate::Parts CSelectDisplayDelegate::partsOf(const QStyleOptionViewItem& option,
+                                                              const QModelIndex& index,
+                                                              bool forHint) const {
+    Parts parts{rect(option, index, Qt::CheckStateRole),
+                {{}, sizeOnScreen(index.data(Qt::DecorationRole).value<QPixmap>())},
+                rect(option, index, Qt::DisplayRole)};
+    doLayout(option, &parts.box, &parts.picture, &parts.text, forHint);
+    return parts;
+}
 
 void CSelectDisplayDelegate::drawCheck(QPainter* painter, const QStyleOptionViewItem& option,
                                        const QRect& rect, Qt::CheckState state) const {
@@ -18,6 +64,6 @@ void CSelectDisplayDelegate::drawCheck(QPainter* painter, const QStyleOptionView
     }
     QItemDelegate::drawCheck(painter, option, rect, Qt::Unchecked);
     const QPixmap sign = models::resourcePixmap(QStringLiteral(":/tree/exclusion"));
-    const QSizeF size = QSizeF(sign.size()) / sign.devicePixelRatio();
-    painter->drawPixmap(QPointF(rect.right() - size.width(), rect.bottom() - size.height()), sign);
+    const QSize size = sizeOnScreen(sign);
+    painter->drawPixmap(rect.right() - size.width(), rect.bottom() - size.height(), sign);
 }

@@ -5,12 +5,22 @@
 #include <QItemDelegate>
 
 /// Draws the box of something excluded as an empty one with a sign in its lower right corner.
+/// Unlike its base class it knows that the pixels of a picture may be smaller than those of the
+/// layout.
 class CSelectDisplayDelegate : public QItemDelegate {
     Q_OBJECT
 public:
     explicit CSelectDisplayDelegate(QObject* parent = nullptr);
 
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
 protected:
     void drawCheck(QPainter* painter, const QStyleOptionViewItem& option, const QRect& rect,
                    Qt::CheckState state) const override;
+
+private:
+    struct Parts;
+    Parts partsOf(const QStyleOptionViewItem& option, const QModelIndex& index, bool forHint) const;
 };
