@@ -7,7 +7,7 @@
 #include "api/client_connection.h"
 #include "session/connection.h"
 #include "session/text.h"
-#include "ui/remote_action.h"
+#include "ui/wizard_frame.h"
 #include "ui_set_name_page.h"
 #include "wizards/set_names.h"
 
@@ -36,19 +36,20 @@ void SetNamePage::on_editSetName_textChanged() {
 }
 
 bool SetNamePage::validatePage() {
-    bool taken = false;
-    const bool asked = ui::remoteAction(*window(), tr("Error"), ui::Cursor::arrow, [&] {
-        taken = wizards::isNameTaken(name(), session::getConnection()->backup_sets_info());
-    });
-    if (taken) {
-        QLineEdit* edit = ui_->editSetName;
-        edit->setFocus();
-        QToolTip::showText(edit->mapToGlobal(QPoint(0, 0)),
-                           tr("A backup set with the same name already exists. \nPlease choose a "
-                              "different name."),
-                           edit);
+    try {
+        if (!wizards::isNameTaken(name(), session::getConnection()->backup_sets_info()))
+            return true;
+    } catch (const std::exception&) {
+        ui::failWizard(wizard(), std::current_exception());
+        return false;
     }
-    return asked && !taken;
+    QLineEdit* edit = ui_->editSetName;
+    edit->setFocus();
+    QToolTip::showText(
+        edit->mapToGlobal(QPoint(0, 0)),
+        tr("A backup set with the same name already exists. \nPlease choose a different name."),
+        edit);
+    return false;
 }
 
 void SetNamePage::changeEvent(QEvent* event) {

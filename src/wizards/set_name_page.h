@@ -27,7 +27,8 @@ public:
     void apply(const boost::shared_ptr<hessiancln::BackupSet>& set);
 
     bool isComplete() const override;
-    /// Asks the agent for the names that are taken.
+    /// Asks the agent for the names that are taken. A failure ends the wizard and goes to the one
+    /// who runs it.
     bool validatePage() override;
 
 public slots:
