@@ -4,9 +4,13 @@
 
 #include <utility>
 
+#include "simulator/remote/backup_set_credentials.h"
 #include "simulator/remote/backup_set_item.h"
 #include "simulator/remote/backup_start_parameters.h"
+#include "simulator/remote/data_source_browser.h"
 #include "simulator/remote/generic_activity.h"
+#include "simulator/remote/retention_rule.h"
+#include "simulator/remote/schedule.h"
 
 namespace simulator {
 
@@ -20,8 +24,10 @@ BackupSet::BackupSet(std::shared_ptr<Session> opened, World& world, World::Set s
     implements("BackupSet");
     offerFigures();
     offerSettings();
+    offerLocalStorage();
+    offerPlans();
     offerActivities();
-    if (world_.pathsOfWindows) {
+    if (set_->ofWindows) {
         implements("Win32FS_BackupSet");
         on("setUseVSS", [this](bool value) { set_->useVss = value; });
     }
@@ -34,7 +40,7 @@ std::string BackupSet::label() const {
 void BackupSet::offerFigures() {
     on("getID", [this] { return set_->info.id; });
     on("getName", [this] { return set_->info.name; });
-    on("getComputerName", [this] { return set_->info.computer; });
+    on("getComputerName", [this] { return source(); });
     on("getDataType", [this] { return set_->info.data_type; });
     on("getCurrentStatus", [this] { return status(); });
     on("getOverview", [this] { return overview(); });
@@ -47,18 +53,40 @@ void BackupSet::offerFigures() {
 void BackupSet::offerSettings() {
     on("setName", [this](const std::string& name) { set_->info.name = name; });
     on("setActive", [this](bool value) { set_->info.is_active = value; });
+    on("setItems",
+       [this](const std::vector<std::shared_ptr<BackupSetItem>>& list) { setItems(list); });
+    on("dataBrowser", [this] {
+        return std::make_shared<DataSourceBrowser>(session(), world_, set_->credentials);
+    });
+    on("getCredentials", [this] { return credentials(); });
+    on("setCredentials", [this](const std::shared_ptr<BackupSetCredentials>& value) {
+        set_->credentials = *value->state();
+    });
+}
+
+void BackupSet::offerLocalStorage() {
     on("getLocalStoragePath", [this] { return set_->localStoragePath; });
     on("setLocalStoragePath", [this](const std::string& path) { set_->localStoragePath = path; });
     on("isUsingLocalStorage", [this] { return set_->info.using_local_storage; });
-    on("setUsingLocalStorage", [this](bool value) { set_->info.using_local_storage = value; });
+    on("setUsingLocalStorage", [this](bool value) {
+        requireLocalPath(value);
+        set_->info.using_local_storage = value;
+    });
     on("isUsingLocalTransmissionCache", [this] { return set_->usingLocalTransmissionCache; });
-    on("setUsingLocalTransmissionCache",
-       [this](bool value) { set_->usingLocalTransmissionCache = value; });
-    on("setItems", [this](const std::vector<std::shared_ptr<BackupSetItem>>& items) {
-        set_->items.clear();
-        for (const auto& item : items)
-            set_->items.push_back(item->state());
-        set_->info.has_items = !items.empty();
+    on("setUsingLocalTransmissionCache", [this](bool value) {
+        requireLocalPath(value);
+        set_->usingLocalTransmissionCache = value;
+    });
+}
+
+void BackupSet::offerPlans() {
+    on("getSchedule", [this] { return schedule(); });
+    on("setSchedule", [this](const Nullable<Schedule>& schedule) {
+        set_->info.schedule_id = schedule.object ? schedule.object->state()->id : noSchedule;
+    });
+    on("getRetentionRule", [this] { return retentionRule(); });
+    on("setRetentionRule", [this](const Nullable<RetentionRule>& rule) {
+        set_->info.retention_rule_id = rule.object ? rule.object->state()->id : noRule;
     });
 }
 
@@ -90,7 +118,7 @@ backup_set_status BackupSet::status() const {
 }
 
 backup_set_overview_info BackupSet::overview() const {
-    const auto& info = set_->info;
+    const auto info = world_.infoOf(*set_);
     return {.data_type = info.data_type,
             .status = status(),
             .min_gen = set_->leastGenerations,
@@ -99,14 +127,51 @@ backup_set_overview_info BackupSet::overview() const {
             .retention_rule_name = info.retention_rule_name,
             .schedule_id = info.schedule_id,
             .schedule_name = info.schedule_name,
-            .schedule_type = set_->scheduleType};
+            .schedule_type = world_.scheduleTypeOf(*set_)};
 }
 
 std::vector<std::shared_ptr<BackupSetItem>> BackupSet::items() const {
     std::vector<std::shared_ptr<BackupSetItem>> list;
     for (const ItemState& item : set_->items)
-        list.push_back(std::make_shared<BackupSetItem>(session(), item));
+        list.push_back(makeItem(session(), item));
     return list;
+}
+
+void BackupSet::setItems(const std::vector<std::shared_ptr<BackupSetItem>>& items) {
+    for (const auto& item : items)
+        if (!world_.network.same(item->state().computer, source()))
+            throw Refusal("The item '" + item->state().folder + "' is of the computer '" +
+                          item->state().computer + "', and not of '" + source() + "'.");
+    set_->items.clear();
+    for (const auto& item : items)
+        set_->items.push_back(item->state());
+    set_->info.has_items = !items.empty();
+}
+
+std::shared_ptr<BackupSetCredentials> BackupSet::credentials() const {
+    // A copy: what becomes of it counts when it is set again.
+    const auto copy = std::make_shared<CredentialsState>(set_->credentials);
+    copy->ofSet = true;
+    return makeCredentials(session(), world_, copy);
+}
+
+std::shared_ptr<Schedule> BackupSet::schedule() const {
+    const auto schedule = world_.schedules.find(set_->info.schedule_id);
+    return schedule ? std::make_shared<Schedule>(session(), world_, schedule) : nullptr;
+}
+
+std::shared_ptr<RetentionRule> BackupSet::retentionRule() const {
+    const auto rule = world_.retentionRules.find(set_->info.retention_rule_id);
+    return rule ? std::make_shared<RetentionRule>(session(), world_, rule) : nullptr;
+}
+
+void BackupSet::requireLocalPath(bool wanted) const {
+    if (wanted && set_->localStoragePath.empty())
+        throw Refusal("The local storage needs a path.");
+}
+
+const std::string& BackupSet::source() const {
+    return set_->source.empty() ? set_->info.computer : set_->source;
 }
 
 } // namespace simulator

@@ -10,9 +10,12 @@
 
 namespace simulator {
 
+class BackupSetCredentials;
 class BackupSetItem;
+class RetentionRule;
+class Schedule;
 
-/// A backup set; on a Windows agent it is a `Win32FS_BackupSet` too.
+/// A backup set; that of a Windows computer is a `Win32FS_BackupSet` too.
 class BackupSet final : public Servant {
 public:
     static constexpr std::string_view family = "BackupSet";
@@ -25,11 +28,19 @@ public:
 private:
     void offerFigures();
     void offerSettings();
+    void offerLocalStorage();
+    void offerPlans();
     void offerActivities();
 
     hessiancln::backup_set_status status() const;
     hessiancln::backup_set_overview_info overview() const;
     std::vector<std::shared_ptr<BackupSetItem>> items() const;
+    void setItems(const std::vector<std::shared_ptr<BackupSetItem>>& items);
+    std::shared_ptr<BackupSetCredentials> credentials() const;
+    std::shared_ptr<Schedule> schedule() const;
+    std::shared_ptr<RetentionRule> retentionRule() const;
+    void requireLocalPath(bool wanted) const;
+    const std::string& source() const;
 
     World& world_;
     World::Set set_;

@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "simulator/remote/backup_set_item.h"
 
+#include <utility>
+
+#include "simulator/remote/backup_set_regex_exclusion.h"
+
 namespace simulator {
 
 BackupSetItem::BackupSetItem(std::shared_ptr<Session> opened, ItemState state)
@@ -14,6 +18,21 @@ BackupSetItem::BackupSetItem(std::shared_ptr<Session> opened, ItemState state)
         implements("BackupSetInclusionItem");
     else if (state_.kind == ItemState::Kind::Exclusion)
         implements("BackupSetFileItem");
+}
+
+std::string BackupSetItem::label() const {
+    const std::string start = "BackupSetItem(" + state_.folder;
+    if (state_.kind == ItemState::Kind::Exclusion)
+        return start + ", excluded)";
+    if (state_.kind == ItemState::Kind::Regex)
+        return start + (state_.inclusion ? ", only " : ", without ") + state_.expression + ")";
+    return start + ")";
+}
+
+std::shared_ptr<BackupSetItem> makeItem(const std::shared_ptr<Session>& opened, ItemState state) {
+    if (state.kind == ItemState::Kind::Regex)
+        return std::make_shared<BackupSetRegexExclusion>(opened, std::move(state));
+    return std::make_shared<BackupSetItem>(opened, std::move(state));
 }
 
 } // namespace simulator

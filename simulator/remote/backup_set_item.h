@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <memory>
 #include <string_view>
 
 #include "simulator/objects/servant.h"
@@ -9,7 +10,7 @@
 
 namespace simulator {
 
-/// An item, within a set or on its way into one.
+/// An item, within a set or on its way into one. It is a copy: a set has what it was last given.
 class BackupSetItem : public Servant {
 public:
     static constexpr std::string_view family = "BackupSetItem";
@@ -17,10 +18,13 @@ public:
     BackupSetItem(std::shared_ptr<Session> opened, ItemState state);
 
     const ItemState& state() const { return state_; }
-    std::string label() const override { return "BackupSetItem(" + state_.folder + ")"; }
+    std::string label() const override;
 
-private:
+protected:
     ItemState state_;
 };
+
+/// An item of the class that its kind asks for.
+std::shared_ptr<BackupSetItem> makeItem(const std::shared_ptr<Session>& opened, ItemState state);
 
 } // namespace simulator

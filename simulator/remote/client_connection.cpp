@@ -4,7 +4,10 @@
 
 #include "simulator/remote/backup_set.h"
 #include "simulator/remote/client_configuration.h"
+#include "simulator/remote/data_browser_with_set_creation.h"
 #include "simulator/remote/generic_activity.h"
+#include "simulator/remote/retention_rule_manager.h"
+#include "simulator/remote/schedule_manager.h"
 #include "simulator/remote/system_activity_manager.h"
 #include "simulator/remote/tfa_manager.h"
 
@@ -21,7 +24,7 @@ ClientConnection::ClientConnection(std::shared_ptr<Session> opened, World& world
     on("backup_sets_info", [this] {
         std::vector<hessiancln::backup_set_info> list;
         for (const auto& set : world_.sets())
-            list.push_back(set->info);
+            list.push_back(world_.infoOf(*set));
         return list;
     });
     on("backup_set", [this](std::int32_t id) {
@@ -31,11 +34,7 @@ ClientConnection::ClientConnection(std::shared_ptr<Session> opened, World& world
         return std::make_shared<BackupSet>(session(), world_, set);
     });
 
-    on("addBackupSet", [this](const std::shared_ptr<BackupSet>& set) {
-        if (world_.set(set->set()->info.id))
-            throw Refusal("The backup set is already there.");
-        world_.enlist(set->set());
-    });
+    on("addBackupSet", [this](const std::shared_ptr<BackupSet>& set) { add(set->set()); });
     on("removeBackupSet", [this](const std::shared_ptr<BackupSet>& set) {
         const auto id = world_.start(world_.removalOf(set->set(), session()->user));
         return std::make_shared<GenericActivity>(session(), world_, id);
@@ -53,11 +52,32 @@ ClientConnection::ClientConnection(std::shared_ptr<Session> opened, World& world
         return world_.eventLog(from, to, activityId);
     });
 
+    on("createBrowser", [this](std::int32_t kind) { return browser(kind); });
+    on("getScheduleManager",
+       [this] { return std::make_shared<ScheduleManager>(session(), world_); });
+    on("getRetentionRuleManager",
+       [this] { return std::make_shared<RetentionRuleManager>(session(), world_); });
     on("getConfigurationManager",
        [this] { return std::make_shared<ClientConfiguration>(session(), world_); });
     on("getTFAManager", [this] { return std::make_shared<TFAManager>(session(), world_); });
     on("getSystemActivityManager",
        [this] { return std::make_shared<SystemActivityManager>(session(), world_); });
+}
+
+void ClientConnection::add(const World::Set& set) {
+    if (world_.set(set->info.id))
+        throw Refusal("The backup set is already there.");
+    if (set->info.name.empty())
+        throw Refusal("A backup set needs a name.");
+    if (world_.setNamed(set->info.name))
+        throw Refusal("There is a backup set '" + set->info.name + "' already.");
+    world_.enlist(set);
+}
+
+std::shared_ptr<Servant> ClientConnection::browser(std::int32_t kind) {
+    if (kind != 0)
+        throw Refusal("There are no browsers of the kind " + std::to_string(kind) + ".");
+    return std::make_shared<DataBrowserWithSetCreation>(session(), world_);
 }
 
 } // namespace simulator

@@ -13,6 +13,9 @@ public:
     ClientConnection(std::shared_ptr<Session> session, World& world);
 
 private:
+    void add(const World::Set& set);
+    std::shared_ptr<Servant> browser(std::int32_t kind);
+
     World& world_;
 };
 

@@ -7,15 +7,18 @@
 
 namespace simulator {
 
-/// Codes by mail as a second factor.
+/// Codes by mail as a second factor. A code is good once, for the mode that it was asked for.
 class TFAManager final : public Servant {
 public:
-    TFAManager(std::shared_ptr<Session> opened, World& world)
-        : Servant(std::move(opened)) {
-        implements("TFAManager");
-        on("is2FAEnabled", [&world] { return world.twoFactor; });
-        on("getUserEmails", [&world] { return world.userEmails; });
-    }
+    TFAManager(std::shared_ptr<Session> opened, World& world);
+
+private:
+    /// Sends a code. The address that it goes to.
+    std::string request(std::int32_t mode);
+    void validate(const std::string& code, std::int32_t mode);
+    void setEmails(const std::vector<hessiancln::user_email>& emails);
+
+    World& world_;
 };
 
 } // namespace simulator

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "api/backup_set_records.h"
+#include "simulator/world/credentials_state.h"
 
 namespace simulator {
 
@@ -16,19 +17,33 @@ struct ItemState {
     std::string computer;
     std::string folder;
     std::int32_t generations = 9999;
+    // Of a regular expression only.
+    std::string expression{};
+    bool inclusion = false; ///< it selects files
+    bool negate = false;
+    bool caseSensitive = true;
+    bool matchDirectories = true;
 };
 
-/// All that the agent knows of a set. The figures stand in `info`, which is what lists show.
+/// What stands in place of an id.
+inline constexpr std::int32_t noSchedule = -1;
+inline constexpr std::int32_t noRule = 0;
+
+/// All that the agent knows of a set. The figures stand in `info`, which is what lists show; the
+/// schedule and the retention rule stand there by their ids only.
 struct BackupSetState {
     hessiancln::backup_set_info info;
     std::int32_t leastGenerations = -1;
     std::int32_t mostGenerations = 0;
-    hessiancln::ScheduleDetailType scheduleType{};
     std::vector<ItemState> items;
     std::vector<hessiancln::backup_sessions> sessions; ///< oldest first
     std::string localStoragePath;
     bool usingLocalTransmissionCache = false;
     bool useVss = true;
+    /// The full name of its computer, if that isn't the one that lists show.
+    std::string source;
+    bool ofWindows = true;
+    CredentialsState credentials;
 };
 
 } // namespace simulator

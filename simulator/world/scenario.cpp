@@ -8,6 +8,8 @@
 #include <vector>
 
 #include "simulator/world/history.h"
+#include "simulator/world/names.h"
+#include "simulator/world/sources.h"
 #include "simulator/world/world.h"
 
 namespace simulator {
@@ -15,7 +17,9 @@ namespace {
 
 using hessiancln::ActivityType;
 using hessiancln::BackupDataType;
+using hessiancln::ClientOSType;
 using hessiancln::KeyEncryptionType;
+using hessiancln::RetentionTimeUnit;
 using hessiancln::ScheduleDetailType;
 
 constexpr Milliseconds quarterOfAnHour = 15 * 60 * 1000;
@@ -32,6 +36,46 @@ constexpr std::array<std::pair<std::string_view, Scenario>, 7> names{{
     {"large", Scenario::Large},
 }};
 
+// The ids of what `addPlans` makes, in its order.
+constexpr std::int32_t everyEvening = 1;
+constexpr std::int32_t firstOfTheMonth = 2;
+constexpr std::int32_t standardRetention = 1;
+
+/// Schedules and retention rules, two of each that sets share and one that a client of this kind
+/// doesn't make.
+void addPlans(World& world) {
+    const auto add = [&world](const std::string& name, const ScheduleDetailState& detail) {
+        ScheduleState schedule;
+        schedule.name = name;
+        schedule.details.push_back(std::make_shared<ScheduleDetailState>(detail));
+        world.schedules.add(std::move(schedule));
+    };
+    constexpr std::int32_t backupAndRetention = 3;
+    constexpr std::int32_t unknownTask = 4;
+    add("Every evening",
+        {ScheduleDetailType::Weekly, 127, {20, 0, 0}, {{30, 0, 0}}, 0, backupAndRetention});
+    add("First of the month", {ScheduleDetailType::Monthly, 1, {19, 30, 0}, {}, 0, 1});
+    add("On start-up",
+        {ScheduleDetailType(0), 1, {8, 15, 0}, {{12, 0, 0}}, 2, backupAndRetention + unknownTask});
+
+    RetentionRuleState standard;
+    standard.name = "Standard retention";
+    standard.keepLast = 30;
+    standard.cleanupRemoved = true;
+    for (const auto valid : {RetentionTimeUnit::Weeks, RetentionTimeUnit::Months}) {
+        const auto shorter = static_cast<RetentionTimeUnit>(static_cast<std::int32_t>(valid) - 1);
+        standard.options.push_back(std::make_shared<RetentionOptionState>(
+            RetentionOptionState{true, {1, valid}, {1, shorter}}));
+    }
+    world.retentionRules.add(std::move(standard));
+
+    RetentionRuleState strange;
+    strange.name = "By the hour";
+    strange.options.push_back(std::make_shared<RetentionOptionState>(
+        RetentionOptionState{false, {36, RetentionTimeUnit(2)}, {}}));
+    world.retentionRules.add(std::move(strange));
+}
+
 /// What a set starts with; the rest follows.
 struct SetDescription {
     std::string name;
@@ -40,29 +84,45 @@ struct SetDescription {
     std::int32_t files;
 };
 
-BackupSetState describedSet(const std::string& computer, const SetDescription& described) {
+/// A set of the agent's own computer.
+BackupSetState describedSet(const World& world, const SetDescription& described) {
     BackupSetState set;
+    const std::string& computer = world.network.local()->name;
+    set.source = computer;
+    set.ofWindows = world.system == ClientOSType::Windows;
+    set.credentials.kind = world.network.local()->kind;
     auto& info = set.info;
-    info.computer = computer;
+    info.computer = world.computer;
     info.name = described.name;
     info.is_active = true;
     info.in_sync = true;
     info.has_items = !described.folders.empty();
     info.owner_id = 1;
     info.owner_name = "anna";
-    info.retention_rule_id = 1;
-    info.retention_rule_name = "Standard retention";
-    info.schedule_id = 1;
-    info.schedule_name = "Every evening";
+    info.retention_rule_id = standardRetention;
+    info.schedule_id = everyEvening;
     info.online_data_size = described.size;
     info.online_file_count = described.files;
     info.tarnsys_compressed_size = described.size * 58 / 100;
-    set.scheduleType = ScheduleDetailType::Weekly;
+    set.credentials.usingClientAccount = true;
     set.leastGenerations = described.folders.empty() ? -1 : 1;
     set.mostGenerations = described.folders.empty() ? 0 : 30;
     for (const std::string& folder : described.folders)
         set.items.push_back({ItemState::Kind::Inclusion, computer, folder});
     return set;
+}
+
+ItemState excluded(const BackupSetState& set, const std::string& folder) {
+    return {ItemState::Kind::Exclusion, set.source, folder};
+}
+
+ItemState filtered(const BackupSetState& set, const std::string& root,
+                   const std::string& expression, bool inclusion) {
+    ItemState item{ItemState::Kind::Regex, set.source, root};
+    item.expression = expression;
+    item.inclusion = inclusion;
+    item.caseSensitive = item.matchDirectories = false;
+    return item;
 }
 
 void tell(World& world, const std::string& name, const std::string& value) {
@@ -96,17 +156,15 @@ const std::string windows = "Windows 11 Pro 23H2 (build 22631)";
 
 void addDiligentSets(World& world, History& history) {
     const std::string home = "C:\\Users\\anna\\";
-    const auto documents = world.addSet(
-        describedSet(world.computer,
-                     {"Documents", {home + "Documents", home + "Desktop"}, 38 * gibibyte, 84'211}));
+    const auto documents = world.addSet(describedSet(
+        world, {"Documents", {home + "Documents", home + "Desktop"}, 38 * gibibyte, 84'211}));
     const auto pictures = world.addSet(describedSet(
-        world.computer,
+        world,
         {"Pictures and Videos", {home + "Pictures", home + "Videos"}, 412 * gibibyte, 61'730}));
-    const auto mail = world.addSet(
-        describedSet(world.computer, {"Mail archive", {"D:\\Mail"}, 17 * gibibyte, 318}));
-    const auto projects = world.addSet(
-        describedSet(world.computer,
-                     {"Kundenprojekte Müller & Söhne", {"D:\\Projects"}, 96 * gibibyte, 203'448}));
+    const auto mail =
+        world.addSet(describedSet(world, {"Mail archive", {"D:\\Mail\\"}, 17 * gibibyte, 318}));
+    const auto projects = world.addSet(describedSet(
+        world, {"Kundenprojekte Müller & Söhne", {"D:\\Projects"}, 96 * gibibyte, 203'448}));
     history.dailyBackups(documents, 45, 20);
     history.dailyBackups(pictures, 45, 21);
     history.dailyBackups(mail, 30, 12);
@@ -115,9 +173,12 @@ void addDiligentSets(World& world, History& history) {
     history.run(projects, ActivityType::Synchronization, 15'000, 48, 203'448, 0);
     history.run(pictures, ActivityType::Delete, 52'000, 31, 1'204, 3 * gibibyte);
 
-    projects->info.schedule_id = 2;
-    projects->info.schedule_name = "First of the month";
-    projects->scheduleType = ScheduleDetailType::Monthly;
+    projects->info.schedule_id = firstOfTheMonth;
+    projects->items.push_back(excluded(*projects, "D:\\Projects\\Archive"));
+    projects->items.push_back(filtered(*projects, "D:", R"(.*\.(|tmp|swp|bak))", false));
+    for (const char* const types : {"jpg|jpeg|png|tif", "avi|mov|mpeg|mpg"})
+        pictures->items.push_back(
+            filtered(*pictures, "C:", R"(.*\.()" + std::string(types) + ")", true));
     mail->info.using_local_storage = true;
     mail->localStoragePath = "E:\\LocalStorage";
     mail->info.local_storage_data_size = 17 * gibibyte;
@@ -126,35 +187,32 @@ void addDiligentSets(World& world, History& history) {
 
 /// Sets that need attention, and one that this client doesn't list.
 void addOddSets(World& world) {
-    auto lost = describedSet(world.computer, {"Old workstation", {}, 54 * gibibyte, 40'127});
+    auto lost = describedSet(world, {"Old workstation", {}, 54 * gibibyte, 40'127});
     lost.info.computer = "HP-8200";
-    lost.info.retention_rule_id = 0;
-    lost.info.retention_rule_name.clear();
-    lost.info.schedule_id = -1;
-    lost.info.schedule_name.clear();
+    lost.source = sources::oldWorkstation;
+    lost.credentials = {};
+    lost.info.retention_rule_id = noRule;
+    lost.info.schedule_id = noSchedule;
     lost.info.last_sync_time = seconds(world.now()) - 3 * 86'400;
     world.addSet(std::move(lost));
 
-    auto stale = describedSet(world.computer, {"Tax returns", {"D:\\Tax"}, 2 * gibibyte, 1'940});
+    auto stale = describedSet(world, {"Tax returns", {"D:\\Tax"}, 2 * gibibyte, 1'940});
     stale.info.in_sync = false;
-    stale.info.retention_rule_id = 0;
-    stale.info.retention_rule_name.clear();
+    stale.info.retention_rule_id = noRule;
     stale.mostGenerations = 7;
     world.addSet(std::move(stale));
 
-    auto database = describedSet(world.computer, {"Inventory", {"INVENTORY"}, gibibyte, 3});
+    auto database = describedSet(world, {"Inventory", {"INVENTORY"}, gibibyte, 3});
     database.info.data_type = BackupDataType::MSSQLServer;
     world.addSet(std::move(database));
 
-    auto fresh = describedSet(world.computer, {"Music", {"D:\\Music"}, 0, 0});
+    auto fresh = describedSet(world, {"Music", {"D:\\Music"}, 0, 0});
     fresh.mostGenerations = 1;
-    fresh.info.schedule_id = -1;
-    fresh.info.schedule_name.clear();
+    fresh.info.schedule_id = noSchedule;
     world.addSet(std::move(fresh));
 }
 
 void populateWindows(World& world, bool central) {
-    world.computer = "ANNA-LAPTOP";
     describeAgent(world, windows, central, false);
     History history(world);
     addDiligentSets(world, history);
@@ -172,34 +230,58 @@ void populateWindows(World& world, bool central) {
     world.keepBusy(quarterOfAnHour);
 }
 
+/// The set is of that computer, and has a login that is good there.
+void belongTo(BackupSetState& set, const SourceComputer& computer) {
+    set.source = computer.name;
+    set.info.computer = lastName(computer.name);
+    set.ofWindows = computer.kind == LoginKind::Windows;
+    set.credentials = {};
+    set.credentials.kind = computer.kind;
+    set.credentials.user = "backup";
+    set.credentials.password = sources::password;
+    for (ItemState& item : set.items)
+        item.computer = computer.name;
+}
+
 void populateUnix(World& world) {
-    world.computer = "build01.example.net";
-    world.pathsOfWindows = false;
     describeAgent(world, "Debian GNU/Linux 12, kernel 6.1.0", false, false);
     History history(world);
     const auto home = world.addSet(
-        describedSet(world.computer, {"Home directories", {"/home"}, 128 * gibibyte, 512'303}));
+        describedSet(world, {"Home directories", {"/\\home"}, 128 * gibibyte, 512'303}));
     const auto settings = world.addSet(
-        describedSet(world.computer, {"System settings", {"/etc", "/usr/local"}, gibibyte, 9'120}));
+        describedSet(world, {"System settings", {"/\\etc", "/\\usr\\local"}, gibibyte, 9'120}));
     history.dailyBackups(home, 30, 2);
     history.dailyBackups(settings, 30, 3);
     history.adminRuns(30);
     history.write();
+
+    auto site = describedSet(world, {"Web site", {"/\\var\\www"}, 3 * gibibyte, 21'377});
+    belongTo(site, *world.network.computer(std::string(sources::webServer)));
+    site.credentials.keyFile = sources::keyFile;
+    site.credentials.passphrase = sources::passphrase;
+    site.credentials.sudoUser = "root";
+    site.credentials.sudoPassword = sources::password;
+    world.addSet(std::move(site));
+
+    auto photos = describedSet(world, {"Photos", {"/\\volume1"}, 71 * gibibyte, 33'090});
+    belongTo(photos, *world.network.computer(std::string(sources::storage)));
+    world.addSet(std::move(photos));
 }
 
 void populateLarge(World& world) {
-    world.computer = "ANNA-LAPTOP";
     describeAgent(world, windows, false, false);
     constexpr int setCount = 2'000;
     constexpr std::size_t rowCount = 100'000;
     for (int i = 1; i <= setCount; ++i) {
         const std::string number = std::to_string(i);
-        const std::string computer = "WS-" + std::string(4 - number.size(), '0') + number;
-        world.addSet(describedSet(
-            computer, {"Documents of department " + number,
-                       {"D:\\Departments\\" + number},
-                       world.random().between(1, 400) * gibibyte,
-                       static_cast<std::int32_t>(world.random().between(1'000, 90'000))}));
+        auto set =
+            describedSet(world, {"Documents of department " + number,
+                                 {"D:\\Departments\\" + number},
+                                 world.random().between(1, 400) * gibibyte,
+                                 static_cast<std::int32_t>(world.random().between(1'000, 90'000))});
+        set.info.computer = "WS-" + std::string(4 - number.size(), '0') + number;
+        set.source.clear();
+        world.addSet(std::move(set));
     }
     History history(world);
     history.bulk(rowCount);
@@ -207,7 +289,6 @@ void populateLarge(World& world) {
 }
 
 void populateBare(World& world, bool firstRun) {
-    world.computer = "ANNA-LAPTOP";
     describeAgent(world, windows, false, firstRun);
     if (firstRun)
         world.customer = {};
@@ -223,7 +304,13 @@ std::optional<Scenario> scenarioNamed(std::string_view name) {
 }
 
 void populate(World& world, Scenario scenario) {
+    const bool isUnix = scenario == Scenario::Unix;
     world.clientType = scenario == Scenario::Notebook ? 14 : 8;
+    world.computer = isUnix ? "build01.example.net" : "ANNA-LAPTOP";
+    world.system = ClientOSType(isUnix ? 1 : 0);
+    world.userEmails = {{"demo", "", "demo@example.net"}, {"anna", "OFFICE", "anna@example.net"}};
+    addSources(world);
+    addPlans(world);
     switch (scenario) {
     case Scenario::Default:
     case Scenario::Notebook:

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "simulator/world/names.h"
+
 namespace simulator {
 
 using hessiancln::activity_log_info;
@@ -23,7 +25,7 @@ std::vector<std::string> foldersOf(const BackupSetState& set) {
     std::vector<std::string> folders;
     for (const ItemState& item : set.items)
         if (item.kind == ItemState::Kind::Inclusion)
-            folders.push_back(item.folder);
+            folders.push_back(nativePath(item.folder));
     return folders;
 }
 
@@ -68,6 +70,27 @@ World::Set World::set(std::int32_t id) const {
     const auto found = std::find_if(sets_.begin(), sets_.end(),
                                     [id](const Set& set) { return set->info.id == id; });
     return found == sets_.end() ? nullptr : *found;
+}
+
+World::Set World::setNamed(const std::string& name) const {
+    const auto found = std::find_if(sets_.begin(), sets_.end(), [&name](const Set& set) {
+        return agreeWithoutCase(set->info.name, name);
+    });
+    return found == sets_.end() ? nullptr : *found;
+}
+
+hessiancln::backup_set_info World::infoOf(const BackupSetState& set) const {
+    hessiancln::backup_set_info info = set.info;
+    const auto schedule = schedules.find(info.schedule_id);
+    const auto rule = retentionRules.find(info.retention_rule_id);
+    info.schedule_name = schedule ? schedule->name : std::string();
+    info.retention_rule_name = rule ? rule->name : std::string();
+    return info;
+}
+
+hessiancln::ScheduleDetailType World::scheduleTypeOf(const BackupSetState& set) const {
+    const auto schedule = schedules.find(set.info.schedule_id);
+    return typeOf(schedule ? *schedule : ScheduleState());
 }
 
 void World::enlist(const Set& set) {
@@ -192,12 +215,17 @@ activity_log_info World::lastActivity(std::int32_t setId, ActivityType type) con
     return last;
 }
 
-ActivityPlan World::backupOf(const Set& set, const std::string& user) {
+ActivityPlan World::planOf(ActivityType type, const Set& set, const std::string& user) {
     ActivityPlan plan;
-    plan.type = ActivityType::Backup;
+    plan.type = type;
     plan.description = set->info.name;
     plan.user = user;
     plan.set_id = set->info.id;
+    return plan;
+}
+
+ActivityPlan World::backupOf(const Set& set, const std::string& user) {
+    ActivityPlan plan = planOf(ActivityType::Backup, set, user);
     plan.files = static_cast<std::int32_t>(random_.between(180, 4200));
     plan.bytes = plan.files * random_.between(40'000, 900'000);
     plan.duration = random_.between(60, 240) * 1000;
@@ -220,11 +248,7 @@ ActivityPlan World::backupOf(const Set& set, const std::string& user) {
 }
 
 ActivityPlan World::synchronisationOf(const Set& set, const std::string& user) {
-    ActivityPlan plan;
-    plan.type = ActivityType::Synchronization;
-    plan.description = set->info.name;
-    plan.user = user;
-    plan.set_id = set->info.id;
+    ActivityPlan plan = planOf(ActivityType::Synchronization, set, user);
     plan.files = set->info.online_file_count;
     plan.duration = random_.between(20, 60) * 1000;
     plan.ended = [set](const activity_log_info& row) {
@@ -237,11 +261,7 @@ ActivityPlan World::synchronisationOf(const Set& set, const std::string& user) {
 }
 
 ActivityPlan World::removalOf(const Set& set, const std::string& user) {
-    ActivityPlan plan;
-    plan.type = ActivityType::Delete;
-    plan.description = set->info.name;
-    plan.user = user;
-    plan.set_id = set->info.id;
+    ActivityPlan plan = planOf(ActivityType::Delete, set, user);
     plan.files = set->info.online_file_count;
     plan.bytes = set->info.online_data_size;
     plan.duration = random_.between(15, 40) * 1000;

@@ -3,7 +3,9 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -17,8 +19,12 @@
 #include "api/user_info.h"
 #include "simulator/world/activity.h"
 #include "simulator/world/backup_set_state.h"
+#include "simulator/world/catalogue.h"
 #include "simulator/world/clock.h"
+#include "simulator/world/network.h"
 #include "simulator/world/random.h"
+#include "simulator/world/retention_state.h"
+#include "simulator/world/schedule_state.h"
 
 namespace simulator {
 
@@ -41,19 +47,39 @@ public:
     void advance();
 
     std::int32_t clientType = 8;
-    bool pathsOfWindows = true;
+    hessiancln::ClientOSType system = hessiancln::ClientOSType::Windows;
     std::string computer;
     std::vector<hessiancln::tarn_client_info> about;
     hessiancln::tarnc_reg_info registration;
     hessiancln::user_info customer{276, hessiancln::EmployeeCountCode::UpTo50,
                                    hessiancln::IndustryCode::Computer};
+    /// The numbers of the tools that are enabled.
+    std::set<std::int32_t> tools{8};
+    /// Numbers that are set for all of the agent.
+    std::map<std::string, std::int32_t> advancedConfig{{"ScheduleMiss", 4}};
+
     bool twoFactor = false;
+    std::string twoFactorCode = "314159"; ///< that each mail tells
+    /// Where the codes of users go who have no address of their own.
+    std::string twoFactorAddress = "administrator@example.net";
+    std::set<std::int32_t> requestedCodes; ///< the modes for which a code is under way
+    std::set<std::int32_t> validatedCodes; ///< the modes for which it came back
     std::vector<hessiancln::user_email> userEmails;
+
+    Network network;
+    Catalogue<ScheduleState> schedules;
+    Catalogue<RetentionRuleState> retentionRules;
 
     /// In the order of the lists.
     const std::vector<Set>& sets() const { return sets_; }
     /// Null if there is none.
     Set set(std::int32_t id) const;
+    /// Null if there is none. Names agree in any case.
+    Set setNamed(const std::string& name) const;
+    /// As lists show it.
+    hessiancln::backup_set_info infoOf(const BackupSetState& set) const;
+    /// That of its schedule.
+    hessiancln::ScheduleDetailType scheduleTypeOf(const BackupSetState& set) const;
     /// Gives the set an id and puts it behind the others.
     void enlist(const Set& set);
     Set addSet(BackupSetState state);
@@ -94,6 +120,7 @@ public:
     void keepBusy(Milliseconds every);
 
 private:
+    ActivityPlan planOf(hessiancln::ActivityType type, const Set& set, const std::string& user);
     void startDueBackups();
     void end(std::vector<Activity>::iterator activity, Milliseconds when, bool stopped);
 

@@ -60,11 +60,11 @@ TEST_F(Remote, GivesTheOverview) {
         set.info.tarnsys_compressed_size = 7;
         set.leastGenerations = 8;
         set.mostGenerations = 9;
-        set.info.retention_rule_id = 10;
-        set.info.retention_rule_name = "R";
-        set.info.schedule_id = 11;
-        set.info.schedule_name = "S";
-        set.scheduleType = hessiancln::ScheduleDetailType::Monthly;
+        set.info.retention_rule_id = world.retentionRules.add({.name = "R"})->id;
+        const auto schedule = world.schedules.add({.name = "S"});
+        schedule->details.push_back(std::make_shared<simulator::ScheduleDetailState>());
+        schedule->details.front()->type = hessiancln::ScheduleDetailType::Monthly;
+        set.info.schedule_id = schedule->id;
     });
     const std::string status = record(
         "backup_set_status",
@@ -79,9 +79,9 @@ TEST_F(Remote, GivesTheOverview) {
         raw::reply(record("backup_set_overview_info",
                           member("data_type", raw::int32(0)) + member("status", status) +
                               member("min_gen", raw::int32(8)) + member("max_gen", raw::int32(9)) +
-                              member("retention_rule_id", raw::int32(10)) +
+                              member("retention_rule_id", raw::int32(3)) +
                               member("retention_rule_name", raw::text("R")) +
-                              member("schedule_id", raw::int32(11)) +
+                              member("schedule_id", raw::int32(4)) +
                               member("schedule_name", raw::text("S")) +
                               member("schedule_type", raw::int32(3)))));
 }

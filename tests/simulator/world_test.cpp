@@ -247,9 +247,9 @@ TEST_F(WorldTest, EmptyHoldsNothing) {
 
 TEST_F(WorldTest, UnixHasItsPathsAndSystem) {
     const World world = make(Scenario::Unix);
-    EXPECT_FALSE(world.pathsOfWindows);
+    EXPECT_NE(world.system, hessiancln::ClientOSType::Windows);
     EXPECT_THAT(told(world, "Operating System"), ::testing::HasSubstr("Linux"));
-    EXPECT_EQ(world.sets().front()->items.front().folder, "/home");
+    EXPECT_EQ(world.sets().front()->items.front().folder, "/\\home");
 }
 
 TEST_F(WorldTest, LargeIsLarge) {
