@@ -61,7 +61,8 @@ void failWizard(QWizard* wizard, const std::exception_ptr& failure) {
     if (!wizard)
         std::rethrow_exception(failure);
     wizard->setProperty(failureProperty, QVariant::fromValue(failure));
-    wizard->reject();
+    // Later, as the wizard may be in the middle of turning to another page.
+    QMetaObject::invokeMethod(wizard, &QDialog::reject, Qt::QueuedConnection);
 }
 
 } // namespace ui

@@ -11,8 +11,8 @@
 #include "models/select_display_delegate.h"
 #include "session/required.h"
 #include "session/text.h"
-#include "ui/remote_action.h"
 #include "ui/wait_cursor.h"
+#include "ui/wizard_frame.h"
 #include "ui_items_select_page.h"
 #include "wizards/backup_set_items.h"
 #include "wizards/file_extension_validator.h"
@@ -77,11 +77,13 @@ void ItemsSelectPage::apply(const Set& set) {
 }
 
 void ItemsSelectPage::initializePage() {
-    QWidget& owner = wizard() ? static_cast<QWidget&>(*wizard()) : *this;
-    ui::remoteAction(owner, tr("Error"), ui::Cursor::wait, [this] {
+    try {
+        const ui::WaitCursor waiting(wizard() ? static_cast<QWidget&>(*wizard()) : *this);
         if (const auto source = changedSource())
             showContents(fetch(*source));
-    });
+    } catch (const std::exception&) {
+        ui::failWizard(wizard(), std::current_exception());
+    }
 }
 
 std::optional<ItemsSelectPage::Source> ItemsSelectPage::changedSource() const {

@@ -61,7 +61,7 @@ public:
     void apply(const Set& set);
 
     /// Shows what the agent has, if the computer or its login is another than the last time. A
-    /// failure is shown, and leaves the page as it was.
+    /// failure leaves the page as it was, ends the wizard and goes to the one who runs it.
     void initializePage() override;
     bool isComplete() const override;
 
