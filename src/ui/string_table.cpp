@@ -4,8 +4,6 @@
 
 #include <QList>
 
-#include <QList>
-
 namespace ui {
 
 namespace {
