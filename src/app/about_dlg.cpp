@@ -6,6 +6,7 @@
 
 #include "session/process_values.h"
 #include "ui/branding_resources.h"
+#include "ui/fitting_text_delegate.h"
 #include "ui_about_dlg.h"
 
 namespace {
@@ -39,6 +40,7 @@ void AboutDlg::setTexts() {
 void AboutDlg::setUpInformation() {
     ui_->groupInfo->setVisible(session::connectedToAgent());
     ui_->tableInfo->setModel(&model_);
+    ui_->tableInfo->setItemDelegate(new ui::FittingTextDelegate(ui_->tableInfo));
     ui_->tableInfo->setColumnWidth(TarnClientInfoModel::item, 140);
     ui_->tableInfo->setColumnWidth(TarnClientInfoModel::value, 270);
     model_.refresh();

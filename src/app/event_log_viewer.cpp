@@ -11,6 +11,7 @@
 
 #include "app/wire_time.h"
 #include "ui/branding_resources.h"
+#include "ui/fitting_text_delegate.h"
 #include "ui/remote_action.h"
 #include "ui_event_log_viewer.h"
 
@@ -38,12 +39,17 @@ EventLogViewer::EventLogViewer(QWidget* parent)
 EventLogViewer::~EventLogViewer() = default;
 
 void EventLogViewer::setUpTable() {
-    ui_->tableEvents->setModel(&model_);
+    QTableView& table = *ui_->tableEvents;
+    table.setModel(&model_);
     for (std::size_t column = 0; column < columnWidths.size(); ++column)
-        ui_->tableEvents->setColumnWidth(static_cast<int>(column), columnWidths[column]);
+        table.setColumnWidth(static_cast<int>(column), columnWidths[column]);
+    table.setItemDelegate(new ui::FittingTextDelegate(&table));
+    // The time of day stands at the end, and tells events apart better than the month does.
+    table.setItemDelegateForColumn(EventLogModel::time,
+                                   new ui::FittingTextDelegate(&table, Qt::ElideMiddle));
     // In the middle of its column, the header of the widest one would be out of sight.
-    ui_->tableEvents->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    ui_->tableEvents->sortByColumn(EventLogModel::time, Qt::DescendingOrder);
+    table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    table.sortByColumn(EventLogModel::time, Qt::DescendingOrder);
 }
 
 void EventLogViewer::showFor(const QDateTime& from, const QDateTime& to, std::int32_t activityId) {

@@ -15,6 +15,7 @@
 
 #include "app/activity_progress_item_delegate.h"
 #include "ui/branding_resources.h"
+#include "ui/fitting_text_delegate.h"
 #include "ui_simple_gui_main_window.h"
 
 namespace {
@@ -40,6 +41,7 @@ void setUpTable(QTableView& table, app::SortedTableModel& model, const Widths& w
     table.setModel(&model);
     for (std::size_t column = 0; column < widths.size(); ++column)
         table.setColumnWidth(static_cast<int>(column), widths[column]);
+    table.setItemDelegate(new ui::FittingTextDelegate(&table));
     // In the middle of its column, the header of a wide one would be out of sight.
     table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     table.sortByColumn(sortColumn, Qt::DescendingOrder);

@@ -3,10 +3,12 @@
 #include <QCheckBox>
 #include <QDateTimeEdit>
 #include <QGroupBox>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTableView>
+#include <QToolTip>
 #include <QtTest>
 
 #include "app/about_dlg.h"
@@ -14,6 +16,7 @@
 #include "resources/pictures.h"
 #include "tests/support/gui_modal_driver.h"
 #include "ui/branding_resources.h"
+#include "ui/fitting_text_delegate.h"
 
 namespace {
 
@@ -25,6 +28,53 @@ const QDateTime to({2026, 1, 2}, {23, 59, 59, 999});
 void expectNoSession(support::ModalDriver& modals) {
     modals.expectErrorBox(QStringLiteral("Error"), QStringLiteral("No API connection exists"));
 }
+
+hessiancln::event_log_info warning() {
+    hessiancln::event_log_info event;
+    event.type = hessiancln::EventLogType::Warning;
+    event.when = 1795231417;
+    event.user = "anna";
+    event.event_id = 0x01000020;
+    event.extra_info = "error 32, <b>not bold</b> in C:\\Users\\Anna";
+    return event;
+}
+
+/// A viewer with one event, in the font that a desktop of usual resolution has.
+class ViewerOfOne : public EventLogViewer {
+public:
+    ViewerOfOne() {
+        table().setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
+        model().setRecords({warning()});
+        show();
+    }
+    QTableView& table() { return child<QTableView>(*this, "tableEvents"); }
+
+    /// What the event's cell in this column is drawn with.
+    QStyleOptionViewItem cell(int column) {
+        const QModelIndex index = model().index(0, column);
+        auto* delegate = qobject_cast<ui::FittingTextDelegate*>(table().itemDelegate(index));
+        if (!delegate)
+            qFatal("Column %d has another delegate", column);
+        QStyleOptionViewItem option;
+        option.initFrom(&table());
+        option.font = table().font();
+        option.widget = &table();
+        option.rect = table().visualRect(index);
+        option.decorationSize = table().iconSize().isValid() ? table().iconSize() : QSize(16, 16);
+        option.decorationPosition = QStyleOptionViewItem::Left;
+        return delegate->fitted(option, index);
+    }
+
+    /// The text of the tool tip over the event's cell in this column.
+    QString toolTip(int column) {
+        QToolTip::showText({}, QString());
+        QWidget* viewport = table().viewport();
+        const QPoint at = table().visualRect(model().index(0, column)).center();
+        QHelpEvent event(QEvent::ToolTip, at, viewport->mapToGlobal(at));
+        QCoreApplication::sendEvent(viewport, &event);
+        return QToolTip::isVisible() ? QToolTip::text() : QString();
+    }
+};
 
 /// Every widget that a user can reach has a text or a name for those who don't see it.
 void verifyNames(const QWidget& window) {
@@ -56,6 +106,8 @@ private slots:
     void idZeroSwitchesTheFilterByActivityOff();
     void eachChangeOfTheFilterAsksOnce();
     void theButtonClosesTheViewer();
+    void aTextThatIsALittleTooWideIsDrawnNarrower();
+    void aTextThatIsMuchTooWideIsCutAndHasAToolTip();
     void everyWidgetHasAName();
     void theAboutBoxWithoutASession();
 };
@@ -143,6 +195,36 @@ void LogDialogsTest::theButtonClosesTheViewer() {
     child<QPushButton>(viewer, "buttonClose").click();
     QVERIFY(!viewer.isVisible());
     QCOMPARE(viewer.result(), int(QDialog::Accepted));
+}
+
+void LogDialogsTest::aTextThatIsALittleTooWideIsDrawnNarrower() {
+    ViewerOfOne viewer;
+    for (const int column : {EventLogModel::type, EventLogModel::eventNumber}) {
+        const QStyleOptionViewItem cell = viewer.cell(column);
+        QVERIFY2(cell.font.stretch() >= 80 && cell.font.stretch() < 100, qPrintable(cell.text));
+        QVERIFY2(ui::FittingTextDelegate::showsAll(cell), qPrintable(cell.text));
+        QCOMPARE(viewer.toolTip(column), QString());
+    }
+    const QStyleOptionViewItem user = viewer.cell(EventLogModel::user);
+    QCOMPARE(user.font.stretch(), viewer.table().font().stretch());
+    QVERIFY(ui::FittingTextDelegate::showsAll(user));
+    QCOMPARE(viewer.toolTip(EventLogModel::user), QString());
+}
+
+void LogDialogsTest::aTextThatIsMuchTooWideIsCutAndHasAToolTip() {
+    ViewerOfOne viewer;
+    const QStyleOptionViewItem detail = viewer.cell(EventLogModel::detail);
+    QVERIFY(!ui::FittingTextDelegate::showsAll(detail));
+    QCOMPARE(detail.textElideMode, Qt::ElideRight);
+    // It isn't rich, whatever it looks like.
+    const QString tip = viewer.toolTip(EventLogModel::detail);
+    QVERIFY2(tip.contains(QLatin1String("&lt;b&gt;not bold&lt;/b&gt;")), qPrintable(tip));
+
+    viewer.table().setColumnWidth(EventLogModel::time, 100);
+    const QStyleOptionViewItem time = viewer.cell(EventLogModel::time);
+    QVERIFY(!ui::FittingTextDelegate::showsAll(time));
+    QCOMPARE(time.textElideMode, Qt::ElideMiddle);
+    QVERIFY(viewer.toolTip(EventLogModel::time).contains(time.text));
 }
 
 void LogDialogsTest::everyWidgetHasAName() {

@@ -15,6 +15,7 @@
 #include "resources/pictures.h"
 #include "session/process_values.h"
 #include "tests/support/gui_modal_driver.h"
+#include "ui/size_text.h"
 
 namespace {
 
@@ -84,6 +85,18 @@ private slots:
         QCOMPARE(QCoreApplication::translate("LoginCheck", "Login"), QStringLiteral("Anmeldung"));
         delete qApp->findChild<QTranslator*>();
         QCOMPARE(QCoreApplication::translate("LoginCheck", "Login"), QStringLiteral("Login"));
+    }
+
+    void aTranslationWritesSizesAsTheLocaleDoes() {
+        QVERIFY(QFile::copy(QStringLiteral(TARN_TRANSLATION_DE), QStringLiteral("sg_i18n_de")));
+        const QLocale before;
+        QLocale::setDefault(QLocale(QLocale::German));
+        app::installTranslation(*qApp, QStringLiteral("de"));
+        QCOMPARE(ui::sizeToString(1536), QStringLiteral("1,50 KB"));
+        QCOMPARE(ui::sizeToString(1.5 * 1024 * 1024), QStringLiteral("1,50 MB"));
+        QCOMPARE(ui::sizeToString(1.5 * 1024 * 1024 * 1024), QStringLiteral("1,50 GB"));
+        delete qApp->findChild<QTranslator*>();
+        QLocale::setDefault(before);
     }
 
     void tellsThatATranslationIsMissing() { expectTranslationError(QStringLiteral("EN")); }
@@ -158,6 +171,7 @@ private slots:
         });
         QCOMPARE(app::runLoggedIn(window), 0);
         QVERIFY(!hung);
+        QVERIFY(!QApplication::activeModalWidget());
         QVERIFY(!session::connectedToAgent());
     }
 

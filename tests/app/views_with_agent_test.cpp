@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <QCheckBox>
 #include <QGroupBox>
+#include <QScrollBar>
 #include <QTableView>
 #include <QtTest>
 
@@ -135,6 +136,7 @@ void ViewsWithAgentTest::theAboutBoxShowsTheAgent() {
     QVERIFY(model.rowCount() > 0);
     for (int row = 0; row < model.rowCount(); ++row)
         QVERIFY(model.index(row, 0).data().toString() != QLatin1String("InitialClient"));
+    QVERIFY(!child<QTableView>(about, "tableInfo").horizontalScrollBar()->isVisible());
 }
 
 void ViewsWithAgentTest::aRenameReachesTheSet() {

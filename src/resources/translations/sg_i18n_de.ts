@@ -849,15 +849,15 @@ Klicken Sie hier, um diesen Hinweis nicht mehr zu sehen.</translation>
     </message>
     <message>
         <source>%1 KB</source>
-        <translation>%1 KB</translation>
+        <translation>%L1 KB</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <translation>%L1 MB</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation>%1 GB</translation>
+        <translation>%L1 GB</translation>
     </message>
 </context>
 </TS>
