@@ -44,6 +44,16 @@ std::string asLine(std::string text) {
     return text;
 }
 
+void furnish(World& world, const Options& options) {
+    world.clientType = options.clientType.value_or(world.clientType);
+    for (const std::int32_t tool : options.disabledTools)
+        world.tools.erase(tool);
+    if (!options.twoFactorCode)
+        return;
+    world.twoFactor = true;
+    world.twoFactorCode = *options.twoFactorCode;
+}
+
 } // namespace
 
 /// A call on its way.
@@ -57,7 +67,8 @@ struct Agent::Step {
 Agent::Agent(Options options)
     : options_(std::move(options))
     , world_(options_.clock, options_.speed, options_.seed) {
-    populate(world_, options_.scenario);
+    populate(world_, options_.scenario, options_.osType);
+    furnish(world_, options_);
     if (options_.logFile.empty())
         return;
     log_.open(options_.logFile, std::ios::app);

@@ -47,6 +47,22 @@ Scenario scenario(const std::string& name) {
     return *found;
 }
 
+/// False if there is no such option.
+bool applyToWorld(Options& options, const std::string& option, const std::string& value) {
+    constexpr std::int32_t greatest = 99;
+    if (option == "--client-type")
+        options.clientType = number(option, value, 0, greatest);
+    else if (option == "--os-type")
+        options.osType = number(option, value, 0, 2);
+    else if (option == "--without-tool")
+        options.disabledTools.push_back(number(option, value, 0, greatest));
+    else if (option == "--two-factor")
+        options.twoFactorCode = value;
+    else
+        return false;
+    return true;
+}
+
 void applyValue(Options& options, const std::string& option, const std::string& value) {
     if (option == "--port")
         options.port = number<std::uint16_t>(option, value, 0, 65535);
@@ -62,13 +78,14 @@ void applyValue(Options& options, const std::string& option, const std::string& 
         options.speed = number<double>(option, value, 1 / fastest, fastest);
     else if (option == "--log")
         options.logFile = value;
-    else
+    else if (!applyToWorld(options, option, value))
         throw BadOption("there is no option '" + option + "'");
 }
 
 bool takesValue(std::string_view option) {
     for (const std::string_view known :
-         {"--port", "--scenario", "--user", "--password", "--domain", "--speed", "--log"})
+         {"--port", "--scenario", "--user", "--password", "--domain", "--speed", "--log",
+          "--client-type", "--os-type", "--without-tool", "--two-factor"})
         if (option == known)
             return true;
     return false;
@@ -107,6 +124,12 @@ A backup agent to show and to test the client with. It listens on 127.0.0.1 only
   --port PORT          listen on this port; 0 takes a free one (default 4411)
   --scenario NAME      what the agent holds: default, empty, central, notebook,
                        first-run, unix or large
+  --client-type NUMBER the kind of agent, in place of the scenario's: 8 and 9 are of the mobile
+                       kind, 14 of the notebook kind
+  --os-type NUMBER     its system, in place of the scenario's: 0 is Windows, 1 and 2 are Unix
+  --without-tool NUMBER
+                       switch a tool off; may be repeated. Without 8 sets can't use local storage
+  --two-factor CODE    ask for this code before sets are made or changed
   --user NAME          who may log in (default demo)
   --password TEXT      with which password (default demo)
   --domain NAME        a domain that the user may belong to; may be repeated

@@ -35,6 +35,11 @@ struct Options {
     std::string logFile{};
     bool plain = false; ///< no TLS
 
+    std::optional<std::int32_t> clientType{};   ///< in place of the scenario's: 8, 9, 14 ...
+    std::optional<std::int32_t> osType{};       ///< likewise: 0 for Windows, 1 or 2 for Unix
+    std::vector<std::int32_t> disabledTools{};  ///< 8 lets sets use local storage
+    std::optional<std::string> twoFactorCode{}; ///< switches two-factor authentication on
+
     Clock clock = systemClock();
     std::uint64_t seed = 1;
     /// Plays the agent's part of an integrated logon; without it each one is refused.

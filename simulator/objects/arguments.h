@@ -45,15 +45,16 @@ std::shared_ptr<C> readReference(hessianser::Cursor& in, References& references)
     return object;
 }
 
-/// A value must stand as the writer of its kind writes it: keys in their order, lists bare.
-template <class T>
+/// A value must stand as the writer of its kind writes it: keys in their order, lists bare. It is
+/// told as a `Shown`.
+template <class T, class Shown = T>
 T readCanonical(hessianser::Cursor& in) {
     const char* const begin = in.pos;
     T value = hessianser::readValue<T>(in);
     std::string canonical;
     hessianser::writeValue(value, canonical);
     if (canonical != std::string_view(begin, static_cast<std::size_t>(in.pos - begin)))
-        throw Violation("the value " + describe(value) + " isn't written as its kind is");
+        throw Violation("the value " + describe(Shown{value}) + " isn't written as its kind is");
     return value;
 }
 
@@ -79,7 +80,7 @@ T readArgument(hessianser::Cursor& in, References& references) {
         }
         return list;
     } else if constexpr (std::is_same_v<T, Secret>) {
-        return Secret{detail::readCanonical<std::string>(in)};
+        return Secret{detail::readCanonical<std::string, Secret>(in)};
     } else {
         return detail::readCanonical<T>(in);
     }

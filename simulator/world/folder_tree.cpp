@@ -33,20 +33,21 @@ bool FolderTree::same(std::string_view one, std::string_view other) const {
     return caseMatters_ ? one == other : agreeWithoutCase(one, other);
 }
 
-const FolderTree::Node* FolderTree::child(const Node& parent, std::string_view name) const {
+std::size_t FolderTree::indexOf(const Node& parent, std::string_view name) const {
     const auto found = std::find_if(parent.children.begin(), parent.children.end(),
                                     [&](const Node& one) { return same(one.item.name, name); });
-    return found == parent.children.end() ? nullptr : &*found;
+    return static_cast<std::size_t>(found - parent.children.begin());
 }
 
 FolderTree::Node& FolderTree::make(std::string_view path) {
     Node* node = &root_;
     for (const std::string_view name : namesOf(path)) {
-        if (!child(*node, name)) {
+        const std::size_t index = indexOf(*node, name);
+        if (index == node->children.size()) {
             const Type type = node == &root_ ? Type::Drive : Type::Folder;
             node->children.push_back({{type, std::string(name), false, 0}, {}, 0, {}});
         }
-        node = const_cast<Node*>(child(*node, name));
+        node = &node->children[index];
     }
     return *node;
 }
@@ -84,12 +85,13 @@ std::vector<FolderTree::Item> FolderTree::list(std::string_view path) const {
     for (const std::string_view name : namesOf(path)) {
         if (!node->denied.empty())
             throw Refusal(node->denied);
-        const Node* const next = child(*node, name);
-        if (!next && isFolderOfBulk(*node, name))
+        const std::size_t index = indexOf(*node, name);
+        const bool missing = index == node->children.size();
+        if (missing && isFolderOfBulk(*node, name))
             return {};
-        if (!next || next->item.isfile)
+        if (missing || node->children[index].item.isfile)
             throw Refusal("There is no folder '" + std::string(path) + "'.");
-        node = next;
+        node = &node->children[index];
     }
     if (!node->denied.empty())
         throw Refusal(node->denied);

@@ -48,7 +48,8 @@ private:
 
     bool same(std::string_view one, std::string_view other) const;
     Node& make(std::string_view path);
-    const Node* child(const Node& parent, std::string_view name) const;
+    /// Where the child stands; behind all others if there is none.
+    std::size_t indexOf(const Node& parent, std::string_view name) const;
     bool isFolderOfBulk(const Node& parent, std::string_view name) const;
 
     bool caseMatters_;

@@ -129,9 +129,11 @@ void tell(World& world, const std::string& name, const std::string& value) {
     world.about.push_back({name, value});
 }
 
-void describeAgent(World& world, const std::string& system, bool central, bool firstRun) {
+void describeAgent(World& world, bool central, bool firstRun) {
+    const bool ofWindows = world.system == ClientOSType::Windows;
     tell(world, "Computer", world.computer);
-    tell(world, "Operating System", system);
+    tell(world, "Operating System",
+         ofWindows ? "Windows 11 Pro 23H2 (build 22631)" : "Debian GNU/Linux 12, kernel 6.1.0");
     tell(world, "Tarn-Client Version", "14.2.0.1180");
     tell(world, "Database", "Embedded, 214 MB");
     auto& enrolled = world.registration;
@@ -151,8 +153,6 @@ void describeAgent(World& world, const std::string& system, bool central, bool f
     tell(world, "Centrally Managed Backup Policy", central ? "Yes" : "No");
     tell(world, "InitialClient", firstRun ? "Yes" : "No");
 }
-
-const std::string windows = "Windows 11 Pro 23H2 (build 22631)";
 
 void addDiligentSets(World& world, History& history) {
     const std::string home = "C:\\Users\\anna\\";
@@ -213,7 +213,7 @@ void addOddSets(World& world) {
 }
 
 void populateWindows(World& world, bool central) {
-    describeAgent(world, windows, central, false);
+    describeAgent(world, central, false);
     History history(world);
     addDiligentSets(world, history);
     history.adminRuns(45);
@@ -244,7 +244,7 @@ void belongTo(BackupSetState& set, const SourceComputer& computer) {
 }
 
 void populateUnix(World& world) {
-    describeAgent(world, "Debian GNU/Linux 12, kernel 6.1.0", false, false);
+    describeAgent(world, false, false);
     History history(world);
     const auto home = world.addSet(
         describedSet(world, {"Home directories", {"/\\home"}, 128 * gibibyte, 512'303}));
@@ -269,7 +269,7 @@ void populateUnix(World& world) {
 }
 
 void populateLarge(World& world) {
-    describeAgent(world, windows, false, false);
+    describeAgent(world, false, false);
     constexpr int setCount = 2'000;
     constexpr std::size_t rowCount = 100'000;
     for (int i = 1; i <= setCount; ++i) {
@@ -289,7 +289,7 @@ void populateLarge(World& world) {
 }
 
 void populateBare(World& world, bool firstRun) {
-    describeAgent(world, windows, false, firstRun);
+    describeAgent(world, false, firstRun);
     if (firstRun)
         world.customer = {};
 }
@@ -303,11 +303,11 @@ std::optional<Scenario> scenarioNamed(std::string_view name) {
     return std::nullopt;
 }
 
-void populate(World& world, Scenario scenario) {
+void populate(World& world, Scenario scenario, std::optional<std::int32_t> osType) {
     const bool isUnix = scenario == Scenario::Unix;
     world.clientType = scenario == Scenario::Notebook ? 14 : 8;
     world.computer = isUnix ? "build01.example.net" : "ANNA-LAPTOP";
-    world.system = ClientOSType(isUnix ? 1 : 0);
+    world.system = ClientOSType(osType.value_or(isUnix ? 1 : 0));
     world.userEmails = {{"demo", "", "demo@example.net"}, {"anna", "OFFICE", "anna@example.net"}};
     addSources(world);
     addPlans(world);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string_view>
 
@@ -23,7 +24,7 @@ std::optional<Scenario> scenarioNamed(std::string_view name);
 
 class World;
 
-/// Fills an empty world.
-void populate(World& world, Scenario scenario);
+/// Fills an empty world. `osType` is in place of the scenario's own, as it stands on the wire.
+void populate(World& world, Scenario scenario, std::optional<std::int32_t> osType = {});
 
 } // namespace simulator

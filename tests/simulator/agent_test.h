@@ -50,6 +50,29 @@ protected:
         return raw::receiveResponse(*stream_, id_);
     }
 
+    /// The object that such a call gives.
+    std::string get(std::string_view method, std::string_view arguments = {}) {
+        return raw::referenceIn(call(method, arguments));
+    }
+    std::string getFrom(std::string_view url, std::string_view method,
+                        std::string_view arguments = {}) {
+        return raw::referenceIn(callOn(url, method, arguments));
+    }
+
+    /// An object as an argument: `as("Schedule", url)`.
+    static std::string as(const std::string& family, std::string_view url) {
+        return raw::remote("com.norvel.api." + family, url);
+    }
+
+    /// The text of a fault that isn't the client's mistake.
+    std::string refusalOf(const std::string& reply) {
+        const std::string start = raw::reply().substr(0, 3) + "f" + raw::text("code") +
+                                  raw::text("Refused") + raw::text("message") + "S";
+        if (!reply.starts_with(start))
+            return "no refusal";
+        return reply.substr(start.size() + 2, reply.size() - start.size() - 3);
+    }
+
     std::string setUrl(std::int32_t id) {
         return raw::referenceIn(call("backup_set", raw::int32(id)));
     }

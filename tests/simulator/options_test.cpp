@@ -48,6 +48,18 @@ TEST(Options, TakesEachOne) {
     EXPECT_TRUE(line.options.plain);
 }
 
+TEST(Options, TakesWhatIsInPlaceOfTheScenario) {
+    const auto options =
+        parseCommandLine({"--client-type", "14", "--os-type", "1", "--without-tool", "8",
+                          "--without-tool", "9", "--two-factor", "007"})
+            .options;
+    EXPECT_EQ(options.clientType, 14);
+    EXPECT_EQ(options.osType, 1);
+    EXPECT_EQ(options.disabledTools, (std::vector<std::int32_t>{8, 9}));
+    EXPECT_EQ(options.twoFactorCode, "007");
+    EXPECT_FALSE(parseCommandLine({}).options.twoFactorCode);
+}
+
 TEST(Options, KnowsEachScenario) {
     const std::vector<std::pair<std::string, Scenario>> scenarios{
         {"default", Scenario::Default},    {"empty", Scenario::Empty},
@@ -65,7 +77,8 @@ TEST(Options, AsksForHelpAndVersion) {
 
 TEST(Options, HelpTellsEachOne) {
     for (const char* option : {"--port", "--scenario", "--user", "--password", "--domain",
-                               "--no-guest", "--speed", "--log", "--plain", "--help", "--version"})
+                               "--no-guest", "--speed", "--log", "--plain", "--help", "--version",
+                               "--client-type", "--os-type", "--without-tool", "--two-factor"})
         EXPECT_NE(simulator::helpText().find(option), std::string_view::npos) << option;
 }
 
@@ -78,6 +91,8 @@ TEST(Options, SaysWhatIsWrong) {
     EXPECT_EQ(errorOf({"--port", "44x"}), "'44x' is no value for --port");
     EXPECT_EQ(errorOf({"--speed", "0"}), "'0' is no value for --speed");
     EXPECT_EQ(errorOf({"--speed", "nan"}), "'nan' is no value for --speed");
+    EXPECT_EQ(errorOf({"--os-type", "3"}), "'3' is no value for --os-type");
+    EXPECT_EQ(errorOf({"--client-type", "x"}), "'x' is no value for --client-type");
     EXPECT_EQ(errorOf({"--scenario", "huge"}), "there is no scenario 'huge'");
 }
 

@@ -130,6 +130,30 @@ std::string int32(std::int32_t value) {
     return "I" + bigEndian(static_cast<std::uint32_t>(value), 4);
 }
 
+std::string int64(std::int64_t value) {
+    return "L" + bigEndian(static_cast<std::uint64_t>(value), 8);
+}
+
+std::string boolean(bool value) {
+    return value ? "T" : "F";
+}
+
+std::string list(std::initializer_list<std::string> values) {
+    std::string out = "V";
+    for (const std::string& value : values)
+        out += value;
+    return out + "z";
+}
+
+std::string member(std::string_view key, std::string_view value) {
+    return text(key) + std::string(value);
+}
+
+std::string record(std::string_view type, std::string_view members) {
+    const std::string name = "com.norvel.api." + std::string(type);
+    return "Mt" + bigEndian(name.size(), 2) + name + std::string(members) + "z";
+}
+
 std::string remote(std::string_view type, std::string_view url) {
     return "rt" + bigEndian(type.size(), 2) + std::string(type) + text(url);
 }
@@ -191,9 +215,22 @@ std::uint32_t crc(std::string_view bytes) {
 }
 
 std::string referenceIn(std::string_view reply) {
-    const std::size_t scheme = reply.find("http");
-    need(scheme != std::string_view::npos, "there is no reference");
-    return std::string(reply.substr(scheme, reply.rfind('z') - scheme));
+    const auto references = referencesIn(reply);
+    need(!references.empty(), "there is no reference");
+    return references.front();
+}
+
+std::vector<std::string> referencesIn(std::string_view reply) {
+    std::vector<std::string> urls;
+    for (std::size_t at = reply.find("http"); at < reply.size(); at = reply.find("http", at)) {
+        need(at >= 2, "a reference has no length");
+        const auto byte = [&](std::size_t back) {
+            return static_cast<std::size_t>(static_cast<unsigned char>(reply[at - back]));
+        };
+        urls.emplace_back(reply.substr(at, byte(2) << 8 | byte(1)));
+        at += urls.back().size();
+    }
+    return urls;
 }
 
 } // namespace raw

@@ -3,9 +3,11 @@
 #pragma once
 
 #include <cstdint>
+#include <initializer_list>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// A client that shares no line with the product or the simulator: bytes by hand, over a socket
 /// of its own. Each wait has a limit, and fails with `std::runtime_error`.
@@ -38,6 +40,13 @@ private:
 // The forms of the wire. Texts are ASCII.
 std::string text(std::string_view value);
 std::string int32(std::int32_t value);
+std::string int64(std::int64_t value);
+std::string boolean(bool value);
+/// Of values that are written already.
+std::string list(std::initializer_list<std::string> values);
+std::string member(std::string_view key, std::string_view value);
+/// `type` without its package; the members are written already.
+std::string record(std::string_view type, std::string_view members);
 std::string remote(std::string_view type, std::string_view url);
 std::string call(std::string_view method, std::string_view arguments = {});
 
@@ -60,7 +69,10 @@ std::string receiveResponse(Connection& connection, std::uint32_t id);
 /// CRC-32, a bit at a time.
 std::uint32_t crc(std::string_view bytes);
 
-/// The URL of the reference that a reply holds.
+/// The URL of the first reference that a reply holds.
 std::string referenceIn(std::string_view reply);
+
+/// The URLs of all of them.
+std::vector<std::string> referencesIn(std::string_view reply);
 
 } // namespace raw

@@ -32,17 +32,6 @@ protected:
 
     void TearDown() override { EXPECT_THAT(agent_->violations(), IsEmpty()); }
 
-    static std::string int64(char last) { return "L\0\0\0\0\0\0\0"s + last; }
-
-    static std::string member(std::string_view key, const std::string& value) {
-        return raw::text(key) + value;
-    }
-
-    static std::string record(const std::string& type, const std::string& members) {
-        const std::string name = "com.norvel.api." + type;
-        return "Mt\0"s + static_cast<char>(name.size()) + name + members + "z";
-    }
-
     std::string reference(const std::string& reply) { return raw::referenceIn(reply); }
 
     std::string set_;
@@ -66,24 +55,26 @@ TEST_F(Remote, GivesTheOverview) {
         schedule->details.front()->type = hessiancln::ScheduleDetailType::Monthly;
         set.info.schedule_id = schedule->id;
     });
-    const std::string status = record(
-        "backup_set_status",
-        member("last_sync_time", raw::int32(1)) + member("last_successful_backup", raw::int32(2)) +
-            member("on_line_data_size", int64(3)) + member("on_line_file_count", raw::int32(4)) +
-            member("local_storage_data_size", int64(5)) +
-            member("local_storage_file_count", raw::int32(6)) +
-            member("tarnsystem_compressed_size", int64(7)));
+    const std::string status = raw::record(
+        "backup_set_status", raw::member("last_sync_time", raw::int32(1)) +
+                                 raw::member("last_successful_backup", raw::int32(2)) +
+                                 raw::member("on_line_data_size", raw::int64(3)) +
+                                 raw::member("on_line_file_count", raw::int32(4)) +
+                                 raw::member("local_storage_data_size", raw::int64(5)) +
+                                 raw::member("local_storage_file_count", raw::int32(6)) +
+                                 raw::member("tarnsystem_compressed_size", raw::int64(7)));
     EXPECT_EQ(callOn(set_, "getCurrentStatus"), raw::reply(status));
-    EXPECT_EQ(
-        callOn(set_, "getOverview"),
-        raw::reply(record("backup_set_overview_info",
-                          member("data_type", raw::int32(0)) + member("status", status) +
-                              member("min_gen", raw::int32(8)) + member("max_gen", raw::int32(9)) +
-                              member("retention_rule_id", raw::int32(3)) +
-                              member("retention_rule_name", raw::text("R")) +
-                              member("schedule_id", raw::int32(4)) +
-                              member("schedule_name", raw::text("S")) +
-                              member("schedule_type", raw::int32(3)))));
+    EXPECT_EQ(callOn(set_, "getOverview"),
+              raw::reply(raw::record("backup_set_overview_info",
+                                     raw::member("data_type", raw::int32(0)) +
+                                         raw::member("status", status) +
+                                         raw::member("min_gen", raw::int32(8)) +
+                                         raw::member("max_gen", raw::int32(9)) +
+                                         raw::member("retention_rule_id", raw::int32(3)) +
+                                         raw::member("retention_rule_name", raw::text("R")) +
+                                         raw::member("schedule_id", raw::int32(4)) +
+                                         raw::member("schedule_name", raw::text("S")) +
+                                         raw::member("schedule_type", raw::int32(3)))));
 }
 
 TEST_F(Remote, HasNoBackupTimesForASetThatNeverRan) {
@@ -92,7 +83,7 @@ TEST_F(Remote, HasNoBackupTimesForASetThatNeverRan) {
 
 TEST_F(Remote, GivesAnEmptyRowForAnActivityThatNeverRan) {
     EXPECT_THAT(callOn(set_, "getLastActivityOfType", raw::int32(0)),
-                HasSubstr(member("start_time", raw::int32(0))));
+                HasSubstr(raw::member("start_time", raw::int32(0))));
 }
 
 TEST_F(Remote, RunsABackupOnDemand) {
@@ -109,12 +100,14 @@ TEST_F(Remote, RunsABackupOnDemand) {
                 ElementsAre("BackupSet.start_backup([BackupSetItem(C:\\Papers)]"
                             ", BackupStartParameters)"));
     EXPECT_EQ(callOn(activity, "getID"), raw::reply(raw::int32(1001)));
-    EXPECT_THAT(call("running_activities"), HasSubstr(member("activity_id", raw::int32(1001))));
+    EXPECT_THAT(call("running_activities"),
+                HasSubstr(raw::member("activity_id", raw::int32(1001))));
     pass(600'000);
     EXPECT_EQ(call("running_activities"), raw::reply("Vz"));
     EXPECT_THAT(call("activity_log", raw::int32(0) + raw::int32(0x7FFFFFFF)),
-                HasSubstr(member("id", raw::int32(1001))));
-    EXPECT_THAT(callOn(set_, "backup_times"), HasSubstr(member("activity_id", raw::int32(1001))));
+                HasSubstr(raw::member("id", raw::int32(1001))));
+    EXPECT_THAT(callOn(set_, "backup_times"),
+                HasSubstr(raw::member("activity_id", raw::int32(1001))));
 }
 
 TEST_F(Remote, StopsAnActivity) {
@@ -159,10 +152,11 @@ TEST_F(Remote, TellsTheSecondFactor) {
 TEST_F(Remote, TellsTheCustomer) {
     const std::string settings = reference(call("getConfigurationManager"));
     const std::string info = reference(callOn(settings, "getUserInfoConfiguration"));
-    EXPECT_EQ(callOn(info, "getUserInfo"),
-              raw::reply(record("user_info", member("country_code", raw::int32(276)) +
-                                                 member("num_of_employees", raw::int32(1)) +
-                                                 member("industry_code", raw::int32(4)))));
+    EXPECT_EQ(
+        callOn(info, "getUserInfo"),
+        raw::reply(raw::record("user_info", raw::member("country_code", raw::int32(276)) +
+                                                raw::member("num_of_employees", raw::int32(1)) +
+                                                raw::member("industry_code", raw::int32(4)))));
 }
 
 TEST_F(Remote, HidesKeysInTheCallLog) {

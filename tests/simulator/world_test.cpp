@@ -1,8 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
+#include <algorithm>
+#include <set>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "simulator/objects/failures.h"
+#include "simulator/world/names.h"
 #include "simulator/world/scenario.h"
 #include "simulator/world/world.h"
 
@@ -256,6 +261,64 @@ TEST_F(WorldTest, LargeIsLarge) {
     const World world = make(Scenario::Large);
     EXPECT_THAT(world.sets(), SizeIs(2'000));
     EXPECT_THAT(world.activityLog(never, farAway), SizeIs(100'000));
+}
+
+TEST(FolderTree, MakesWhatIsMissingAbove) {
+    FolderTree tree;
+    tree.addFile("C:\\a\\b.txt", 7);
+    EXPECT_EQ(tree.list("").at(0).type, FolderTree::Type::Drive);
+    EXPECT_EQ(tree.list("C:").at(0).type, FolderTree::Type::Folder);
+    EXPECT_EQ(tree.list("C:\\a\\").at(0).datasize, 7);
+}
+
+TEST(FolderTree, ClosesAFolderWithAllBelowIt) {
+    FolderTree tree;
+    tree.addFolder("C:\\a\\b");
+    tree.deny("C:\\a", "No.");
+    EXPECT_THAT(tree.list("C:"), SizeIs(1));
+    EXPECT_THROW(tree.list("C:\\a"), Refusal);
+    EXPECT_THROW(tree.list("C:\\a\\b"), Refusal);
+}
+
+TEST(FolderTree, FillsAFolderWithDifferentNamesInNoOrder) {
+    FolderTree tree;
+    tree.fill("D:\\Scans", 100'000);
+    const auto items = tree.list("D:\\Scans");
+    ASSERT_THAT(items, SizeIs(100'000));
+    std::set<std::string> names;
+    for (const auto& item : items)
+        names.insert(lowerCase(item.name));
+    EXPECT_THAT(names, SizeIs(100'000));
+    EXPECT_FALSE(std::is_sorted(items.begin(), items.end(),
+                                [](const auto& a, const auto& b) { return a.name < b.name; }));
+    const auto folders =
+        std::count_if(items.begin(), items.end(), [](const auto& item) { return !item.isfile; });
+    EXPECT_EQ(folders, 10'000);
+    EXPECT_EQ(tree.list("D:\\Scans").back().name, items.back().name);
+    EXPECT_THAT(tree.list("D:\\Scans\\" + items.front().name), IsEmpty());
+    EXPECT_THROW(tree.list("D:\\Scans\\" + items.at(1).name), Refusal);
+}
+
+TEST(Names, AreJoinedWithBackslashes) {
+    EXPECT_THAT(namesOf("C:\\a\\b\\"), ::testing::ElementsAre("C:", "a", "b"));
+    EXPECT_THAT(namesOf("/\\home"), ::testing::ElementsAre("/", "home"));
+    EXPECT_THAT(namesOf(""), IsEmpty());
+    EXPECT_EQ(lastName("a\\b\\c"), "c");
+    EXPECT_EQ(nativePath("/\\home\\anna"), "/home/anna");
+    EXPECT_EQ(nativePath("C:\\Users"), "C:\\Users");
+}
+
+TEST_F(WorldTest, SetsShareSchedulesAndRules) {
+    World world = make(Scenario::Default);
+    const auto& first = *world.sets().at(0);
+    const auto& second = *world.sets().at(1);
+    world.schedules.find(first.info.schedule_id)->name = "Late";
+    world.retentionRules.find(first.info.retention_rule_id)->name = "Long";
+    EXPECT_EQ(world.infoOf(second).schedule_name, "Late");
+    EXPECT_EQ(world.infoOf(second).retention_rule_name, "Long");
+    EXPECT_EQ(world.scheduleTypeOf(second), hessiancln::ScheduleDetailType::Weekly);
+    EXPECT_EQ(world.scheduleTypeOf(*world.sets().at(3)), hessiancln::ScheduleDetailType::Monthly);
+    EXPECT_EQ(static_cast<std::int32_t>(world.scheduleTypeOf({})), 4);
 }
 
 } // namespace
