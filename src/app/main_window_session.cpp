@@ -53,6 +53,8 @@ void SimpleGUIMainWindow::showSession(const QString& server, const QString& user
 
 void SimpleGUIMainWindow::showStatus(const QString& text) {
     ui_->statusbar->showMessage(text);
+    // What comes next may be a call that blocks.
+    ui_->statusbar->repaint();
 }
 
 void SimpleGUIMainWindow::OnConnect() {

@@ -48,6 +48,9 @@ void SimpleGUIMainWindow::activityWatcherLoop() {
 void SimpleGUIMainWindow::setUpTray() {
     // A dialog over the hidden window is the last one that is seen, and its end is none.
     QGuiApplication::setQuitOnLastWindowClosed(false);
+    // At a log-out Qt would close the window, which only hides, and take that for a no to the end
+    // of the user's session.
+    QGuiApplication::setFallbackSessionManagementEnabled(false);
     actionShow_->setObjectName(QStringLiteral("actionShow"));
     actionHide_->setObjectName(QStringLiteral("actionHide"));
     trayMenu_->setObjectName(QStringLiteral("menuTray"));

@@ -42,6 +42,24 @@ QString currentUser() {
     return session::fromWire(session::currentWindowsUser());
 }
 
+/// What a status bar said each time that it was painted.
+class PaintedStatus : public QObject {
+public:
+    explicit PaintedStatus(QStatusBar& bar)
+        : bar_(bar) {
+        bar.installEventFilter(this);
+    }
+    QStringList texts;
+
+private:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint)
+            texts << bar_.currentMessage();
+        return false;
+    }
+    QStatusBar& bar_;
+};
+
 void press(QWidget& dialog, const char* button) {
     QTest::mouseClick(&child<QPushButton>(dialog, button), Qt::LeftButton);
 }
@@ -92,6 +110,13 @@ private slots:
         QCOMPARE(status(), QStringLiteral("Failed to connect to '127.0.0.1' on port 4411. O/S "
                                           "error 111 (Connection refused)"));
         QCOMPARE(window().windowTitle(), kPlainTitle);
+    }
+
+    void tellsOfTheFirstLoginBeforeThatBlocks() {
+        const PaintedStatus painted(*window().statusBar());
+        QVERIFY(!window().doLogin(true));
+        QVERIFY(!painted.texts.isEmpty());
+        QCOMPARE(painted.texts.first(), QStringLiteral("Logging to Tarn-Client..."));
     }
 
     void asksTheUserWhenTheFirstLoginFailed() {

@@ -62,6 +62,7 @@ private slots:
     void aClickOnTheIconShowsTheWindow();
     void aBalloonThatIsClickedEndsTheReminder();
     void aDialogOverTheHiddenWindowEndsNothing();
+    void aLogOutOfTheDesktopIsNotHeldUp();
     void comesBackFromBeingMinimized();
     void staysMaximizedWhenItIsRaised();
     void announcesWhatBeginsAndEnds();
@@ -169,6 +170,11 @@ void MainWindowTrayTest::aDialogOverTheHiddenWindowEndsNothing() {
         QTimer::singleShot(50, &window(), [] { QCoreApplication::exit(7); });
     });
     QCOMPARE(QCoreApplication::exec(), 7);
+}
+
+void MainWindowTrayTest::aLogOutOfTheDesktopIsNotHeldUp() {
+    // What Qt would do by itself at a log-out is to refuse it, as the window refuses to close.
+    QVERIFY(!QGuiApplication::isFallbackSessionManagementEnabled());
 }
 
 void MainWindowTrayTest::comesBackFromBeingMinimized() {
