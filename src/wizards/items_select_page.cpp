@@ -104,6 +104,8 @@ ItemsSelectPage::Contents ItemsSelectPage::fetch(const Source& source) const {
     const std::string computer = session::toWire(source.computer);
     Contents contents{source, source.browser->getPredefinedItems(computer), nullptr, std::nullopt};
     contents.model = std::make_unique<CDataSourceModel>(computer, source.browser);
+    // The top of the tree is there before the set is looked at, as if the tree were shown already.
+    contents.model->rowCount();
     if (set_)
         contents.stored = wizards::readItems(
             *set_, [&](const models::PathItem& item) { contents.model->markItem(item); });
