@@ -2,11 +2,42 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ui/error_box.h"
 
+#include <memory>
+
+#include <QGridLayout>
+#include <QLabel>
 #include <QMessageBox>
+#include <QScrollArea>
 
 #include "session/text.h"
 
 namespace ui {
+
+namespace {
+
+constexpr int mostCharacters = 2000;
+constexpr int mostLines = 20;
+constexpr QSize textSize(480, 240);
+
+bool isLong(const QString& text) {
+    return text.size() > mostCharacters || text.count(QLatin1Char('\n')) >= mostLines;
+}
+
+/// A box grows with its text, and the button below a long one would be off the screen.
+void letTextScroll(QMessageBox& box) {
+    auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    if (!label || !box.layout())
+        return;
+    auto* area = new QScrollArea(&box);
+    const std::unique_ptr<QLayoutItem> item(box.layout()->replaceWidget(label, area));
+    area->setWidget(label);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setAccessibleName(box.windowTitle());
+    area->setMinimumSize(textSize);
+}
+
+} // namespace
 
 QString errorText(const std::exception& error) {
     return session::fromWire(error.what());
@@ -16,6 +47,8 @@ void showError(QWidget* parent, const QString& title, const QString& text) {
     // A text from an agent is shown as it came, so it must not be taken for HTML.
     QMessageBox box(QMessageBox::Critical, title, text, QMessageBox::Ok, parent);
     box.setTextFormat(Qt::PlainText);
+    if (isLong(text))
+        letTextScroll(box);
     box.exec();
 }
 

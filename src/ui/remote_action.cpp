@@ -18,6 +18,8 @@ bool remoteAction(QWidget& widget, const QString& title, Cursor cursor,
         work();
         return true;
     } catch (const std::exception& error) {
+        // What is left to wait for is the user.
+        waiting.reset();
         showError(&widget, title, errorText(error));
         return false;
     }

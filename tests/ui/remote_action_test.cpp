@@ -4,10 +4,12 @@
 
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 #include <QWidget>
 
 #include "tests/support/gui_modal_driver.h"
+#include "ui/error_box.h"
 #include "ui/remote_action.h"
 
 using support::isDialog;
@@ -63,6 +65,45 @@ private slots:
         QVERIFY(modals.done());
         QCOMPARE(format, Qt::PlainText);
         QCOMPARE(parent, &window);
+    }
+
+    void theWaitIsOverWhenTheBoxShows() {
+        QWidget window;
+        Qt::CursorShape shape = Qt::WaitCursor;
+        ModalDriver modals;
+        modals.expect(QStringLiteral("box"), isDialog<QMessageBox>, [&](QWidget& box) {
+            shape = window.cursor().shape();
+            static_cast<QMessageBox&>(box).button(QMessageBox::Ok)->click();
+        });
+        ui::remoteAction(window, QStringLiteral("Error"), ui::Cursor::wait,
+                         [] { throw std::runtime_error("x"); });
+        QVERIFY(modals.done());
+        QCOMPARE(shape, Qt::ArrowCursor);
+    }
+
+    void aLongTextFitsTheScreen_data() {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("one line") << QString(65536, QLatin1Char('W'));
+        QTest::newRow("words") << QStringLiteral("word ").repeated(13000);
+        QTest::newRow("lines") << QStringLiteral("at line\n").repeated(6000);
+    }
+    void aLongTextFitsTheScreen() {
+        QFETCH(QString, text);
+        QWidget window;
+        QSize size;
+        QString shown;
+        ModalDriver modals;
+        modals.expect(QStringLiteral("box"), isDialog<QMessageBox>, [&](QWidget& widget) {
+            auto& box = static_cast<QMessageBox&>(widget);
+            size = box.size();
+            shown = box.text();
+            QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton);
+        });
+        ui::showError(&window, QStringLiteral("Error"), text);
+        QVERIFY(modals.done());
+        const QSize screen = window.screen()->availableSize();
+        QVERIFY(size.width() <= screen.width() && size.height() <= screen.height());
+        QCOMPARE(shown, text);
     }
 
     void anotherKindOfExceptionPassesThroughAndLeavesTheArrow() {
