@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QAction>
 #include <QDateTimeEdit>
+#include <QDir>
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenuBar>
@@ -11,10 +12,13 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTableView>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QToolBar>
 #include <QToolButton>
 #include <QTranslator>
+
+#include <zip.h>
 
 #include "app/simple_gui_main_window.h"
 #include "resources/pictures.h"
@@ -37,6 +41,21 @@ QStringList entries(const QWidget& bar) {
     return names;
 }
 
+QImage largest(const QIcon& icon) {
+    return icon.pixmap(1024, 1024).toImage();
+}
+
+/// Puts a file of strings into the branding archive of the current directory.
+void brand(const QByteArray& strings) {
+    zip_t* archive = zip_open("resources.zip", ZIP_CREATE | ZIP_TRUNCATE, nullptr);
+    zip_file_add(archive, "strtable.txt",
+                 zip_source_buffer(archive, strings.constData(),
+                                   static_cast<zip_uint64_t>(strings.size()), 0),
+                 ZIP_FL_OVERWRITE);
+    if (zip_close(archive) != 0)
+        qFatal("The archive can't be written: %s", zip_strerror(archive));
+}
+
 QStringList words(const char* text) {
     return QString::fromLatin1(text).split(QLatin1Char(' '));
 }
@@ -53,32 +72,51 @@ private slots:
 
     void hasItsActions_data() {
         QTest::addColumn<QString>("label");
-        QTest::addColumn<bool>("hasIcon");
-        action("actionLogin", "&Connect");
-        action("actionLogout", "&Disconnect");
-        action("actionQuit", "&Quit");
-        action("actionNew_Backup_Set", "&New Set");
-        action("actionBackup_Now", "&Backup");
-        action("actionRestore", "&Restore");
-        action("actionSynchronize", "&Synchronize");
-        action("actionDeleteFromOnline", "&Delete");
-        action("actionAdmin", "&Admin");
-        action("actionLogo", "Logo");
-        action("action_Recovery", "&Recovery");
-        action("action_About", "&About Tarn-Mobile User");
-        action("actionRegister", "R&e-Register");
-        action("actionRegistration_Info", "Registration &Info");
-        action("actionHelp", "&Help");
-        QTest::newRow("actionLDAP_Account") << QStringLiteral("LDA&P User Account") << false;
-        action("actionTFASettings", "&Two Factor Authentication");
+        QTest::addColumn<QString>("icon");
+        action("actionLogin", "&Connect", ":/icons/connect");
+        action("actionLogout", "&Disconnect", ":/icons/disconnect");
+        action("actionQuit", "&Quit", ":/icons/quit");
+        action("actionNew_Backup_Set", "&New Set", ":/icons/toolbar_new_set.png");
+        action("actionBackup_Now", "&Backup", ":/icons/toolbar_backup.png");
+        action("actionRestore", "&Restore", ":/icons/toolbar_restore.png");
+        action("actionSynchronize", "&Synchronize", ":/icons/activity_sync.png");
+        action("actionDeleteFromOnline", "&Delete", ":/button/delete");
+        action("actionAdmin", "&Admin", ":/icons/config");
+        action("actionLogo", "Logo", ":/icons/norvel_logo");
+        action("action_Recovery", "&Recovery", ":/icons/recovery");
+        action("action_About", "&About Tarn-Mobile User", ":/icons/about.png");
+        action("actionRegister", "R&e-Register", ":/tree/selected_file");
+        action("actionRegistration_Info", "Registration &Info", ":/icons/reg_info.png");
+        action("actionHelp", "&Help", ":/icons/help.png");
+        action("actionLDAP_Account", "LDA&P User Account", "");
+        action("actionTFASettings", "&Two Factor Authentication", ":/icons/icon_tfa.png");
     }
     void hasItsActions() {
         QFETCH(QString, label);
-        QFETCH(bool, hasIcon);
+        QFETCH(QString, icon);
         const auto& found = child<QAction>(*window_, QTest::currentDataTag());
         QCOMPARE(found.text(), label);
-        QCOMPARE(!found.icon().pixmap(32).isNull(), hasIcon);
+        QCOMPARE(found.icon().isNull(), icon.isEmpty());
+        if (!icon.isEmpty())
+            QCOMPARE(largest(found.icon()), largest(QIcon(icon)));
         QVERIFY(found.shortcut().isEmpty());
+    }
+
+    void showsTheBranding() {
+        const auto& logo = child<QAction>(*window_, "actionLogo");
+        QCOMPARE(logo.toolTip(), QStringLiteral("Norvel Inc"));
+        QCOMPARE(largest(window_->windowIcon()),
+                 largest(QIcon(QStringLiteral(":/icons/tarn_mobile_icon"))));
+
+        const QString before = QDir::currentPath();
+        const QTemporaryDir branded;
+        QVERIFY(QDir::setCurrent(branded.path()));
+        brand("description : Our Company\n");
+        window_ = std::make_unique<SimpleGUIMainWindow>();
+        QVERIFY(QDir::setCurrent(before));
+        const auto& ours = child<QAction>(*window_, "actionLogo");
+        QCOMPARE(ours.toolTip(), QStringLiteral("Our Company"));
+        QCOMPARE(largest(ours.icon()), largest(QIcon(QStringLiteral(":/icons/norvel_logo"))));
     }
 
     void hasItsMenus() {
@@ -230,8 +268,8 @@ private slots:
     }
 
 private:
-    static void action(const char* name, const char* label) {
-        QTest::newRow(name) << QString::fromLatin1(label) << true;
+    static void action(const char* name, const char* label, const char* icon) {
+        QTest::newRow(name) << QString::fromLatin1(label) << QString::fromLatin1(icon);
     }
 
     std::unique_ptr<SimpleGUIMainWindow> window_;
