@@ -124,12 +124,14 @@ A backup agent to show and to test the client with. It listens on 127.0.0.1 only
   --port PORT          listen on this port; 0 takes a free one (default 4411)
   --scenario NAME      what the agent holds: default, empty, central, notebook,
                        first-run, unix or large
-  --client-type NUMBER the kind of agent, in place of the scenario's: 8 and 9 are of the mobile
-                       kind, 14 of the notebook kind
-  --os-type NUMBER     its system, in place of the scenario's: 0 is Windows, 1 and 2 are Unix
+  --client-type NUMBER
+                       the agent's kind, in place of the scenario's: 8 and 9
+                       are mobile, 14 is a notebook
+  --os-type NUMBER     its system, likewise: 0 is Windows, 1 and 2 are Unix
   --without-tool NUMBER
-                       switch a tool off; may be repeated. Without 8 sets can't use local storage
-  --two-factor CODE    ask for this code before sets are made or changed
+                       switch a tool off; may be repeated. Without 8 sets
+                       can't use local storage
+  --two-factor CODE    switch two-factor authentication on, with this code
   --user NAME          who may log in (default demo)
   --password TEXT      with which password (default demo)
   --domain NAME        a domain that the user may belong to; may be repeated

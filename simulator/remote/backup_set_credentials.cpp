@@ -27,6 +27,13 @@ std::string BackupSetCredentials::label() const {
            (state_->usingClientAccount ? "the agent's own account" : state_->user) + ")";
 }
 
+void BackupSetCredentials::offerLogin() {
+    on("getUserName", [this] { return state_->user; });
+    on("setCredentials", [this](const std::string& user, const Secret& password) {
+        setLogin(user, password.text, "", "");
+    });
+}
+
 void BackupSetCredentials::setLogin(const std::string& user, const std::string& password,
                                     const std::string& keyFile, const std::string& passphrase) {
     if (user.empty())

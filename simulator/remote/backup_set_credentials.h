@@ -22,6 +22,9 @@ public:
     std::string label() const override;
 
 protected:
+    /// The methods by which a class that asks for a user and a password takes them.
+    void offerLogin();
+
     /// A new login in place of the old one. Raises `Refusal` if there is no user.
     void setLogin(const std::string& user, const std::string& password, const std::string& keyFile,
                   const std::string& passphrase);

@@ -15,10 +15,7 @@ public:
                                         State login)
         : BackupSetCredentials(std::move(opened), world, std::move(login)) {
         implements("UnixFS_Generic_BackupSetCredentials");
-        on("getUserName", [this] { return state_->user; });
-        on("setCredentials", [this](const std::string& user, const Secret& password) {
-            setLogin(user, password.text, "", "");
-        });
+        offerLogin();
     }
 };
 

@@ -9,6 +9,7 @@
 
 #include "simulator/world/history.h"
 #include "simulator/world/names.h"
+#include "simulator/world/plans.h"
 #include "simulator/world/sources.h"
 #include "simulator/world/world.h"
 
@@ -19,8 +20,6 @@ using hessiancln::ActivityType;
 using hessiancln::BackupDataType;
 using hessiancln::ClientOSType;
 using hessiancln::KeyEncryptionType;
-using hessiancln::RetentionTimeUnit;
-using hessiancln::ScheduleDetailType;
 
 constexpr Milliseconds quarterOfAnHour = 15 * 60 * 1000;
 constexpr std::int64_t mebibyte = 1 << 20;
@@ -35,46 +34,6 @@ constexpr std::array<std::pair<std::string_view, Scenario>, 7> names{{
     {"unix", Scenario::Unix},
     {"large", Scenario::Large},
 }};
-
-// The ids of what `addPlans` makes, in its order.
-constexpr std::int32_t everyEvening = 1;
-constexpr std::int32_t firstOfTheMonth = 2;
-constexpr std::int32_t standardRetention = 1;
-
-/// Schedules and retention rules, two of each that sets share and one that a client of this kind
-/// doesn't make.
-void addPlans(World& world) {
-    const auto add = [&world](const std::string& name, const ScheduleDetailState& detail) {
-        ScheduleState schedule;
-        schedule.name = name;
-        schedule.details.push_back(std::make_shared<ScheduleDetailState>(detail));
-        world.schedules.add(std::move(schedule));
-    };
-    constexpr std::int32_t backupAndRetention = 3;
-    constexpr std::int32_t unknownTask = 4;
-    add("Every evening",
-        {ScheduleDetailType::Weekly, 127, {20, 0, 0}, {{30, 0, 0}}, 0, backupAndRetention});
-    add("First of the month", {ScheduleDetailType::Monthly, 1, {19, 30, 0}, {}, 0, 1});
-    add("On start-up",
-        {ScheduleDetailType(0), 1, {8, 15, 0}, {{12, 0, 0}}, 2, backupAndRetention + unknownTask});
-
-    RetentionRuleState standard;
-    standard.name = "Standard retention";
-    standard.keepLast = 30;
-    standard.cleanupRemoved = true;
-    for (const auto valid : {RetentionTimeUnit::Weeks, RetentionTimeUnit::Months}) {
-        const auto shorter = static_cast<RetentionTimeUnit>(static_cast<std::int32_t>(valid) - 1);
-        standard.options.push_back(std::make_shared<RetentionOptionState>(
-            RetentionOptionState{true, {1, valid}, {1, shorter}}));
-    }
-    world.retentionRules.add(std::move(standard));
-
-    RetentionRuleState strange;
-    strange.name = "By the hour";
-    strange.options.push_back(std::make_shared<RetentionOptionState>(
-        RetentionOptionState{false, {36, RetentionTimeUnit(2)}, {}}));
-    world.retentionRules.add(std::move(strange));
-}
 
 /// What a set starts with; the rest follows.
 struct SetDescription {
@@ -99,8 +58,8 @@ BackupSetState describedSet(const World& world, const SetDescription& described)
     info.has_items = !described.folders.empty();
     info.owner_id = 1;
     info.owner_name = "anna";
-    info.retention_rule_id = standardRetention;
-    info.schedule_id = everyEvening;
+    info.retention_rule_id = plans::standardRetention;
+    info.schedule_id = plans::everyEvening;
     info.online_data_size = described.size;
     info.online_file_count = described.files;
     info.tarnsys_compressed_size = described.size * 58 / 100;
@@ -173,7 +132,7 @@ void addDiligentSets(World& world, History& history) {
     history.run(projects, ActivityType::Synchronization, 15'000, 48, 203'448, 0);
     history.run(pictures, ActivityType::Delete, 52'000, 31, 1'204, 3 * gibibyte);
 
-    projects->info.schedule_id = firstOfTheMonth;
+    projects->info.schedule_id = plans::firstOfTheMonth;
     projects->items.push_back(excluded(*projects, "D:\\Projects\\Archive"));
     projects->items.push_back(filtered(*projects, "D:", R"(.*\.(|tmp|swp|bak))", false));
     for (const char* const types : {"jpg|jpeg|png|tif", "avi|mov|mpeg|mpg"})

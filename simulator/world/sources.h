@@ -17,7 +17,9 @@ class World;
 ///     web01.example.net  SSH, without presets
 ///
 /// On each of them "anna" and "backup" may log in with the password; so may "root" on Unix, whom
-/// others can become. Folders that are closed are there as well, and a large one.
+/// others can become. A computer asks for another kind of login if its `kind` is changed:
+///
+///     world.network.local()->kind = LoginKind::Ssh;
 namespace sources {
 
 inline constexpr std::string_view password = "sesame";
