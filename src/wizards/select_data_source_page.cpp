@@ -50,7 +50,6 @@ SelectDataSourcePage::SelectDataSourcePage(const AdministratorTest& isAdministra
                                              isAdministrator(session::currentUser()));
     OnShowNetDiscoveryTree();
     ui_->editComputerName->setText(fromWire(browser_->expandToFullPath("My Computer")));
-    ui_->treeNetworkDiscovery->setModel(model_.get());
     connectWidgets();
     takeNeededCredentials();
     refresh();
@@ -62,8 +61,6 @@ void SelectDataSourcePage::connectWidgets() {
     using Page = SelectDataSourcePage;
     connect(ui_->btnShowNetDiscovery, &QPushButton::toggled, this, &Page::OnShowNetDiscoveryTree);
     connect(ui_->treeNetworkDiscovery, &QTreeView::expanded, this, &Page::treeExpanded);
-    connect(ui_->treeNetworkDiscovery->selectionModel(), &QItemSelectionModel::selectionChanged,
-            this, &Page::treeSelectionChanged);
     connect(ui_->editComputerName, &QLineEdit::textChanged, this, &Page::computerNameChanged);
     connect(ui_->editComputerName, &QLineEdit::editingFinished, this, &Page::computerNameEdited);
     connect(ui_->btnConnectAs, &QPushButton::clicked, this, &Page::OnSelectConnectAs);
@@ -211,7 +208,7 @@ void SelectDataSourcePage::computerNameEdited() {
     });
     if (!expanded)
         return;
-    ui_->treeNetworkDiscovery->selectionModel()->clearSelection();
+    ui_->treeNetworkDiscovery->clearSelection();
     refresh();
     setComplete(true);
 }
@@ -230,8 +227,21 @@ void SelectDataSourcePage::treeExpanded(const QModelIndex& index) {
     ui_->treeNetworkDiscovery->scrollTo(index, QAbstractItemView::PositionAtTop);
 }
 
+/// A view has its model look for the first rows as soon as it has one, even while it is hidden; and
+/// a look into the network takes its time.
+void SelectDataSourcePage::giveTreeItsModel() {
+    QTreeView* tree = ui_->treeNetworkDiscovery;
+    if (tree->model() == model_.get())
+        return;
+    tree->setModel(model_.get());
+    connect(tree->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &SelectDataSourcePage::treeSelectionChanged);
+}
+
 void SelectDataSourcePage::OnShowNetDiscoveryTree() {
     const bool shown = ui_->btnShowNetDiscovery->isChecked();
+    if (shown)
+        giveTreeItsModel();
     ui_->treeNetworkDiscovery->setVisible(shown);
     ui_->editComputerName->setReadOnly(shown);
     QSizePolicy policy = ui_->groupDataSource->sizePolicy();

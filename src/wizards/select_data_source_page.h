@@ -77,6 +77,7 @@ private:
     using Credentials = boost::shared_ptr<hessiancln::BackupSetCredentials>;
 
     void connectWidgets();
+    void giveTreeItsModel();
     void takeNeededCredentials();
     bool showComputerOfFileSet(hessiancln::BackupSet& set);
     void setComplete(bool complete);

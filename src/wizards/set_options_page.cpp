@@ -96,6 +96,7 @@ void SetOptionsPage::on_editLocalPath_textChanged() {
 void SetOptionsPage::on_btnLocalPath_toggled(bool checked) {
     ui_->editLocalPath->setReadOnly(checked);
     if (checked) {
+        giveTreeItsModel();
         ui_->treeDisplayStack->setCurrentWidget(ui_->treeAvailableDirectories);
         moveTreeToPath();
     } else {
@@ -106,11 +107,21 @@ void SetOptionsPage::on_btnLocalPath_toggled(bool checked) {
 void SetOptionsPage::buildModels(const boost::shared_ptr<hessiancln::DataSourceBrowser>& browser) {
     auto model = std::make_unique<CRestoreDestinationModel>("Tarn-Client Computer", browser);
     auto directories = std::make_unique<CRestoreDestinationDirectoryOnlyModel>(*model);
-    ui_->treeAvailableDirectories->setModel(directories.get());
+    ui_->treeAvailableDirectories->setModel(nullptr);
     directories_ = std::move(directories);
     model_ = std::move(model);
-    connect(ui_->treeAvailableDirectories->selectionModel(), &QItemSelectionModel::selectionChanged,
-            this, &SetOptionsPage::dirTreeSelectionChanged);
+    if (ui_->btnLocalPath->isChecked())
+        giveTreeItsModel();
+}
+
+/// A view has its model look for the first rows as soon as it has one, even behind another page.
+void SetOptionsPage::giveTreeItsModel() {
+    QTreeView* tree = ui_->treeAvailableDirectories;
+    if (!directories_ || tree->model() == directories_.get())
+        return;
+    tree->setModel(directories_.get());
+    connect(tree->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &SetOptionsPage::dirTreeSelectionChanged);
 }
 
 bool SetOptionsPage::moveTreeToPath() {

@@ -56,6 +56,7 @@ protected:
 
 private:
     void buildModels(const boost::shared_ptr<hessiancln::DataSourceBrowser>& browser);
+    void giveTreeItsModel();
     bool isFolderWanted() const;
     void showFolderIfWanted();
     void showFolder(bool shown);

@@ -28,3 +28,11 @@ void resetSession() {
 }
 
 } // namespace support
+
+template <>
+char* QTest::toString(const std::vector<std::string>& calls) {
+    QByteArray text;
+    for (const std::string& call : calls)
+        text += "\n      " + QByteArray::fromStdString(call);
+    return qstrdup(text.constData());
+}

@@ -2,6 +2,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <string>
+#include <vector>
+
+#include <QTest>
+
 #include "simulator/simulator.h"
 
 namespace support {
@@ -19,3 +24,11 @@ public:
 void resetSession();
 
 } // namespace support
+
+namespace QTest {
+
+/// What a failed comparison of calls prints.
+template <>
+char* toString(const std::vector<std::string>& calls);
+
+} // namespace QTest

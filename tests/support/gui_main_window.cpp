@@ -113,11 +113,3 @@ std::vector<std::string> methodsOf(const simulator::Simulator& agent) {
 }
 
 } // namespace support
-
-template <>
-char* QTest::toString(const std::vector<std::string>& calls) {
-    QByteArray text;
-    for (const std::string& call : calls)
-        text += "\n      " + QByteArray::fromStdString(call);
-    return qstrdup(text.constData());
-}

@@ -79,11 +79,3 @@ QStringList cardsOf(GuiAgent& agent);
 std::vector<std::string> methodsOf(const simulator::Simulator& agent);
 
 } // namespace support
-
-namespace QTest {
-
-/// What a failed comparison of calls prints.
-template <>
-char* toString(const std::vector<std::string>& calls);
-
-} // namespace QTest
