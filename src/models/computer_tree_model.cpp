@@ -40,10 +40,9 @@ void CComputerTreeModel::fetch(models::LazyNode& node) const {
     if (node.isFetched())
         return;
     auto children = node.load();
-    if (children.empty()) {
-        announceEmpty(node);
+    announceFetched(node);
+    if (children.empty())
         return;
-    }
     // Until now the container had no rows, so views are told, whoever it was that looked.
     auto& model = const_cast<CComputerTreeModel&>(*this);
     model.beginInsertRows(indexOf(node), 0, static_cast<int>(children.size()) - 1);

@@ -73,8 +73,9 @@ bool CDataSourceModel::isDirectory(const QModelIndex& index) const {
 }
 
 void CDataSourceModel::checkStateChanged(CDataSourceItem& item) {
-    const QModelIndex index = indexOf(item);
-    emit dataChanged(index, index);
+    // The root, which nobody sees, has no index.
+    if (const QModelIndex index = indexOf(item); index.isValid())
+        emit dataChanged(index, index);
     emit itemSelectionChanged();
 }
 

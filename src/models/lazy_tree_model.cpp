@@ -63,11 +63,10 @@ void LazyTreeModel::fetch(LazyNode& node) const {
     if (node.isFetched())
         return;
     node.fetch();
-    if (node.children().empty())
-        announceEmpty(node);
+    announceFetched(node);
 }
 
-void LazyTreeModel::announceEmpty(LazyNode& node) const {
+void LazyTreeModel::announceFetched(LazyNode& node) const {
     if (node.isLeaf() || !node.parent())
         return;
     auto* model = const_cast<LazyTreeModel*>(this);

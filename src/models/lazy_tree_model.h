@@ -38,9 +38,9 @@ protected:
     /// Has the node fetch its children, if it hasn't yet.
     virtual void fetch(LazyNode& node) const;
 
-    /// Tells views that a node turned out to have no children, which changes its look; not at once,
+    /// Tells views that a node was fetched, and with that may have changed its look. Not at once,
     /// since it is views at work that have nodes fetched.
-    void announceEmpty(LazyNode& node) const;
+    void announceFetched(LazyNode& node) const;
 
 private:
     std::unique_ptr<LazyNode> root_;
