@@ -9,6 +9,7 @@
 
 #include <QString>
 
+#include "hessian/byte_order.h"
 #include "session/text.h"
 
 namespace models {
@@ -59,70 +60,101 @@ void appendKey(std::string& key, const RankedName& ranked) {
         appendFolded(key, session::fromWire(name));
 }
 
-/// The key of a name, and where the name stood. Most comparisons are decided by the first bytes.
-struct Entry {
-    std::uint64_t head;
-    std::string_view key;
-    std::size_t place;
-
-    Entry(std::string_view keyOfName, std::size_t placeOfName)
-        : head(firstBytes(keyOfName))
-        , key(keyOfName)
-        , place(placeOfName) {}
-
-    bool operator<(const Entry& other) const {
-        if (head != other.head)
-            return head < other.head;
-        if (const int order = key.compare(other.key))
-            return order < 0;
-        return place < other.place;
-    }
-
-    /// The first byte counts most.
-    static std::uint64_t firstBytes(std::string_view key) {
-        std::uint64_t bytes = 0;
-        for (std::size_t i = 0; i < sizeof bytes; ++i)
-            bytes = bytes << 8 | (i < key.size() ? static_cast<unsigned char>(key[i]) : 0);
-        return bytes;
-    }
-};
-
 /// The keys of all names, one behind the other.
-struct Keys {
-    std::string bytes;
-    std::vector<std::size_t> ends;
-
+class Keys {
+public:
     explicit Keys(const std::vector<RankedName>& names) {
         std::size_t size = 0;
         for (const RankedName& each : names)
             size += 1 + each.name.size();
-        bytes.reserve(size);
-        ends.reserve(names.size());
+        bytes_.reserve(size);
+        ends_.reserve(names.size() + 1);
+        ends_.push_back(0);
         for (const RankedName& each : names) {
-            appendKey(bytes, each);
-            ends.push_back(bytes.size());
+            appendKey(bytes_, each);
+            ends_.push_back(bytes_.size());
         }
     }
 
-    std::vector<Entry> entries() const {
-        std::vector<Entry> entries;
-        entries.reserve(ends.size());
-        const std::string_view all = bytes;
-        std::size_t begin = 0;
-        for (std::size_t place = 0; place < ends.size(); ++place) {
-            entries.emplace_back(all.substr(begin, ends[place] - begin), place);
-            begin = ends[place];
-        }
-        return entries;
+    std::string_view at(std::size_t place) const {
+        return std::string_view(bytes_).substr(ends_[place], ends_[place + 1] - ends_[place]);
     }
+
+private:
+    std::string bytes_;
+    std::vector<std::size_t> ends_; ///< the first one begins at 0
 };
+
+/// A few bytes of a key as a number, the first one counting most, and whose key it is.
+struct Entry {
+    std::uint64_t word;
+    std::size_t place;
+
+    bool operator<(const Entry& other) const { return word < other.word; }
+};
+
+std::uint64_t wordAt(std::string_view key, std::size_t begin) {
+    std::uint64_t word = 0;
+    if (begin + sizeof word <= key.size())
+        return hessianser::loadBigEndian<std::uint64_t>(key.data() + begin);
+    for (std::size_t i = begin; i < begin + sizeof word; ++i)
+        word = word << 8 | (i < key.size() ? static_cast<unsigned char>(key[i]) : 0);
+    return word;
+}
+
+/// Entries whose keys are alike up to `depth`.
+struct Run {
+    std::vector<Entry>::iterator begin;
+    std::vector<Entry>::iterator end;
+    std::size_t depth;
+};
+
+/// Sorts a run whose keys are alike to their ends, but for zeros that one of them may have there.
+void sortAlike(const Run& run, const Keys& keys) {
+    std::sort(run.begin, run.end, [&](const Entry& a, const Entry& b) {
+        const auto sizeOfA = keys.at(a.place).size();
+        const auto sizeOfB = keys.at(b.place).size();
+        return sizeOfA != sizeOfB ? sizeOfA < sizeOfB : a.place < b.place;
+    });
+}
+
+/// Sorts a run by the next word of its keys, and leaves what is still alike in `runs`.
+void sortByWord(const Run& run, const Keys& keys, std::vector<Run>& runs) {
+    bool hasWord = false;
+    for (auto entry = run.begin; entry != run.end; ++entry) {
+        const std::string_view key = keys.at(entry->place);
+        entry->word = wordAt(key, run.depth);
+        hasWord |= run.depth < key.size();
+    }
+    if (!hasWord) {
+        sortAlike(run, keys);
+        return;
+    }
+    std::sort(run.begin, run.end);
+    for (auto begin = run.begin; begin != run.end;) {
+        const auto end = std::find_if(
+            begin, run.end, [&](const Entry& entry) { return entry.word != begin->word; });
+        if (end - begin > 1)
+            runs.push_back({begin, end, run.depth + sizeof begin->word});
+        begin = end;
+    }
+}
 
 } // namespace
 
+// Word by word, so that long names that begin alike aren't compared from their start each time.
 std::vector<std::size_t> shownOrder(const std::vector<RankedName>& names) {
     const Keys keys(names);
-    std::vector<Entry> entries = keys.entries();
-    std::sort(entries.begin(), entries.end());
+    std::vector<Entry> entries;
+    entries.reserve(names.size());
+    for (std::size_t place = 0; place < names.size(); ++place)
+        entries.push_back({0, place});
+    std::vector<Run> runs{{entries.begin(), entries.end(), 0}};
+    while (!runs.empty()) {
+        const Run run = runs.back();
+        runs.pop_back();
+        sortByWord(run, keys, runs);
+    }
     std::vector<std::size_t> order;
     order.reserve(entries.size());
     for (const Entry& entry : entries)

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <boost/shared_ptr.hpp>
+
+#include "api/data_source_browser.h"
+
+namespace bench {
+
+/// Names as a folder may have them, in no order; some aren't plain ASCII.
+std::vector<std::string> folderNames(std::size_t count);
+
+/// An agent within the program, with a drive "C:" that holds nothing but what is given. The replies
+/// are encoded once, so that it takes no time of its own but for a copy.
+class PreparedBrowser {
+public:
+    PreparedBrowser(const std::vector<std::string>& names, bool areFolders);
+
+    boost::shared_ptr<hessiancln::DataSourceBrowser> browser() const;
+
+    /// Calls so far.
+    std::size_t calls() const;
+
+private:
+    class Agent;
+
+    boost::shared_ptr<Agent> agent_;
+};
+
+} // namespace bench
