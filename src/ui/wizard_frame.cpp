@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ui/wizard_frame.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QPixmap>
 #include <QPushButton>
 #include <QWizard>
@@ -22,6 +22,16 @@ struct WizardButtonText {
     Q_DECLARE_TR_FUNCTIONS(WizardButtonText)
 };
 
+/// A picture in the size that suits the screen, which only icons find by themselves.
+QPixmap picture(const QString& resource) {
+    if (qApp->devicePixelRatio() > 1) {
+        const QPixmap large(resource + QStringLiteral("@2x"));
+        if (!large.isNull())
+            return large;
+    }
+    return QPixmap(resource);
+}
+
 void setButton(QWizard& wizard, QWizard::WizardButton which, const QString& text,
                const QString& icon) {
     wizard.setButton(which, new QPushButton(QIcon(icon), text, &wizard));
@@ -34,7 +44,7 @@ void setButton(QWizard& wizard, QWizard::WizardButton which, const QString& text
 void frameWizard(QWizard& wizard, const QString& title, const QString& watermark) {
     wizard.setWindowTitle(title);
     wizard.setWindowIcon(g_branding.applicationIcon());
-    wizard.setPixmap(QWizard::WatermarkPixmap, QPixmap(watermark));
+    wizard.setPixmap(QWizard::WatermarkPixmap, picture(watermark));
     setButton(wizard, QWizard::BackButton, WizardButtonText::tr("&Back"),
               QStringLiteral(":/button/back"));
     setButton(wizard, QWizard::NextButton, WizardButtonText::tr("&Next"),

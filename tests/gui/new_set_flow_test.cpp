@@ -1,0 +1,215 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include <algorithm>
+
+#include <QLineEdit>
+#include <QTableView>
+#include <QTest>
+#include <QToolButton>
+
+#include "resources/pictures.h"
+#include "session/connection.h"
+#include "simulator/world/world.h"
+#include "tests/gui/new_set_calls.h"
+#include "tests/support/gui_wizard.h"
+
+using simulator::Scenario;
+using simulator::World;
+using support::callsOf;
+using support::child;
+using support::difference;
+using support::isDialog;
+using support::ModalDriver;
+using Calls = std::vector<std::string>;
+
+Q_DECLARE_METATYPE(simulator::Scenario)
+Q_DECLARE_METATYPE(std::vector<std::string>)
+
+namespace {
+
+const Calls kOptionsPage{"ClientConnection.getConfigurationManager()",
+                         "ClientConfiguration.getClientOSType()"};
+const Calls kOptionsWritten{"BackupSet.setLocalStoragePath(\"\")",
+                            "BackupSet.setUsingLocalStorage(false)",
+                            "BackupSet.setUsingLocalTransmissionCache(false)"};
+const Calls kShadowCopies{"BackupSet.types()", "Win32FS_BackupSet.setUseVSS(true)"};
+
+QString q(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+/// Takes away calls that come one after the other.
+Calls without(Calls calls, const Calls& unwanted) {
+    const auto found = std::search(calls.begin(), calls.end(), unwanted.begin(), unwanted.end());
+    if (found == calls.end())
+        qFatal("There is no call %s", unwanted.front().c_str());
+    calls.erase(found, found + static_cast<std::ptrdiff_t>(unwanted.size()));
+    return calls;
+}
+
+/// Puts these calls behind the first one of that text.
+Calls withBehind(Calls calls, const std::string& place, const Calls& more) {
+    const auto found = std::find(calls.begin(), calls.end(), place);
+    if (found == calls.end())
+        qFatal("There is no call %s", place.c_str());
+    calls.insert(found + 1, more.begin(), more.end());
+    return calls;
+}
+
+} // namespace
+
+/// The new set flow, clicked through against an agent, and all that it says to it.
+class NewSetFlowTest : public QObject {
+    Q_OBJECT
+private slots:
+    void initTestCase() { resources::initPictures(); }
+    void cleanup() { test_.end(); }
+
+    void aNewSet_data();
+    void aNewSet();
+    void aNewSetIsSelectedByTheNextHeartbeat();
+    void aNewSetOfUnixFilesFailsAtTheCast();
+    void aNameThatIsTakenKeepsTheWizardOpen();
+    void givingUpTheCodeMakesNoSet();
+    void aSessionThatEndsUnderTheWizard();
+    void theFirstSetIsOfferedAtLogin();
+    void underCentralManagementNoSetIsMadeOrOffered();
+
+private:
+    support::WizardTest test_;
+};
+
+void NewSetFlowTest::aNewSet_data() {
+    QTest::addColumn<Scenario>("scenario");
+    QTest::addColumn<bool>("tool");
+    QTest::addColumn<bool>("twoFactor");
+    QTest::addColumn<int>("pages");
+    QTest::addColumn<Calls>("expected");
+    const Calls all = gui::newSetCalls();
+    const Calls withoutTool = without(without(all, kOptionsPage), kOptionsWritten);
+    const Calls notebook = without(withoutTool, kShadowCopies);
+    const std::string lastOfWizard = "ClientConnection.backup_sets_info()";
+    QTest::newRow("mobile") << Scenario::Default << true << false << 6 << all;
+    QTest::newRow("mobile, with code") << Scenario::Default << true << true << 6
+                                       << withBehind(all, lastOfWizard, support::callsForCode());
+    QTest::newRow("mobile without the tool")
+        << Scenario::Default << false << false << 5 << withoutTool;
+    QTest::newRow("notebook") << Scenario::Notebook << true << false << 5 << notebook;
+    QTest::newRow("notebook, with code")
+        << Scenario::Notebook << true << true << 5
+        << withBehind(notebook, lastOfWizard, support::callsForCode());
+    QTest::newRow("notebook without the tool")
+        << Scenario::Notebook << false << false << 5 << notebook;
+}
+
+void NewSetFlowTest::aNewSet() {
+    QFETCH(Scenario, scenario);
+    QFETCH(bool, tool);
+    QFETCH(bool, twoFactor);
+    QFETCH(int, pages);
+    QFETCH(Calls, expected);
+    test_.start(scenario, [&](World& world) {
+        world.twoFactor = twoFactor;
+        if (!tool)
+            world.tools.clear();
+    });
+    const QStringList before = test_.setNames();
+    int seen = 0;
+    test_.expectWizard([&seen](QWizardPage& page) {
+        ++seen;
+        support::nameNewSet(page);
+    });
+    if (twoFactor)
+        test_.expectCode(true);
+    test_.run("OnNewBackupSet");
+    QCOMPARE(seen, pages);
+    QCOMPARE(difference(callsOf(*test_.agent), expected), QString());
+    QCOMPARE(test_.setNames(), before + QStringList(q("New one")));
+}
+
+void NewSetFlowTest::aNewSetIsSelectedByTheNextHeartbeat() {
+    test_.start();
+    test_.driver->sets().selectRow(0);
+    test_.expectWizard();
+    test_.run("OnNewBackupSet");
+    QCOMPARE(test_.driver->selectedRow(), 0);
+    test_.quiet->letPass = true;
+    test_.driver->beat();
+    const int last = test_.driver->cards().size() - 1;
+    QCOMPARE(test_.driver->selectedRow(), last);
+    QVERIFY(test_.driver->cards().at(last).startsWith(q("New one\n")));
+    QCOMPARE(test_.driver->details().at(4), q("Daily"));
+    QCOMPARE(test_.driver->details().at(5), q("Time-based"));
+}
+
+void NewSetFlowTest::aNewSetOfUnixFilesFailsAtTheCast() {
+    test_.start(Scenario::Unix);
+    const QStringList before = test_.setNames();
+    test_.expectWizard();
+    test_.modals->expectErrorBox(
+        q("New Backup Set Error"),
+        q("Bad cast from BackupSet: class is NOT of type Win32FS_BackupSet"));
+    test_.run("OnNewBackupSet");
+    QCOMPARE(test_.setNames(), before);
+    QCOMPARE(callsOf(*test_.agent).back(), std::string("BackupSet.types()"));
+}
+
+void NewSetFlowTest::aNameThatIsTakenKeepsTheWizardOpen() {
+    test_.start();
+    test_.modals->expect(q("wizard"), isDialog<QWizard>, [](QWidget& wizard) {
+        QVERIFY(!support::finishWizard(wizard, [](QWizardPage& page) {
+            if (auto* name = page.findChild<QLineEdit*>(q("editSetName")))
+                name->setText(q("MUSIC"));
+        }));
+    });
+    const QStringList before = test_.setNames();
+    test_.run("OnNewBackupSet");
+    QCOMPARE(callsOf(*test_.agent).back(), std::string("ClientConnection.backup_sets_info()"));
+    QCOMPARE(test_.setNames(), before);
+}
+
+void NewSetFlowTest::givingUpTheCodeMakesNoSet() {
+    test_.start(Scenario::Default, [](World& world) { world.twoFactor = true; });
+    const QStringList before = test_.setNames();
+    test_.expectWizard();
+    test_.expectCode(false);
+    test_.run("OnNewBackupSet");
+    QCOMPARE(callsOf(*test_.agent).back(), std::string("TFAManager.requestCode(2)"));
+    QCOMPARE(test_.setNames(), before);
+}
+
+void NewSetFlowTest::aSessionThatEndsUnderTheWizard() {
+    test_.start();
+    test_.modals->expect(q("wizard"), isDialog<QWizard>, [this](QWidget& wizard) {
+        support::finishWizard(wizard, [this](QWizardPage& page) {
+            support::nameNewSet(page);
+            if (page.isFinalPage())
+                test_.driver->window().OnDisconnect();
+        });
+    });
+    test_.modals->expectErrorBox(q("New Backup Set Error"), q("No API connection exists"));
+    test_.run("OnNewBackupSet");
+    QVERIFY(!session::connectedToAgent());
+}
+
+void NewSetFlowTest::theFirstSetIsOfferedAtLogin() {
+    test_.modals = std::make_unique<ModalDriver>();
+    test_.expectWizard();
+    test_.start(Scenario::Empty);
+    QVERIFY(test_.modals->done());
+    QCOMPARE(test_.setNames(), QStringList(q("New one")));
+}
+
+void NewSetFlowTest::underCentralManagementNoSetIsMadeOrOffered() {
+    test_.start(Scenario::Empty, [](World& world) {
+        world.about = {{"Centrally Managed Backup Policy", "Yes"}};
+    });
+    QVERIFY(session::connectedToAgent());
+    QVERIFY(!test_.driver->isEnabled("actionNew_Backup_Set"));
+    for (const char* button : {"btnItems", "btnSchedule", "btnRetention"})
+        QVERIFY2(!child<QToolButton>(test_.driver->window(), button).isEnabled(), button);
+    QCOMPARE(test_.setNames(), QStringList());
+}
+
+QTEST_MAIN(NewSetFlowTest)
+#include "new_set_flow_test.moc"

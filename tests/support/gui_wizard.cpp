@@ -1,0 +1,159 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "tests/support/gui_wizard.h"
+
+#include <algorithm>
+
+#include <QAbstractButton>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+
+#include "config/tfa_code_dlg.h"
+#include "session/text.h"
+#include "simulator/world/world.h"
+
+namespace support {
+
+namespace {
+
+/// False if the button can't be pressed, or if the wizard stays where it is.
+bool press(QWizard& wizard, QWizard::WizardButton which) {
+    const int before = wizard.currentId();
+    QAbstractButton* button = wizard.button(which);
+    if (!button->isVisible() || !button->isEnabled())
+        return false;
+    QTest::mouseClick(button, Qt::LeftButton);
+    // What a page couldn't bear ends the wizard a moment later.
+    QCoreApplication::processEvents();
+    return !wizard.isVisible() || wizard.currentId() != before;
+}
+
+bool isLastPage(const QWizard& wizard) {
+    return wizard.currentPage()->isFinalPage();
+}
+
+void leaveBehind(QWizard& wizard, const AtPage& atPage) {
+    if (atPage)
+        atPage(*wizard.currentPage());
+}
+
+} // namespace
+
+bool finishWizard(QWidget& widget, const AtPage& atPage) {
+    auto& wizard = dynamic_cast<QWizard&>(widget);
+    while (wizard.isVisible()) {
+        leaveBehind(wizard, atPage);
+        const auto button = isLastPage(wizard) ? QWizard::FinishButton : QWizard::NextButton;
+        if (!press(wizard, button)) {
+            wizard.reject();
+            return false;
+        }
+    }
+    return wizard.result() == QDialog::Accepted;
+}
+
+void cancelWizard(QWidget& widget, int page, const AtPage& atPage) {
+    auto& wizard = dynamic_cast<QWizard&>(widget);
+    for (int i = 0; i < page; ++i) {
+        leaveBehind(wizard, atPage);
+        if (!press(wizard, QWizard::NextButton))
+            qFatal("The wizard doesn't let the user leave page %d", i);
+    }
+    if (!press(wizard, QWizard::CancelButton))
+        qFatal("The wizard can't be cancelled on page %d", page);
+}
+
+NoHeartbeats::NoHeartbeats(SimpleGUIMainWindow& window)
+    : type_(window.heartbeatEventType()) {
+    window.installEventFilter(this);
+}
+
+bool NoHeartbeats::eventFilter(QObject*, QEvent* event) {
+    return event->type() == type_ && !letPass;
+}
+
+void nameNewSet(QWizardPage& page) {
+    if (auto* name = page.findChild<QLineEdit*>(QStringLiteral("editSetName")))
+        name->setText(QStringLiteral("  New one "));
+}
+
+void WizardTest::start(simulator::Scenario scenario,
+                       const std::function<void(simulator::World&)>& change) {
+    agent = std::make_unique<GuiAgent>(simulator::Options{.scenario = scenario});
+    if (change)
+        agent->withWorld(change);
+    driver = std::make_unique<MainWindowDriver>();
+    quiet = std::make_unique<NoHeartbeats>(driver->window());
+    if (!modals)
+        modals = std::make_unique<ModalDriver>();
+    driver->logIn(*agent);
+}
+
+void WizardTest::end() {
+    QVERIFY(modals->done());
+    modals.reset();
+    QCOMPARE(agent->violations(), std::vector<std::string>{});
+    quiet.reset();
+    driver.reset();
+    QCOMPARE(agent->liveObjects(), std::vector<std::string>{});
+    agent.reset();
+}
+
+void WizardTest::run(const char* slot) {
+    agent->clearCallLog();
+    QVERIFY(QMetaObject::invokeMethod(&driver->window(), slot));
+    QVERIFY(modals->done());
+}
+
+void WizardTest::expectWizard(const AtPage& atPage) {
+    modals->expect(QStringLiteral("wizard"), isDialog<QWizard>,
+                   [atPage](QWidget& wizard) { QVERIFY(finishWizard(wizard, atPage)); });
+}
+
+void WizardTest::expectCode(bool given) {
+    modals->expect(QStringLiteral("code"), isDialog<TFACodeDlg>, [this, given](QWidget& dialog) {
+        QCOMPARE(dialog.parentWidget(), &driver->window());
+        child<QLineEdit>(dialog, "editCode").setText(QStringLiteral("314159"));
+        QTest::mouseClick(&child<QPushButton>(dialog, given ? "btnValidate" : "btnCancel"),
+                          Qt::LeftButton);
+    });
+}
+
+QStringList WizardTest::setNames() {
+    QStringList names;
+    agent->withWorld([&](simulator::World& world) {
+        for (const auto& set : world.sets())
+            names << session::fromWire(set->info.name);
+    });
+    return names;
+}
+
+std::vector<std::string> callsOf(const simulator::Simulator& agent) {
+    std::vector<std::string> texts;
+    for (const auto& call : agent.callLog())
+        if (call.method != "Release")
+            texts.push_back(call.text());
+    return texts;
+}
+
+QString difference(const std::vector<std::string>& actual,
+                   const std::vector<std::string>& expected) {
+    const auto at = [](const std::vector<std::string>& calls, std::size_t i) {
+        return i < calls.size() ? session::fromWire(calls[i]) : QStringLiteral("nothing");
+    };
+    for (std::size_t i = 0; i < std::max(actual.size(), expected.size()); ++i)
+        if (at(actual, i) != at(expected, i))
+            return QStringLiteral("call %1 is %2, expected %3")
+                .arg(QString::number(i), at(actual, i), at(expected, i));
+    return {};
+}
+
+std::vector<std::string> callsForCode() {
+    return {"ClientConnection.getTFAManager()", "TFAManager.requestCode(2)",
+            "ClientConnection.getTFAManager()", "TFAManager.validateCode(\"314159\", 2)"};
+}
+
+} // namespace support
