@@ -22,13 +22,13 @@ struct FileTypes {
     bool music = false;
     bool email = false;
     bool custom = false;
-    QString customExtensions; ///< separated by bars, as typed
+    QString customExtensions{}; ///< separated by bars, as typed
 
     // Left out of everything:
     bool temporary = false;
     bool backup = false;
     bool excluded = false;
-    QString excludedExtensions; ///< separated by bars, as typed
+    QString excludedExtensions{}; ///< separated by bars, as typed
 };
 
 /// A filter that a set needs below each of its roots.

@@ -61,6 +61,15 @@ void ItemsSelectPage::changeEvent(QEvent* event) {
     QWizardPage::changeEvent(event);
 }
 
+/// With the tree, also while it is hidden: a wizard asks only when it comes to the page, and
+/// doesn't grow with it later.
+QSize ItemsSelectPage::minimumSizeHint() const {
+    QSize size = QWizardPage::minimumSizeHint();
+    if (ui_->treeComputer->isHidden())
+        size.rheight() += ui_->treeComputer->minimumHeight() + ui_->layoutLocations->spacing();
+    return size;
+}
+
 bool ItemsSelectPage::load(const Set& set) {
     const ui::WaitCursor waiting(*this);
     if (set->getDataType() != hessiancln::BackupDataType::FileSystem)

@@ -64,6 +64,7 @@ public:
     /// failure leaves the page as it was, ends the wizard and goes to the one who runs it.
     void initializePage() override;
     bool isComplete() const override;
+    QSize minimumSizeHint() const override;
 
 protected:
     void changeEvent(QEvent* event) override;

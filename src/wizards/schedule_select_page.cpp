@@ -27,6 +27,13 @@ using session::required;
 
 namespace {
 
+/// A wizard doesn't grow with a page that shows more than before.
+void keepPlace(QWidget& widget) {
+    QSizePolicy policy = widget.sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget.setSizePolicy(policy);
+}
+
 constexpr int kNextDay = 1;
 constexpr std::int32_t kFullThrottle = 100;
 const std::string kMissedSchedule = "ScheduleMiss";
@@ -55,6 +62,8 @@ ScheduleSelectPage::ScheduleSelectPage(QWidget* parent)
     : QWizardPage(parent)
     , ui_(std::make_unique<Ui::ScheduleSelectPage>()) {
     ui_->setupUi(this);
+    keepPlace(*ui_->groupTime);
+    keepPlace(*ui_->scheduleDaysStack);
     for (const QCheckBox* box : dayBoxes())
         connect(box, &QCheckBox::clicked, this, &ScheduleSelectPage::completeChanged);
     setDefaults();

@@ -1,0 +1,215 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "tests/wizards/items_page_fixture.h"
+
+namespace {
+
+using Calls = PageFixture::Calls;
+
+const std::string kDocuments =
+    R"(.*\.(accdb|accde|accdr|accdt|csv|doc|docm|docx|dot|dotm|dotx|htm|html|mht|mpp|mppx|one|)"
+    R"(pdf|potm|potx|ppam|pps|ppsm|ppsx|ppt|pptm|pptx|ps|rtf|txt|vsd|wpd|wpg|wps|xlam|xlc|xls|)"
+    R"(xlsb|xlsm|xlsx|xlt|xltm|xltx))";
+const std::string kMusic =
+    R"(.*\.(a3c|aac|aif|aifc|aiff|ape|flac|itl|m3u|m4a|m4p|mid|midi|mp1|mp2|mp3|mp4|pls|ra|ram|)"
+    R"(rm|rmi|s3m|wav|wma|wpl|xm))";
+
+QStringList path(const char* joined) {
+    return QString::fromUtf8(joined).split(QLatin1Char('\\'));
+}
+
+/// The calls that make a filter; its expression is without backslashes but for the first.
+Calls filterCalls(const std::string& root, const std::string& expression, bool inclusion) {
+    std::string quoted = expression;
+    quoted.insert(2, "\\");
+    return {"DataSourceBrowser.createRegexExclusion(\"My Computer\", \"" + root + "\", \"" +
+                quoted + "\")",
+            std::string("BackupSetRegexExclusion.setInclusion(") + (inclusion ? "true)" : "false)"),
+            "BackupSetRegexExclusion.setNegate(false)",
+            "BackupSetRegexExclusion.setCaseSensitive(false)",
+            "BackupSetRegexExclusion.setMatchDirectories(false)"};
+}
+
+Calls operator+(Calls first, const Calls& second) {
+    first.insert(first.end(), second.begin(), second.end());
+    return first;
+}
+
+} // namespace
+
+/// What the items page makes of the choice, and that it comes back from a set.
+class ItemsPageWritingTest : public QObject, private ItemsPageFixture {
+    Q_OBJECT
+private slots:
+    void init() { start(); }
+    void cleanup() { end(); }
+
+    void aPresetIsOneInclusion();
+    void aSelectionIsItsInclusionsAndExclusions();
+    void eachRootHasItsFilters();
+    void allFilesNeedNoFilter();
+    void whatIsLeftOutOfAllFilesIsOneFilter();
+    void musicWithExtensionsOfTheUser();
+    void trailingBarsAreDroppedFromSelectedExtensionsOnly();
+    void allThatAUnixAgentHasIsOneRoot();
+
+    void aSetThatWasReadIsWrittenAsItWas();
+    void rejectedExtensionsSurvive();
+    void aSecondWriteReplacesTheFirst();
+    void aFaultLeavesTheItemsOfTheSet();
+
+private:
+    Calls callsOfWriting(ItemsPageWidgets& page, const Set& set) {
+        takeCalls();
+        page->apply(set);
+        return takeCalls();
+    }
+    /// What a set holds when it was read and written again.
+    Calls writtenAgain(const std::vector<Item>& items) {
+        const Set set = openSetWith(items);
+        PageOfSet page(set);
+        page->apply(set);
+        return itemsOf(music);
+    }
+};
+
+void ItemsPageWritingTest::aPresetIsOneInclusion() {
+    PageOfSource page;
+    page.presets().setCurrentIndex(3);
+    const Set set = openSet(music);
+    QCOMPARE(callsOfWriting(page, set),
+             Calls{R"(DataSourceBrowser.createInclusionItem("My Computer", "D:\\Mail", 9999))"} +
+                 filterCalls("D:", kDocuments, true) +
+                 Calls{R"(BackupSet.setItems([BackupSetItem(D:\Mail), BackupSetItem(D:, only )" +
+                       kDocuments + ")])"});
+    QCOMPARE(itemsOf(music), (Calls{R"(+D:\Mail)", ">D: " + kDocuments}));
+}
+
+void ItemsPageWritingTest::aSelectionIsItsInclusionsAndExclusions() {
+    PageOfSource page;
+    page.box("checkEverything").click();
+    page.radio("radioCustom").click();
+    page.check(path(R"(D:\Projects)"));
+    page.check(path(R"(D:\Projects\Archive)"), false);
+    page.check(path(R"(D:\Tax)"));
+    const Set set = openSet(music);
+    QCOMPARE(
+        callsOfWriting(page, set),
+        (Calls{R"(DataSourceBrowser.createInclusionItem("My Computer", "D:\\Projects", 9999))",
+               R"(DataSourceBrowser.createExclusionItem("My Computer", "D:\\Projects\\Archive"))",
+               R"(DataSourceBrowser.createInclusionItem("My Computer", "D:\\Tax", 9999))",
+               R"(BackupSet.setItems([BackupSetItem(D:\Projects), )"
+               R"(BackupSetItem(D:\Projects\Archive, excluded), BackupSetItem(D:\Tax)]))"}));
+}
+
+void ItemsPageWritingTest::eachRootHasItsFilters() {
+    PageOfSource page;
+    page.box("checkMusic").click();
+    page.radio("radioCustom").click();
+    page.check(path(R"(C:\Users)"));
+    page.check(path(R"(D:\Mail)"));
+    page.check(path(R"(D:\Tax)"));
+    page.check(path("E:"));
+    page->apply(openSet(music));
+    QCOMPARE(itemsOf(music), (Calls{R"(+C:\Users)", R"(+D:\Mail)", R"(+D:\Tax)", "+E:",
+                                    ">C: " + kDocuments, ">C: " + kMusic, ">D: " + kDocuments,
+                                    ">D: " + kMusic, ">E: " + kDocuments, ">E: " + kMusic}));
+}
+
+void ItemsPageWritingTest::allFilesNeedNoFilter() {
+    PageOfSource page;
+    page.box("checkEverything").click();
+    page->apply(openSet(music));
+    QCOMPARE(itemsOf(music), Calls{R"(+C:\Users\anna\Documents)"});
+}
+
+void ItemsPageWritingTest::whatIsLeftOutOfAllFilesIsOneFilter() {
+    PageOfSource page;
+    page.box("checkEverything").click();
+    page.box("checkTempFiles").click();
+    page.box("checkBakFiles").click();
+    const Set set = openSet(music);
+    const Calls calls = callsOfWriting(page, set);
+    QCOMPARE(Calls(calls.begin() + 1, calls.end() - 1),
+             filterCalls("C:", R"(.*\.(|tmp|swp|bak))", false));
+    QCOMPARE(itemsOf(music), (Calls{R"(+C:\Users\anna\Documents)", R"(<C: .*\.(|tmp|swp|bak))"}));
+}
+
+void ItemsPageWritingTest::musicWithExtensionsOfTheUser() {
+    PageOfSource page;
+    page.box("checkDocuments").click();
+    page.box("checkMusic").click();
+    page.box("checkCustomInc").click();
+    QTest::keyClicks(&page.edit("editCustomInc"), QStringLiteral("abc|def"));
+    page->apply(openSet(music));
+    QCOMPARE(itemsOf(music), (Calls{R"(+C:\Users\anna\Documents)", ">C: " + kMusic,
+                                    R"(>C: .*\.(CustomFileExtensions|abc|def))"}));
+}
+
+void ItemsPageWritingTest::trailingBarsAreDroppedFromSelectedExtensionsOnly() {
+    PageOfSource page;
+    page.box("checkDocuments").click();
+    page.box("checkCustomInc").click();
+    QTest::keyClicks(&page.edit("editCustomInc"), QStringLiteral(" abc|"));
+    page->apply(openSet(music));
+    QCOMPARE(itemsOf(music),
+             (Calls{R"(+C:\Users\anna\Documents)", R"(>C: .*\.(CustomFileExtensions|abc))"}));
+    page.box("checkEverything").click();
+    page.box("checkCustomExc").click();
+    QTest::keyClicks(&page.edit("editCustomExc"), QStringLiteral(" abc|"));
+    page->apply(openSet(music));
+    QCOMPARE(itemsOf(music),
+             (Calls{R"(+C:\Users\anna\Documents)", R"(<C: .*\.(|CustomFileExtensions|abc|))"}));
+}
+
+void ItemsPageWritingTest::allThatAUnixAgentHasIsOneRoot() {
+    end();
+    start(simulator::Scenario::Unix);
+    PageOfSource page;
+    page.radio("radioCustom").click();
+    page.check({QStringLiteral("/"), QStringLiteral("home")});
+    page.check({QStringLiteral("/"), QStringLiteral("etc")});
+    page->apply(openSet(1));
+    QCOMPARE(itemsOf(1), (Calls{R"(+/\etc)", R"(+/\home)", ">/ " + kDocuments}));
+}
+
+void ItemsPageWritingTest::aSetThatWasReadIsWrittenAsItWas() {
+    const Calls before = itemsOf(projects);
+    QCOMPARE(before,
+             (Calls{R"(+D:\Projects)", R"(-D:\Projects\Archive)", R"(<D: .*\.(|tmp|swp|bak))"}));
+    const Set set = openSet(projects);
+    PageOfSet page(set);
+    page->apply(set);
+    QCOMPARE(itemsOf(projects), before);
+}
+
+void ItemsPageWritingTest::rejectedExtensionsSurvive() {
+    const std::string umlauts = "\xC3\xA4|\xC3\xB6 \xC3\xBC";
+    const Calls expected{R"(+D:\Music)", R"(<D: .*\.(|CustomFileExtensions|doc|)" + umlauts + ")"};
+    QCOMPARE(
+        writtenAgain({included(R"(D:\Music)"),
+                      filter("D:", R"(.*\.(|CustomFileExtensions|doc|)" + umlauts + ")", false)}),
+        expected);
+}
+
+void ItemsPageWritingTest::aSecondWriteReplacesTheFirst() {
+    PageOfSource page;
+    page.box("checkEverything").click();
+    const Set set = openSet(music);
+    page->apply(set);
+    page.presets().setCurrentIndex(1);
+    page->apply(set);
+    QCOMPARE(itemsOf(music), Calls{R"(+C:\Users\anna\Pictures)"});
+}
+
+void ItemsPageWritingTest::aFaultLeavesTheItemsOfTheSet() {
+    PageOfSource page;
+    const Set set = openSet(projects);
+    const Calls before = itemsOf(projects);
+    agent().inject("setCaseSensitive", simulator::Fault{"Not today."});
+    QCOMPARE(errorOf([&] { page->apply(set); }), QStringLiteral("Not today."));
+    QCOMPARE(itemsOf(projects), before);
+}
+
+QTEST_MAIN(ItemsPageWritingTest)
+#include "items_page_writing_test.moc"
