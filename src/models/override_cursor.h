@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <QCursor>
 #include <QGuiApplication>
 
 namespace models {
