@@ -5,6 +5,7 @@
 #include <memory>
 
 #include <QDeadlineTimer>
+#include <QEvent>
 #include <QLocalSocket>
 #include <QStandardPaths>
 #include <QThread>
@@ -94,6 +95,16 @@ bool QtSingleApplication::sendMessage(const QString& message, int timeout) {
         if (!socket.waitForReadyRead(static_cast<int>(deadline.remainingTime())))
             return false;
     return socket.read(1) == QByteArray(1, kConfirmation);
+}
+
+bool QtSingleApplication::event(QEvent* event) {
+    if (event->type() == QEvent::Quit) {
+        // The desktop's session ends. Qt would close all windows first, and stay for one that only
+        // hides.
+        quit();
+        return true;
+    }
+    return QApplication::event(event);
 }
 
 void QtSingleApplication::listen() {

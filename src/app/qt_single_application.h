@@ -19,6 +19,8 @@ public:
     /// time-out, in milliseconds; false at once if this process is the first.
     bool sendMessage(const QString& message, int timeout = 5000);
 
+    bool event(QEvent* event) override;
+
 signals:
     /// Another process has started and sent this. The text may be empty.
     void messageReceived(const QString& message);

@@ -8,6 +8,7 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 #include "app/qt_single_application.h"
 #include "app/simple_gui_main_window.h"
@@ -169,6 +170,17 @@ private slots:
         QVERIFY(second.launch());
         QVERIFY(second.waitForFinished(4500));
         QCOMPARE(second.exitCode(), 0);
+    }
+
+    void theEndOfTheDesktopsSessionEndsTheProgram() {
+        SimpleGUIMainWindow window;
+        window.show();
+        QTimer::singleShot(0, &window, [] {
+            QEvent quit(QEvent::Quit);
+            QCoreApplication::sendEvent(&application(), &quit);
+        });
+        QTimer::singleShot(2000, &window, [] { QCoreApplication::exit(1); });
+        QCOMPARE(QCoreApplication::exec(), 0);
     }
 
     void theFirstInstanceSendsNothing() {
