@@ -16,6 +16,9 @@ TFACodeDlg::TFACodeDlg(int purpose, QWidget* parent)
     , ui_(std::make_unique<Ui::TFACodeDlg>())
     , purpose_(purpose) {
     ui_->setupUi(this);
+    // The explanation takes as many lines as its language needs.
+    resize(width(), layout()->heightForWidth(width()));
+    ui_->editCode->setFocus();
     setWindowIcon(ui::g_branding.applicationIcon());
     connect(ui_->btnCancel, &QPushButton::clicked, this, &TFACodeDlg::reject);
     // Once the dialog is on the screen: a failure's box then stands before it.
@@ -29,6 +32,7 @@ void TFACodeDlg::on_btnResend_clicked() {
         const std::string address =
             session::getConnection()->getTFAManager()->requestCode(purpose_);
         ui_->editEmail->setText(session::fromWire(address));
+        ui_->editEmail->setCursorPosition(0);
     });
 }
 
