@@ -30,18 +30,14 @@ QString resourceOf(SelectableItemType type) {
     return QStringLiteral(":/tree/unknown");
 }
 
-QSizeF sizeOnScreen(const QPixmap& pixmap) {
-    return QSizeF(pixmap.size()) / pixmap.devicePixelRatio();
-}
-
 QPixmap compose(const QPixmap& base, const QPixmap& sign) {
     QImage image(base.size(), QImage::Format_ARGB32);
     image.setDevicePixelRatio(base.devicePixelRatio());
     image.fill(Qt::transparent);
-    const QSizeF corner = sizeOnScreen(base) - sizeOnScreen(sign);
+    const QSize corner = sizeOnScreen(base) - sizeOnScreen(sign);
     QPainter painter(&image);
     painter.drawPixmap(0, 0, base);
-    painter.drawPixmap(QPointF(corner.width(), corner.height()), sign);
+    painter.drawPixmap(corner.width(), corner.height(), sign);
     painter.end();
     return QPixmap::fromImage(image);
 }
@@ -52,6 +48,10 @@ QPixmap resourcePixmap(const QString& resource) {
     const QIcon icon = ui::sharedIcon(resource);
     const auto sizes = icon.availableSizes();
     return sizes.isEmpty() ? QPixmap() : icon.pixmap(sizes.front());
+}
+
+QSize sizeOnScreen(const QPixmap& pixmap) {
+    return (QSizeF(pixmap.size()) / pixmap.devicePixelRatio()).toSize();
 }
 
 QPixmap itemPixmap(SelectableItemType type, bool noAccess) {

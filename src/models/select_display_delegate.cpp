@@ -7,14 +7,6 @@
 #include "models/checkable_node.h"
 #include "models/item_pixmap.h"
 
-namespace {
-
-QSize sizeOnScreen(const QPixmap& pixmap) {
-    return (QSizeF(pixmap.size()) / pixmap.devicePixelRatio()).toSize();
-}
-
-} // namespace
-
 /// Where the parts of an item stand.
 struct CSelectDisplayDelegate::Parts {
     QRect box;
@@ -50,7 +42,7 @@ CSelectDisplayDelegate::Parts CSelectDisplayDelegate::partsOf(const QStyleOption
                                                               const QModelIndex& index,
                                                               bool forHint) const {
     Parts parts{rect(option, index, Qt::CheckStateRole),
-                {{}, sizeOnScreen(index.data(Qt::DecorationRole).value<QPixmap>())},
+                {{}, models::sizeOnScreen(index.data(Qt::DecorationRole).value<QPixmap>())},
                 rect(option, index, Qt::DisplayRole)};
     doLayout(option, &parts.box, &parts.picture, &parts.text, forHint);
     return parts;
@@ -64,6 +56,6 @@ void CSelectDisplayDelegate::drawCheck(QPainter* painter, const QStyleOptionView
     }
     QItemDelegate::drawCheck(painter, option, rect, Qt::Unchecked);
     const QPixmap sign = models::resourcePixmap(QStringLiteral(":/tree/exclusion"));
-    const QSize size = sizeOnScreen(sign);
+    const QSize size = models::sizeOnScreen(sign);
     painter->drawPixmap(rect.right() - size.width(), rect.bottom() - size.height(), sign);
 }

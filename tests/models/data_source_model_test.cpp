@@ -3,8 +3,6 @@
 #include <memory>
 
 #include <QAbstractItemModelTester>
-#include <QPainter>
-#include <QPixmapCache>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -13,7 +11,6 @@
 #include "models/data_source_dir_only_model.h"
 #include "models/data_source_item.h"
 #include "models/data_source_model.h"
-#include "models/item_pixmap.h"
 #include "models/select_display_delegate.h"
 #include "models/small_tree_view.h"
 #include "resources/pictures.h"
@@ -67,8 +64,6 @@ private slots:
     void theWaitCursorIsShownForTheLengthOfACall();
     void childrenAreSortedWithTheDotFirst();
     void rolesOfAnItem();
-    void eachKindHasItsPicture_data();
-    void eachKindHasItsPicture();
     void anItemCanBeChecked();
     void onlyTheCheckStateCanBeSet();
     void whatIsLoadedLaterTakesOverTheState();
@@ -77,15 +72,12 @@ private slots:
     void eachChangeIsToldOnce();
     void aFolderWithoutAccessHasASignAndNoArrow();
     void aFolderThatTurnsOutEmptyHasNoArrow();
-    void aPictureInTheCacheIsTaken();
     void anItemIsMarkedByItsPath();
     void aPathThatNamesNothingLeavesTheTree();
     void aSelectionIsPlayedBack();
     void oddNamesAreShown();
     void theTreeWithoutFiles();
     void clicksCheckAndExclude();
-    void theBoxOfSomethingExcludedIsCrossed();
-    void aRowIsAsHighAsAtTheUsualSize();
 
 private:
     QString calls() { return QString::fromStdString(agent_->takeCalls()); }
@@ -106,7 +98,6 @@ private:
 };
 
 void DataSourceModelTest::init() {
-    QPixmapCache::clear();
     agent_ = boost::make_shared<BrowsingAgent>();
     agent_->folders[""] = {driveNamed("D:"), driveNamed("C:")};
     agent_->folders["C:"] = {folderNamed("users"), fileNamed("Notes"), folderNamed("denied"),
@@ -223,31 +214,6 @@ void DataSourceModelTest::rolesOfAnItem() {
     QCOMPARE(model_->columnCount(), 1);
     QCOMPARE(model_->fullPath(indexAt(*model_, "C:/users/Ann")), std::string("C:\\users\\Ann"));
     QCOMPARE(model_->fullPath({}), std::string());
-}
-
-void DataSourceModelTest::eachKindHasItsPicture_data() {
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<QString>("resource");
-    const auto row = [](int kind, const char* resource) {
-        QTest::addRow("%d", kind) << kind << QString::fromLatin1(resource);
-    };
-    row(0, ":/tree/hdd");
-    row(1, ":/tree/folder");
-    row(2, ":/tree/folder");
-    row(3, ":/tree/file");
-    for (const int kind : {4, 5, 6, 8, 13, 14})
-        row(kind, ":/tree/unknown");
-}
-
-void DataSourceModelTest::eachKindHasItsPicture() {
-    QFETCH(int, kind);
-    QFETCH(QString, resource);
-    const QImage expected = argb(QImage(resource));
-    QVERIFY(!expected.isNull());
-    QCOMPARE(argb(models::itemPixmap(SelectableItemType{kind}).toImage()), expected);
-    agent_->folders[""] = {{SelectableItemType{kind}, "x", false, 0}};
-    const QVariant shown = model_->index(0, 0).data(Qt::DecorationRole);
-    QCOMPARE(argb(shown.value<QPixmap>().toImage()), expected);
 }
 
 void DataSourceModelTest::anItemCanBeChecked() {
@@ -377,23 +343,6 @@ void DataSourceModelTest::aFolderThatTurnsOutEmptyHasNoArrow() {
     }
 }
 
-void DataSourceModelTest::aPictureInTheCacheIsTaken() {
-    const QModelIndex denied = indexAt(*model_, "C:/denied");
-    model_->rowCount(denied);
-    QPixmap mine(5, 5);
-    mine.fill(Qt::magenta);
-    QPixmapCache::insert(QStringLiteral("NO_ACCESS:/tree/folder"), mine);
-    QCOMPARE(denied.data(Qt::DecorationRole).value<QPixmap>().cacheKey(), mine.cacheKey());
-    QPixmapCache::clear();
-    const auto composed = denied.data(Qt::DecorationRole).value<QPixmap>();
-    QPixmap cached;
-    QVERIFY(QPixmapCache::find(QStringLiteral("NO_ACCESS:/tree/folder"), &cached));
-    QCOMPARE(cached.cacheKey(), composed.cacheKey());
-    // A database has no picture, with access or without.
-    QVERIFY(models::itemPixmap(SelectableItemType::Database).isNull());
-    QVERIFY(models::itemPixmap(SelectableItemType::Database, true).isNull());
-}
-
 void DataSourceModelTest::anItemIsMarkedByItsPath() {
     QVERIFY(model_->markItem({"c:\\USERS\\ann", false}));
     QCOMPARE(calls(),
@@ -477,67 +426,6 @@ void DataSourceModelTest::clicksCheckAndExclude() {
     QCOMPARE(click("C:/users"), 2);
     QCOMPARE(state(indexAt(*model_, "C:")), QVariant(1));
     QCOMPARE(click("C:"), 2);
-}
-
-namespace {
-
-/// The delegate with its boxes open to a test.
-class OpenDelegate : public CSelectDisplayDelegate {
-public:
-    QImage box(int checkState) const {
-        QImage image(30, 30, QImage::Format_ARGB32_Premultiplied);
-        image.fill(Qt::white);
-        QPainter painter(&image);
-        drawCheck(&painter, QStyleOptionViewItem(), {8, 8, 16, 16},
-                  static_cast<Qt::CheckState>(checkState));
-        return image;
-    }
-};
-
-} // namespace
-
-void DataSourceModelTest::theBoxOfSomethingExcludedIsCrossed() {
-    const OpenDelegate delegate;
-    QImage expected = delegate.box(Qt::Unchecked);
-    const QImage sign(QStringLiteral(":/tree/exclusion"));
-    // The box ends at pixel 23 in both directions.
-    QPainter(&expected).drawImage(23 - sign.width(), 23 - sign.height(), sign);
-    QCOMPARE(delegate.box(3), expected);
-    QVERIFY(delegate.box(3) != delegate.box(Qt::Unchecked));
-    QVERIFY(delegate.box(Qt::Checked) != delegate.box(Qt::Unchecked));
-    QVERIFY(delegate.box(Qt::PartiallyChecked) != delegate.box(Qt::Checked));
-}
-
-void DataSourceModelTest::aRowIsAsHighAsAtTheUsualSize() {
-    // A picture for a screen of twice the density takes no more room than the plain one.
-    class TwiceModel : public CDataSourceModel {
-    public:
-        using CDataSourceModel::CDataSourceModel;
-        QVariant data(const QModelIndex& index, int role) const override {
-            if (role != Qt::DecorationRole)
-                return CDataSourceModel::data(index, role);
-            QPixmap twice(32, 32);
-            twice.setDevicePixelRatio(2);
-            twice.fill(Qt::magenta);
-            return twice;
-        }
-    };
-    TwiceModel twice("pc", BrowsingAgent::browser(agent_));
-    const CSelectDisplayDelegate delegate;
-    QStyleOptionViewItem option;
-    option.rect = QRect(0, 0, 200, 18);
-    option.decorationSize = QSize(16, 16);
-    QCOMPARE(delegate.sizeHint(option, twice.index(0, 0)),
-             delegate.sizeHint(option, model_->index(0, 0)));
-    QImage image(200, 18, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    delegate.paint(&painter, option, twice.index(0, 0));
-    painter.end();
-    int coloured = 0;
-    for (int x = 0; x < image.width(); ++x)
-        coloured += image.pixelColor(x, 9) == QColor(Qt::magenta);
-    QCOMPARE(coloured, 16);
 }
 
 QTEST_MAIN(DataSourceModelTest)
