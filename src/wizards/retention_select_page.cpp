@@ -13,7 +13,6 @@
 #include "session/connection.h"
 #include "session/required.h"
 #include "ui_retention_select_page.h"
-#include "wizards/retention_units.h"
 
 using hessiancln::RetentionRule;
 using hessiancln::RetentionRuleManager;
@@ -44,12 +43,6 @@ void addInterval(RetentionRuleManager& manager, RetentionRule& rule,
 }
 
 } // namespace
-
-/// A box and what it stands for.
-struct RetentionSelectPage::Interval {
-    QCheckBox* box;
-    wizards::IntervalRule rule;
-};
 
 RetentionSelectPage::RetentionSelectPage(QWidget* parent)
     : QWizardPage(parent)

@@ -3,12 +3,15 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
 #include <memory>
 
 #include <QWizardPage>
 
 #include <boost/shared_ptr.hpp>
+
+#include "wizards/retention_units.h"
+
+class QCheckBox;
 
 namespace Ui {
 class RetentionSelectPage;
@@ -18,7 +21,6 @@ namespace hessiancln {
 class BackupSet;
 class RetentionRule;
 class RetentionRuleManager;
-enum class RetentionTimeUnit : std::int32_t;
 } // namespace hessiancln
 
 /// How long what a backup set has backed up is kept. Each set gets a rule of its own, so that no
@@ -46,7 +48,11 @@ private slots:
     void on_checkLocalKeepAllGens_clicked(bool checked);
 
 private:
-    struct Interval;
+    /// A box and what it stands for.
+    struct Interval {
+        QCheckBox* box;
+        wizards::IntervalRule rule;
+    };
 
     std::array<Interval, 3> intervals() const;
     void checkInterval(hessiancln::RetentionTimeUnit validFor);

@@ -27,6 +27,7 @@ private slots:
     void theDefaultsComeFromTheAgent();
     void anAgentThatFailsFailsTheConstructor();
     void theTypeDecidesWhatIsShown();
+    void whatIsHiddenKeepsItsPlace();
 
     void aSetWithoutAScheduleIsNotScheduled();
     void aScheduleWithoutDetailsLeavesTheDefaults();
@@ -94,6 +95,22 @@ void SchedulePageTest::theTypeDecidesWhatIsShown() {
     QCOMPARE(page.shownDays(), name("frameDaily"));
     QVERIFY(page.widget("groupTime").isVisible());
     QCOMPARE(changes.count(), 3);
+}
+
+void SchedulePageTest::whatIsHiddenKeepsItsPlace() {
+    QWizard wizard;
+    auto* page = new ScheduleSelectPage;
+    wizard.addPage(page);
+    support::child<QRadioButton>(*page, "radioNotScheduled").click();
+    wizard.show();
+    const QSize size = wizard.size();
+    support::child<QRadioButton>(*page, "radioDaily").click();
+    QTRY_VERIFY(support::child<QWidget>(*page, "checkSunday").height() > 0);
+    for (QWidget* widget : page->findChildren<QWidget*>())
+        if (widget->isVisible() && !widget->objectName().startsWith(name("qt_")))
+            QVERIFY2(widget->height() >= widget->minimumSizeHint().height(),
+                     qPrintable(widget->objectName()));
+    QCOMPARE(wizard.size(), size);
 }
 
 void SchedulePageTest::aSetWithoutAScheduleIsNotScheduled() {
