@@ -53,10 +53,8 @@ private slots:
     void startsWithTheAgentsOwnComputer();
     void showsTheRowsThatTheSourceNeeds_data();
     void showsTheRowsThatTheSourceNeeds();
-    void showsTheSSHLogin();
     void offersTheAgentsAccountToAdministratorsOnly();
     void neverOffersTheAgentsAccountOnANotebook();
-    void honoursTheFlagOfTheAgentsAccountUnseen();
     void knowsTheLocalComputerByItsExactName_data();
     void knowsTheLocalComputerByItsExactName();
     void usesTheAgentsAccount();
@@ -74,13 +72,6 @@ private slots:
     void failsWithoutABrowserOrAName();
     void showsWhatFailsAtConstruction();
     void anAgentWithoutCredentialsIsNoEndOfTheWizard();
-
-    void showsTheSourceOfASet();
-    void showsASetWhoseCredentialsFail();
-    void showsTheSourceOfASetWithoutItems();
-    void refusesASetOfAnotherKind();
-    void offersTheComputerOfASetForARestore();
-    void givesTheCredentialsToTheSet();
 };
 
 void SourcePageTest::saysWhatItIsFor() {
@@ -167,21 +158,6 @@ void SourcePageTest::showsTheRowsThatTheSourceNeeds() {
     session.source.verifyAllReleased();
 }
 
-void SourcePageTest::showsTheSSHLogin() {
-    Session session(LoginKind::Ssh);
-    const auto set = session.source.set([](simulator::CredentialsState& login) {
-        login.user = "anna";
-        login.sudoUser = "root";
-        login.access = 1;
-        login.interpreterPath = "/opt/skript-ü";
-    });
-    PageDriver driver;
-    QVERIFY(driver.page().initFromSet(set));
-    QCOMPARE(driver.text("editConnectAs"), QStringLiteral("anna"));
-    QCOMPARE(driver.text("editSudo"), QStringLiteral("root"));
-    QCOMPARE(driver.text("editSSHAccess"), QString::fromUtf8("Python: /opt/skript-ü"));
-}
-
 void SourcePageTest::offersTheAgentsAccountToAdministratorsOnly() {
     Session session;
     std::vector<std::string> asked;
@@ -200,19 +176,6 @@ void SourcePageTest::neverOffersTheAgentsAccountOnANotebook() {
     PageDriver driver;
     driver.show();
     QVERIFY(!driver.isShown("chkUseTarnClientAccount"));
-}
-
-void SourcePageTest::honoursTheFlagOfTheAgentsAccountUnseen() {
-    Session session;
-    const auto set = session.source.set(
-        [](simulator::CredentialsState& login) { login.usingClientAccount = true; });
-    PageDriver driver([](const std::string&) { return false; });
-    QVERIFY(driver.page().initFromSet(set));
-    driver.show();
-    QVERIFY(!driver.isShown("chkUseTarnClientAccount"));
-    QVERIFY(driver.isChecked("chkUseTarnClientAccount"));
-    QVERIFY(!driver.isEnabled("btnConnectAs"));
-    QVERIFY(!driver.isEnabled("editConnectAs"));
 }
 
 void SourcePageTest::knowsTheLocalComputerByItsExactName_data() {
@@ -435,104 +398,6 @@ void SourcePageTest::anAgentWithoutCredentialsIsNoEndOfTheWizard() {
     modals.expectErrorBox(QStringLiteral("Error R2"), text);
     PageDriver driver;
     QVERIFY(modals.done());
-}
-
-void SourcePageTest::showsTheSourceOfASet() {
-    Session session;
-    const auto set = session.source.set([](simulator::CredentialsState& login) {
-        login.user = "OFFICE\\anna";
-        login.usingClientAccount = false;
-    });
-    PageDriver driver;
-    session.source.takeCalls();
-    QVERIFY(driver.page().initFromSet(set));
-    QCOMPARE(
-        session.source.takeCalls(),
-        join({{"BackupSet.getDataType()", "BackupSet.getComputerName()",
-               "BackupSet.getCredentials()", "BackupSetCredentials.isUsingClientCredentials()",
-               R"(DataSourceBrowser.setCurrentCredentials(BackupSetCredentials(OFFICE\anna)))"},
-              wizards_test::refreshOf(LoginKind::Windows, R"(OFFICE\anna)")}));
-    driver.show();
-    QCOMPARE(driver.text("editComputerName"), QStringLiteral("My Computer"));
-    QCOMPARE(driver.text("editConnectAs"), QStringLiteral("OFFICE\\anna"));
-    QVERIFY(!driver.isEnabled("editComputerName"));
-    QVERIFY(!driver.isEnabled("btnShowNetDiscovery"));
-    QVERIFY(driver.isEnabled("btnConnectAs"));
-}
-
-void SourcePageTest::showsASetWhoseCredentialsFail() {
-    Session session;
-    const auto set = session.source.set([](simulator::CredentialsState&) {});
-    PageDriver driver;
-    session.source.agent.inject("getCredentials", simulator::Fault{"Locked."});
-    ModalDriver modals;
-    modals.expectErrorBox(QStringLiteral("Init Error"), QStringLiteral("Locked."));
-    session.source.takeCalls();
-    QVERIFY(driver.page().initFromSet(set));
-    QVERIFY(modals.done());
-    QCOMPARE(session.source.takeCalls(),
-             join({{"BackupSet.getDataType()", "BackupSet.getComputerName()",
-                    "BackupSet.getCredentials()"},
-                   wizards_test::refreshOf(LoginKind::Windows, "demo")}));
-    QVERIFY(!driver.isEnabled("editComputerName"));
-}
-
-void SourcePageTest::showsTheSourceOfASetWithoutItems() {
-    Session session;
-    const auto set = session.source.set([](simulator::CredentialsState&) {});
-    PageDriver driver;
-    session.source.takeCalls();
-    QVERIFY(driver.page().initFromEmptySet(set));
-    QCOMPARE(session.source.takeCalls(),
-             (Lines{"BackupSet.getDataType()", "BackupSet.getComputerName()"}));
-    QCOMPARE(driver.text("editComputerName"), QStringLiteral("My Computer"));
-    QVERIFY(!driver.isEnabled("editComputerName"));
-    QVERIFY(!driver.isEnabled("btnShowNetDiscovery"));
-}
-
-void SourcePageTest::refusesASetOfAnotherKind() {
-    Session session;
-    const auto set = session.source.set([](simulator::CredentialsState&) {});
-    session.source.agent.withWorld([](simulator::World& world) {
-        world.sets().front()->info.data_type = hessiancln::BackupDataType::Oracle;
-    });
-    PageDriver driver;
-    session.source.takeCalls();
-    QVERIFY(!driver.page().initFromSet(set));
-    QVERIFY(!driver.page().initFromEmptySet(set));
-    QCOMPARE(session.source.takeCalls(),
-             (Lines{"BackupSet.getDataType()", "BackupSet.getDataType()"}));
-    QVERIFY(driver.isEnabled("editComputerName"));
-}
-
-void SourcePageTest::offersTheComputerOfASetForARestore() {
-    Session session;
-    const auto set = session.source.set([](simulator::CredentialsState&) {});
-    PageDriver driver;
-    session.source.takeCalls();
-    QVERIFY(driver.page().initForRestore(set));
-    QCOMPARE(session.source.takeCalls(), Lines{"BackupSet.getComputerName()"});
-    QVERIFY(driver.isEnabled("editComputerName"));
-
-    session.source.agent.inject("getComputerName", simulator::Fault{"Gone."});
-    ModalDriver modals;
-    modals.expectErrorBox(QStringLiteral("Init Error"), QStringLiteral("Gone."));
-    QVERIFY(driver.page().initForRestore(set));
-    QVERIFY(modals.done());
-}
-
-void SourcePageTest::givesTheCredentialsToTheSet() {
-    Session session;
-    auto set = session.source.set([](simulator::CredentialsState&) {});
-    PageDriver driver;
-    session.source.takeCalls();
-    driver.page().applyCredentials(set);
-    QCOMPARE(session.source.takeCalls(),
-             (Lines{"DataSourceBrowser.getCurrentCredentials()",
-                    "BackupSet.setCredentials(BackupSetCredentials(demo))"}));
-    set.reset();
-    driver.close();
-    session.source.verifyAllReleased();
 }
 
 QTEST_MAIN(SourcePageTest)

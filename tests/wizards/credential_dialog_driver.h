@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+namespace wizards_test {
+
+inline constexpr char kPassword[] = "s3same-0pen";
+
+QString fieldText(QWidget& dialog, const char* edit);
+bool canBeConfirmed(QWidget& dialog);
+
+/// As a user does who has selected all of the field.
+void type(QWidget& dialog, const char* edit, const QString& text);
+void press(QWidget& dialog, const char* button);
+
+/// Whether somebody could read the text off a widget below, seeing or not.
+bool gives(const QWidget& window, const QString& secret);
+
+} // namespace wizards_test
