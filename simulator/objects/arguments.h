@@ -100,7 +100,7 @@ void writeResult(const T& result, References& references, std::string& out) {
             writeResult(object, references, out);
         hessianser::writeEnd(out);
     } else if constexpr (IsRowList<T>::value) {
-        std::size_t size = 2 * hessianser::sizeOfEnd;
+        std::size_t size = std::size_t{2} * hessianser::sizeOfEnd;
         for (const auto* row : result)
             size += hessianser::sizeOfValue(*row);
         out.reserve(out.size() + size + hessianser::sizeOfEnd);

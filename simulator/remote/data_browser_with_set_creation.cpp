@@ -2,16 +2,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "simulator/remote/data_browser_with_set_creation.h"
 
-#include <utility>
-
 #include "simulator/remote/backup_set.h"
 #include "simulator/world/names.h"
 
 namespace simulator {
 
-DataBrowserWithSetCreation::DataBrowserWithSetCreation(std::shared_ptr<Session> opened,
+DataBrowserWithSetCreation::DataBrowserWithSetCreation(const std::shared_ptr<Session>& opened,
                                                        World& world)
-    : DataSourceBrowser(std::move(opened), world) {
+    : DataSourceBrowser(opened, world) {
     implements("DataBrowserWithSetCreation");
     on("createBackupSet", [this](const std::string& computer) {
         return std::make_shared<BackupSet>(session(), world_, newSet(computer));
@@ -20,7 +18,7 @@ DataBrowserWithSetCreation::DataBrowserWithSetCreation(std::shared_ptr<Session> 
 
 World::Set DataBrowserWithSetCreation::newSet(const std::string& computer) const {
     const Network::Computer source = world_.network.computer(computer);
-    const auto set = std::make_shared<BackupSetState>();
+    auto set = std::make_shared<BackupSetState>();
     set->source = source->name;
     set->ofWindows = source->kind == LoginKind::Windows;
     set->credentials = current();

@@ -9,7 +9,7 @@ namespace simulator {
 /// A browser that also makes backup sets.
 class DataBrowserWithSetCreation final : public DataSourceBrowser {
 public:
-    DataBrowserWithSetCreation(std::shared_ptr<Session> opened, World& world);
+    DataBrowserWithSetCreation(const std::shared_ptr<Session>& opened, World& world);
 
 private:
     World::Set newSet(const std::string& computer) const;

@@ -35,7 +35,7 @@ ItemState item(const World& world, ItemState::Kind kind, const std::string& comp
 
 } // namespace
 
-DataSourceBrowser::DataSourceBrowser(std::shared_ptr<Session> opened, World& world)
+DataSourceBrowser::DataSourceBrowser(const std::shared_ptr<Session>& opened, World& world)
     : DataSourceBrowser(opened, world, loginFor(*world.network.local(), opened->user)) {}
 
 DataSourceBrowser::DataSourceBrowser(std::shared_ptr<Session> opened, World& world,

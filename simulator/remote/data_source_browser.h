@@ -19,7 +19,7 @@ public:
     static constexpr std::string_view family = "DataSourceBrowser";
 
     /// The login begins as that of the agent's own computer.
-    DataSourceBrowser(std::shared_ptr<Session> opened, World& world);
+    DataSourceBrowser(const std::shared_ptr<Session>& opened, World& world);
     /// The login begins as a set has it.
     DataSourceBrowser(std::shared_ptr<Session> opened, World& world, CredentialsState current);
 

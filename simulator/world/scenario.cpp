@@ -21,7 +21,7 @@ using hessiancln::BackupDataType;
 using hessiancln::ClientOSType;
 using hessiancln::KeyEncryptionType;
 
-constexpr Milliseconds quarterOfAnHour = 15 * 60 * 1000;
+constexpr Milliseconds quarterOfAnHour = Milliseconds{15} * 60 * 1000;
 constexpr std::int64_t mebibyte = 1 << 20;
 constexpr std::int64_t gibibyte = 1 << 30;
 

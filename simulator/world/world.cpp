@@ -99,7 +99,7 @@ void World::enlist(const Set& set) {
 }
 
 World::Set World::addSet(BackupSetState state) {
-    const auto set = std::make_shared<BackupSetState>(std::move(state));
+    auto set = std::make_shared<BackupSetState>(std::move(state));
     enlist(set);
     return set;
 }
