@@ -27,16 +27,16 @@ using session::required;
 
 namespace {
 
+constexpr int kNextDay = 1;
+constexpr std::int32_t kFullThrottle = 100;
+constexpr const char* kMissedSchedule = "ScheduleMiss";
+
 /// A wizard doesn't grow with a page that shows more than before.
 void keepPlace(QWidget& widget) {
     QSizePolicy policy = widget.sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     widget.setSizePolicy(policy);
 }
-
-constexpr int kNextDay = 1;
-constexpr std::int32_t kFullThrottle = 100;
-const std::string kMissedSchedule = "ScheduleMiss";
 
 boost::shared_ptr<hessiancln::ClientConfiguration> configuration() {
     return required(session::getConnection()->getConfigurationManager());
