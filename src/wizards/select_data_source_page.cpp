@@ -247,6 +247,15 @@ void SelectDataSourcePage::OnShowNetDiscoveryTree() {
     QSizePolicy policy = ui_->groupDataSource->sizePolicy();
     policy.setVerticalStretch(shown ? 1 : 0);
     ui_->groupDataSource->setSizePolicy(policy);
+    if (isVisible())
+        growToContents();
+}
+
+/// A wizard doesn't grow by itself with what a page shows in addition.
+void SelectDataSourcePage::growToContents() {
+    layout()->activate();
+    const QSize lacking = (minimumSizeHint() - size()).expandedTo(QSize(0, 0));
+    window()->resize(window()->size() + lacking);
 }
 
 void SelectDataSourcePage::on_chkUseTarnClientAccount_clicked(bool checked) {

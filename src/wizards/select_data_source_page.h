@@ -78,6 +78,7 @@ private:
 
     void connectWidgets();
     void giveTreeItsModel();
+    void growToContents();
     void takeNeededCredentials();
     bool showComputerOfFileSet(hessiancln::BackupSet& set);
     void setComplete(bool complete);

@@ -238,7 +238,7 @@ void SourcePageTest::takesTheAgentsAccountBackIfTheAgentRefuses() {
 }
 
 void SourcePageTest::looksIntoTheNetworkOnlyIfShown() {
-    Session session;
+    Session session(LoginKind::Ssh);
     PageDriver driver;
     driver.show();
     session.source.takeCalls();
@@ -253,6 +253,8 @@ void SourcePageTest::looksIntoTheNetworkOnlyIfShown() {
                             QStringLiteral("Microsoft Windows Network"),
                             QStringLiteral("Unix Hosts")};
     QCOMPARE(driver.networkRows({}), roots);
+    const auto& tree = child<QTreeView>(driver.page(), "treeNetworkDiscovery");
+    QTRY_COMPARE(tree.visibleRegion().boundingRect().size(), tree.size());
     driver.click("btnShowNetDiscovery");
     QVERIFY(!driver.isShown("treeNetworkDiscovery"));
     QVERIFY(!child<QLineEdit>(driver.page(), "editComputerName").isReadOnly());
