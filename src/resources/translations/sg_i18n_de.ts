@@ -2,6 +2,93 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>ADAccountDlg</name>
+    <message>
+        <source>Modify LDAP User Account</source>
+        <translation>LDAP-Benutzerkonto ändern</translation>
+    </message>
+    <message>
+        <source>LDAP user settings</source>
+        <translation>LDAP-Benutzer</translation>
+    </message>
+    <message>
+        <source>&amp;User Account:</source>
+        <translation>&amp;Benutzerkonto:</translation>
+    </message>
+    <message>
+        <source>User account</source>
+        <translation>Benutzerkonto</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Kennwort:</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Kennwort</translation>
+    </message>
+    <message>
+        <source>Con&amp;firm:</source>
+        <translation>&amp;Wiederholung:</translation>
+    </message>
+    <message>
+        <source>Confirm password</source>
+        <translation>Kennwort wiederholen</translation>
+    </message>
+    <message>
+        <source>&amp;Domain:</source>
+        <translation>&amp;Domäne:</translation>
+    </message>
+    <message>
+        <source>Domain</source>
+        <translation>Domäne</translation>
+    </message>
+    <message>
+        <source>&amp;Validate Now...</source>
+        <translation>Jetzt &amp;prüfen …</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>Username is required for initialization.</source>
+        <translation>Für die Einrichtung wird der Benutzername benötigt.</translation>
+    </message>
+    <message>
+        <source>Password is required for initialization.</source>
+        <translation>Für die Einrichtung wird das Kennwort benötigt.</translation>
+    </message>
+    <message>
+        <source>The password you typed do not match.</source>
+        <translation>Die eingegebenen Kennwörter stimmen nicht überein.</translation>
+    </message>
+    <message>
+        <source>Domain is required for initialization.</source>
+        <translation>Für die Einrichtung wird die Domäne benötigt.</translation>
+    </message>
+    <message>
+        <source>LDAP User Validation Error</source>
+        <translation>Fehler beim Prüfen des LDAP-Benutzers</translation>
+    </message>
+    <message>
+        <source>LDAP User Validation</source>
+        <translation>Prüfung des LDAP-Benutzers</translation>
+    </message>
+    <message>
+        <source>LDAP User Information is saved successfully.</source>
+        <translation>Die Angaben zum LDAP-Benutzer wurden gespeichert.</translation>
+    </message>
+    <message>
+        <source>LDAP User Information is validated successfully.</source>
+        <translation>Die Angaben zum LDAP-Benutzer wurden erfolgreich geprüft.</translation>
+    </message>
+</context>
+<context>
     <name>AboutDlg</name>
     <message>
         <source>Tarn-Client Info</source>
@@ -68,6 +155,89 @@
     </message>
 </context>
 <context>
+    <name>AdminConfigPage</name>
+    <message>
+        <source>Admin Configuration</source>
+        <translation>Verwaltung einrichten</translation>
+    </message>
+    <message>
+        <source>Tarn-Client daily/weekly admin configuration </source>
+        <translation>Tägliche und wöchentliche Verwaltung des Tarn-Clients </translation>
+    </message>
+    <message>
+        <source>Admin Process</source>
+        <translation>Verwaltungslauf</translation>
+    </message>
+    <message>
+        <source>&amp;Daily</source>
+        <translation>&amp;Täglich</translation>
+    </message>
+    <message>
+        <source>start at:</source>
+        <translation>Beginn um:</translation>
+    </message>
+    <message>
+        <source>Start of the daily admin process</source>
+        <translation>Beginn des täglichen Verwaltungslaufs</translation>
+    </message>
+    <message>
+        <source>&amp;Run Now</source>
+        <translation>Jetzt &amp;starten</translation>
+    </message>
+    <message>
+        <source>&amp;Weekly</source>
+        <translation>Wö&amp;chentlich</translation>
+    </message>
+    <message>
+        <source>Start of the weekly admin process</source>
+        <translation>Beginn des wöchentlichen Verwaltungslaufs</translation>
+    </message>
+    <message>
+        <source>R&amp;un Now</source>
+        <translation>Jetzt sta&amp;rten</translation>
+    </message>
+    <message>
+        <source>Every</source>
+        <translation>Jeden</translation>
+    </message>
+    <message>
+        <source>Day of the weekly admin process</source>
+        <translation>Tag des wöchentlichen Verwaltungslaufs</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>Sonntag</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Montag</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>Dienstag</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>Mittwoch</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>Donnerstag</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>Freitag</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>Samstag</translation>
+    </message>
+    <message>
+        <source>Configuration Error</source>
+        <translation>Konfigurationsfehler</translation>
+    </message>
+</context>
+<context>
     <name>BackupSetViewItem</name>
     <message>
         <source>Backup of: %1</source>
@@ -86,6 +256,223 @@ backup set using the buttons on the right.</source>
     <message>
         <source>Rename backup set error</source>
         <translation>Fehler beim Umbenennen des Sicherungssatzes</translation>
+    </message>
+</context>
+<context>
+    <name>CComputerTreeItem</name>
+    <message>
+        <source>Failed to expand &apos;%1&apos;</source>
+        <translation>„%1“ konnte nicht geöffnet werden</translation>
+    </message>
+</context>
+<context>
+    <name>CEnterSimpleUserPsw</name>
+    <message>
+        <source>Select Credentials</source>
+        <translation>Anmeldedaten wählen</translation>
+    </message>
+    <message>
+        <source>Credentials</source>
+        <translation>Anmeldedaten</translation>
+    </message>
+    <message>
+        <source>&amp;User Name:</source>
+        <translation>&amp;Benutzername:</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>Benutzername</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Kennwort:</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Kennwort</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>CFileExtensionValidator</name>
+    <message>
+        <source>A file extension cannot contain any of the following characters: \/:*?&quot;&lt;&gt;|.</source>
+        <translation>Eine Dateiendung darf keines dieser Zeichen enthalten: \/:*?&quot;&lt;&gt;|.</translation>
+    </message>
+</context>
+<context>
+    <name>CSSHAccessType</name>
+    <message>
+        <source>Select SSH Access Type</source>
+        <translation>Art des SSH-Zugriffs wählen</translation>
+    </message>
+    <message>
+        <source>SSH Access Options:</source>
+        <translation>SSH-Zugriff:</translation>
+    </message>
+    <message>
+        <source>&amp;Interface:</source>
+        <translation>&amp;Schnittstelle:</translation>
+    </message>
+    <message>
+        <source>Interface</source>
+        <translation>Schnittstelle</translation>
+    </message>
+    <message>
+        <source>Perl</source>
+        <translation>Perl</translation>
+    </message>
+    <message>
+        <source>Python</source>
+        <translation>Python</translation>
+    </message>
+    <message>
+        <source>Direct Script Execution</source>
+        <translation>Direkte Skriptausführung</translation>
+    </message>
+    <message>
+        <source>&amp;Path</source>
+        <translation>&amp;Pfad</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Pfad</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>Cannot set ssh access type</source>
+        <translation>Die Art des SSH-Zugriffs kann nicht gesetzt werden</translation>
+    </message>
+    <message>
+        <source>The access method &apos;direct script execution&apos; requires the script path to execute</source>
+        <translation>Die direkte Skriptausführung braucht den Pfad des Skripts</translation>
+    </message>
+</context>
+<context>
+    <name>CSSHConnectAsDlg</name>
+    <message>
+        <source>Select SSH Login Authentication</source>
+        <translation>SSH-Anmeldung wählen</translation>
+    </message>
+    <message>
+        <source>Authentication Style</source>
+        <translation>Art der Anmeldung</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>&amp;Kennwort</translation>
+    </message>
+    <message>
+        <source>&amp;Identity File</source>
+        <translation>&amp;Schlüsseldatei</translation>
+    </message>
+    <message>
+        <source>Credentials</source>
+        <translation>Anmeldedaten</translation>
+    </message>
+    <message>
+        <source>&amp;User Name:</source>
+        <translation>&amp;Benutzername:</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>Benutzername</translation>
+    </message>
+    <message>
+        <source>Pass&amp;word:</source>
+        <translation>Kenn&amp;wort:</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Kennwort</translation>
+    </message>
+    <message>
+        <source>&amp;User Name</source>
+        <translation>Benutzer&amp;name</translation>
+    </message>
+    <message>
+        <source>Identity &amp;File:</source>
+        <translation>Schlüssel&amp;datei:</translation>
+    </message>
+    <message>
+        <source>Identity file</source>
+        <translation>Schlüsseldatei</translation>
+    </message>
+    <message>
+        <source>P&amp;assphrase:</source>
+        <translation>&amp;Passphrase:</translation>
+    </message>
+    <message>
+        <source>Passphrase</source>
+        <translation>Passphrase</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>CSSHSudoCredentials</name>
+    <message>
+        <source>Select &apos;SUDO&apos; credentials</source>
+        <translation>Anmeldedaten für SUDO wählen</translation>
+    </message>
+    <message>
+        <source>Credentials</source>
+        <translation>Anmeldedaten</translation>
+    </message>
+    <message>
+        <source>&amp;User Name:</source>
+        <translation>&amp;Benutzername:</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>Benutzername</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Kennwort:</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Kennwort</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;No SUDO</source>
+        <translation>Ohne &amp;SUDO</translation>
+    </message>
+</context>
+<context>
+    <name>CUserNameValidator</name>
+    <message>
+        <source>User names cannot contain these characters: \/&quot;[]:|&lt;&gt;+=;,?*@ and must be less than 20 characters</source>
+        <translation>Benutzernamen dürfen diese Zeichen nicht enthalten: \/&quot;[]:|&lt;&gt;+=;,?*@ und müssen kürzer als 20 Zeichen sein</translation>
     </message>
 </context>
 <context>
@@ -239,6 +626,1408 @@ backup set using the buttons on the right.</source>
     </message>
 </context>
 <context>
+    <name>InitClntCfgDlg</name>
+    <message>
+        <source>Modify Tarn-Client Configuration</source>
+        <translation>Konfiguration des Tarn-Clients ändern</translation>
+    </message>
+    <message>
+        <source>Customer Registration Info</source>
+        <translation>Registrierungsdaten des Kunden</translation>
+    </message>
+    <message>
+        <source>Customer &amp;Name</source>
+        <translation>Kunden&amp;name</translation>
+    </message>
+    <message>
+        <source>Customer name</source>
+        <translation>Kundenname</translation>
+    </message>
+    <message>
+        <source>&amp;Browse</source>
+        <translation>&amp;Durchsuchen</translation>
+    </message>
+    <message>
+        <source>Acc&amp;ount #</source>
+        <translation>K&amp;onto-Nr.</translation>
+    </message>
+    <message>
+        <source>Account number</source>
+        <translation>Kontonummer</translation>
+    </message>
+    <message>
+        <source>Tarn-C&amp;lient #</source>
+        <translation>Tarn-Cl&amp;ient-Nr.</translation>
+    </message>
+    <message>
+        <source>Tarn-Client number</source>
+        <translation>Tarn-Client-Nummer</translation>
+    </message>
+    <message>
+        <source>Tarn-System Operation Port #</source>
+        <translation>Betriebsport des Tarn-Systems</translation>
+    </message>
+    <message>
+        <source>Tarn-System Info</source>
+        <translation>Tarn-System</translation>
+    </message>
+    <message>
+        <source>Addr&amp;ess</source>
+        <translation>Adr&amp;esse</translation>
+    </message>
+    <message>
+        <source>Tarn-System address to add</source>
+        <translation>Neue Adresse eines Tarn-Systems</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Tarn-System addresses</source>
+        <translation>Adressen von Tarn-Systemen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>Entfe&amp;rnen</translation>
+    </message>
+    <message>
+        <source>Encryption Keys</source>
+        <translation>Verschlüsselungsschlüssel</translation>
+    </message>
+    <message>
+        <source>Private Key</source>
+        <translation>Privater Schlüssel</translation>
+    </message>
+    <message>
+        <source>&amp;Type</source>
+        <translation>&amp;Typ</translation>
+    </message>
+    <message>
+        <source>Private key type</source>
+        <translation>Typ des privaten Schlüssels</translation>
+    </message>
+    <message>
+        <source>&amp;Key</source>
+        <translation>&amp;Schlüssel</translation>
+    </message>
+    <message>
+        <source>Private key</source>
+        <translation>Privater Schlüssel</translation>
+    </message>
+    <message>
+        <source>Con&amp;firm</source>
+        <translation>&amp;Bestätigung</translation>
+    </message>
+    <message>
+        <source>Confirm private key</source>
+        <translation>Privaten Schlüssel bestätigen</translation>
+    </message>
+    <message>
+        <source>Account Key</source>
+        <translation>Kontoschlüssel</translation>
+    </message>
+    <message>
+        <source>Ty&amp;pe</source>
+        <translation>T&amp;yp</translation>
+    </message>
+    <message>
+        <source>Account key type</source>
+        <translation>Typ des Kontoschlüssels</translation>
+    </message>
+    <message>
+        <source>Ke&amp;y</source>
+        <translation>S&amp;chlüssel</translation>
+    </message>
+    <message>
+        <source>Account key</source>
+        <translation>Kontoschlüssel</translation>
+    </message>
+    <message>
+        <source>C&amp;onfirm</source>
+        <translation>Bestäti&amp;gung</translation>
+    </message>
+    <message>
+        <source>Confirm account key</source>
+        <translation>Kontoschlüssel bestätigen</translation>
+    </message>
+    <message>
+        <source>Allo&amp;w encryption forwarding to Tarn-System</source>
+        <translation>Weiterleitung der Schlüssel an das Tarn-System erla&amp;uben</translation>
+    </message>
+    <message>
+        <source>&lt;font color=#FF0000&gt;WARNING:&lt;/font&gt;</source>
+        <translation>&lt;font color=#FF0000&gt;WARNUNG:&lt;/font&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;font color=#FF0000&gt;IF THESE ENCRYPTION KEYS ARE LOST, NOBODY CAN EVER RESTORE YOUR DATA!&lt;/font&gt;</source>
+        <translation>&lt;font color=#FF0000&gt;WENN DIESE SCHLÜSSEL VERLOREN GEHEN, KANN NIEMAND IHRE DATEN JE WIEDERHERSTELLEN!&lt;/font&gt;</translation>
+    </message>
+    <message>
+        <source>User Info</source>
+        <translation>Angaben zum Benutzer</translation>
+    </message>
+    <message>
+        <source>Co&amp;untry</source>
+        <translation>&amp;Land</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Land</translation>
+    </message>
+    <message>
+        <source>Nu&amp;mber of Employees</source>
+        <translation>Anzahl der &amp;Mitarbeiter</translation>
+    </message>
+    <message>
+        <source>Number of employees</source>
+        <translation>Anzahl der Mitarbeiter</translation>
+    </message>
+    <message>
+        <source>1 - 50</source>
+        <translation>1 – 50</translation>
+    </message>
+    <message>
+        <source>51 - 200</source>
+        <translation>51 – 200</translation>
+    </message>
+    <message>
+        <source>201 - 500</source>
+        <translation>201 – 500</translation>
+    </message>
+    <message>
+        <source>501 - 1,000</source>
+        <translation>501 – 1.000</translation>
+    </message>
+    <message>
+        <source>1,001 - 5,000</source>
+        <translation>1.001 – 5.000</translation>
+    </message>
+    <message>
+        <source>5,001 - 10,000</source>
+        <translation>5.001 – 10.000</translation>
+    </message>
+    <message>
+        <source>More than 10,000</source>
+        <translation>Mehr als 10.000</translation>
+    </message>
+    <message>
+        <source>Industry &amp;Verticals</source>
+        <translation>Wirtschafts&amp;zweig</translation>
+    </message>
+    <message>
+        <source>Industry verticals</source>
+        <translation>Wirtschaftszweig</translation>
+    </message>
+    <message>
+        <source>Manufacturing and energy</source>
+        <translation>Produktion und Energie</translation>
+    </message>
+    <message>
+        <source>Retail and wholesale trade</source>
+        <translation>Einzel- und Großhandel</translation>
+    </message>
+    <message>
+        <source>Utilities and telecommunications</source>
+        <translation>Versorgung und Telekommunikation</translation>
+    </message>
+    <message>
+        <source>Computer - hardware, software</source>
+        <translation>Computer – Hardware, Software</translation>
+    </message>
+    <message>
+        <source>Business services and construction</source>
+        <translation>Unternehmensdienste und Bau</translation>
+    </message>
+    <message>
+        <source>Media, entertainment, and leisure</source>
+        <translation>Medien, Unterhaltung und Freizeit</translation>
+    </message>
+    <message>
+        <source>Financial services and insurance</source>
+        <translation>Finanzdienste und Versicherungen</translation>
+    </message>
+    <message>
+        <source>Public sector and healthcare</source>
+        <translation>Öffentlicher Dienst und Gesundheit</translation>
+    </message>
+    <message>
+        <source>Connect to &amp;Tarn-System and verify information</source>
+        <translation>Mit dem Tarn-System &amp;verbinden und Angaben prüfen</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>S&amp;peichern</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>Afghanistan</source>
+        <translation>Afghanistan</translation>
+    </message>
+    <message>
+        <source>Åland Islands</source>
+        <translation>Ålandinseln</translation>
+    </message>
+    <message>
+        <source>Albania</source>
+        <translation>Albanien</translation>
+    </message>
+    <message>
+        <source>Algeria</source>
+        <translation>Algerien</translation>
+    </message>
+    <message>
+        <source>American Samoa</source>
+        <translation>Amerikanisch-Samoa</translation>
+    </message>
+    <message>
+        <source>Andorra</source>
+        <translation>Andorra</translation>
+    </message>
+    <message>
+        <source>Angola</source>
+        <translation>Angola</translation>
+    </message>
+    <message>
+        <source>Anguilla</source>
+        <translation>Anguilla</translation>
+    </message>
+    <message>
+        <source>Antarctica</source>
+        <translation>Antarktis</translation>
+    </message>
+    <message>
+        <source>Antigua and Barbuda</source>
+        <translation>Antigua und Barbuda</translation>
+    </message>
+    <message>
+        <source>Argentina</source>
+        <translation>Argentinien</translation>
+    </message>
+    <message>
+        <source>Armenia</source>
+        <translation>Armenien</translation>
+    </message>
+    <message>
+        <source>Aruba</source>
+        <translation>Aruba</translation>
+    </message>
+    <message>
+        <source>Australia</source>
+        <translation>Australien</translation>
+    </message>
+    <message>
+        <source>Austria</source>
+        <translation>Österreich</translation>
+    </message>
+    <message>
+        <source>Azerbaijan</source>
+        <translation>Aserbaidschan</translation>
+    </message>
+    <message>
+        <source>Bahamas</source>
+        <translation>Bahamas</translation>
+    </message>
+    <message>
+        <source>Bahrain</source>
+        <translation>Bahrain</translation>
+    </message>
+    <message>
+        <source>Bangladesh</source>
+        <translation>Bangladesch</translation>
+    </message>
+    <message>
+        <source>Barbados</source>
+        <translation>Barbados</translation>
+    </message>
+    <message>
+        <source>Belarus</source>
+        <translation>Belarus</translation>
+    </message>
+    <message>
+        <source>Belgium</source>
+        <translation>Belgien</translation>
+    </message>
+    <message>
+        <source>Belize</source>
+        <translation>Belize</translation>
+    </message>
+    <message>
+        <source>Benin</source>
+        <translation>Benin</translation>
+    </message>
+    <message>
+        <source>Bermuda</source>
+        <translation>Bermuda</translation>
+    </message>
+    <message>
+        <source>Bhutan</source>
+        <translation>Bhutan</translation>
+    </message>
+    <message>
+        <source>Bolivia, Plurinational State of</source>
+        <translation>Bolivien, Plurinationaler Staat</translation>
+    </message>
+    <message>
+        <source>Bonaire, Sint Eustatius and Saba</source>
+        <translation>Bonaire, Sint Eustatius und Saba</translation>
+    </message>
+    <message>
+        <source>Bosnia and Herzegovina</source>
+        <translation>Bosnien und Herzegowina</translation>
+    </message>
+    <message>
+        <source>Botswana</source>
+        <translation>Botswana</translation>
+    </message>
+    <message>
+        <source>Bouvet Island</source>
+        <translation>Bouvetinsel</translation>
+    </message>
+    <message>
+        <source>Brazil</source>
+        <translation>Brasilien</translation>
+    </message>
+    <message>
+        <source>British Indian Ocean Territory</source>
+        <translation>Britisches Territorium im Indischen Ozean</translation>
+    </message>
+    <message>
+        <source>Brunei Darussalam</source>
+        <translation>Brunei Darussalam</translation>
+    </message>
+    <message>
+        <source>Bulgaria</source>
+        <translation>Bulgarien</translation>
+    </message>
+    <message>
+        <source>Burkina Faso</source>
+        <translation>Burkina Faso</translation>
+    </message>
+    <message>
+        <source>Burundi</source>
+        <translation>Burundi</translation>
+    </message>
+    <message>
+        <source>Cambodia</source>
+        <translation>Kambodscha</translation>
+    </message>
+    <message>
+        <source>Cameroon</source>
+        <translation>Kamerun</translation>
+    </message>
+    <message>
+        <source>Canada</source>
+        <translation>Kanada</translation>
+    </message>
+    <message>
+        <source>Cape Verde</source>
+        <translation>Kap Verde</translation>
+    </message>
+    <message>
+        <source>Cayman Islands</source>
+        <translation>Kaimaninseln</translation>
+    </message>
+    <message>
+        <source>Central African Republic</source>
+        <translation>Zentralafrikanische Republik</translation>
+    </message>
+    <message>
+        <source>Chad</source>
+        <translation>Tschad</translation>
+    </message>
+    <message>
+        <source>Chile</source>
+        <translation>Chile</translation>
+    </message>
+    <message>
+        <source>China</source>
+        <translation>China</translation>
+    </message>
+    <message>
+        <source>Christmas Island</source>
+        <translation>Weihnachtsinsel</translation>
+    </message>
+    <message>
+        <source>Cocos (Keeling) Islands</source>
+        <translation>Kokosinseln (Keelinginseln)</translation>
+    </message>
+    <message>
+        <source>Colombia</source>
+        <translation>Kolumbien</translation>
+    </message>
+    <message>
+        <source>Comoros</source>
+        <translation>Komoren</translation>
+    </message>
+    <message>
+        <source>Congo</source>
+        <translation>Kongo</translation>
+    </message>
+    <message>
+        <source>Congo, the Democratic Republic of the</source>
+        <translation>Kongo, Demokratische Republik</translation>
+    </message>
+    <message>
+        <source>Cook Islands</source>
+        <translation>Cookinseln</translation>
+    </message>
+    <message>
+        <source>Costa Rica</source>
+        <translation>Costa Rica</translation>
+    </message>
+    <message>
+        <source>Côte d&apos;Ivoire</source>
+        <translation>Côte d&apos;Ivoire</translation>
+    </message>
+    <message>
+        <source>Croatia</source>
+        <translation>Kroatien</translation>
+    </message>
+    <message>
+        <source>Cuba</source>
+        <translation>Kuba</translation>
+    </message>
+    <message>
+        <source>Curaçao</source>
+        <translation>Curaçao</translation>
+    </message>
+    <message>
+        <source>Cyprus</source>
+        <translation>Zypern</translation>
+    </message>
+    <message>
+        <source>Czech Republic</source>
+        <translation>Tschechische Republik</translation>
+    </message>
+    <message>
+        <source>Denmark</source>
+        <translation>Dänemark</translation>
+    </message>
+    <message>
+        <source>Djibouti</source>
+        <translation>Dschibuti</translation>
+    </message>
+    <message>
+        <source>Dominica</source>
+        <translation>Dominica</translation>
+    </message>
+    <message>
+        <source>Dominican Republic</source>
+        <translation>Dominikanische Republik</translation>
+    </message>
+    <message>
+        <source>Ecuador</source>
+        <translation>Ecuador</translation>
+    </message>
+    <message>
+        <source>Egypt</source>
+        <translation>Ägypten</translation>
+    </message>
+    <message>
+        <source>El Salvador</source>
+        <translation>El Salvador</translation>
+    </message>
+    <message>
+        <source>Equatorial Guinea</source>
+        <translation>Äquatorialguinea</translation>
+    </message>
+    <message>
+        <source>Eritrea</source>
+        <translation>Eritrea</translation>
+    </message>
+    <message>
+        <source>Estonia</source>
+        <translation>Estland</translation>
+    </message>
+    <message>
+        <source>Ethiopia</source>
+        <translation>Äthiopien</translation>
+    </message>
+    <message>
+        <source>Falkland Islands (Malvinas)</source>
+        <translation>Falklandinseln (Malwinen)</translation>
+    </message>
+    <message>
+        <source>Faroe Islands</source>
+        <translation>Färöer</translation>
+    </message>
+    <message>
+        <source>Fiji</source>
+        <translation>Fidschi</translation>
+    </message>
+    <message>
+        <source>Finland</source>
+        <translation>Finnland</translation>
+    </message>
+    <message>
+        <source>France</source>
+        <translation>Frankreich</translation>
+    </message>
+    <message>
+        <source>French Guiana</source>
+        <translation>Französisch-Guayana</translation>
+    </message>
+    <message>
+        <source>French Polynesia</source>
+        <translation>Französisch-Polynesien</translation>
+    </message>
+    <message>
+        <source>French Southern Territories</source>
+        <translation>Französische Süd- und Antarktisgebiete</translation>
+    </message>
+    <message>
+        <source>Gabon</source>
+        <translation>Gabun</translation>
+    </message>
+    <message>
+        <source>Gambia</source>
+        <translation>Gambia</translation>
+    </message>
+    <message>
+        <source>Georgia</source>
+        <translation>Georgien</translation>
+    </message>
+    <message>
+        <source>Germany</source>
+        <translation>Deutschland</translation>
+    </message>
+    <message>
+        <source>Ghana</source>
+        <translation>Ghana</translation>
+    </message>
+    <message>
+        <source>Gibraltar</source>
+        <translation>Gibraltar</translation>
+    </message>
+    <message>
+        <source>Greece</source>
+        <translation>Griechenland</translation>
+    </message>
+    <message>
+        <source>Greenland</source>
+        <translation>Grönland</translation>
+    </message>
+    <message>
+        <source>Grenada</source>
+        <translation>Grenada</translation>
+    </message>
+    <message>
+        <source>Guadeloupe</source>
+        <translation>Guadeloupe</translation>
+    </message>
+    <message>
+        <source>Guam</source>
+        <translation>Guam</translation>
+    </message>
+    <message>
+        <source>Guatemala</source>
+        <translation>Guatemala</translation>
+    </message>
+    <message>
+        <source>Guernsey</source>
+        <translation>Guernsey</translation>
+    </message>
+    <message>
+        <source>Guinea</source>
+        <translation>Guinea</translation>
+    </message>
+    <message>
+        <source>Guinea-Bissau</source>
+        <translation>Guinea-Bissau</translation>
+    </message>
+    <message>
+        <source>Guyana</source>
+        <translation>Guyana</translation>
+    </message>
+    <message>
+        <source>Haiti</source>
+        <translation>Haiti</translation>
+    </message>
+    <message>
+        <source>Heard Island and McDonald Islands</source>
+        <translation>Heard und McDonaldinseln</translation>
+    </message>
+    <message>
+        <source>Holy See (Vatican City State)</source>
+        <translation>Heiliger Stuhl (Vatikanstadt)</translation>
+    </message>
+    <message>
+        <source>Honduras</source>
+        <translation>Honduras</translation>
+    </message>
+    <message>
+        <source>Hong Kong</source>
+        <translation>Hongkong</translation>
+    </message>
+    <message>
+        <source>Hungary</source>
+        <translation>Ungarn</translation>
+    </message>
+    <message>
+        <source>Iceland</source>
+        <translation>Island</translation>
+    </message>
+    <message>
+        <source>India</source>
+        <translation>Indien</translation>
+    </message>
+    <message>
+        <source>Indonesia</source>
+        <translation>Indonesien</translation>
+    </message>
+    <message>
+        <source>Iran, Islamic Republic of</source>
+        <translation>Iran, Islamische Republik</translation>
+    </message>
+    <message>
+        <source>Iraq</source>
+        <translation>Irak</translation>
+    </message>
+    <message>
+        <source>Ireland</source>
+        <translation>Irland</translation>
+    </message>
+    <message>
+        <source>Isle of Man</source>
+        <translation>Isle of Man</translation>
+    </message>
+    <message>
+        <source>Israel</source>
+        <translation>Israel</translation>
+    </message>
+    <message>
+        <source>Italy</source>
+        <translation>Italien</translation>
+    </message>
+    <message>
+        <source>Jamaica</source>
+        <translation>Jamaika</translation>
+    </message>
+    <message>
+        <source>Japan</source>
+        <translation>Japan</translation>
+    </message>
+    <message>
+        <source>Jersey</source>
+        <translation>Jersey</translation>
+    </message>
+    <message>
+        <source>Jordan</source>
+        <translation>Jordanien</translation>
+    </message>
+    <message>
+        <source>Kazakhstan</source>
+        <translation>Kasachstan</translation>
+    </message>
+    <message>
+        <source>Kenya</source>
+        <translation>Kenia</translation>
+    </message>
+    <message>
+        <source>Kiribati</source>
+        <translation>Kiribati</translation>
+    </message>
+    <message>
+        <source>Korea, Democratic People&apos;s Republic of</source>
+        <translation>Korea, Demokratische Volksrepublik</translation>
+    </message>
+    <message>
+        <source>Korea, Republic of</source>
+        <translation>Korea, Republik</translation>
+    </message>
+    <message>
+        <source>Kuwait</source>
+        <translation>Kuwait</translation>
+    </message>
+    <message>
+        <source>Kyrgyzstan</source>
+        <translation>Kirgisistan</translation>
+    </message>
+    <message>
+        <source>Lao People&apos;s Democratic Republic</source>
+        <translation>Laos, Demokratische Volksrepublik</translation>
+    </message>
+    <message>
+        <source>Latvia</source>
+        <translation>Lettland</translation>
+    </message>
+    <message>
+        <source>Lebanon</source>
+        <translation>Libanon</translation>
+    </message>
+    <message>
+        <source>Lesotho</source>
+        <translation>Lesotho</translation>
+    </message>
+    <message>
+        <source>Liberia</source>
+        <translation>Liberia</translation>
+    </message>
+    <message>
+        <source>Libya</source>
+        <translation>Libyen</translation>
+    </message>
+    <message>
+        <source>Liechtenstein</source>
+        <translation>Liechtenstein</translation>
+    </message>
+    <message>
+        <source>Lithuania</source>
+        <translation>Litauen</translation>
+    </message>
+    <message>
+        <source>Luxembourg</source>
+        <translation>Luxemburg</translation>
+    </message>
+    <message>
+        <source>Macao</source>
+        <translation>Macao</translation>
+    </message>
+    <message>
+        <source>Macedonia, the former Yugoslav Republic of</source>
+        <translation>Mazedonien, ehemalige jugoslawische Republik</translation>
+    </message>
+    <message>
+        <source>Madagascar</source>
+        <translation>Madagaskar</translation>
+    </message>
+    <message>
+        <source>Malawi</source>
+        <translation>Malawi</translation>
+    </message>
+    <message>
+        <source>Malaysia</source>
+        <translation>Malaysia</translation>
+    </message>
+    <message>
+        <source>Maldives</source>
+        <translation>Malediven</translation>
+    </message>
+    <message>
+        <source>Mali</source>
+        <translation>Mali</translation>
+    </message>
+    <message>
+        <source>Malta</source>
+        <translation>Malta</translation>
+    </message>
+    <message>
+        <source>Marshall Islands</source>
+        <translation>Marshallinseln</translation>
+    </message>
+    <message>
+        <source>Martinique</source>
+        <translation>Martinique</translation>
+    </message>
+    <message>
+        <source>Mauritania</source>
+        <translation>Mauretanien</translation>
+    </message>
+    <message>
+        <source>Mauritius</source>
+        <translation>Mauritius</translation>
+    </message>
+    <message>
+        <source>Mayotte</source>
+        <translation>Mayotte</translation>
+    </message>
+    <message>
+        <source>Mexico</source>
+        <translation>Mexiko</translation>
+    </message>
+    <message>
+        <source>Micronesia, Federated States of</source>
+        <translation>Mikronesien, Föderierte Staaten von</translation>
+    </message>
+    <message>
+        <source>Moldova, Republic of</source>
+        <translation>Moldau, Republik</translation>
+    </message>
+    <message>
+        <source>Monaco</source>
+        <translation>Monaco</translation>
+    </message>
+    <message>
+        <source>Mongolia</source>
+        <translation>Mongolei</translation>
+    </message>
+    <message>
+        <source>Montenegro</source>
+        <translation>Montenegro</translation>
+    </message>
+    <message>
+        <source>Montserrat</source>
+        <translation>Montserrat</translation>
+    </message>
+    <message>
+        <source>Morocco</source>
+        <translation>Marokko</translation>
+    </message>
+    <message>
+        <source>Mozambique</source>
+        <translation>Mosambik</translation>
+    </message>
+    <message>
+        <source>Myanmar</source>
+        <translation>Myanmar</translation>
+    </message>
+    <message>
+        <source>Namibia</source>
+        <translation>Namibia</translation>
+    </message>
+    <message>
+        <source>Nauru</source>
+        <translation>Nauru</translation>
+    </message>
+    <message>
+        <source>Nepal</source>
+        <translation>Nepal</translation>
+    </message>
+    <message>
+        <source>Netherlands</source>
+        <translation>Niederlande</translation>
+    </message>
+    <message>
+        <source>New Caledonia</source>
+        <translation>Neukaledonien</translation>
+    </message>
+    <message>
+        <source>New Zealand</source>
+        <translation>Neuseeland</translation>
+    </message>
+    <message>
+        <source>Nicaragua</source>
+        <translation>Nicaragua</translation>
+    </message>
+    <message>
+        <source>Niger</source>
+        <translation>Niger</translation>
+    </message>
+    <message>
+        <source>Nigeria</source>
+        <translation>Nigeria</translation>
+    </message>
+    <message>
+        <source>Niue</source>
+        <translation>Niue</translation>
+    </message>
+    <message>
+        <source>Norfolk Island</source>
+        <translation>Norfolkinsel</translation>
+    </message>
+    <message>
+        <source>Northern Mariana Islands</source>
+        <translation>Nördliche Marianen</translation>
+    </message>
+    <message>
+        <source>Norway</source>
+        <translation>Norwegen</translation>
+    </message>
+    <message>
+        <source>Oman</source>
+        <translation>Oman</translation>
+    </message>
+    <message>
+        <source>Pakistan</source>
+        <translation>Pakistan</translation>
+    </message>
+    <message>
+        <source>Palau</source>
+        <translation>Palau</translation>
+    </message>
+    <message>
+        <source>Palestine, State of</source>
+        <translation>Palästina, Staat</translation>
+    </message>
+    <message>
+        <source>Panama</source>
+        <translation>Panama</translation>
+    </message>
+    <message>
+        <source>Papua New Guinea</source>
+        <translation>Papua-Neuguinea</translation>
+    </message>
+    <message>
+        <source>Paraguay</source>
+        <translation>Paraguay</translation>
+    </message>
+    <message>
+        <source>Peru</source>
+        <translation>Peru</translation>
+    </message>
+    <message>
+        <source>Philippines</source>
+        <translation>Philippinen</translation>
+    </message>
+    <message>
+        <source>Pitcairn</source>
+        <translation>Pitcairninseln</translation>
+    </message>
+    <message>
+        <source>Poland</source>
+        <translation>Polen</translation>
+    </message>
+    <message>
+        <source>Portugal</source>
+        <translation>Portugal</translation>
+    </message>
+    <message>
+        <source>Puerto Rico</source>
+        <translation>Puerto Rico</translation>
+    </message>
+    <message>
+        <source>Qatar</source>
+        <translation>Katar</translation>
+    </message>
+    <message>
+        <source>Réunion</source>
+        <translation>Réunion</translation>
+    </message>
+    <message>
+        <source>Romania</source>
+        <translation>Rumänien</translation>
+    </message>
+    <message>
+        <source>Russian Federation</source>
+        <translation>Russische Föderation</translation>
+    </message>
+    <message>
+        <source>Rwanda</source>
+        <translation>Ruanda</translation>
+    </message>
+    <message>
+        <source>Saint Barthélemy</source>
+        <translation>Saint Barthélemy</translation>
+    </message>
+    <message>
+        <source>Saint Helena, Ascension and Tristan da Cunha</source>
+        <translation>St. Helena, Ascension und Tristan da Cunha</translation>
+    </message>
+    <message>
+        <source>Saint Kitts and Nevis</source>
+        <translation>St. Kitts und Nevis</translation>
+    </message>
+    <message>
+        <source>Saint Lucia</source>
+        <translation>St. Lucia</translation>
+    </message>
+    <message>
+        <source>Saint Martin (French part)</source>
+        <translation>St. Martin (französischer Teil)</translation>
+    </message>
+    <message>
+        <source>Saint Pierre and Miquelon</source>
+        <translation>St. Pierre und Miquelon</translation>
+    </message>
+    <message>
+        <source>Saint Vincent and the Grenadines</source>
+        <translation>St. Vincent und die Grenadinen</translation>
+    </message>
+    <message>
+        <source>Samoa</source>
+        <translation>Samoa</translation>
+    </message>
+    <message>
+        <source>San Marino</source>
+        <translation>San Marino</translation>
+    </message>
+    <message>
+        <source>Sao Tome and Principe</source>
+        <translation>São Tomé und Príncipe</translation>
+    </message>
+    <message>
+        <source>Saudi Arabia</source>
+        <translation>Saudi-Arabien</translation>
+    </message>
+    <message>
+        <source>Senegal</source>
+        <translation>Senegal</translation>
+    </message>
+    <message>
+        <source>Serbia</source>
+        <translation>Serbien</translation>
+    </message>
+    <message>
+        <source>Seychelles</source>
+        <translation>Seychellen</translation>
+    </message>
+    <message>
+        <source>Sierra Leone</source>
+        <translation>Sierra Leone</translation>
+    </message>
+    <message>
+        <source>Singapore</source>
+        <translation>Singapur</translation>
+    </message>
+    <message>
+        <source>Sint Maarten (Dutch part)</source>
+        <translation>Sint Maarten (niederländischer Teil)</translation>
+    </message>
+    <message>
+        <source>Slovakia</source>
+        <translation>Slowakei</translation>
+    </message>
+    <message>
+        <source>Slovenia</source>
+        <translation>Slowenien</translation>
+    </message>
+    <message>
+        <source>Solomon Islands</source>
+        <translation>Salomonen</translation>
+    </message>
+    <message>
+        <source>Somalia</source>
+        <translation>Somalia</translation>
+    </message>
+    <message>
+        <source>South Africa</source>
+        <translation>Südafrika</translation>
+    </message>
+    <message>
+        <source>South Georgia and the South Sandwich Islands</source>
+        <translation>Südgeorgien und die Südlichen Sandwichinseln</translation>
+    </message>
+    <message>
+        <source>South Sudan</source>
+        <translation>Südsudan</translation>
+    </message>
+    <message>
+        <source>Spain</source>
+        <translation>Spanien</translation>
+    </message>
+    <message>
+        <source>Sri Lanka</source>
+        <translation>Sri Lanka</translation>
+    </message>
+    <message>
+        <source>Sudan</source>
+        <translation>Sudan</translation>
+    </message>
+    <message>
+        <source>Suriname</source>
+        <translation>Suriname</translation>
+    </message>
+    <message>
+        <source>Svalbard and Jan Mayen</source>
+        <translation>Spitzbergen und Jan Mayen</translation>
+    </message>
+    <message>
+        <source>Swaziland</source>
+        <translation>Swasiland</translation>
+    </message>
+    <message>
+        <source>Sweden</source>
+        <translation>Schweden</translation>
+    </message>
+    <message>
+        <source>Switzerland</source>
+        <translation>Schweiz</translation>
+    </message>
+    <message>
+        <source>Syrian Arab Republic</source>
+        <translation>Syrien, Arabische Republik</translation>
+    </message>
+    <message>
+        <source>Taiwan, Province of China</source>
+        <translation>Taiwan, Provinz Chinas</translation>
+    </message>
+    <message>
+        <source>Tajikistan</source>
+        <translation>Tadschikistan</translation>
+    </message>
+    <message>
+        <source>Tanzania, United Republic of</source>
+        <translation>Tansania, Vereinigte Republik</translation>
+    </message>
+    <message>
+        <source>Thailand</source>
+        <translation>Thailand</translation>
+    </message>
+    <message>
+        <source>Timor-Leste</source>
+        <translation>Timor-Leste</translation>
+    </message>
+    <message>
+        <source>Togo</source>
+        <translation>Togo</translation>
+    </message>
+    <message>
+        <source>Tokelau</source>
+        <translation>Tokelau</translation>
+    </message>
+    <message>
+        <source>Tonga</source>
+        <translation>Tonga</translation>
+    </message>
+    <message>
+        <source>Trinidad and Tobago</source>
+        <translation>Trinidad und Tobago</translation>
+    </message>
+    <message>
+        <source>Tunisia</source>
+        <translation>Tunesien</translation>
+    </message>
+    <message>
+        <source>Turkey</source>
+        <translation>Türkei</translation>
+    </message>
+    <message>
+        <source>Turkmenistan</source>
+        <translation>Turkmenistan</translation>
+    </message>
+    <message>
+        <source>Turks and Caicos Islands</source>
+        <translation>Turks- und Caicosinseln</translation>
+    </message>
+    <message>
+        <source>Tuvalu</source>
+        <translation>Tuvalu</translation>
+    </message>
+    <message>
+        <source>Uganda</source>
+        <translation>Uganda</translation>
+    </message>
+    <message>
+        <source>Ukraine</source>
+        <translation>Ukraine</translation>
+    </message>
+    <message>
+        <source>United Arab Emirates</source>
+        <translation>Vereinigte Arabische Emirate</translation>
+    </message>
+    <message>
+        <source>United Kingdom</source>
+        <translation>Vereinigtes Königreich</translation>
+    </message>
+    <message>
+        <source>United States</source>
+        <translation>Vereinigte Staaten</translation>
+    </message>
+    <message>
+        <source>United States Minor Outlying Islands</source>
+        <translation>Kleinere Amerikanische Überseeinseln</translation>
+    </message>
+    <message>
+        <source>Uruguay</source>
+        <translation>Uruguay</translation>
+    </message>
+    <message>
+        <source>Uzbekistan</source>
+        <translation>Usbekistan</translation>
+    </message>
+    <message>
+        <source>Vanuatu</source>
+        <translation>Vanuatu</translation>
+    </message>
+    <message>
+        <source>Venezuela, Bolivarian Republic of</source>
+        <translation>Venezuela, Bolivarische Republik</translation>
+    </message>
+    <message>
+        <source>Viet Nam</source>
+        <translation>Vietnam</translation>
+    </message>
+    <message>
+        <source>Virgin Islands, British</source>
+        <translation>Britische Jungferninseln</translation>
+    </message>
+    <message>
+        <source>Virgin Islands, U.S.</source>
+        <translation>Amerikanische Jungferninseln</translation>
+    </message>
+    <message>
+        <source>Wallis and Futuna</source>
+        <translation>Wallis und Futuna</translation>
+    </message>
+    <message>
+        <source>Western Sahara</source>
+        <translation>Westsahara</translation>
+    </message>
+    <message>
+        <source>Yemen</source>
+        <translation>Jemen</translation>
+    </message>
+    <message>
+        <source>Zambia</source>
+        <translation>Sambia</translation>
+    </message>
+    <message>
+        <source>Zimbabwe</source>
+        <translation>Simbabwe</translation>
+    </message>
+    <message>
+        <source>Initial Tarn-Client Configuration</source>
+        <translation>Ersteinrichtung des Tarn-Clients</translation>
+    </message>
+    <message>
+        <source>Please choose CRI file</source>
+        <translation>CRI-Datei wählen</translation>
+    </message>
+    <message>
+        <source>CRI Files (*.cri)</source>
+        <translation>CRI-Dateien (*.cri)</translation>
+    </message>
+    <message>
+        <source>Configuration Error</source>
+        <translation>Konfigurationsfehler</translation>
+    </message>
+    <message>
+        <source>Configuration</source>
+        <translation>Konfiguration</translation>
+    </message>
+    <message>
+        <source>Tarn-Client Registration Information is saved and registered successfully.</source>
+        <translation>Die Registrierungsdaten des Tarn-Clients wurden gespeichert und der Tarn-Client wurde registriert.</translation>
+    </message>
+    <message>
+        <source>Tarn-Client Registration Information is saved successfully.</source>
+        <translation>Die Registrierungsdaten des Tarn-Clients wurden gespeichert.</translation>
+    </message>
+    <message>
+        <source>Customer name is needed for initialization.</source>
+        <translation>Für die Einrichtung wird der Kundenname benötigt.</translation>
+    </message>
+    <message>
+        <source>Account Number is needed for initialization.</source>
+        <translation>Für die Einrichtung wird die Kontonummer benötigt.</translation>
+    </message>
+    <message>
+        <source>Client Number is needed for initialization.</source>
+        <translation>Für die Einrichtung wird die Client-Nummer benötigt.</translation>
+    </message>
+    <message>
+        <source>Client number needs to have %1 characters.</source>
+        <translation>Die Client-Nummer muss %1 Zeichen haben.</translation>
+    </message>
+    <message>
+        <source>Need at least one Tarn-System address for initialization.</source>
+        <translation>Für die Einrichtung wird mindestens eine Adresse eines Tarn-Systems benötigt.</translation>
+    </message>
+    <message>
+        <source>The private encryption keys you typed do not match.</source>
+        <translation>Die eingegebenen privaten Schlüssel stimmen nicht überein.</translation>
+    </message>
+    <message>
+        <source>Private key is needed for initialization.</source>
+        <translation>Für die Einrichtung wird der private Schlüssel benötigt.</translation>
+    </message>
+    <message>
+        <source>Please select &quot;NONE&quot; as the account key ecnryption type if you want to input the empty account key!!</source>
+        <translation>Bitte wählen Sie als Typ des Kontoschlüssels „NONE“, wenn der Kontoschlüssel leer bleiben soll!</translation>
+    </message>
+    <message>
+        <source>The account encryption keys you typed do not match.</source>
+        <translation>Die eingegebenen Kontoschlüssel stimmen nicht überein.</translation>
+    </message>
+    <message>
+        <source>Please select a country.</source>
+        <translation>Bitte wählen Sie ein Land.</translation>
+    </message>
+    <message>
+        <source>Please select a number of employees.</source>
+        <translation>Bitte wählen Sie die Anzahl der Mitarbeiter.</translation>
+    </message>
+    <message>
+        <source>Please select a industry vertical.</source>
+        <translation>Bitte wählen Sie einen Wirtschaftszweig.</translation>
+    </message>
+</context>
+<context>
+    <name>ItemsSelectPage</name>
+    <message>
+        <source>Select Items</source>
+        <translation>Elemente wählen</translation>
+    </message>
+    <message>
+        <source>Select the items to backup</source>
+        <translation>Wählen Sie die Elemente, die gesichert werden</translation>
+    </message>
+    <message>
+        <source>Files To Backup</source>
+        <translation>Zu sichernde Dateien</translation>
+    </message>
+    <message>
+        <source>&amp;All Files</source>
+        <translation>A&amp;lle Dateien</translation>
+    </message>
+    <message>
+        <source>&amp;Documents</source>
+        <translation>&amp;Dokumente</translation>
+    </message>
+    <message>
+        <source>&amp;Video</source>
+        <translation>&amp;Videos</translation>
+    </message>
+    <message>
+        <source>&amp;Pictures</source>
+        <translation>&amp;Bilder</translation>
+    </message>
+    <message>
+        <source>&amp;Music</source>
+        <translation>&amp;Musik</translation>
+    </message>
+    <message>
+        <source>&amp;Email</source>
+        <translation>&amp;E-Mails</translation>
+    </message>
+    <message>
+        <source>Cus&amp;tom file extensions (separate by &quot;|&quot;):</source>
+        <translation>Ei&amp;gene Dateiendungen (durch „|“ getrennt):</translation>
+    </message>
+    <message>
+        <source>Custom file extensions</source>
+        <translation>Eigene Dateiendungen</translation>
+    </message>
+    <message>
+        <source>E&amp;xclude temporary files</source>
+        <translation>&amp;Temporäre Dateien ausschließen</translation>
+    </message>
+    <message>
+        <source>*.tmp, *.swp</source>
+        <translation>*.tmp, *.swp</translation>
+    </message>
+    <message>
+        <source>Exclu&amp;de backup files</source>
+        <translation>Siche&amp;rungskopien ausschließen</translation>
+    </message>
+    <message>
+        <source>*.bak</source>
+        <translation>*.bak</translation>
+    </message>
+    <message>
+        <source>Exc&amp;lude file extensions (separate by &quot;|&quot;):</source>
+        <translation>Dateie&amp;ndungen ausschließen (durch „|“ getrennt):</translation>
+    </message>
+    <message>
+        <source>Excluded file extensions</source>
+        <translation>Ausgeschlossene Dateiendungen</translation>
+    </message>
+    <message>
+        <source>Data Location</source>
+        <translation>Ort der Daten</translation>
+    </message>
+    <message>
+        <source>&amp;Specific Location:</source>
+        <translation>Be&amp;stimmter Ort:</translation>
+    </message>
+    <message>
+        <source>Specific location</source>
+        <translation>Bestimmter Ort</translation>
+    </message>
+    <message>
+        <source>C&amp;ustom:</source>
+        <translation>Ben&amp;utzerdefiniert:</translation>
+    </message>
+    <message>
+        <source>Items to back up</source>
+        <translation>Zu sichernde Elemente</translation>
+    </message>
+</context>
+<context>
     <name>LoginCheck</name>
     <message>
         <source>Login</source>
@@ -250,7 +2039,7 @@ backup set using the buttons on the right.</source>
     </message>
     <message>
         <source>User &amp;Name:</source>
-        <translation>Benutzer&amp;name:</translation>
+        <translation>&amp;Benutzername:</translation>
     </message>
     <message>
         <source>User name</source>
@@ -266,7 +2055,7 @@ backup set using the buttons on the right.</source>
     </message>
     <message>
         <source>&amp;Use currently logged in user</source>
-        <translation>&amp;Als aktueller Benutzer anmelden</translation>
+        <translation>Als aktueller Ben&amp;utzer anmelden</translation>
     </message>
     <message>
         <source>&amp;Login</source>
@@ -287,6 +2076,187 @@ backup set using the buttons on the right.</source>
     <message>
         <source>Login Failed</source>
         <translation>Anmeldung fehlgeschlagen</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryDlg</name>
+    <message>
+        <source>Recovery</source>
+        <translation>Rettung</translation>
+    </message>
+    <message>
+        <source>&amp;Recover Orphaned Backup Sets (no orphaned backup sets were found during the last Admin Process)</source>
+        <translation>&amp;Verwaiste Sicherungssätze retten (beim letzten Verwaltungslauf wurden keine gefunden)</translation>
+    </message>
+    <message>
+        <source>R&amp;ecover Backup History Database from the cloud</source>
+        <translation>&amp;Datenbank des Sicherungsverlaufs aus der Cloud wiederherstellen</translation>
+    </message>
+    <message>
+        <source>&amp;Recover orphaned backup sets (Found %1 orphaned backup set(s))</source>
+        <translation>&amp;Verwaiste Sicherungssätze retten (%1 gefunden)</translation>
+    </message>
+    <message>
+        <source>Tarn-Client Database Recovery Error</source>
+        <translation>Fehler beim Wiederherstellen der Tarn-Client-Datenbank</translation>
+    </message>
+    <message>
+        <source>Recover Database</source>
+        <translation>Datenbank wiederherstellen</translation>
+    </message>
+    <message>
+        <source>The current database will be overwritten.
+After recovery, you have to restart ostrand backup service.
+Are you sure you want to recover database?</source>
+        <translation>Die aktuelle Datenbank wird überschrieben.
+Danach muss der Dienst Ostrand Backup neu gestartet werden.
+Möchten Sie die Datenbank wirklich wiederherstellen?</translation>
+    </message>
+</context>
+<context>
+    <name>RegisterDlg</name>
+    <message>
+        <source>Re-Register</source>
+        <translation>Neu registrieren</translation>
+    </message>
+    <message>
+        <source>Registration Info</source>
+        <translation>Registrierungsdaten</translation>
+    </message>
+    <message>
+        <source>Customer Name:</source>
+        <translation>Kundenname:</translation>
+    </message>
+    <message>
+        <source>Customer Name</source>
+        <translation>Kundenname</translation>
+    </message>
+    <message>
+        <source>Account Number:</source>
+        <translation>Kontonummer:</translation>
+    </message>
+    <message>
+        <source>Account Number</source>
+        <translation>Kontonummer</translation>
+    </message>
+    <message>
+        <source>Tarn-Client Number:</source>
+        <translation>Tarn-Client-Nummer:</translation>
+    </message>
+    <message>
+        <source>Tarn-Client Number</source>
+        <translation>Tarn-Client-Nummer</translation>
+    </message>
+    <message>
+        <source>NOTE: Tarn-Client registration ensures secure access to the Tarn-System. You must coordinate this activity with your Service Provider.</source>
+        <translation>HINWEIS: Die Registrierung des Tarn-Clients sorgt für sicheren Zugang zum Tarn-System. Stimmen Sie diesen Schritt mit Ihrem Dienstanbieter ab.</translation>
+    </message>
+    <message>
+        <source>&amp;Re-Register</source>
+        <translation>&amp;Neu registrieren</translation>
+    </message>
+    <message>
+        <source>Status of the registration</source>
+        <translation>Stand der Registrierung</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>Registering...</source>
+        <translation>Registrierung läuft …</translation>
+    </message>
+    <message>
+        <source>Tarn-Client successfully registered with Tarn-System.</source>
+        <translation>Der Tarn-Client wurde am Tarn-System registriert.</translation>
+    </message>
+</context>
+<context>
+    <name>RetentionSelectPage</name>
+    <message>
+        <source>Select Retention</source>
+        <translation>Aufbewahrung wählen</translation>
+    </message>
+    <message>
+        <source>Provide the data retention configuration for this backup set</source>
+        <translation>Legen Sie fest, wie lange die Daten dieses Sicherungssatzes aufbewahrt werden</translation>
+    </message>
+    <message>
+        <source>Time-based Retention</source>
+        <translation>Zeitbasierte Aufbewahrung</translation>
+    </message>
+    <message>
+        <source>Keep most recent generations:</source>
+        <translation>Neueste Generationen behalten:</translation>
+    </message>
+    <message>
+        <source>Most recent generations</source>
+        <translation>Neueste Generationen</translation>
+    </message>
+    <message>
+        <source>Keep one generation per &amp;day for 1 week</source>
+        <translation>Eine Generation pro &amp;Tag für 1 Woche behalten</translation>
+    </message>
+    <message>
+        <source>Keep one generation per &amp;week for 1 month</source>
+        <translation>Eine Generation pro Wo&amp;che für 1 Monat behalten</translation>
+    </message>
+    <message>
+        <source>Keep one generation per &amp;month for 1 year</source>
+        <translation>Eine Generation pro &amp;Monat für 1 Jahr behalten</translation>
+    </message>
+    <message>
+        <source>Deletion of Files</source>
+        <translation>Gelöschte Dateien</translation>
+    </message>
+    <message>
+        <source>&amp;If files are removed from source after:</source>
+        <translation>Wenn &amp;Dateien an der Quelle gelöscht wurden, nach:</translation>
+    </message>
+    <message>
+        <source>Clean up after</source>
+        <translation>Aufräumen nach</translation>
+    </message>
+    <message>
+        <source>Unit of the time</source>
+        <translation>Einheit der Zeit</translation>
+    </message>
+    <message>
+        <source>day(s)</source>
+        <translation>Tag(en)</translation>
+    </message>
+    <message>
+        <source>week(s)</source>
+        <translation>Woche(n)</translation>
+    </message>
+    <message>
+        <source>month(s)</source>
+        <translation>Monat(en)</translation>
+    </message>
+    <message>
+        <source>year(s)</source>
+        <translation>Jahr(en)</translation>
+    </message>
+    <message>
+        <source>&amp;Keep generations:</source>
+        <translation>&amp;Generationen behalten:</translation>
+    </message>
+    <message>
+        <source>Generations to keep</source>
+        <translation>Zu behaltende Generationen</translation>
+    </message>
+    <message>
+        <source>Local Storage Retention</source>
+        <translation>Aufbewahrung im lokalen Speicher</translation>
+    </message>
+    <message>
+        <source>Keep &amp;all generations for</source>
+        <translation>A&amp;lle Generationen behalten bis zu</translation>
+    </message>
+    <message>
+        <source>Days to keep all generations</source>
+        <translation>Tage, an denen alle Generationen behalten werden</translation>
     </message>
 </context>
 <context>
@@ -329,10 +2299,332 @@ backup set using the buttons on the right.</source>
     </message>
 </context>
 <context>
+    <name>ScheduleSelectPage</name>
+    <message>
+        <source>Select Schedule</source>
+        <translation>Zeitplan wählen</translation>
+    </message>
+    <message>
+        <source>Provide the scheduling for this backup set</source>
+        <translation>Legen Sie den Zeitplan dieses Sicherungssatzes fest</translation>
+    </message>
+    <message>
+        <source>Scheduling Type</source>
+        <translation>Art des Zeitplans</translation>
+    </message>
+    <message>
+        <source>No&amp;t Scheduled (Manual on-demand backups only)</source>
+        <translation>O&amp;hne Zeitplan (Sicherung nur von Hand)</translation>
+    </message>
+    <message>
+        <source>&amp;Daily Backup</source>
+        <translation>&amp;Tägliche Sicherung</translation>
+    </message>
+    <message>
+        <source>&amp;Monthly Backup</source>
+        <translation>&amp;Monatliche Sicherung</translation>
+    </message>
+    <message>
+        <source>Start &amp;&amp; End Time</source>
+        <translation>Beginn und Ende</translation>
+    </message>
+    <message>
+        <source>Start &amp;At:</source>
+        <translation>&amp;Beginn um:</translation>
+    </message>
+    <message>
+        <source>Start at</source>
+        <translation>Beginn um</translation>
+    </message>
+    <message>
+        <source>&amp;Stop if not finished by:</source>
+        <translation>Sto&amp;ppen, wenn nicht fertig bis:</translation>
+    </message>
+    <message>
+        <source>Stop at</source>
+        <translation>Stoppen um</translation>
+    </message>
+    <message>
+        <source>Day of the stop</source>
+        <translation>Tag des Stopps</translation>
+    </message>
+    <message>
+        <source>same day</source>
+        <translation>am selben Tag</translation>
+    </message>
+    <message>
+        <source>next day</source>
+        <translation>am nächsten Tag</translation>
+    </message>
+    <message>
+        <source>in 2 days</source>
+        <translation>in 2 Tagen</translation>
+    </message>
+    <message>
+        <source>in 3 days</source>
+        <translation>in 3 Tagen</translation>
+    </message>
+    <message>
+        <source>in 4 days</source>
+        <translation>in 4 Tagen</translation>
+    </message>
+    <message>
+        <source>in 5 days</source>
+        <translation>in 5 Tagen</translation>
+    </message>
+    <message>
+        <source>in 6 days</source>
+        <translation>in 6 Tagen</translation>
+    </message>
+    <message>
+        <source>Occurs Every</source>
+        <translation>Wiederholen alle</translation>
+    </message>
+    <message>
+        <source>Hours between backups</source>
+        <translation>Stunden zwischen den Sicherungen</translation>
+    </message>
+    <message>
+        <source>hour(s)</source>
+        <translation>Stunde(n)</translation>
+    </message>
+    <message>
+        <source>&amp;Only if connected to the cloud</source>
+        <translation>&amp;Nur bei Verbindung zur Cloud</translation>
+    </message>
+    <message>
+        <source>Scheduling Day</source>
+        <translation>Tag der Sicherung</translation>
+    </message>
+    <message>
+        <source>Day of mont&amp;h:</source>
+        <translation>Tag &amp;des Monats:</translation>
+    </message>
+    <message>
+        <source>Day of month</source>
+        <translation>Tag des Monats</translation>
+    </message>
+    <message>
+        <source>Scheduling Day(s)</source>
+        <translation>Tage der Sicherung</translation>
+    </message>
+    <message>
+        <source>Monda&amp;y</source>
+        <translation>Monta&amp;g</translation>
+    </message>
+    <message>
+        <source>Tu&amp;esday</source>
+        <translation>D&amp;ienstag</translation>
+    </message>
+    <message>
+        <source>&amp;Wednesday</source>
+        <translation>Mittwo&amp;ch</translation>
+    </message>
+    <message>
+        <source>T&amp;hursday</source>
+        <translation>Donne&amp;rstag</translation>
+    </message>
+    <message>
+        <source>Fr&amp;iday</source>
+        <translation>Fr&amp;eitag</translation>
+    </message>
+    <message>
+        <source>Satu&amp;rday</source>
+        <translation>&amp;Samstag</translation>
+    </message>
+    <message>
+        <source>S&amp;unday</source>
+        <translation>S&amp;onntag</translation>
+    </message>
+    <message>
+        <source>Global Configuration For All Schedules</source>
+        <translation>Gilt für alle Zeitpläne</translation>
+    </message>
+    <message>
+        <source>Missed schedule will be triggered in</source>
+        <translation>Versäumte Sicherungen werden nachgeholt innerhalb von</translation>
+    </message>
+    <message>
+        <source>Hours until a missed schedule is triggered</source>
+        <translation>Stunden, innerhalb derer eine versäumte Sicherung nachgeholt wird</translation>
+    </message>
+</context>
+<context>
+    <name>SelectDataSourcePage</name>
+    <message>
+        <source>Data Source and Login Information</source>
+        <translation>Datenquelle und Anmeldung</translation>
+    </message>
+    <message>
+        <source>Specify the computer to be backed up and the login credentials used to perform the backup</source>
+        <translation>Bestimmen Sie den Computer, der gesichert wird, und die Anmeldedaten für die Sicherung</translation>
+    </message>
+    <message>
+        <source>Data Source</source>
+        <translation>Datenquelle</translation>
+    </message>
+    <message>
+        <source>The backup set will backup items &amp;from:</source>
+        <translation>Der Sicherungssatz sichert Elemente &amp;von:</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>Computer</translation>
+    </message>
+    <message>
+        <source>&gt;</source>
+        <translation>&gt;</translation>
+    </message>
+    <message>
+        <source>Show the network</source>
+        <translation>Netzwerk anzeigen</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Netzwerk</translation>
+    </message>
+    <message>
+        <source>Login Credentials</source>
+        <translation>Anmeldedaten</translation>
+    </message>
+    <message>
+        <source>Connect &amp;As:</source>
+        <translation>V&amp;erbinden als:</translation>
+    </message>
+    <message>
+        <source>Connect as</source>
+        <translation>Verbinden als</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>…</translation>
+    </message>
+    <message>
+        <source>Change the user</source>
+        <translation>Benutzer ändern</translation>
+    </message>
+    <message>
+        <source>SUDO &amp;to:</source>
+        <translation>S&amp;UDO zu:</translation>
+    </message>
+    <message>
+        <source>SUDO to</source>
+        <translation>SUDO zu</translation>
+    </message>
+    <message>
+        <source>Change the SUDO user</source>
+        <translation>SUDO-Benutzer ändern</translation>
+    </message>
+    <message>
+        <source>&amp;SSH Access:</source>
+        <translation>&amp;SSH-Zugriff:</translation>
+    </message>
+    <message>
+        <source>SSH access</source>
+        <translation>SSH-Zugriff</translation>
+    </message>
+    <message>
+        <source>Change the SSH access</source>
+        <translation>SSH-Zugriff ändern</translation>
+    </message>
+    <message>
+        <source>Use &amp;Tarn-Client Account</source>
+        <translation>&amp;Tarn-Client-Konto verwenden</translation>
+    </message>
+    <message>
+        <source>Error R1</source>
+        <translation>Fehler R1</translation>
+    </message>
+    <message>
+        <source>Init Error</source>
+        <translation>Fehler beim Einlesen</translation>
+    </message>
+    <message>
+        <source>Credential check failed</source>
+        <translation>Prüfung der Anmeldedaten fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Error R2</source>
+        <translation>Fehler R2</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+</context>
+<context>
     <name>Session</name>
     <message>
         <source>It is not allowed to connect to %1 using %2.</source>
         <translation>Eine Verbindung zu %1 mit %2 ist nicht erlaubt.</translation>
+    </message>
+</context>
+<context>
+    <name>SetNamePage</name>
+    <message>
+        <source>Select Backup Set Name</source>
+        <translation>Name des Sicherungssatzes</translation>
+    </message>
+    <message>
+        <source>Choose the name for this backup set</source>
+        <translation>Wählen Sie einen Namen für diesen Sicherungssatz</translation>
+    </message>
+    <message>
+        <source>Backup Set Name</source>
+        <translation>Name des Sicherungssatzes</translation>
+    </message>
+    <message>
+        <source>Backup set name</source>
+        <translation>Name des Sicherungssatzes</translation>
+    </message>
+    <message>
+        <source>A backup set with the same name already exists. 
+Please choose a different name.</source>
+        <translation>Ein Sicherungssatz mit diesem Namen existiert bereits.
+Bitte wählen Sie einen anderen Namen.</translation>
+    </message>
+</context>
+<context>
+    <name>SetOptionsPage</name>
+    <message>
+        <source>Backup Options</source>
+        <translation>Sicherungsoptionen</translation>
+    </message>
+    <message>
+        <source>Choose the options for this backup set</source>
+        <translation>Wählen Sie die Optionen dieses Sicherungssatzes</translation>
+    </message>
+    <message>
+        <source>Local Storage Options</source>
+        <translation>Lokaler Speicher</translation>
+    </message>
+    <message>
+        <source>&amp;Also save backup data on local storage</source>
+        <translation>Sicherungsdaten auch im &amp;lokalen Speicher ablegen</translation>
+    </message>
+    <message>
+        <source>&amp;Use local storage as a transmission cache if Tarn-System connection is lost</source>
+        <translation>Lokalen Speicher als Ü&amp;bertragungspuffer nutzen, wenn das Tarn-System nicht erreichbar ist</translation>
+    </message>
+    <message>
+        <source>NOTE: THIS FOLDER CANNOT BE SELECTED FOR BACKUP.</source>
+        <translation>HINWEIS: DIESER ORDNER KANN NICHT GESICHERT WERDEN.</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>&gt;</source>
+        <translation>&gt;</translation>
+    </message>
+    <message>
+        <source>Show the folders</source>
+        <translation>Ordner anzeigen</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>Ordner</translation>
     </message>
 </context>
 <context>
@@ -395,7 +2687,7 @@ backup set using the buttons on the right.</source>
     </message>
     <message>
         <source>&amp;Stop</source>
-        <translation>&amp;Stoppen</translation>
+        <translation>St&amp;oppen</translation>
     </message>
     <message>
         <source>Activity Log</source>
@@ -641,6 +2933,214 @@ Click here to not show this reminder again.</source>
 
 Klicken Sie hier, um diesen Hinweis nicht mehr zu sehen.</translation>
     </message>
+    <message>
+        <source>2FA Settings Error</source>
+        <translation>Fehler bei den 2FA-Einstellungen</translation>
+    </message>
+    <message>
+        <source>New Backup Set Error</source>
+        <translation>Fehler beim Anlegen des Sicherungssatzes</translation>
+    </message>
+    <message>
+        <source>Editing Backup Set Items Error</source>
+        <translation>Fehler beim Bearbeiten der Elemente</translation>
+    </message>
+    <message>
+        <source>Configuration Wizard</source>
+        <translation>Konfigurationsassistent</translation>
+    </message>
+    <message>
+        <source>Delete Backup Set?</source>
+        <translation>Sicherungssatz löschen?</translation>
+    </message>
+    <message>
+        <source>The selected backup set has no files. Would you like to remove the backup set?</source>
+        <translation>Der ausgewählte Sicherungssatz hat keine Dateien. Möchten Sie den Sicherungssatz entfernen?</translation>
+    </message>
+    <message>
+        <source>Protected Items Wizard</source>
+        <translation>Assistent für geschützte Elemente</translation>
+    </message>
+    <message>
+        <source>This backup set type cannot be edited by this user interface.</source>
+        <translation>Sicherungssätze dieser Art können mit diesem Programm nicht bearbeitet werden.</translation>
+    </message>
+    <message>
+        <source>New Backup Set</source>
+        <translation>Neuer Sicherungssatz</translation>
+    </message>
+    <message>
+        <source>Retention Rule Wizard</source>
+        <translation>Assistent für Aufbewahrungsregeln</translation>
+    </message>
+    <message>
+        <source>Schedule Wizard</source>
+        <translation>Zeitplan-Assistent</translation>
+    </message>
+</context>
+<context>
+    <name>TFACodeDlg</name>
+    <message>
+        <source>Two-factor Authentication Validation</source>
+        <translation>Zwei-Faktor-Authentifizierung</translation>
+    </message>
+    <message>
+        <source>An email with an authentication code has been sent to the following email address. Enter the authentication code below, and then click Validate.</source>
+        <translation>Eine E-Mail mit einem Authentifizierungscode wurde an die folgende Adresse gesendet. Geben Sie den Code unten ein und klicken Sie dann auf „Prüfen“.</translation>
+    </message>
+    <message>
+        <source>Email address:</source>
+        <translation>E-Mail-Adresse:</translation>
+    </message>
+    <message>
+        <source>Email address</source>
+        <translation>E-Mail-Adresse</translation>
+    </message>
+    <message>
+        <source>Authentication Code:</source>
+        <translation>Authentifizierungscode:</translation>
+    </message>
+    <message>
+        <source>Authentication code</source>
+        <translation>Authentifizierungscode</translation>
+    </message>
+    <message>
+        <source>&amp;Resend Code</source>
+        <translation>Code &amp;erneut senden</translation>
+    </message>
+    <message>
+        <source>&amp;Validate</source>
+        <translation>&amp;Prüfen</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+</context>
+<context>
+    <name>TFAUserDlg</name>
+    <message>
+        <source>Edit User Email</source>
+        <translation>E-Mail-Adresse bearbeiten</translation>
+    </message>
+    <message>
+        <source>User and Email</source>
+        <translation>Benutzer und E-Mail-Adresse</translation>
+    </message>
+    <message>
+        <source>Username</source>
+        <translation>Benutzername</translation>
+    </message>
+    <message>
+        <source>Domain</source>
+        <translation>Domäne</translation>
+    </message>
+    <message>
+        <source>Email</source>
+        <translation>E-Mail</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Username is required.</source>
+        <translation>Der Benutzername wird benötigt.</translation>
+    </message>
+    <message>
+        <source>Email is required.</source>
+        <translation>Die E-Mail-Adresse wird benötigt.</translation>
+    </message>
+    <message>
+        <source>Not a valid Email address.</source>
+        <translation>Dies ist keine gültige E-Mail-Adresse.</translation>
+    </message>
+</context>
+<context>
+    <name>TFAUsersModel</name>
+    <message>
+        <source>Username</source>
+        <translation>Benutzername</translation>
+    </message>
+    <message>
+        <source>Domain</source>
+        <translation>Domäne</translation>
+    </message>
+    <message>
+        <source>Email</source>
+        <translation>E-Mail</translation>
+    </message>
+</context>
+<context>
+    <name>TFAUsersViewer</name>
+    <message>
+        <source>User Email Settimgs</source>
+        <translation>E-Mail-Adressen der Benutzer</translation>
+    </message>
+    <message>
+        <source>Users and their email addresses</source>
+        <translation>Benutzer und ihre E-Mail-Adressen</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Import from csv file</source>
+        <translation>Aus CSV-Datei importieren</translation>
+    </message>
+    <message>
+        <source>&amp;Forward to Tarn-System</source>
+        <translation>An &amp;Tarn-System weiterleiten</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Please choose a .CSV file</source>
+        <translation>CSV-Datei wählen</translation>
+    </message>
+    <message>
+        <source>CSV Files (*.csv)</source>
+        <translation>CSV-Dateien (*.csv)</translation>
+    </message>
+    <message>
+        <source>Configuration Error</source>
+        <translation>Konfigurationsfehler</translation>
+    </message>
+    <message>
+        <source>Forward to Tarn-System</source>
+        <translation>An Tarn-System weiterleiten</translation>
+    </message>
+    <message>
+        <source>User email list is successfully sent to Tarn-System.</source>
+        <translation>Die Liste der E-Mail-Adressen wurde an das Tarn-System gesendet.</translation>
+    </message>
 </context>
 <context>
     <name>TarnClientInfoModel</name>
@@ -651,6 +3151,25 @@ Klicken Sie hier, um diesen Hinweis nicht mehr zu sehen.</translation>
     <message>
         <source>Value</source>
         <translation>Wert</translation>
+    </message>
+</context>
+<context>
+    <name>WizardButtonText</name>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Weiter</translation>
+    </message>
+    <message>
+        <source>&amp;Finish</source>
+        <translation>&amp;Fertigstellen</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
     </message>
 </context>
 <context>
