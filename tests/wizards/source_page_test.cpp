@@ -64,6 +64,7 @@ private slots:
     void aContainerBlocksNext();
     void aTypedNameIsExpanded();
     void aNameThatCantBeExpandedStays();
+    void theBoxOfAFailureEndsNoFurtherEditing();
     void aFieldThatIsPassedThroughIsNotEdited();
 
     void theCredentialsAreCheckedOnNext();
@@ -316,6 +317,29 @@ void SourcePageTest::aNameThatCantBeExpandedStays() {
     QVERIFY(modals.done());
     QCOMPARE(session.source.takeCalls(), Lines{R"(DataSourceBrowser.expandToFullPath("filesrv"))"});
     QCOMPARE(driver.text("editComputerName"), QStringLiteral("filesrv"));
+}
+
+void SourcePageTest::theBoxOfAFailureEndsNoFurtherEditing() {
+    Session session;
+    PageDriver driver;
+    driver.show();
+    auto& edit = child<QLineEdit>(driver.page(), "editComputerName");
+    edit.setFocus();
+    QVERIFY(edit.hasFocus());
+    session.source.takeCalls();
+    session.source.agent.inject("expandToFullPath", simulator::Fault{"The network is down."},
+                                simulator::Times::UntilCleared);
+    ModalDriver modals;
+    modals.expect(QStringLiteral("error box"), support::isDialog<QMessageBox>, [&](QWidget& box) {
+        QVERIFY(QTest::qWaitForWindowActive(&box));
+        QVERIFY(!edit.hasFocus());
+        static_cast<QMessageBox&>(box).button(QMessageBox::Ok)->click();
+    });
+    // As the Return key does, which would go on to the next page.
+    emit edit.editingFinished();
+    QVERIFY(modals.done());
+    QCOMPARE(session.source.takeCalls(),
+             Lines{R"(DataSourceBrowser.expandToFullPath("My Computer"))"});
 }
 
 void SourcePageTest::aFieldThatIsPassedThroughIsNotEdited() {
