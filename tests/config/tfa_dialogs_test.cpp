@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
+#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QGroupBox>
 #include <QLabel>
@@ -86,6 +87,7 @@ private slots:
     void withoutASelectionNothingIsEditedOrDeleted();
     void aFileIsImported_data();
     void aFileIsImported();
+    void aLongFileIsImportedAtOnce();
     void aFileOfAnotherNameIsNotRead();
     void aFileThatCantBeReadIsNone();
     void givingUpTheImportChangesNothing();
@@ -331,6 +333,22 @@ void TFADialogsTest::aFileIsImported() {
                               q("dan;home;dan@example.org")}));
     });
     QCOMPARE(agent_->callTexts(), kReading);
+}
+
+void TFADialogsTest::aLongFileIsImportedAtOnce() {
+    QByteArray bytes;
+    for (int line = 0; line < 100'000; ++line)
+        bytes += "user" + QByteArray::number(line) + ",home,a@example.org\n";
+    const QString path = writeFile("long.csv", bytes);
+    withViewer([&](QWidget& viewer) {
+        expectFile(path);
+        QElapsedTimer timer;
+        timer.start();
+        press(viewer, "btnImport");
+        QCOMPARE(child<QTableView>(viewer, "tableUsers").model()->rowCount(), 100'002);
+        // A view that is told of each row, or a walk for each, takes minutes.
+        QVERIFY2(timer.elapsed() < 20'000, qPrintable(QString::number(timer.elapsed())));
+    });
 }
 
 void TFADialogsTest::aFileOfAnotherNameIsNotRead() {

@@ -172,6 +172,7 @@ void NewSetFaultsTest::aFaultIsToldAndStopsTheFlow() {
     driver_->trigger("actionNew_Backup_Set");
     QVERIFY(modals_->done());
 
+    QCOMPARE(driver_->window().cursor().shape(), Qt::ArrowCursor);
     const bool setExists = onFault == OnFault::SetStays || onFault == OnFault::Nothing;
     QCOMPARE(setCount(), setsBefore_ + (setExists ? 1 : 0));
     QCOMPARE(agent_->liveObjects(), heldBefore_);

@@ -74,6 +74,8 @@ private slots:
     void aSessionThatEndsUnderTheWizard();
     void theFirstSetIsOfferedAtLogin();
     void underCentralManagementNoSetIsMadeOrOffered();
+    // The last one, as no dialog opens in this process any more.
+    void quittingUnderTheWizardMakesNoSet();
 
 private:
     support::WizardTest test_;
@@ -190,6 +192,15 @@ void NewSetFlowTest::aSessionThatEndsUnderTheWizard() {
     test_.modals->expectErrorBox(q("New Backup Set Error"), q("No API connection exists"));
     test_.run("OnNewBackupSet");
     QVERIFY(!session::connectedToAgent());
+}
+
+void NewSetFlowTest::quittingUnderTheWizardMakesNoSet() {
+    test_.start();
+    const QStringList before = test_.setNames();
+    test_.modals->expect(q("wizard"), isDialog<QWizard>,
+                         [this](QWidget&) { test_.driver->window().OnQuit(); });
+    test_.run("OnNewBackupSet");
+    QCOMPARE(test_.setNames(), before);
 }
 
 void NewSetFlowTest::theFirstSetIsOfferedAtLogin() {

@@ -12,6 +12,7 @@
 #include <QTest>
 
 #include "config/tfa_code_dlg.h"
+#include "session/connection.h"
 #include "session/text.h"
 #include "simulator/world/world.h"
 
@@ -103,9 +104,13 @@ void WizardTest::end() {
 }
 
 void WizardTest::run(const char* slot) {
+    const auto held = agent->liveObjects();
     agent->clearCallLog();
     QVERIFY(QMetaObject::invokeMethod(&driver->window(), slot));
     QVERIFY(modals->done());
+    QCOMPARE(driver->window().cursor().shape(), Qt::ArrowCursor);
+    if (session::connectedToAgent())
+        QCOMPARE(agent->liveObjects(), held);
 }
 
 void WizardTest::expectWizard(const AtPage& atPage) {

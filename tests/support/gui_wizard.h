@@ -52,7 +52,8 @@ public:
     /// Ends everything; what is left over fails the test.
     void end();
 
-    /// Runs a slot of the window; the agent's log holds what that led to.
+    /// Runs a slot of the window; the agent's log holds what that led to. Each reference that it
+    /// got has to be released at the end.
     void run(const char* slot);
     /// A wizard that can be finished.
     void expectWizard(const AtPage& atPage = nameNewSet);
