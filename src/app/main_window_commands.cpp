@@ -9,8 +9,10 @@
 #include "app/open_backup_set.h"
 #include "app/simple_gui_main_window.h"
 #include "config/tfa_users_viewer.h"
+#include "session/process_values.h"
 #include "ui/branding_resources.h"
 #include "ui/remote_action.h"
+#include "wizards/delete_flow.h"
 #include "wizards/items_flow.h"
 #include "wizards/new_set_flow.h"
 #include "wizards/retention_flow.h"
@@ -94,5 +96,15 @@ void SimpleGUIMainWindow::OnRestore() {
 }
 
 void SimpleGUIMainWindow::OnDelete() {
-    requireSetItem();
+    const BackupSetViewItem* card = requireSetItem();
+    if (!card)
+        return;
+    // The key that leads here isn't disabled with the command.
+    if (session::g_isCentrallyManaged && card->record().is_created_by_policy)
+        return;
+    const std::int32_t id = card->record().id;
+    ui::remoteAction(*this, tr("Error"), ui::Cursor::arrow, [this, id] {
+        if (const auto activity = wizards::deleteFromSet(*this, app::openBackupSet(id)))
+            refreshAll();
+    });
 }

@@ -1,0 +1,273 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include <QAbstractButton>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTableView>
+#include <QTest>
+
+#include "config/tfa_code_dlg.h"
+#include "resources/pictures.h"
+#include "session/connection.h"
+#include "simulator/world/world.h"
+#include "tests/support/gui_wizard.h"
+
+using simulator::Fault;
+using simulator::Scenario;
+using simulator::World;
+using support::callsOf;
+using support::difference;
+using support::isDialog;
+using Calls = std::vector<std::string>;
+
+namespace {
+
+constexpr int kEmptySet = 6; // the row of a set that holds no files
+constexpr std::int32_t kEmptyId = 8;
+
+QString q(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+Calls operator+(Calls calls, const Calls& more) {
+    calls.insert(calls.end(), more.begin(), more.end());
+    return calls;
+}
+
+const Calls kAsked{"ClientConnection.backup_set(8)", "BackupSet.getCurrentStatus()"};
+const Calls kScheduleGone{"BackupSet.getSchedule()", "BackupSet.setSchedule(null)",
+                          "ClientConnection.getScheduleManager()",
+                          "ScheduleManager.removeSchedule(Schedule(schedule_for_set_8))"};
+const Calls kRuleGone{"BackupSet.getRetentionRule()", "BackupSet.setRetentionRule(null)",
+                      "ClientConnection.getRetentionRuleManager()",
+                      "RetentionRuleManager.removeRule(RetentionRule(retention_for_set_8))"};
+const Calls kSetGone{"ClientConnection.removeBackupSet(BackupSet(8))"};
+const Calls kRefreshed{"ClientConnection.getTarnClientInfo()",
+                       "ClientConnection.getTFAManager()",
+                       "TFAManager.is2FAEnabled()",
+                       "ClientConnection.activity_log",
+                       "ClientConnection.running_activities()",
+                       "ClientConnection.backup_sets_info()",
+                       "ClientConnection.backup_set(8)",
+                       "BackupSet.getLastActivityOfType(0)",
+                       "BackupSet.getOverview()"};
+
+/// Gives the empty set a schedule and a rule that no other set has.
+void giveOwnPlans(World& world) {
+    simulator::ScheduleState schedule;
+    schedule.name = "schedule_for_set_8";
+    simulator::RetentionRuleState rule;
+    rule.name = "retention_for_set_8";
+    auto& info = world.set(kEmptyId)->info;
+    info.schedule_id = world.schedules.add(schedule)->id;
+    info.retention_rule_id = world.retentionRules.add(rule)->id;
+}
+
+void takePlans(World& world) {
+    auto& info = world.set(kEmptyId)->info;
+    info.schedule_id = simulator::noSchedule;
+    info.retention_rule_id = simulator::noRule;
+}
+
+} // namespace
+
+/// The deletion from a set, and of one, clicked through against an agent.
+class DeleteTest : public QObject {
+    Q_OBJECT
+private slots:
+    void initTestCase() { resources::initPictures(); }
+    void cleanup() { test_.end(); }
+
+    void aSetWithoutFilesIsRemoved_data();
+    void aSetWithoutFilesIsRemoved();
+    void theDeleteKeyRemovesToo();
+    void theRemovalIsShownAtOnce();
+    void answeringNoRemovesNothing();
+    void cancellingTheCodeRemovesNothing();
+    void aSetOfThePolicyIsLeftAlone();
+    void anOwnSetIsRemovedUnderCentralManagement();
+    void aSharedScheduleStaysAndSoDoesTheRest();
+    void aFaultOfTheRemoval_data();
+    void aFaultOfTheRemoval();
+
+private:
+    void start(const std::function<void(World&)>& change, Scenario scenario = Scenario::Default) {
+        test_.start(scenario, change);
+        test_.driver->sets().selectRow(kEmptySet);
+    }
+    /// A question with the buttons Yes and No, of which No needs no mouse.
+    void expectQuestion(const char* title, const char* text, QMessageBox::StandardButton answer);
+    void expectRemovalQuestion(QMessageBox::StandardButton answer);
+    /// The calls, without the span of the log, which follows the clock, and without the names in
+    /// balloons, which only a window in the background shows.
+    Calls calls() const;
+
+    support::WizardTest test_;
+};
+
+void DeleteTest::expectQuestion(const char* title, const char* text,
+                                QMessageBox::StandardButton answer) {
+    test_.modals->expect(q(title), isDialog<QMessageBox>, [=, this](QWidget& widget) {
+        auto& box = static_cast<QMessageBox&>(widget);
+        QCOMPARE(box.windowTitle(), q(title));
+        QCOMPARE(box.text(), q(text));
+        QCOMPARE(box.icon(), QMessageBox::Question);
+        QCOMPARE(box.standardButtons(), QMessageBox::Yes | QMessageBox::No);
+        QCOMPARE(box.defaultButton(), static_cast<QPushButton*>(box.button(QMessageBox::No)));
+        QCOMPARE(box.parentWidget(), &test_.driver->window());
+        QTest::mouseClick(box.button(answer), Qt::LeftButton);
+    });
+}
+
+void DeleteTest::expectRemovalQuestion(QMessageBox::StandardButton answer) {
+    expectQuestion("Delete Backup Set?",
+                   "The selected backup set has no files. Would you like to remove the backup set?",
+                   answer);
+}
+
+Calls DeleteTest::calls() const {
+    Calls calls;
+    for (std::string& call : callsOf(*test_.agent)) {
+        if (call.rfind("ClientConnection.activity_log(", 0) == 0)
+            call.erase(call.find('('));
+        if (call == "BackupSet.getName()")
+            calls.pop_back();
+        else
+            calls.push_back(std::move(call));
+    }
+    return calls;
+}
+
+void DeleteTest::aSetWithoutFilesIsRemoved_data() {
+    QTest::addColumn<bool>("plans");
+    QTest::addColumn<bool>("twoFactor");
+    QTest::newRow("with schedule and rule") << true << false;
+    QTest::newRow("with schedule, rule and code") << true << true;
+    QTest::newRow("bare") << false << false;
+    QTest::newRow("bare, with code") << false << true;
+}
+
+void DeleteTest::aSetWithoutFilesIsRemoved() {
+    QFETCH(bool, plans);
+    QFETCH(bool, twoFactor);
+    start([=](World& world) {
+        world.twoFactor = twoFactor;
+        plans ? giveOwnPlans(world) : takePlans(world);
+    });
+    expectRemovalQuestion(QMessageBox::Yes);
+    if (twoFactor)
+        test_.expectCode(true);
+    test_.run("OnDelete");
+    const Calls bare{"BackupSet.getSchedule()", "BackupSet.getRetentionRule()"};
+    QCOMPARE(difference(calls(), kAsked + (twoFactor ? support::callsForCode() : Calls{}) +
+                                     (plans ? kScheduleGone + kRuleGone : bare) + kSetGone +
+                                     kRefreshed),
+             QString());
+    test_.agent->withWorld([](World& world) {
+        for (const auto& schedule : world.schedules.all())
+            QVERIFY(schedule->name != "schedule_for_set_8");
+        for (const auto& rule : world.retentionRules.all())
+            QVERIFY(rule->name != "retention_for_set_8");
+    });
+}
+
+void DeleteTest::theDeleteKeyRemovesToo() {
+    start(takePlans);
+    expectRemovalQuestion(QMessageBox::Yes);
+    QTest::keyClick(&test_.driver->sets(), Qt::Key_Delete);
+    QVERIFY(test_.modals->done());
+    QVERIFY(test_.agent->waitForCall("removeBackupSet"));
+}
+
+void DeleteTest::theRemovalIsShownAtOnce() {
+    start(takePlans);
+    const int before = test_.driver->rows("tableCurrentActivities");
+    expectRemovalQuestion(QMessageBox::Yes);
+    test_.run("OnDelete");
+    QCOMPARE(test_.driver->rows("tableCurrentActivities"), before + 1);
+    // A set with an activity can't be deleted from again.
+    QVERIFY(!test_.driver->isEnabled("actionDeleteFromOnline"));
+}
+
+void DeleteTest::answeringNoRemovesNothing() {
+    start([](World& world) {
+        world.twoFactor = true;
+        giveOwnPlans(world);
+    });
+    expectRemovalQuestion(QMessageBox::No);
+    test_.run("OnDelete");
+    QCOMPARE(difference(calls(), kAsked), QString());
+}
+
+void DeleteTest::cancellingTheCodeRemovesNothing() {
+    start([](World& world) {
+        world.twoFactor = true;
+        giveOwnPlans(world);
+    });
+    expectRemovalQuestion(QMessageBox::Yes);
+    test_.expectCode(false);
+    test_.run("OnDelete");
+    const Calls requested{"ClientConnection.getTFAManager()", "TFAManager.requestCode(2)"};
+    QCOMPARE(difference(calls(), kAsked + requested), QString());
+}
+
+void DeleteTest::aSetOfThePolicyIsLeftAlone() {
+    start([](World& world) { world.set(kEmptyId)->info.is_created_by_policy = true; },
+          Scenario::Central);
+    test_.run("OnDelete");
+    QCOMPARE(difference(calls(), {}), QString());
+}
+
+void DeleteTest::anOwnSetIsRemovedUnderCentralManagement() {
+    start(takePlans, Scenario::Central);
+    expectRemovalQuestion(QMessageBox::Yes);
+    test_.run("OnDelete");
+    const Calls bare{"BackupSet.getSchedule()", "BackupSet.getRetentionRule()"};
+    QCOMPARE(difference(calls(), kAsked + bare + kSetGone + kRefreshed), QString());
+}
+
+void DeleteTest::aSharedScheduleStaysAndSoDoesTheRest() {
+    start([](World& world) {
+        giveOwnPlans(world);
+        world.set(kEmptyId)->info.schedule_id = 1;
+    });
+    expectRemovalQuestion(QMessageBox::Yes);
+    test_.modals->expectErrorBox(
+        q("Error"), q("The backup set 'Documents' still uses the schedule 'Every evening'."));
+    test_.run("OnDelete");
+    QCOMPARE(calls().back(),
+             std::string("ScheduleManager.removeSchedule(Schedule(Every evening))"));
+    // What was done before stays done.
+    test_.agent->withWorld([](World& world) {
+        QCOMPARE(world.set(kEmptyId)->info.schedule_id, simulator::noSchedule);
+        QVERIFY(world.set(kEmptyId)->info.retention_rule_id != simulator::noRule);
+    });
+}
+
+void DeleteTest::aFaultOfTheRemoval_data() {
+    QTest::addColumn<QString>("method");
+    QTest::addColumn<bool>("asks");
+    for (const char* method : {"backup_set", "getCurrentStatus"})
+        QTest::newRow(method) << q(method) << false;
+    for (const char* method :
+         {"getSchedule", "setSchedule", "getScheduleManager", "removeSchedule", "getRetentionRule",
+          "setRetentionRule", "getRetentionRuleManager", "removeRule", "removeBackupSet"})
+        QTest::newRow(method) << q(method) << true;
+}
+
+void DeleteTest::aFaultOfTheRemoval() {
+    QFETCH(QString, method);
+    QFETCH(bool, asks);
+    start(giveOwnPlans);
+    test_.agent->inject(method.toStdString(), Fault{"Außer Betrieb."});
+    if (asks)
+        expectRemovalQuestion(QMessageBox::Yes);
+    test_.modals->expectErrorBox(q("Error"), q("Außer Betrieb."));
+    test_.run("OnDelete");
+    // Nothing comes behind the call that failed.
+    QCOMPARE(support::methodsOf(*test_.agent).back(), method.toStdString());
+    QVERIFY(session::connectedToAgent());
+}
+
+QTEST_MAIN(DeleteTest)
+#include "delete_test.moc"
