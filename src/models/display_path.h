@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QModelIndex>
+#include <QStringList>
+
+/// Rows of a tree by the texts that they show.
+namespace models {
+
+/// The texts from the top level down to the row; none for an invalid index.
+QStringList displayPath(const QModelIndex& index);
+
+/// The first row on each level whose text is the same. Invalid if a level has none, or without
+/// texts.
+QModelIndex indexAtPath(const QAbstractItemModel& model, const QStringList& path,
+                        Qt::CaseSensitivity sensitivity);
+
+} // namespace models

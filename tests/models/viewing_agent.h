@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <string>
+#include <vector>
+
+#include <boost/shared_ptr.hpp>
+
+#include "api/backup_set_data_view.h"
+#include "transport/i_call_dispatcher.h"
+
+/// An agent that has one view of what a set holds, made up by a test, and writes down what it is
+/// asked. What it doesn't know it refuses.
+class ViewingAgent final : public hessiancln::ICallDispatcher {
+public:
+    using Items = std::vector<hessiancln::SelectableItem>;
+
+    ViewingAgent();
+
+    /// A view of the agent. The agent isn't told when it goes.
+    static boost::shared_ptr<hessiancln::BackupSetDataView>
+    view(const boost::shared_ptr<ViewingAgent>& agent);
+
+    std::map<std::int64_t, Items> items; ///< by the id of what holds them
+
+    /// The ids that were asked for since the last time that they were taken, as "-1 1 2".
+    std::string takeCalls();
+
+    std::string sendRequest(const std::string& url, const std::string& request) override;
+
+private:
+    std::string calls_;
+};
+
+inline hessiancln::SelectableItem storedFolder(std::int64_t id, std::string name) {
+    return {id, std::move(name), hessiancln::SelectableItemType::Folder, false, true};
+}
+inline hessiancln::SelectableItem storedFile(std::int64_t id, std::string name) {
+    return {id, std::move(name), hessiancln::SelectableItemType::File, true, true};
+}
+inline hessiancln::SelectableItem storedDrive(std::int64_t id, std::string name) {
+    return {id, std::move(name), hessiancln::SelectableItemType::Drive, false, true};
+}
