@@ -13,8 +13,8 @@ namespace {
 
 // A group of a directory service can have very many members; a database that wants more room than
 // this is taken for broken.
-constexpr std::size_t firstRoom = 4 * 1024;
-constexpr std::size_t mostRoom = 16 * 1024 * 1024;
+constexpr std::size_t firstRoom = 4096;
+constexpr std::size_t mostRoom = std::size_t{16} << 20;
 
 class SystemAccounts final : public AccountDatabase {
 public:
