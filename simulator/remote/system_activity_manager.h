@@ -7,13 +7,34 @@
 
 namespace simulator {
 
+/// A set that the agent has lost.
+class OrphanedBackupSet final : public Servant {
+public:
+    static constexpr std::string_view family = "OrphanedBackupSet";
+
+    OrphanedBackupSet(std::shared_ptr<Session> opened, World::Set set)
+        : Servant(std::move(opened))
+        , set_(std::move(set)) {
+        implements("OrphanedBackupSet");
+    }
+
+    const World::Set& set() const { return set_; }
+    std::string label() const override;
+
+private:
+    World::Set set_;
+};
+
 /// The agent's work on itself.
 class SystemActivityManager final : public Servant {
 public:
-    SystemActivityManager(std::shared_ptr<Session> opened, World&)
-        : Servant(std::move(opened)) {
-        implements("SystemActivityManager");
-    }
+    SystemActivityManager(std::shared_ptr<Session> opened, World& world);
+
+private:
+    /// The id of the set that is one of the agent's again.
+    std::int32_t recover(const World::Set& orphan);
+
+    World& world_;
 };
 
 } // namespace simulator

@@ -98,13 +98,15 @@ void describeAgent(World& world, bool central, bool firstRun) {
     auto& enrolled = world.registration;
     if (!firstRun) {
         enrolled.customer_name = "Müller & Söhne GmbH";
-        enrolled.account_num = "OSTRAND-40117";
+        enrolled.account_num = "OFFICE-401";
         enrolled.client_num = "A4C100931700";
         enrolled.private_key_enc = enrolled.account_key_enc = KeyEncryptionType::AES256;
         enrolled.private_key = "the quick brown fox";
         enrolled.account_key = "jumps over the lazy dog";
         enrolled.tarnsys_ip_addr = "vault1.example.net\\;vault2.example.net";
         enrolled.escrow_enc_key = true;
+    } else {
+        enrolled.private_key_enc = enrolled.account_key_enc = KeyEncryptionType::AES128;
     }
     tell(world, "Account", enrolled.account_num);
     tell(world, "Client Number", enrolled.client_num);
@@ -169,6 +171,11 @@ void addOddSets(World& world) {
     fresh.mostGenerations = 1;
     fresh.info.schedule_id = noSchedule;
     world.addSet(std::move(fresh));
+
+    // Out of sync, as the agent's database says nothing of it.
+    auto orphan = describedSet(world, {"Letters before 2019", {"D:\\Letters"}, gibibyte, 5'120});
+    orphan.info.in_sync = false;
+    world.configuration.orphans.push_back(std::make_shared<BackupSetState>(std::move(orphan)));
 }
 
 void populateWindows(World& world, bool central) {

@@ -272,13 +272,25 @@ ActivityPlan World::removalOf(const Set& set, const std::string& user) {
     return plan;
 }
 
-ActivityPlan World::dailyAdmin(const std::string& user) {
+ActivityPlan World::ownWork(ActivityType type, const char* description, const std::string& user) {
     ActivityPlan plan;
-    plan.type = ActivityType::DailyAdmin;
-    plan.description = "Daily administration";
+    plan.type = type;
+    plan.description = description;
     plan.user = user;
     plan.duration = random_.between(20, 60) * 1000;
     return plan;
+}
+
+ActivityPlan World::dailyAdmin(const std::string& user) {
+    return ownWork(ActivityType::DailyAdmin, "Daily administration", user);
+}
+
+ActivityPlan World::weeklyAdmin(const std::string& user) {
+    return ownWork(ActivityType::WeeklyAdmin, "Weekly administration", user);
+}
+
+ActivityPlan World::databaseRecovery(const std::string& user) {
+    return ownWork(ActivityType::Recovery, "Recovery of the database", user);
 }
 
 } // namespace simulator

@@ -21,6 +21,7 @@
 #include "simulator/world/backup_set_state.h"
 #include "simulator/world/catalogue.h"
 #include "simulator/world/clock.h"
+#include "simulator/world/configuration_state.h"
 #include "simulator/world/network.h"
 #include "simulator/world/random.h"
 #include "simulator/world/retention_state.h"
@@ -51,6 +52,7 @@ public:
     std::string computer;
     std::vector<hessiancln::tarn_client_info> about;
     hessiancln::tarnc_reg_info registration;
+    ConfigurationState configuration;
     hessiancln::user_info customer{276, hessiancln::EmployeeCountCode::UpTo50,
                                    hessiancln::IndustryCode::Computer};
     /// The numbers of the tools that are enabled.
@@ -113,14 +115,19 @@ public:
     /// Deletes all that the set holds, and then the set.
     ActivityPlan removalOf(const Set& set, const std::string& user);
 
-    /// The agent's own daily work.
+    /// The agent's own daily and weekly work.
     ActivityPlan dailyAdmin(const std::string& user);
+    ActivityPlan weeklyAdmin(const std::string& user);
+    /// Brings the agent's history back from the storage server.
+    ActivityPlan databaseRecovery(const std::string& user);
 
     /// From now on a backup of one set after the other begins so often.
     void keepBusy(Milliseconds every);
 
 private:
     ActivityPlan planOf(hessiancln::ActivityType type, const Set& set, const std::string& user);
+    ActivityPlan ownWork(hessiancln::ActivityType type, const char* description,
+                         const std::string& user);
     void startDueBackups();
     void end(std::vector<Activity>::iterator activity, Milliseconds when, bool stopped);
 

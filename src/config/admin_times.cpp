@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "config/admin_times.h"
+
+#include <QTime>
+
+#include "api/client_configuration_records.h"
+
+namespace config {
+
+using hessiancln::DayOfWeekCode;
+
+namespace {
+
+constexpr int off = -1;
+
+} // namespace
+
+int rowOfDay(DayOfWeekCode day) {
+    const bool onWeekday = DayOfWeekCode::Monday <= day && day <= DayOfWeekCode::Saturday;
+    return onWeekday ? static_cast<int>(day) + 1 : 0;
+}
+
+DayOfWeekCode dayOfRow(int row) {
+    return row < 1 ? DayOfWeekCode::Sunday : DayOfWeekCode(row - 1);
+}
+
+hessiancln::time_in_day runTime(bool on, const QTime& time) {
+    if (!on)
+        return {off, 0, 0};
+    return {time.hour(), time.minute(), 0};
+}
+
+} // namespace config

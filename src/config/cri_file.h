@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include <QString>
+
+class QIODevice;
+
+/// Customer registration files: what a service provider hands out for the registration of an
+/// agent. One line for each thing, its key and its value with a "=" between them, in UTF-8.
+namespace config {
+
+enum class CriKey {
+    customerName,
+    accountNumber,
+    clientNumber,
+    systemAddresses,
+    privateKeyType,
+    privateKey,
+    accountKeyType,
+    accountKey,
+};
+
+struct CriEntry {
+    CriKey key;
+    QString value; ///< may be an encryption key
+};
+
+/// A line of so many bytes can't be meant, and is passed over.
+inline constexpr qint64 longestCriLine = 64 * 1024;
+
+/// What a line says; none if it has no "=" or its key is unknown.
+std::optional<CriEntry> criEntryOf(const QString& line);
+
+/// Hands over what the lines say, in their order. `file` is open for reading, as text. What was
+/// read is wiped.
+void readCri(QIODevice& file, const std::function<void(const CriEntry&)>& take);
+
+/// The name of the cipher that the number of such a file stands for: one more than on the wire.
+QString keyTypeOfCri(const QString& number);
+
+/// The first of the names that ends in ".cri", in whatever case; empty if none does.
+QString firstCriFile(const QStringList& names);
+
+/// The home of a user who is logged in, where such files are looked for.
+QString homeOfLogin(const QString& user);
+
+} // namespace config

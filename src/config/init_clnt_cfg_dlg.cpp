@@ -1,0 +1,297 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "config/init_clnt_cfg_dlg.h"
+
+#include <QEvent>
+#include <QFile>
+#include <QFileDialog>
+#include <QMessageBox>
+
+#include "api/client_connection.h"
+#include "config/country_table.h"
+#include "config/cri_file.h"
+#include "config/registration_entries.h"
+#include "config/system_address_list.h"
+#include "config/wipe.h"
+#include "session/connection.h"
+#include "session/required.h"
+#include "session/text.h"
+#include "ui/branding_resources.h"
+#include "ui/error_box.h"
+#include "ui/remote_action.h"
+#include "ui_init_clnt_cfg_dlg.h"
+
+namespace {
+
+auto configuration() {
+    return session::required(session::getConnection()->getConfigurationManager());
+}
+
+QString nameOf(hessiancln::KeyEncryptionType type) {
+    return session::fromWire(hessiancln::keyEncryptionName(type));
+}
+
+hessiancln::KeyEncryptionType chosenType(const QComboBox& combo) {
+    return hessiancln::keyEncryptionFromName(session::toWire(combo.currentText()));
+}
+
+/// No choice, if there is no such text.
+void choose(QComboBox& combo, const QString& text) {
+    combo.setCurrentIndex(combo.findText(text));
+}
+
+void chooseCode(QComboBox& combo, std::int32_t code) {
+    combo.setCurrentIndex(combo.findData(code));
+}
+
+/// 0 without a choice.
+std::int32_t chosenCode(const QComboBox& combo) {
+    return combo.currentData().toInt();
+}
+
+} // namespace
+
+InitClntCfgDlg::InitClntCfgDlg(bool initial, QWidget* parent)
+    : QDialog(parent)
+    , ui_(std::make_unique<Ui::InitClntCfgDlg>())
+    , initial_(initial) {
+    ui_->setupUi(this);
+    setWindowIcon(ui::g_branding.applicationIcon());
+    addCodes();
+    setTexts();
+    read();
+}
+
+InitClntCfgDlg::~InitClntCfgDlg() {
+    forgetKeys();
+}
+
+void InitClntCfgDlg::setTexts() {
+    if (initial_)
+        setWindowTitle(tr("Initial Tarn-Client Configuration"));
+    int row = 0;
+    for (const config::Country& country : config::countries())
+        ui_->cmbCountry->setItemText(row++, tr(country.name));
+}
+
+void InitClntCfgDlg::addCodes() {
+    for (const config::Country& country : config::countries())
+        ui_->cmbCountry->addItem(QString(), country.code);
+    ui_->cmbCountry->setCurrentIndex(-1);
+    for (QComboBox* combo : {ui_->cmbEmployees, ui_->cmbIndustry})
+        for (int row = 0; row < combo->count(); ++row)
+            combo->setItemData(row, row + 1);
+}
+
+void InitClntCfgDlg::read() {
+    const auto manager = configuration();
+    hessiancln::tarnc_reg_info info = manager->getTarnCRegistrationInfo();
+    const config::WipedAtEnd privateGuard(info.private_key);
+    const config::WipedAtEnd accountGuard(info.account_key);
+    showRegistration(info);
+    if (const auto customer = manager->getUserInfoConfiguration())
+        showUserInfo(customer->getUserInfo());
+}
+
+void InitClntCfgDlg::showRegistration(hessiancln::tarnc_reg_info& info) {
+    ui_->txtFieldCustomer->setText(session::fromWire(info.customer_name));
+    ui_->txtFieldAccountNum->setText(session::fromWire(info.account_num));
+    ui_->txtFieldClientNum->setText(session::fromWire(info.client_num));
+    setAddresses(info.tarnsys_ip_addr);
+    // The types first, as a change of theirs empties the keys.
+    choose(*ui_->cmbPrivateKeyType, nameOf(info.private_key_enc));
+    setPrivateKey(session::fromWire(info.private_key));
+    ui_->grpPrivateKey->setEnabled(initial_);
+    const QString accountType = nameOf(info.account_key_enc);
+    choose(*ui_->cmbAccountKeyType, accountType);
+    setAccountKey(session::fromWire(info.account_key));
+    ui_->grpAccountKey->setEnabled(initial_ || info.account_key.empty() ||
+                                   accountType == QStringLiteral("NONE"));
+    ui_->chkForwardKey->setChecked(info.escrow_enc_key);
+}
+
+void InitClntCfgDlg::showUserInfo(const hessiancln::user_info& info) {
+    chooseCode(*ui_->cmbCountry, info.country_code);
+    chooseCode(*ui_->cmbEmployees, static_cast<std::int32_t>(info.num_of_employees));
+    chooseCode(*ui_->cmbIndustry, static_cast<std::int32_t>(info.industry_code));
+    ui_->grpUserInfo->setEnabled(hessiancln::isMissing(info));
+}
+
+QString InitClntCfgDlg::chooseCriFile() {
+    QFileDialog dialog(this, tr("Please choose CRI file"),
+                       config::homeOfLogin(session::fromWire(session::currentUser())),
+                       tr("CRI Files (*.cri)"));
+    dialog.setWindowIcon(ui::g_branding.applicationIcon());
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    return config::firstCriFile(dialog.selectedFiles());
+}
+
+void InitClntCfgDlg::on_btnBrowse_clicked() {
+    QFile file(chooseCriFile());
+    if (file.fileName().isEmpty() || !file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return;
+    ui::remoteAction(*this, tr("Configuration Error"), ui::Cursor::wait, [this, &file] {
+        config::readCri(file, [this](const config::CriEntry& entry) { take(entry); });
+    });
+}
+
+void InitClntCfgDlg::take(const config::CriEntry& entry) {
+    using config::CriKey;
+    switch (entry.key) {
+    case CriKey::customerName:
+        return ui_->txtFieldCustomer->setText(entry.value);
+    case CriKey::accountNumber:
+        return ui_->txtFieldAccountNum->setText(entry.value);
+    case CriKey::clientNumber:
+        return ui_->txtFieldClientNum->setText(entry.value);
+    case CriKey::systemAddresses:
+        return setAddresses(session::toWire(entry.value));
+    case CriKey::privateKeyType:
+        return choose(*ui_->cmbPrivateKeyType, config::keyTypeOfCri(entry.value));
+    case CriKey::privateKey:
+        return setPrivateKey(entry.value);
+    case CriKey::accountKeyType:
+        return choose(*ui_->cmbAccountKeyType, config::keyTypeOfCri(entry.value));
+    case CriKey::accountKey:
+        return setAccountKey(entry.value);
+    }
+}
+
+QStringList InitClntCfgDlg::addresses() const {
+    QStringList list;
+    for (int row = 0; row < ui_->listBoxAddress->count(); ++row)
+        list << ui_->listBoxAddress->item(row)->text();
+    return list;
+}
+
+void InitClntCfgDlg::setAddresses(const std::string& text) {
+    ui_->listBoxAddress->clear();
+    ui_->listBoxAddress->addItems(config::systemAddressesOf(text));
+}
+
+void InitClntCfgDlg::setPrivateKey(const QString& key) {
+    ui_->txtFieldPrivateKey->setText(key);
+    ui_->txtFieldPrivateKeyConfirm->setText(key);
+}
+
+void InitClntCfgDlg::setAccountKey(const QString& key) {
+    ui_->txtFieldAccountKey->setText(key);
+    ui_->txtFieldAccountKeyConfirm->setText(key);
+}
+
+void InitClntCfgDlg::on_btnAdd_clicked() {
+    const auto address = config::newSystemAddress(ui_->txtFieldInputAddress->text(), addresses());
+    if (!address)
+        return;
+    ui_->listBoxAddress->addItem(*address);
+    ui_->txtFieldInputAddress->clear();
+}
+
+void InitClntCfgDlg::on_btnRemove_clicked() {
+    delete ui_->listBoxAddress->takeItem(ui_->listBoxAddress->currentRow());
+}
+
+void InitClntCfgDlg::on_cmbPrivateKeyType_currentIndexChanged(int) {
+    config::wipe(*ui_->txtFieldPrivateKeyConfirm);
+    config::wipe(*ui_->txtFieldPrivateKey);
+}
+
+void InitClntCfgDlg::on_cmbAccountKeyType_currentIndexChanged(int) {
+    config::wipe(*ui_->txtFieldAccountKeyConfirm);
+    config::wipe(*ui_->txtFieldAccountKey);
+}
+
+config::RegistrationEntries InitClntCfgDlg::entries() const {
+    config::RegistrationEntries entries;
+    entries.customerName = ui_->txtFieldCustomer->text();
+    entries.accountNumber = ui_->txtFieldAccountNum->text();
+    entries.clientNumber = ui_->txtFieldClientNum->text();
+    entries.addresses = ui_->listBoxAddress->count();
+    entries.privateKey = ui_->txtFieldPrivateKey->text();
+    entries.privateKeyConfirm = ui_->txtFieldPrivateKeyConfirm->text();
+    entries.accountKeyType = ui_->cmbAccountKeyType->currentText();
+    entries.accountKey = ui_->txtFieldAccountKey->text();
+    entries.accountKeyConfirm = ui_->txtFieldAccountKeyConfirm->text();
+    entries.countryChosen = ui_->cmbCountry->currentIndex() >= 0;
+    entries.employeesChosen = ui_->cmbEmployees->currentIndex() >= 0;
+    entries.industryChosen = ui_->cmbIndustry->currentIndex() >= 0;
+    return entries;
+}
+
+hessiancln::tarnc_reg_info InitClntCfgDlg::registration() const {
+    hessiancln::tarnc_reg_info info;
+    info.customer_name = session::toWire(ui_->txtFieldCustomer->text().trimmed());
+    info.account_num = session::toWire(ui_->txtFieldAccountNum->text());
+    info.client_num = session::toWire(ui_->txtFieldClientNum->text());
+    info.private_key_enc = chosenType(*ui_->cmbPrivateKeyType);
+    info.account_key_enc = chosenType(*ui_->cmbAccountKeyType);
+    info.private_key = session::toWire(ui_->txtFieldPrivateKey->text());
+    info.account_key = session::toWire(ui_->txtFieldAccountKey->text());
+    info.tarnsys_ip_addr = config::systemAddressesText(addresses());
+    info.escrow_enc_key = ui_->chkForwardKey->isChecked();
+    return info;
+}
+
+hessiancln::user_info InitClntCfgDlg::userInfo() const {
+    return {chosenCode(*ui_->cmbCountry),
+            hessiancln::EmployeeCountCode(chosenCode(*ui_->cmbEmployees)),
+            hessiancln::IndustryCode(chosenCode(*ui_->cmbIndustry))};
+}
+
+void InitClntCfgDlg::write() {
+    for (QLineEdit* field : {ui_->txtFieldAccountNum, ui_->txtFieldClientNum})
+        field->setText(field->text().trimmed().toUpper());
+    const auto manager = configuration();
+    hessiancln::tarnc_reg_info info = registration();
+    const config::WipedAtEnd privateGuard(info.private_key);
+    const config::WipedAtEnd accountGuard(info.account_key);
+    manager->setTarnCRegistrationInfo(info);
+    if (ui_->grpUserInfo->isEnabled())
+        if (const auto customer = manager->getUserInfoConfiguration())
+            customer->setUserInfo(userInfo());
+    if (ui_->chkRegister->isChecked())
+        manager->init_register();
+}
+
+void InitClntCfgDlg::on_btnSave_clicked() {
+    if (const QString problem = config::problemOf(entries()); !problem.isEmpty()) {
+        ui::showError(this, tr("Configuration Error"), problem);
+        return;
+    }
+    if (!ui::remoteAction(*this, tr("Configuration Error"), ui::Cursor::wait, [this] { write(); }))
+        return;
+    const bool isRegistered = ui_->chkRegister->isChecked();
+    QMessageBox::information(
+        this, tr("Configuration"),
+        isRegistered
+            ? tr("Tarn-Client Registration Information is saved and registered successfully.")
+            : tr("Tarn-Client Registration Information is saved successfully."));
+    done(isRegistered ? registered : saved);
+}
+
+void InitClntCfgDlg::on_btnCancel_clicked() {
+    done(cancelled);
+}
+
+void InitClntCfgDlg::done(int result) {
+    forgetKeys();
+    QDialog::done(result);
+}
+
+void InitClntCfgDlg::forgetKeys() {
+    // The copies first: the last one that goes is overwritten.
+    for (QLineEdit* field : {ui_->txtFieldPrivateKeyConfirm, ui_->txtFieldPrivateKey,
+                             ui_->txtFieldAccountKeyConfirm, ui_->txtFieldAccountKey})
+        config::wipe(*field);
+}
+
+void InitClntCfgDlg::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange) {
+        ui_->retranslateUi(this);
+        setTexts();
+    }
+    QDialog::changeEvent(event);
+}

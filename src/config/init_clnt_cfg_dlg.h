@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include <QDialog>
+
+namespace config {
+struct CriEntry;
+struct RegistrationEntries;
+} // namespace config
+
+namespace hessiancln {
+struct tarnc_reg_info;
+struct user_info;
+} // namespace hessiancln
+
+namespace Ui {
+class InitClntCfgDlg;
+}
+
+/// As whom the agent registers with its storage server: customer, account, addresses, encryption
+/// keys and a few facts about the customer. `exec` gives one of the results below.
+class InitClntCfgDlg : public QDialog {
+    Q_OBJECT
+public:
+    enum Result { cancelled, saved, registered };
+
+    /// Asks the agent for what it knows, and raises what the calls raise. `initial` tells that
+    /// the agent is set up for the first time, so that each key may be chosen.
+    explicit InitClntCfgDlg(bool initial, QWidget* parent = nullptr);
+    ~InitClntCfgDlg() override;
+
+    void done(int result) override;
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private slots:
+    void on_btnBrowse_clicked();
+    void on_btnAdd_clicked();
+    void on_btnRemove_clicked();
+    void on_cmbPrivateKeyType_currentIndexChanged(int index);
+    void on_cmbAccountKeyType_currentIndexChanged(int index);
+    void on_btnSave_clicked();
+    void on_btnCancel_clicked();
+
+private:
+    void setTexts();
+    void addCodes();
+
+    void read();
+    void showRegistration(hessiancln::tarnc_reg_info& info);
+    void showUserInfo(const hessiancln::user_info& info);
+
+    QString chooseCriFile();
+    void take(const config::CriEntry& entry);
+
+    QStringList addresses() const;
+    void setAddresses(const std::string& text);
+    void setPrivateKey(const QString& key);
+    void setAccountKey(const QString& key);
+    void forgetKeys();
+
+    config::RegistrationEntries entries() const;
+    hessiancln::tarnc_reg_info registration() const;
+    hessiancln::user_info userInfo() const;
+    void write();
+
+    std::unique_ptr<Ui::InitClntCfgDlg> ui_;
+    const bool initial_;
+};

@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "config/recovery_dlg.h"
+
+#include <QEvent>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "api/client_connection.h"
+#include "session/connection.h"
+#include "session/required.h"
+#include "ui/branding_resources.h"
+#include "ui/remote_action.h"
+#include "ui_recovery_dlg.h"
+
+namespace {
+
+/// The one way of recovery that there is.
+constexpr int wholeDatabase = 0;
+
+auto activityManager() {
+    return session::required(session::getConnection()->getSystemActivityManager());
+}
+
+} // namespace
+
+RecoveryDlg::RecoveryDlg(QWidget* parent)
+    : QDialog(parent)
+    , ui_(std::make_unique<Ui::RecoveryDlg>()) {
+    ui_->setupUi(this);
+    setWindowIcon(ui::g_branding.applicationIcon());
+    ui_->buttonBox->button(QDialogButtonBox::Ok)->setIcon(QIcon(QStringLiteral(":/button/ok")));
+    ui_->buttonBox->button(QDialogButtonBox::Cancel)
+        ->setIcon(QIcon(QStringLiteral(":/button/cancel")));
+    // Behind the slots of the form, so that the work is done before the dialog closes.
+    connect(ui_->buttonBox, &QDialogButtonBox::accepted, this, &RecoveryDlg::accept);
+    connect(ui_->buttonBox, &QDialogButtonBox::rejected, this, &RecoveryDlg::reject);
+
+    orphans_ = activityManager()->getOrphanedbackupSets().size();
+    ui_->radioOrphanedSet->setEnabled(orphans_ > 0);
+    (orphans_ > 0 ? ui_->radioOrphanedSet : ui_->radioDatabase)->setChecked(true);
+    setTexts();
+}
+
+RecoveryDlg::~RecoveryDlg() = default;
+
+void RecoveryDlg::setTexts() {
+    if (orphans_ > 0)
+        ui_->radioOrphanedSet->setText(
+            tr("&Recover orphaned backup sets (Found %1 orphaned backup set(s))").arg(orphans_));
+}
+
+void RecoveryDlg::on_buttonBox_accepted() {
+    if (ui_->radioOrphanedSet->isChecked())
+        recoverOrphanedSets();
+    else if (ui_->radioDatabase->isChecked())
+        recoverDatabase();
+}
+
+void RecoveryDlg::recoverOrphanedSets() {
+    ui::remoteAction(*this, tr("Tarn-Client Database Recovery Error"), ui::Cursor::wait, [] {
+        const auto connection = session::getConnection();
+        const auto manager = activityManager();
+        for (const auto& orphan : manager->getOrphanedbackupSets()) {
+            const std::int32_t id = manager->recover_orphaned_backup_set(orphan);
+            session::required(connection->backup_set(id))->start_sync(true);
+        }
+    });
+}
+
+void RecoveryDlg::recoverDatabase() {
+    const auto answer = QMessageBox::question(
+        this, tr("Recover Database"),
+        tr("The current database will be overwritten.\nAfter recovery, you have to restart ostrand "
+           "backup service.\nAre you sure you want to recover database?"),
+        QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
+    if (answer == QMessageBox::Yes)
+        ui::remoteAction(*this, tr("Tarn-Client Database Recovery Error"), ui::Cursor::arrow,
+                         [] { activityManager()->recover_tarnclient_database(wholeDatabase); });
+}
+
+void RecoveryDlg::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange) {
+        ui_->retranslateUi(this);
+        setTexts();
+    }
+    QDialog::changeEvent(event);
+}

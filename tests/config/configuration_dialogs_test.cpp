@@ -1,0 +1,477 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include <QAccessible>
+#include <QGroupBox>
+#include <QLabel>
+#include <QTimeEdit>
+
+#include "config/ad_account_dlg.h"
+#include "config/register_dlg.h"
+#include "resources/pictures.h"
+#include "simulator/world/world.h"
+#include "tests/config/dialog_steps.h"
+
+using namespace steps;
+using hessiancln::DayOfWeekCode;
+using simulator::Fault;
+using simulator::World;
+using support::callsOf;
+using support::child;
+using support::isDialog;
+using support::ModalDriver;
+
+namespace {
+
+const char* const kError = "Configuration Error";
+const char* const kLdapError = "LDAP User Validation Error";
+
+const Calls kManager{"ClientConnection.getConfigurationManager()"};
+const Calls kReadAccount = kManager + Calls{"ClientConfiguration.getADUserInfo()"};
+const Calls kReadTimes = kManager + Calls{"ClientConfiguration.getDailyAdminRunTime()",
+                                          "ClientConfiguration.getWeeklyAdminRunTime()",
+                                          "ClientConfiguration.getWeeklyAdminRunDay()"};
+const Calls kReadNumbers = kManager + Calls{"ClientConfiguration.getCustomerName()",
+                                            "ClientConfiguration.getAccountNumber()",
+                                            "ClientConfiguration.getClientNumber()"};
+
+Calls sent(const std::string& username, bool save) {
+    return kManager + Calls{"ClientConfiguration.setADUserInfo({username=" + username +
+                            ", password=***, save=" + (save ? "true})" : "false})")};
+}
+
+QTimeEdit& timeOf(QWidget& wizard, const char* name) {
+    return child<QTimeEdit>(wizard, name);
+}
+
+QString dayOf(QWidget& wizard) {
+    return child<QComboBox>(wizard, "comboDays").currentText();
+}
+
+bool isChecked(QWidget& dialog, const char* box) {
+    return child<QAbstractButton>(dialog, box).isChecked();
+}
+
+QString label(QWidget& dialog, const char* name) {
+    return child<QLabel>(dialog, name).text();
+}
+
+/// The texts that a label has painted.
+class StatusWatch : public QObject {
+public:
+    explicit StatusWatch(QLabel& label)
+        : label_(label) {
+        label.installEventFilter(this);
+    }
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint)
+            painted << label_.text();
+        return false;
+    }
+
+    QStringList painted;
+
+private:
+    QLabel& label_;
+};
+
+} // namespace
+
+/// The smaller dialogs about the agent itself, opened by the main window's commands.
+class ConfigurationDialogsTest : public QObject {
+    Q_OBJECT
+private slots:
+    void initTestCase() { resources::initPictures(); }
+    void init() { test_.start(); }
+    void cleanup() { test_.end(); }
+
+    void theAccountIsReadAndSaved();
+    void theAccountIsValidated();
+    void anAccountWithoutADomainIsNotShown();
+    void anEmptyAccountIsABackslash();
+    void theAccountIsChecked_data();
+    void theAccountIsChecked();
+    void cancellingTheAccountSendsNothing();
+    void aFaultLeavesTheAccountOpen_data();
+    void aFaultLeavesTheAccountOpen();
+    void passwordsStayHidden();
+
+    void theTimesAreShownAndSaved_data();
+    void theTimesAreShownAndSaved();
+    void aDayWithoutANameIsSunday();
+    void theChecksEnableTheTimes();
+    void runningNowWritesNothing_data();
+    void runningNowWritesNothing();
+    void aRunThatFailsIsToldAndClosesToo();
+    void aFaultEndsTheTimes_data();
+    void aFaultEndsTheTimes();
+
+    void theNumbersAreShown();
+    void registeringAgainReplacesItsStatus();
+    void theStatusTellsThatItIsRegistering();
+    void noRegistrationOpensOnAFault_data();
+    void noRegistrationOpensOnAFault();
+
+private:
+    ModalDriver& modals() { return *test_.modals; }
+    void expectAccount(const ModalDriver::Act& act) {
+        modals().expect(q("account"), isDialog<ADAccountDlg>, [this, act](QWidget& dialog) {
+            QTRY_VERIFY(test_.agent->callTexts().size() >= 3);
+            act(dialog);
+        });
+    }
+    void expectRegister(const ModalDriver::Act& act) {
+        modals().expect(q("register"), isDialog<RegisterDlg>, act);
+    }
+    void expectTimes(const ModalDriver::Act& act) {
+        modals().expect(q("times"), isDialog<QWizard>, act);
+    }
+    void compareCalls(const Calls& expected) { QCOMPARE(callsOf(*test_.agent), expected); }
+    void openAccount() { test_.run("on_actionLDAP_Account_triggered"); }
+    void openTimes() { test_.run("on_actionAdmin_triggered"); }
+    void openRegister() { test_.run("on_actionRegister_triggered"); }
+
+    support::WizardTest test_;
+};
+
+void ConfigurationDialogsTest::theAccountIsReadAndSaved() {
+    expectAccount([this](QWidget& dialog) {
+        QCOMPARE(dialog.windowTitle(), q("Modify LDAP User Account"));
+        QCOMPARE(dialog.parentWidget(), &test_.driver->window());
+        QCOMPARE(child<QGroupBox>(dialog, "groupUser").title(), q("LDAP user settings"));
+        QCOMPARE(text(dialog, "editDomain"), q("OFFICE"));
+        QCOMPARE(text(dialog, "editUser"), q("backup"));
+        QCOMPARE(text(dialog, "editPassword"), q("correct horse"));
+        QCOMPARE(text(dialog, "editConfirm"), q("correct horse"));
+        type(dialog, "editDomain", "  HOME ");
+        type(dialog, "editUser", " Jürgen\t");
+        type(dialog, "editPassword", "  pass word ");
+        type(dialog, "editConfirm", "  pass word ");
+        expectNews(modals(), "LDAP User Validation",
+                   "LDAP User Information is saved successfully.");
+        press(dialog, "btnSave");
+        QCOMPARE(static_cast<QDialog&>(dialog).result(), int(ADAccountDlg::saved));
+        QCOMPARE(text(dialog, "editPassword"), QString());
+    });
+    openAccount();
+    compareCalls(kReadAccount + sent("\"HOME\\\\Jürgen\"", true));
+    test_.agent->withWorld([](World& world) {
+        QCOMPARE(q(world.configuration.directoryAccount.password.c_str()), q("  pass word "));
+    });
+}
+
+void ConfigurationDialogsTest::theAccountIsValidated() {
+    expectAccount([this](QWidget& dialog) {
+        expectNews(modals(), "LDAP User Validation",
+                   "LDAP User Information is validated successfully.");
+        press(dialog, "btnValidate");
+        QCOMPARE(static_cast<QDialog&>(dialog).result(), int(ADAccountDlg::validated));
+        QVERIFY(!dialog.isVisible());
+    });
+    openAccount();
+    compareCalls(kReadAccount + sent("\"OFFICE\\\\backup\"", false));
+}
+
+void ConfigurationDialogsTest::anAccountWithoutADomainIsNotShown() {
+    test_.agent->withWorld(
+        [](World& world) { world.configuration.directoryAccount.username = "anna@example.org"; });
+    expectAccount([](QWidget& dialog) {
+        for (const char* field : {"editUser", "editPassword", "editConfirm", "editDomain"})
+            QCOMPARE(text(dialog, field), QString());
+        press(dialog, "btnCancel");
+    });
+    openAccount();
+    compareCalls(kReadAccount);
+}
+
+void ConfigurationDialogsTest::anEmptyAccountIsABackslash() {
+    expectAccount([this](QWidget& dialog) {
+        for (const char* field : {"editUser", "editPassword", "editDomain"})
+            type(dialog, field, "");
+        expectNews(modals(), "LDAP User Validation",
+                   "LDAP User Information is saved successfully.");
+        press(dialog, "btnSave");
+    });
+    openAccount();
+    compareCalls(kReadAccount + sent("\"\\\\\"", true));
+}
+
+void ConfigurationDialogsTest::theAccountIsChecked_data() {
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("user") << q("editUser") << q("")
+                          << q("Username is required for initialization.");
+    QTest::newRow("password") << q("editPassword") << q("")
+                              << q("Password is required for initialization.");
+    QTest::newRow("no confirmation")
+        << q("editConfirm") << q("") << q("The password you typed do not match.");
+    QTest::newRow("other confirmation")
+        << q("editConfirm") << q("correct horse ") << q("The password you typed do not match.");
+    QTest::newRow("domain") << q("editDomain") << q("")
+                            << q("Domain is required for initialization.");
+}
+
+void ConfigurationDialogsTest::theAccountIsChecked() {
+    QFETCH(QString, field);
+    QFETCH(QString, value);
+    QFETCH(QString, message);
+    expectAccount([&](QWidget& dialog) {
+        dialog.findChild<QLineEdit*>(field)->setText(value);
+        for (const char* button : {"btnSave", "btnValidate"}) {
+            modals().expectErrorBox(q(kLdapError), message);
+            press(dialog, button);
+            QVERIFY(dialog.isVisible());
+        }
+        press(dialog, "btnCancel");
+    });
+    openAccount();
+    compareCalls(kReadAccount);
+}
+
+void ConfigurationDialogsTest::cancellingTheAccountSendsNothing() {
+    expectAccount([](QWidget& dialog) {
+        press(dialog, "btnCancel");
+        QCOMPARE(static_cast<QDialog&>(dialog).result(), int(ADAccountDlg::cancelled));
+    });
+    openAccount();
+    compareCalls(kReadAccount);
+}
+
+void ConfigurationDialogsTest::aFaultLeavesTheAccountOpen_data() {
+    QTest::addColumn<QString>("method");
+    QTest::addColumn<int>("after");
+    QTest::newRow("opening, manager") << q("getConfigurationManager") << 0;
+    QTest::newRow("opening, account") << q("getADUserInfo") << 0;
+    QTest::newRow("sending, manager") << q("getConfigurationManager") << 1;
+    QTest::newRow("sending, account") << q("setADUserInfo") << 0;
+}
+
+void ConfigurationDialogsTest::aFaultLeavesTheAccountOpen() {
+    QFETCH(QString, method);
+    QFETCH(int, after);
+    const bool opening = QByteArray(QTest::currentDataTag()).startsWith("opening");
+    failAfter(*test_.agent, after, qPrintable(method));
+    if (opening)
+        modals().expectErrorBox(q(kLdapError), q("Out of order."));
+    modals().expect(q("account"), isDialog<ADAccountDlg>, [&](QWidget& dialog) {
+        if (!opening) {
+            QTRY_COMPARE(text(dialog, "editUser"), q("backup"));
+            modals().expectErrorBox(q(kLdapError), q("Out of order."));
+            press(dialog, "btnSave");
+            QCOMPARE(text(dialog, "editPassword"), q("correct horse"));
+        }
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(text(dialog, "editUser"), opening ? QString() : q("backup"));
+        press(dialog, "btnCancel");
+    });
+    openAccount();
+    QCOMPARE(test_.agent->waitingInjections(), std::size_t{0});
+}
+
+void ConfigurationDialogsTest::passwordsStayHidden() {
+    expectAccount([](QWidget& dialog) {
+        for (const char* name : {"editPassword", "editConfirm"}) {
+            auto& field = child<QLineEdit>(dialog, name);
+            QCOMPARE(field.echoMode(), QLineEdit::Password);
+            QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&field);
+            QVERIFY(told);
+            for (int part = 0; part < QAccessible::UserText; ++part)
+                QVERIFY(!told->text(QAccessible::Text(part)).contains(q("horse")));
+            QVERIFY(!field.toolTip().contains(q("horse")));
+        }
+        press(dialog, "btnCancel");
+    });
+    openAccount();
+}
+
+void ConfigurationDialogsTest::theTimesAreShownAndSaved_data() {
+    QTest::addColumn<bool>("daily");
+    QTest::addColumn<bool>("weekly");
+    QTest::newRow("both") << true << true;
+    QTest::newRow("daily") << true << false;
+    QTest::newRow("weekly") << false << true;
+    QTest::newRow("none") << false << false;
+}
+
+void ConfigurationDialogsTest::theTimesAreShownAndSaved() {
+    QFETCH(bool, daily);
+    QFETCH(bool, weekly);
+    test_.agent->withWorld([=](World& world) {
+        world.configuration.dailyAdmin.hour = daily ? 7 : -1;
+        world.configuration.weeklyAdmin.hour = weekly ? 0 : -1;
+        world.configuration.weeklyDay = DayOfWeekCode::Wednesday;
+    });
+    expectTimes([=](QWidget& wizard) {
+        QCOMPARE(wizard.windowTitle(), q("Configuration Wizard"));
+        QCOMPARE(isChecked(wizard, "checkDaily"), daily);
+        QCOMPARE(isChecked(wizard, "checkWeekly"), weekly);
+        QCOMPARE(isEnabled(wizard, "timeDaily"), daily);
+        for (const char* name : {"timeWeekly", "labelEvery", "comboDays"})
+            QCOMPARE(isEnabled(wizard, name), weekly);
+        if (daily)
+            QCOMPARE(timeOf(wizard, "timeDaily").time(), QTime(7, 30));
+        if (weekly) {
+            QCOMPARE(timeOf(wizard, "timeWeekly").time(), QTime(0, 15));
+            QCOMPARE(dayOf(wizard), q("Wednesday"));
+        }
+        timeOf(wizard, "timeDaily").setTime(QTime(6, 45));
+        child<QComboBox>(wizard, "comboDays").setCurrentIndex(6);
+        QVERIFY(support::finishWizard(wizard));
+    });
+    openTimes();
+    Calls expected = kReadTimes;
+    if (!weekly)
+        expected.pop_back();
+    const std::string off = "{hour=-1, minute=0, second=0})";
+    compareCalls(expected + kManager +
+                 Calls{"ClientConfiguration.setDailyAdminRunTime(" +
+                           (daily ? "{hour=6, minute=45, second=0})" : off),
+                       "ClientConfiguration.setWeeklyAdminRunTime(5, " +
+                           (weekly ? "{hour=0, minute=15, second=0})" : off)});
+}
+
+void ConfigurationDialogsTest::aDayWithoutANameIsSunday() {
+    test_.agent->withWorld([](World& world) { world.configuration.weeklyDay = DayOfWeekCode(7); });
+    expectTimes([](QWidget& wizard) {
+        QCOMPARE(dayOf(wizard), q("Sunday"));
+        QVERIFY(support::finishWizard(wizard));
+    });
+    openTimes();
+    QCOMPARE(q(callsOf(*test_.agent).back().c_str()),
+             q("ClientConfiguration.setWeeklyAdminRunTime(6, {hour=23, minute=15, second=0})"));
+}
+
+void ConfigurationDialogsTest::theChecksEnableTheTimes() {
+    expectTimes([](QWidget& wizard) {
+        press(wizard, "checkDaily");
+        QVERIFY(!isEnabled(wizard, "timeDaily") && !isEnabled(wizard, "labelDailyStartAt"));
+        QVERIFY(isEnabled(wizard, "timeWeekly"));
+        press(wizard, "checkWeekly");
+        for (const char* name : {"timeWeekly", "labelWeeklyStartAt", "labelEvery", "comboDays"})
+            QVERIFY2(!isEnabled(wizard, name), name);
+        QVERIFY(isEnabled(wizard, "btnDaily") && isEnabled(wizard, "btnWeekly"));
+        press(wizard, "checkDaily");
+        QVERIFY(isEnabled(wizard, "timeDaily") && !isEnabled(wizard, "timeWeekly"));
+        support::cancelWizard(wizard, 0);
+    });
+    openTimes();
+    compareCalls(kReadTimes);
+}
+
+void ConfigurationDialogsTest::runningNowWritesNothing_data() {
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QString>("method");
+    QTest::newRow("daily") << q("btnDaily") << q("start_daily_admin");
+    QTest::newRow("weekly") << q("btnWeekly") << q("start_weekly_admin");
+}
+
+void ConfigurationDialogsTest::runningNowWritesNothing() {
+    QFETCH(QString, button);
+    QFETCH(QString, method);
+    expectTimes([&](QWidget& wizard) {
+        timeOf(wizard, "timeDaily").setTime(QTime(6, 45));
+        press(wizard, qPrintable(button));
+        QVERIFY(!wizard.isVisible());
+    });
+    openTimes();
+    compareCalls(kReadTimes + kManager +
+                 Calls{"ClientConfiguration." + method.toStdString() + "()"});
+}
+
+void ConfigurationDialogsTest::aRunThatFailsIsToldAndClosesToo() {
+    test_.agent->inject("start_weekly_admin", Fault{"Out of order."});
+    expectTimes([this](QWidget& wizard) {
+        modals().expectErrorBox(q(kError), q("Out of order."));
+        press(wizard, "btnWeekly");
+        QVERIFY(!wizard.isVisible());
+    });
+    openTimes();
+}
+
+void ConfigurationDialogsTest::aFaultEndsTheTimes_data() {
+    QTest::addColumn<QString>("method");
+    QTest::addColumn<int>("after");
+    QTest::addColumn<bool>("saving");
+    for (const char* method : {"getConfigurationManager", "getDailyAdminRunTime",
+                               "getWeeklyAdminRunTime", "getWeeklyAdminRunDay"})
+        QTest::newRow(method) << q(method) << 0 << false;
+    QTest::newRow("saving, manager") << q("getConfigurationManager") << 1 << true;
+    for (const char* method : {"setDailyAdminRunTime", "setWeeklyAdminRunTime"})
+        QTest::newRow(method) << q(method) << 0 << true;
+}
+
+void ConfigurationDialogsTest::aFaultEndsTheTimes() {
+    QFETCH(QString, method);
+    QFETCH(int, after);
+    QFETCH(bool, saving);
+    failAfter(*test_.agent, after, qPrintable(method));
+    if (saving)
+        expectTimes([](QWidget& wizard) { QVERIFY(support::finishWizard(wizard)); });
+    modals().expectErrorBox(q(kError), q("Out of order."));
+    openTimes();
+    QCOMPARE(test_.agent->waitingInjections(), std::size_t{0});
+}
+
+void ConfigurationDialogsTest::theNumbersAreShown() {
+    expectRegister([this](QWidget& dialog) {
+        QCOMPARE(dialog.windowTitle(), q("Re-Register"));
+        QCOMPARE(dialog.parentWidget(), &test_.driver->window());
+        QVERIFY(!dialog.windowIcon().isNull());
+        QCOMPARE(label(dialog, "txtCustomerName"), q("Müller & Söhne GmbH"));
+        QCOMPARE(label(dialog, "txtAccountNum"), q("OFFICE-401"));
+        QCOMPARE(label(dialog, "txtClientNum"), q("A4C100931700"));
+        QCOMPARE(label(dialog, "labStatus"), QString());
+        QCOMPARE(label(dialog, "labNote"),
+                 q("NOTE: Tarn-Client registration ensures secure access to the Tarn-System. You "
+                   "must coordinate this activity with your Service Provider."));
+        press(dialog, "btnClose");
+        QCOMPARE(static_cast<QDialog&>(dialog).result(), int(QDialog::Accepted));
+    });
+    openRegister();
+    compareCalls(kReadNumbers);
+}
+
+void ConfigurationDialogsTest::registeringAgainReplacesItsStatus() {
+    test_.agent->inject("re_register", Fault{"Out of order."});
+    expectRegister([](QWidget& dialog) {
+        press(dialog, "btnRegister");
+        QCOMPARE(label(dialog, "labStatus"), q("Out of order."));
+        QVERIFY(dialog.isVisible());
+        press(dialog, "btnRegister");
+        QCOMPARE(label(dialog, "labStatus"),
+                 q("Tarn-Client successfully registered with Tarn-System."));
+        press(dialog, "btnClose");
+    });
+    openRegister();
+    const Calls again = kManager + Calls{"ClientConfiguration.re_register()"};
+    compareCalls(kReadNumbers + again + again);
+    test_.agent->withWorld([](World& world) { QCOMPARE(world.configuration.registrations, 1); });
+}
+
+void ConfigurationDialogsTest::theStatusTellsThatItIsRegistering() {
+    expectRegister([](QWidget& dialog) {
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        StatusWatch watch(child<QLabel>(dialog, "labStatus"));
+        press(dialog, "btnRegister");
+        QVERIFY(watch.painted.contains(q("Registering...")));
+        press(dialog, "btnClose");
+    });
+    openRegister();
+}
+
+void ConfigurationDialogsTest::noRegistrationOpensOnAFault_data() {
+    QTest::addColumn<QString>("method");
+    for (const char* method :
+         {"getConfigurationManager", "getCustomerName", "getAccountNumber", "getClientNumber"})
+        QTest::newRow(method) << q(method);
+}
+
+void ConfigurationDialogsTest::noRegistrationOpensOnAFault() {
+    QFETCH(QString, method);
+    failAfter(*test_.agent, 0, qPrintable(method));
+    modals().expectErrorBox(q(kError), q("Out of order."));
+    openRegister();
+}
+
+QTEST_MAIN(ConfigurationDialogsTest)
+#include "configuration_dialogs_test.moc"

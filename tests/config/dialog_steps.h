@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+
+#include "tests/support/gui_wizard.h"
+
+/// What tests of the dialogs do in front of them.
+namespace steps {
+
+using Calls = std::vector<std::string>;
+
+inline QString q(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+inline Calls operator+(Calls calls, const Calls& more) {
+    calls.insert(calls.end(), more.begin(), more.end());
+    return calls;
+}
+
+inline void press(QWidget& dialog, const char* button) {
+    auto& found = support::child<QAbstractButton>(dialog, button);
+    QVERIFY2(found.isEnabled(), button);
+    QTest::mouseClick(&found, Qt::LeftButton, {}, QPoint(8, found.height() / 2));
+}
+
+inline QString text(QWidget& dialog, const char* field) {
+    return support::child<QLineEdit>(dialog, field).text();
+}
+
+inline void type(QWidget& dialog, const char* field, const char* text) {
+    support::child<QLineEdit>(dialog, field).setText(q(text));
+}
+
+inline bool isEnabled(QWidget& dialog, const char* name) {
+    return support::child<QWidget>(dialog, name).isEnabled();
+}
+
+/// A box with news and an Ok button, which is pressed.
+inline void expectNews(support::ModalDriver& modals, const char* title, const char* text) {
+    modals.expect(q("news"), support::isDialog<QMessageBox>, [=](QWidget& widget) {
+        auto& box = static_cast<QMessageBox&>(widget);
+        QCOMPARE(box.icon(), QMessageBox::Information);
+        QCOMPARE(box.windowTitle(), q(title));
+        QCOMPARE(box.text(), q(text));
+        QCOMPARE(int(box.standardButtons()), int(QMessageBox::Ok));
+        QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton);
+    });
+}
+
+/// The call after so many of its kind fails.
+inline void failAfter(support::GuiAgent& agent, int calls, const char* method) {
+    for (int i = 0; i < calls; ++i)
+        agent.inject(method, simulator::Delay{std::chrono::milliseconds(0)});
+    agent.inject(method, simulator::Fault{"Out of order."});
+}
+
+} // namespace steps

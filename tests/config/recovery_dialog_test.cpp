@@ -1,0 +1,233 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include <QDialogButtonBox>
+#include <QGroupBox>
+#include <QRadioButton>
+
+#include "config/recovery_dlg.h"
+#include "resources/pictures.h"
+#include "simulator/world/world.h"
+#include "tests/config/dialog_steps.h"
+
+using namespace steps;
+using simulator::World;
+using support::callsOf;
+using support::child;
+using support::isDialog;
+using support::ModalDriver;
+
+namespace {
+
+const char* const kError = "Tarn-Client Database Recovery Error";
+
+const Calls kCount{"ClientConnection.getSystemActivityManager()",
+                   "SystemActivityManager.getOrphanedbackupSets()"};
+
+void accept(QWidget& dialog) {
+    QTest::mouseClick(child<QDialogButtonBox>(dialog, "buttonBox").button(QDialogButtonBox::Ok),
+                      Qt::LeftButton);
+    QVERIFY(!dialog.isVisible());
+}
+
+} // namespace
+
+/// Lost sets and the lost database, brought back from the main window.
+class RecoveryDialogTest : public QObject {
+    Q_OBJECT
+private slots:
+    void initTestCase() { resources::initPictures(); }
+    void init() { test_.start(); }
+    void cleanup() { test_.end(); }
+
+    void withoutOrphansOnlyTheDatabaseIsThere();
+    void orphansAreRecovered_data();
+    void orphansAreRecovered();
+    void aFailureLeavesTheRestOfTheOrphans_data();
+    void aFailureLeavesTheRestOfTheOrphans();
+    void theDatabaseIsRecovered();
+    void noMeansNoRecovery();
+    void aDatabaseThatCantBeRecoveredIsTold_data();
+    void aDatabaseThatCantBeRecoveredIsTold();
+    void cancellingDoesNothing();
+    void nothingOpensOnAFault_data();
+    void nothingOpensOnAFault();
+
+private:
+    ModalDriver& modals() { return *test_.modals; }
+    void expectRecovery(const ModalDriver::Act& act) {
+        modals().expect(q("recovery"), isDialog<RecoveryDlg>, act);
+    }
+    void addOrphans(const std::vector<std::string>& names);
+    /// Asks for the database, and answers the question whether that is meant.
+    void answer(QMessageBox::StandardButton button, bool failing = false);
+    void compareCalls(const Calls& expected) { QCOMPARE(callsOf(*test_.agent), expected); }
+    void open() { test_.run("on_action_Recovery_triggered"); }
+
+    support::WizardTest test_;
+};
+
+void RecoveryDialogTest::addOrphans(const std::vector<std::string>& names) {
+    test_.agent->withWorld([&names](World& world) {
+        world.configuration.orphans.clear();
+        for (const std::string& name : names) {
+            auto set = std::make_shared<simulator::BackupSetState>(*world.sets().front());
+            set->info.name = name;
+            world.configuration.orphans.push_back(set);
+        }
+    });
+}
+
+void RecoveryDialogTest::withoutOrphansOnlyTheDatabaseIsThere() {
+    addOrphans({});
+    expectRecovery([this](QWidget& dialog) {
+        QCOMPARE(dialog.windowTitle(), q("Recovery"));
+        QCOMPARE(dialog.parentWidget(), &test_.driver->window());
+        QVERIFY(!dialog.windowIcon().isNull());
+        QCOMPARE(child<QGroupBox>(dialog, "groupRecovery").title(), q("Recovery"));
+        auto& sets = child<QRadioButton>(dialog, "radioOrphanedSet");
+        QCOMPARE(sets.text(), q("&Recover Orphaned Backup Sets (no orphaned backup sets were found "
+                                "during the last Admin Process)"));
+        QVERIFY(!sets.isEnabled());
+        auto& database = child<QRadioButton>(dialog, "radioDatabase");
+        QCOMPARE(database.text(), q("R&ecover Backup History Database from the cloud"));
+        QVERIFY(database.isChecked());
+        static_cast<QDialog&>(dialog).reject();
+    });
+    open();
+    compareCalls(kCount);
+}
+
+void RecoveryDialogTest::orphansAreRecovered_data() {
+    QTest::addColumn<int>("count");
+    QTest::newRow("one") << 1;
+    QTest::newRow("three") << 3;
+}
+
+void RecoveryDialogTest::orphansAreRecovered() {
+    QFETCH(int, count);
+    std::vector<std::string> names{"A", "B", "C"};
+    names.resize(static_cast<std::size_t>(count));
+    addOrphans(names);
+    Calls expected = kCount + kCount;
+    int id = test_.setNames().size();
+    for (const std::string& name : names)
+        expected = expected + Calls{"SystemActivityManager.recover_orphaned_backup_set("
+                                    "OrphanedBackupSet(\"" +
+                                        name + "\"))",
+                                    "ClientConnection.backup_set(" + std::to_string(++id) + ")",
+                                    "BackupSet.start_sync(true)"};
+    expectRecovery([count](QWidget& dialog) {
+        auto& sets = child<QRadioButton>(dialog, "radioOrphanedSet");
+        QCOMPARE(sets.text(),
+                 q("&Recover orphaned backup sets (Found %1 orphaned backup set(s))").arg(count));
+        QVERIFY(sets.isEnabled() && sets.isChecked());
+        accept(dialog);
+    });
+    open();
+    compareCalls(expected);
+    QCOMPARE(test_.setNames().mid(id - count).join(QLatin1Char(' ')),
+             count == 1 ? q("A") : q("A B C"));
+}
+
+void RecoveryDialogTest::aFailureLeavesTheRestOfTheOrphans_data() {
+    QTest::addColumn<QString>("method");
+    QTest::addColumn<int>("after");
+    QTest::addColumn<int>("recovered");
+    QTest::newRow("manager") << q("getSystemActivityManager") << 1 << 0;
+    QTest::newRow("list") << q("getOrphanedbackupSets") << 1 << 0;
+    QTest::newRow("recovery") << q("recover_orphaned_backup_set") << 1 << 1;
+    QTest::newRow("set") << q("SystemActivityManager.recover_orphaned_backup_set") << 2 << 2;
+    QTest::newRow("its proxy") << q("backup_set") << 1 << 2;
+    QTest::newRow("synchronisation") << q("start_sync") << 1 << 2;
+}
+
+void RecoveryDialogTest::aFailureLeavesTheRestOfTheOrphans() {
+    QFETCH(QString, method);
+    QFETCH(int, after);
+    QFETCH(int, recovered);
+    addOrphans({"A", "B", "C"});
+    const int before = test_.setNames().size();
+    failAfter(*test_.agent, after, qPrintable(method));
+    expectRecovery([this](QWidget& dialog) {
+        modals().expectErrorBox(q(kError), q("Out of order."));
+        accept(dialog);
+    });
+    open();
+    QCOMPARE(test_.setNames().size() - before, recovered);
+    QCOMPARE(test_.agent->waitingInjections(), std::size_t{0});
+}
+
+void RecoveryDialogTest::answer(QMessageBox::StandardButton button, bool failing) {
+    expectRecovery([this, button, failing](QWidget& dialog) {
+        press(dialog, "radioDatabase");
+        modals().expect(q("question"), isDialog<QMessageBox>, [button](QWidget& widget) {
+            auto& box = static_cast<QMessageBox&>(widget);
+            QCOMPARE(box.windowTitle(), q("Recover Database"));
+            QCOMPARE(box.text(), q("The current database will be overwritten.\nAfter recovery, you "
+                                   "have to restart ostrand backup service.\nAre you sure you want "
+                                   "to recover database?"));
+            QCOMPARE(int(box.standardButtons()), int(QMessageBox::Yes | QMessageBox::No));
+            QCOMPARE(box.defaultButton(), box.button(QMessageBox::No));
+            QTest::mouseClick(box.button(button), Qt::LeftButton);
+        });
+        if (failing)
+            modals().expectErrorBox(q(kError), q("Out of order."));
+        accept(dialog);
+    });
+}
+
+void RecoveryDialogTest::theDatabaseIsRecovered() {
+    answer(QMessageBox::Yes);
+    open();
+    compareCalls(kCount + Calls{"ClientConnection.getSystemActivityManager()",
+                                "SystemActivityManager.recover_tarnclient_database(0)"});
+}
+
+void RecoveryDialogTest::noMeansNoRecovery() {
+    answer(QMessageBox::No);
+    open();
+    compareCalls(kCount);
+}
+
+void RecoveryDialogTest::aDatabaseThatCantBeRecoveredIsTold_data() {
+    QTest::addColumn<QString>("method");
+    QTest::addColumn<int>("after");
+    QTest::newRow("manager") << q("getSystemActivityManager") << 1;
+    QTest::newRow("recovery") << q("recover_tarnclient_database") << 0;
+}
+
+void RecoveryDialogTest::aDatabaseThatCantBeRecoveredIsTold() {
+    QFETCH(QString, method);
+    QFETCH(int, after);
+    failAfter(*test_.agent, after, qPrintable(method));
+    answer(QMessageBox::Yes, true);
+    open();
+    QCOMPARE(test_.agent->waitingInjections(), std::size_t{0});
+}
+
+void RecoveryDialogTest::cancellingDoesNothing() {
+    expectRecovery([](QWidget& dialog) {
+        QTest::mouseClick(
+            child<QDialogButtonBox>(dialog, "buttonBox").button(QDialogButtonBox::Cancel),
+            Qt::LeftButton);
+        QVERIFY(!dialog.isVisible());
+    });
+    open();
+    compareCalls(kCount);
+}
+
+void RecoveryDialogTest::nothingOpensOnAFault_data() {
+    QTest::addColumn<QString>("method");
+    QTest::newRow("manager") << q("getSystemActivityManager");
+    QTest::newRow("list") << q("getOrphanedbackupSets");
+}
+
+void RecoveryDialogTest::nothingOpensOnAFault() {
+    QFETCH(QString, method);
+    failAfter(*test_.agent, 0, qPrintable(method));
+    modals().expectErrorBox(q("Configuration Error"), q("Out of order."));
+    open();
+}
+
+QTEST_MAIN(RecoveryDialogTest)
+#include "recovery_dialog_test.moc"
