@@ -8,6 +8,11 @@
 #include "app/backup_set_view_item.h"
 #include "app/open_backup_set.h"
 #include "app/simple_gui_main_window.h"
+#include "config/ad_account_dlg.h"
+#include "config/admin_flow.h"
+#include "config/init_clnt_cfg_dlg.h"
+#include "config/recovery_dlg.h"
+#include "config/register_dlg.h"
 #include "config/tfa_users_viewer.h"
 #include "session/process_values.h"
 #include "ui/branding_resources.h"
@@ -35,15 +40,38 @@ void SimpleGUIMainWindow::on_action_About_triggered() {
     });
 }
 
-void SimpleGUIMainWindow::on_actionRegister_triggered() {}
+void SimpleGUIMainWindow::on_actionRegister_triggered() {
+    ui::remoteAction(*this, tr("Configuration Error"), ui::Cursor::arrow, [this] {
+        RegisterDlg dialog(this);
+        dialog.exec();
+    });
+}
 
-void SimpleGUIMainWindow::on_action_Recovery_triggered() {}
+void SimpleGUIMainWindow::on_action_Recovery_triggered() {
+    ui::remoteAction(*this, tr("Configuration Error"), ui::Cursor::arrow, [this] {
+        RecoveryDlg dialog(this);
+        dialog.exec();
+    });
+}
 
-void SimpleGUIMainWindow::on_actionRegistration_Info_triggered() {}
+void SimpleGUIMainWindow::on_actionRegistration_Info_triggered() {
+    ui::remoteAction(*this, tr("Configuration Error"), ui::Cursor::arrow, [this] {
+        InitClntCfgDlg dialog(false, this);
+        dialog.exec();
+    });
+}
 
-void SimpleGUIMainWindow::on_actionLDAP_Account_triggered() {}
+void SimpleGUIMainWindow::on_actionLDAP_Account_triggered() {
+    ui::remoteAction(*this, tr("LDAP User Validation Error"), ui::Cursor::arrow, [this] {
+        ADAccountDlg dialog(this);
+        dialog.exec();
+    });
+}
 
-void SimpleGUIMainWindow::on_actionAdmin_triggered() {}
+void SimpleGUIMainWindow::on_actionAdmin_triggered() {
+    ui::remoteAction(*this, tr("Configuration Error"), ui::Cursor::arrow,
+                     [this] { config::editAdminTimes(*this); });
+}
 
 void SimpleGUIMainWindow::on_actionTFASettings_triggered() {
     ui::remoteAction(*this, tr("2FA Settings Error"), ui::Cursor::arrow, [this] {

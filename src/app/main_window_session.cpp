@@ -8,6 +8,7 @@
 #include "app/initial_configuration.h"
 #include "app/login_check.h"
 #include "app/simple_gui_main_window.h"
+#include "config/init_clnt_cfg_dlg.h"
 #include "session/connection.h"
 #include "session/integrated_logon.h"
 #include "session/required.h"
@@ -75,22 +76,22 @@ void SimpleGUIMainWindow::OnQuit() {
 void SimpleGUIMainWindow::checkInitialConfiguration() {
     if (!session::connectedToAgent())
         return;
-    bool needed = false;
-    const bool asked =
-        ui::remoteAction(*this, tr("Configuration Error"), ui::Cursor::arrow, [&needed] {
-            const auto connection = session::getConnection();
-            const auto agent = connection->getTarnClientInfo();
-            const auto manager = session::required(connection->getConfigurationManager());
-            const auto customer = session::required(manager->getUserInfoConfiguration());
-            needed = app::needsInitialConfiguration(agent, customer->getUserInfo());
+    const bool known =
+        ui::remoteAction(*this, tr("Configuration Error"), ui::Cursor::arrow, [this] {
+            if (app::asksForInitialConfiguration(*session::getConnection()))
+                openInitialConfiguration();
         });
-    if (!asked)
+    if (!known)
         OnDisconnect();
-    else if (needed)
-        openInitialConfiguration();
 }
 
-void SimpleGUIMainWindow::openInitialConfiguration() {}
+void SimpleGUIMainWindow::openInitialConfiguration() {
+    const int result = InitClntCfgDlg(true, this).exec();
+    if (result == InitClntCfgDlg::cancelled)
+        OnDisconnect();
+    else if (result == InitClntCfgDlg::registered)
+        startDailyAdmin();
+}
 
 void SimpleGUIMainWindow::offerNewBackupSet() {
     if (session::connectedToAgent() && setRows_.rowCount() == 0 && !session::g_isCentrallyManaged)

@@ -43,3 +43,8 @@ TEST(InitialConfiguration, IsNeededWithoutTheIndustry) {
     customer.industry_code = IndustryCode(9);
     EXPECT_TRUE(needsInitialConfiguration({}, customer));
 }
+
+TEST(InitialConfiguration, IsNotNeededWhereNothingIsKeptAboutCustomers) {
+    EXPECT_FALSE(needsInitialConfiguration({{"InitialClient", "No"}}, std::nullopt));
+    EXPECT_TRUE(needsInitialConfiguration({{"InitialClient", "Yes"}}, std::nullopt));
+}
