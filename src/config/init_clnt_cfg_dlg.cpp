@@ -95,6 +95,8 @@ void InitClntCfgDlg::read() {
 
 void InitClntCfgDlg::showRegistration(hessiancln::tarnc_reg_info& info) {
     ui_->txtFieldCustomer->setText(session::fromWire(info.customer_name));
+    // A long name is seen from its beginning.
+    ui_->txtFieldCustomer->setCursorPosition(0);
     ui_->txtFieldAccountNum->setText(session::fromWire(info.account_num));
     ui_->txtFieldClientNum->setText(session::fromWire(info.client_num));
     setAddresses(info.tarnsys_ip_addr);
