@@ -308,6 +308,25 @@ backup set using the buttons on the right.</source>
     </message>
 </context>
 <context>
+    <name>CGenerationSelectModel</name>
+    <message>
+        <source>Backup time</source>
+        <translation>Sicherungszeit</translation>
+    </message>
+    <message>
+        <source>File size</source>
+        <translation>Dateigröße</translation>
+    </message>
+    <message>
+        <source>Modification time</source>
+        <translation>Änderungszeit</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>Leer</translation>
+    </message>
+</context>
+<context>
     <name>CSSHAccessType</name>
     <message>
         <source>Select SSH Access Type</source>
@@ -473,6 +492,90 @@ backup set using the buttons on the right.</source>
     <message>
         <source>User names cannot contain these characters: \/&quot;[]:|&lt;&gt;+=;,?*@ and must be less than 20 characters</source>
         <translation>Benutzernamen dürfen diese Zeichen nicht enthalten: \/&quot;[]:|&lt;&gt;+=;,?*@ und müssen kürzer als 20 Zeichen sein</translation>
+    </message>
+</context>
+<context>
+    <name>DeleteSelectPage</name>
+    <message>
+        <source>Delete Items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select Items</source>
+        <translation type="unfinished">Elemente wählen</translation>
+    </message>
+    <message>
+        <source>Select the files and/or directories to delete from the backup set storage</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Items to Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Directories</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation type="unfinished">Dateien</translation>
+    </message>
+    <message>
+        <source>File F&amp;ilter:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fil&amp;ter:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Backed up on/&amp;after:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Backed up on or after</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only files &amp;removed since:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only files removed since</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Backed up on/&amp;before:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Backed up on or before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do not delete the &amp;last:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Generations that are not deleted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> generation(s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Remove backup set?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You have selected all data to be deleted.
+Would you like to remove the backup set?</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -665,7 +768,7 @@ backup set using the buttons on the right.</source>
     </message>
     <message>
         <source>Tarn-System Operation Port #</source>
-        <translation>Betriebsport des Tarn-Systems</translation>
+        <translation>Port des Tarn-Systems</translation>
     </message>
     <message>
         <source>Tarn-System Info</source>
@@ -693,7 +796,7 @@ backup set using the buttons on the right.</source>
     </message>
     <message>
         <source>Encryption Keys</source>
-        <translation>Verschlüsselungsschlüssel</translation>
+        <translation>Schlüssel für die Verschlüsselung</translation>
     </message>
     <message>
         <source>Private Key</source>
@@ -761,7 +864,7 @@ backup set using the buttons on the right.</source>
     </message>
     <message>
         <source>&lt;font color=#FF0000&gt;IF THESE ENCRYPTION KEYS ARE LOST, NOBODY CAN EVER RESTORE YOUR DATA!&lt;/font&gt;</source>
-        <translation>&lt;font color=#FF0000&gt;WENN DIESE SCHLÜSSEL VERLOREN GEHEN, KANN NIEMAND IHRE DATEN JE WIEDERHERSTELLEN!&lt;/font&gt;</translation>
+        <translation>&lt;font color=#FF0000&gt;OHNE DIESE SCHLÜSSEL KANN NIEMAND IHRE DATEN JE WIEDERHERSTELLEN!&lt;/font&gt;</translation>
     </message>
     <message>
         <source>User Info</source>
@@ -2079,6 +2182,25 @@ backup set using the buttons on the right.</source>
     </message>
 </context>
 <context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Ja</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Nein</translation>
+    </message>
+</context>
+<context>
     <name>RecoveryDlg</name>
     <message>
         <source>Recovery</source>
@@ -2442,11 +2564,11 @@ Möchten Sie die Datenbank wirklich wiederherstellen?</translation>
     </message>
     <message>
         <source>Missed schedule will be triggered in</source>
-        <translation>Versäumte Sicherungen werden nachgeholt innerhalb von</translation>
+        <translation>Versäumte Sicherungen werden nachgeholt nach</translation>
     </message>
     <message>
         <source>Hours until a missed schedule is triggered</source>
-        <translation>Stunden, innerhalb derer eine versäumte Sicherung nachgeholt wird</translation>
+        <translation>Stunden bis eine versäumte Sicherung nachgeholt wird</translation>
     </message>
 </context>
 <context>
@@ -2604,7 +2726,7 @@ Bitte wählen Sie einen anderen Namen.</translation>
     </message>
     <message>
         <source>&amp;Use local storage as a transmission cache if Tarn-System connection is lost</source>
-        <translation>Lokalen Speicher als Ü&amp;bertragungspuffer nutzen, wenn das Tarn-System nicht erreichbar ist</translation>
+        <translation>Lokalen Speicher als &amp;Puffer nutzen, wenn das Tarn-System nicht erreichbar ist</translation>
     </message>
     <message>
         <source>NOTE: THIS FOLDER CANNOT BE SELECTED FOR BACKUP.</source>
@@ -2976,6 +3098,14 @@ Klicken Sie hier, um diesen Hinweis nicht mehr zu sehen.</translation>
     <message>
         <source>Schedule Wizard</source>
         <translation>Zeitplan-Assistent</translation>
+    </message>
+    <message>
+        <source>LDAP User Validation Error</source>
+        <translation>Fehler beim Prüfen des LDAP-Benutzers</translation>
+    </message>
+    <message>
+        <source>Delete from backup set</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
