@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "simulator/remote/backup_set_credentials.h"
+#include "simulator/remote/backup_set_data_view.h"
 #include "simulator/remote/backup_set_item.h"
 #include "simulator/remote/backup_start_parameters.h"
 #include "simulator/remote/data_source_browser.h"
@@ -27,6 +28,7 @@ BackupSet::BackupSet(std::shared_ptr<Session> opened, World& world, World::Set s
     offerLocalStorage();
     offerPlans();
     offerActivities();
+    offerViews();
     if (set_->ofWindows) {
         implements("Win32FS_BackupSet");
         on("setUseVSS", [this](bool value) { set_->useVss = value; });
@@ -103,6 +105,25 @@ void BackupSet::offerActivities() {
     on("start_sync", [this](bool) {
         const auto id = world_.start(world_.synchronisationOf(set_, session()->user));
         return std::make_shared<GenericActivity>(session(), world_, id);
+    });
+}
+
+void BackupSet::offerViews() {
+    on("prepare_restore", [this](std::int32_t from, std::int32_t to, std::int32_t removedBefore) {
+        storageOf(*set_, seconds(world_.now()));
+        StoredFilter filter{from, to};
+        filter.removedBefore = removedBefore;
+        return std::make_shared<BackupSetRestoreView>(session(), world_, set_, filter);
+    });
+    on("prepare_delete", [this](std::int32_t from, std::int32_t to, std::int32_t removedSince,
+                                std::int32_t keepLast, std::int32_t mode) {
+        if (mode != 0)
+            throw Refusal("There is no way " + std::to_string(mode) + " to delete.");
+        storageOf(*set_, seconds(world_.now()));
+        StoredFilter filter{from, to};
+        filter.removedSince = removedSince;
+        filter.keepLast = keepLast;
+        return std::make_shared<BackupSetDeleteView>(session(), world_, set_, filter);
     });
 }
 

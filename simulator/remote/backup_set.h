@@ -31,6 +31,7 @@ private:
     void offerLocalStorage();
     void offerPlans();
     void offerActivities();
+    void offerViews();
 
     hessiancln::backup_set_status status() const;
     hessiancln::backup_set_overview_info overview() const;

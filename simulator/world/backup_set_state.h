@@ -3,11 +3,13 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "api/backup_set_records.h"
 #include "simulator/world/credentials_state.h"
+#include "simulator/world/stored_data.h"
 
 namespace simulator {
 
@@ -44,6 +46,7 @@ struct BackupSetState {
     std::string source;
     bool ofWindows = true;
     CredentialsState credentials;
+    std::shared_ptr<StoredData> stored; ///< null until somebody asks for it
 };
 
 } // namespace simulator

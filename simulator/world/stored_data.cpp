@@ -1,0 +1,181 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "simulator/world/stored_data.h"
+
+#include <algorithm>
+#include <array>
+#include <functional>
+#include <utility>
+
+namespace simulator {
+namespace {
+
+using Type = hessiancln::SelectableItemType;
+
+constexpr std::int32_t secondsADay = 86'400;
+
+StoredNode& childOf(StoredNode& parent, std::string_view name, Type type) {
+    for (const auto& child : parent.children)
+        if (child->name == name)
+            return *child;
+    auto child = std::make_shared<StoredNode>();
+    child->name = name;
+    child->type = type;
+    return *parent.children.emplace_back(std::move(child));
+}
+
+/// Visits the files of a view, in the order of the storage.
+void eachFile(StoredNode& top, const std::function<void(StoredNode&)>& visit) {
+    std::vector<StoredNode*> waiting{&top};
+    while (!waiting.empty()) {
+        StoredNode& node = *waiting.back();
+        waiting.pop_back();
+        if (node.isFile)
+            visit(node);
+        for (auto child = node.children.rbegin(); child != node.children.rend(); ++child)
+            waiting.push_back(child->get());
+    }
+}
+
+void prune(StoredNode& folder) {
+    std::erase_if(folder.children, [](const StoredNode::Pointer& child) {
+        if (child->isFile)
+            return child->generations.empty();
+        prune(*child);
+        return child->children.empty() && child->denied.empty();
+    });
+}
+
+bool among(const std::vector<StoredGeneration>& generations, std::int32_t time) {
+    return std::any_of(generations.begin(), generations.end(),
+                       [time](const StoredGeneration& one) { return one.backup_time == time; });
+}
+
+} // namespace
+
+std::vector<StoredGeneration> StoredFilter::generationsOf(const StoredNode& file) const {
+    if (removedSince != 0 && (file.removed == 0 || file.removed < removedSince))
+        return {};
+    if (removedBefore != 0 && file.removed != 0 && file.removed <= removedBefore)
+        return {};
+    std::vector<StoredGeneration> shown;
+    const auto kept = static_cast<std::size_t>(std::max(keepLast, 0));
+    for (std::size_t i = 0; i + kept < file.generations.size(); ++i) {
+        const std::int32_t time = file.generations[i].backup_time;
+        if (time >= from && (to == 0 || time <= to))
+            shown.push_back(file.generations[i]);
+    }
+    return shown;
+}
+
+bool StoredFilter::shows(const StoredNode& node) const {
+    if (node.isFile)
+        return !generationsOf(node).empty();
+    return !node.denied.empty() ||
+           std::any_of(node.children.begin(), node.children.end(),
+                       [this](const StoredNode::Pointer& child) { return shows(*child); });
+}
+
+StoredNode& StoredData::addFolder(std::string_view path) {
+    StoredNode* node = &root_;
+    Type type = Type::Drive;
+    for (std::size_t begin = 0; begin <= path.size();) {
+        const std::size_t end = std::min(path.find('\\', begin), path.size());
+        node = &childOf(*node, path.substr(begin, end - begin), type);
+        type = Type::Folder;
+        begin = end + 1;
+    }
+    return *node;
+}
+
+StoredNode& StoredData::addFile(std::string_view path, std::vector<StoredGeneration> generations) {
+    const std::size_t end = path.rfind('\\');
+    StoredNode& file = childOf(addFolder(path.substr(0, end)), path.substr(end + 1), Type::File);
+    file.isFile = true;
+    file.generations = std::move(generations);
+    return file;
+}
+
+StoredAmount amountOf(const std::vector<StoredNode::Pointer>& nodes, const StoredFilter& filter) {
+    StoredAmount amount;
+    for (const auto& node : nodes)
+        eachFile(*node, [&](const StoredNode& file) {
+            const auto generations = filter.generationsOf(file);
+            amount.files += generations.empty() ? 0 : 1;
+            for (const auto& one : generations)
+                amount.bytes += one.data_size;
+        });
+    return amount;
+}
+
+void erase(StoredData& data, const std::vector<StoredNode::Pointer>& nodes,
+           const StoredFilter& filter) {
+    for (const auto& node : nodes)
+        eachFile(*node, [&](StoredNode& file) {
+            const auto doomed = filter.generationsOf(file);
+            std::erase_if(file.generations, [&](const StoredGeneration& one) {
+                return among(doomed, one.backup_time);
+            });
+        });
+    prune(data.root());
+}
+
+std::vector<std::int32_t> backupsOfTwoYears(std::int32_t now) {
+    std::vector<std::int32_t> times;
+    for (const int daysAgo : {730, 540, 365, 240, 180, 120, 90, 60})
+        times.push_back(now - daysAgo * secondsADay);
+    return times;
+}
+
+namespace {
+
+/// Versions that grow, one for each `step`th backup before `end`.
+std::vector<StoredGeneration> versions(const std::vector<std::int32_t>& backups, std::size_t step,
+                                       std::size_t end, std::int64_t size) {
+    std::vector<StoredGeneration> list;
+    for (std::size_t i = 0; i < std::min(end, backups.size()); i += step) {
+        const std::int64_t data = size + size * static_cast<std::int64_t>(i) / 40;
+        list.push_back({backups[i] - 5'400, backups[i], data, data * 58 / 100});
+    }
+    return list;
+}
+
+void addFiles(StoredData& data, const std::string& folder,
+              const std::vector<std::int32_t>& backups) {
+    const std::size_t all = backups.size();
+    data.addFile(folder + "\\Annual report.odt", versions(backups, 1, all, 284'112));
+    data.addFile(folder + "\\Budget.ods", versions(backups, 3, all, 91'338));
+    data.addFile(folder + "\\empty.lock", versions(backups, 4, all, 0));
+    data.addFile(folder + "\\Größenliste.txt", versions(backups, 2, all, 4'127));
+    data.addFile(folder + "\\Photos\\IMG_0412.jpg", versions(backups, all, all, 3'870'221));
+    data.addFile(folder + "\\Photos\\IMG_0413.jpg", versions(backups, all, all, 4'011'907));
+    data.addFile(folder + "\\Letters\\2025\\Offer.docx", versions(backups, 2, all, 61'440));
+    // Half-way through, somebody tidied up.
+    const std::size_t half = (all + 1) / 2;
+    for (const char* const name : {"\\Draft.odt", "\\Letters\\Old offer.docx"})
+        data.addFile(folder + name, versions(backups, 1, half, 48'200)).removed =
+            backups[half - 1] + secondsADay;
+}
+
+} // namespace
+
+std::shared_ptr<StoredData> inventStorage(const std::vector<std::string>& folders,
+                                          const std::vector<std::int32_t>& backups) {
+    auto data = std::make_shared<StoredData>();
+    if (backups.empty())
+        return data;
+    for (const std::string& folder : folders)
+        addFiles(*data, folder, backups);
+    if (folders.empty())
+        return data;
+    data->addFolder(folders.front() + "\\Locked").denied = "The stored folder can't be read.";
+    if (folders.size() > 1) {
+        StoredNode& group = data->addFolder("Shares");
+        group.isGroup = true;
+        group.type = Type(9);
+        addFiles(*data, "Shares\\Team", backups);
+    }
+    return data;
+}
+
+} // namespace simulator
