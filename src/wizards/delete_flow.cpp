@@ -4,9 +4,12 @@
 
 #include <QCoreApplication>
 #include <QMessageBox>
+#include <QWizard>
 
 #include "api/backup_set.h"
+#include "ui/wizard_frame.h"
 #include "wizards/confirm_by_code.h"
+#include "wizards/delete_select_page.h"
 #include "wizards/set_removal.h"
 
 namespace wizards {
@@ -14,6 +17,7 @@ namespace wizards {
 namespace {
 
 using Activity = boost::shared_ptr<hessiancln::GenericActivity>;
+using Set = boost::shared_ptr<hessiancln::BackupSet>;
 
 struct Texts {
     Q_DECLARE_TR_FUNCTIONS(SimpleGUIMainWindow)
@@ -28,15 +32,29 @@ bool confirmsRemoval(QWidget& parent) {
                                  QMessageBox::No) == QMessageBox::Yes;
 }
 
-} // namespace
-
-std::optional<Activity> deleteFromSet(QWidget& parent,
-                                      const boost::shared_ptr<hessiancln::BackupSet>& set) {
-    if (set->getCurrentStatus().on_line_file_count != 0)
+std::optional<Activity> runWizard(QWidget& parent, const Set& set) {
+    QWizard wizard(&parent);
+    ui::frameWizard(wizard, Texts::tr("Delete from backup set"),
+                    QStringLiteral(":/images/wizard_delete"));
+    auto* page = new DeleteSelectPage(set, &wizard);
+    wizard.addPage(page);
+    ui::allowAnySize(wizard);
+    if (!ui::runWizard(wizard))
         return std::nullopt;
+    return page->finish(parent);
+}
+
+std::optional<Activity> removeEmptySet(QWidget& parent, const Set& set) {
     if (!confirmsRemoval(parent) || !confirmByCode(parent))
         return std::nullopt;
     return removeSet(set);
+}
+
+} // namespace
+
+std::optional<Activity> deleteFromSet(QWidget& parent, const Set& set) {
+    return set->getCurrentStatus().on_line_file_count == 0 ? removeEmptySet(parent, set)
+                                                           : runWizard(parent, set);
 }
 
 } // namespace wizards

@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <vector>
+
+#include <QDateTime>
+
+#include "api/backup_set_records.h"
+
+namespace wizards {
+
+/// From when to when a set was backed up, in local time.
+struct BackupTimeSpan {
+    QDateTime earliest; ///< the first start, or now if that is later
+    QDateTime latest;   ///< the last end
+};
+
+BackupTimeSpan backupTimeSpan(const std::vector<hessiancln::backup_sessions>& sessions,
+                              const QDateTime& now);
+
+/// Seconds since 1970 UTC as the agent takes them. A time that they can't say becomes the nearest
+/// one that they can.
+std::int32_t secondsOf(const QDateTime& time);
+
+} // namespace wizards

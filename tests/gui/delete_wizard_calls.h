@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+#include <vector>
+
+/// What the wizard that deletes says to the agent, about its fourth set. Without the calls of
+/// `Release`, and without the span of the activity log.
+namespace gui {
+
+using Calls = std::vector<std::string>;
+
+/// What the wizard asks until it is seen: the view, its top level, and the first drive's rows.
+inline const Calls kOpened{"ClientConnection.backup_set(4)", "BackupSet.getCurrentStatus()",
+                           "BackupSet.prepare_delete(0, 0, 0, 0, 0)",
+                           "BackupSetDeleteView.getSubItems(-1)",
+                           "BackupSetDeleteView.getSubItems(1)"};
+inline const Calls kRemoved{"BackupSet.getSchedule()",
+                            "BackupSet.setSchedule(null)",
+                            "ClientConnection.getScheduleManager()",
+                            "ScheduleManager.removeSchedule(Schedule(own))",
+                            "BackupSet.getRetentionRule()",
+                            "BackupSet.setRetentionRule(null)",
+                            "ClientConnection.getRetentionRuleManager()",
+                            "RetentionRuleManager.removeRule(RetentionRule(own))",
+                            "ClientConnection.removeBackupSet(BackupSet(4))"};
+inline const Calls kRefreshed{"ClientConnection.getTarnClientInfo()",
+                              "ClientConnection.getTFAManager()",
+                              "TFAManager.is2FAEnabled()",
+                              "ClientConnection.activity_log",
+                              "ClientConnection.running_activities()",
+                              "ClientConnection.backup_sets_info()",
+                              "ClientConnection.backup_set(4)",
+                              "BackupSet.getLastActivityOfType(0)",
+                              "BackupSet.getOverview()"};
+
+inline Calls deleted(const std::string& ids) {
+    return {"BackupSetDeleteView.prepareDelete([" + ids + "])", "DeleteActivityInitiator.start()"};
+}
+
+} // namespace gui

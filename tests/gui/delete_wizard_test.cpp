@@ -1,0 +1,485 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QDateTimeEdit>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QListView>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTableView>
+#include <QTest>
+#include <QTreeView>
+
+#include "resources/pictures.h"
+#include "simulator/world/world.h"
+#include "tests/gui/delete_wizard_calls.h"
+#include "tests/support/gui_wizard.h"
+
+using namespace gui;
+using simulator::Fault;
+using simulator::World;
+using support::callsOf;
+using support::child;
+using support::difference;
+using support::isDialog;
+
+namespace {
+
+constexpr int kRow = 3;
+constexpr std::int32_t kId = 4;
+constexpr std::int32_t kFirstBackup = 1'700'000'000;
+constexpr std::int32_t kLastBackup = 1'760'000'000;
+
+QString q(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+Calls operator+(Calls calls, const Calls& more) {
+    calls.insert(calls.end(), more.begin(), more.end());
+    return calls;
+}
+
+/// Two drives with a few files, and a schedule and a rule that no other set has.
+void store(World& world) {
+    simulator::ScheduleState schedule;
+    schedule.name = "own";
+    simulator::RetentionRuleState rule;
+    rule.name = "own";
+    auto& set = *world.set(kId);
+    set.info.schedule_id = world.schedules.add(schedule)->id;
+    set.info.retention_rule_id = world.retentionRules.add(rule)->id;
+    set.sessions = {{kFirstBackup, kFirstBackup + 60, 5, 500, 1},
+                    {kLastBackup - 60, kLastBackup, 5, 500, 2}};
+    set.stored = std::make_shared<simulator::StoredData>();
+    for (const char* path : {"C:\\docs\\2024\\a.txt", "C:\\docs\\b.txt", "C:\\notes.txt",
+                             "C:\\budget.ods", "D:\\x.bin"})
+        set.stored->addFile(path, {{kFirstBackup, kFirstBackup + 60, 10, 8},
+                                   {kLastBackup - 60, kLastBackup, 20, 16}});
+}
+
+QTreeView& treeOf(QWidget& page) {
+    return child<QTreeView>(page, "treeSelection");
+}
+
+QListView& listOf(QWidget& page) {
+    return child<QListView>(page, "listSelection");
+}
+
+/// The row of a tree at the end of names that are joined by slashes.
+QModelIndex rowAt(QTreeView& tree, const char* path) {
+    QModelIndex index;
+    for (const QString& name : q(path).split(QLatin1Char('/'))) {
+        const QModelIndex parent = index;
+        index = {};
+        for (int row = 0; row < tree.model()->rowCount(parent) && !index.isValid(); ++row)
+            if (tree.model()->index(row, 0, parent).data().toString() == name)
+                index = tree.model()->index(row, 0, parent);
+        if (!index.isValid())
+            qFatal("There is no %s", path);
+    }
+    return index;
+}
+
+void check(QWidget& page, const char* path) {
+    treeOf(page).model()->setData(rowAt(treeOf(page), path), Qt::Checked, Qt::CheckStateRole);
+}
+
+QStringList filesIn(QWidget& page) {
+    const QListView& list = listOf(page);
+    QStringList names;
+    for (int row = 0; row < list.model()->rowCount(list.rootIndex()); ++row)
+        names << list.model()->index(row, 0, list.rootIndex()).data().toString();
+    return names;
+}
+
+void checkAll(QWidget& page) {
+    check(page, "C:");
+    check(page, "D:");
+}
+
+void switchOn(QWidget& page, const char* box) {
+    child<QGroupBox>(page, "groupFilter").setChecked(true);
+    child<QCheckBox>(page, box).setChecked(true);
+}
+
+} // namespace
+
+/// The wizard that deletes from a set, clicked through against an agent, and all that it says to
+/// it.
+class DeleteWizardTest : public QObject {
+    Q_OBJECT
+private slots:
+    void initTestCase() { resources::initPictures(); }
+    void init() {
+        test_.start(simulator::Scenario::Default, [](World& world) { store(world); });
+        test_.driver->sets().selectRow(kRow);
+    }
+    void cleanup() { test_.end(); }
+
+    void theWizardIsFramed();
+    void theFormIsAsItBegins();
+    void finishWaitsForACheckMark();
+    void aSelectionIsDeleted();
+    void aFileIsDeleted();
+    void theCodeComesBeforeTheDeletion();
+    void cancellingTheCodeDeletesNothing();
+    void cancellingTheWizardDeletesNothing();
+    void everythingWithTheRemoval();
+    void everythingWithoutTheRemoval();
+    void cancellingTheCodeAfterYesRemovesNothing();
+    void aFilterNeverOffersTheRemoval();
+    void theLastGenerationsAreAFilter();
+    void datesReachTheAgent();
+    void aChangedFilterKeepsTheTreeAndDropsTheMarks();
+    void theFileFilterIsKept();
+    void aFaultBeforeTheWizard_data();
+    void aFaultBeforeTheWizard();
+    void aFaultOfTheDeletion_data();
+    void aFaultOfTheDeletion();
+    void aFaultOfAFilterLeavesThePage_data();
+    void aFaultOfAFilterLeavesThePage();
+    void aFolderThatFailsIsToldOnce();
+
+private:
+    void protect() {
+        test_.agent->withWorld([](World& world) { world.twoFactor = true; });
+        test_.quiet->letPass = true;
+        test_.driver->beat();
+        test_.quiet->letPass = false;
+    }
+    void expectRemovalQuestion(QMessageBox::StandardButton answer);
+    /// The calls, without the span of the log, which follows the clock, and without the names in
+    /// balloons, which only a window in the background shows.
+    Calls calls() const;
+
+    support::WizardTest test_;
+};
+
+void DeleteWizardTest::expectRemovalQuestion(QMessageBox::StandardButton answer) {
+    test_.modals->expect(q("question"), isDialog<QMessageBox>, [=, this](QWidget& widget) {
+        auto& box = static_cast<QMessageBox&>(widget);
+        QCOMPARE(box.windowTitle(), q("Remove backup set?"));
+        QCOMPARE(box.text(), q("You have selected all data to be deleted.\n"
+                               "Would you like to remove the backup set?"));
+        QCOMPARE(box.standardButtons(), QMessageBox::Yes | QMessageBox::No);
+        QCOMPARE(box.defaultButton(), static_cast<QPushButton*>(box.button(QMessageBox::No)));
+        QCOMPARE(box.parentWidget(), &test_.driver->window());
+        QTest::mouseClick(box.button(answer), Qt::LeftButton);
+    });
+}
+
+Calls DeleteWizardTest::calls() const {
+    Calls calls;
+    for (std::string& call : callsOf(*test_.agent)) {
+        if (call.rfind("ClientConnection.activity_log(", 0) == 0)
+            call.erase(call.find('('));
+        if (call == "BackupSet.getName()")
+            calls.pop_back();
+        else
+            calls.push_back(std::move(call));
+    }
+    return calls;
+}
+
+void DeleteWizardTest::theWizardIsFramed() {
+    test_.modals->expect(q("wizard"), isDialog<QWizard>, [&](QWidget& widget) {
+        auto& wizard = static_cast<QWizard&>(widget);
+        QCOMPARE(wizard.parentWidget(), &test_.driver->window());
+        QCOMPARE(wizard.windowTitle(), q("Delete from backup set"));
+        QVERIFY(!wizard.windowIcon().isNull());
+        QCOMPARE(wizard.pixmap(QWizard::WatermarkPixmap).toImage(),
+                 QPixmap(q(":/images/wizard_delete.png")).toImage());
+        QCOMPARE(wizard.maximumSize(), QSize(65536, 65536));
+        QCOMPARE(wizard.button(QWizard::FinishButton)->text(), q("&Finish"));
+        QCOMPARE(wizard.pageIds().size(), 1);
+        if (const QByteArray folder = qgetenv("TARN_TEST_PICTURES"); !folder.isEmpty())
+            wizard.grab().save(QString::fromLocal8Bit(folder) + q("/delete.png"));
+        wizard.reject();
+    });
+    test_.run("OnDelete");
+    QCOMPARE(difference(calls(), kOpened), QString());
+}
+
+void DeleteWizardTest::theFormIsAsItBegins() {
+    test_.modals->expect(q("wizard"), isDialog<QWizard>, [](QWidget& widget) {
+        QWizardPage& page = *static_cast<QWizard&>(widget).currentPage();
+        QCOMPARE(page.windowTitle(), q("Delete Items"));
+        QCOMPARE(page.title(), q("Select Items"));
+        QCOMPARE(page.subTitle(), q("Select the files and/or directories to delete from the "
+                                    "backup set storage"));
+        QCOMPARE(child<QLineEdit>(page, "editFilter").text(), q("*"));
+        auto& group = child<QGroupBox>(page, "groupFilter");
+        QVERIFY(group.isCheckable() && !group.isChecked());
+        group.setChecked(true);
+        for (const auto& [box, text, value] :
+             {std::tuple("checkFrom", "Backed up on/&after:", "dateFrom"),
+              std::tuple("checkTo", "Backed up on/&before:", "dateTo"),
+              std::tuple("checkRemoved", "Only files &removed since:", "dateRemoved"),
+              std::tuple("checkKeep", "Do not delete the &last:", "spinKeep")}) {
+            QCOMPARE(child<QCheckBox>(page, box).text(), q(text));
+            QVERIFY(!child<QWidget>(page, value).isEnabled());
+            child<QCheckBox>(page, box).setChecked(true);
+            QVERIFY(child<QWidget>(page, value).isEnabled());
+        }
+        for (const char* name : {"dateFrom", "dateTo", "dateRemoved"}) {
+            auto& date = child<QDateTimeEdit>(page, name);
+            QCOMPARE(date.displayFormat(), q("M/d/yy HH:mm"));
+            QVERIFY(date.calendarPopup());
+            QCOMPARE(date.minimumDate(), QDateTime::fromSecsSinceEpoch(kFirstBackup).date());
+            QCOMPARE(date.maximumDate(), QDateTime::fromSecsSinceEpoch(kLastBackup).date());
+        }
+        QCOMPARE(child<QDateTimeEdit>(page, "dateFrom").dateTime().toSecsSinceEpoch(),
+                 kFirstBackup);
+        QCOMPARE(child<QDateTimeEdit>(page, "dateRemoved").dateTime().toSecsSinceEpoch(),
+                 kLastBackup);
+        auto& keep = child<QSpinBox>(page, "spinKeep");
+        QCOMPARE(keep.minimum(), 1);
+        QCOMPARE(keep.maximum(), 99);
+        QCOMPARE(keep.suffix(), q(" generation(s)"));
+        widget.close();
+    });
+    test_.run("OnDelete");
+}
+
+void DeleteWizardTest::finishWaitsForACheckMark() {
+    test_.modals->expect(q("wizard"), isDialog<QWizard>, [](QWidget& widget) {
+        auto& wizard = static_cast<QWizard&>(widget);
+        QVERIFY(!wizard.button(QWizard::FinishButton)->isEnabled());
+        check(widget, "D:");
+        QVERIFY(wizard.button(QWizard::FinishButton)->isEnabled());
+        wizard.reject();
+    });
+    test_.run("OnDelete");
+}
+
+void DeleteWizardTest::aSelectionIsDeleted() {
+    test_.expectWizard([](QWizardPage& page) { check(page, "C:/docs"); });
+    test_.run("OnDelete");
+    QCOMPARE(difference(calls(), kOpened + deleted("3") + kRefreshed), QString());
+}
+
+void DeleteWizardTest::aFileIsDeleted() {
+    test_.expectWizard([](QWizardPage& page) {
+        QListView& list = listOf(page);
+        QCOMPARE(filesIn(page), (QStringList{q("budget.ods"), q("notes.txt")}));
+        list.model()->setData(list.model()->index(0, 0, list.rootIndex()), Qt::Checked,
+                              Qt::CheckStateRole);
+    });
+    test_.run("OnDelete");
+    QCOMPARE(difference(calls(), kOpened + deleted("5") + kRefreshed), QString());
+}
+
+void DeleteWizardTest::theCodeComesBeforeTheDeletion() {
+    protect();
+    test_.expectWizard([](QWizardPage& page) { check(page, "D:"); });
+    test_.expectCode(true);
+    test_.run("OnDelete");
+    QCOMPARE(difference(calls(), kOpened + support::callsForCode() + deleted("2") + kRefreshed),
+             QString());
+}
+
+void DeleteWizardTest::cancellingTheCodeDeletesNothing() {
+    protect();
+    test_.expectWizard([](QWizardPage& page) { check(page, "D:"); });
+    test_.expectCode(false);
+    test_.run("OnDelete");
+    const Calls asked{"ClientConnection.getTFAManager()", "TFAManager.requestCode(2)"};
+    QCOMPARE(difference(calls(), kOpened + asked + kRefreshed), QString());
+}
+
+void DeleteWizardTest::cancellingTheWizardDeletesNothing() {
+    test_.modals->expect(q("wizard"), isDialog<QWizard>, [](QWidget& wizard) {
+        checkAll(wizard);
+        support::cancelWizard(wizard, 0);
+    });
+    test_.run("OnDelete");
+    QCOMPARE(difference(calls(), kOpened), QString());
+}
+
+void DeleteWizardTest::everythingWithTheRemoval() {
+    test_.expectWizard(checkAll);
+    expectRemovalQuestion(QMessageBox::Yes);
+    test_.run("OnDelete");
+    QCOMPARE(difference(calls(), kOpened + kRemoved + kRefreshed), QString());
+}
+
+void DeleteWizardTest::everythingWithoutTheRemoval() {
+    test_.expectWizard(checkAll);
+    expectRemovalQuestion(QMessageBox::No);
+    test_.run("OnDelete");
+    QCOMPARE(difference(calls(), kOpened + deleted("1, 2") + kRefreshed), QString());
+}
+
+void DeleteWizardTest::cancellingTheCodeAfterYesRemovesNothing() {
+    protect();
+    test_.expectWizard(checkAll);
+    expectRemovalQuestion(QMessageBox::Yes);
+    test_.expectCode(false);
+    test_.run("OnDelete");
+    const Calls asked{"ClientConnection.getTFAManager()", "TFAManager.requestCode(2)"};
+    QCOMPARE(difference(calls(), kOpened + asked + kRefreshed), QString());
+}
+
+void DeleteWizardTest::aFilterNeverOffersTheRemoval() {
+    test_.expectWizard([](QWizardPage& page) {
+        switchOn(page, "checkTo");
+        auto& to = child<QDateTimeEdit>(page, "dateTo");
+        to.setDateTime(to.dateTime().addSecs(-3600));
+        checkAll(page);
+    });
+    test_.run("OnDelete");
+    const Calls all = calls();
+    QCOMPARE(std::count(all.begin(), all.end(), deleted("1, 2").front()), 1);
+    QCOMPARE(std::count(all.begin(), all.end(), kRemoved.back()), 0);
+}
+
+void DeleteWizardTest::theLastGenerationsAreAFilter() {
+    test_.expectWizard([this](QWizardPage& page) {
+        child<QGroupBox>(page, "groupFilter").setChecked(true);
+        test_.agent->clearCallLog();
+        child<QCheckBox>(page, "checkKeep").setChecked(true);
+        checkAll(page);
+    });
+    test_.run("OnDelete");
+    QCOMPARE(difference(calls(), Calls{"BackupSet.prepare_delete(0, 0, 0, 1, 0)",
+                                       "BackupSetDeleteView.getSubItems(-1)",
+                                       "BackupSetDeleteView.getSubItems(1)"} +
+                                     deleted("1, 2") + kRefreshed),
+             QString());
+}
+
+void DeleteWizardTest::datesReachTheAgent() {
+    test_.modals->expect(q("wizard"), isDialog<QWizard>, [this](QWidget& page) {
+        test_.agent->clearCallLog();
+        child<QGroupBox>(page, "groupFilter").setChecked(true);
+        child<QCheckBox>(page, "checkFrom").setChecked(true);
+        child<QCheckBox>(page, "checkTo").setChecked(true);
+        child<QCheckBox>(page, "checkFrom").setChecked(false);
+        child<QCheckBox>(page, "checkRemoved").setChecked(true);
+        child<QGroupBox>(page, "groupFilter").setChecked(false);
+        child<QGroupBox>(page, "groupFilter").setChecked(true);
+        Calls asked;
+        for (const std::string& call : callsOf(*test_.agent))
+            if (call.rfind("BackupSet.", 0) == 0)
+                asked.push_back(call);
+        QCOMPARE(difference(asked,
+                            {"BackupSet.backup_times()", "BackupSet.prepare_delete(0, 0, 0, 0, 0)",
+                             "BackupSet.prepare_delete(1700000000, 0, 0, 0, 0)",
+                             "BackupSet.prepare_delete(1700000000, 1760000000, 0, 0, 0)",
+                             "BackupSet.prepare_delete(0, 1760000000, 0, 0, 0)",
+                             "BackupSet.prepare_delete(0, 1760000000, 1760000000, 0, 0)",
+                             "BackupSet.prepare_delete(0, 0, 0, 0, 0)",
+                             "BackupSet.prepare_delete(0, 1760000000, 1760000000, 0, 0)"}),
+                 QString());
+        page.close();
+    });
+    test_.run("OnDelete");
+}
+
+void DeleteWizardTest::aChangedFilterKeepsTheTreeAndDropsTheMarks() {
+    test_.modals->expect(q("wizard"), isDialog<QWizard>, [](QWidget& widget) {
+        QTreeView& tree = treeOf(widget);
+        tree.expand(rowAt(tree, "C:"));
+        tree.expand(rowAt(tree, "C:/docs"));
+        tree.setCurrentIndex(rowAt(tree, "C:/docs"));
+        check(widget, "C:");
+        switchOn(widget, "checkKeep");
+        child<QCheckBox>(widget, "checkKeep").setChecked(false);
+        QVERIFY(tree.isExpanded(rowAt(tree, "C:")));
+        QVERIFY(tree.isExpanded(rowAt(tree, "C:/docs")));
+        QVERIFY(tree.selectionModel()->isSelected(rowAt(tree, "C:/docs")));
+        QCOMPARE(tree.selectionModel()->selectedRows().size(), 1);
+        QCOMPARE(filesIn(widget), QStringList{q("b.txt")});
+        QCOMPARE(rowAt(tree, "C:").data(Qt::CheckStateRole).toInt(), 0);
+        auto& wizard = static_cast<QWizard&>(widget);
+        QVERIFY(!wizard.button(QWizard::FinishButton)->isEnabled());
+        wizard.reject();
+    });
+    test_.run("OnDelete");
+}
+
+void DeleteWizardTest::theFileFilterIsKept() {
+    test_.modals->expect(q("wizard"), isDialog<QWizard>, [](QWidget& widget) {
+        child<QLineEdit>(widget, "editFilter").setText(q("*.ods"));
+        QCOMPARE(filesIn(widget), QStringList{q("budget.ods")});
+        switchOn(widget, "checkKeep");
+        QCOMPARE(filesIn(widget), QStringList{q("budget.ods")});
+        child<QLineEdit>(widget, "editFilter").clear();
+        QCOMPARE(filesIn(widget), (QStringList{q("budget.ods"), q("notes.txt")}));
+        widget.close();
+    });
+    test_.run("OnDelete");
+}
+
+void DeleteWizardTest::aFaultBeforeTheWizard_data() {
+    QTest::addColumn<QString>("method");
+    for (const char* method : {"backup_set", "getCurrentStatus", "prepare_delete", "getSubItems"})
+        QTest::newRow(method) << q(method);
+}
+
+void DeleteWizardTest::aFaultBeforeTheWizard() {
+    QFETCH(QString, method);
+    test_.agent->inject(method.toStdString(), Fault{"Außer Betrieb."});
+    test_.modals->expectErrorBox(q("Error"), q("Außer Betrieb."));
+    test_.run("OnDelete");
+    QCOMPARE(support::methodsOf(*test_.agent).back(), method.toStdString());
+}
+
+void DeleteWizardTest::aFaultOfTheDeletion_data() {
+    QTest::addColumn<QString>("method");
+    for (const char* method : {"prepareDelete", "DeleteActivityInitiator.start"})
+        QTest::newRow(method) << q(method);
+}
+
+void DeleteWizardTest::aFaultOfTheDeletion() {
+    QFETCH(QString, method);
+    test_.agent->inject(method.toStdString(), Fault{"Außer Betrieb."});
+    test_.expectWizard([](QWizardPage& page) { check(page, "D:"); });
+    test_.modals->expectErrorBox(q("Error"), q("Außer Betrieb."));
+    test_.run("OnDelete");
+    QCOMPARE(support::methodsOf(*test_.agent).back(),
+             method.section(QLatin1Char('.'), -1).toStdString());
+}
+
+void DeleteWizardTest::aFaultOfAFilterLeavesThePage_data() {
+    QTest::addColumn<QString>("method");
+    for (const char* method : {"backup_times", "prepare_delete", "getSubItems"})
+        QTest::newRow(method) << q(method);
+}
+
+void DeleteWizardTest::aFaultOfAFilterLeavesThePage() {
+    QFETCH(QString, method);
+    test_.modals->expect(q("wizard"), isDialog<QWizard>, [&](QWidget& widget) {
+        check(widget, "C:/docs");
+        test_.agent->inject(method.toStdString(), Fault{"Außer Betrieb."});
+        test_.modals->expectErrorBox(q("Error"), q("Außer Betrieb."));
+        child<QGroupBox>(widget, "groupFilter").setChecked(true);
+        QCOMPARE(rowAt(treeOf(widget), "C:/docs").data(Qt::CheckStateRole).toInt(), 2);
+        QVERIFY(static_cast<QWizard&>(widget).button(QWizard::FinishButton)->isEnabled());
+        QVERIFY(!QGuiApplication::overrideCursor());
+        widget.close();
+    });
+    test_.run("OnDelete");
+}
+
+void DeleteWizardTest::aFolderThatFailsIsToldOnce() {
+    test_.agent->withWorld(
+        [](World& world) { world.set(kId)->stored->addFolder("C:\\locked").denied = "Keep out."; });
+    test_.modals->expect(q("wizard"), isDialog<QWizard>, [&](QWidget& widget) {
+        QTreeView& tree = treeOf(widget);
+        tree.expand(rowAt(tree, "C:"));
+        test_.modals->expectErrorBox(q("Error"), q("Keep out."));
+        tree.setCurrentIndex(rowAt(tree, "C:/locked"));
+        QTRY_VERIFY(!tree.model()->hasChildren(rowAt(tree, "C:/locked")));
+        QCOMPARE(filesIn(widget), QStringList());
+        QCoreApplication::processEvents();
+        widget.close();
+    });
+    test_.run("OnDelete");
+}
+
+QTEST_MAIN(DeleteWizardTest)
+#include "delete_wizard_test.moc"
