@@ -498,71 +498,71 @@ backup set using the buttons on the right.</source>
     <name>DeleteSelectPage</name>
     <message>
         <source>Delete Items</source>
-        <translation type="unfinished"></translation>
+        <translation>Elemente löschen</translation>
     </message>
     <message>
         <source>Select Items</source>
-        <translation type="unfinished">Elemente wählen</translation>
+        <translation>Elemente wählen</translation>
     </message>
     <message>
         <source>Select the files and/or directories to delete from the backup set storage</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie die Dateien und Ordner, die aus dem Speicher des Sicherungssatzes gelöscht werden</translation>
     </message>
     <message>
         <source>Items to Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu löschende Elemente</translation>
     </message>
     <message>
         <source>Directories</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished">Dateien</translation>
+        <translation>Dateien</translation>
     </message>
     <message>
         <source>File F&amp;ilter:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dateifilter:</translation>
     </message>
     <message>
         <source>Fil&amp;ter:</source>
-        <translation type="unfinished"></translation>
+        <translation>Fil&amp;ter:</translation>
     </message>
     <message>
         <source>Backed up on/&amp;after:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ges&amp;ichert ab:</translation>
     </message>
     <message>
         <source>Backed up on or after</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesichert ab</translation>
     </message>
     <message>
         <source>Only files &amp;removed since:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur entfe&amp;rnt seit:</translation>
     </message>
     <message>
         <source>Only files removed since</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Dateien, die entfernt wurden seit</translation>
     </message>
     <message>
         <source>Backed up on/&amp;before:</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesichert &amp;bis:</translation>
     </message>
     <message>
         <source>Backed up on or before</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesichert bis</translation>
     </message>
     <message>
         <source>Do not delete the &amp;last:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht &amp;löschen die letzten:</translation>
     </message>
     <message>
         <source>Generations that are not deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Generationen, die nicht gelöscht werden</translation>
     </message>
     <message>
         <source> generation(s)</source>
-        <translation type="unfinished"></translation>
+        <translation> Generation(en)</translation>
     </message>
     <message>
         <source>Error</source>
@@ -570,12 +570,13 @@ backup set using the buttons on the right.</source>
     </message>
     <message>
         <source>Remove backup set?</source>
-        <translation type="unfinished"></translation>
+        <translation>Sicherungssatz entfernen?</translation>
     </message>
     <message>
         <source>You have selected all data to be deleted.
 Would you like to remove the backup set?</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie haben alle Daten zum Löschen ausgewählt.
+Möchten Sie den Sicherungssatz entfernen?</translation>
     </message>
 </context>
 <context>
@@ -3105,7 +3106,7 @@ Klicken Sie hier, um diesen Hinweis nicht mehr zu sehen.</translation>
     </message>
     <message>
         <source>Delete from backup set</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus Sicherungssatz löschen</translation>
     </message>
 </context>
 <context>
