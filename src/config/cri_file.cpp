@@ -87,13 +87,6 @@ QString keyTypeOfCri(const QString& number) {
     return session::fromWire(name);
 }
 
-QString firstCriFile(const QStringList& names) {
-    for (const QString& name : names)
-        if (name.endsWith(QStringLiteral(".cri"), Qt::CaseInsensitive))
-            return name;
-    return {};
-}
-
 QString homeOfLogin(const QString& user) {
     const bool root = user == QStringLiteral("root");
     return (root ? QStringLiteral("/var/") : QStringLiteral("/Users/")) + user;

@@ -42,9 +42,6 @@ void readCri(QIODevice& file, const std::function<void(const CriEntry&)>& take);
 /// The name of the cipher that the number of such a file stands for: one more than on the wire.
 QString keyTypeOfCri(const QString& number);
 
-/// The first of the names that ends in ".cri", in whatever case; empty if none does.
-QString firstCriFile(const QStringList& names);
-
 /// The home of a user who is logged in, where such files are looked for.
 QString homeOfLogin(const QString& user);
 

@@ -8,6 +8,7 @@
 #include <QMessageBox>
 
 #include "api/client_connection.h"
+#include "config/chosen_file.h"
 #include "config/country_table.h"
 #include "config/cri_file.h"
 #include "config/registration_entries.h"
@@ -128,7 +129,7 @@ QString InitClntCfgDlg::chooseCriFile() {
     dialog.setFileMode(QFileDialog::ExistingFile);
     if (dialog.exec() != QDialog::Accepted)
         return {};
-    return config::firstCriFile(dialog.selectedFiles());
+    return config::firstFileEndingIn(QLatin1String(".cri"), dialog.selectedFiles());
 }
 
 void InitClntCfgDlg::on_btnBrowse_clicked() {

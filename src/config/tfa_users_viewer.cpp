@@ -9,10 +9,12 @@
 #include <QMessageBox>
 
 #include "api/client_connection.h"
+#include "config/chosen_file.h"
 #include "config/tfa_code_dlg.h"
 #include "config/tfa_user_dlg.h"
 #include "config/user_email_csv.h"
 #include "session/connection.h"
+#include "session/required.h"
 #include "ui/branding_resources.h"
 #include "ui/fitting_text_delegate.h"
 #include "ui/remote_action.h"
@@ -93,7 +95,7 @@ void TFAUsersViewer::on_btnImport_clicked() {
     dialog.setFileMode(QFileDialog::ExistingFile);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    QFile file(config::firstCsvFile(dialog.selectedFiles()));
+    QFile file(config::firstFileEndingIn(QLatin1String(".csv"), dialog.selectedFiles()));
     if (file.fileName().isEmpty() || !file.open(QIODevice::ReadOnly | QIODevice::Text))
         return;
     ui::remoteAction(*this, tr("Configuration Error"), ui::Cursor::wait,
@@ -105,7 +107,8 @@ void TFAUsersViewer::on_btnUpdate_clicked() {
     if (code.exec() != QDialog::Accepted)
         return;
     const bool sent = ui::remoteAction(*this, tr("Configuration Error"), ui::Cursor::wait, [this] {
-        session::getConnection()->getTFAManager()->setUserEmails(model_.userEmails());
+        session::required(session::getConnection()->getTFAManager())
+            ->setUserEmails(model_.userEmails());
     });
     if (sent)
         QMessageBox::information(this, tr("Forward to Tarn-System"),

@@ -46,11 +46,4 @@ std::vector<hessiancln::user_email> readUserEmails(QIODevice& file) {
     return rows;
 }
 
-QString firstCsvFile(const QStringList& names) {
-    for (const QString& name : names)
-        if (name.endsWith(QStringLiteral(".csv"), Qt::CaseInsensitive))
-            return name;
-    return {};
-}
-
 } // namespace config

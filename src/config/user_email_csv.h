@@ -22,7 +22,4 @@ std::optional<hessiancln::user_email> userEmailOf(const QString& line);
 /// for reading, as text.
 std::vector<hessiancln::user_email> readUserEmails(QIODevice& file);
 
-/// The first of the names that ends in ".csv", in whatever case; empty if none does.
-QString firstCsvFile(const QStringList& names);
-
 } // namespace config

@@ -6,6 +6,7 @@
 #include "api/client_configuration_records.h"
 #include "config/ad_account.h"
 #include "config/admin_times.h"
+#include "config/chosen_file.h"
 #include "config/system_address_list.h"
 #include "config/wipe.h"
 
@@ -132,6 +133,18 @@ TEST(SystemAddresses, AreTakenOnceAndWithoutBlanks) {
     EXPECT_EQ(newSystemAddress(q(""), {}), std::nullopt);
     EXPECT_EQ(newSystemAddress(q(" a.b"), {q("c"), q("a.b")}), std::nullopt);
     EXPECT_EQ(newSystemAddress(q("A.b"), {q("a.b")}), q("A.b"));
+}
+
+TEST(ChosenFile, EndsInItsSuffixInAnyCase) {
+    const auto first = [](const QStringList& names) {
+        return config::firstFileEndingIn(QLatin1String(".csv"), names);
+    };
+    const QString lower = q("/a/users.csv");
+    const QString upper = q("/a/USERS.CSV");
+    EXPECT_EQ(first({lower}), lower);
+    EXPECT_EQ(first({q("/a/users.txt"), upper, lower}), upper);
+    EXPECT_EQ(first({}), QString());
+    EXPECT_EQ(first({q("/a.csv/users"), q("/a/users.csv.bak"), q("csv")}), QString());
 }
 
 TEST(Wipe, OverwritesBeforeItLetsGo) {

@@ -158,15 +158,6 @@ TEST(CriKeyType, OfNoNumberIsNone) {
         EXPECT_EQ(keyType(number), QStringLiteral("NONE")) << number;
 }
 
-TEST(CriChoice, IsTheFirstFileOfTheKind) {
-    using config::firstCriFile;
-    EXPECT_EQ(
-        firstCriFile({QStringLiteral("a.txt"), QStringLiteral("/b.CRI"), QStringLiteral("c.cri")}),
-        QStringLiteral("/b.CRI"));
-    EXPECT_EQ(firstCriFile({QStringLiteral("a.cri.txt"), QStringLiteral("cri")}), QString());
-    EXPECT_EQ(firstCriFile({}), QString());
-}
-
 TEST(CriChoice, BeginsAtTheHomeOfTheUser) {
     EXPECT_EQ(config::homeOfLogin(QStringLiteral("root")), QStringLiteral("/var/root"));
     EXPECT_EQ(config::homeOfLogin(QStringLiteral("anna")), QStringLiteral("/Users/anna"));

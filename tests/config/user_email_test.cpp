@@ -215,18 +215,4 @@ TEST(UserEmailCsv, ReadsAHundredThousandLines) {
     EXPECT_LT(time, kPatience);
 }
 
-// Names of files
-
-TEST(CsvFiles, EndInTheirSuffixInAnyCase) {
-    const auto first = [](const QStringList& names) { return config::firstCsvFile(names); };
-    const QString lower = QStringLiteral("/a/users.csv");
-    const QString upper = QStringLiteral("/a/USERS.CSV");
-    EXPECT_EQ(first({lower}), lower);
-    EXPECT_EQ(first({upper}), upper);
-    EXPECT_EQ(first({QStringLiteral("/a/users.txt"), upper, lower}), upper);
-    EXPECT_EQ(first({}), QString());
-    EXPECT_EQ(first({QStringLiteral("/a.csv/users"), QStringLiteral("/a/users.csv.bak")}),
-              QString());
-}
-
 } // namespace
