@@ -3,6 +3,7 @@
 #include "wizards/retention_task.h"
 
 #include "api/backup_set.h"
+#include "session/required.h"
 
 namespace wizards {
 
@@ -11,7 +12,8 @@ void syncRetentionTask(hessiancln::BackupSet& set) {
     const auto schedule = set.getSchedule();
     if (!schedule)
         return;
-    for (const auto& detail : schedule->getDetails()) {
+    for (const auto& each : schedule->getDetails()) {
+        const auto detail = session::required(each);
         const std::int32_t tasks = detail->getTasks();
         detail->setTasks(hasRule ? tasks | hessiancln::taskRetention
                                  : tasks & ~hessiancln::taskRetention);
