@@ -554,7 +554,7 @@ backup set using the buttons on the right.</source>
     </message>
     <message>
         <source>Do not delete the &amp;last:</source>
-        <translation>Nicht &amp;löschen die letzten:</translation>
+        <translation>Die &amp;letzten behalten:</translation>
     </message>
     <message>
         <source>Generations that are not deleted</source>
