@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <QAccessible>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -40,6 +41,18 @@ inline void type(QWidget& dialog, const char* field, const char* text) {
 
 inline bool isEnabled(QWidget& dialog, const char* name) {
     return support::child<QWidget>(dialog, name).isEnabled();
+}
+
+/// Neither the screen nor what reads it aloud may know what a field holds.
+inline void verifyHidden(QWidget& dialog, const char* name) {
+    auto& field = support::child<QLineEdit>(dialog, name);
+    QCOMPARE(field.echoMode(), QLineEdit::Password);
+    QVERIFY(!field.text().isEmpty());
+    QVERIFY(field.toolTip().isEmpty());
+    QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&field);
+    QVERIFY(told);
+    for (int part = 0; part < QAccessible::UserText; ++part)
+        QVERIFY(!told->text(QAccessible::Text(part)).contains(field.text()));
 }
 
 /// A box with news and an Ok button, which is pressed.

@@ -1,8 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
-#include <QAccessible>
 #include <QCheckBox>
-#include <QFileDialog>
 #include <QListWidget>
 #include <QTemporaryDir>
 
@@ -273,16 +271,8 @@ void InitialConfigurationTest::aChangeOfTypeEmptiesTheKey() {
 
 void InitialConfigurationTest::keysStayHiddenAndGo() {
     expectDialog([](QWidget& dialog) {
-        for (const char* name : kKeyFields) {
-            auto& field = child<QLineEdit>(dialog, name);
-            QCOMPARE(field.echoMode(), QLineEdit::Password);
-            QVERIFY(!field.text().isEmpty());
-            QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&field);
-            QVERIFY(told);
-            for (int part = 0; part < QAccessible::UserText; ++part)
-                QVERIFY(!told->text(QAccessible::Text(part)).contains(field.text()));
-            QVERIFY(field.toolTip().isEmpty());
-        }
+        for (const char* name : kKeyFields)
+            verifyHidden(dialog, name);
         press(dialog, "btnCancel");
         for (const char* name : kKeyFields)
             QCOMPARE(text(dialog, name), QString());
@@ -433,17 +423,7 @@ void InitialConfigurationTest::import(QWidget& dialog, const char* name, const Q
     QFile file(path);
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
     file.close();
-    modals().expect(q("file"), isDialog<QFileDialog>, [path, remove](QWidget& widget) {
-        auto& chooser = static_cast<QFileDialog&>(widget);
-        QCOMPARE(chooser.windowTitle(), q("Please choose CRI file"));
-        QCOMPARE(chooser.nameFilters(), QStringList(q("CRI Files (*.cri)")));
-        QVERIFY(chooser.testOption(QFileDialog::DontUseNativeDialog));
-        QVERIFY(!chooser.windowIcon().isNull());
-        child<QLineEdit>(chooser, "fileNameEdit").setText(path);
-        static_cast<QDialog&>(chooser).accept();
-        if (remove)
-            QVERIFY(QFile::remove(path));
-    });
+    expectCriFile(modals(), path, remove);
     press(dialog, "btnBrowse");
 }
 

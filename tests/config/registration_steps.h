@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include <QFileDialog>
 #include <QListWidget>
 
 #include "tests/config/dialog_steps.h"
@@ -85,6 +86,21 @@ inline void fill(QWidget& dialog) {
 inline Calls sentFilled() {
     return sent("customer_name=\"Ada\", account_num=\"ACC\", client_num=\"ABCDEFGHIJK1\", "
                 "private_key_enc=6, account_key_enc=1");
+}
+
+/// The dialog for a file, in which this one is chosen. It may be gone when it is opened.
+inline void expectCriFile(support::ModalDriver& modals, const QString& path, bool remove) {
+    modals.expect(q("file"), support::isDialog<QFileDialog>, [path, remove](QWidget& widget) {
+        auto& chooser = static_cast<QFileDialog&>(widget);
+        QCOMPARE(chooser.windowTitle(), q("Please choose CRI file"));
+        QCOMPARE(chooser.nameFilters(), QStringList(q("CRI Files (*.cri)")));
+        QVERIFY(chooser.testOption(QFileDialog::DontUseNativeDialog));
+        QVERIFY(!chooser.windowIcon().isNull());
+        support::child<QLineEdit>(chooser, "fileNameEdit").setText(path);
+        static_cast<QDialog&>(chooser).accept();
+        if (remove)
+            QVERIFY(QFile::remove(path));
+    });
 }
 
 /// What makes one of the checks fail, and what is then told.
