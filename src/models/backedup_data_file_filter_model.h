@@ -20,8 +20,8 @@ public:
     /// The folder, an index of the source model. Rows of other folders are all let through.
     void setSourceRoot(const QModelIndex& folder);
     /// Shows only files whose names match; see `models::FileNameFilter`. In place of the operation
-    /// of the base class, which takes out row by row what no longer matches: in a large folder that
-    /// takes minutes.
+    /// of the base class, which takes out row by row what no longer matches: in a folder of 100,000
+    /// files that is a second for each key.
     void setFilterWildcard(const QString& pattern);
 
 protected:
