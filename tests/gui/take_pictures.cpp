@@ -108,14 +108,21 @@ void next(QWizard& wizard) {
         qFatal("The wizard stays on page %d", page);
 }
 
-/// What a tree shows below its first row, and below the first row of that.
-void openFirstRows(QTreeView& tree, int levels) {
+/// What a tree shows below its first row, below the first row of that and so on; the last of them.
+QModelIndex openFirstRows(QTreeView& tree, int levels) {
     QModelIndex index;
     for (int i = 0; i < levels; ++i) {
         index = tree.model()->index(0, 0, index);
         tree.expand(index);
     }
     tree.scrollToTop();
+    return index;
+}
+
+/// Ticks a row that is on the screen.
+void tick(QTreeView& tree, const QModelIndex& index) {
+    if (!tree.model()->setData(index, Qt::Checked, Qt::CheckStateRole))
+        qFatal("The row can't be ticked");
 }
 
 void takeNewSet(Photographer& photographer) {
@@ -129,7 +136,8 @@ void takeNewSet(Photographer& photographer) {
         photographer.take(wizard, "new-set-items");
         child<QCheckBox>(wizard, "checkEverything").click();
         child<QRadioButton>(wizard, "radioCustom").click();
-        openFirstRows(child<QTreeView>(wizard, "treeComputer"), 2);
+        auto& tree = child<QTreeView>(wizard, "treeComputer");
+        tick(tree, openFirstRows(tree, 2));
         photographer.take(wizard, "new-set-items-custom");
         child<QRadioButton>(wizard, "radioSpecificLocation").click();
         next(wizard);
@@ -165,6 +173,13 @@ void takeEditWizards(Photographer& photographer) {
     photographer.run("on_btnSchedule_clicked");
     photographer.expectOnly("edit-retention");
     photographer.run("on_btnRetention_clicked");
+    photographer.expect<QWizard>([&](QWizard& wizard) {
+        auto& tree = child<QTreeView>(wizard, "treeSelection");
+        tree.setCurrentIndex(openFirstRows(tree, 4));
+        tick(tree, tree.currentIndex());
+        photographer.take(wizard, "delete-items");
+    });
+    photographer.run("OnDelete");
     photographer.selectSet(kSetWithoutFiles);
     photographer.expectOnly("delete-question");
     photographer.run("OnDelete");
