@@ -109,6 +109,7 @@ private slots:
     void theStatusTellsThatItIsRegistering();
     void noRegistrationOpensOnAFault_data();
     void noRegistrationOpensOnAFault();
+    void anAgentWithoutAConfigurationIsTold();
 
 private:
     ModalDriver& modals() { return *test_.modals; }
@@ -463,6 +464,23 @@ void ConfigurationDialogsTest::noRegistrationOpensOnAFault() {
     failAfter(*test_.agent, 0, qPrintable(method));
     modals().expectErrorBox(q(kError), q("Out of order."));
     openRegister();
+}
+
+void ConfigurationDialogsTest::anAgentWithoutAConfigurationIsTold() {
+    const auto expectBox = [this](const char* title) {
+        test_.agent->inject("getConfigurationManager", simulator::NullResult{});
+        modals().expectErrorBox(q(title), q("The agent doesn't have what was asked for."));
+    };
+    expectBox(kError);
+    openRegister();
+    expectBox(kError);
+    openTimes();
+    expectBox(kError);
+    test_.run("on_actionRegistration_Info_triggered");
+    expectBox(kLdapError);
+    modals().expect(q("account"), isDialog<ADAccountDlg>,
+                    [](QWidget& dialog) { press(dialog, "btnCancel"); });
+    openAccount();
 }
 
 QTEST_MAIN(ConfigurationDialogsTest)

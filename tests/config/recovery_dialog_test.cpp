@@ -51,6 +51,7 @@ private slots:
     void cancellingDoesNothing();
     void nothingOpensOnAFault_data();
     void nothingOpensOnAFault();
+    void anAgentWithoutAManagerIsTold();
 
 private:
     ModalDriver& modals() { return *test_.modals; }
@@ -226,6 +227,13 @@ void RecoveryDialogTest::nothingOpensOnAFault() {
     QFETCH(QString, method);
     failAfter(*test_.agent, 0, qPrintable(method));
     modals().expectErrorBox(q("Configuration Error"), q("Out of order."));
+    open();
+}
+
+void RecoveryDialogTest::anAgentWithoutAManagerIsTold() {
+    test_.agent->inject("getSystemActivityManager", simulator::NullResult{});
+    modals().expectErrorBox(q("Configuration Error"),
+                            q("The agent doesn't have what was asked for."));
     open();
 }
 
