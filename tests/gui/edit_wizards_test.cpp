@@ -4,6 +4,7 @@
 #include <QRadioButton>
 #include <QTableView>
 #include <QTest>
+#include <QToolButton>
 
 #include "api/client_connection.h"
 #include "resources/pictures.h"
@@ -75,6 +76,7 @@ private slots:
     void aFaultOfAnEditWizard_data();
     void aFaultOfAnEditWizard();
     void theListMayGoUnderAWizard();
+    void underCentralManagementNoSetIsEdited();
     void otherTasksOfAScheduleStay();
     void withoutARuleTheTaskIsCleared();
 
@@ -353,6 +355,19 @@ void EditWizardsTest::theListMayGoUnderAWizard() {
         wizard.close();
     });
     test_.run("on_btnSchedule_clicked");
+}
+
+void EditWizardsTest::underCentralManagementNoSetIsEdited() {
+    test_.start(Scenario::Central);
+    test_.driver->sets().selectRow(0);
+    QVERIFY(child<QWidget>(test_.driver->window(), "pageProperties").isEnabled());
+    test_.agent->clearCallLog();
+    for (const char* name : {"btnItems", "btnSchedule", "btnRetention"}) {
+        auto& button = child<QToolButton>(test_.driver->window(), name);
+        QVERIFY2(!button.isEnabled(), name);
+        button.click();
+    }
+    QCOMPARE(callsOf(*test_.agent), Calls{});
 }
 
 void EditWizardsTest::otherTasksOfAScheduleStay() {
