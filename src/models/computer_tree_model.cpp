@@ -20,6 +20,10 @@ int CComputerTreeModel::rowCount(const QModelIndex& parent) const {
     return static_cast<int>(nodeAt(parent).children().size());
 }
 
+bool CComputerTreeModel::canFetchMore(const QModelIndex& parent) const {
+    return !nodeAt(parent).isFetched();
+}
+
 QVariant CComputerTreeModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid())
         return {};

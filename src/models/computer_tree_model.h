@@ -19,6 +19,7 @@ public:
                                 QObject* parent = nullptr);
 
     int rowCount(const QModelIndex& parent = {}) const override;
+    bool canFetchMore(const QModelIndex& parent) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 
     /// False for a container and for an invalid index.

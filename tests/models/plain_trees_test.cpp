@@ -198,7 +198,9 @@ void PlainTreesTest::aComputerHasNothingBelowIt() {
     calls();
     QVERIFY(network_->isComputer(machine));
     QVERIFY(!network_->hasChildren(machine));
+    QVERIFY(network_->canFetchMore(machine));
     network_->fetchMore(machine);
+    QVERIFY(!network_->canFetchMore(machine));
     QVERIFY(!network_->index(0, 0, machine).isValid());
     QCOMPARE(network_->rowCount(machine), 0);
     QCOMPARE(calls(), QString());
