@@ -115,13 +115,15 @@ void EditWizardsTest::aWizardIsFramed() {
         QCOMPARE(wizard.maximumSize() == QSize(65536, 65536), anySize);
         if (anySize) // it turns to a page, which makes it write the texts anew
             wizard.next();
-        const std::pair<QWizard::WizardButton, const char*> texts[]{
-            {QWizard::BackButton, "&Back"},
-            {QWizard::NextButton, "&Next"},
-            {QWizard::FinishButton, "&Finish"},
-            {QWizard::CancelButton, "&Cancel"}};
-        for (const auto& [which, text] : texts) {
+        const std::tuple<QWizard::WizardButton, const char*, const char*> looks[]{
+            {QWizard::BackButton, "&Back", ":/button/back"},
+            {QWizard::NextButton, "&Next", ":/button/forward"},
+            {QWizard::FinishButton, "&Finish", ":/button/ok"},
+            {QWizard::CancelButton, "&Cancel", ":/button/cancel"}};
+        for (const auto& [which, text, icon] : looks) {
             QCOMPARE(wizard.button(which)->text(), q(text));
+            QCOMPARE(wizard.button(which)->icon().pixmap(16).toImage(),
+                     QIcon(q(icon)).pixmap(16).toImage());
             QVERIFY(!wizard.button(which)->icon().isNull());
         }
         wizard.reject();
