@@ -142,6 +142,7 @@ private slots:
     void aFaultOfAFilterLeavesThePage_data();
     void aFaultOfAFilterLeavesThePage();
     void aFolderThatFailsIsToldOnce();
+    void aGroupThatFailsEndsTheDeletion();
 
 private:
     void protect() {
@@ -477,6 +478,19 @@ void DeleteWizardTest::aFolderThatFailsIsToldOnce() {
         widget.close();
     });
     test_.run("OnDelete");
+}
+
+void DeleteWizardTest::aGroupThatFailsEndsTheDeletion() {
+    test_.agent->withWorld([](World& world) {
+        auto& group = world.set(kId)->stored->addFolder("Group");
+        group.isGroup = true;
+        group.denied = "Keep out.";
+    });
+    test_.expectWizard([](QWizardPage& page) { check(page, "Group"); });
+    test_.modals->expectErrorBox(q("Error"), q("Keep out."));
+    test_.run("OnDelete");
+    // It has no id that could be sent in place of what it holds.
+    QCOMPARE(difference(calls(), kOpened + Calls{"BackupSetDeleteView.getSubItems(0)"}), QString());
 }
 
 QTEST_MAIN(DeleteWizardTest)
