@@ -2,9 +2,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "models/small_tree_view.h"
 
+#include "models/asterisk_key.h"
+
 CSmallTreeView::CSmallTreeView(QWidget* parent)
     : QTreeView(parent) {
     setUniformRowHeights(true);
+    models::expandOneLevelByAsterisk(*this);
 }
 
 QSize CSmallTreeView::sizeHint() const {

@@ -5,7 +5,7 @@
 #include <QTreeView>
 
 /// A tree that a layout may make as small as it likes. Its rows are of one height, so that the view
-/// needn't measure each of them.
+/// needn't measure each of them, and the asterisk key expands no more than the current one.
 class CSmallTreeView : public QTreeView {
     Q_OBJECT
 public:

@@ -5,6 +5,7 @@
 #include <QWizard>
 
 #include "api/client_connection.h"
+#include "models/asterisk_key.h"
 #include "models/restore_destination_directory_only_model.h"
 #include "models/restore_destination_model.h"
 #include "session/connection.h"
@@ -22,6 +23,7 @@ SetOptionsPage::SetOptionsPage(QWidget* parent)
     ui_->setupUi(this);
     QHeaderView* header = ui_->treeAvailableDirectories->header();
     header->setSectionResizeMode(QHeaderView::ResizeToContents);
+    models::expandOneLevelByAsterisk(*ui_->treeAvailableDirectories);
     connect(ui_->treeAvailableDirectories, &QTreeView::expanded, this,
             &SetOptionsPage::treeExpanded);
     showFolderIfWanted();

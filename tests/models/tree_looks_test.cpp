@@ -73,6 +73,7 @@ private slots:
     void theBoxOfSomethingExcludedIsCrossed();
     void aDensePictureTakesNoMoreRoom();
     void theViewHasNoWishForASizeAndRowsOfOneHeight();
+    void theAsteriskKeyExpandsOneLevel();
 
 private:
     boost::shared_ptr<BrowsingAgent> agent_;
@@ -158,6 +159,20 @@ void TreeLooksTest::theViewHasNoWishForASizeAndRowsOfOneHeight() {
     const CSmallTreeView view;
     QVERIFY(!view.sizeHint().isValid());
     QVERIFY(view.uniformRowHeights());
+}
+
+void TreeLooksTest::theAsteriskKeyExpandsOneLevel() {
+    agent_->folders["C:\\denied"] = {folderNamed("below")};
+    CSmallTreeView view;
+    view.setModel(model_.get());
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    view.setCurrentIndex(indexAt(*model_, "C:"));
+    QTest::keyClick(&view, Qt::Key_Asterisk);
+    QVERIFY(view.isExpanded(indexAt(*model_, "C:")));
+    QVERIFY(!view.isExpanded(indexAt(*model_, "C:/denied")));
+    QCOMPARE(QString::fromStdString(agent_->takeCalls()),
+             QStringLiteral("getSubItems(pc, )\ngetSubItems(pc, C:)"));
 }
 
 QTEST_MAIN(TreeLooksTest)
