@@ -117,7 +117,7 @@ bool SelectDataSourcePage::showComputerOfFileSet(hessiancln::BackupSet& set) {
 }
 
 void SelectDataSourcePage::applyCredentials(const boost::shared_ptr<hessiancln::BackupSet>& set) {
-    set->setCredentials(browser_->getCurrentCredentials());
+    set->setCredentials(currentCredentials());
 }
 
 bool SelectDataSourcePage::validatePage() {

@@ -43,6 +43,7 @@ private slots:
     void refusesASetOfAnotherKind();
     void offersTheComputerOfASetForARestore();
     void givesTheCredentialsToTheSet();
+    void givesNoCredentialsThatAreNone();
 };
 
 void SourceOfSetTest::honoursTheFlagOfTheAgentsAccountUnseen() {
@@ -169,6 +170,16 @@ void SourceOfSetTest::givesTheCredentialsToTheSet() {
     set.reset();
     driver.close();
     session.source.verifyAllReleased();
+}
+
+void SourceOfSetTest::givesNoCredentialsThatAreNone() {
+    Session session;
+    auto set = session.source.set([](simulator::CredentialsState&) {});
+    PageDriver driver;
+    session.source.takeCalls();
+    session.source.agent.inject("getCurrentCredentials", simulator::NullResult{});
+    QVERIFY_EXCEPTION_THROWN(driver.page().applyCredentials(set), std::runtime_error);
+    QCOMPARE(session.source.takeCalls(), Lines{"DataSourceBrowser.getCurrentCredentials()"});
 }
 
 QTEST_MAIN(SourceOfSetTest)
