@@ -6,6 +6,7 @@
 
 #include "api/client_connection.h"
 #include "session/connection.h"
+#include "session/required.h"
 #include "session/text.h"
 #include "ui/branding_resources.h"
 #include "ui/remote_action.h"
@@ -30,7 +31,7 @@ TFACodeDlg::~TFACodeDlg() = default;
 void TFACodeDlg::on_btnResend_clicked() {
     ui::remoteAction(*this, tr("Error"), ui::Cursor::wait, [this] {
         const std::string address =
-            session::getConnection()->getTFAManager()->requestCode(purpose_);
+            session::required(session::getConnection()->getTFAManager())->requestCode(purpose_);
         ui_->editEmail->setText(session::fromWire(address));
         ui_->editEmail->setCursorPosition(0);
     });
@@ -39,7 +40,7 @@ void TFACodeDlg::on_btnResend_clicked() {
 void TFACodeDlg::on_btnValidate_clicked() {
     const std::string code = session::toWire(ui_->editCode->text());
     const bool valid = ui::remoteAction(*this, tr("Error"), ui::Cursor::wait, [&] {
-        session::getConnection()->getTFAManager()->validateCode(code, purpose_);
+        session::required(session::getConnection()->getTFAManager())->validateCode(code, purpose_);
     });
     if (valid)
         accept();

@@ -5,10 +5,11 @@
 #include "api/client_connection.h"
 #include "config/user_email_rules.h"
 #include "session/connection.h"
+#include "session/required.h"
 #include "session/text.h"
 
 void TFAUsersModel::refresh() {
-    auto rows = session::getConnection()->getTFAManager()->getUserEmails();
+    auto rows = session::required(session::getConnection()->getTFAManager())->getUserEmails();
     beginResetModel();
     rows_ = std::move(rows);
     findPlaces();

@@ -100,6 +100,7 @@ private slots:
     void aWrongCodeLeavesTheDialogOpen();
     void aCodeThatCantBeSentLeavesTheDialogOpen();
     void theCodeDialogSaysWhatItWants();
+    void anAgentWithoutAManagerOfCodesIsTold();
 
 private:
     /// Runs the viewer, lets a user do something in it, and closes it.
@@ -494,6 +495,31 @@ void TFADialogsTest::aCodeThatCantBeSentLeavesTheDialogOpen() {
         press(dialog, "btnCancel");
     });
     QCOMPARE(TFACodeDlg(1, nullptr).exec(), int(QDialog::Rejected));
+}
+
+void TFADialogsTest::anAgentWithoutAManagerOfCodesIsTold() {
+    const auto expectBox = [this](const char* title) {
+        modals_->expectErrorBox(q(title), q("The agent doesn't have what was asked for."));
+    };
+    agent_->inject("getTFAManager", simulator::NullResult{}, simulator::Times::UntilCleared);
+    expectBox("Error");
+    expectCode([&](QWidget& dialog) {
+        expectBox("Error");
+        press(dialog, "btnValidate");
+        press(dialog, "btnCancel");
+    });
+    QCOMPARE(TFACodeDlg(1, nullptr).exec(), int(QDialog::Rejected));
+    expectBox("Error");
+    withViewer([&](QWidget& viewer) {
+        agent_->clearInjections();
+        expectCode([this](QWidget& dialog) {
+            type(dialog, "editCode", "314159");
+            press(dialog, "btnValidate");
+            agent_->inject("getTFAManager", simulator::NullResult{});
+        });
+        expectBox("Configuration Error");
+        press(viewer, "btnUpdate");
+    });
 }
 
 void TFADialogsTest::theCodeDialogSaysWhatItWants() {
