@@ -45,17 +45,19 @@ function(_tarn_prepare target)
 endfunction()
 
 # tarn_library(<name> SOURCES <files> [LINK <public>] [LINK_PRIVATE <private>]
-#              [PRECOMPILE <headers>])
+#              [PRECOMPILE <headers> | PRECOMPILED_BY <library>])
 #
 # PRECOMPILE names the headers, as they stand behind #include, that most of the sources read; it
-# pays from about eight sources on.
+# pays from about eight sources on. PRECOMPILED_BY shares those of another library.
 function(tarn_library name)
-    cmake_parse_arguments(arg "" "" "SOURCES;LINK;LINK_PRIVATE;PRECOMPILE" ${ARGN})
+    cmake_parse_arguments(arg "" "PRECOMPILED_BY" "SOURCES;LINK;LINK_PRIVATE;PRECOMPILE" ${ARGN})
     add_library(${name} STATIC ${arg_SOURCES})
     target_link_libraries(${name} PUBLIC tarn_options ${arg_LINK} PRIVATE ${arg_LINK_PRIVATE})
     _tarn_prepare(${name})
     if(arg_PRECOMPILE)
         target_precompile_headers(${name} PRIVATE ${arg_PRECOMPILE})
+    elseif(arg_PRECOMPILED_BY)
+        target_precompile_headers(${name} REUSE_FROM ${arg_PRECOMPILED_BY})
     endif()
 endfunction()
 
@@ -83,14 +85,17 @@ endfunction()
 # tarn_test(<name> LABELS <labels> TIMEOUT <seconds> SOURCES <files> [LINK <libraries>])
 #
 # LABELS are of unit, wire, gui, slow. With the word QTEST the program is one QTest class and
-# one test of ctest; without it, it is GoogleTest, and each TEST is a test of ctest.
+# one test of ctest; without it, it is GoogleTest, and each TEST is a test of ctest. Under a
+# sanitizer, where a process takes long to start, the whole program is one test of ctest there too.
+# The headers that all tests of a kind read are precompiled once: see tarn_ui, tarn_google_test.
 function(tarn_test name)
     cmake_parse_arguments(arg "QTEST" "TIMEOUT" "LABELS;SOURCES;LINK" ${ARGN})
     tarn_program(${name} SOURCES ${arg_SOURCES} LINK ${arg_LINK})
     # Tests may include the doubles in tests/support and the simulator beside the product.
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
     if(arg_QTEST)
-        target_link_libraries(${name} PRIVATE Qt5::Test)
+        target_link_libraries(${name} PRIVATE Qt5::Test tarn_ui)
+        target_precompile_headers(${name} REUSE_FROM tarn_ui)
         add_test(NAME ${name} COMMAND ${name})
         set(environment QT_QPA_PLATFORM=offscreen)
         if(TARN_SANITIZE MATCHES "address")
@@ -100,8 +105,15 @@ function(tarn_test name)
         endif()
         set_tests_properties(${name} PROPERTIES
             LABELS "${arg_LABELS}" TIMEOUT ${arg_TIMEOUT} ENVIRONMENT "${environment}")
+        return()
+    endif()
+
+    target_link_libraries(${name} PRIVATE tarn_google_test)
+    target_precompile_headers(${name} REUSE_FROM tarn_google_test)
+    if(TARN_SANITIZE)
+        add_test(NAME ${name} COMMAND ${name})
+        set_tests_properties(${name} PROPERTIES LABELS "${arg_LABELS}" TIMEOUT 300)
     else()
-        target_link_libraries(${name} PRIVATE GTest::gmock GTest::gtest_main)
         gtest_discover_tests(${name}
             TEST_PREFIX ${name}. DISCOVERY_TIMEOUT 60
             PROPERTIES TIMEOUT ${arg_TIMEOUT})
