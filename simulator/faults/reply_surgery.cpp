@@ -14,11 +14,18 @@ namespace simulator {
 namespace {
 
 /// A value of any kind, taken apart as far as records and lists go.
+struct Member;
+
 struct Node {
     enum class Kind { Scalar, Record, List } kind = Kind::Scalar;
     std::string bytes; ///< of a scalar; the type of a record
-    std::vector<std::pair<std::string, Node>> members;
+    std::vector<Member> members;
     std::vector<Node> elements;
+};
+
+struct Member {
+    std::string key;
+    Node value;
 };
 
 Node parse(hessianser::Cursor& in);
@@ -50,7 +57,7 @@ Node parseRecord(hessianser::Cursor& in) {
     std::string scratch;
     while (hessianser::readMemberName(in, name, scratch)) {
         std::string key(name);
-        node.members.emplace_back(std::move(key), parse(in));
+        node.members.push_back({std::move(key), parse(in)});
     }
     return node;
 }
@@ -156,7 +163,7 @@ std::string changed(const std::string& reply, const Change& change) {
 
 std::string withKey(const std::string& reply, const std::string& key) {
     return changed(reply, [&key](Node& value) {
-        eachRecord(value, [&key](Node& record) { record.members.emplace_back(key, scalar(0)); });
+        eachRecord(value, [&key](Node& record) { record.members.push_back({key, scalar(0)}); });
     });
 }
 

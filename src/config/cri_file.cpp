@@ -19,7 +19,7 @@ struct NamedKey {
     CriKey key;
 };
 
-constexpr NamedKey kKeys[] = {
+const NamedKey kKeys[] = {
     {QLatin1String("UserName"), CriKey::customerName},
     {QLatin1String("AccountName"), CriKey::accountNumber},
     {QLatin1String("ClientNumber"), CriKey::clientNumber},
