@@ -8,6 +8,7 @@
 #include "api/client_connection.h"
 #include "config/ad_account.h"
 #include "config/wipe.h"
+#include "config/wipe_field.h"
 #include "session/connection.h"
 #include "session/required.h"
 #include "session/text.h"
@@ -59,7 +60,7 @@ bool ADAccountDlg::send(bool save) {
     return ui::remoteAction(*this, tr("LDAP User Validation Error"), ui::Cursor::wait, [&] {
         const auto manager = session::required(session::getConnection()->getConfigurationManager());
         hessiancln::ad_user_info account{config::adUsernameOf(typed.name),
-                                         session::toWire(typed.password), save};
+                                         config::secretToWire(typed.password), save};
         const config::WipedAtEnd guard(account.password);
         manager->setADUserInfo(account);
     });

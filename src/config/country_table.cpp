@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "config/country_table.h"
 
-#include <QtGlobal>
+#include <algorithm>
+
+#include <QCollator>
+#include <QCoreApplication>
 
 namespace config {
 
@@ -265,6 +268,26 @@ constexpr std::array<Country, countryCount> kCountries{{
 
 const std::array<Country, countryCount>& countries() {
     return kCountries;
+}
+
+std::vector<NamedCountry> countriesFor(const QLocale& language) {
+    std::vector<NamedCountry> named;
+    named.reserve(countryCount);
+    for (const Country& country : kCountries)
+        named.push_back(
+            {country.code, QCoreApplication::translate("InitClntCfgDlg", country.name)});
+    sortFor(language, named);
+    return named;
+}
+
+void sortFor(const QLocale& language, std::vector<NamedCountry>& countries) {
+    if (language.language() == QLocale::C || language.language() == QLocale::English)
+        return;
+    const QCollator collator(language);
+    std::stable_sort(countries.begin(), countries.end(),
+                     [&collator](const NamedCountry& a, const NamedCountry& b) {
+                         return collator(a.name, b.name);
+                     });
 }
 
 } // namespace config

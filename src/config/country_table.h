@@ -5,6 +5,10 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <vector>
+
+#include <QLocale>
+#include <QString>
 
 namespace config {
 
@@ -17,5 +21,17 @@ inline constexpr std::size_t countryCount = 249;
 
 /// All countries of ISO 3166-1, by their English names.
 const std::array<Country, countryCount>& countries();
+
+struct NamedCountry {
+    std::int32_t code;
+    QString name; ///< in the language of the screen
+};
+
+/// The countries as a reader of that language looks for them. English names keep the order that
+/// they have in `countries`.
+std::vector<NamedCountry> countriesFor(const QLocale& language);
+
+/// The same for names that are given.
+void sortFor(const QLocale& language, std::vector<NamedCountry>& countries);
 
 } // namespace config

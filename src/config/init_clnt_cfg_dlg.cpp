@@ -14,7 +14,9 @@
 #include "config/registration_entries.h"
 #include "config/system_address_list.h"
 #include "config/wipe.h"
+#include "config/wipe_field.h"
 #include "session/connection.h"
+#include "session/process_values.h"
 #include "session/required.h"
 #include "session/text.h"
 #include "ui/branding_resources.h"
@@ -70,15 +72,16 @@ InitClntCfgDlg::~InitClntCfgDlg() {
 void InitClntCfgDlg::setTexts() {
     if (initial_)
         setWindowTitle(tr("Initial Tarn-Client Configuration"));
-    int row = 0;
-    for (const config::Country& country : config::countries())
-        ui_->cmbCountry->setItemText(row++, tr(country.name));
+    const QVariant country = ui_->cmbCountry->currentData();
+    ui_->cmbCountry->clear();
+    const QLocale language =
+        session::g_language.isEmpty() ? QLocale::c() : QLocale(session::g_language);
+    for (const auto& [code, name] : config::countriesFor(language))
+        ui_->cmbCountry->addItem(name, code);
+    ui_->cmbCountry->setCurrentIndex(ui_->cmbCountry->findData(country));
 }
 
 void InitClntCfgDlg::addCodes() {
-    for (const config::Country& country : config::countries())
-        ui_->cmbCountry->addItem(QString(), country.code);
-    ui_->cmbCountry->setCurrentIndex(-1);
     for (QComboBox* combo : {ui_->cmbEmployees, ui_->cmbIndustry})
         for (int row = 0; row < combo->count(); ++row)
             combo->setItemData(row, row + 1);
@@ -231,8 +234,8 @@ hessiancln::tarnc_reg_info InitClntCfgDlg::registration() const {
     info.client_num = session::toWire(ui_->txtFieldClientNum->text());
     info.private_key_enc = chosenType(*ui_->cmbPrivateKeyType);
     info.account_key_enc = chosenType(*ui_->cmbAccountKeyType);
-    info.private_key = session::toWire(ui_->txtFieldPrivateKey->text());
-    info.account_key = session::toWire(ui_->txtFieldAccountKey->text());
+    info.private_key = config::secretToWire(ui_->txtFieldPrivateKey->text());
+    info.account_key = config::secretToWire(ui_->txtFieldAccountKey->text());
     info.tarnsys_ip_addr = config::systemAddressesText(addresses());
     info.escrow_enc_key = ui_->chkForwardKey->isChecked();
     return info;

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "config/wipe.h"
 
-#include <QLineEdit>
-
 namespace config {
 
 namespace {
@@ -35,11 +33,10 @@ void wipe(QString& text) {
     text.clear();
 }
 
-void wipe(QLineEdit& field) {
-    QString text = field.text();
-    // The field lets go of what it held, which is then ours alone.
-    field.clear();
-    wipe(text);
+std::string secretToWire(const QString& text) {
+    QByteArray bytes = text.toUtf8();
+    const WipedAtEnd guard(bytes);
+    return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
 }
 
 } // namespace config

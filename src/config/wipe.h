@@ -6,18 +6,13 @@
 
 #include <QString>
 
-class QLineEdit;
-
-/// Takes keys and passwords out of memory. What Qt has copied on its own way stays: the events of
-/// the keyboard and what a field has held before.
+/// Takes keys and passwords out of memory.
 namespace config {
 
 void wipe(std::string& text);
 void wipe(QByteArray& bytes);
 /// A text that others share is left to them.
 void wipe(QString& text);
-/// Empties the field, and overwrites what it held unless somebody else shares it.
-void wipe(QLineEdit& field);
 
 /// Wipes a text at the end of the block.
 template <class Text>
@@ -32,5 +27,8 @@ public:
 private:
     Text& text_;
 };
+
+/// A key or password for the agent, in UTF-8. No other copy of it stays behind.
+std::string secretToWire(const QString& text);
 
 } // namespace config
