@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "wizards/share_mappings.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <set>
+
+namespace wizards {
+
+namespace {
+
+constexpr char separator = '\\';
+constexpr std::string_view notInNames = "\"*/:<>?\\|";
+constexpr std::string_view nameOfNameless = ".data.";
+
+/// With as many numbers behind it as it takes: "C", "C_0001", "C_0001_0002".
+std::string unusedName(std::string name, const std::set<std::string>& used) {
+    for (long counter = 1; used.contains(name); ++counter) {
+        char suffix[32];
+        std::snprintf(suffix, sizeof suffix, "_%04ld", counter);
+        name += suffix;
+    }
+    return name;
+}
+
+} // namespace
+
+std::int32_t truncateLevelOf(std::string_view truncatablePath) {
+    return static_cast<std::int32_t>(std::ranges::count(truncatablePath, separator));
+}
+
+std::string directoryNameOf(std::string_view shareName) {
+    std::string name(shareName);
+    std::erase_if(
+        name, [](char character) { return notInNames.find(character) != std::string_view::npos; });
+    return name.empty() ? std::string(nameOfNameless) : name;
+}
+
+ShareMappings shareMappings(const std::vector<hessiancln::selected_shares>& shares,
+                            const std::string& destination) {
+    if (shares.size() == 1) {
+        const auto& share = shares.front();
+        const std::int32_t level = truncateLevelOf(share.truncatable_path);
+        return {{{share.share_name, destination, level}}, level};
+    }
+    ShareMappings result;
+    std::set<std::string> used;
+    for (const auto& share : shares) {
+        const std::string name = unusedName(directoryNameOf(share.share_name), used);
+        used.insert(name);
+        result.mappings.push_back({share.share_name, destination + separator + name, 0});
+    }
+    return result;
+}
+
+} // namespace wizards
