@@ -20,6 +20,7 @@
 #include "wizards/delete_flow.h"
 #include "wizards/items_flow.h"
 #include "wizards/new_set_flow.h"
+#include "wizards/restore_flow.h"
 #include "wizards/retention_flow.h"
 #include "wizards/schedule_flow.h"
 
@@ -120,7 +121,14 @@ void SimpleGUIMainWindow::editSelectedSet(
 }
 
 void SimpleGUIMainWindow::OnRestore() {
-    requireSetItem();
+    const BackupSetViewItem* card = requireSetItem();
+    if (!card)
+        return;
+    const std::int32_t id = card->record().id;
+    ui::remoteAction(*this, tr("Error"), ui::Cursor::arrow, [this, id] {
+        if (const auto activity = wizards::restoreFromSet(*this, app::openBackupSet(id)))
+            refreshAll();
+    });
 }
 
 void SimpleGUIMainWindow::OnDelete() {

@@ -107,6 +107,32 @@ bool SelectDataSourcePage::initForRestore(const boost::shared_ptr<hessiancln::Ba
     return true;
 }
 
+void SelectDataSourcePage::setPurpose(Purpose purpose) {
+    if (purpose == purpose_)
+        return;
+    purpose_ = purpose;
+    showPurpose();
+}
+
+void SelectDataSourcePage::showPurpose() {
+    ui_->groupDataSource->setVisible(purpose_ != Purpose::OtherCredentials);
+    switch (purpose_) {
+    case Purpose::Backup:
+        return;
+    case Purpose::OtherCredentials:
+        setTitle(tr("Use other credentials"));
+        setSubTitle(tr("Enter the credentials to be used during restore"));
+        break;
+    case Purpose::Destination:
+        setTitle(tr("Restore Destination Computer"));
+        setSubTitle(tr("Select the computer where the data will be restored to"));
+        ui_->groupDataSource->setTitle(tr("Destination"));
+        ui_->labelItemsFrom->setText(tr("Data will be restored to:"));
+        break;
+    }
+    ui_->chkUseTarnClientAccount->hide();
+}
+
 bool SelectDataSourcePage::showComputerOfFileSet(hessiancln::BackupSet& set) {
     if (set.getDataType() != hessiancln::BackupDataType::FileSystem)
         return false;
@@ -338,7 +364,9 @@ void SelectDataSourcePage::OnSelectSSHAccess() {
 }
 
 void SelectDataSourcePage::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange) {
         ui_->retranslateUi(this);
+        showPurpose();
+    }
     QWizardPage::changeEvent(event);
 }

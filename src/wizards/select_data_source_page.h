@@ -33,6 +33,9 @@ public:
     /// Whether a user of this machine, in UTF-8, is one of its administrators.
     using AdministratorTest = std::function<bool(const std::string& user)>;
 
+    /// What the source, or the login, is wanted for.
+    enum class Purpose { Backup, OtherCredentials, Destination };
+
     /// Takes a fresh browser from the session, and starts with the agent's own computer. Raises
     /// what the session raises if that fails.
     explicit SelectDataSourcePage(QWidget* parent = nullptr);
@@ -54,6 +57,10 @@ public:
     bool initForRestore(const boost::shared_ptr<hessiancln::BackupSet>& set);
     /// Gives the credentials to the set. Raises what the calls raise.
     void applyCredentials(const boost::shared_ptr<hessiancln::BackupSet>& set);
+
+    /// Says what is asked for; at first, what to back up. For a restore there is no account of the
+    /// agent's own.
+    void setPurpose(Purpose purpose);
 
     bool isComplete() const override { return complete_; }
     /// Lets the agent try the credentials.
@@ -77,6 +84,7 @@ private:
     using Credentials = boost::shared_ptr<hessiancln::BackupSetCredentials>;
 
     void connectWidgets();
+    void showPurpose();
     void giveTreeItsModel();
     void growToContents();
     void takeNeededCredentials();
@@ -99,6 +107,7 @@ private:
     boost::shared_ptr<hessiancln::DataSourceBrowser> browser_;
     std::unique_ptr<CComputerTreeModel> model_;
     wizards::CachedCredentials cache_;
+    Purpose purpose_ = Purpose::Backup;
     bool complete_ = true;
     bool useClientAccount_ = false; ///< the flag of the credentials, as far as it is known
     bool editing_ = false; ///< an edited name is at the agent, or its failure on the screen

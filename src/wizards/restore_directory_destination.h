@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <memory>
+
+#include <QWizardPage>
+
+#include "api/client_configuration_records.h"
+
+class CRestoreDestinationDirectoryOnlyModel;
+class CRestoreDestinationModel;
+
+namespace Ui {
+class RestoreDirectoryDestination;
+}
+
+/// The directory that data is restored to. A restore makes a directory of its own in there, whose
+/// name is fixed for as long as the page lives.
+class RestoreDirectoryDestination : public QWizardPage {
+    Q_OBJECT
+public:
+    /// Asks the agent for its kind of paths. Raises what the calls raise.
+    explicit RestoreDirectoryDestination(QWidget* parent = nullptr);
+    ~RestoreDirectoryDestination() override;
+
+    /// The id of the `RestoreLocationPage` that knows the computer; -1, as at first, if none comes
+    /// before this page.
+    void setLocationPageId(int id) { locationPageId_ = id; }
+
+    /// With the directory that the restore makes.
+    QString destinationPath() const;
+
+    void initializePage() override;
+    bool isComplete() const override;
+
+public slots:
+    void browseDirectoriesToggled(bool checked);
+    void dirTreeSelectionChanged();
+    void on_editRestoreTo_textChanged();
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void showSubdirectory();
+    void showComputer();
+    void giveTreeItsModel();
+    void synchroniseTree();
+
+    std::unique_ptr<Ui::RestoreDirectoryDestination> ui_;
+    QString subdirectory_;
+    std::unique_ptr<CRestoreDestinationModel> model_; ///< null until needed, like the next
+    std::unique_ptr<CRestoreDestinationDirectoryOnlyModel> directories_;
+    int locationPageId_ = -1;
+    hessiancln::ClientOSType osType_;
+};

@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "wizards/restore_flow.h"
+
+#include <QCoreApplication>
+#include <QMessageBox>
+#include <QWizard>
+
+#include "api/backup_set.h"
+#include "ui/wizard_frame.h"
+#include "wizards/restore_directory_destination.h"
+#include "wizards/restore_location_page.h"
+#include "wizards/restore_select_page.h"
+#include "wizards/select_data_source_page.h"
+
+namespace wizards {
+
+namespace {
+
+using Activity = boost::shared_ptr<hessiancln::GenericActivity>;
+using Set = boost::shared_ptr<hessiancln::BackupSet>;
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(SimpleGUIMainWindow)
+};
+
+class RestoreWizard {
+public:
+    RestoreWizard(QWidget& parent, const Set& set);
+
+    bool run();
+    Activity restore();
+
+private:
+    QWizard wizard_;
+    RestoreSelectPage* items_; ///< owned by the wizard, like all pages
+    RestoreLocationPage* location_;
+};
+
+RestoreWizard::RestoreWizard(QWidget& parent, const Set& set)
+    : wizard_(&parent) {
+    ui::frameWizard(wizard_, Texts::tr("Restore Data"), QStringLiteral(":/images/wizard_restore"));
+    wizard_.addPage(items_ = new RestoreSelectPage(set, &wizard_));
+    location_ = new RestoreLocationPage(set, &wizard_);
+    const int locationId = wizard_.addPage(location_);
+    auto* source = new SelectDataSourcePage(&wizard_);
+    location_->setDataSourcePageId(wizard_.addPage(source));
+    source->initForRestore(set);
+    auto* directory = new RestoreDirectoryDestination(&wizard_);
+    location_->setDirectoryPageId(wizard_.addPage(directory));
+    directory->setLocationPageId(locationId);
+}
+
+bool RestoreWizard::run() {
+    ui::allowAnySize(wizard_);
+    return ui::runWizard(wizard_);
+}
+
+Activity RestoreWizard::restore() {
+    const auto initiator = items_->prepareRestore();
+    return initiator ? location_->start(*initiator) : nullptr;
+}
+
+} // namespace
+
+std::optional<Activity> restoreFromSet(QWidget& parent, const Set& set) {
+    if (set->getCurrentStatus().on_line_file_count == 0) {
+        QMessageBox::information(&parent, Texts::tr("No data backed up"),
+                                 Texts::tr("The selected backup set has no backed up data."));
+        return std::nullopt;
+    }
+    RestoreWizard wizard(parent, set);
+    if (!wizard.run())
+        return std::nullopt;
+    return wizard.restore();
+}
+
+} // namespace wizards

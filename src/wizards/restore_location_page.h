@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include <QWizardPage>
+
+#include <boost/shared_ptr.hpp>
+
+class RestoreDirectoryDestination;
+class SelectDataSourcePage;
+
+namespace hessiancln {
+class BackupSet;
+class DataSourceBrowser;
+class GenericActivity;
+class RestoreActivityInitiator;
+} // namespace hessiancln
+namespace Ui {
+class RestoreLocationPage;
+}
+
+/// Where restored data goes, and why it is restored. For any place but the one that it came from,
+/// two pages follow, and what they say is gathered here.
+class RestoreLocationPage : public QWizardPage {
+    Q_OBJECT
+public:
+    explicit RestoreLocationPage(boost::shared_ptr<hessiancln::BackupSet> set,
+                                 QWidget* parent = nullptr);
+    ~RestoreLocationPage() override;
+
+    /// Of the pages that follow; -1, as at first, if there is none.
+    void setDataSourcePageId(int id) { dataSourcePageId_ = id; }
+    void setDirectoryPageId(int id) { directoryPageId_ = id; }
+
+    /// The computer that data goes to, in UTF-8, and what looks into it. Each raises what its call
+    /// raises.
+    std::string computer() const;
+    boost::shared_ptr<hessiancln::DataSourceBrowser> browser() const;
+
+    /// Starts the restore. What the agent does now. Raises what the calls raise.
+    boost::shared_ptr<hessiancln::GenericActivity>
+    start(hessiancln::RestoreActivityInitiator& initiator) const;
+
+    bool isComplete() const override;
+    int nextId() const override;
+
+public slots:
+    void on_cmbRestoreReason_currentIndexChanged(int index);
+    void selectionChanged(bool checked);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void fillReasons();
+    SelectDataSourcePage* sourcePage() const;
+    RestoreDirectoryDestination* directoryPage() const;
+
+    std::unique_ptr<Ui::RestoreLocationPage> ui_;
+    boost::shared_ptr<hessiancln::BackupSet> set_;
+    int dataSourcePageId_ = -1;
+    int directoryPageId_ = -1;
+};

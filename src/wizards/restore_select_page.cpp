@@ -1,0 +1,192 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "wizards/restore_select_page.h"
+
+#include <utility>
+
+#include <QEvent>
+#include <QScopedValueRollback>
+#include <QSignalBlocker>
+
+#include "api/backup_set.h"
+#include "models/backed_up_data_model.h"
+#include "models/backed_up_node.h"
+#include "models/backedup_data_file_filter_model.h"
+#include "models/display_path.h"
+#include "models/generation_select_model.h"
+#include "models/override_cursor.h"
+#include "session/required.h"
+#include "ui_restore_select_page.h"
+#include "wizards/backup_time_span.h"
+#include "wizards/select_generation_dlg.h"
+
+using session::required;
+
+RestoreSelectPage::RestoreSelectPage(boost::shared_ptr<hessiancln::BackupSet> set, QWidget* parent)
+    : StoredItemsPage(parent)
+    , ui_(std::make_unique<Ui::RestoreSelectPage>())
+    , set_(std::move(set)) {
+    ui_->setupUi(this);
+    ui_->filterDisplay->hide();
+    setUp({*ui_->treeSelection, *ui_->listSelection, *ui_->splitter, *ui_->editFilter},
+          {ui_->checkFilter, ui_->checkFrom, ui_->dateFrom, ui_->checkTo, ui_->dateTo,
+           ui_->checkRemoved, ui_->dateRemoved});
+    setUpFilter();
+    updateDataModel();
+}
+
+RestoreSelectPage::~RestoreSelectPage() = default;
+
+void RestoreSelectPage::setUpFilter() {
+    using Page = RestoreSelectPage;
+    connect(ui_->buttonGenerations, &QPushButton::clicked, this, &Page::showFileGenerations);
+    connect(ui_->checkFilter, &QCheckBox::toggled, this, &Page::toggleFiltering);
+    // By the user only.
+    connect(ui_->checkFrom, &QCheckBox::clicked, this, &Page::toggleFrom);
+    connect(ui_->checkTo, &QCheckBox::toggled, this, &Page::toggleTo);
+    connect(ui_->checkRemoved, &QCheckBox::toggled, this, &Page::toggleRemoved);
+    for (QDateTimeEdit* date : {ui_->dateFrom, ui_->dateTo, ui_->dateRemoved})
+        connect(date, &QDateTimeEdit::dateTimeChanged, this, &Page::changeFilter);
+}
+
+void RestoreSelectPage::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange)
+        ui_->retranslateUi(this);
+    QWizardPage::changeEvent(event);
+}
+
+void RestoreSelectPage::toggleFiltering(bool on) {
+    atField([this, on] {
+        showFilter(on);
+        updateDataModel();
+    });
+}
+
+void RestoreSelectPage::showFilter(bool on) {
+    if (on)
+        loadDateLimits(*set_, *ui_->dateFrom, {ui_->dateTo, ui_->dateRemoved});
+    ui_->filterDisplay->setVisible(on);
+}
+
+void RestoreSelectPage::toggleFrom(bool on) {
+    ui_->dateFrom->setEnabled(on);
+    changeFilter();
+}
+
+void RestoreSelectPage::toggleTo(bool on) {
+    ui_->dateTo->setEnabled(on);
+    changeFilter();
+}
+
+void RestoreSelectPage::toggleRemoved(bool on) {
+    ui_->dateRemoved->setEnabled(on);
+    changeFilter();
+}
+
+void RestoreSelectPage::changeFilter() {
+    atField([this] { updateDataModel(); });
+}
+
+void RestoreSelectPage::fieldsPutBack() {
+    ui_->filterDisplay->setVisible(ui_->checkFilter->isChecked());
+    ui_->dateFrom->setEnabled(ui_->checkFrom->isChecked());
+    ui_->dateTo->setEnabled(ui_->checkTo->isChecked());
+    ui_->dateRemoved->setEnabled(ui_->checkRemoved->isChecked());
+}
+
+RestoreSelectPage::Span RestoreSelectPage::span() const {
+    if (!ui_->checkFilter->isChecked())
+        return {};
+    const auto limit = [](const QCheckBox& box, const QDateTimeEdit& date) {
+        return box.isChecked() ? wizards::secondsOf(date.dateTime()) : 0;
+    };
+    return {limit(*ui_->checkFrom, *ui_->dateFrom), limit(*ui_->checkTo, *ui_->dateTo),
+            limit(*ui_->checkRemoved, *ui_->dateRemoved)};
+}
+
+void RestoreSelectPage::updateDataModel() {
+    if (suspended_)
+        return;
+    const models::OverrideCursor busy;
+    const auto [from, to, removed] = span();
+    auto view = required(set_->prepare_restore(from, to, removed));
+    showContents(view);
+    view_ = std::move(view);
+    connect(ui_->listSelection->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &RestoreSelectPage::fileListSelectionChanged);
+    fileListSelectionChanged();
+}
+
+void RestoreSelectPage::treeSelectionChanged(const QItemSelection& selected) {
+    StoredItemsPage::treeSelectionChanged(selected);
+    if (selected.isEmpty())
+        return;
+    ui_->listSelection->clearSelection();
+    ui_->buttonGenerations->setEnabled(false);
+}
+
+void RestoreSelectPage::fileListSelectionChanged() {
+    ui_->buttonGenerations->setEnabled(ui_->listSelection->selectionModel()->hasSelection());
+}
+
+void RestoreSelectPage::showFileGenerations() {
+    const QModelIndexList rows = ui_->listSelection->selectionModel()->selectedRows();
+    const QModelIndex file = rows.size() == 1 ? files().mapToSource(rows.first()) : QModelIndex();
+    if (!file.isValid()) {
+        ui_->buttonGenerations->setEnabled(false);
+        return;
+    }
+    const std::int64_t id = model().nodeOf(file).item().id;
+    atField([this, id, path = models::displayPath(file)] { letChooseGeneration(id, path); });
+}
+
+void RestoreSelectPage::letChooseGeneration(std::int64_t file, const QStringList& path) {
+    SelectGenerationDlg dialog(view_->getItemGenerations(file), window());
+    const Span present = span();
+    dialog.generations().selectNewestInRange(present.from, present.to);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    if (narrowTo(dialog))
+        updateDataModel();
+    const QModelIndexList folders = ui_->treeSelection->selectionModel()->selectedRows();
+    if (!folders.isEmpty())
+        ui_->treeSelection->scrollTo(folders.first(), QAbstractItemView::PositionAtCenter);
+    const QModelIndex found = models::indexAtPath(model(), path, Qt::CaseSensitive);
+    if (found.isValid())
+        model().setData(found, true, Qt::CheckStateRole);
+}
+
+bool RestoreSelectPage::narrowTo(SelectGenerationDlg& dialog) {
+    const QScopedValueRollback<bool> suspended(suspended_, true);
+    const std::int32_t chosen = dialog.chosenTime();
+    const Span present = span();
+    const bool isOlder = present.from > chosen;
+    if (isOlder) {
+        switchFilterOn();
+        ui_->checkFrom->setChecked(true);
+        ui_->dateFrom->setDateTime(QDateTime::fromSecsSinceEpoch(chosen));
+    }
+    const bool isHidden = !dialog.generations().isNewestWithin(present.to, chosen);
+    if (isHidden) {
+        switchFilterOn();
+        ui_->checkTo->setChecked(true);
+        ui_->dateTo->setDateTime(QDateTime::fromSecsSinceEpoch(chosen));
+    }
+    return isOlder || isHidden;
+}
+
+/// As if the user had, but a failure is for the caller.
+void RestoreSelectPage::switchFilterOn() {
+    if (ui_->checkFilter->isChecked())
+        return;
+    showFilter(true);
+    const QSignalBlocker quiet(ui_->checkFilter);
+    ui_->checkFilter->setChecked(true);
+}
+
+boost::shared_ptr<hessiancln::RestoreActivityInitiator> RestoreSelectPage::prepareRestore() {
+    const auto ids = model().selectedIds();
+    if (ids.empty())
+        return nullptr;
+    return required(view_->prepareRestore(ids));
+}

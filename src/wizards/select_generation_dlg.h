@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include <QDialog>
+
+#include "models/generation_choice.h"
+
+class CGenerationSelectModel;
+
+namespace Ui {
+class SelectGenerationDlg;
+}
+
+/// Lets the user pick one of the stored versions of a file. Times are seconds since 1970 UTC.
+class SelectGenerationDlg : public QDialog {
+    Q_OBJECT
+public:
+    explicit SelectGenerationDlg(const models::Generations& generations, QWidget* parent = nullptr);
+    ~SelectGenerationDlg() override;
+
+    CGenerationSelectModel& generations() { return *model_; }
+    /// When the selected one was backed up; 0 if none is selected.
+    std::int32_t chosenTime() const;
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void setUpTable();
+    void updateEnabling();
+
+    std::unique_ptr<Ui::SelectGenerationDlg> ui_;
+    std::unique_ptr<CGenerationSelectModel> model_;
+};
