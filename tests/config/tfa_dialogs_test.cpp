@@ -1,53 +1,25 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 #include <QElapsedTimer>
-#include <QFileDialog>
 #include <QGroupBox>
 #include <QLabel>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QTableView>
-#include <QTemporaryDir>
-#include <QTest>
 
-#include "config/tfa_code_dlg.h"
-#include "config/tfa_user_dlg.h"
-#include "config/tfa_users_viewer.h"
 #include "resources/pictures.h"
-#include "session/connection.h"
-#include "simulator/world/world.h"
-#include "tests/support/gui_agent.h"
+#include "tests/config/tfa_fixture.h"
 #include "tests/support/gui_main_window.h"
-#include "tests/support/gui_modal_driver.h"
 
+using namespace steps;
 using simulator::Fault;
 using simulator::World;
 using support::child;
-using support::GuiAgent;
 using support::isDialog;
 using support::MainWindowDriver;
-using support::ModalDriver;
-using Calls = std::vector<std::string>;
 
 namespace {
 
 const Calls kReading{"ClientConnection.getTFAManager()", "TFAManager.getUserEmails()",
                      "TFAManager.Release()"};
-
-QString q(const char* text) {
-    return QString::fromUtf8(text);
-}
-
-void press(QWidget& dialog, const char* button) {
-    auto& found = child<QPushButton>(dialog, button);
-    QVERIFY2(found.isEnabled(), button);
-    QTest::mouseClick(&found, Qt::LeftButton);
-}
-
-void type(QWidget& dialog, const char* field, const char* text) {
-    child<QLineEdit>(dialog, field).setText(q(text));
-}
 
 QStringList rows(QWidget& viewer) {
     const QAbstractItemModel& model = *child<QTableView>(viewer, "tableUsers").model();
@@ -68,12 +40,12 @@ void select(QWidget& viewer, int row) {
 } // namespace
 
 /// The dialogs about two-factor codes, against an agent.
-class TFADialogsTest : public QObject {
+class TFADialogsTest : public QObject, private TFAFixture {
     Q_OBJECT
 private slots:
     void initTestCase() { resources::initPictures(); }
-    void init();
-    void cleanup();
+    void init() { start(); }
+    void cleanup() { end(); }
 
     void theCommandOpensTheList();
     void openingReadsTheList();
@@ -101,64 +73,7 @@ private slots:
     void aCodeThatCantBeSentLeavesTheDialogOpen();
     void theCodeDialogSaysWhatItWants();
     void anAgentWithoutAManagerOfCodesIsTold();
-
-private:
-    /// Runs the viewer, lets a user do something in it, and closes it.
-    void withViewer(const ModalDriver::Act& act) {
-        modals_->expect(q("list"), isDialog<TFAUsersViewer>, [act](QWidget& viewer) {
-            act(viewer);
-            press(viewer, "btnClose");
-        });
-        TFAUsersViewer viewer;
-        viewer.exec();
-    }
-    void expectUser(const ModalDriver::Act& act) {
-        modals_->expect(q("user"), isDialog<TFAUserDlg>, act);
-    }
-    void expectCode(const ModalDriver::Act& act) {
-        modals_->expect(q("code"), isDialog<TFACodeDlg>, act);
-    }
-    void expectFile(const QString& path) {
-        modals_->expect(q("file"), isDialog<QFileDialog>, [path](QWidget& widget) {
-            auto& dialog = static_cast<QFileDialog&>(widget);
-            QCOMPARE(dialog.windowTitle(), q("Please choose a .CSV file"));
-            QCOMPARE(dialog.nameFilters(), QStringList(q("CSV Files (*.csv)")));
-            child<QLineEdit>(dialog, "fileNameEdit").setText(path);
-            static_cast<QDialog&>(dialog).accept();
-        });
-    }
-    QString writeFile(const char* name, const QByteArray& bytes) {
-        const QString path = folder_.filePath(q(name));
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-            qFatal("can't write %s", name);
-        return path;
-    }
-
-    QTemporaryDir folder_;
-    std::unique_ptr<GuiAgent> agent_;
-    std::unique_ptr<ModalDriver> modals_;
 };
-
-void TFADialogsTest::init() {
-    agent_ = std::make_unique<GuiAgent>();
-    agent_->withWorld([](World& world) {
-        world.twoFactor = true;
-        world.userEmails = {{"Ada", "Home", "ada@example.org"}, {"bob", "", "bob@example.org"}};
-    });
-    session::connectToAgent("127.0.0.1:4411", "demo", "demo", 1);
-    agent_->clearCallLog();
-    modals_ = std::make_unique<ModalDriver>();
-}
-
-void TFADialogsTest::cleanup() {
-    QVERIFY(modals_->done());
-    modals_.reset();
-    QCOMPARE(agent_->violations(), Calls{});
-    support::resetSession();
-    QCOMPARE(agent_->liveObjects(), Calls{});
-    agent_.reset();
-}
 
 void TFADialogsTest::theCommandOpensTheList() {
     MainWindowDriver driver;
@@ -392,13 +307,8 @@ void TFADialogsTest::forwardingSendsTheWholeList() {
             type(dialog, "editCode", "314159");
             press(dialog, "btnValidate");
         });
-        modals_->expect(q("thanks"), isDialog<QMessageBox>, [](QWidget& widget) {
-            auto& box = static_cast<QMessageBox&>(widget);
-            QCOMPARE(box.icon(), QMessageBox::Information);
-            QCOMPARE(box.windowTitle(), q("Forward to Tarn-System"));
-            QCOMPARE(box.text(), q("User email list is successfully sent to Tarn-System."));
-            box.accept();
-        });
+        expectNews(*modals_, "Forward to Tarn-System",
+                   "User email list is successfully sent to Tarn-System.");
         press(viewer, "btnUpdate");
         QCOMPARE(agent_->callTexts(),
                  (Calls{"ClientConnection.getTFAManager()", "TFAManager.requestCode(1)",
