@@ -123,7 +123,13 @@ A backup agent to show and to test the client with. It listens on 127.0.0.1 only
 
   --port PORT          listen on this port; 0 takes a free one (default 4411)
   --scenario NAME      what the agent holds: default, empty, central, notebook,
-                       first-run, unix or large
+                       first-run, unix or large; or, to restore and to delete,
+                       generations (files of two years, some of them gone),
+                       groups (entries that can't be chosen themselves),
+                       shares (whose names collide), failing (folders that
+                       can't be read), many-files (100,000 in one folder),
+                       deep (60 folders, one in the other), or storages, with
+                       a set of each of these
   --client-type NUMBER
                        the agent's kind, in place of the scenario's: 8 and 9
                        are mobile, 14 is a notebook

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "simulator/remote/backup_set.h"
 
+#include <initializer_list>
 #include <utility>
 
 #include "simulator/remote/backup_set_credentials.h"
@@ -12,11 +13,22 @@
 #include "simulator/remote/generic_activity.h"
 #include "simulator/remote/retention_rule.h"
 #include "simulator/remote/schedule.h"
+#include "simulator/world/set_storage.h"
 
 namespace simulator {
 
 using hessiancln::backup_set_overview_info;
 using hessiancln::backup_set_status;
+
+namespace {
+
+void requireTimes(std::initializer_list<std::int32_t> times) {
+    for (const std::int32_t time : times)
+        if (time < 0)
+            throw Violation("no backup was made at the time " + std::to_string(time));
+}
+
+} // namespace
 
 BackupSet::BackupSet(std::shared_ptr<Session> opened, World& world, World::Set set)
     : Servant(std::move(opened))
@@ -110,6 +122,7 @@ void BackupSet::offerActivities() {
 
 void BackupSet::offerViews() {
     on("prepare_restore", [this](std::int32_t from, std::int32_t to, std::int32_t removedBefore) {
+        requireTimes({from, to, removedBefore});
         storageOf(*set_, seconds(world_.now()));
         StoredFilter filter{from, to};
         filter.removedBefore = removedBefore;
@@ -119,6 +132,9 @@ void BackupSet::offerViews() {
                                 std::int32_t keepLast, std::int32_t mode) {
         if (mode != 0)
             throw Refusal("There is no way " + std::to_string(mode) + " to delete.");
+        if (keepLast < 0)
+            throw Violation("generations can't be counted back to " + std::to_string(keepLast));
+        requireTimes({from, to, removedSince});
         storageOf(*set_, seconds(world_.now()));
         StoredFilter filter{from, to};
         filter.removedSince = removedSince;

@@ -3,6 +3,7 @@
 #include "simulator/remote/backup_set_data_view.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 #include "simulator/remote/prepared_activities.h"
@@ -19,10 +20,11 @@ BackupSetDataView::BackupSetDataView(std::shared_ptr<Session> opened, World& wor
     : Servant(std::move(opened))
     , world_(world)
     , set_(std::move(set))
-    , filter_(filter) {
+    , filter_(filter)
+    , lastId_(world.idsPerView * ++world.views) {
     implements(className);
     on("getSubItems", [this](std::int64_t id) { return list(id); });
-    on("getItemGenerations", [this](std::int64_t id) { return filter_.generationsOf(at(id)); });
+    on("getItemGenerations", [this](std::int64_t id) { return generations(id); });
 }
 
 StoredNode& BackupSetDataView::at(std::int64_t id) const {
@@ -30,7 +32,7 @@ StoredNode& BackupSetDataView::at(std::int64_t id) const {
         return set_->stored->root();
     const auto found = items_.find(id);
     if (found == items_.end())
-        throw Refusal("The view has no item with the id " + std::to_string(id) + ".");
+        throw Violation("the view has no item with the id " + std::to_string(id));
     return *found->second;
 }
 
@@ -62,26 +64,46 @@ std::vector<hessiancln::SelectableItem> BackupSetDataView::list(std::int64_t id)
     return list;
 }
 
-std::vector<StoredNode::Pointer>
-BackupSetDataView::chosen(const std::vector<std::int64_t>& ids) const {
+std::vector<StoredGeneration> BackupSetDataView::generations(std::int64_t id) const {
+    const StoredNode& file = at(id);
+    if (!file.isFile)
+        throw Violation("a folder is asked for its generations");
+    if (!file.denied.empty())
+        throw Refusal(file.denied);
+    auto list = filter_.generationsOf(file);
+    // In no order, as an agent's database has them.
+    std::rotate(list.begin(), list.begin() + static_cast<std::ptrdiff_t>(list.size() / 2),
+                list.end());
+    return list;
+}
+
+Chosen BackupSetDataView::chosen(const std::vector<std::int64_t>& ids) const {
     if (ids.empty())
         throw Violation("nothing is chosen");
-    std::vector<StoredNode::Pointer> nodes;
+    Chosen chosen{{}, {}, filter_};
+    std::set<std::int64_t> seen;
     for (const std::int64_t id : ids) {
         const auto found = items_.find(id);
         if (id < 1 || found == items_.end())
             throw Violation("the item " + std::to_string(id) + " can't be chosen");
-        nodes.push_back(found->second);
+        if (!seen.insert(id).second)
+            throw Violation("the item " + std::to_string(id) + " is chosen twice");
+        chosen.nodes.push_back(found->second);
     }
-    return nodes;
+    chosen.places = placesOf(set_->stored->root(), chosen.nodes);
+    for (const StoredPlace& place : chosen.places)
+        if (place.inAnother)
+            throw Violation("'" + place.node->name + "' lies in something that is chosen as well");
+    if (chosen.places.size() != chosen.nodes.size())
+        throw Refusal("Something that was chosen is no longer there.");
+    return chosen;
 }
 
 BackupSetDeleteView::BackupSetDeleteView(std::shared_ptr<Session> opened, World& world,
                                          World::Set set, const StoredFilter& filter)
     : BackupSetDataView(std::move(opened), world, std::move(set), filter, "BackupSetDeleteView") {
     on("prepareDelete", [this](const std::vector<std::int64_t>& ids) {
-        return std::make_shared<DeleteActivityInitiator>(session(), world_, set_,
-                                                         Chosen{chosen(ids), filter_});
+        return std::make_shared<DeleteActivityInitiator>(session(), world_, set_, chosen(ids));
     });
 }
 
@@ -89,33 +111,8 @@ BackupSetRestoreView::BackupSetRestoreView(std::shared_ptr<Session> opened, Worl
                                            World::Set set, const StoredFilter& filter)
     : BackupSetDataView(std::move(opened), world, std::move(set), filter, "BackupSetRestoreView") {
     on("prepareRestore", [this](const std::vector<std::int64_t>& ids) {
-        return std::make_shared<RestoreActivityInitiator>(session(), world_, set_,
-                                                          Chosen{chosen(ids), filter_});
+        return std::make_shared<RestoreActivityInitiator>(session(), world_, set_, chosen(ids));
     });
-}
-
-StoredData& storageOf(BackupSetState& set, std::int32_t now) {
-    if (set.stored)
-        return *set.stored;
-    std::vector<std::string> folders;
-    for (const ItemState& item : set.items)
-        if (item.kind == ItemState::Kind::Inclusion)
-            folders.push_back(item.folder);
-    while (!folders.empty() && folders.back().ends_with('\\'))
-        folders.back().pop_back();
-    if (folders.empty())
-        folders.push_back("C:\\Data");
-    if (set.info.online_file_count == 0)
-        folders.clear();
-    std::vector<std::int32_t> times;
-    std::vector<hessiancln::backup_sessions> older;
-    for (const std::int32_t time : folders.empty() ? times : backupsOfTwoYears(now))
-        older.push_back({time - 600, time, 120, 96'000'000, 0});
-    set.sessions.insert(set.sessions.begin(), older.begin(), older.end());
-    for (const auto& session : set.sessions)
-        times.push_back(session.end_time);
-    set.stored = inventStorage(folders, times);
-    return *set.stored;
 }
 
 } // namespace simulator

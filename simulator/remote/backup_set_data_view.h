@@ -14,15 +14,18 @@
 
 namespace simulator {
 
+struct Chosen;
+
 /// What a set holds, for one choice of filter values. Each view gives ids of its own, in the order
-/// in which things are listed.
+/// in which things are listed; they follow those of the view before only if the world wants it.
 class BackupSetDataView : public Servant {
 protected:
     BackupSetDataView(std::shared_ptr<Session> opened, World& world, World::Set set,
                       const StoredFilter& filter, const std::string& className);
 
-    /// Raises `Refusal` for an id that names nothing to choose, and if there are none.
-    std::vector<StoredNode::Pointer> chosen(const std::vector<std::int64_t>& ids) const;
+    /// Raises `Violation` for an id that names nothing to choose, for what is chosen twice or lies
+    /// in something else that is, and if there are none. Raises `Refusal` for what has gone.
+    Chosen chosen(const std::vector<std::int64_t>& ids) const;
 
     World& world_;
     World::Set set_;
@@ -30,12 +33,13 @@ protected:
 
 private:
     std::vector<hessiancln::SelectableItem> list(std::int64_t id);
+    std::vector<StoredGeneration> generations(std::int64_t id) const;
     StoredNode& at(std::int64_t id) const;
     std::int64_t idOf(const StoredNode::Pointer& node);
 
     std::map<std::int64_t, StoredNode::Pointer> items_;
     std::map<const StoredNode*, std::int64_t> ids_;
-    std::int64_t lastId_ = 0;
+    std::int64_t lastId_;
     std::int64_t nextGroup_ = 0;
 };
 
@@ -50,9 +54,5 @@ public:
     BackupSetRestoreView(std::shared_ptr<Session> opened, World& world, World::Set set,
                          const StoredFilter& filter);
 };
-
-/// What the set holds in storage. It is made up when somebody first asks; the set's sessions then
-/// reach back as far as its generations.
-StoredData& storageOf(BackupSetState& set, std::int32_t now);
 
 } // namespace simulator

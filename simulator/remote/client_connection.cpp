@@ -36,6 +36,9 @@ ClientConnection::ClientConnection(std::shared_ptr<Session> opened, World& world
 
     on("addBackupSet", [this](const std::shared_ptr<BackupSet>& set) { add(set->set()); });
     on("removeBackupSet", [this](const std::shared_ptr<BackupSet>& set) {
+        if (world_.set(set->set()->info.id) != set->set())
+            throw Refusal("There is no such backup set to remove.");
+        world_.spendCode();
         const auto id = world_.start(world_.removalOf(set->set(), session()->user));
         return std::make_shared<GenericActivity>(session(), world_, id);
     });

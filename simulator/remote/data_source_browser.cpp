@@ -90,12 +90,16 @@ void DataSourceBrowser::offerCredentials() {
     on("neededCredentials", [this](const std::string& computer) { return fresh(computer); });
 }
 
-std::vector<hessiancln::browse_item_info> DataSourceBrowser::list(const std::string& computer,
-                                                                  const std::string& path) const {
+void DataSourceBrowser::requireAccess(const std::string& computer) const {
     const Network::Computer source = world_.network.computer(computer);
     if (!source->local)
         logIn(*current_, *source);
-    return source->folders.list(path);
+}
+
+std::vector<hessiancln::browse_item_info> DataSourceBrowser::list(const std::string& computer,
+                                                                  const std::string& path) const {
+    requireAccess(computer);
+    return world_.network.computer(computer)->folders.list(path);
 }
 
 std::shared_ptr<BackupSetCredentials> DataSourceBrowser::fresh(const std::string& computer) {

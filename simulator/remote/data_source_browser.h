@@ -23,6 +23,9 @@ public:
     /// The login begins as a set has it.
     DataSourceBrowser(std::shared_ptr<Session> opened, World& world, CredentialsState current);
 
+    /// Raises `Refusal` if nobody knows the computer, or the login isn't good enough for it.
+    void requireAccess(const std::string& computer) const;
+
 protected:
     const CredentialsState& current() const { return *current_; }
 
@@ -35,7 +38,7 @@ private:
     void offerItems();
     void offerCredentials();
 
-    /// Raises `Refusal` if the login isn't good enough to look into that computer.
+    /// Raises what `requireAccess` does.
     std::vector<hessiancln::browse_item_info> list(const std::string& computer,
                                                    const std::string& path) const;
     std::shared_ptr<BackupSetCredentials> fresh(const std::string& computer);

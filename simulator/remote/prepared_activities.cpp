@@ -2,110 +2,124 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "simulator/remote/prepared_activities.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "simulator/remote/data_source_browser.h"
 #include "simulator/remote/generic_activity.h"
+#include "simulator/remote/restore_destination.h"
+#include "simulator/world/set_storage.h"
 
 namespace simulator {
 namespace {
 
 using hessiancln::ActivityType;
 
-ActivityPlan planOf(ActivityType type, World& world, const World::Set& set, const Chosen& chosen,
-                    const std::string& user) {
-    const StoredAmount amount = amountOf(chosen.nodes, chosen.filter);
-    ActivityPlan plan;
-    plan.type = type;
-    plan.description = set->info.name;
-    plan.user = user;
-    plan.set_id = set->info.id;
-    plan.files = amount.files;
-    plan.bytes = amount.bytes;
-    plan.duration = world.random().between(15, 40) * 1000;
-    return plan;
-}
-
 bool wasStopped(const hessiancln::activity_log_info& row) {
     return row.completion == hessiancln::ActivityCompletion(Ending::Stopped);
 }
 
-void takeOut(BackupSetState& set, const Chosen& chosen) {
-    const StoredAmount amount = amountOf(chosen.nodes, chosen.filter);
-    erase(*set.stored, chosen.nodes, chosen.filter);
-    auto& info = set.info;
-    const bool nothingLeft = set.stored->root().children.empty();
-    info.online_file_count = nothingLeft ? 0 : std::max(info.online_file_count - amount.files, 1);
-    info.online_data_size =
-        nothingLeft ? 0 : std::max<std::int64_t>(info.online_data_size - amount.bytes, 1);
-    info.tarnsys_compressed_size = info.online_data_size * 58 / 100;
-}
-
-/// The way from the top down to the node; empty if it isn't there.
-std::vector<const StoredNode*> wayTo(const StoredNode& top, const StoredNode& node) {
-    for (const auto& child : top.children) {
-        if (child.get() == &node)
-            return {child.get()};
-        auto way = wayTo(*child, node);
-        if (!way.empty()) {
-            way.insert(way.begin(), child.get());
-            return way;
-        }
+std::vector<std::string> directoriesOf(const std::vector<StoredPlace>& places) {
+    std::vector<std::string> directories;
+    for (const StoredPlace& place : places) {
+        std::string path = place.share;
+        for (const std::string& folder : place.folders)
+            path += "\\" + folder;
+        if (directories.empty() || directories.back() != path)
+            directories.push_back(std::move(path));
     }
-    return {};
+    return directories;
 }
 
 } // namespace
 
+PreparedActivity::PreparedActivity(std::shared_ptr<Session> opened, World& world, World::Set set,
+                                   Chosen chosen)
+    : Servant(std::move(opened))
+    , world_(world)
+    , set_(std::move(set))
+    , chosen_(std::move(chosen)) {}
+
+void PreparedActivity::requireReady() const {
+    if (started_)
+        throw Violation("it has started already");
+    if (world_.set(set_->info.id) != set_)
+        throw Refusal("The backup set '" + set_->info.name + "' has gone.");
+}
+
+ActivityPlan PreparedActivity::planOf(ActivityType type) {
+    const StoredAmount amount = amountOf(chosen_.nodes, chosen_.filter);
+    ActivityPlan plan;
+    plan.type = type;
+    plan.description = set_->info.name;
+    plan.user = session()->user;
+    plan.set_id = set_->info.id;
+    plan.files = amount.files;
+    plan.bytes = amount.bytes;
+    plan.directories = directoriesOf(chosen_.places);
+    plan.duration = world_.random().between(15, 40) * 1000;
+    return plan;
+}
+
+std::shared_ptr<Servant> PreparedActivity::begin(ActivityPlan plan) {
+    started_ = true;
+    return std::make_shared<GenericActivity>(session(), world_, world_.start(std::move(plan)));
+}
+
 DeleteActivityInitiator::DeleteActivityInitiator(std::shared_ptr<Session> opened, World& world,
                                                  World::Set set, Chosen chosen)
-    : Servant(std::move(opened)) {
+    : PreparedActivity(std::move(opened), world, std::move(set), std::move(chosen)) {
     implements("DeleteActivityInitiator");
-    on("start", [this, &world, set = std::move(set), chosen = std::move(chosen)] {
-        ActivityPlan plan = planOf(ActivityType::Delete, world, set, chosen, session()->user);
-        plan.ended = [set, chosen](const hessiancln::activity_log_info& row) {
-            if (!wasStopped(row))
-                takeOut(*set, chosen);
-        };
-        return std::make_shared<GenericActivity>(session(), world, world.start(std::move(plan)));
-    });
+    on("start", [this] { return start(); });
+}
+
+std::shared_ptr<Servant> DeleteActivityInitiator::start() {
+    requireReady();
+    world_.spendCode();
+    ActivityPlan plan = planOf(ActivityType::Delete);
+    plan.ended = [set = set_, chosen = chosen_](const hessiancln::activity_log_info& row) {
+        if (!wasStopped(row))
+            takeOut(*set, chosen.nodes, chosen.filter);
+    };
+    return begin(std::move(plan));
 }
 
 RestoreActivityInitiator::RestoreActivityInitiator(std::shared_ptr<Session> opened, World& world,
                                                    World::Set set, Chosen chosen)
-    : Servant(std::move(opened))
-    , set_(std::move(set))
-    , chosen_(std::move(chosen)) {
+    : PreparedActivity(std::move(opened), world, std::move(set), std::move(chosen)) {
     implements("RestoreActivityInitiator");
-    on("selected_shares", [this] { return shares(); });
-    on("setRestoreReason", [](std::int32_t) {});
-    on("start", [this, &world](const Nullable<DataSourceBrowser>&, const std::string&,
-                               const std::vector<hessiancln::share_mapping>&, std::int32_t) {
-        ActivityPlan plan = planOf(ActivityType::Restore, world, set_, chosen_, session()->user);
-        return std::make_shared<GenericActivity>(session(), world, world.start(std::move(plan)));
+    on("selected_shares", [this] { return sharesOf(chosen_.places); });
+    on("setRestoreReason", [this](std::int32_t code) {
+        checkReason(code);
+        hasReason_ = true;
     });
+    on("start",
+       [this](const Nullable<DataSourceBrowser>& browser, const std::string& computer,
+              const std::vector<hessiancln::share_mapping>& mappings, std::int32_t truncateLevel) {
+           return start(browser, computer, mappings, truncateLevel);
+       });
 }
 
-std::vector<hessiancln::selected_shares> RestoreActivityInitiator::shares() const {
-    std::vector<hessiancln::selected_shares> list;
-    for (const auto& node : chosen_.nodes) {
-        const auto way = wayTo(set_->stored->root(), *node);
-        const auto share = std::find_if(way.begin(), way.end(),
-                                        [](const StoredNode* one) { return !one->isGroup; });
-        if (share == way.end())
-            continue;
-        const std::string& name = (*share)->name;
-        const bool known = std::any_of(list.begin(), list.end(),
-                                       [&](const auto& one) { return one.share_name == name; });
-        if (known)
-            continue;
-        std::string path = name;
-        for (auto level = share + 1; level < way.end() && level + 1 < way.end(); ++level)
-            path += "\\" + (*level)->name;
-        list.push_back({name, path});
-    }
-    return list;
+std::shared_ptr<Servant> RestoreActivityInitiator::start(
+    const Nullable<DataSourceBrowser>& browser, const std::string& computer,
+    const std::vector<hessiancln::share_mapping>& mappings, std::int32_t truncateLevel) {
+    requireReady();
+    if (!hasReason_)
+        throw Violation("a restore needs a reason");
+    if (!browser.object)
+        throw Violation("a restore needs a browser");
+    if (browser.object->session() != session())
+        throw Violation("the browser belongs to another session");
+    checkMappings(sharesOf(chosen_.places), mappings, truncateLevel);
+    const std::string& source = set_->source.empty() ? set_->info.computer : set_->source;
+    if (mappings.empty() && !world_.network.same(computer, source))
+        throw Violation("a restore to '" + computer + "' needs to know where");
+    if (!mappings.empty())
+        browser.object->requireAccess(computer);
+    for (const auto& mapping : mappings)
+        checkDestination(*world_.network.computer(computer), mapping.destination_path);
+    ActivityPlan plan = planOf(ActivityType::Restore);
+    plan.errors = amountOf(chosen_.nodes, chosen_.filter).closedFolders;
+    return begin(std::move(plan));
 }
 
 } // namespace simulator

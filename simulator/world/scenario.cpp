@@ -10,7 +10,9 @@
 #include "simulator/world/history.h"
 #include "simulator/world/names.h"
 #include "simulator/world/plans.h"
+#include "simulator/world/set_storage.h"
 #include "simulator/world/sources.h"
+#include "simulator/world/storages.h"
 #include "simulator/world/world.h"
 
 namespace simulator {
@@ -25,7 +27,7 @@ constexpr Milliseconds quarterOfAnHour = Milliseconds{15} * 60 * 1000;
 constexpr std::int64_t mebibyte = 1 << 20;
 constexpr std::int64_t gibibyte = 1 << 30;
 
-constexpr std::array<std::pair<std::string_view, Scenario>, 7> names{{
+constexpr std::array<std::pair<std::string_view, Scenario>, 14> names{{
     {"default", Scenario::Default},
     {"empty", Scenario::Empty},
     {"central", Scenario::Central},
@@ -33,6 +35,13 @@ constexpr std::array<std::pair<std::string_view, Scenario>, 7> names{{
     {"first-run", Scenario::FirstRun},
     {"unix", Scenario::Unix},
     {"large", Scenario::Large},
+    {"generations", Scenario::Generations},
+    {"groups", Scenario::Groups},
+    {"shares", Scenario::Shares},
+    {"failing", Scenario::Failing},
+    {"many-files", Scenario::ManyFiles},
+    {"deep", Scenario::Deep},
+    {"storages", Scenario::Storages},
 }};
 
 /// What a set starts with; the rest follows.
@@ -254,6 +263,27 @@ void populateLarge(World& world) {
     history.write();
 }
 
+void addStoredSet(World& world, Storage storage) {
+    auto set = describedSet(world, {std::string(nameOf(storage)), {"C:", "D:"}, 0, 0});
+    const auto backups = backupTimes(seconds(world.now()));
+    set.stored = makeStorage(storage, backups);
+    takeFigures(set);
+    const auto& info = set.info;
+    for (const std::int32_t time : backups)
+        set.sessions.push_back(
+            {time - 600, time, info.online_file_count, info.online_data_size, 0});
+    set.info.last_backup = set.info.last_successful_backup = backups.back();
+    set.info.last_sync_time = backups.back();
+    world.addSet(std::move(set));
+}
+
+void populateStored(World& world, const std::vector<Storage>& storages) {
+    describeAgent(world, false, false);
+    world.idsPerView = std::int64_t{1} << 32;
+    for (const Storage storage : storages)
+        addStoredSet(world, storage);
+}
+
 void populateBare(World& world, bool firstRun) {
     describeAgent(world, false, firstRun);
     if (firstRun)
@@ -261,6 +291,10 @@ void populateBare(World& world, bool firstRun) {
 }
 
 } // namespace
+
+std::vector<std::pair<std::string_view, Scenario>> allScenarios() {
+    return {names.begin(), names.end()};
+}
 
 std::optional<Scenario> scenarioNamed(std::string_view name) {
     for (const auto& [known, scenario] : names)
@@ -291,6 +325,20 @@ void populate(World& world, Scenario scenario, std::optional<std::int32_t> osTyp
         return populateBare(world, false);
     case Scenario::FirstRun:
         return populateBare(world, true);
+    case Scenario::Generations:
+        return populateStored(world, {Storage::Generations});
+    case Scenario::Groups:
+        return populateStored(world, {Storage::Groups});
+    case Scenario::Shares:
+        return populateStored(world, {Storage::Shares});
+    case Scenario::Failing:
+        return populateStored(world, {Storage::Failing});
+    case Scenario::ManyFiles:
+        return populateStored(world, {Storage::ManyFiles});
+    case Scenario::Deep:
+        return populateStored(world, {Storage::Deep});
+    case Scenario::Storages:
+        return populateStored(world, {allStorages.begin(), allStorages.end()});
     }
 }
 

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <optional>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace simulator {
 
@@ -17,9 +19,21 @@ enum class Scenario {
     FirstRun, ///< never configured
     Unix,     ///< an agent on a Unix computer
     Large,    ///< 2,000 sets and 100,000 rows in the activity log
+    // What sets hold in storage: one set, as `Storage` tells it. Ids don't fit 32 bits, and those
+    // of one view mean nothing to the next.
+    Generations,
+    Groups,
+    Shares,
+    Failing,
+    ManyFiles,
+    Deep,
+    Storages, ///< one set of each of them
 };
 
-/// By the names of the command line: "default", "first-run" and so on.
+/// All of them, by the names of the command line: "default", "first-run" and so on.
+std::vector<std::pair<std::string_view, Scenario>> allScenarios();
+
+/// By its name on the command line.
 std::optional<Scenario> scenarioNamed(std::string_view name);
 
 class World;

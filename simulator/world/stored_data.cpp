@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <functional>
+#include <unordered_set>
 #include <utility>
 
 namespace simulator {
@@ -14,26 +15,20 @@ using Type = hessiancln::SelectableItemType;
 
 constexpr std::int32_t secondsADay = 86'400;
 
-StoredNode& childOf(StoredNode& parent, std::string_view name, Type type) {
-    for (const auto& child : parent.children)
-        if (child->name == name)
-            return *child;
-    auto child = std::make_shared<StoredNode>();
-    child->name = name;
-    child->type = type;
-    return *parent.children.emplace_back(std::move(child));
-}
-
-/// Visits the files of a view, in the order of the storage.
-void eachFile(StoredNode& top, const std::function<void(StoredNode&)>& visit) {
-    std::vector<StoredNode*> waiting{&top};
+/// Visits these and all below them, in the order of the storage.
+void eachNode(const std::vector<StoredNode::Pointer>& nodes,
+              const std::function<void(StoredNode&)>& visit) {
+    std::vector<StoredNode*> waiting;
+    const auto queue = [&waiting](const std::vector<StoredNode::Pointer>& list) {
+        for (auto node = list.rbegin(); node != list.rend(); ++node)
+            waiting.push_back(node->get());
+    };
+    queue(nodes);
     while (!waiting.empty()) {
         StoredNode& node = *waiting.back();
         waiting.pop_back();
-        if (node.isFile)
-            visit(node);
-        for (auto child = node.children.rbegin(); child != node.children.rend(); ++child)
-            waiting.push_back(child->get());
+        queue(node.children);
+        visit(node);
     }
 }
 
@@ -45,6 +40,46 @@ void prune(StoredNode& folder) {
         return child->children.empty() && child->denied.empty();
     });
 }
+
+/// Looks for nodes below a folder, and remembers the way to it.
+class Search {
+public:
+    explicit Search(const std::vector<StoredNode::Pointer>& nodes) {
+        for (const auto& node : nodes)
+            wanted_.insert(node.get());
+    }
+
+    void look(const StoredNode& folder, bool inAnother) {
+        for (const auto& child : folder.children) {
+            const bool found = wanted_.count(child.get()) != 0;
+            if (found)
+                places.push_back({child, share_ ? *share_ : child->name, way_, inAnother});
+            if (!child->children.empty())
+                goInto(*child, found || inAnother);
+        }
+    }
+
+    std::vector<StoredPlace> places;
+
+private:
+    void goInto(const StoredNode& child, bool inAnother) {
+        const bool isShare = !child.isGroup && !share_;
+        const bool isFolder = !child.isGroup && share_;
+        if (isShare)
+            share_ = &child.name;
+        if (isFolder)
+            way_.push_back(child.name);
+        look(child, inAnother);
+        if (isFolder)
+            way_.pop_back();
+        if (isShare)
+            share_ = nullptr;
+    }
+
+    std::unordered_set<const StoredNode*> wanted_;
+    const std::string* share_ = nullptr;
+    std::vector<std::string> way_;
+};
 
 bool among(const std::vector<StoredGeneration>& generations, std::int32_t time) {
     return std::any_of(generations.begin(), generations.end(),
@@ -76,12 +111,22 @@ bool StoredFilter::shows(const StoredNode& node) const {
                        [this](const StoredNode::Pointer& child) { return shows(*child); });
 }
 
+StoredNode& StoredNode::child(std::string_view childName, Type childType) {
+    for (const auto& known : children)
+        if (known->name == childName)
+            return *known;
+    auto made = std::make_shared<StoredNode>();
+    made->name = childName;
+    made->type = childType;
+    return *children.emplace_back(std::move(made));
+}
+
 StoredNode& StoredData::addFolder(std::string_view path) {
     StoredNode* node = &root_;
     Type type = Type::Drive;
     for (std::size_t begin = 0; begin <= path.size();) {
         const std::size_t end = std::min(path.find('\\', begin), path.size());
-        node = &childOf(*node, path.substr(begin, end - begin), type);
+        node = &node->child(path.substr(begin, end - begin), type);
         type = Type::Folder;
         begin = end + 1;
     }
@@ -90,7 +135,7 @@ StoredNode& StoredData::addFolder(std::string_view path) {
 
 StoredNode& StoredData::addFile(std::string_view path, std::vector<StoredGeneration> generations) {
     const std::size_t end = path.rfind('\\');
-    StoredNode& file = childOf(addFolder(path.substr(0, end)), path.substr(end + 1), Type::File);
+    StoredNode& file = addFolder(path.substr(0, end)).child(path.substr(end + 1), Type::File);
     file.isFile = true;
     file.generations = std::move(generations);
     return file;
@@ -98,25 +143,40 @@ StoredNode& StoredData::addFile(std::string_view path, std::vector<StoredGenerat
 
 StoredAmount amountOf(const std::vector<StoredNode::Pointer>& nodes, const StoredFilter& filter) {
     StoredAmount amount;
-    for (const auto& node : nodes)
-        eachFile(*node, [&](const StoredNode& file) {
-            const auto generations = filter.generationsOf(file);
-            amount.files += generations.empty() ? 0 : 1;
-            for (const auto& one : generations)
-                amount.bytes += one.data_size;
-        });
+    eachNode(nodes, [&](const StoredNode& node) {
+        amount.closedFolders += node.isFile || node.denied.empty() ? 0 : 1;
+        const auto generations = filter.generationsOf(node);
+        if (generations.empty())
+            return;
+        const auto count = static_cast<std::int32_t>(generations.size());
+        amount.leastGenerations =
+            amount.files == 0 ? count : std::min(amount.leastGenerations, count);
+        amount.mostGenerations = std::max(amount.mostGenerations, count);
+        ++amount.files;
+        for (const auto& one : generations) {
+            amount.bytes += one.data_size;
+            amount.storedBytes += one.stream_size;
+        }
+    });
     return amount;
+}
+
+std::vector<StoredPlace> placesOf(const StoredNode& root,
+                                  const std::vector<StoredNode::Pointer>& nodes) {
+    Search search(nodes);
+    search.look(root, false);
+    return std::move(search.places);
 }
 
 void erase(StoredData& data, const std::vector<StoredNode::Pointer>& nodes,
            const StoredFilter& filter) {
-    for (const auto& node : nodes)
-        eachFile(*node, [&](StoredNode& file) {
-            const auto doomed = filter.generationsOf(file);
-            std::erase_if(file.generations, [&](const StoredGeneration& one) {
-                return among(doomed, one.backup_time);
-            });
-        });
+    eachNode(nodes, [&](StoredNode& node) {
+        if (!node.isFile && filter == StoredFilter())
+            node.denied.clear();
+        const auto doomed = filter.generationsOf(node);
+        std::erase_if(node.generations,
+                      [&](const StoredGeneration& one) { return among(doomed, one.backup_time); });
+    });
     prune(data.root());
 }
 
@@ -150,6 +210,8 @@ void addFiles(StoredData& data, const std::string& folder,
     data.addFile(folder + "\\Photos\\IMG_0412.jpg", versions(backups, all, all, 3'870'221));
     data.addFile(folder + "\\Photos\\IMG_0413.jpg", versions(backups, all, all, 4'011'907));
     data.addFile(folder + "\\Letters\\2025\\Offer.docx", versions(backups, 2, all, 61'440));
+    if (all < 2)
+        return;
     // Half-way through, somebody tidied up.
     const std::size_t half = (all + 1) / 2;
     for (const char* const name : {"\\Draft.odt", "\\Letters\\Old offer.docx"})
@@ -158,6 +220,20 @@ void addFiles(StoredData& data, const std::string& folder,
 }
 
 } // namespace
+
+void addBackup(StoredData& data, const std::vector<std::string>& folders, std::int32_t time) {
+    if (data.root().children.empty())
+        for (const std::string& folder : folders)
+            addFiles(data, folder, {time});
+    eachNode(data.root().children, [time](StoredNode& node) {
+        if (node.generations.size() < 2 || node.removed != 0)
+            return;
+        StoredGeneration next = node.generations.back();
+        next.modification_time = time - 5'400;
+        next.backup_time = time;
+        node.generations.push_back(next);
+    });
+}
 
 std::shared_ptr<StoredData> inventStorage(const std::vector<std::string>& folders,
                                           const std::vector<std::int32_t>& backups) {

@@ -5,7 +5,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "simulator/objects/failures.h"
 #include "simulator/world/names.h"
+#include "simulator/world/set_storage.h"
 
 namespace simulator {
 
@@ -47,6 +49,12 @@ void World::advance() {
             return;
         end(next, next->end(), false);
     }
+}
+
+void World::spendCode() {
+    constexpr std::int32_t modeOfSets = 2;
+    if (twoFactor && validatedCodes.erase(modeOfSets) == 0)
+        throw Refusal("A deletion needs an authentication code.");
 }
 
 void World::keepBusy(Milliseconds every) {
@@ -243,6 +251,7 @@ ActivityPlan World::backupOf(const Set& set, const std::string& user) {
         set->mostGenerations += 1;
         set->sessions.push_back(
             {row.start_time, row.end_time, row.file_count, row.data_size, row.id});
+        storeBackup(*set, row.end_time);
     };
     return plan;
 }

@@ -67,6 +67,13 @@ public:
     std::set<std::int32_t> requestedCodes; ///< the modes for which a code is under way
     std::set<std::int32_t> validatedCodes; ///< the modes for which it came back
     std::vector<hessiancln::user_email> userEmails;
+    /// Takes the code that came back for a deletion. Raises `Refusal` if two-factor authentication
+    /// is on and there is none.
+    void spendCode();
+
+    /// So far apart begin the ids of two views of a set; with 0 each begins at 1.
+    std::int64_t idsPerView = 0;
+    std::int64_t views = 0; ///< that were handed out
 
     Network network;
     Catalogue<ScheduleState> schedules;

@@ -65,7 +65,11 @@ TEST(Options, KnowsEachScenario) {
         {"default", Scenario::Default},    {"empty", Scenario::Empty},
         {"central", Scenario::Central},    {"notebook", Scenario::Notebook},
         {"first-run", Scenario::FirstRun}, {"unix", Scenario::Unix},
-        {"large", Scenario::Large}};
+        {"large", Scenario::Large},        {"generations", Scenario::Generations},
+        {"groups", Scenario::Groups},      {"shares", Scenario::Shares},
+        {"failing", Scenario::Failing},    {"many-files", Scenario::ManyFiles},
+        {"deep", Scenario::Deep},          {"storages", Scenario::Storages}};
+    EXPECT_EQ(simulator::allScenarios().size(), scenarios.size());
     for (const auto& [name, scenario] : scenarios)
         EXPECT_EQ(parseCommandLine({"--scenario", name}).options.scenario, scenario) << name;
 }
@@ -80,6 +84,11 @@ TEST(Options, HelpTellsEachOne) {
                                "--no-guest", "--speed", "--log", "--plain", "--help", "--version",
                                "--client-type", "--os-type", "--without-tool", "--two-factor"})
         EXPECT_NE(simulator::helpText().find(option), std::string_view::npos) << option;
+}
+
+TEST(Options, HelpTellsEachScenario) {
+    for (const auto& [name, scenario] : simulator::allScenarios())
+        EXPECT_NE(simulator::helpText().find(name), std::string_view::npos) << name;
 }
 
 TEST(Options, SaysWhatIsWrong) {

@@ -171,7 +171,6 @@ TEST_F(Views, TellGenerationsWithinTheFilter) {
 
 TEST_F(Views, RefuseWhatTheyHaveNot) {
     const std::string view = deleteView();
-    EXPECT_EQ(refusalOf(subItems(view, 77)), "The view has no item with the id 77.");
     agent_->withWorld(
         [](World& world) { world.set(1)->stored->addFolder("C:\\docs").denied = "Keep out."; });
     subItems(view, -1);
@@ -221,26 +220,135 @@ TEST_F(Views, ASetOfWhichAllIsDeletedHoldsNothing) {
     EXPECT_EQ(subItems(deleteView(), -1), raw::reply(raw::list({})));
 }
 
-TEST_F(Views, ARestoreKnowsItsSharesAndChangesNothing) {
-    const std::string view = restoreView();
+TEST_F(Views, OnlyFilesWithoutAnyGenerationLeftAreNoLongerCounted) {
+    const auto no = raw::int32(0);
+    const std::string view = getFrom(set_, "prepare_delete", no + raw::int32(10) + no + no + no);
     subItems(view, -1);
-    subItems(view, 0);
-    subItems(view, 1);
-    subItems(view, 3);
-    const std::string ready =
-        getFrom(view, "prepareRestore", raw::list({raw::int64(3), raw::int64(2)}));
-    EXPECT_THAT(callOn(ready, "selected_shares"), HasSubstr(raw::text("C:")));
-    EXPECT_THAT(callOn(ready, "selected_shares"), HasSubstr(raw::text("Team")));
-    callOn(ready, "setRestoreReason", raw::int32(1));
-    EXPECT_THAT(callOn(ready, "start", "N" + raw::text("pc") + raw::list({}) + raw::int32(0)),
-                HasSubstr("GenericActivity"));
+    callOn(getFrom(view, "prepareDelete", raw::list({raw::int64(1)})), "start");
     pass(3'600'000);
     call("running_activities");
-    EXPECT_EQ(files(), 3);
+    EXPECT_EQ(files(), 2);
     agent_->withWorld([](World& world) {
-        EXPECT_EQ(world.lastActivity(1, hessiancln::ActivityType::Restore).file_count, 2);
+        const auto& set = *world.set(1);
+        EXPECT_EQ(set.info.online_data_size, 200);
+        EXPECT_EQ(set.leastGenerations, 1);
+        EXPECT_EQ(set.mostGenerations, 1);
     });
     EXPECT_THAT(agent_->violations(), IsEmpty());
+}
+
+TEST_F(Views, AStoppedDeletionDeletesNothing) {
+    const std::string view = deleteView();
+    subItems(view, -1);
+    const std::string ready = getFrom(view, "prepareDelete", raw::list({raw::int64(1)}));
+    callOn(getFrom(ready, "start"), "Stop");
+    EXPECT_EQ(files(), 3);
+}
+
+TEST_F(Views, ADeletionStartsOnce) {
+    const std::string view = deleteView();
+    subItems(view, -1);
+    const std::string ready = getFrom(view, "prepareDelete", raw::list({raw::int64(1)}));
+    callOn(ready, "start");
+    callOn(ready, "start");
+    EXPECT_THAT(agent_->violations(), ElementsAre(HasSubstr("it has started already")));
+}
+
+TEST_F(Views, ADeletionNeedsTheCodeThatProtectsIt) {
+    agent_->withWorld([](World& world) { world.twoFactor = true; });
+    const std::string view = deleteView();
+    subItems(view, -1);
+    const std::string ready = getFrom(view, "prepareDelete", raw::list({raw::int64(1)}));
+    EXPECT_EQ(refusalOf(callOn(ready, "start")), "A deletion needs an authentication code.");
+    EXPECT_EQ(refusalOf(call("removeBackupSet", as("BackupSet", set_))),
+              "A deletion needs an authentication code.");
+    const std::string codes = get("getTFAManager");
+    callOn(codes, "requestCode", raw::int32(2));
+    callOn(codes, "validateCode", raw::text("314159") + raw::int32(2));
+    EXPECT_THAT(callOn(ready, "start"), HasSubstr("GenericActivity"));
+    // A code is good for one deletion.
+    EXPECT_EQ(refusalOf(call("removeBackupSet", as("BackupSet", set_))),
+              "A deletion needs an authentication code.");
+    EXPECT_THAT(agent_->violations(), IsEmpty());
+}
+
+TEST_F(Views, ASetThatHasGoneStartsNothing) {
+    const std::string view = deleteView();
+    subItems(view, -1);
+    const std::string ready = getFrom(view, "prepareDelete", raw::list({raw::int64(1)}));
+    agent_->withWorld([](World& world) { world.removeSet(1); });
+    EXPECT_EQ(refusalOf(callOn(ready, "start")), "The backup set 'Documents' has gone.");
+    EXPECT_EQ(refusalOf(call("removeBackupSet", as("BackupSet", set_))),
+              "There is no such backup set to remove.");
+}
+
+TEST_F(Views, WhatWasDeletedMeanwhileCannotBeChosen) {
+    const std::string early = deleteView();
+    subItems(early, -1);
+    callOn(getFrom(early, "prepareDelete", raw::list({raw::int64(1)})), "start");
+    pass(3'600'000);
+    call("running_activities");
+    EXPECT_EQ(refusalOf(callOn(early, "prepareDelete", raw::list({raw::int64(1)}))),
+              "Something that was chosen is no longer there.");
+}
+
+TEST_F(Views, TakeNothingTwiceAndNothingFromOtherViews) {
+    agent_->withWorld([](World& world) { world.idsPerView = 1'000; });
+    const std::string view = deleteView();
+    EXPECT_THAT(subItems(view, -1), HasSubstr(item(1'001, "C:", 0, false)));
+    subItems(view, 1'001);
+    callOn(view, "prepareDelete", raw::list({raw::int64(1'001), raw::int64(1'001)}));
+    callOn(view, "prepareDelete", raw::list({raw::int64(1'001), raw::int64(1'002)}));
+    EXPECT_THAT(subItems(restoreView(), -1), HasSubstr(item(2'001, "C:", 0, false)));
+    subItems(view, 2'001);
+    EXPECT_THAT(agent_->violations(),
+                ElementsAre(HasSubstr("the item 1001 is chosen twice"),
+                            HasSubstr("'docs' lies in something that is chosen as well"),
+                            HasSubstr("the view has no item with the id 2001")));
+}
+
+TEST_F(Views, TellTheGenerationsOfFilesOnlyAndInNoOrder) {
+    const std::string view = restoreView();
+    subItems(view, -1);
+    subItems(view, 1);
+    subItems(view, 2);
+    callOn(view, "getItemGenerations", raw::int64(1));
+    EXPECT_THAT(agent_->violations(), ElementsAre(HasSubstr("a folder is asked")));
+    const std::string reply = callOn(view, "getItemGenerations", raw::int64(4));
+    EXPECT_GT(reply.find(raw::member("backup_time", raw::int32(10))),
+              reply.find(raw::member("backup_time", raw::int32(20))));
+    agent_->withWorld([](World& world) {
+        world.set(1)->stored->root().children[0]->children[0]->children[0]->denied = "Lost.";
+    });
+    EXPECT_EQ(refusalOf(callOn(view, "getItemGenerations", raw::int64(4))), "Lost.");
+}
+
+TEST_F(Views, RefuseTimesAndCountsBelowZero) {
+    const auto no = raw::int32(0);
+    callOn(set_, "prepare_restore", no + raw::int32(-1) + no);
+    callOn(set_, "prepare_delete", no + no + no + raw::int32(-1) + no);
+    EXPECT_THAT(agent_->violations(),
+                ElementsAre(HasSubstr("at the time -1"), HasSubstr("counted back to -1")));
+    EXPECT_EQ(refusalOf(callOn(set_, "prepare_delete", no + no + no + no + raw::int32(1))),
+              "There is no way 1 to delete.");
+}
+
+TEST_F(Views, ABackupAddsAGenerationToWhatHasSeveral) {
+    const std::string view = restoreView();
+    agent_->withWorld([](World& world) {
+        const auto set = world.set(1);
+        world.start(world.backupOf(set, "anna"));
+    });
+    pass(3'600'000);
+    call("running_activities");
+    subItems(view, -1);
+    subItems(view, 1);
+    subItems(view, 2);
+    agent_->withWorld([](World& world) {
+        auto& drive = *world.set(1)->stored->root().children[0];
+        EXPECT_EQ(drive.children[0]->children[0]->generations.size(), 3u);
+        EXPECT_EQ(drive.children[1]->generations.size(), 1u);
+    });
 }
 
 TEST_F(Views, AnInventedStorageReachesBackTwoYears) {
