@@ -19,9 +19,7 @@ public:
         waitForFinished();
     }
 
-    /// Starts it with its output at hand.
     bool launch(const QString& program, const QStringList& arguments) {
-        setProcessChannelMode(QProcess::MergedChannels);
         start(program, arguments);
         return waitForStarted();
     }
