@@ -144,9 +144,11 @@ void RestoreSelectPage::letChooseGeneration(std::int64_t file, const QStringList
     SelectGenerationDlg dialog(view_->getItemGenerations(file), window());
     const Span present = span();
     dialog.generations().selectNewestInRange(present.from, present.to);
-    if (dialog.exec() != QDialog::Accepted)
+    const bool accepted = dialog.exec() == QDialog::Accepted;
+    const auto chosen = dialog.chosenTime();
+    if (!accepted || !chosen)
         return;
-    if (narrowTo(dialog))
+    if (narrowTo(*chosen, dialog.generations()))
         updateDataModel();
     const QModelIndexList folders = ui_->treeSelection->selectionModel()->selectedRows();
     if (!folders.isEmpty())
@@ -156,9 +158,8 @@ void RestoreSelectPage::letChooseGeneration(std::int64_t file, const QStringList
         model().setData(found, true, Qt::CheckStateRole);
 }
 
-bool RestoreSelectPage::narrowTo(SelectGenerationDlg& dialog) {
+bool RestoreSelectPage::narrowTo(std::int32_t chosen, const CGenerationSelectModel& generations) {
     const QScopedValueRollback<bool> suspended(suspended_, true);
-    const std::int32_t chosen = dialog.chosenTime();
     const Span present = span();
     const bool isOlder = present.from > chosen;
     if (isOlder) {
@@ -166,7 +167,7 @@ bool RestoreSelectPage::narrowTo(SelectGenerationDlg& dialog) {
         ui_->checkFrom->setChecked(true);
         ui_->dateFrom->setDateTime(QDateTime::fromSecsSinceEpoch(chosen));
     }
-    const bool isHidden = !dialog.generations().isNewestWithin(present.to, chosen);
+    const bool isHidden = !generations.isNewestWithin(present.to, chosen);
     if (isHidden) {
         switchFilterOn();
         ui_->checkTo->setChecked(true);

@@ -11,7 +11,7 @@
 
 #include "wizards/stored_items_page.h"
 
-class SelectGenerationDlg;
+class CGenerationSelectModel;
 
 namespace hessiancln {
 class BackupSet;
@@ -66,7 +66,7 @@ private:
     void switchFilterOn();
     /// Narrows the span to one whose newest generation of a file is the chosen one. Whether it was
     /// another span before.
-    bool narrowTo(SelectGenerationDlg& dialog);
+    bool narrowTo(std::int32_t chosen, const CGenerationSelectModel& generations);
     void letChooseGeneration(std::int64_t file, const QStringList& path);
 
     std::unique_ptr<Ui::RestoreSelectPage> ui_;

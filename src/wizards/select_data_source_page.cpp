@@ -224,8 +224,9 @@ void SelectDataSourcePage::enableConnectAs() {
 
 void SelectDataSourcePage::computerNameEdited() {
     // A field loses the focus to the very box that tells of its failure, and one that only shows
-    // the tree's choice when the user passes through it: nothing was typed then.
-    if (editing_ || ui_->editComputerName->isReadOnly())
+    // the tree's choice when the user passes through it: nothing was typed then. Nor in a field
+    // that isn't there, to which a wizard gives the focus nevertheless.
+    if (editing_ || ui_->editComputerName->isReadOnly() || ui_->groupDataSource->isHidden())
         return;
     const QScopedValueRollback editing(editing_, true);
     const bool expanded = ui::remoteAction(*window(), tr("Error"), ui::Cursor::arrow, [this] {

@@ -41,9 +41,11 @@ void SelectGenerationDlg::updateEnabling() {
     ui_->buttonSelect->setEnabled(ui_->listGenerations->selectionModel()->hasSelection());
 }
 
-std::int32_t SelectGenerationDlg::chosenTime() const {
+std::optional<std::int32_t> SelectGenerationDlg::chosenTime() const {
     const QModelIndexList rows = ui_->listGenerations->selectionModel()->selectedRows();
-    return rows.isEmpty() ? 0 : model_->generationAt(rows.first()).backup_time;
+    if (rows.isEmpty())
+        return std::nullopt;
+    return model_->generationAt(rows.first()).backup_time;
 }
 
 void SelectGenerationDlg::changeEvent(QEvent* event) {

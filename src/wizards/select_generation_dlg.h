@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 #include <QDialog>
 
@@ -23,8 +24,8 @@ public:
     ~SelectGenerationDlg() override;
 
     CGenerationSelectModel& generations() { return *model_; }
-    /// When the selected one was backed up; 0 if none is selected.
-    std::int32_t chosenTime() const;
+    /// When the selected one was backed up; nothing if none is selected.
+    std::optional<std::int32_t> chosenTime() const;
 
 protected:
     void changeEvent(QEvent* event) override;
