@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+#include <vector>
+
+/// What the wizard that restores says to the agent, about its fourth set. Without the calls of
+/// `Release`, without the span of the activity log, and with NAME in place of the name of the
+/// directory that the restore makes.
+namespace gui {
+
+using Calls = std::vector<std::string>;
+
+inline Calls operator+(Calls calls, const Calls& more) {
+    calls.insert(calls.end(), more.begin(), more.end());
+    return calls;
+}
+
+/// What the wizard asks until it is seen: the view with its top level and the first drive's rows,
+/// what the source page wants to know, and the kind of paths.
+inline Calls restoreOpened(const std::string& firstDrive = "1") {
+    return {"ClientConnection.backup_set(4)",
+            "BackupSet.getCurrentStatus()",
+            "BackupSet.prepare_restore(0, 0, 0)",
+            "BackupSetRestoreView.getSubItems(-1)",
+            "BackupSetRestoreView.getSubItems(" + firstDrive + ")",
+            "ClientConnection.createBrowser(0)",
+            "DataSourceBrowser.expandToFullPath(\"My Computer\")",
+            "DataSourceBrowser.neededCredentials(\"My Computer\")",
+            "DataSourceBrowser.setCurrentCredentials(BackupSetCredentials(guest))",
+            "DataSourceBrowser.getCurrentCredentials()",
+            "BackupSetCredentials.types()",
+            "BackupSetCredentials.types()",
+            "Win32FS_Generic_BackupSetCredentials.getUserName()",
+            "DataSourceBrowser.setCurrentCredentials(BackupSetCredentials(guest))",
+            "BackupSet.getComputerName()",
+            "ClientConnection.getConfigurationManager()",
+            "ClientConfiguration.getClientOSType()"};
+}
+
+inline const Calls kRestoreOpened = restoreOpened();
+
+/// The wizard goes on to the page for the directory, on the set's own computer.
+inline const Calls kDirectoryWanted{
+    "DataSourceBrowser.getCurrentCredentials()", "BackupSetCredentials.check(\"My Computer\")",
+    "BackupSet.getComputerName()", "DataSourceBrowser.getPredefinedItems(\"My Computer\")"};
+
+inline const Calls kRefreshedAfterRestore{"ClientConnection.getTarnClientInfo()",
+                                          "ClientConnection.getTFAManager()",
+                                          "TFAManager.is2FAEnabled()",
+                                          "ClientConnection.activity_log",
+                                          "ClientConnection.running_activities()",
+                                          "ClientConnection.backup_sets_info()",
+                                          "ClientConnection.backup_set(4)",
+                                          "BackupSet.getLastActivityOfType(0)",
+                                          "BackupSet.getOverview()"};
+
+/// A finished wizard, when the data goes to where it came from.
+inline Calls restoredToOrigin(const std::string& ids, int reason) {
+    return {"BackupSetRestoreView.prepareRestore([" + ids + "])",
+            "RestoreActivityInitiator.setRestoreReason(" + std::to_string(reason) + ")",
+            "BackupSet.getComputerName()", "BackupSet.dataBrowser()",
+            "RestoreActivityInitiator.start(DataSourceBrowser, \"My Computer\", [], 0)"};
+}
+
+/// The same, when it goes to a directory of the set's own computer.
+inline Calls restoredToDirectory(const std::string& ids, int reason, const std::string& mappings,
+                                 int level) {
+    return {"BackupSetRestoreView.prepareRestore([" + ids + "])",
+            "RestoreActivityInitiator.setRestoreReason(" + std::to_string(reason) + ")",
+            "RestoreActivityInitiator.selected_shares()", "BackupSet.getComputerName()",
+            "RestoreActivityInitiator.start(DataSourceBrowser, \"My Computer\", [" + mappings +
+                "], " + std::to_string(level) + ")"};
+}
+
+} // namespace gui

@@ -1,0 +1,122 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "tests/gui/restore_wizard_steps.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListView>
+#include <QRadioButton>
+#include <QRegularExpression>
+#include <QTest>
+#include <QTreeView>
+
+#include "simulator/world/world.h"
+#include "wizards/restore_directory_destination.h"
+#include "wizards/restore_location_page.h"
+#include "wizards/restore_select_page.h"
+
+namespace gui {
+
+using support::child;
+
+QString q(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+void storeFiles(simulator::World& world, const std::vector<std::string>& paths) {
+    auto& set = *world.set(kRestoredId);
+    set.sessions = {{kFirstBackup, kFirstBackup + 60, 5, 500, 1},
+                    {kMiddleBackup, kMiddleBackup + 60, 5, 500, 2},
+                    {kLastBackup - 60, kLastBackup, 5, 500, 3}};
+    set.stored = std::make_shared<simulator::StoredData>();
+    for (const std::string& path : paths)
+        set.stored->addFile(path, {{kFirstBackup, kFirstBackup + 60, 10, 8},
+                                   {kMiddleBackup, kMiddleBackup + 60, 15, 12},
+                                   {kLastBackup - 60, kLastBackup, 20, 16}});
+}
+
+void storeFiles(simulator::World& world) {
+    storeFiles(world, {"C:\\docs\\2024\\a.txt", "C:\\docs\\b.txt", "C:\\notes.txt",
+                       "C:\\budget.ods", "D:\\x.bin"});
+}
+
+QTreeView& treeOf(QWidget& page) {
+    return child<QTreeView>(page, "treeSelection");
+}
+
+QListView& listOf(QWidget& page) {
+    return child<QListView>(page, "listSelection");
+}
+
+QModelIndex rowAt(QTreeView& tree, const QString& path) {
+    QModelIndex index;
+    for (const QString& name : path.split(QLatin1Char('/'))) {
+        const QModelIndex parent = index;
+        index = {};
+        for (int row = 0; row < tree.model()->rowCount(parent) && !index.isValid(); ++row)
+            if (tree.model()->index(row, 0, parent).data().toString() == name)
+                index = tree.model()->index(row, 0, parent);
+        if (!index.isValid())
+            qFatal("There is no %s", qPrintable(path));
+    }
+    return index;
+}
+
+QStringList filesIn(QWidget& page) {
+    const QListView& list = listOf(page);
+    QStringList names;
+    for (int row = 0; row < list.model()->rowCount(list.rootIndex()); ++row)
+        names << list.model()->index(row, 0, list.rootIndex()).data().toString();
+    return names;
+}
+
+QModelIndex fileNamed(QWidget& page, const char* name) {
+    const QListView& list = listOf(page);
+    const int row = filesIn(page).indexOf(q(name));
+    return row < 0 ? QModelIndex() : list.model()->index(row, 0, list.rootIndex());
+}
+
+int checkStateOf(QWidget& page, const char* file) {
+    return fileNamed(page, file).data(Qt::CheckStateRole).toInt();
+}
+
+void check(QWidget& page, const char* path) {
+    treeOf(page).model()->setData(rowAt(treeOf(page), q(path)), Qt::Checked, Qt::CheckStateRole);
+}
+
+support::AtPage wishing(const RestoreWishes& wishes, QString* name) {
+    return [wishes, name](QWizardPage& page) {
+        if (qobject_cast<RestoreSelectPage*>(&page)) {
+            for (const char* path : wishes.checked)
+                check(page, path);
+        } else if (qobject_cast<RestoreLocationPage*>(&page)) {
+            child<QRadioButton>(page, wishes.location).click();
+            child<QComboBox>(page, "cmbRestoreReason").setCurrentIndex(wishes.reason);
+        } else if (qobject_cast<RestoreDirectoryDestination*>(&page)) {
+            if (name)
+                *name = page.subTitle().section(q("''"), 1, 1);
+            if (wishes.directory)
+                child<QLineEdit>(page, "editRestoreTo").setText(q(wishes.directory));
+        }
+    };
+}
+
+std::vector<std::string> restoreCallsOf(const simulator::Simulator& agent, const QString& name) {
+    std::vector<std::string> calls;
+    for (std::string& text : support::callsOf(agent)) {
+        if (text.rfind("ClientConnection.activity_log(", 0) == 0)
+            text.erase(text.find('('));
+        // The name in a balloon, which only a window in the background shows.
+        if (text == "BackupSet.getName()") {
+            calls.pop_back();
+            continue;
+        }
+        QString call = QString::fromStdString(text);
+        if (!name.isEmpty())
+            call.replace(name, q("NAME"));
+        calls.push_back(call.toStdString());
+    }
+    return calls;
+}
+
+} // namespace gui

@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include <QModelIndex>
+#include <QString>
+#include <QStringList>
+
+#include "tests/support/gui_wizard.h"
+
+class QListView;
+class QTreeView;
+
+namespace simulator {
+class World;
+}
+
+/// What a user does in the wizard that restores, on the agent's fourth set.
+namespace gui {
+
+inline constexpr int kRestoredRow = 3;
+inline constexpr std::int32_t kRestoredId = 4;
+inline constexpr std::int32_t kFirstBackup = 1'700'000'000;
+inline constexpr std::int32_t kMiddleBackup = 1'730'000'000;
+inline constexpr std::int32_t kLastBackup = 1'760'000'000;
+
+QString q(const char* text);
+
+/// The set has these files, each with three generations.
+void storeFiles(simulator::World& world, const std::vector<std::string>& paths);
+/// Two drives with a few files.
+void storeFiles(simulator::World& world);
+
+QTreeView& treeOf(QWidget& page);
+QListView& listOf(QWidget& page);
+/// The row of a tree at the end of names that are joined by slashes.
+QModelIndex rowAt(QTreeView& tree, const QString& path);
+QStringList filesIn(QWidget& page);
+/// The row of a file in the list; invalid if it isn't shown.
+QModelIndex fileNamed(QWidget& page, const char* name);
+int checkStateOf(QWidget& page, const char* file);
+void check(QWidget& page, const char* path);
+
+/// What is said on the pages. The reason is a row of its list.
+struct RestoreWishes {
+    std::vector<const char*> checked{};
+    const char* location = "radioOriginal";
+    int reason = 1;
+    const char* directory = nullptr; ///< null leaves what the page offers
+};
+
+/// Does what the page wants. The name of the directory that the restore makes goes to `name`.
+support::AtPage wishing(const RestoreWishes& wishes, QString* name = nullptr);
+
+/// The calls of an agent in the form of `restore_wizard_calls.h`.
+std::vector<std::string> restoreCallsOf(const simulator::Simulator& agent, const QString& name);
+
+} // namespace gui

@@ -1,0 +1,250 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include <QCheckBox>
+#include <QDateTimeEdit>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QTableView>
+#include <QTreeView>
+
+#include "tests/wizards/page_fixture.h"
+#include "wizards/field_memo.h"
+#include "wizards/restore_select_page.h"
+#include "wizards/select_generation_dlg.h"
+
+using support::child;
+
+namespace {
+
+constexpr std::int32_t kFirst = 1'700'000'000;
+constexpr std::int32_t kSecond = 1'730'000'000;
+
+QString q(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+void compareIcon(const QAbstractButton& button, const char* resource) {
+    QVERIFY(!button.icon().pixmap(16).isNull());
+    QCOMPARE(button.icon().pixmap(16).toImage(), QIcon(q(resource)).pixmap(16).toImage());
+}
+
+/// The row of a tree at the end of names that are joined by bars.
+QModelIndex rowAt(QTreeView& tree, const char* path) {
+    QModelIndex index;
+    for (const QString& name : q(path).split(QLatin1Char('|'))) {
+        const QModelIndex parent = index;
+        index = {};
+        for (int row = 0; row < tree.model()->rowCount(parent) && !index.isValid(); ++row)
+            if (tree.model()->index(row, 0, parent).data().toString() == name)
+                index = tree.model()->index(row, 0, parent);
+        if (!index.isValid())
+            qFatal("There is no %s", path);
+    }
+    return index;
+}
+
+} // namespace
+
+/// The page on which what is restored is chosen, its dialog, and how its fields are put back.
+class RestoreSelectPageTest : public QObject, private PageFixture {
+    Q_OBJECT
+private slots:
+    void init() { start(); }
+    void cleanup() { end(); }
+
+    void textsOfTheSelectPage();
+    void checkFromFromCodeAsksForNothing();
+    void theOtherBoxesAskFromCodeToo();
+    void theGenerationsWantAFile();
+    void theGenerationsOfNoFileAreNotShown();
+    void theGenerationInTheFilterIsMarked();
+    void textsOfTheGenerations();
+    void aGenerationHasToBeSelected();
+    void fieldsArePutBackInSilence();
+
+private:
+    Set setWithFiles();
+};
+
+PageFixture::Set RestoreSelectPageTest::setWithFiles() {
+    change(documents, [](simulator::BackupSetState& set, simulator::World&) {
+        set.sessions = {{kFirst, kFirst + 60, 1, 1, 1}, {kSecond, kSecond + 60, 1, 1, 2}};
+        set.stored = std::make_shared<simulator::StoredData>();
+        for (const char* path : {"C:\\docs\\b.txt", "C:\\notes.txt"})
+            set.stored->addFile(path,
+                                {{kFirst, kFirst + 60, 10, 8}, {kSecond, kSecond + 60, 0, 0}});
+    });
+    return openSet(documents);
+}
+
+void RestoreSelectPageTest::textsOfTheSelectPage() {
+    RestoreSelectPage page(setWithFiles());
+    QCOMPARE(page.windowTitle(), q("Delete Items"));
+    QCOMPARE(page.title(), q("Select Items"));
+    QCOMPARE(page.subTitle(), q("Select the files and/or directories to restore"));
+    QCOMPARE(child<QGroupBox>(page, "groupItems").title(), q("Items to Restore"));
+    QCOMPARE(child<QLabel>(page, "labelFilter").text(), q("File &Filter:"));
+    QCOMPARE(child<QLabel>(page, "labelFilter").buddy(), &child<QLineEdit>(page, "editFilter"));
+    QCOMPARE(child<QLineEdit>(page, "editFilter").text(), q("*"));
+    auto& generations = child<QPushButton>(page, "buttonGenerations");
+    QCOMPARE(generations.text(), q("&Generations"));
+    compareIcon(generations, ":/button/generations");
+    QVERIFY(!generations.isEnabled());
+    for (const auto& [name, text] : {std::pair("checkFilter", "Time f&ilter"),
+                                     {"checkFrom", "Backed up on/&after:"},
+                                     {"checkTo", "Backed up on/&before:"},
+                                     {"checkRemoved", "&Hide files removed on/before:"}}) {
+        QCOMPARE(child<QCheckBox>(page, name).text(), q(text));
+        QVERIFY(!child<QCheckBox>(page, name).isChecked());
+    }
+    QVERIFY(child<QWidget>(page, "filterDisplay").isHidden());
+    for (const char* name : {"dateFrom", "dateTo", "dateRemoved"}) {
+        const auto& date = child<QDateTimeEdit>(page, name);
+        QCOMPARE(date.displayFormat(), q("M/d/yy HH:mm"));
+        QVERIFY(date.calendarPopup() && !date.isEnabled());
+    }
+    QVERIFY(!child<QListView>(page, "listSelection").sizeHint().isValid());
+}
+
+void RestoreSelectPageTest::checkFromFromCodeAsksForNothing() {
+    RestoreSelectPage page(setWithFiles());
+    child<QCheckBox>(page, "checkFilter").setChecked(true);
+    takeCalls();
+    child<QCheckBox>(page, "checkFrom").setChecked(true);
+    QCOMPARE(takeCalls(), Calls{});
+    QVERIFY(!child<QDateTimeEdit>(page, "dateFrom").isEnabled());
+    child<QCheckBox>(page, "checkFrom").setChecked(false);
+    child<QCheckBox>(page, "checkFrom").click();
+    QCOMPARE(takeCalls().front(), std::string("BackupSet.prepare_restore(1700000000, 0, 0)"));
+    QVERIFY(child<QDateTimeEdit>(page, "dateFrom").isEnabled());
+}
+
+void RestoreSelectPageTest::theOtherBoxesAskFromCodeToo() {
+    RestoreSelectPage page(setWithFiles());
+    takeCalls();
+    child<QCheckBox>(page, "checkFilter").setChecked(true);
+    const Calls on = takeCalls();
+    QCOMPARE(on.at(0), std::string("BackupSet.backup_times()"));
+    QCOMPARE(on.at(1), std::string("BackupSet.prepare_restore(0, 0, 0)"));
+    child<QCheckBox>(page, "checkTo").setChecked(true);
+    QCOMPARE(takeCalls().front(), std::string("BackupSet.prepare_restore(0, 1730000060, 0)"));
+    child<QCheckBox>(page, "checkRemoved").setChecked(true);
+    QCOMPARE(takeCalls().front(),
+             std::string("BackupSet.prepare_restore(0, 1730000060, 1730000060)"));
+    auto& to = child<QDateTimeEdit>(page, "dateTo");
+    to.setDateTime(to.dateTime().addSecs(-60));
+    QCOMPARE(takeCalls().front(),
+             std::string("BackupSet.prepare_restore(0, 1730000000, 1730000060)"));
+}
+
+void RestoreSelectPageTest::theGenerationsWantAFile() {
+    RestoreSelectPage page(setWithFiles());
+    auto& list = child<QListView>(page, "listSelection");
+    auto& tree = child<QTreeView>(page, "treeSelection");
+    auto& button = child<QPushButton>(page, "buttonGenerations");
+    list.setCurrentIndex(list.model()->index(0, 0, list.rootIndex()));
+    QVERIFY(button.isEnabled());
+    list.clearSelection();
+    QVERIFY(!button.isEnabled());
+    list.setCurrentIndex(list.model()->index(0, 0, list.rootIndex()));
+    tree.setCurrentIndex(rowAt(tree, "C:|docs"));
+    QVERIFY(!button.isEnabled());
+    QVERIFY(!list.selectionModel()->hasSelection());
+}
+
+void RestoreSelectPageTest::theGenerationsOfNoFileAreNotShown() {
+    RestoreSelectPage page(setWithFiles());
+    auto& button = child<QPushButton>(page, "buttonGenerations");
+    takeCalls();
+    button.setEnabled(true);
+    button.click();
+    QVERIFY(!button.isEnabled());
+    QCOMPARE(takeCalls(), Calls{});
+}
+
+void RestoreSelectPageTest::theGenerationInTheFilterIsMarked() {
+    RestoreSelectPage page(setWithFiles());
+    auto& list = child<QListView>(page, "listSelection");
+    child<QCheckBox>(page, "checkFilter").setChecked(true);
+    child<QCheckBox>(page, "checkTo").setChecked(true);
+    child<QDateTimeEdit>(page, "dateTo").setDateTime(QDateTime::fromSecsSinceEpoch(kSecond));
+    list.setCurrentIndex(list.model()->index(0, 0, list.rootIndex()));
+    support::ModalDriver modals;
+    modals.expect(q("generations"), support::isDialog<SelectGenerationDlg>, [](QWidget& dialog) {
+        const auto& model = *child<QTableView>(dialog, "listGenerations").model();
+        const auto icon = model.index(0, 0).data(Qt::DecorationRole).value<QPixmap>();
+        QCOMPARE(icon.toImage(), QPixmap(q(":/tree/selected_file")).toImage());
+        QVERIFY(!child<QTableView>(dialog, "listGenerations").selectionModel()->hasSelection());
+        dialog.close();
+    });
+    child<QPushButton>(page, "buttonGenerations").click();
+    QVERIFY(modals.done());
+}
+
+void RestoreSelectPageTest::textsOfTheGenerations() {
+    SelectGenerationDlg dialog({{kFirst, kFirst, 0, 0}, {kSecond, kSecond, 2048, 10}});
+    QCOMPARE(dialog.windowTitle(), q("Select a file generation to restore"));
+    auto& table = child<QTableView>(dialog, "listGenerations");
+    QCOMPARE(std::tuple(table.columnWidth(0), table.columnWidth(1), table.columnWidth(2)),
+             std::tuple(180, 150, 180));
+    QCOMPARE(table.model()->index(0, 1).data().toString(), q("2.00 KB"));
+    QCOMPARE(table.model()->index(1, 1).data().toString(), q("Empty"));
+    auto& select = child<QPushButton>(dialog, "buttonSelect");
+    auto& close = child<QPushButton>(dialog, "buttonClose");
+    QCOMPARE(select.text(), q("&Select"));
+    QCOMPARE(close.text(), q("&Close"));
+    compareIcon(select, ":/button/ok");
+    compareIcon(close, ":/button/cancel");
+    close.click();
+    QCOMPARE(dialog.result(), int(QDialog::Rejected));
+}
+
+void RestoreSelectPageTest::aGenerationHasToBeSelected() {
+    SelectGenerationDlg dialog({{kFirst, kFirst, 0, 0}, {kSecond, kSecond, 2048, 10}});
+    auto& table = child<QTableView>(dialog, "listGenerations");
+    auto& select = child<QPushButton>(dialog, "buttonSelect");
+    QVERIFY(!select.isEnabled());
+    QVERIFY(!dialog.chosenTime());
+    table.selectRow(1);
+    QVERIFY(select.isEnabled());
+    QCOMPARE(*dialog.chosenTime(), kFirst);
+    table.clearSelection();
+    QVERIFY(!select.isEnabled());
+    table.selectRow(0);
+    select.click();
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    QCOMPARE(*dialog.chosenTime(), kSecond);
+}
+
+void RestoreSelectPageTest::fieldsArePutBackInSilence() {
+    QCheckBox box;
+    QGroupBox group;
+    group.setCheckable(true);
+    QDateTimeEdit date;
+    QSpinBox number;
+    wizards::FieldMemo memo;
+    for (QWidget* field : {static_cast<QWidget*>(&box), static_cast<QWidget*>(&group),
+                           static_cast<QWidget*>(&date), static_cast<QWidget*>(&number)})
+        memo.remember(*field);
+    date.setDateTime(QDateTime::fromSecsSinceEpoch(kFirst));
+    memo.rememberAll();
+    box.setChecked(true);
+    group.setChecked(false);
+    date.setDateTime(QDateTime::fromSecsSinceEpoch(kSecond));
+    number.setValue(7);
+    QSignalSpy boxes(&box, &QCheckBox::toggled);
+    QSignalSpy dates(&date, &QDateTimeEdit::dateTimeChanged);
+    memo.putBack();
+    QVERIFY(!box.isChecked() && group.isChecked());
+    QCOMPARE(date.dateTime().toSecsSinceEpoch(), kFirst);
+    QCOMPARE(number.value(), 0);
+    QVERIFY(boxes.isEmpty() && dates.isEmpty());
+}
+
+QTEST_MAIN(RestoreSelectPageTest)
+#include "restore_select_page_test.moc"
