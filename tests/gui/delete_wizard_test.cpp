@@ -1,22 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 #include <QAbstractButton>
-#include <QCheckBox>
 #include <QDateTimeEdit>
-#include <QGroupBox>
 #include <QLineEdit>
-#include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTableView>
 #include <QTest>
-#include <QTreeView>
 
 #include "resources/pictures.h"
-#include "simulator/world/world.h"
-#include "tests/gui/delete_wizard_calls.h"
-#include "tests/support/gui_wizard.h"
+#include "tests/gui/delete_wizard_steps.h"
 
 using namespace gui;
 using simulator::Fault;
@@ -25,87 +19,6 @@ using support::callsOf;
 using support::child;
 using support::difference;
 using support::isDialog;
-
-namespace {
-
-constexpr int kRow = 3;
-constexpr std::int32_t kId = 4;
-constexpr std::int32_t kFirstBackup = 1'700'000'000;
-constexpr std::int32_t kLastBackup = 1'760'000'000;
-
-QString q(const char* text) {
-    return QString::fromUtf8(text);
-}
-
-Calls operator+(Calls calls, const Calls& more) {
-    calls.insert(calls.end(), more.begin(), more.end());
-    return calls;
-}
-
-/// Two drives with a few files, and a schedule and a rule that no other set has.
-void store(World& world) {
-    simulator::ScheduleState schedule;
-    schedule.name = "own";
-    simulator::RetentionRuleState rule;
-    rule.name = "own";
-    auto& set = *world.set(kId);
-    set.info.schedule_id = world.schedules.add(schedule)->id;
-    set.info.retention_rule_id = world.retentionRules.add(rule)->id;
-    set.sessions = {{kFirstBackup, kFirstBackup + 60, 5, 500, 1},
-                    {kLastBackup - 60, kLastBackup, 5, 500, 2}};
-    set.stored = std::make_shared<simulator::StoredData>();
-    for (const char* path : {"C:\\docs\\2024\\a.txt", "C:\\docs\\b.txt", "C:\\notes.txt",
-                             "C:\\budget.ods", "D:\\x.bin"})
-        set.stored->addFile(path, {{kFirstBackup, kFirstBackup + 60, 10, 8},
-                                   {kLastBackup - 60, kLastBackup, 20, 16}});
-}
-
-QTreeView& treeOf(QWidget& page) {
-    return child<QTreeView>(page, "treeSelection");
-}
-
-QListView& listOf(QWidget& page) {
-    return child<QListView>(page, "listSelection");
-}
-
-/// The row of a tree at the end of names that are joined by slashes.
-QModelIndex rowAt(QTreeView& tree, const char* path) {
-    QModelIndex index;
-    for (const QString& name : q(path).split(QLatin1Char('/'))) {
-        const QModelIndex parent = index;
-        index = {};
-        for (int row = 0; row < tree.model()->rowCount(parent) && !index.isValid(); ++row)
-            if (tree.model()->index(row, 0, parent).data().toString() == name)
-                index = tree.model()->index(row, 0, parent);
-        if (!index.isValid())
-            qFatal("There is no %s", path);
-    }
-    return index;
-}
-
-void check(QWidget& page, const char* path) {
-    treeOf(page).model()->setData(rowAt(treeOf(page), path), Qt::Checked, Qt::CheckStateRole);
-}
-
-QStringList filesIn(QWidget& page) {
-    const QListView& list = listOf(page);
-    QStringList names;
-    for (int row = 0; row < list.model()->rowCount(list.rootIndex()); ++row)
-        names << list.model()->index(row, 0, list.rootIndex()).data().toString();
-    return names;
-}
-
-void checkAll(QWidget& page) {
-    check(page, "C:");
-    check(page, "D:");
-}
-
-void switchOn(QWidget& page, const char* box) {
-    child<QGroupBox>(page, "groupFilter").setChecked(true);
-    child<QCheckBox>(page, box).setChecked(true);
-}
-
-} // namespace
 
 /// The wizard that deletes from a set, clicked through against an agent, and all that it says to
 /// it.
@@ -122,8 +35,10 @@ private slots:
     void theWizardIsFramed();
     void theFormIsAsItBegins();
     void finishWaitsForACheckMark();
+    void withoutACheckMarkNothingIsPrepared();
     void aSelectionIsDeleted();
     void aFileIsDeleted();
+    void aGroupGoesAsWhatItHolds();
     void theCodeComesBeforeTheDeletion();
     void cancellingTheCodeDeletesNothing();
     void cancellingTheWizardDeletesNothing();
@@ -131,6 +46,8 @@ private slots:
     void everythingWithoutTheRemoval();
     void cancellingTheCodeAfterYesRemovesNothing();
     void aFilterNeverOffersTheRemoval();
+    void aFromAtMidnightOfTheFirstDayIsNoFilter();
+    void aFromLaterOnTheFirstDayIsAFilter();
     void theLastGenerationsAreAFilter();
     void datesReachTheAgent();
     void aChangedFilterKeepsTheTreeAndDropsTheMarks();
@@ -254,6 +171,22 @@ void DeleteWizardTest::finishWaitsForACheckMark() {
     test_.run("OnDelete");
 }
 
+void DeleteWizardTest::withoutACheckMarkNothingIsPrepared() {
+    test_.modals->expect(q("wizard"), isDialog<QWizard>, [](QWidget& widget) {
+        checkAll(widget);
+        QTreeView& tree = treeOf(widget);
+        for (const char* drive : {"C:", "D:"})
+            tree.model()->setData(rowAt(tree, drive), Qt::Unchecked, Qt::CheckStateRole);
+        auto& wizard = static_cast<QWizard&>(widget);
+        QTest::mouseClick(wizard.button(QWizard::FinishButton), Qt::LeftButton);
+        QTest::keyClick(&wizard, Qt::Key_Return);
+        QVERIFY(wizard.isVisible());
+        wizard.reject();
+    });
+    test_.run("OnDelete");
+    QCOMPARE(difference(calls(), kOpened), QString());
+}
+
 void DeleteWizardTest::aSelectionIsDeleted() {
     test_.expectWizard([](QWizardPage& page) { check(page, "C:/docs"); });
     test_.run("OnDelete");
@@ -269,6 +202,19 @@ void DeleteWizardTest::aFileIsDeleted() {
     });
     test_.run("OnDelete");
     QCOMPARE(difference(calls(), kOpened + deleted("5") + kRefreshed), QString());
+}
+
+void DeleteWizardTest::aGroupGoesAsWhatItHolds() {
+    test_.agent->withWorld([](World& world) {
+        auto& stored = *world.set(kId)->stored;
+        stored.addFile("Group\\Team\\c.txt", {{kFirstBackup, kFirstBackup + 60, 10, 8}});
+        stored.addFolder("Group").isGroup = true;
+    });
+    test_.expectWizard([](QWizardPage& page) { check(page, "Group"); });
+    test_.run("OnDelete");
+    QCOMPARE(difference(calls(), kOpened + Calls{"BackupSetDeleteView.getSubItems(0)"} +
+                                     deleted("6") + kRefreshed),
+             QString());
 }
 
 void DeleteWizardTest::theCodeComesBeforeTheDeletion() {
@@ -327,6 +273,35 @@ void DeleteWizardTest::aFilterNeverOffersTheRemoval() {
         switchOn(page, "checkTo");
         auto& to = child<QDateTimeEdit>(page, "dateTo");
         to.setDateTime(to.dateTime().addSecs(-3600));
+        checkAll(page);
+    });
+    test_.run("OnDelete");
+    const Calls all = calls();
+    QCOMPARE(std::count(all.begin(), all.end(), deleted("1, 2").front()), 1);
+    QCOMPARE(std::count(all.begin(), all.end(), kRemoved.back()), 0);
+}
+
+void DeleteWizardTest::aFromAtMidnightOfTheFirstDayIsNoFilter() {
+    const QDate firstDay = QDateTime::fromSecsSinceEpoch(kFirstBackup).date();
+    const auto midnight = static_cast<std::int32_t>(firstDay.startOfDay().toSecsSinceEpoch());
+    test_.agent->withWorld(
+        [&](World& world) { world.set(kId)->sessions.front().start_time = midnight; });
+    test_.expectWizard([&](QWizardPage& page) {
+        switchOn(page, "checkFrom");
+        QCOMPARE(child<QDateTimeEdit>(page, "dateFrom").dateTime().toSecsSinceEpoch(), midnight);
+        checkAll(page);
+    });
+    expectRemovalQuestion(QMessageBox::No);
+    test_.run("OnDelete");
+    const Calls all = calls();
+    QCOMPARE(std::count(all.begin(), all.end(), deleted("1, 2").front()), 1);
+}
+
+void DeleteWizardTest::aFromLaterOnTheFirstDayIsAFilter() {
+    test_.expectWizard([&](QWizardPage& page) {
+        switchOn(page, "checkFrom");
+        QCOMPARE(child<QDateTimeEdit>(page, "dateFrom").dateTime().toSecsSinceEpoch(),
+                 kFirstBackup);
         checkAll(page);
     });
     test_.run("OnDelete");

@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QListView>
+#include <QTreeView>
+
+#include "simulator/world/world.h"
+#include "tests/gui/delete_wizard_calls.h"
+#include "tests/support/gui_wizard.h"
+
+/// What a user does in the wizard that deletes, and the set that it deletes from.
+namespace gui {
+
+inline constexpr int kRow = 3;
+inline constexpr std::int32_t kId = 4;
+inline constexpr std::int32_t kFirstBackup = 1'700'000'000;
+inline constexpr std::int32_t kLastBackup = 1'760'000'000;
+
+inline QString q(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+inline Calls operator+(Calls calls, const Calls& more) {
+    calls.insert(calls.end(), more.begin(), more.end());
+    return calls;
+}
+
+/// Two drives with a few files, and a schedule and a rule that no other set has.
+inline void store(simulator::World& world) {
+    simulator::ScheduleState schedule;
+    schedule.name = "own";
+    simulator::RetentionRuleState rule;
+    rule.name = "own";
+    auto& set = *world.set(kId);
+    set.info.schedule_id = world.schedules.add(schedule)->id;
+    set.info.retention_rule_id = world.retentionRules.add(rule)->id;
+    set.sessions = {{kFirstBackup, kFirstBackup + 60, 5, 500, 1},
+                    {kLastBackup - 60, kLastBackup, 5, 500, 2}};
+    set.stored = std::make_shared<simulator::StoredData>();
+    for (const char* path : {"C:\\docs\\2024\\a.txt", "C:\\docs\\b.txt", "C:\\notes.txt",
+                             "C:\\budget.ods", "D:\\x.bin"})
+        set.stored->addFile(path, {{kFirstBackup, kFirstBackup + 60, 10, 8},
+                                   {kLastBackup - 60, kLastBackup, 20, 16}});
+}
+
+inline QTreeView& treeOf(QWidget& page) {
+    return support::child<QTreeView>(page, "treeSelection");
+}
+
+inline QListView& listOf(QWidget& page) {
+    return support::child<QListView>(page, "listSelection");
+}
+
+/// The row of a tree at the end of names that are joined by slashes.
+inline QModelIndex rowAt(QTreeView& tree, const char* path) {
+    QModelIndex index;
+    for (const QString& name : q(path).split(QLatin1Char('/'))) {
+        const QModelIndex parent = index;
+        index = {};
+        for (int row = 0; row < tree.model()->rowCount(parent) && !index.isValid(); ++row)
+            if (tree.model()->index(row, 0, parent).data().toString() == name)
+                index = tree.model()->index(row, 0, parent);
+        if (!index.isValid())
+            qFatal("There is no %s", path);
+    }
+    return index;
+}
+
+inline void check(QWidget& page, const char* path) {
+    treeOf(page).model()->setData(rowAt(treeOf(page), path), Qt::Checked, Qt::CheckStateRole);
+}
+
+inline QStringList filesIn(QWidget& page) {
+    const QListView& list = listOf(page);
+    QStringList names;
+    for (int row = 0; row < list.model()->rowCount(list.rootIndex()); ++row)
+        names << list.model()->index(row, 0, list.rootIndex()).data().toString();
+    return names;
+}
+
+inline void checkAll(QWidget& page) {
+    check(page, "C:");
+    check(page, "D:");
+}
+
+inline void switchOn(QWidget& page, const char* box) {
+    support::child<QGroupBox>(page, "groupFilter").setChecked(true);
+    support::child<QCheckBox>(page, box).setChecked(true);
+}
+
+} // namespace gui
