@@ -4,7 +4,8 @@
 // What a large backup set costs in the wizards that restore and delete: a key typed into the filter
 // over a folder of 100,000 files, until the list shows it; the ids of a half-checked tree of
 // 100,000 nodes; and another view of 1,000 folders that stay expanded. The reference for the first
-// is the filter operation that Qt's proxy has itself, over the same files.
+// is the filter operation that Qt's proxy has itself, over the same files; that for the others is a
+// tree of items of Qt, which holds the same.
 
 #include <chrono>
 #include <map>
@@ -12,6 +13,8 @@
 
 #include <QApplication>
 #include <QListView>
+#include <QStandardItemModel>
+#include <QTreeView>
 
 #include <benchmark/benchmark.h>
 #include <boost/make_shared.hpp>
@@ -114,7 +117,6 @@ void type(benchmark::State& state, CBackedUpDataModel& model, Proxy& files) {
         const QString pattern = QString::fromLatin1(keys[next++ % std::size(keys)]);
         state.SetIterationTime(secondsOf([&] { files.setFilterWildcard(pattern); }));
     }
-    state.counters["calls"] = 0;
     list.setModel(nullptr);
 }
 
@@ -131,33 +133,77 @@ void typeFilterOfQt(benchmark::State& state) {
     type(state, *model, files);
 }
 
+/// What is left out of a walk must not make it quick.
+void tellMissing(benchmark::State& state, std::size_t found) {
+    state.counters["missing"] = static_cast<double>(entryCount / 2) - static_cast<double>(found);
+}
+
 void walkSelection(benchmark::State& state) {
     const auto model = modelOf(filledDrive(entryCount));
     const QModelIndex drive = model->index(0, 0);
     for (int row = 0; row < model->rowCount(drive); row += 2)
         model->setData(model->index(row, 0, drive), Qt::Checked, Qt::CheckStateRole);
+    std::vector<std::int64_t> ids;
     for (auto round : state)
-        state.SetIterationTime(secondsOf([&] { benchmark::DoNotOptimize(model->selectedIds()); }));
-    state.counters["calls"] = 0;
+        state.SetIterationTime(secondsOf([&] { ids = model->selectedIds(); }));
+    tellMissing(state, ids.size());
+}
+
+void walkItems(benchmark::State& state) {
+    QStandardItemModel model;
+    auto* drive = new QStandardItem(QStringLiteral("C:"));
+    model.appendRow(drive);
+    qint64 id = 0;
+    for (const std::string& name : bench::folderNames(entryCount)) {
+        auto* file = new QStandardItem(QString::fromStdString(name));
+        file->setData(++id);
+        file->setCheckState(id % 2 == 1 ? Qt::Checked : Qt::Unchecked);
+        drive->appendRow(file);
+    }
+    std::vector<std::int64_t> ids;
+    for (auto round : state)
+        state.SetIterationTime(secondsOf([&] {
+            ids.clear();
+            for (int row = 0; row < drive->rowCount(); ++row)
+                if (drive->child(row)->checkState() == Qt::Checked)
+                    ids.push_back(drive->child(row)->data().toLongLong());
+        }));
+    tellMissing(state, ids.size());
+}
+
+constexpr int folderCount = 1'000;
+
+QString folderName(int number) {
+    return QStringLiteral("Folder %1").arg(number);
+}
+
+void expandAll(QTreeView& tree) {
+    tree.resize(400, 600);
+    tree.show();
+    for (int row = 0; row < folderCount; ++row)
+        tree.expand(tree.model()->index(row, 0));
+    QCoreApplication::processEvents();
+}
+
+void tellClosed(benchmark::State& state, const QTreeView& tree) {
+    int closed = folderCount;
+    for (int row = 0; row < folderCount; ++row)
+        closed -= tree.isExpanded(tree.model()->index(row, 0)) ? 1 : 0;
+    state.counters["closed"] = closed;
 }
 
 void keepExpansion(benchmark::State& state) {
-    constexpr std::int64_t folderCount = 1'000;
     const auto agent = boost::make_shared<Agent>();
     Items folders;
-    for (std::int64_t id = 1; id <= folderCount; ++id) {
-        folders.push_back({id, "Folder " + std::to_string(id), Type::Folder, false, true});
+    for (int id = 1; id <= folderCount; ++id) {
+        folders.push_back({id, folderName(id).toStdString(), Type::Folder, false, true});
         agent->hold(id, {{10'000 + id, "Inner", Type::Folder, false, true}});
     }
     agent->hold(-1, folders);
     auto model = modelOf(agent);
     CSmallTreeView tree;
     tree.setModel(new CBackedupDataDirOnlyModel(*model));
-    tree.resize(400, 600);
-    tree.show();
-    for (int row = 0; row < folderCount; ++row)
-        tree.expand(tree.model()->index(row, 0));
-    QCoreApplication::processEvents();
+    expandAll(tree);
     for (auto round : state) {
         agent->calls = 0;
         state.SetIterationTime(secondsOf([&] {
@@ -169,13 +215,49 @@ void keepExpansion(benchmark::State& state) {
         }));
     }
     state.counters["calls"] = static_cast<double>(agent->calls);
+    tellClosed(state, tree);
+    tree.setModel(nullptr);
+}
+
+std::unique_ptr<QStandardItemModel> modelOfItems() {
+    auto model = std::make_unique<QStandardItemModel>();
+    for (int number = 1; number <= folderCount; ++number) {
+        auto* folder = new QStandardItem(folderName(number));
+        folder->appendRow(new QStandardItem(QStringLiteral("Inner")));
+        model->appendRow(folder);
+    }
+    return model;
+}
+
+/// Without an agent, and with names looked up as items find them.
+void keepExpansionOfItems(benchmark::State& state) {
+    auto model = modelOfItems();
+    QTreeView tree;
+    tree.setModel(model.get());
+    expandAll(tree);
+    for (auto round : state)
+        state.SetIterationTime(secondsOf([&] {
+            QStringList open;
+            for (int row = 0; row < model->rowCount(); ++row)
+                if (tree.isExpanded(model->index(row, 0)))
+                    open << model->item(row)->text();
+            auto other = modelOfItems();
+            tree.setModel(other.get());
+            model = std::move(other);
+            for (const QString& name : open)
+                for (const QStandardItem* const item : model->findItems(name))
+                    tree.expand(item->index());
+        }));
+    tellClosed(state, tree);
     tree.setModel(nullptr);
 }
 
 BENCHMARK(typeFilter)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(typeFilterOfQt)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(walkSelection)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(walkItems)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(keepExpansion)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(keepExpansionOfItems)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 } // namespace
 
