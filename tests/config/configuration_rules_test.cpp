@@ -172,3 +172,9 @@ TEST(Wipe, LeavesWhatIsSharedToTheOthers) {
     EXPECT_TRUE(bytes.isEmpty());
     EXPECT_EQ(same, QByteArray("key"));
 }
+
+TEST(SecretToWire, IsUtf8) {
+    EXPECT_EQ(config::secretToWire(q(" Schlüssel ")), " Schl\xC3\xBCssel ");
+    EXPECT_EQ(config::secretToWire(QString()), "");
+    EXPECT_EQ(config::secretToWire(QString(2, QChar())), std::string(2, '\0'));
+}

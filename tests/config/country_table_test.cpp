@@ -100,3 +100,27 @@ TEST(CountryTable, KnowsAFew) {
     EXPECT_EQ(codeOf("United States"), 840);
     EXPECT_EQ(codeOf("Zimbabwe"), 716);
 }
+
+TEST(CountryTable, KeepsItsOrderInEnglish) {
+    for (const QLocale& language : {QLocale::c(), QLocale(QLocale::English)}) {
+        const auto named = config::countriesFor(language);
+        ASSERT_EQ(named.size(), config::countryCount);
+        for (std::size_t row = 0; row < named.size(); ++row) {
+            EXPECT_EQ(named[row].code, config::countries()[row].code);
+            EXPECT_EQ(named[row].name, QString::fromUtf8(config::countries()[row].name));
+        }
+    }
+}
+
+TEST(CountryTable, IsSortedAsAReaderOfTheLanguageExpects) {
+    std::vector<config::NamedCountry> countries;
+    for (const char* name :
+         {"Zypern", "Österreich", "Oman", "Polen", "Ägypten", "Albanien", "Afghanistan"})
+        countries.push_back({static_cast<std::int32_t>(countries.size()), QString::fromUtf8(name)});
+    config::sortFor(QLocale(QLocale::German), countries);
+    std::vector<std::string> names;
+    for (const auto& [code, name] : countries)
+        names.push_back(std::to_string(code) + " " + name.toStdString());
+    EXPECT_EQ(names, (std::vector<std::string>{"6 Afghanistan", "4 Ägypten", "5 Albanien", "2 Oman",
+                                               "1 Österreich", "3 Polen", "0 Zypern"}));
+}

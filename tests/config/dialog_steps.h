@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <QAccessible>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -25,6 +25,14 @@ inline Calls operator+(Calls calls, const Calls& more) {
     return calls;
 }
 
+/// The calls that were made when one failed, which was the last of them.
+inline Calls first(int count, Calls calls) {
+    calls.resize(static_cast<std::size_t>(count));
+    return calls;
+}
+
+inline const Calls kManager{"ClientConnection.getConfigurationManager()"};
+
 inline void press(QWidget& dialog, const char* button) {
     auto& found = support::child<QAbstractButton>(dialog, button);
     QVERIFY2(found.isEnabled(), button);
@@ -39,20 +47,16 @@ inline void type(QWidget& dialog, const char* field, const char* text) {
     support::child<QLineEdit>(dialog, field).setText(q(text));
 }
 
-inline bool isEnabled(QWidget& dialog, const char* name) {
-    return support::child<QWidget>(dialog, name).isEnabled();
+inline QString label(QWidget& dialog, const char* name) {
+    return support::child<QLabel>(dialog, name).text();
 }
 
-/// Neither the screen nor what reads it aloud may know what a field holds.
-inline void verifyHidden(QWidget& dialog, const char* name) {
-    auto& field = support::child<QLineEdit>(dialog, name);
-    QCOMPARE(field.echoMode(), QLineEdit::Password);
-    QVERIFY(!field.text().isEmpty());
-    QVERIFY(field.toolTip().isEmpty());
-    QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&field);
-    QVERIFY(told);
-    for (int part = 0; part < QAccessible::UserText; ++part)
-        QVERIFY(!told->text(QAccessible::Text(part)).contains(field.text()));
+inline bool isChecked(QWidget& dialog, const char* button) {
+    return support::child<QAbstractButton>(dialog, button).isChecked();
+}
+
+inline bool isEnabled(QWidget& dialog, const char* name) {
+    return support::child<QWidget>(dialog, name).isEnabled();
 }
 
 /// A box with news and an Ok button, which is pressed.
@@ -66,6 +70,25 @@ inline void expectNews(support::ModalDriver& modals, const char* title, const ch
         QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton);
     });
 }
+
+/// The texts that a label has painted.
+class StatusWatch : public QObject {
+public:
+    explicit StatusWatch(QLabel& label)
+        : label_(label) {
+        label.installEventFilter(this);
+    }
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint)
+            painted << label_.text();
+        return false;
+    }
+
+    QStringList painted;
+
+private:
+    QLabel& label_;
+};
 
 /// The call after so many of its kind fails.
 inline void failAfter(support::GuiAgent& agent, int calls, const char* method) {

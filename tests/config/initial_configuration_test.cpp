@@ -1,14 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
-#include <QCheckBox>
-#include <QListWidget>
-#include <QTemporaryDir>
+#include <QElapsedTimer>
+#include <QTranslator>
 
-#include "config/init_clnt_cfg_dlg.h"
-#include "resources/pictures.h"
 #include "session/process_values.h"
-#include "simulator/world/world.h"
-#include "tests/config/registration_steps.h"
+#include "tests/config/registration_fixture.h"
 
 using namespace steps;
 using hessiancln::KeyEncryptionType;
@@ -16,14 +12,13 @@ using simulator::World;
 using support::callsOf;
 using support::child;
 using support::isDialog;
-using support::ModalDriver;
 
-/// The dialog for the registration of the agent, at the first run and later.
-class InitialConfigurationTest : public QObject {
+/// The dialog for the registration of the agent, once it is registered, and what both of its modes
+/// share.
+class InitialConfigurationTest : public QObject, private RegistrationFixture {
     Q_OBJECT
 private slots:
-    void initTestCase() { resources::initPictures(); }
-    void init() { test_.start(); }
+    void init() { start(); }
     void cleanup() { test_.end(); }
 
     void whatTheAgentKnowsIsShown();
@@ -31,57 +26,25 @@ private slots:
     void theAccountKeyIsSetOnce_data();
     void theAccountKeyIsSetOnce();
     void anOldCipherIsSentByItsNewNumber();
+    void aPrivateKeyOfNoTypeIsSentAsAes128();
+    void anAccountKeyOfNoTypeMayBeEmpty();
     void aCustomerThatIsKeptNowhereIsNotSent();
     void eachChoiceHasItsCode();
+    void countriesAreInTheOrderOfTheLanguage();
     void eachCheckIsMade_data();
     void eachCheckIsMade();
     void addressesAreAddedAndRemoved();
     void aChangeOfTypeEmptiesTheKey();
-    void keysStayHiddenAndGo();
-    void aFaultAtSavingLeavesItOpen_data();
-    void aFaultAtSavingLeavesItOpen();
     void noDialogOpensOnAFault();
-
-    void theFirstRunIsSaved();
-    void theFirstRunRegistersAndStartsTheDailyAdmin();
-    void cancellingTheFirstRunDisconnects();
-    void aNewAgentAsksAtTheLogin();
-    void anAgentWithoutCustomersDoesntAsk();
-    void aFaultAtTheFirstRunDisconnects_data();
-    void aFaultAtTheFirstRunDisconnects();
 
     void aFileFillsTheFields();
     void aKeyAheadOfItsTypeIsLost();
     void noneIsNoTypeOfAPrivateKey();
     void aFileThatIsNoneChangesNothing();
-
-private:
-    ModalDriver& modals() { return *test_.modals; }
-    void expectDialog(const ModalDriver::Act& act) {
-        modals().expect(q("registration"), isDialog<InitClntCfgDlg>, act);
-    }
-    void expectSaved() {
-        expectNews(modals(), "Configuration",
-                   "Tarn-Client Registration Information is saved successfully.");
-    }
-    void modify() { test_.run("on_actionRegistration_Info_triggered"); }
-    /// The agent is found to know nothing of its customer.
-    void firstRun();
-    void compareCalls(const Calls& expected) { QCOMPARE(callsOf(*test_.agent), expected); }
-    void change(const std::function<void(World&)>& visit) { test_.agent->withWorld(visit); }
-    /// Presses the button for a file, and chooses one of this name and with these bytes.
-    void import(QWidget& dialog, const char* name, const QByteArray& bytes, bool remove = false);
-
-    support::WizardTest test_;
-    QTemporaryDir folder_;
+    void aFileWithoutKeysChangesNothing_data();
+    void aFileWithoutKeysChangesNothing();
+    void aLineWithoutEndIsPassedOver();
 };
-
-void InitialConfigurationTest::firstRun() {
-    change([](World& world) { world.customer = {}; });
-    test_.agent->clearCallLog();
-    test_.driver->window().checkInitialConfiguration();
-    QVERIFY(modals().done());
-}
 
 void InitialConfigurationTest::whatTheAgentKnowsIsShown() {
     expectDialog([this](QWidget& dialog) {
@@ -98,13 +61,13 @@ void InitialConfigurationTest::whatTheAgentKnowsIsShown() {
             QCOMPARE(text(dialog, key), q("the quick brown fox"));
         for (const char* key : {"txtFieldAccountKey", "txtFieldAccountKeyConfirm"})
             QCOMPARE(text(dialog, key), q("jumps over the lazy dog"));
-        QVERIFY(child<QCheckBox>(dialog, "chkForwardKey").isChecked());
+        QVERIFY(isChecked(dialog, "chkForwardKey"));
         QCOMPARE(chosen(dialog, "cmbCountry"), q("Germany"));
         QCOMPARE(chosen(dialog, "cmbEmployees"), q("1 - 50"));
         QCOMPARE(chosen(dialog, "cmbIndustry"), q("Computer - hardware, software"));
         for (const char* group : {"grpPrivateKey", "grpAccountKey", "grpUserInfo"})
             QVERIFY2(!isEnabled(dialog, group), group);
-        QVERIFY(!child<QCheckBox>(dialog, "chkRegister").isChecked());
+        QVERIFY(!isChecked(dialog, "chkRegister"));
         press(dialog, "btnCancel");
         QCOMPARE(static_cast<QDialog&>(dialog).result(), int(InitClntCfgDlg::cancelled));
     });
@@ -169,6 +132,32 @@ void InitialConfigurationTest::anOldCipherIsSentByItsNewNumber() {
     compareCalls(kRead + kManager + sent(kKnown + ", private_key_enc=5, account_key_enc=7"));
 }
 
+void InitialConfigurationTest::aPrivateKeyOfNoTypeIsSentAsAes128() {
+    change([](World& world) { world.registration.private_key_enc = KeyEncryptionType(0); });
+    expectDialog([this](QWidget& dialog) {
+        QCOMPARE(child<QComboBox>(dialog, "cmbPrivateKeyType").currentIndex(), -1);
+        QCOMPARE(text(dialog, "txtFieldPrivateKey"), q("the quick brown fox"));
+        expectSaved();
+        press(dialog, "btnSave");
+    });
+    modify();
+    compareCalls(kRead + kManager + sent(kKnown + ", private_key_enc=5, account_key_enc=7"));
+}
+
+void InitialConfigurationTest::anAccountKeyOfNoTypeMayBeEmpty() {
+    change([](World& world) { world.registration.account_key_enc = KeyEncryptionType(0); });
+    expectDialog([this](QWidget& dialog) {
+        QCOMPARE(chosen(dialog, "cmbAccountKeyType"), q("NONE"));
+        type(dialog, "txtFieldAccountKey", "");
+        type(dialog, "txtFieldAccountKeyConfirm", "");
+        expectSaved();
+        press(dialog, "btnSave");
+    });
+    modify();
+    compareCalls(kRead + kManager + sent(kKnown + ", private_key_enc=7, account_key_enc=0"));
+    change([](World& world) { QVERIFY(world.registration.account_key.empty()); });
+}
+
 void InitialConfigurationTest::aCustomerThatIsKeptNowhereIsNotSent() {
     change([](World& world) { world.configuration.keepsCustomer = false; });
     expectDialog([this](QWidget& dialog) {
@@ -197,6 +186,31 @@ void InitialConfigurationTest::eachChoiceHasItsCode() {
             for (int row = 0; row < count; ++row)
                 QCOMPARE(combo.itemData(row).toInt(), row + 1);
         }
+        press(dialog, "btnCancel");
+    });
+    modify();
+}
+
+void InitialConfigurationTest::countriesAreInTheOrderOfTheLanguage() {
+    QTranslator german;
+    const QString none = QLatin1String("");
+    QVERIFY(german.load(q(TARN_TRANSLATION_DE), none, none, none));
+    expectDialog([&german](QWidget& dialog) {
+        auto& countries = child<QComboBox>(dialog, "cmbCountry");
+        session::g_language = q("de");
+        QCoreApplication::installTranslator(&german);
+        QTRY_COMPARE(countries.currentText(), q("Deutschland"));
+        QCOMPARE(countries.currentData().toInt(), 276);
+        QCOMPARE(countries.count(), 249);
+        QStringList begin;
+        for (int row = 0; row < 4; ++row)
+            begin << countries.itemText(row);
+        QCOMPARE(begin,
+                 (QStringList{q("Afghanistan"), q("Ägypten"), q("Ålandinseln"), q("Albanien")}));
+        QCOMPARE(countries.itemData(1).toInt(), 818);
+        session::g_language.clear();
+        QCoreApplication::removeTranslator(&german);
+        QTRY_COMPARE(countries.currentText(), q("Germany"));
         press(dialog, "btnCancel");
     });
     modify();
@@ -269,162 +283,17 @@ void InitialConfigurationTest::aChangeOfTypeEmptiesTheKey() {
     firstRun();
 }
 
-void InitialConfigurationTest::keysStayHiddenAndGo() {
-    expectDialog([](QWidget& dialog) {
-        for (const char* name : kKeyFields)
-            verifyHidden(dialog, name);
-        press(dialog, "btnCancel");
-        for (const char* name : kKeyFields)
-            QCOMPARE(text(dialog, name), QString());
-    });
-    modify();
-}
-
-void InitialConfigurationTest::aFaultAtSavingLeavesItOpen_data() {
-    QTest::addColumn<QString>("method");
-    QTest::addColumn<int>("after");
-    QTest::addColumn<bool>("kept");
-    QTest::newRow("manager") << q("getConfigurationManager") << 2 << false;
-    QTest::newRow("registration") << q("setTarnCRegistrationInfo") << 0 << false;
-    QTest::newRow("customer") << q("getUserInfoConfiguration") << 2 << true;
-    QTest::newRow("its record") << q("setUserInfo") << 0 << true;
-    QTest::newRow("server") << q("init_register") << 0 << true;
-}
-
-void InitialConfigurationTest::aFaultAtSavingLeavesItOpen() {
-    QFETCH(QString, method);
-    QFETCH(int, after);
-    QFETCH(bool, kept);
-    failAfter(*test_.agent, after, qPrintable(method));
-    expectDialog([this, kept](QWidget& dialog) {
-        fill(dialog);
-        press(dialog, "chkRegister");
-        modals().expectErrorBox(q("Configuration Error"), q("Out of order."));
-        press(dialog, "btnSave");
-        QVERIFY(dialog.isVisible());
-        change([kept](World& world) {
-            QCOMPARE(world.registration.client_num == "ABCDEFGHIJK1", kept);
-            QCOMPARE(world.configuration.registrations, 0);
-        });
-        QCOMPARE(text(dialog, "txtFieldPrivateKey"), q("private key"));
-        press(dialog, "btnCancel");
-    });
-    firstRun();
-    QCOMPARE(test_.agent->waitingInjections(), std::size_t{0});
-}
-
 void InitialConfigurationTest::noDialogOpensOnAFault() {
+    int calls = 0;
     for (const char* method : {"getConfigurationManager", "getTarnCRegistrationInfo",
                                "getUserInfoConfiguration", "getUserInfo"}) {
         failAfter(*test_.agent, 0, method);
         modals().expectErrorBox(q("Configuration Error"), q("Out of order."));
+        test_.agent->clearCallLog();
         modify();
-        QVERIFY(callsOf(*test_.agent).back().ends_with(std::string(method) + "()"));
+        compareCalls(first(++calls, kRead));
     }
     QVERIFY(session::connectedToAgent());
-}
-
-void InitialConfigurationTest::theFirstRunIsSaved() {
-    expectDialog([this](QWidget& dialog) {
-        QCOMPARE(dialog.windowTitle(), q("Initial Tarn-Client Configuration"));
-        for (const char* group : {"grpPrivateKey", "grpAccountKey", "grpUserInfo"})
-            QVERIFY2(isEnabled(dialog, group), group);
-        for (const char* combo : {"cmbCountry", "cmbEmployees", "cmbIndustry"})
-            QCOMPARE(child<QComboBox>(dialog, combo).currentIndex(), -1);
-        fill(dialog);
-        expectSaved();
-        press(dialog, "btnSave");
-    });
-    firstRun();
-    compareCalls(kCheck + kRead + kManager + sentFilled() + kUserInfoSent);
-    QVERIFY(session::connectedToAgent());
-    change([](World& world) {
-        QCOMPARE(q(world.registration.private_key.c_str()), q("private key"));
-        QCOMPARE(q(world.registration.account_key.c_str()), q("account key"));
-    });
-}
-
-void InitialConfigurationTest::theFirstRunRegistersAndStartsTheDailyAdmin() {
-    expectDialog([this](QWidget& dialog) {
-        fill(dialog);
-        press(dialog, "chkRegister");
-        expectNews(modals(), "Configuration",
-                   "Tarn-Client Registration Information is saved and registered successfully.");
-        press(dialog, "btnSave");
-        QCOMPARE(static_cast<QDialog&>(dialog).result(), int(InitClntCfgDlg::registered));
-    });
-    firstRun();
-    const Calls expected = kCheck + kRead + kManager + sentFilled() + kUserInfoSent +
-                           Calls{"ClientConfiguration.init_register()"} + kManager +
-                           Calls{"ClientConfiguration.start_daily_admin()"};
-    Calls calls = callsOf(*test_.agent);
-    const std::size_t refreshing = expected.size();
-    QVERIFY(calls.size() > refreshing + 1);
-    // Its arguments are the times of now.
-    QVERIFY(calls[refreshing].starts_with("ClientConnection.activity_log("));
-    QCOMPARE(calls[refreshing + 1], std::string("ClientConnection.running_activities()"));
-    calls.resize(refreshing);
-    QCOMPARE(calls, expected);
-    QVERIFY(test_.driver->status().endsWith(q(": Daily admin started.")));
-}
-
-void InitialConfigurationTest::cancellingTheFirstRunDisconnects() {
-    expectDialog([](QWidget& dialog) { dialog.close(); });
-    firstRun();
-    compareCalls(kCheck + kRead + Calls{"ClientConnection.logout()"});
-    QVERIFY(!session::connectedToAgent());
-}
-
-void InitialConfigurationTest::aNewAgentAsksAtTheLogin() {
-    test_.end();
-    test_.modals = std::make_unique<ModalDriver>();
-    expectDialog([](QWidget& dialog) {
-        QCOMPARE(text(dialog, "txtFieldClientNum"), QString());
-        QCOMPARE(addresses(dialog), QString());
-        press(dialog, "btnCancel");
-    });
-    test_.start(simulator::Scenario::FirstRun);
-    QVERIFY(!session::connectedToAgent());
-}
-
-void InitialConfigurationTest::anAgentWithoutCustomersDoesntAsk() {
-    change([](World& world) { world.configuration.keepsCustomer = false; });
-    firstRun();
-    Calls expected = kCheck;
-    expected.pop_back();
-    compareCalls(expected);
-    QVERIFY(session::connectedToAgent());
-}
-
-void InitialConfigurationTest::aFaultAtTheFirstRunDisconnects_data() {
-    QTest::addColumn<QString>("method");
-    QTest::addColumn<int>("after");
-    QTest::newRow("info") << q("getTarnClientInfo") << 0;
-    QTest::newRow("registration") << q("getTarnCRegistrationInfo") << 0;
-    for (const char* method :
-         {"getConfigurationManager", "getUserInfoConfiguration", "getUserInfo"})
-        for (int after : {0, 1})
-            QTest::addRow("%s %d", method, after) << q(method) << after;
-}
-
-void InitialConfigurationTest::aFaultAtTheFirstRunDisconnects() {
-    QFETCH(QString, method);
-    QFETCH(int, after);
-    failAfter(*test_.agent, after, qPrintable(method));
-    modals().expectErrorBox(q("Configuration Error"), q("Out of order."));
-    firstRun();
-    QVERIFY(!session::connectedToAgent());
-    QCOMPARE(test_.agent->waitingInjections(), std::size_t{0});
-}
-
-void InitialConfigurationTest::import(QWidget& dialog, const char* name, const QByteArray& bytes,
-                                      bool remove) {
-    const QString path = folder_.filePath(q(name));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-    file.close();
-    expectCriFile(modals(), path, remove);
-    press(dialog, "btnBrowse");
 }
 
 void InitialConfigurationTest::aFileFillsTheFields() {
@@ -486,6 +355,42 @@ void InitialConfigurationTest::aFileThatIsNoneChangesNothing() {
                         [](QWidget& chooser) { static_cast<QDialog&>(chooser).reject(); });
         press(dialog, "btnBrowse");
         QVERIFY(unchanged());
+        press(dialog, "btnCancel");
+    });
+    modify();
+}
+
+void InitialConfigurationTest::aFileWithoutKeysChangesNothing_data() {
+    QTest::addColumn<QByteArray>("bytes");
+    QByteArray binary;
+    for (int i = 0; i < 70000; ++i)
+        binary.append(static_cast<char>((i * 7919) >> 3));
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("binary") << binary;
+    QTest::newRow("unknown keys") << QByteArray(
+        "username=b\nCustomer=b\n UserName=b\nUserName\n=b\nAccEncKeys=b\n");
+}
+
+void InitialConfigurationTest::aFileWithoutKeysChangesNothing() {
+    QFETCH(QByteArray, bytes);
+    expectDialog([&](QWidget& dialog) {
+        import(dialog, "a.cri", bytes);
+        expectSaved();
+        press(dialog, "btnSave");
+    });
+    modify();
+    compareCalls(kRead + kManager + sent(kKnown + ", private_key_enc=7, account_key_enc=7"));
+}
+
+void InitialConfigurationTest::aLineWithoutEndIsPassedOver() {
+    expectDialog([this](QWidget& dialog) {
+        QElapsedTimer timer;
+        timer.start();
+        import(dialog, "long.cri",
+               "UserName=" + QByteArray(100 * 1024 * 1024, 'x') + "\nAccountName=after\n");
+        QVERIFY2(timer.elapsed() < 20'000, qPrintable(QString::number(timer.elapsed())));
+        QCOMPARE(text(dialog, "txtFieldCustomer"), q("Müller & Söhne GmbH"));
+        QCOMPARE(text(dialog, "txtFieldAccountNum"), q("after"));
         press(dialog, "btnCancel");
     });
     modify();

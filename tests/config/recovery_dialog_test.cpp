@@ -23,6 +23,16 @@ const char* const kError = "Tarn-Client Database Recovery Error";
 const Calls kCount{"ClientConnection.getSystemActivityManager()",
                    "SystemActivityManager.getOrphanedbackupSets()"};
 
+const Calls kRecovering = kCount + Calls{"ClientConnection.getSystemActivityManager()",
+                                         "SystemActivityManager.recover_tarnclient_database(0)"};
+
+/// One set, which gets this number.
+Calls recovering(const std::string& name, int id) {
+    return {
+        "SystemActivityManager.recover_orphaned_backup_set(OrphanedBackupSet(\"" + name + "\"))",
+        "ClientConnection.backup_set(" + std::to_string(id) + ")", "BackupSet.start_sync(true)"};
+}
+
 void accept(QWidget& dialog) {
     QTest::mouseClick(child<QDialogButtonBox>(dialog, "buttonBox").button(QDialogButtonBox::Ok),
                       Qt::LeftButton);
@@ -112,11 +122,7 @@ void RecoveryDialogTest::orphansAreRecovered() {
     Calls expected = kCount + kCount;
     int id = test_.setNames().size();
     for (const std::string& name : names)
-        expected = expected + Calls{"SystemActivityManager.recover_orphaned_backup_set("
-                                    "OrphanedBackupSet(\"" +
-                                        name + "\"))",
-                                    "ClientConnection.backup_set(" + std::to_string(++id) + ")",
-                                    "BackupSet.start_sync(true)"};
+        expected = expected + recovering(name, ++id);
     expectRecovery([count](QWidget& dialog) {
         auto& sets = child<QRadioButton>(dialog, "radioOrphanedSet");
         QCOMPARE(sets.text(),
@@ -134,18 +140,23 @@ void RecoveryDialogTest::aFailureLeavesTheRestOfTheOrphans_data() {
     QTest::addColumn<QString>("method");
     QTest::addColumn<int>("after");
     QTest::addColumn<int>("recovered");
-    QTest::newRow("manager") << q("getSystemActivityManager") << 1 << 0;
-    QTest::newRow("list") << q("getOrphanedbackupSets") << 1 << 0;
-    QTest::newRow("recovery") << q("recover_orphaned_backup_set") << 1 << 1;
-    QTest::newRow("set") << q("SystemActivityManager.recover_orphaned_backup_set") << 2 << 2;
-    QTest::newRow("its proxy") << q("backup_set") << 1 << 2;
-    QTest::newRow("synchronisation") << q("start_sync") << 1 << 2;
+    QTest::addColumn<int>("calls");
+    QTest::newRow("manager") << q("getSystemActivityManager") << 1 << 0 << 3;
+    QTest::newRow("list") << q("getOrphanedbackupSets") << 1 << 0 << 4;
+    QTest::newRow("first recovery") << q("recover_orphaned_backup_set") << 0 << 0 << 5;
+    QTest::newRow("first set") << q("backup_set") << 0 << 1 << 6;
+    QTest::newRow("first synchronisation") << q("start_sync") << 0 << 1 << 7;
+    QTest::newRow("second recovery") << q("recover_orphaned_backup_set") << 1 << 1 << 8;
+    QTest::newRow("second set") << q("backup_set") << 1 << 2 << 9;
+    QTest::newRow("second synchronisation") << q("start_sync") << 1 << 2 << 10;
+    QTest::newRow("third recovery") << q("recover_orphaned_backup_set") << 2 << 2 << 11;
 }
 
 void RecoveryDialogTest::aFailureLeavesTheRestOfTheOrphans() {
     QFETCH(QString, method);
     QFETCH(int, after);
     QFETCH(int, recovered);
+    QFETCH(int, calls);
     addOrphans({"A", "B", "C"});
     const int before = test_.setNames().size();
     failAfter(*test_.agent, after, qPrintable(method));
@@ -154,6 +165,8 @@ void RecoveryDialogTest::aFailureLeavesTheRestOfTheOrphans() {
         accept(dialog);
     });
     open();
+    compareCalls(first(calls, kCount + kCount + recovering("A", before + 1) +
+                                  recovering("B", before + 2) + recovering("C", before + 3)));
     QCOMPARE(test_.setNames().size() - before, recovered);
     QCOMPARE(test_.agent->waitingInjections(), std::size_t{0});
 }
@@ -180,8 +193,7 @@ void RecoveryDialogTest::answer(QMessageBox::StandardButton button, bool failing
 void RecoveryDialogTest::theDatabaseIsRecovered() {
     answer(QMessageBox::Yes);
     open();
-    compareCalls(kCount + Calls{"ClientConnection.getSystemActivityManager()",
-                                "SystemActivityManager.recover_tarnclient_database(0)"});
+    compareCalls(kRecovering);
 }
 
 void RecoveryDialogTest::noMeansNoRecovery() {
@@ -193,16 +205,19 @@ void RecoveryDialogTest::noMeansNoRecovery() {
 void RecoveryDialogTest::aDatabaseThatCantBeRecoveredIsTold_data() {
     QTest::addColumn<QString>("method");
     QTest::addColumn<int>("after");
-    QTest::newRow("manager") << q("getSystemActivityManager") << 1;
-    QTest::newRow("recovery") << q("recover_tarnclient_database") << 0;
+    QTest::addColumn<int>("calls");
+    QTest::newRow("manager") << q("getSystemActivityManager") << 1 << 3;
+    QTest::newRow("recovery") << q("recover_tarnclient_database") << 0 << 4;
 }
 
 void RecoveryDialogTest::aDatabaseThatCantBeRecoveredIsTold() {
     QFETCH(QString, method);
     QFETCH(int, after);
+    QFETCH(int, calls);
     failAfter(*test_.agent, after, qPrintable(method));
     answer(QMessageBox::Yes, true);
     open();
+    compareCalls(first(calls, kRecovering));
     QCOMPARE(test_.agent->waitingInjections(), std::size_t{0});
 }
 
@@ -219,15 +234,18 @@ void RecoveryDialogTest::cancellingDoesNothing() {
 
 void RecoveryDialogTest::nothingOpensOnAFault_data() {
     QTest::addColumn<QString>("method");
-    QTest::newRow("manager") << q("getSystemActivityManager");
-    QTest::newRow("list") << q("getOrphanedbackupSets");
+    QTest::addColumn<int>("calls");
+    QTest::newRow("manager") << q("getSystemActivityManager") << 1;
+    QTest::newRow("list") << q("getOrphanedbackupSets") << 2;
 }
 
 void RecoveryDialogTest::nothingOpensOnAFault() {
     QFETCH(QString, method);
+    QFETCH(int, calls);
     failAfter(*test_.agent, 0, qPrintable(method));
     modals().expectErrorBox(q("Configuration Error"), q("Out of order."));
     open();
+    compareCalls(first(calls, kCount));
 }
 
 void RecoveryDialogTest::anAgentWithoutAManagerIsTold() {

@@ -12,8 +12,6 @@
 /// What the tests of the registration's dialog do in front of it, and the calls that it makes.
 namespace steps {
 
-inline const Calls kManager{"ClientConnection.getConfigurationManager()"};
-
 /// Whether there is anything to ask.
 inline const Calls kCheck =
     Calls{"ClientConnection.getTarnClientInfo()"} + kManager +

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "tests/wizards/credential_dialog_driver.h"
 
-#include <QAccessible>
 #include <QCoreApplication>
 #include <QInputMethodEvent>
 #include <QLineEdit>
@@ -37,26 +36,6 @@ void press(QWidget& dialog, const char* button) {
     auto& pressed = child<QAbstractButton>(dialog, button);
     // On the text: a radio button may be wider.
     QTest::mouseClick(&pressed, Qt::LeftButton, {}, QPoint(12, pressed.height() / 2));
-}
-
-bool gives(const QWidget& window, const QString& secret) {
-    const QList<QWidget*> widgets = window.findChildren<QWidget*>();
-    for (QWidget* widget : widgets) {
-        QStringList texts{widget->toolTip(), widget->statusTip(), widget->whatsThis(),
-                          widget->accessibleName(), widget->accessibleDescription()};
-        if (QAccessibleInterface* face = QAccessible::queryAccessibleInterface(widget)) {
-            for (const auto role : {QAccessible::Name, QAccessible::Description, QAccessible::Value,
-                                    QAccessible::Help})
-                texts << face->text(role);
-            if (auto* text = face->textInterface())
-                texts << text->text(0, text->characterCount());
-        }
-        if (auto* edit = qobject_cast<QLineEdit*>(widget))
-            texts << edit->displayText();
-        if (!texts.filter(secret).isEmpty())
-            return true;
-    }
-    return false;
 }
 
 } // namespace wizards_test

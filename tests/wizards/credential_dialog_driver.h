@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include "tests/support/gui_told_text.h"
+
 class QWidget;
 
 namespace wizards_test {
@@ -17,7 +19,6 @@ bool canBeConfirmed(QWidget& dialog);
 void type(QWidget& dialog, const char* edit, const QString& text);
 void press(QWidget& dialog, const char* button);
 
-/// Whether somebody could read the text off a widget below, seeing or not.
-bool gives(const QWidget& window, const QString& secret);
+using support::gives;
 
 } // namespace wizards_test

@@ -1,41 +1,22 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
-#include <QAbstractButton>
 #include <QCheckBox>
-#include <QComboBox>
-#include <QGroupBox>
-#include <QLabel>
 #include <QSpinBox>
 #include <QTextDocument>
 #include <QTimeEdit>
 
+#include "tests/support/gui_form_texts.h"
 #include "tests/wizards/page_fixture.h"
 #include "wizards/items_select_page.h"
 #include "wizards/retention_select_page.h"
 #include "wizards/schedule_select_page.h"
 
+using support::compareIcon;
+using support::compareTexts;
+using support::entriesOf;
+using Text = support::FormText;
+
 namespace {
-
-/// A widget by its name, and its text: of a button, a label or a group.
-struct Text {
-    const char* name;
-    const char* text;
-};
-
-QString textOf(const QWidget& widget) {
-    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget))
-        return button->text();
-    if (const auto* label = qobject_cast<const QLabel*>(&widget))
-        return label->text();
-    if (const auto* group = qobject_cast<const QGroupBox*>(&widget))
-        return group->title();
-    return QStringLiteral("(no text)");
-}
-
-void compareTexts(QWidget& page, std::initializer_list<Text> texts) {
-    for (const auto& [name, text] : texts)
-        QCOMPARE(textOf(support::child<QWidget>(page, name)), QString::fromUtf8(text));
-}
 
 struct Range {
     const char* name;
@@ -50,20 +31,6 @@ void compareRanges(QWidget& page, std::initializer_list<Range> ranges) {
         QCOMPARE(std::tuple(spin.minimum(), spin.maximum(), spin.value()),
                  std::tuple(minimum, maximum, value));
     }
-}
-
-QStringList entriesOf(const QComboBox& combo) {
-    QStringList entries;
-    for (int index = 0; index < combo.count(); ++index)
-        entries += combo.itemText(index);
-    return entries;
-}
-
-void compareIcon(QWidget& page, const char* name, const char* resource) {
-    const auto& button = support::child<QAbstractButton>(page, name);
-    QCOMPARE(button.icon().pixmap(16).toImage(),
-             QIcon(QString::fromUtf8(resource)).pixmap(16).toImage());
-    QVERIFY(!button.icon().pixmap(16).isNull());
 }
 
 } // namespace

@@ -1,0 +1,220 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "session/process_values.h"
+#include "tests/config/registration_fixture.h"
+
+using namespace steps;
+using simulator::World;
+using support::callsOf;
+using support::child;
+using support::ModalDriver;
+
+namespace {
+
+/// All that a first run calls.
+const Calls kFirstRun = kCheck + kRead + kManager + sentFilled() + kUserInfoSent +
+                        Calls{"ClientConfiguration.init_register()"} + kManager +
+                        Calls{"ClientConfiguration.start_daily_admin()"};
+const Calls kLogout{"ClientConnection.logout()"};
+
+} // namespace
+
+/// The registration of an agent that is used for the first time, which the login asks for.
+class FirstRunTest : public QObject, private RegistrationFixture {
+    Q_OBJECT
+private slots:
+    void init() { start(); }
+    void cleanup() { test_.end(); }
+
+    void theFirstRunIsSaved();
+    void theFirstRunRegistersAndStartsTheDailyAdmin();
+    void aDailyAdminThatFailsIsTold_data();
+    void aDailyAdminThatFailsIsTold();
+    void cancellingTheFirstRunDisconnects_data();
+    void cancellingTheFirstRunDisconnects();
+    void aNewAgentAsksAtTheLogin();
+    void anAgentWithoutCustomersDoesntAsk();
+    void aFaultAtTheFirstRunDisconnects_data();
+    void aFaultAtTheFirstRunDisconnects();
+    void aFaultAtSavingLeavesItOpen_data();
+    void aFaultAtSavingLeavesItOpen();
+
+private:
+    /// Fills in all, asks for the registration, and saves. The daily work may then fail to start.
+    void expectRegistration(bool failing = false) {
+        expectDialog([this, failing](QWidget& dialog) {
+            fill(dialog);
+            press(dialog, "chkRegister");
+            expectNews(
+                modals(), "Configuration",
+                "Tarn-Client Registration Information is saved and registered successfully.");
+            if (failing)
+                modals().expectErrorBox(q("Error"), q("Out of order."));
+            press(dialog, "btnSave");
+            QCOMPARE(static_cast<QDialog&>(dialog).result(), int(InitClntCfgDlg::registered));
+        });
+    }
+};
+
+void FirstRunTest::theFirstRunIsSaved() {
+    expectDialog([this](QWidget& dialog) {
+        QCOMPARE(dialog.windowTitle(), q("Initial Tarn-Client Configuration"));
+        for (const char* group : {"grpPrivateKey", "grpAccountKey", "grpUserInfo"})
+            QVERIFY2(isEnabled(dialog, group), group);
+        for (const char* combo : {"cmbCountry", "cmbEmployees", "cmbIndustry"})
+            QCOMPARE(child<QComboBox>(dialog, combo).currentIndex(), -1);
+        fill(dialog);
+        expectSaved();
+        press(dialog, "btnSave");
+    });
+    firstRun();
+    compareCalls(kCheck + kRead + kManager + sentFilled() + kUserInfoSent);
+    QVERIFY(session::connectedToAgent());
+    change([](World& world) {
+        QCOMPARE(q(world.registration.private_key.c_str()), q("private key"));
+        QCOMPARE(q(world.registration.account_key.c_str()), q("account key"));
+    });
+}
+
+void FirstRunTest::theFirstRunRegistersAndStartsTheDailyAdmin() {
+    expectRegistration();
+    firstRun();
+    Calls calls = callsOf(*test_.agent);
+    const std::size_t refreshing = kFirstRun.size();
+    QVERIFY(calls.size() > refreshing);
+    // Its arguments are the times of now.
+    QVERIFY(calls[refreshing].starts_with("ClientConnection.activity_log("));
+    calls.erase(calls.begin() + static_cast<std::ptrdiff_t>(refreshing));
+    const Calls activities{"ClientConnection.running_activities()",
+                           "ClientConnection.backup_set(2)", "BackupSet.getName()"};
+    QCOMPARE(calls, kFirstRun + activities);
+    QVERIFY(test_.driver->status().endsWith(q(": Daily admin started.")));
+    change([](World& world) { QCOMPARE(world.configuration.registrations, 1); });
+}
+
+void FirstRunTest::aDailyAdminThatFailsIsTold_data() {
+    QTest::addColumn<QString>("method");
+    QTest::addColumn<int>("after");
+    QTest::addColumn<int>("calls");
+    const int all = static_cast<int>(kFirstRun.size());
+    QTest::newRow("manager") << q("getConfigurationManager") << 3 << all - 1;
+    QTest::newRow("run") << q("start_daily_admin") << 0 << all;
+}
+
+void FirstRunTest::aDailyAdminThatFailsIsTold() {
+    QFETCH(QString, method);
+    QFETCH(int, after);
+    QFETCH(int, calls);
+    failAfter(*test_.agent, after, qPrintable(method));
+    expectRegistration(true);
+    firstRun();
+    compareCalls(first(calls, kFirstRun));
+    QVERIFY(session::connectedToAgent());
+    QCOMPARE(test_.agent->waitingInjections(), std::size_t{0});
+}
+
+void FirstRunTest::cancellingTheFirstRunDisconnects_data() {
+    QTest::addColumn<bool>("closing");
+    QTest::newRow("by the button") << false;
+    QTest::newRow("by closing the window") << true;
+}
+
+void FirstRunTest::cancellingTheFirstRunDisconnects() {
+    QFETCH(bool, closing);
+    expectDialog([closing](QWidget& dialog) {
+        if (closing)
+            dialog.close();
+        else
+            press(dialog, "btnCancel");
+        QCOMPARE(static_cast<QDialog&>(dialog).result(), int(InitClntCfgDlg::cancelled));
+    });
+    firstRun();
+    compareCalls(kCheck + kRead + kLogout);
+    QVERIFY(!session::connectedToAgent());
+}
+
+void FirstRunTest::aNewAgentAsksAtTheLogin() {
+    test_.end();
+    test_.modals = std::make_unique<ModalDriver>();
+    expectDialog([](QWidget& dialog) {
+        QCOMPARE(text(dialog, "txtFieldClientNum"), QString());
+        QCOMPARE(addresses(dialog), QString());
+        press(dialog, "btnCancel");
+    });
+    test_.start(simulator::Scenario::FirstRun);
+    QVERIFY(!session::connectedToAgent());
+}
+
+void FirstRunTest::anAgentWithoutCustomersDoesntAsk() {
+    change([](World& world) { world.configuration.keepsCustomer = false; });
+    firstRun();
+    Calls expected = kCheck;
+    expected.pop_back();
+    compareCalls(expected);
+    QVERIFY(session::connectedToAgent());
+}
+
+void FirstRunTest::aFaultAtTheFirstRunDisconnects_data() {
+    QTest::addColumn<QString>("method");
+    QTest::addColumn<int>("after");
+    QTest::addColumn<int>("calls");
+    QTest::newRow("info") << q("getTarnClientInfo") << 0 << 1;
+    QTest::newRow("manager") << q("getConfigurationManager") << 0 << 2;
+    QTest::newRow("customer") << q("getUserInfoConfiguration") << 0 << 3;
+    QTest::newRow("its record") << q("getUserInfo") << 0 << 4;
+    QTest::newRow("dialog, manager") << q("getConfigurationManager") << 1 << 5;
+    QTest::newRow("dialog, registration") << q("getTarnCRegistrationInfo") << 0 << 6;
+    QTest::newRow("dialog, customer") << q("getUserInfoConfiguration") << 1 << 7;
+    QTest::newRow("dialog, its record") << q("getUserInfo") << 1 << 8;
+}
+
+void FirstRunTest::aFaultAtTheFirstRunDisconnects() {
+    QFETCH(QString, method);
+    QFETCH(int, after);
+    QFETCH(int, calls);
+    failAfter(*test_.agent, after, qPrintable(method));
+    modals().expectErrorBox(q("Configuration Error"), q("Out of order."));
+    firstRun();
+    compareCalls(first(calls, kCheck + kRead) + kLogout);
+    QVERIFY(!session::connectedToAgent());
+    QCOMPARE(test_.agent->waitingInjections(), std::size_t{0});
+}
+
+void FirstRunTest::aFaultAtSavingLeavesItOpen_data() {
+    QTest::addColumn<QString>("method");
+    QTest::addColumn<int>("after");
+    QTest::addColumn<bool>("kept");
+    QTest::addColumn<int>("calls");
+    QTest::newRow("manager") << q("getConfigurationManager") << 2 << false << 9;
+    QTest::newRow("registration") << q("setTarnCRegistrationInfo") << 0 << false << 10;
+    QTest::newRow("customer") << q("getUserInfoConfiguration") << 2 << true << 11;
+    QTest::newRow("its record") << q("setUserInfo") << 0 << true << 12;
+    QTest::newRow("server") << q("init_register") << 0 << true << 13;
+}
+
+void FirstRunTest::aFaultAtSavingLeavesItOpen() {
+    QFETCH(QString, method);
+    QFETCH(int, after);
+    QFETCH(bool, kept);
+    QFETCH(int, calls);
+    failAfter(*test_.agent, after, qPrintable(method));
+    expectDialog([this, kept](QWidget& dialog) {
+        fill(dialog);
+        press(dialog, "chkRegister");
+        modals().expectErrorBox(q("Configuration Error"), q("Out of order."));
+        press(dialog, "btnSave");
+        QVERIFY(dialog.isVisible());
+        change([kept](World& world) {
+            QCOMPARE(world.registration.client_num == "ABCDEFGHIJK1", kept);
+            QCOMPARE(world.configuration.registrations, 0);
+        });
+        QCOMPARE(text(dialog, "txtFieldPrivateKey"), q("private key"));
+        press(dialog, "btnCancel");
+    });
+    firstRun();
+    compareCalls(first(calls, kFirstRun) + kLogout);
+    QCOMPARE(test_.agent->waitingInjections(), std::size_t{0});
+}
+
+QTEST_MAIN(FirstRunTest)
+#include "first_run_test.moc"

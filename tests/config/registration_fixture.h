@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QTemporaryDir>
+
+#include "config/init_clnt_cfg_dlg.h"
+#include "resources/pictures.h"
+#include "simulator/world/world.h"
+#include "tests/config/registration_steps.h"
+
+/// A main window whose agent is registered, and somebody in front of the registration's dialog.
+class RegistrationFixture {
+protected:
+    void start() {
+        resources::initPictures();
+        test_.start();
+    }
+
+    support::ModalDriver& modals() { return *test_.modals; }
+    void expectDialog(const support::ModalDriver::Act& act) {
+        modals().expect(steps::q("registration"), support::isDialog<InitClntCfgDlg>, act);
+    }
+    void expectSaved() {
+        steps::expectNews(modals(), "Configuration",
+                          "Tarn-Client Registration Information is saved successfully.");
+    }
+    void modify() { test_.run("on_actionRegistration_Info_triggered"); }
+    /// The agent is found to know nothing of its customer.
+    void firstRun() {
+        change([](simulator::World& world) { world.customer = {}; });
+        test_.agent->clearCallLog();
+        test_.driver->window().checkInitialConfiguration();
+        QVERIFY(modals().done());
+    }
+    void compareCalls(const steps::Calls& expected) {
+        QCOMPARE(support::callsOf(*test_.agent), expected);
+    }
+    void change(const std::function<void(simulator::World&)>& visit) {
+        test_.agent->withWorld(visit);
+    }
+    /// Presses the button for a file, and chooses one of this name and with these bytes.
+    void import(QWidget& dialog, const char* name, const QByteArray& bytes, bool remove = false) {
+        const QString path = folder_.filePath(steps::q(name));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+        file.close();
+        steps::expectCriFile(modals(), path, remove);
+        steps::press(dialog, "btnBrowse");
+    }
+
+    support::WizardTest test_;
+    QTemporaryDir folder_;
+};
