@@ -565,10 +565,6 @@ backup set using the buttons on the right.</source>
         <translation> Generation(en)</translation>
     </message>
     <message>
-        <source>Error</source>
-        <translation>Fehler</translation>
-    </message>
-    <message>
         <source>Remove backup set?</source>
         <translation>Sicherungssatz entfernen?</translation>
     </message>
@@ -2296,6 +2292,187 @@ Möchten Sie die Datenbank wirklich wiederherstellen?</translation>
     </message>
 </context>
 <context>
+    <name>RestoreDirectoryDestination</name>
+    <message>
+        <source>Select Restore Directory</source>
+        <translation>Ordner für die Wiederherstellung wählen</translation>
+    </message>
+    <message>
+        <source>Restore to:</source>
+        <translation>Wiederherstellen in:</translation>
+    </message>
+    <message>
+        <source>&gt;</source>
+        <translation>&gt;</translation>
+    </message>
+    <message>
+        <source>Show the directories</source>
+        <translation>Ordner zeigen</translation>
+    </message>
+    <message>
+        <source>Directories</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>restore_%1</source>
+        <translation>wiederherstellung_%1</translation>
+    </message>
+    <message>
+        <source>Select the directory where the restore should be performed in. The restored data will be placed in a subdirectory named &apos;&apos;%1&apos;&apos;</source>
+        <translation>Wählen Sie den Ordner, in dem wiederhergestellt wird. Die wiederhergestellten Daten kommen in einen Unterordner namens &apos;&apos;%1&apos;&apos;</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreLocationPage</name>
+    <message>
+        <source>WizardPage</source>
+        <translation>WizardPage</translation>
+    </message>
+    <message>
+        <source>Restore Destination</source>
+        <translation>Ziel der Wiederherstellung</translation>
+    </message>
+    <message>
+        <source>Select the destination for the restore</source>
+        <translation>Wählen Sie das Ziel der Wiederherstellung</translation>
+    </message>
+    <message>
+        <source>&amp;Original location</source>
+        <translation>&amp;Ursprünglicher Ort</translation>
+    </message>
+    <message>
+        <source>O&amp;riginal computer, alternate directory</source>
+        <translation>U&amp;rsprünglicher Computer, anderer Ordner</translation>
+    </message>
+    <message>
+        <source>&amp;Alternate computer/directory</source>
+        <translation>A&amp;nderer Computer/Ordner</translation>
+    </message>
+    <message>
+        <source>Restore Reason</source>
+        <translation>Grund der Wiederherstellung</translation>
+    </message>
+    <message>
+        <source>Restore reason</source>
+        <translation>Grund der Wiederherstellung</translation>
+    </message>
+    <message>
+        <source>Human Factor</source>
+        <translation>Menschlicher Faktor</translation>
+    </message>
+    <message>
+        <source>    Device lost or stolen</source>
+        <translation>    Gerät verloren oder gestohlen</translation>
+    </message>
+    <message>
+        <source>    User error/Accidental Data Deletion</source>
+        <translation>    Benutzerfehler/Daten versehentlich gelöscht</translation>
+    </message>
+    <message>
+        <source>    User data deletion - malicious intent</source>
+        <translation>    Daten vom Benutzer gelöscht - böse Absicht</translation>
+    </message>
+    <message>
+        <source>    Data stolen</source>
+        <translation>    Daten gestohlen</translation>
+    </message>
+    <message>
+        <source>    Access to a previous generation of the data</source>
+        <translation>    Zugriff auf eine frühere Generation der Daten</translation>
+    </message>
+    <message>
+        <source>Internal cause</source>
+        <translation>Innere Ursache</translation>
+    </message>
+    <message>
+        <source>    Data loss - Hardware malfunction</source>
+        <translation>    Datenverlust - Fehler der Hardware</translation>
+    </message>
+    <message>
+        <source>    Data loss - Software malfunction</source>
+        <translation>    Datenverlust - Fehler der Software</translation>
+    </message>
+    <message>
+        <source>External cause</source>
+        <translation>Äußere Ursache</translation>
+    </message>
+    <message>
+        <source>    Natural disasters</source>
+        <translation>    Naturkatastrophen</translation>
+    </message>
+    <message>
+        <source>    Power outages</source>
+        <translation>    Stromausfälle</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreSelectPage</name>
+    <message>
+        <source>Delete Items</source>
+        <translation>Elemente löschen</translation>
+    </message>
+    <message>
+        <source>Select Items</source>
+        <translation>Elemente wählen</translation>
+    </message>
+    <message>
+        <source>Select the files and/or directories to restore</source>
+        <translation>Wählen Sie die Dateien und Ordner, die wiederhergestellt werden</translation>
+    </message>
+    <message>
+        <source>Items to Restore</source>
+        <translation>Wiederherzustellende Elemente</translation>
+    </message>
+    <message>
+        <source>Directories</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>File &amp;Filter:</source>
+        <translation>Dateifil&amp;ter:</translation>
+    </message>
+    <message>
+        <source>&amp;Generations</source>
+        <translation>&amp;Generationen</translation>
+    </message>
+    <message>
+        <source>Time f&amp;ilter</source>
+        <translation>Z&amp;eitfilter</translation>
+    </message>
+    <message>
+        <source>Backed up on/&amp;after:</source>
+        <translation>Gesi&amp;chert ab:</translation>
+    </message>
+    <message>
+        <source>Backed up on or after</source>
+        <translation>Gesichert ab</translation>
+    </message>
+    <message>
+        <source>Backed up on/&amp;before:</source>
+        <translation>Gesichert &amp;bis:</translation>
+    </message>
+    <message>
+        <source>Backed up on or before</source>
+        <translation>Gesichert bis</translation>
+    </message>
+    <message>
+        <source>&amp;Hide files removed on/before:</source>
+        <translation>&amp;Dateien ausblenden, entfernt bis:</translation>
+    </message>
+    <message>
+        <source>Hide files removed on or before</source>
+        <translation>Dateien ausblenden, entfernt bis</translation>
+    </message>
+</context>
+<context>
     <name>RetentionSelectPage</name>
     <message>
         <source>Select Retention</source>
@@ -2673,6 +2850,49 @@ Möchten Sie die Datenbank wirklich wiederherstellen?</translation>
     <message>
         <source>Error</source>
         <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Use other credentials</source>
+        <translation>Andere Anmeldedaten</translation>
+    </message>
+    <message>
+        <source>Enter the credentials to be used during restore</source>
+        <translation>Geben Sie die Anmeldedaten für die Wiederherstellung ein</translation>
+    </message>
+    <message>
+        <source>Restore Destination Computer</source>
+        <translation>Zielcomputer der Wiederherstellung</translation>
+    </message>
+    <message>
+        <source>Select the computer where the data will be restored to</source>
+        <translation>Wählen Sie den Computer, auf dem die Daten wiederhergestellt werden</translation>
+    </message>
+    <message>
+        <source>Destination</source>
+        <translation>Ziel</translation>
+    </message>
+    <message>
+        <source>Data will be restored to:</source>
+        <translation>Die Daten kommen auf:</translation>
+    </message>
+</context>
+<context>
+    <name>SelectGenerationDlg</name>
+    <message>
+        <source>Select a file generation to restore</source>
+        <translation>Wiederherzustellende Generation wählen</translation>
+    </message>
+    <message>
+        <source>Generations of the file</source>
+        <translation>Generationen der Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Select</source>
+        <translation>A&amp;uswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
     </message>
 </context>
 <context>
@@ -3107,6 +3327,25 @@ Klicken Sie hier, um diesen Hinweis nicht mehr zu sehen.</translation>
     <message>
         <source>Delete from backup set</source>
         <translation>Aus Sicherungssatz löschen</translation>
+    </message>
+    <message>
+        <source>Restore Data</source>
+        <translation>Daten wiederherstellen</translation>
+    </message>
+    <message>
+        <source>No data backed up</source>
+        <translation>Keine gesicherten Daten</translation>
+    </message>
+    <message>
+        <source>The selected backup set has no backed up data.</source>
+        <translation>Der gewählte Sicherungssatz hat keine gesicherten Daten.</translation>
+    </message>
+</context>
+<context>
+    <name>StoredItemsPage</name>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
     </message>
 </context>
 <context>
