@@ -3,10 +3,12 @@
 #include "models/small_tree_view.h"
 
 #include "models/asterisk_key.h"
+#include "models/picture_delegate.h"
 
 CSmallTreeView::CSmallTreeView(QWidget* parent)
     : QTreeView(parent) {
     setUniformRowHeights(true);
+    setItemDelegate(new models::PictureDelegate(this));
     models::expandOneLevelByAsterisk(*this);
 }
 

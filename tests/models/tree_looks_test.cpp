@@ -4,6 +4,7 @@
 
 #include <QPainter>
 #include <QPixmapCache>
+#include <QStandardItemModel>
 #include <QtTest>
 
 #include <boost/make_shared.hpp>
@@ -11,6 +12,7 @@
 #include "models/data_source_model.h"
 #include "models/item_pixmap.h"
 #include "models/select_display_delegate.h"
+#include "models/small_list_view.h"
 #include "models/small_tree_view.h"
 #include "resources/pictures.h"
 #include "tests/models/browsing_agent.h"
@@ -74,6 +76,8 @@ private slots:
     void aDensePictureTakesNoMoreRoom();
     void theViewHasNoWishForASizeAndRowsOfOneHeight();
     void theAsteriskKeyExpandsOneLevel();
+    void thePictureOfASelectedRowStandsOut_data();
+    void thePictureOfASelectedRowStandsOut();
 
 private:
     boost::shared_ptr<BrowsingAgent> agent_;
@@ -173,6 +177,38 @@ void TreeLooksTest::theAsteriskKeyExpandsOneLevel() {
     QVERIFY(!view.isExpanded(indexAt(*model_, "C:/denied")));
     QCOMPARE(QString::fromStdString(agent_->takeCalls()),
              QStringLiteral("getSubItems(pc, )\ngetSubItems(pc, C:)"));
+}
+
+void TreeLooksTest::thePictureOfASelectedRowStandsOut_data() {
+    QTest::addColumn<bool>("asTree");
+    QTest::newRow("tree") << true;
+    QTest::newRow("list") << false;
+}
+
+void TreeLooksTest::thePictureOfASelectedRowStandsOut() {
+    QFETCH(bool, asTree);
+    CSmallTreeView tree;
+    CSmallListView list;
+    QAbstractItemView& view =
+        asTree ? static_cast<QAbstractItemView&>(tree) : static_cast<QAbstractItemView&>(list);
+    const QColor row = view.palette().color(QPalette::Highlight);
+    // All that is seen is the picture, in the colour of the row.
+    QPixmap picture(16, 16);
+    picture.fill(row);
+    QStandardItemModel model;
+    model.appendRow(new QStandardItem);
+    model.item(0)->setData(picture, Qt::DecorationRole);
+    view.setModel(&model);
+    view.resize(200, 100);
+    view.setCurrentIndex(model.index(0, 0));
+    view.show();
+    const QRect place = view.visualRect(model.index(0, 0));
+    const QImage look = view.viewport()->grab(place).toImage();
+    int light = 0;
+    for (int x = 0; x < look.width(); ++x)
+        if (QColor(look.pixel(x, look.height() / 2)).lightness() > row.lightness() + 50)
+            ++light;
+    QCOMPARE(light, picture.width());
 }
 
 QTEST_MAIN(TreeLooksTest)

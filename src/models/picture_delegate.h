@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QStyledItemDelegate>
+
+namespace models {
+
+/// Draws the picture of a selected row light, as its text is. Styles would tint it with the colour
+/// of the row, in which its thin lines are lost.
+class PictureDelegate : public QStyledItemDelegate {
+    Q_OBJECT
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
+};
+
+} // namespace models
