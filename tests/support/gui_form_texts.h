@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QTest>
 
 #include "tests/support/gui_modal_driver.h"
 
