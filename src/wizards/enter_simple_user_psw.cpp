@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "wizards/enter_simple_user_psw.h"
 
+#include <QEvent>
+
+#include "config/wipe_field.h"
 #include "ui_enter_simple_user_psw.h"
 #include "wizards/user_name_validator.h"
 
@@ -20,7 +23,9 @@ CEnterSimpleUserPsw::CEnterSimpleUserPsw(const QString& user, QWidget* parent)
     connect(ui_->btnCancel, &QPushButton::clicked, this, &CEnterSimpleUserPsw::reject);
 }
 
-CEnterSimpleUserPsw::~CEnterSimpleUserPsw() = default;
+CEnterSimpleUserPsw::~CEnterSimpleUserPsw() {
+    config::wipe(*ui_->editPassword);
+}
 
 QString CEnterSimpleUserPsw::user() const {
     return ui_->editUserName->text();
@@ -32,4 +37,10 @@ QString CEnterSimpleUserPsw::password() const {
 
 void CEnterSimpleUserPsw::PasswordChanged() {
     ui_->btnOK->setEnabled(true);
+}
+
+void CEnterSimpleUserPsw::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange)
+        ui_->retranslateUi(this);
+    QDialog::changeEvent(event);
 }

@@ -24,6 +24,9 @@ public:
 public slots:
     void PasswordChanged();
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     std::unique_ptr<Ui::CEnterSimpleUserPsw> ui_;
 };

@@ -11,6 +11,7 @@
 #include "models/select_display_delegate.h"
 #include "session/required.h"
 #include "session/text.h"
+#include "ui/plain_tool_tip.h"
 #include "ui/wait_cursor.h"
 #include "ui/wizard_frame.h"
 #include "ui_items_select_page.h"
@@ -286,8 +287,8 @@ void ItemsSelectPage::showTreeOrNot(bool shown) {
 }
 
 void ItemsSelectPage::on_comboSpecificLocations_currentIndexChanged(int index) {
-    ui_->comboSpecificLocations->setToolTip(
-        ui_->comboSpecificLocations->itemData(index).toString());
+    const QString path = ui_->comboSpecificLocations->itemData(index).toString();
+    ui_->comboSpecificLocations->setToolTip(ui::plainToolTip(path));
 }
 
 /// Comes for each of the items below one that is checked, and the wizard looks at all its buttons

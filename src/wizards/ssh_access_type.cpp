@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "wizards/ssh_access_type.h"
 
+#include <QEvent>
+
 #include "session/text.h"
 #include "ui/error_box.h"
 #include "ui_ssh_access_type.h"
@@ -37,4 +39,10 @@ void CSSHAccessType::OkPressed() {
         return;
     }
     accept();
+}
+
+void CSSHAccessType::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange)
+        ui_->retranslateUi(this);
+    QDialog::changeEvent(event);
 }

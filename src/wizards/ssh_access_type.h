@@ -28,6 +28,9 @@ public:
 public slots:
     void OkPressed();
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     std::unique_ptr<Ui::CSSHAccessType> ui_;
 };

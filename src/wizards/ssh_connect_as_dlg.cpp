@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "wizards/ssh_connect_as_dlg.h"
 
+#include <QEvent>
+
+#include "config/wipe_field.h"
 #include "ui_ssh_connect_as_dlg.h"
 
 CSSHConnectAsDlg::CSSHConnectAsDlg(const QString& user, QWidget* parent)
@@ -25,7 +28,10 @@ CSSHConnectAsDlg::CSSHConnectAsDlg(const QString& user, QWidget* parent)
     UpdateFieldVisibility();
 }
 
-CSSHConnectAsDlg::~CSSHConnectAsDlg() = default;
+CSSHConnectAsDlg::~CSSHConnectAsDlg() {
+    config::wipe(*ui_->editPassPhrase);
+    config::wipe(*ui_->editPassword);
+}
 
 void CSSHConnectAsDlg::mirrorFields() {
     const auto mirror = [this](QLineEdit* one, QLineEdit* other) {
@@ -66,4 +72,10 @@ void CSSHConnectAsDlg::UpdateFieldVisibility() {
 
 void CSSHConnectAsDlg::PasswordEdited() {
     ui_->btnOK->setEnabled(true);
+}
+
+void CSSHConnectAsDlg::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange)
+        ui_->retranslateUi(this);
+    QDialog::changeEvent(event);
 }

@@ -32,6 +32,9 @@ public slots:
     void UpdateFieldVisibility();
     void PasswordEdited();
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     void mirrorFields();
 

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "wizards/ssh_sudo_credentials.h"
 
+#include <QEvent>
+
+#include "config/wipe_field.h"
 #include "ui_ssh_sudo_credentials.h"
 
 CSSHSudoCredentials::CSSHSudoCredentials(const QString& user, QWidget* parent)
@@ -18,7 +21,9 @@ CSSHSudoCredentials::CSSHSudoCredentials(const QString& user, QWidget* parent)
     connect(ui_->btnNoSudo, &QPushButton::clicked, this, &CSSHSudoCredentials::NoSuDoClicked);
 }
 
-CSSHSudoCredentials::~CSSHSudoCredentials() = default;
+CSSHSudoCredentials::~CSSHSudoCredentials() {
+    config::wipe(*ui_->editPassword);
+}
 
 QString CSSHSudoCredentials::user() const {
     return ui_->editUserName->text();
@@ -35,4 +40,10 @@ void CSSHSudoCredentials::PasswordEdited() {
 void CSSHSudoCredentials::NoSuDoClicked() {
     noSudo_ = true;
     accept();
+}
+
+void CSSHSudoCredentials::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange)
+        ui_->retranslateUi(this);
+    QDialog::changeEvent(event);
 }

@@ -27,6 +27,9 @@ public slots:
     void PasswordEdited();
     void NoSuDoClicked();
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     std::unique_ptr<Ui::CSSHSudoCredentials> ui_;
     bool noSudo_ = false;

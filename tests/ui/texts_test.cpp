@@ -5,6 +5,7 @@
 #include "hessian/kinds.h"
 #include "ui/activity_type_text.h"
 #include "ui/duration_text.h"
+#include "ui/plain_tool_tip.h"
 #include "ui/set_data_type_text.h"
 #include "ui/size_text.h"
 
@@ -115,6 +116,17 @@ TEST(SetDataType, NamesTheKnownTypes) {
 TEST(SetDataType, OtherTypesAreUnknown) {
     for (const int type : {19, 30, -1})
         EXPECT_EQ(text(getSetDataType(BackupDataType{type})), "Unknown Data Type");
+}
+
+TEST(PlainToolTip, IsTheTextItself) {
+    EXPECT_EQ(text(ui::plainToolTip(QStringLiteral("C:\\Users & Co\\a < b"))),
+              "C:\\Users & Co\\a < b");
+    EXPECT_EQ(ui::plainToolTip(QString()), QString());
+}
+
+TEST(PlainToolTip, ShowsWhatLooksLikeHtml) {
+    EXPECT_EQ(text(ui::plainToolTip(QStringLiteral("/home/<b>a&b</b>"))),
+              "<span>/home/&lt;b&gt;a&amp;b&lt;/b&gt;</span>");
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 #include <QRadioButton>
 #include <QTest>
 #include <QToolTip>
+#include <QTranslator>
 
 #include "resources/pictures.h"
 #include "tests/support/gui_agent.h"
@@ -25,6 +26,19 @@ using wizards_test::kPassword;
 using wizards_test::press;
 using wizards_test::type;
 
+namespace {
+
+/// Another language, in which all is underlined.
+class Underlining : public QTranslator {
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char*, const char* text, const char*, int) const override {
+        return QLatin1Char('_') + QString::fromUtf8(text);
+    }
+};
+
+} // namespace
+
 /// The dialogs without an agent.
 class CredentialDialogsTest : public QObject {
     Q_OBJECT
@@ -41,6 +55,7 @@ private slots:
     void theSudoDialogAsksForAUser();
     void theSudoDialogStartsEmptyWithoutAUser();
     void noDialogGivesAwayASecret();
+    void dialogsFollowTheLanguage();
 };
 
 void CredentialDialogsTest::theSimpleDialogAsksForUserAndPassword() {
@@ -211,6 +226,27 @@ void CredentialDialogsTest::noDialogGivesAwayASecret() {
         QCOMPARE(fieldText(*dialog, "editPassword"), secret);
         QVERIFY(!gives(*dialog, secret));
     }
+}
+
+void CredentialDialogsTest::dialogsFollowTheLanguage() {
+    CEnterSimpleUserPsw simple(QStringLiteral("anna"));
+    CSSHConnectAsDlg ssh(QStringLiteral("anna"));
+    CSSHSudoCredentials sudo(QStringLiteral("anna"));
+    QWidget* const dialogs[] = {&simple, &ssh, &sudo};
+    for (QWidget* dialog : dialogs)
+        type(*dialog, "editPassword", QString::fromLatin1(kPassword));
+    Underlining language;
+    QCoreApplication::installTranslator(&language);
+    for (QWidget* dialog : dialogs) {
+        QTRY_VERIFY(dialog->windowTitle().startsWith(QLatin1Char('_')));
+        for (const QLabel* label : dialog->findChildren<QLabel*>())
+            QVERIFY2(label->text().startsWith(QLatin1Char('_')), qPrintable(label->text()));
+        for (const QAbstractButton* button : dialog->findChildren<QAbstractButton*>())
+            QVERIFY2(button->text().startsWith(QLatin1Char('_')), qPrintable(button->text()));
+        QCOMPARE(fieldText(*dialog, "editUserName"), QStringLiteral("anna"));
+        QCOMPARE(fieldText(*dialog, "editPassword"), QString::fromLatin1(kPassword));
+    }
+    QCoreApplication::removeTranslator(&language);
 }
 
 QTEST_MAIN(CredentialDialogsTest)

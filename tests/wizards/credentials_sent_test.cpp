@@ -269,11 +269,17 @@ void CredentialsSentTest::aScriptWantsAPath() {
     shown.modals.expectErrorBox(QStringLiteral("Cannot set ssh access type"),
                                 QStringLiteral("The access method 'direct script execution' "
                                                "requires the script path to execute"));
-    shown.modals.expect(QStringLiteral("access again"), isDialog<CSSHAccessType>,
-                        [](QWidget& asked) {
-                            QCOMPARE(asked.focusWidget(), &child<QWidget>(asked, "editPath"));
-                            press(asked, "btnCancel");
-                        });
+    shown.modals.expect(
+        QStringLiteral("access again"), isDialog<CSSHAccessType>, [](QWidget& asked) {
+            QCOMPARE(asked.focusWidget(), &child<QWidget>(asked, "editPath"));
+            // A language that is changed meanwhile brings its texts.
+            child<QPushButton>(asked, "btnOK").setText(QString());
+            QEvent change(QEvent::LanguageChange);
+            QCoreApplication::sendEvent(&asked, &change);
+            QCOMPARE(child<QPushButton>(asked, "btnOK").text(), QStringLiteral("&OK"));
+            QCOMPARE(child<QComboBox>(asked, "comboInterface").currentIndex(), 2);
+            press(asked, "btnCancel");
+        });
     shown.driver.click("btnSSHAccess");
     QVERIFY(shown.modals.done());
     QCOMPARE(shown.source.takeCalls().size(), std::size_t(4));

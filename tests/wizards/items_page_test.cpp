@@ -34,6 +34,7 @@ private slots:
     void cleanup() { end(); }
 
     void aNewSetShowsThePresets();
+    void aPathThatLooksLikeHtmlIsShownAsItIs();
     void aComputerWithoutPresetsShowsTheTree();
     void aSetOfAnotherKindIsRefused();
     void withoutASetAndASourceNothingIsAsked();
@@ -88,6 +89,19 @@ void ItemsPageTest::aNewSetShowsThePresets() {
     QCOMPARE(page.kinds(), text("D"));
     QVERIFY(page->isComplete());
     QVERIFY(page.tree().uniformRowHeights());
+}
+
+void ItemsPageTest::aPathThatLooksLikeHtmlIsShownAsItIs() {
+    agent().withWorld([](simulator::World& world) {
+        auto& presets = world.network.local()->presets;
+        presets.resize(1);
+        presets.front().path = "/home/<b>anna</b>";
+    });
+    PageOfSource page;
+    QTextDocument shown;
+    shown.setHtml(page.presets().toolTip());
+    QVERIFY(Qt::mightBeRichText(page.presets().toolTip()));
+    QCOMPARE(shown.toPlainText(), text("/home/<b>anna</b>"));
 }
 
 void ItemsPageTest::aComputerWithoutPresetsShowsTheTree() {
