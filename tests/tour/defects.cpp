@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "tests/tour/defects.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAbstractScrollArea>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QKeySequence>
+#include <QLabel>
+#include <QMap>
+#include <QStyle>
+#include <QStyleOptionComboBox>
+#include <QStyleOptionGroupBox>
+#include <QToolButton>
+
+namespace tour {
+
+namespace {
+
+QString told(const QWidget& widget, const QString& text) {
+    return QStringLiteral("%1 \"%2\"").arg(widget.objectName(), text);
+}
+
+bool isCut(const QLabel& label) {
+    if (label.text().isEmpty())
+        return false;
+    if (label.wordWrap())
+        return label.heightForWidth(label.width()) > label.height();
+    return label.sizeHint().width() > label.width() || label.sizeHint().height() > label.height();
+}
+
+bool isCut(const QComboBox& combo) {
+    QStyleOptionComboBox option;
+    option.initFrom(&combo);
+    option.currentText = combo.currentText();
+    const QRect field = combo.style()->subControlRect(QStyle::CC_ComboBox, &option,
+                                                      QStyle::SC_ComboBoxEditField, &combo);
+    return combo.fontMetrics().horizontalAdvance(combo.currentText()) > field.width();
+}
+
+bool isCut(const QGroupBox& group) {
+    const QSize size = group.fontMetrics().size(Qt::TextShowMnemonic, group.title());
+    return size.width() > group.width();
+}
+
+bool isCut(const QAbstractButton& button) {
+    const int icon = button.icon().isNull() ? 0 : button.iconSize().width();
+    const QSize text = button.fontMetrics().size(Qt::TextShowMnemonic, button.text());
+    return text.width() + icon > button.width();
+}
+
+/// The text of a widget that is too small for it; empty if all of it is seen.
+QString cutText(const QWidget& widget) {
+    if (const auto* label = qobject_cast<const QLabel*>(&widget))
+        return isCut(*label) ? label->text() : QString();
+    if (const auto* combo = qobject_cast<const QComboBox*>(&widget))
+        return isCut(*combo) ? combo->currentText() : QString();
+    if (const auto* group = qobject_cast<const QGroupBox*>(&widget))
+        return isCut(*group) ? group->title() : QString();
+    // Those of a tool bar choose between their text and their icon.
+    if (qobject_cast<const QToolButton*>(&widget))
+        return {};
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget))
+        return isCut(*button) ? button->text() : QString();
+    return {};
+}
+
+/// What a row shows are a user's texts of any length.
+bool isRowOfAView(const QWidget& widget) {
+    for (const QWidget* at = widget.parentWidget(); at; at = at->parentWidget())
+        if (qobject_cast<const QAbstractItemView*>(at))
+            return true;
+    return false;
+}
+
+/// What a view holds may be larger than the view.
+bool mayStickOut(const QWidget& widget) {
+    const QWidget* parent = widget.parentWidget();
+    return widget.isWindow() || !parent || qobject_cast<const QAbstractScrollArea*>(parent) ||
+           qobject_cast<const QAbstractScrollArea*>(parent->parentWidget()) || !parent->layout();
+}
+
+bool sticksOut(const QWidget& widget) {
+    return !mayStickOut(widget) && !widget.parentWidget()->rect().contains(widget.geometry());
+}
+
+QString textWithKey(const QWidget& widget) {
+    if (const auto* label = qobject_cast<const QLabel*>(&widget))
+        return label->buddy() ? label->text() : QString();
+    if (const auto* group = qobject_cast<const QGroupBox*>(&widget))
+        return group->title();
+    if (qobject_cast<const QToolButton*>(&widget))
+        return {};
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget))
+        return button->text();
+    return {};
+}
+
+} // namespace
+
+QStringList defectsOf(const QWidget& shown) {
+    QStringList defects;
+    QMap<QString, QStringList> keys;
+    for (const auto* widget : shown.findChildren<QWidget*>()) {
+        if (!widget->isVisible() || isRowOfAView(*widget))
+            continue;
+        const QString cut = cutText(*widget);
+        if (!cut.isEmpty())
+            defects << QStringLiteral("cut is ") + told(*widget, cut);
+        if (sticksOut(*widget))
+            defects << widget->objectName() + QStringLiteral(" sticks out");
+        // A key goes to what is enabled.
+        if (!widget->isEnabled())
+            continue;
+        const QString key = QKeySequence::mnemonic(textWithKey(*widget)).toString();
+        if (!key.isEmpty())
+            keys[key] << told(*widget, textWithKey(*widget));
+    }
+    for (auto key = keys.cbegin(); key != keys.cend(); ++key)
+        if (key->size() > 1)
+            defects << key.key() + QStringLiteral(" stands for ") +
+                           key->join(QStringLiteral(" and "));
+    return defects;
+}
+
+} // namespace tour
