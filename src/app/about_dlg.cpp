@@ -3,6 +3,7 @@
 #include "app/about_dlg.h"
 
 #include <QEvent>
+#include <QHeaderView>
 
 #include "session/process_values.h"
 #include "ui/branding_resources.h"
@@ -41,6 +42,7 @@ void AboutDlg::setUpInformation() {
     ui_->groupInfo->setVisible(session::connectedToAgent());
     ui_->tableInfo->setModel(&model_);
     ui_->tableInfo->setItemDelegate(new ui::FittingTextDelegate(ui_->tableInfo));
+    ui_->tableInfo->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     ui_->tableInfo->setColumnWidth(TarnClientInfoModel::item, 140);
     ui_->tableInfo->setColumnWidth(TarnClientInfoModel::value, 270);
     model_.refresh();

@@ -3,7 +3,6 @@
 #include "config/ad_account_dlg.h"
 
 #include <QEvent>
-#include <QMessageBox>
 
 #include "api/client_connection.h"
 #include "config/ad_account.h"
@@ -14,6 +13,7 @@
 #include "session/text.h"
 #include "ui/branding_resources.h"
 #include "ui/error_box.h"
+#include "ui/message_box.h"
 #include "ui/remote_action.h"
 #include "ui_ad_account_dlg.h"
 
@@ -69,16 +69,16 @@ bool ADAccountDlg::send(bool save) {
 void ADAccountDlg::on_btnSave_clicked() {
     if (!send(true))
         return;
-    QMessageBox::information(this, tr("LDAP User Validation"),
-                             tr("LDAP User Information is saved successfully."));
+    ui::showInformation(this, tr("LDAP User Validation"),
+                        tr("LDAP User Information is saved successfully."));
     done(saved);
 }
 
 void ADAccountDlg::on_btnValidate_clicked() {
     if (!send(false))
         return;
-    QMessageBox::information(this, tr("LDAP User Validation"),
-                             tr("LDAP User Information is validated successfully."));
+    ui::showInformation(this, tr("LDAP User Validation"),
+                        tr("LDAP User Information is validated successfully."));
     done(validated);
 }
 

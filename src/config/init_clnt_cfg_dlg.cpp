@@ -5,7 +5,6 @@
 #include <QEvent>
 #include <QFile>
 #include <QFileDialog>
-#include <QMessageBox>
 
 #include "api/client_connection.h"
 #include "config/chosen_file.h"
@@ -21,7 +20,9 @@
 #include "session/text.h"
 #include "ui/branding_resources.h"
 #include "ui/error_box.h"
+#include "ui/message_box.h"
 #include "ui/remote_action.h"
+#include "ui/standard_buttons.h"
 #include "ui_init_clnt_cfg_dlg.h"
 
 namespace {
@@ -130,6 +131,7 @@ QString InitClntCfgDlg::chooseCriFile() {
     dialog.setWindowIcon(ui::g_branding.applicationIcon());
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setFileMode(QFileDialog::ExistingFile);
+    ui::setStandardButtonPictures(dialog);
     if (dialog.exec() != QDialog::Accepted)
         return {};
     return config::firstFileEndingIn(QLatin1String(".cri"), dialog.selectedFiles());
@@ -270,7 +272,7 @@ void InitClntCfgDlg::on_btnSave_clicked() {
     if (!ui::remoteAction(*this, tr("Configuration Error"), ui::Cursor::wait, [this] { write(); }))
         return;
     const bool isRegistered = ui_->chkRegister->isChecked();
-    QMessageBox::information(
+    ui::showInformation(
         this, tr("Configuration"),
         isRegistered
             ? tr("Tarn-Client Registration Information is saved and registered successfully.")

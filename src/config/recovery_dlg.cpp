@@ -3,14 +3,14 @@
 #include "config/recovery_dlg.h"
 
 #include <QEvent>
-#include <QMessageBox>
-#include <QPushButton>
 
 #include "api/client_connection.h"
 #include "session/connection.h"
 #include "session/required.h"
 #include "ui/branding_resources.h"
+#include "ui/message_box.h"
 #include "ui/remote_action.h"
+#include "ui/standard_buttons.h"
 #include "ui_recovery_dlg.h"
 
 namespace {
@@ -29,9 +29,7 @@ RecoveryDlg::RecoveryDlg(QWidget* parent)
     , ui_(std::make_unique<Ui::RecoveryDlg>()) {
     ui_->setupUi(this);
     setWindowIcon(ui::g_branding.applicationIcon());
-    ui_->buttonBox->button(QDialogButtonBox::Ok)->setIcon(QIcon(QStringLiteral(":/button/ok")));
-    ui_->buttonBox->button(QDialogButtonBox::Cancel)
-        ->setIcon(QIcon(QStringLiteral(":/button/cancel")));
+    ui::setStandardButtonPictures(*this);
     // Behind the slots of the form, so that the work is done before the dialog closes.
     connect(ui_->buttonBox, &QDialogButtonBox::accepted, this, &RecoveryDlg::accept);
     connect(ui_->buttonBox, &QDialogButtonBox::rejected, this, &RecoveryDlg::reject);
@@ -69,12 +67,11 @@ void RecoveryDlg::recoverOrphanedSets() {
 }
 
 void RecoveryDlg::recoverDatabase() {
-    const auto answer = QMessageBox::question(
+    const bool confirmed = ui::confirms(
         this, tr("Recover Database"),
         tr("The current database will be overwritten.\nAfter recovery, you have to restart ostrand "
-           "backup service.\nAre you sure you want to recover database?"),
-        QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
-    if (answer == QMessageBox::Yes)
+           "backup service.\nAre you sure you want to recover database?"));
+    if (confirmed)
         ui::remoteAction(*this, tr("Tarn-Client Database Recovery Error"), ui::Cursor::arrow,
                          [] { activityManager()->recover_tarnclient_database(wholeDatabase); });
 }

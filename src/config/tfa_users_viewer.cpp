@@ -6,7 +6,6 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QHeaderView>
-#include <QMessageBox>
 
 #include "api/client_connection.h"
 #include "config/chosen_file.h"
@@ -17,7 +16,9 @@
 #include "session/required.h"
 #include "ui/branding_resources.h"
 #include "ui/fitting_text_delegate.h"
+#include "ui/message_box.h"
 #include "ui/remote_action.h"
+#include "ui/standard_buttons.h"
 #include "ui_tfa_users_viewer.h"
 
 namespace {
@@ -93,6 +94,7 @@ void TFAUsersViewer::on_btnDelete_clicked() {
 void TFAUsersViewer::on_btnImport_clicked() {
     QFileDialog dialog(this, tr("Please choose a .CSV file"), {}, tr("CSV Files (*.csv)"));
     dialog.setFileMode(QFileDialog::ExistingFile);
+    ui::setStandardButtonPictures(dialog);
     if (dialog.exec() != QDialog::Accepted)
         return;
     QFile file(config::firstFileEndingIn(QLatin1String(".csv"), dialog.selectedFiles()));
@@ -111,8 +113,8 @@ void TFAUsersViewer::on_btnUpdate_clicked() {
             ->setUserEmails(model_.userEmails());
     });
     if (sent)
-        QMessageBox::information(this, tr("Forward to Tarn-System"),
-                                 tr("User email list is successfully sent to Tarn-System."));
+        ui::showInformation(this, tr("Forward to Tarn-System"),
+                            tr("User email list is successfully sent to Tarn-System."));
 }
 
 void TFAUsersViewer::changeEvent(QEvent* event) {

@@ -10,6 +10,7 @@
 #include <QScrollArea>
 
 #include "session/text.h"
+#include "ui/standard_buttons.h"
 
 namespace ui {
 
@@ -47,6 +48,7 @@ void showError(QWidget* parent, const QString& title, const QString& text) {
     // A text from an agent is shown as it came, so it must not be taken for HTML.
     QMessageBox box(QMessageBox::Critical, title, text, QMessageBox::Ok, parent);
     box.setTextFormat(Qt::PlainText);
+    setStandardButtonPictures(box);
     if (isLong(text))
         letTextScroll(box);
     box.exec();

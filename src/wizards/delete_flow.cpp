@@ -3,10 +3,10 @@
 #include "wizards/delete_flow.h"
 
 #include <QCoreApplication>
-#include <QMessageBox>
 #include <QWizard>
 
 #include "api/backup_set.h"
+#include "ui/message_box.h"
 #include "ui/wizard_frame.h"
 #include "wizards/confirm_by_code.h"
 #include "wizards/delete_select_page.h"
@@ -24,12 +24,9 @@ struct Texts {
 };
 
 bool confirmsRemoval(QWidget& parent) {
-    // No is what the Return key says: nothing brings a set back.
-    return QMessageBox::question(&parent, Texts::tr("Delete Backup Set?"),
-                                 Texts::tr("The selected backup set has no files. Would you like "
-                                           "to remove the backup set?"),
-                                 QMessageBox::Yes | QMessageBox::No,
-                                 QMessageBox::No) == QMessageBox::Yes;
+    return ui::confirms(&parent, Texts::tr("Delete Backup Set?"),
+                        Texts::tr("The selected backup set has no files. Would you like "
+                                  "to remove the backup set?"));
 }
 
 std::optional<Activity> runWizard(QWidget& parent, const Set& set) {

@@ -5,12 +5,12 @@
 #include <utility>
 
 #include <QEvent>
-#include <QMessageBox>
 
 #include "api/backup_set.h"
 #include "models/backed_up_data_model.h"
 #include "models/override_cursor.h"
 #include "session/required.h"
+#include "ui/message_box.h"
 #include "ui_delete_select_page.h"
 #include "wizards/confirm_by_code.h"
 #include "wizards/delete_filter.h"
@@ -121,12 +121,9 @@ wizards::DeleteFilterFields DeleteSelectPage::filterFields() const {
 bool DeleteSelectPage::wantsRemoval(QWidget& parent) const {
     if (wizards::isInForce(filterFields()) || !model().allSelected())
         return false;
-    // No is what the Return key says: nothing brings a set back.
-    return QMessageBox::question(&parent, tr("Remove backup set?"),
-                                 tr("You have selected all data to be deleted.\n"
-                                    "Would you like to remove the backup set?"),
-                                 QMessageBox::Yes | QMessageBox::No,
-                                 QMessageBox::No) == QMessageBox::Yes;
+    return ui::confirms(&parent, tr("Remove backup set?"),
+                        tr("You have selected all data to be deleted.\n"
+                           "Would you like to remove the backup set?"));
 }
 
 boost::shared_ptr<hessiancln::GenericActivity> DeleteSelectPage::finish(QWidget& parent) {

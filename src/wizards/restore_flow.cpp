@@ -3,10 +3,10 @@
 #include "wizards/restore_flow.h"
 
 #include <QCoreApplication>
-#include <QMessageBox>
 #include <QWizard>
 
 #include "api/backup_set.h"
+#include "ui/message_box.h"
 #include "ui/wizard_frame.h"
 #include "wizards/restore_directory_destination.h"
 #include "wizards/restore_location_page.h"
@@ -65,8 +65,8 @@ Activity RestoreWizard::restore() {
 
 std::optional<Activity> restoreFromSet(QWidget& parent, const Set& set) {
     if (set->getCurrentStatus().on_line_file_count == 0) {
-        QMessageBox::information(&parent, Texts::tr("No data backed up"),
-                                 Texts::tr("The selected backup set has no backed up data."));
+        ui::showInformation(&parent, Texts::tr("No data backed up"),
+                            Texts::tr("The selected backup set has no backed up data."));
         return std::nullopt;
     }
     RestoreWizard wizard(parent, set);

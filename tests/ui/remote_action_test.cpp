@@ -8,8 +8,10 @@
 #include <QTest>
 #include <QWidget>
 
+#include "resources/pictures.h"
 #include "tests/support/gui_modal_driver.h"
 #include "ui/error_box.h"
+#include "ui/message_box.h"
 #include "ui/remote_action.h"
 
 using support::isDialog;
@@ -48,6 +50,58 @@ private slots:
         }));
         QVERIFY(modals.done());
         QCOMPARE(window.cursor().shape(), Qt::ArrowCursor);
+    }
+
+    void theReturnKeySaysNoToWhatNothingBringsBack_data() {
+        QTest::addColumn<bool>("yes");
+        QTest::newRow("Return") << false;
+        QTest::newRow("Yes") << true;
+    }
+
+    void theReturnKeySaysNoToWhatNothingBringsBack() {
+        QFETCH(bool, yes);
+        QWidget window;
+        ModalDriver modals;
+        modals.expect(QStringLiteral("box"), isDialog<QMessageBox>, [&](QWidget& widget) {
+            auto& box = static_cast<QMessageBox&>(widget);
+            QCOMPARE(box.icon(), QMessageBox::Question);
+            QCOMPARE(box.standardButtons(), QMessageBox::Yes | QMessageBox::No);
+            if (yes)
+                box.button(QMessageBox::Yes)->click();
+            else
+                QTest::keyClick(&box, Qt::Key_Return);
+        });
+        QCOMPARE(ui::confirms(&window, QStringLiteral("Really?"), QStringLiteral("All?")), yes);
+        QVERIFY(modals.done());
+    }
+
+    void theButtonsOfABoxLookLikeThoseOfADialog() {
+        resources::initPictures();
+        const QSize size(16, 16);
+        const auto look = [&](QMessageBox& box, QMessageBox::StandardButton button) {
+            return box.button(button)->icon().pixmap(size).toImage();
+        };
+        const auto picture = [&](const char* name) {
+            return QIcon(QLatin1String(name)).pixmap(size).toImage();
+        };
+        QVERIFY(!picture(":/button/ok").isNull());
+        ModalDriver modals;
+        modals.expect(QStringLiteral("information"), isDialog<QMessageBox>, [&](QWidget& widget) {
+            auto& box = static_cast<QMessageBox&>(widget);
+            QCOMPARE(box.icon(), QMessageBox::Information);
+            QCOMPARE(box.standardButtons(), QMessageBox::Ok);
+            QCOMPARE(look(box, QMessageBox::Ok), picture(":/button/ok"));
+            box.close();
+        });
+        ui::showInformation(nullptr, QStringLiteral("Done"), QStringLiteral("It is done."));
+        modals.expect(QStringLiteral("question"), isDialog<QMessageBox>, [&](QWidget& widget) {
+            auto& box = static_cast<QMessageBox&>(widget);
+            QCOMPARE(look(box, QMessageBox::Yes), picture(":/button/ok"));
+            QCOMPARE(look(box, QMessageBox::No), picture(":/button/cancel"));
+            box.close();
+        });
+        QVERIFY(!ui::confirms(nullptr, QStringLiteral("Really?"), QStringLiteral("All?")));
+        QVERIFY(modals.done());
     }
 
     void aTextOfAnAgentIsNeverTakenForHtml() {

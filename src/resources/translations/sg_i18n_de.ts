@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>Con&amp;firm:</source>
-        <translation>&amp;Wiederholung:</translation>
+        <translation>Bes&amp;tätigung:</translation>
     </message>
     <message>
         <source>Confirm password</source>
@@ -358,7 +358,7 @@ backup set using the buttons on the right.</source>
     </message>
     <message>
         <source>&amp;Path</source>
-        <translation>&amp;Pfad</translation>
+        <translation>&amp;Pfad:</translation>
     </message>
     <message>
         <source>Path</source>
@@ -421,7 +421,7 @@ backup set using the buttons on the right.</source>
     </message>
     <message>
         <source>&amp;User Name</source>
-        <translation>Benutzer&amp;name</translation>
+        <translation>Benutzer&amp;name:</translation>
     </message>
     <message>
         <source>Identity &amp;File:</source>
@@ -2176,6 +2176,197 @@ Möchten Sie den Sicherungssatz entfernen?</translation>
     <message>
         <source>Login Failed</source>
         <translation>Anmeldung fehlgeschlagen</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Alles auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>&amp;Höher</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>&amp;Niedriger</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Look in:</source>
+        <translation>Suchen in:</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>Zurückgehen</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vorwärts</translation>
+    </message>
+    <message>
+        <source>Go forward</source>
+        <translation>Vorwärtsgehen</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>Übergeordneter Ordner</translation>
+    </message>
+    <message>
+        <source>Go to the parent directory</source>
+        <translation>Zum übergeordneten Ordner gehen</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>Neuer Ordner</translation>
+    </message>
+    <message>
+        <source>Create a New Folder</source>
+        <translation>Einen neuen Ordner anlegen</translation>
+    </message>
+    <message>
+        <source>List View</source>
+        <translation>Liste</translation>
+    </message>
+    <message>
+        <source>Change to list view mode</source>
+        <translation>Als Liste anzeigen</translation>
+    </message>
+    <message>
+        <source>Detail View</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>Change to detail view mode</source>
+        <translation>Mit Details anzeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>Ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>File &amp;name:</source>
+        <translation>Datei&amp;name:</translation>
+    </message>
+    <message>
+        <source>Files of type:</source>
+        <translation>Dateityp:</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Laufwerk</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>%1 File</source>
+        <translation>%1-Datei</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Umbenennen</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Show &amp;hidden files</source>
+        <translation>&amp;Versteckte Dateien anzeigen</translation>
+    </message>
+    <message>
+        <source>&amp;New Folder</source>
+        <translation>&amp;Neuer Ordner</translation>
+    </message>
+    <message>
+        <source>%1
+File not found.
+Please verify the correct file name was given.</source>
+        <translation>%1
+Die Datei wurde nicht gefunden.
+Bitte prüfen Sie den Dateinamen.</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <comment>All other platforms</comment>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <comment>All other platforms</comment>
+        <translation>Verknüpfung</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Date Modified</source>
+        <translation>Änderungsdatum</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>Computer</translation>
+    </message>
+    <message>
+        <source>My Computer</source>
+        <translation>Mein Computer</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <comment>All other platforms</comment>
+        <translation>Typ</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Ausschneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+namespace ui {
+
+/// A box that tells of something that went well; returns when the user has closed it.
+void showInformation(QWidget* parent, const QString& title, const QString& text);
+
+/// Asks about what nothing brings back. No is what the Return key says.
+bool confirms(QWidget* parent, const QString& title, const QString& text);
+
+} // namespace ui
