@@ -82,6 +82,20 @@ boost::shared_ptr<Agent> filledDrive(std::size_t count) {
     return agent;
 }
 
+/// Beside the time. What is left out must not make anything quick. A table has all columns in each
+/// of its rows.
+struct Told {
+    std::size_t calls = 0;   ///< of the agent in the last round
+    std::size_t missing = 0; ///< ids that were not found
+    int closed = 0;          ///< folders that did not stay open
+};
+
+void tell(benchmark::State& state, const Told& told) {
+    state.counters["calls"] = static_cast<double>(told.calls);
+    state.counters["missing"] = static_cast<double>(told.missing);
+    state.counters["closed"] = told.closed;
+}
+
 template <class Act>
 double secondsOf(Act act) {
     const auto begin = std::chrono::steady_clock::now();
@@ -117,6 +131,7 @@ void type(benchmark::State& state, CBackedUpDataModel& model, Proxy& files) {
         const QString pattern = QString::fromLatin1(keys[next++ % std::size(keys)]);
         state.SetIterationTime(secondsOf([&] { files.setFilterWildcard(pattern); }));
     }
+    tell(state, {});
     list.setModel(nullptr);
 }
 
@@ -133,11 +148,6 @@ void typeFilterOfQt(benchmark::State& state) {
     type(state, *model, files);
 }
 
-/// What is left out of a walk must not make it quick.
-void tellMissing(benchmark::State& state, std::size_t found) {
-    state.counters["missing"] = static_cast<double>(entryCount / 2) - static_cast<double>(found);
-}
-
 void walkSelection(benchmark::State& state) {
     const auto model = modelOf(filledDrive(entryCount));
     const QModelIndex drive = model->index(0, 0);
@@ -146,7 +156,7 @@ void walkSelection(benchmark::State& state) {
     std::vector<std::int64_t> ids;
     for (auto round : state)
         state.SetIterationTime(secondsOf([&] { ids = model->selectedIds(); }));
-    tellMissing(state, ids.size());
+    tell(state, {.missing = entryCount / 2 - ids.size()});
 }
 
 void walkItems(benchmark::State& state) {
@@ -168,7 +178,7 @@ void walkItems(benchmark::State& state) {
                 if (drive->child(row)->checkState() == Qt::Checked)
                     ids.push_back(drive->child(row)->data().toLongLong());
         }));
-    tellMissing(state, ids.size());
+    tell(state, {.missing = entryCount / 2 - ids.size()});
 }
 
 constexpr int folderCount = 1'000;
@@ -185,11 +195,11 @@ void expandAll(QTreeView& tree) {
     QCoreApplication::processEvents();
 }
 
-void tellClosed(benchmark::State& state, const QTreeView& tree) {
+int closedIn(const QTreeView& tree) {
     int closed = folderCount;
     for (int row = 0; row < folderCount; ++row)
         closed -= tree.isExpanded(tree.model()->index(row, 0)) ? 1 : 0;
-    state.counters["closed"] = closed;
+    return closed;
 }
 
 void keepExpansion(benchmark::State& state) {
@@ -214,8 +224,7 @@ void keepExpansion(benchmark::State& state) {
             memo.restore();
         }));
     }
-    state.counters["calls"] = static_cast<double>(agent->calls);
-    tellClosed(state, tree);
+    tell(state, {.calls = agent->calls, .closed = closedIn(tree)});
     tree.setModel(nullptr);
 }
 
@@ -248,7 +257,7 @@ void keepExpansionOfItems(benchmark::State& state) {
                 for (const QStandardItem* const item : model->findItems(name))
                     tree.expand(item->index());
         }));
-    tellClosed(state, tree);
+    tell(state, {.closed = closedIn(tree)});
     tree.setModel(nullptr);
 }
 
