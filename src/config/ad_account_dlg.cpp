@@ -40,8 +40,9 @@ void ADAccountDlg::read() {
             return;
         ui_->editDomain->setText(name->domain);
         ui_->editUser->setText(name->user);
-        ui_->editPassword->setText(session::fromWire(account.password));
-        ui_->editConfirm->setText(ui_->editPassword->text());
+        const QString password = session::fromWire(account.password);
+        config::fill(*ui_->editPassword, password);
+        config::fill(*ui_->editConfirm, password);
     });
 }
 

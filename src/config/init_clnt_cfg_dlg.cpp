@@ -181,13 +181,13 @@ void InitClntCfgDlg::setAddresses(const std::string& text) {
 }
 
 void InitClntCfgDlg::setPrivateKey(const QString& key) {
-    ui_->txtFieldPrivateKey->setText(key);
-    ui_->txtFieldPrivateKeyConfirm->setText(key);
+    config::fill(*ui_->txtFieldPrivateKey, key);
+    config::fill(*ui_->txtFieldPrivateKeyConfirm, key);
 }
 
 void InitClntCfgDlg::setAccountKey(const QString& key) {
-    ui_->txtFieldAccountKey->setText(key);
-    ui_->txtFieldAccountKeyConfirm->setText(key);
+    config::fill(*ui_->txtFieldAccountKey, key);
+    config::fill(*ui_->txtFieldAccountKeyConfirm, key);
 }
 
 void InitClntCfgDlg::on_btnAdd_clicked() {

@@ -2,17 +2,40 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "config/wipe_field.h"
 
+#include <QAccessible>
 #include <QLineEdit>
 
 #include "config/wipe.h"
 
 namespace config {
 
+namespace {
+
+/// Keeps all announcements back while it lives.
+class Silence {
+public:
+    Silence()
+        : previous_(QAccessible::installUpdateHandler([](QAccessibleEvent*) {})) {}
+    ~Silence() { QAccessible::installUpdateHandler(previous_); }
+    Silence(const Silence&) = delete;
+    Silence& operator=(const Silence&) = delete;
+
+private:
+    QAccessible::UpdateHandler previous_;
+};
+
+} // namespace
+
+void fill(QLineEdit& field, const QString& secret) {
+    const Silence silence;
+    field.setText(secret);
+}
+
 void wipe(QLineEdit& field) {
     QString text = field.text();
     // The field lets go of what it held, which is then ours alone. Clearing it would note each
     // character for an undo.
-    field.setText(QString());
+    fill(field, QString());
     wipe(text);
 }
 

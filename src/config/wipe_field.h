@@ -3,12 +3,16 @@
 #pragma once
 
 class QLineEdit;
+class QString;
 
+/// Fields for keys and passwords. Qt announces to screen readers what a program does to a text,
+/// even if the field hides it; these functions announce nothing.
 namespace config {
 
-/// Empties a field for keys or passwords, and overwrites what it held unless somebody else shares
-/// it. What Qt has noted on its own way stays: the events of the keyboard, and the characters that
-/// were typed one by one.
+void fill(QLineEdit& field, const QString& secret);
+
+/// Empties the field, and overwrites what it held unless somebody else shares it. What Qt has noted
+/// on its own way stays: the events of the keyboard, and the characters that were typed one by one.
 void wipe(QLineEdit& field);
 
 } // namespace config

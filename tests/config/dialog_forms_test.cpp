@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
+#include <QAccessible>
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QRadioButton>
@@ -8,6 +9,7 @@
 #include "config/ad_account_dlg.h"
 #include "config/recovery_dlg.h"
 #include "config/register_dlg.h"
+#include "config/wipe_field.h"
 #include "tests/config/memory_scan.h"
 #include "tests/config/registration_fixture.h"
 #include "tests/support/gui_form_texts.h"
@@ -64,6 +66,7 @@ private slots:
 
     void keysAreNeverTold();
     void passwordsAreNeverTold();
+    void fieldsAreFilledAndWipedWithoutAWord();
     void keysLeaveTheMemory_data();
     void keysLeaveTheMemory();
 
@@ -301,6 +304,26 @@ void DialogFormsTest::passwordsAreNeverTold() {
     });
     for (const char* secret : {"correct horse", "a typed password"})
         QCOMPARE(LogKeeper::lines.filter(q(secret)), QStringList());
+}
+
+void DialogFormsTest::fieldsAreFilledAndWipedWithoutAWord() {
+    // Nobody listens in a test, but whoever did would have been replaced meanwhile.
+    const QAccessible::UpdateHandler telling = [](QAccessibleEvent*) {};
+    QAccessible::installUpdateHandler(telling);
+    QLineEdit field;
+    QVector<QAccessible::UpdateHandler> heard;
+    connect(&field, &QLineEdit::textChanged, this, [&heard] {
+        heard << QAccessible::installUpdateHandler(nullptr);
+        QAccessible::installUpdateHandler(heard.last());
+    });
+    config::fill(field, q("a key"));
+    QCOMPARE(field.text(), q("a key"));
+    config::wipe(field);
+    QCOMPARE(field.text(), QString());
+    QCOMPARE(heard.size(), 2);
+    for (const auto handler : qAsConst(heard))
+        QVERIFY(handler && handler != telling);
+    QVERIFY(QAccessible::installUpdateHandler(nullptr) == telling);
 }
 
 void DialogFormsTest::keysLeaveTheMemory_data() {
