@@ -2,8 +2,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "wizards/restore_directory_destination.h"
 
+#include <algorithm>
+
 #include <QEvent>
+#include <QFontMetrics>
 #include <QHeaderView>
+#include <QPixmap>
 #include <QWizard>
 
 #include "api/client_connection.h"
@@ -21,6 +25,19 @@
 
 using session::fromWire;
 using session::required;
+
+namespace {
+
+/// How wide the text has to be for two lines, the most that the head of a wizard shows.
+int widthOnTwoLines(const QString& text, const QFontMetrics& metrics) {
+    const int three = 3 * metrics.lineSpacing() - metrics.leading();
+    int width = metrics.horizontalAdvance(text) / 2;
+    while (metrics.boundingRect(QRect(0, 0, width, 0), Qt::TextWordWrap, text).height() >= three)
+        width += metrics.averageCharWidth();
+    return width;
+}
+
+} // namespace
 
 RestoreDirectoryDestination::RestoreDirectoryDestination(QWidget* parent)
     : QWizardPage(parent)
@@ -54,6 +71,15 @@ void RestoreDirectoryDestination::changeEvent(QEvent* event) {
         showSubdirectory();
     }
     QWizardPage::changeEvent(event);
+}
+
+/// So wide that the head of the wizard, which stands over the picture too, can name the directory.
+QSize RestoreDirectoryDestination::minimumSizeHint() const {
+    const QPixmap picture = wizard() ? wizard()->pixmap(QWizard::WatermarkPixmap) : QPixmap();
+    const int beside = qRound(picture.width() / picture.devicePixelRatio());
+    const QSize size = QWizardPage::minimumSizeHint();
+    const int wanted = widthOnTwoLines(subTitle(), fontMetrics()) - beside;
+    return {std::max(size.width(), wanted), size.height()};
 }
 
 QString RestoreDirectoryDestination::destinationPath() const {

@@ -33,6 +33,7 @@ public:
 
     void initializePage() override;
     bool isComplete() const override;
+    QSize minimumSizeHint() const override;
 
 public slots:
     void browseDirectoriesToggled(bool checked);

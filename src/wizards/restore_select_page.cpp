@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "wizards/restore_select_page.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <QEvent>
@@ -53,6 +54,21 @@ void RestoreSelectPage::changeEvent(QEvent* event) {
     if (event->type() == QEvent::LanguageChange)
         ui_->retranslateUi(this);
     QWizardPage::changeEvent(event);
+}
+
+/// With the filter, also while it is hidden: a wizard asks only when it comes to the page, and
+/// doesn't grow with it later.
+QSize RestoreSelectPage::minimumSizeHint() const {
+    QSize size = QWizardPage::minimumSizeHint();
+    if (!ui_->filterDisplay->isHidden())
+        return size;
+    const QSize filter = ui_->filterDisplay->minimumSizeHint();
+    const int around = size.width() - ui_->layoutItems->minimumSize().width();
+    const QMargins margins = ui_->layoutItems->contentsMargins();
+    size.rheight() += filter.height() + ui_->layoutItems->spacing();
+    const int wanted = filter.width() + margins.left() + margins.right() + around;
+    size.setWidth(std::max(size.width(), wanted));
+    return size;
 }
 
 void RestoreSelectPage::toggleFiltering(bool on) {

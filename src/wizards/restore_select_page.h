@@ -35,6 +35,8 @@ public:
     /// Raises what the calls raise.
     boost::shared_ptr<hessiancln::RestoreActivityInitiator> prepareRestore();
 
+    QSize minimumSizeHint() const override;
+
 protected:
     void changeEvent(QEvent* event) override;
     void fieldsPutBack() override;

@@ -115,7 +115,10 @@ void SelectDataSourcePage::setPurpose(Purpose purpose) {
 }
 
 void SelectDataSourcePage::showPurpose() {
-    ui_->groupDataSource->setVisible(purpose_ != Purpose::OtherCredentials);
+    const bool wantsSource = purpose_ != Purpose::OtherCredentials;
+    ui_->groupDataSource->setVisible(wantsSource);
+    // A wizard gives the focus to what is enabled, even if nobody sees it.
+    ui_->groupDataSource->setEnabled(wantsSource);
     switch (purpose_) {
     case Purpose::Backup:
         return;
@@ -131,6 +134,15 @@ void SelectDataSourcePage::showPurpose() {
         break;
     }
     ui_->chkUseTarnClientAccount->hide();
+}
+
+void SelectDataSourcePage::showEvent(QShowEvent* event) {
+    QWizardPage::showEvent(event);
+    // Without its first field the wizard leaves the focus where nobody sees it. It looks for one
+    // after this.
+    if (purpose_ == Purpose::OtherCredentials)
+        QMetaObject::invokeMethod(
+            this, [this] { ui_->btnConnectAs->setFocus(); }, Qt::QueuedConnection);
 }
 
 bool SelectDataSourcePage::showComputerOfFileSet(hessiancln::BackupSet& set) {
@@ -224,9 +236,8 @@ void SelectDataSourcePage::enableConnectAs() {
 
 void SelectDataSourcePage::computerNameEdited() {
     // A field loses the focus to the very box that tells of its failure, and one that only shows
-    // the tree's choice when the user passes through it: nothing was typed then. Nor in a field
-    // that isn't there, to which a wizard gives the focus nevertheless.
-    if (editing_ || ui_->editComputerName->isReadOnly() || ui_->groupDataSource->isHidden())
+    // the tree's choice when the user passes through it: nothing was typed then.
+    if (editing_ || ui_->editComputerName->isReadOnly())
         return;
     const QScopedValueRollback editing(editing_, true);
     const bool expanded = ui::remoteAction(*window(), tr("Error"), ui::Cursor::arrow, [this] {

@@ -79,6 +79,7 @@ public slots:
 
 protected:
     void changeEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     using Credentials = boost::shared_ptr<hessiancln::BackupSetCredentials>;

@@ -4,6 +4,7 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QMessageBox>
@@ -83,6 +84,8 @@ private slots:
     void toAnotherComputerWithOtherCredentials();
     void aPickedDirectory();
     void goingBackToTheOriginalPlace();
+    void theKeyboardIsAtTheCredentials();
+    void theHeadNamesTheDirectory();
     void cancelling_data();
     void cancelling();
     void aGroupThatFailsEndsTheRestore();
@@ -264,6 +267,42 @@ void RestoreWizardTest::goingBackToTheOriginalPlace() {
     QCOMPARE(difference(calls(), kRestoreOpened + kDirectoryWanted + restoredToOrigin("2", 3) +
                                      kRefreshedAfterRestore),
              QString());
+}
+
+void RestoreWizardTest::theKeyboardIsAtTheCredentials() {
+    test_.modals->expect(q("wizard"), isDialog<QWizard>, [](QWidget& wizard) {
+        const auto wishes = wishing({.checked = {"D:"}, .location = "radioAlternateDir"});
+        for (int page = 0; page < 2; ++page) {
+            wishes(pageOf(wizard));
+            press(wizard, QWizard::NextButton);
+        }
+        QTRY_VERIFY(child<QPushButton>(pageOf(wizard), "btnConnectAs").hasFocus());
+        static_cast<QWizard&>(wizard).reject();
+    });
+    test_.run("OnRestore");
+    QCOMPARE(difference(calls(), kRestoreOpened), QString());
+}
+
+/// A wizard's head has room for two lines.
+void RestoreWizardTest::theHeadNamesTheDirectory() {
+    test_.modals->expect(q("wizard"), isDialog<QWizard>, [](QWidget& wizard) {
+        const auto wishes = wishing({.checked = {"D:"}, .location = "radioAlternateDir"});
+        for (int page = 0; page < 3; ++page) {
+            wishes(pageOf(wizard));
+            press(wizard, QWizard::NextButton);
+        }
+        const QString subTitle = pageOf(wizard).subTitle();
+        QCoreApplication::processEvents();
+        int seen = 0;
+        for (const QLabel* label : wizard.findChildren<QLabel*>())
+            if (label->text() == subTitle) {
+                ++seen;
+                QVERIFY(label->heightForWidth(label->width()) <= label->height());
+            }
+        QCOMPARE(seen, 1);
+        static_cast<QWizard&>(wizard).reject();
+    });
+    test_.run("OnRestore");
 }
 
 void RestoreWizardTest::cancelling_data() {

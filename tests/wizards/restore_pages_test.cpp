@@ -190,10 +190,7 @@ void RestorePagesTest::theSourcePageIsAskedForCredentials() {
         QVERIFY(child<QGroupBox>(pages.source, "groupDataSource").isHidden());
         QVERIFY(child<QCheckBox>(pages.source, "chkUseTarnClientAccount").isHidden());
     }
-    // What can't be seen asks for nothing when it loses the focus.
-    takeCalls();
-    emit child<QLineEdit>(pages.source, "editComputerName").editingFinished();
-    QCOMPARE(takeCalls(), Calls{});
+    QVERIFY(!child<QLineEdit>(pages.source, "editComputerName").isEnabled());
 }
 
 void RestorePagesTest::theSourcePageIsAskedForTheDestination() {
