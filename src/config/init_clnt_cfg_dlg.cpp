@@ -5,6 +5,7 @@
 #include <QEvent>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
 
 #include "api/client_connection.h"
 #include "config/chosen_file.h"
@@ -125,9 +126,10 @@ void InitClntCfgDlg::showUserInfo(const hessiancln::user_info& info) {
 }
 
 QString InitClntCfgDlg::chooseCriFile() {
+    const QString home = config::homeOfLogin(session::fromWire(session::currentUser()));
+    // One that isn't there would be taken for the name of a file.
     QFileDialog dialog(this, tr("Please choose CRI file"),
-                       config::homeOfLogin(session::fromWire(session::currentUser())),
-                       tr("CRI Files (*.cri)"));
+                       QFileInfo(home).isDir() ? home : QString(), tr("CRI Files (*.cri)"));
     dialog.setWindowIcon(ui::g_branding.applicationIcon());
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setFileMode(QFileDialog::ExistingFile);

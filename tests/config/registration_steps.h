@@ -94,7 +94,9 @@ inline void expectCriFile(support::ModalDriver& modals, const QString& path, boo
         QCOMPARE(chooser.nameFilters(), QStringList(q("CRI Files (*.cri)")));
         QVERIFY(chooser.testOption(QFileDialog::DontUseNativeDialog));
         QVERIFY(!chooser.windowIcon().isNull());
-        support::child<QLineEdit>(chooser, "fileNameEdit").setText(path);
+        auto& name = support::child<QLineEdit>(chooser, "fileNameEdit");
+        QCOMPARE(name.text(), QString());
+        name.setText(path);
         static_cast<QDialog&>(chooser).accept();
         if (remove)
             QVERIFY(QFile::remove(path));
