@@ -430,7 +430,19 @@ void DeleteWizardTest::aFaultOfAFilterLeavesThePage() {
         check(widget, "C:/docs");
         test_.agent->inject(method.toStdString(), Fault{"Außer Betrieb."});
         test_.modals->expectErrorBox(q("Error"), q("Außer Betrieb."));
-        child<QGroupBox>(widget, "groupFilter").setChecked(true);
+        auto& filter = child<QGroupBox>(widget, "groupFilter");
+        filter.setChecked(true);
+        // It must not say what the tree doesn't show: that is what would be deleted.
+        QVERIFY(!filter.isChecked());
+        QCOMPARE(rowAt(treeOf(widget), "C:/docs").data(Qt::CheckStateRole).toInt(), 2);
+        filter.setChecked(true);
+        QVERIFY(filter.isChecked());
+        check(widget, "C:/docs");
+        test_.agent->inject("prepare_delete", Fault{"Außer Betrieb."});
+        test_.modals->expectErrorBox(q("Error"), q("Außer Betrieb."));
+        child<QCheckBox>(widget, "checkKeep").setChecked(true);
+        QVERIFY(!child<QCheckBox>(widget, "checkKeep").isChecked());
+        QVERIFY(!child<QSpinBox>(widget, "spinKeep").isEnabled());
         QCOMPARE(rowAt(treeOf(widget), "C:/docs").data(Qt::CheckStateRole).toInt(), 2);
         QVERIFY(static_cast<QWizard&>(widget).button(QWizard::FinishButton)->isEnabled());
         QVERIFY(!QGuiApplication::overrideCursor());
