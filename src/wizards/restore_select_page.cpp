@@ -23,6 +23,21 @@
 
 using session::required;
 
+namespace {
+
+/// The agent may not tell the backup any more that the time is from, so it may lie beyond what the
+/// field takes; another time would show another generation.
+void moveTo(QDateTimeEdit& field, std::int32_t seconds) {
+    const QDateTime time = QDateTime::fromSecsSinceEpoch(seconds);
+    if (time < field.minimumDateTime())
+        field.setMinimumDate(time.date());
+    if (time > field.maximumDateTime())
+        field.setMaximumDate(time.date());
+    field.setDateTime(time);
+}
+
+} // namespace
+
 RestoreSelectPage::RestoreSelectPage(boost::shared_ptr<hessiancln::BackupSet> set, QWidget* parent)
     : StoredItemsPage(parent)
     , ui_(std::make_unique<Ui::RestoreSelectPage>())
@@ -181,13 +196,13 @@ bool RestoreSelectPage::narrowTo(std::int32_t chosen, const CGenerationSelectMod
     if (isOlder) {
         switchFilterOn();
         ui_->checkFrom->setChecked(true);
-        ui_->dateFrom->setDateTime(QDateTime::fromSecsSinceEpoch(chosen));
+        moveTo(*ui_->dateFrom, chosen);
     }
     const bool isHidden = !generations.isNewestWithin(present.to, chosen);
     if (isHidden) {
         switchFilterOn();
         ui_->checkTo->setChecked(true);
-        ui_->dateTo->setDateTime(QDateTime::fromSecsSinceEpoch(chosen));
+        moveTo(*ui_->dateTo, chosen);
     }
     return isOlder || isHidden;
 }

@@ -63,6 +63,7 @@ private slots:
     void theGenerationsWantAFile();
     void theGenerationsOfNoFileAreNotShown();
     void theGenerationInTheFilterIsMarked();
+    void aGenerationOfAForgottenBackup();
     void textsOfTheGenerations();
     void aGenerationHasToBeSelected();
     void fieldsArePutBackInSilence();
@@ -184,6 +185,27 @@ void RestoreSelectPageTest::theGenerationInTheFilterIsMarked() {
     });
     child<QPushButton>(page, "buttonGenerations").click();
     QVERIFY(modals.done());
+}
+
+void RestoreSelectPageTest::aGenerationOfAForgottenBackup() {
+    const Set set = setWithFiles();
+    change(documents, [](simulator::BackupSetState& state, simulator::World&) {
+        state.sessions.erase(state.sessions.begin());
+    });
+    RestoreSelectPage page(set);
+    auto& list = child<QListView>(page, "listSelection");
+    list.setCurrentIndex(list.model()->index(0, 0, list.rootIndex()));
+    takeCalls();
+    support::ModalDriver modals;
+    modals.expect(q("generations"), support::isDialog<SelectGenerationDlg>, [](QWidget& dialog) {
+        child<QTableView>(dialog, "listGenerations").selectRow(1);
+        child<QPushButton>(dialog, "buttonSelect").click();
+    });
+    child<QPushButton>(page, "buttonGenerations").click();
+    QVERIFY(modals.done());
+    QCOMPARE(child<QDateTimeEdit>(page, "dateTo").dateTime().toSecsSinceEpoch(), kFirst + 60);
+    QCOMPARE(takeCalls().at(2), std::string("BackupSet.prepare_restore(0, 1700000060, 0)"));
+    QVERIFY(page.isComplete());
 }
 
 void RestoreSelectPageTest::textsOfTheGenerations() {
