@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "config/tfa_users_model.h"
 
-#include <chrono>
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
@@ -141,19 +140,16 @@ TEST(UsersModelOfManyRows, TakesThemOneByOneAndAgain) {
     for (int row = 0; row < many; ++row)
         rows.push_back({"user" + std::to_string(row), "home", "a@example.org"});
 
-    const auto start = std::chrono::steady_clock::now();
+    // A walk through the list for each row would take minutes, beyond the time limit.
     model.insert(rows);
     for (user_email& row : rows) {
         row.email = "b@example.org";
         model.insert(row);
     }
-    const auto time = std::chrono::steady_clock::now() - start;
 
     ASSERT_EQ(model.rowCount(), many);
     EXPECT_EQ(model.userEmails().front().email, "b@example.org");
     EXPECT_EQ(model.userEmails().back().email, "b@example.org");
-    // A walk through the list for each row would take minutes.
-    EXPECT_LT(time, std::chrono::seconds(10));
 }
 
 } // namespace

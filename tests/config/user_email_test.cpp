@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
-#include <chrono>
 
 #include <QBuffer>
 #include <gmock/gmock.h>
@@ -177,30 +176,16 @@ TEST(UserEmailCsv, TakesBytesThatAreNoTextAsReplacements) {
     EXPECT_EQ(read("ad\xFF,home,a@b.cd"), Rows{"ad\xEF\xBF\xBD;home;a@b.cd"});
 }
 
-/// Far more than the reading needs, far less than a reading would take that looks again and again
-/// at what it has seen.
-constexpr auto kPatience = std::chrono::seconds(5);
-
-template <class Work>
-auto timed(const Work& work) {
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::steady_clock::now() - start;
-}
-
+// A reader that looked again and again at what it has seen would run into the time limit.
 TEST(UserEmailCsv, ReadsALineOfOneMegabyte) {
     const QByteArray name(1024 * 1024, 'x');
     const QByteArray separators(1024 * 1024, ',');
-    Rows rows;
-    const auto time = timed([&] {
-        rows = read(name + ",home,a@b.cd\n" + "ada,home," + name + "\n" + separators +
-                    "\nbob,,b@b.cd\ncy,,c@b.cd" + separators);
-    });
+    const Rows rows = read(name + ",home,a@b.cd\n" + "ada,home," + name + "\n" + separators +
+                           "\nbob,,b@b.cd\ncy,,c@b.cd" + separators);
     ASSERT_EQ(rows.size(), 3u);
     EXPECT_EQ(rows[0], name.toStdString() + ";home;a@b.cd");
     EXPECT_EQ(rows[1], "bob;;b@b.cd");
     EXPECT_EQ(rows[2], "cy;;c@b.cd");
-    EXPECT_LT(time, kPatience);
 }
 
 TEST(UserEmailCsv, ReadsAHundredThousandLines) {
@@ -208,11 +193,9 @@ TEST(UserEmailCsv, ReadsAHundredThousandLines) {
     for (int line = 0; line < 100000; ++line)
         bytes += "user" + QByteArray::number(line) + ",home,u" + QByteArray::number(line) +
                  "@example.org\r\n";
-    std::vector<user_email> rows;
-    const auto time = timed([&] { rows = readBytes(bytes); });
+    const std::vector<user_email> rows = readBytes(bytes);
     ASSERT_EQ(rows.size(), 100000u);
     EXPECT_EQ(text(rows.back()), "user99999;home;u99999@example.org");
-    EXPECT_LT(time, kPatience);
 }
 
 } // namespace

@@ -35,7 +35,7 @@ protected:
     static void expectQuickDisconnect() {
         const auto start = std::chrono::steady_clock::now();
         session::disconnectFromAgent();
-        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
+        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
         EXPECT_FALSE(session::connectedToAgent());
     }
 };
