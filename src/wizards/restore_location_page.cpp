@@ -10,7 +10,6 @@
 #include "api/backup_set.h"
 #include "session/agent_kind.h"
 #include "session/process_values.h"
-#include "session/required.h"
 #include "session/text.h"
 #include "ui_restore_location_page.h"
 #include "wizards/restore_directory_destination.h"
@@ -18,7 +17,6 @@
 #include "wizards/select_data_source_page.h"
 #include "wizards/share_mappings.h"
 
-using session::required;
 using wizards::RestoreReasonCode;
 
 RestoreLocationPage::RestoreLocationPage(boost::shared_ptr<hessiancln::BackupSet> set,

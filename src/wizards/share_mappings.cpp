@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <set>
+#include <utility>
 
 namespace wizards {
 
@@ -49,7 +50,10 @@ ShareMappings shareMappings(const std::vector<hessiancln::selected_shares>& shar
     for (const auto& share : shares) {
         const std::string name = unusedName(directoryNameOf(share.share_name), used);
         used.insert(name);
-        result.mappings.push_back({share.share_name, destination + separator + name, 0});
+        std::string directory = destination;
+        directory += separator;
+        directory += name;
+        result.mappings.push_back({share.share_name, std::move(directory), 0});
     }
     return result;
 }
