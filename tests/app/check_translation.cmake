@@ -1,7 +1,8 @@
 # SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 # SPDX-License-Identifier: Apache-2.0
 
-# Fails if a text of the sources isn't in the translation file TS, or isn't finished there.
+# Fails if a text of the sources isn't in the translation file TS, isn't finished there, or loses what
+# the program puts into it.
 # LUPDATE, SOURCES and a scratch folder OUT are given.
 file(MAKE_DIRECTORY ${OUT})
 set(copy ${OUT}/sg_i18n_de.ts)
@@ -21,4 +22,27 @@ if(open)
     string(REGEX REPLACE "<source>([^<]*)</source>[^;]*" "\n    \\1" names "${open}")
     message(FATAL_ERROR "Texts without a finished translation:${names}")
 endif()
+
+# What the program puts into a text has its place in the translation too.
+string(REGEX REPLACE "[][;]" " " plain "${text}")
+string(REGEX MATCHALL
+    "<source>[^<]*</source>([^<]*<[a-z]*comment>[^<]*</[a-z]*comment>)*[^<]*<translation>[^<]*</translation>"
+    pairs "${plain}")
+list(LENGTH pairs compared)
+if(NOT compared EQUAL count)
+    message(FATAL_ERROR "Only ${compared} of ${count} texts were compared")
+endif()
+foreach(pair IN LISTS pairs)
+    string(REGEX REPLACE "</source>.*" "" source "${pair}")
+    string(REGEX REPLACE ".*</source>" "" translation "${pair}")
+    foreach(side source translation)
+        string(REGEX MATCHALL "%L?[0-9]" places "${${side}}")
+        string(REPLACE "L" "" places "${places}")
+        list(SORT places)
+        set(places_of_${side} "${places}")
+    endforeach()
+    if(NOT places_of_source STREQUAL places_of_translation)
+        message(FATAL_ERROR "Places differ: ${source} and ${translation}")
+    endif()
+endforeach()
 message(STATUS "All ${count} texts are translated")

@@ -247,7 +247,9 @@
         <source>This backup set is a recovered backup set. You must edit
 the backup set items, schedule and the retention for this
 backup set using the buttons on the right.</source>
-        <translation>Sicherung von: %1</translation>
+        <translation>Dieser Sicherungssatz wurde gerettet. Sie müssen seine Elemente,
+seinen Zeitplan und seine Aufbewahrung mit den Schaltflächen
+rechts neu einrichten.</translation>
     </message>
     <message>
         <source>Backup set name</source>
@@ -2400,7 +2402,7 @@ Bitte prüfen Sie den Dateinamen.</translation>
     </message>
     <message>
         <source>R&amp;ecover Backup History Database from the cloud</source>
-        <translation>&amp;Datenbank des Sicherungsverlaufs aus der Cloud wiederherstellen</translation>
+        <translation>&amp;Datenbank des Sicherungsverlaufs aus der Cloud retten</translation>
     </message>
     <message>
         <source>&amp;Recover orphaned backup sets (Found %1 orphaned backup set(s))</source>
@@ -2408,11 +2410,11 @@ Bitte prüfen Sie den Dateinamen.</translation>
     </message>
     <message>
         <source>Tarn-Client Database Recovery Error</source>
-        <translation>Fehler beim Wiederherstellen der Tarn-Client-Datenbank</translation>
+        <translation>Fehler beim Retten der Tarn-Client-Datenbank</translation>
     </message>
     <message>
         <source>Recover Database</source>
-        <translation>Datenbank wiederherstellen</translation>
+        <translation>Datenbank retten</translation>
     </message>
     <message>
         <source>The current database will be overwritten.
@@ -2420,7 +2422,7 @@ After recovery, you have to restart ostrand backup service.
 Are you sure you want to recover database?</source>
         <translation>Die aktuelle Datenbank wird überschrieben.
 Danach muss der Dienst Ostrand Backup neu gestartet werden.
-Möchten Sie die Datenbank wirklich wiederherstellen?</translation>
+Möchten Sie die Datenbank wirklich aus der Cloud retten?</translation>
     </message>
 </context>
 <context>
@@ -3064,7 +3066,7 @@ Möchten Sie die Datenbank wirklich wiederherstellen?</translation>
     </message>
     <message>
         <source>Data will be restored to:</source>
-        <translation>Die Daten kommen auf:</translation>
+        <translation>Die Daten werden wiederhergestellt auf:</translation>
     </message>
 </context>
 <context>
