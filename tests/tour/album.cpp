@@ -62,6 +62,7 @@ void Album::take(QWidget& shown, const char* screen) {
     for (int i = 0; i < 3; ++i)
         QCoreApplication::processEvents();
     boxTexts_ << textsOf(shown);
+    titles_[name] = shown.windowTitle();
     for (const QString& defect : defectsOf(shown))
         defects_ << name + QStringLiteral(": ") + defect;
     // What comes late has come then, and is on the picture.

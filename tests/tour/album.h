@@ -5,6 +5,7 @@
 #include <optional>
 
 #include <QDir>
+#include <QMap>
 #include <QStringList>
 
 class QWidget;
@@ -28,6 +29,8 @@ public:
     QStringList missing() const;
     /// The titles and the texts of the boxes.
     const QStringList& boxTexts() const { return boxTexts_; }
+    /// What stands in the title bar of each screen that has one, which no picture shows.
+    const QMap<QString, QString>& titles() const { return titles_; }
     /// What is wrong with the looks, with the screen in front.
     const QStringList& defects() const { return defects_; }
 
@@ -36,6 +39,7 @@ private:
     std::optional<QDir> folder_;
     QStringList taken_;
     QStringList boxTexts_;
+    QMap<QString, QString> titles_;
     QStringList defects_;
 };
 

@@ -39,7 +39,7 @@ void takeLogin(Album& album) {
         photographer.take(photographer.window(), "main-window-logged-out");
         photographer.run("on_action_About_triggered", "about-logged-out");
         photographer.expect<LoginCheck>([&](LoginCheck& login) {
-            type(login, "lineEditUserName", "anna:backup.example.net");
+            type(login, "lineEditUserName", "anna:10.0.0.7");
             photographer.take(login, "login-without-domains");
         });
         photographer.run("OnConnect");

@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: Apache-2.0
 // Takes a picture of every screen of the program, or writes the page that shows them all:
 //   take_pictures <folder> [<translation file>]
-//   take_pictures --index >docs/tour.md
+//   take_pictures --index <folder of the English ones> <folder of the German ones> >docs/tour.md
 // The looks are those of the display; see tools/pictures.
 #include <cstdio>
 
 #include <QApplication>
+#include <QDataStream>
+#include <QFile>
 #include <QTranslator>
 
 #include "resources/pictures.h"
@@ -16,33 +18,65 @@
 
 namespace {
 
-void writeIndex() {
-    std::puts("# Every screen\n\n"
-              "All windows, pages, dialogs and boxes, in English and in German. This page and its "
-              "pictures are\nmade by `tools/pictures`; the balloons of the tray are the "
-              "desktop's.\n");
+constexpr char kTitles[] = "titles";
+
+using Titles = QMap<QString, QString>;
+
+void writeTitles(const QDir& folder, const Titles& titles) {
+    QFile file(folder.filePath(QLatin1String(kTitles)));
+    if (!file.open(QIODevice::WriteOnly))
+        qFatal("Can't write %s", qPrintable(file.fileName()));
+    QDataStream stream(&file);
+    stream << titles;
+}
+
+Titles readTitles(const QDir& folder) {
+    QFile file(folder.filePath(QLatin1String(kTitles)));
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("Can't read %s", qPrintable(file.fileName()));
+    Titles titles;
+    QDataStream stream(&file);
+    stream >> titles;
+    return titles;
+}
+
+void writeScreen(const tour::Screen& screen, const Titles& english, const Titles& german) {
+    const QString name = QLatin1String(screen.name);
+    std::printf("**%s**\n\n| English | Deutsch |\n|---|---|\n", screen.title);
+    if (!english[name].isEmpty())
+        std::printf("| %s | %s |\n", qUtf8Printable(english[name]), qUtf8Printable(german[name]));
+    std::printf("| ![](tour/en/%s.png) | ![](tour/de/%s.png) |\n\n", screen.name, screen.name);
+}
+
+void writeIndex(const Titles& english, const Titles& german) {
+    std::puts(
+        "# Every screen\n\n"
+        "All windows, pages, dialogs and boxes, in English and in German. Above a picture stands "
+        "the title\nof its window. This page and its pictures are made by `tools/pictures`; the "
+        "balloons of the\ntray are the desktop's.\n");
     for (const tour::Chapter& chapter : tour::catalogue()) {
         std::printf("## %s\n\nIn [%s](../%s)\n\n", chapter.title, chapter.file, chapter.file);
         for (const tour::Screen& screen : chapter.screens)
-            std::printf("**%s**\n\n| English | Deutsch |\n|---|---|\n"
-                        "| ![](tour/en/%s.png) | ![](tour/de/%s.png) |\n\n",
-                        screen.title, screen.name, screen.name);
+            writeScreen(screen, english, german);
     }
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc > 1 && QLatin1String(argv[1]) == QLatin1String("--index")) {
-        writeIndex();
+    if (argc > 3 && QLatin1String(argv[1]) == QLatin1String("--index")) {
+        writeIndex(readTitles(QString::fromLocal8Bit(argv[2])),
+                   readTitles(QString::fromLocal8Bit(argv[3])));
         return 0;
     }
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication application(argc, argv);
     resources::initPictures();
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() < 2) {
         std::fputs("Usage: take_pictures <folder> [<translation file>]\n"
-                   "       take_pictures --index\n",
+                   "       take_pictures --index <English folder> <German folder>\n",
                    stderr);
         return 2;
     }
@@ -57,8 +91,10 @@ int main(int argc, char** argv) {
     }
     // A cursor that blinks is on every other picture.
     QApplication::setCursorFlashTime(0);
-    tour::Album album(refusal, QDir(arguments.at(1)));
+    const QDir folder(arguments.at(1));
+    tour::Album album(refusal, folder);
     tour::takeAll(album);
+    writeTitles(folder, album.titles());
     for (const QString& screen : album.missing())
         std::fprintf(stderr, "No picture of %s\n", qPrintable(screen));
     for (const QString& defect : album.defects())

@@ -37,7 +37,7 @@ void takeSource(Photographer& photographer, QWizard& wizard) {
     photographer.expect("box-network");
     network.expand(network.model()->index(2, 0));
     network.expand(windows);
-    network.expand(network.model()->index(0, 0, windows));
+    network.expand(network.model()->index(1, 0, windows));
     network.scrollToTop();
     photographer.take(wizard, "new-set-network");
     click(wizard, "btnShowNetDiscovery");
