@@ -45,9 +45,9 @@ RestoreWizard::RestoreWizard(QWidget& parent, const Set& set)
     const int locationId = wizard_.addPage(location_);
     auto* source = new SelectDataSourcePage(&wizard_);
     location_->setDataSourcePageId(wizard_.addPage(source));
-    source->initForRestore(set);
     auto* directory = new RestoreDirectoryDestination(&wizard_);
     location_->setDirectoryPageId(wizard_.addPage(directory));
+    source->initForRestore(set);
     directory->setLocationPageId(locationId);
 }
 

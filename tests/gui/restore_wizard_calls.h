@@ -18,7 +18,7 @@ inline Calls operator+(Calls calls, const Calls& more) {
 }
 
 /// What the wizard asks until it is seen: the view with its top level and the first drive's rows,
-/// what the source page wants to know, and the kind of paths.
+/// what the source page wants to know, the kind of paths, and the set's computer.
 inline Calls restoreOpened(const std::string& firstDrive = "1") {
     return {"ClientConnection.backup_set(4)",
             "BackupSet.getCurrentStatus()",
@@ -34,9 +34,9 @@ inline Calls restoreOpened(const std::string& firstDrive = "1") {
             "BackupSetCredentials.types()",
             "Win32FS_Generic_BackupSetCredentials.getUserName()",
             "DataSourceBrowser.setCurrentCredentials(BackupSetCredentials(guest))",
-            "BackupSet.getComputerName()",
             "ClientConnection.getConfigurationManager()",
-            "ClientConfiguration.getClientOSType()"};
+            "ClientConfiguration.getClientOSType()",
+            "BackupSet.getComputerName()"};
 }
 
 inline const Calls kRestoreOpened = restoreOpened();
