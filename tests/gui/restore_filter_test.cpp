@@ -12,8 +12,6 @@
 #include <QTest>
 #include <QTreeView>
 
-#include "api/data_view_records.h"
-#include "hessian/value.h"
 #include "resources/pictures.h"
 #include "simulator/world/world.h"
 #include "tests/gui/restore_wizard_calls.h"
@@ -48,16 +46,6 @@ QDateTimeEdit& date(QWidget& page, const char* name) {
 
 QCheckBox& box(QWidget& page, const char* name) {
     return child<QCheckBox>(page, name);
-}
-
-/// What an agent says that tells the generations which the view doesn't show, too.
-simulator::RawReply allGenerations() {
-    const std::vector<hessiancln::file_generations> all{{kFirstBackup, kFirstBackup + 60, 10, 8},
-                                                        {kMiddleBackup, kMiddleBackup + 60, 15, 12},
-                                                        {kLastBackup - 60, kLastBackup, 20, 16}};
-    std::string bytes("r\x01\0", 3);
-    hessianser::writeValue(all, bytes);
-    return {bytes + 'z'};
 }
 
 /// The calls of the set.
@@ -218,7 +206,6 @@ void RestoreFilterTest::aGenerationBeforeTheFilterMovesItBack() {
         box(page, "checkFrom").click();
         date(page, "dateFrom").setDateTime(QDateTime::fromSecsSinceEpoch(kMiddleBackup));
         selectFile(page, "notes.txt");
-        test_.agent->inject("getItemGenerations", allGenerations());
         expectGeneration(2, [](QTableView& table) { QCOMPARE(table.model()->rowCount(), 3); });
         test_.agent->clearCallLog();
         child<QPushButton>(page, "buttonGenerations").click();
