@@ -212,6 +212,8 @@ void RestoreSelectPageTest::textsOfTheGenerations() {
     SelectGenerationDlg dialog({{kFirst, kFirst, 0, 0}, {kSecond, kSecond, 2048, 10}});
     QCOMPARE(dialog.windowTitle(), q("Select a file generation to restore"));
     auto& table = child<QTableView>(dialog, "listGenerations");
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
     QCOMPARE(std::tuple(table.columnWidth(0), table.columnWidth(1), table.columnWidth(2)),
              std::tuple(180, 150, 180));
     QCOMPARE(table.model()->index(0, 1).data().toString(), q("2.00 KB"));
