@@ -7,9 +7,9 @@
 
 #include "api/data_source_browser.h"
 #include "models/name_order.h"
-#include "models/override_cursor.h"
 #include "session/text.h"
 #include "ui/error_box.h"
+#include "ui/override_cursor.h"
 
 using hessiancln::net_item_info;
 using hessiancln::NetItemType;
@@ -51,7 +51,7 @@ models::LazyNode::Children CComputerTreeItem::askForChildren() {
 }
 
 std::vector<net_item_info> CComputerTreeItem::discover(const std::string& path) {
-    const models::OverrideCursor busy;
+    const ui::OverrideCursor busy;
     return browser_->networkDiscovery(path);
 }
 

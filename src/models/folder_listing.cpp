@@ -8,7 +8,7 @@
 #include "api/data_source_browser.h"
 #include "models/lazy_node.h"
 #include "models/name_order.h"
-#include "models/override_cursor.h"
+#include "ui/override_cursor.h"
 
 namespace models {
 
@@ -31,7 +31,7 @@ std::vector<browse_item_info> sorted(std::vector<browse_item_info> items) {
 } // namespace
 
 FolderListing listFolder(const BrowsedComputer& computer, const LazyNode& node) {
-    const OverrideCursor busy;
+    const ui::OverrideCursor busy;
     try {
         return {sorted(computer.browser->getSubItems(computer.name, fullPath(node))), false};
     } catch (const std::exception&) {

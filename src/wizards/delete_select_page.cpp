@@ -8,9 +8,9 @@
 
 #include "api/backup_set.h"
 #include "models/backed_up_data_model.h"
-#include "models/override_cursor.h"
 #include "session/required.h"
 #include "ui/message_box.h"
+#include "ui/override_cursor.h"
 #include "ui_delete_select_page.h"
 #include "wizards/confirm_by_code.h"
 #include "wizards/delete_filter.h"
@@ -96,7 +96,7 @@ void DeleteSelectPage::fieldsPutBack() {
 }
 
 void DeleteSelectPage::updateDataModel() {
-    const models::OverrideCursor busy;
+    const ui::OverrideCursor busy;
     const auto filter = wizards::deleteFilter(filterFields());
     auto view = required(set_->prepare_delete(filter.from, filter.to, filter.removedSince,
                                               filter.keepLast, onlyMode));

@@ -15,8 +15,8 @@
 #include "models/backedup_data_file_filter_model.h"
 #include "models/display_path.h"
 #include "models/generation_select_model.h"
-#include "models/override_cursor.h"
 #include "session/required.h"
+#include "ui/override_cursor.h"
 #include "ui_restore_select_page.h"
 #include "wizards/backup_time_span.h"
 #include "wizards/select_generation_dlg.h"
@@ -138,7 +138,7 @@ RestoreSelectPage::Span RestoreSelectPage::span() const {
 void RestoreSelectPage::updateDataModel() {
     if (suspended_)
         return;
-    const models::OverrideCursor busy;
+    const ui::OverrideCursor busy;
     const auto [from, to, removed] = span();
     auto view = required(set_->prepare_restore(from, to, removed));
     showContents(view);

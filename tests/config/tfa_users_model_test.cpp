@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "config/tfa_users_model.h"
 
-
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
 #include <gmock/gmock.h>

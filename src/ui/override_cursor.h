@@ -5,7 +5,7 @@
 #include <QCursor>
 #include <QGuiApplication>
 
-namespace models {
+namespace ui {
 
 /// The wait cursor over the whole program for as long as this object lives. Such objects may nest.
 class OverrideCursor {
@@ -16,4 +16,4 @@ public:
     OverrideCursor& operator=(const OverrideCursor&) = delete;
 };
 
-} // namespace models
+} // namespace ui
