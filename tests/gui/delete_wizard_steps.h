@@ -46,6 +46,13 @@ inline void store(simulator::World& world) {
                                    {kLastBackup - 60, kLastBackup, 20, 16}});
 }
 
+/// An entry at the top that can't be named to the agent, over a folder that can.
+inline void storeGroup(simulator::World& world) {
+    auto& stored = *world.set(kId)->stored;
+    stored.addFile("Group\\Team\\c.txt", {{kFirstBackup, kFirstBackup + 60, 10, 8}});
+    stored.addFolder("Group").isGroup = true;
+}
+
 inline QTreeView& treeOf(QWidget& page) {
     return support::child<QTreeView>(page, "treeSelection");
 }

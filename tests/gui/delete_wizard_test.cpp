@@ -60,6 +60,7 @@ private slots:
     void aFaultOfAFilterLeavesThePage();
     void aFolderThatFailsIsToldOnce();
     void aGroupThatFailsEndsTheDeletion();
+    void aGroupThatHoldsNothingDeletesNothing();
 
 private:
     void protect() {
@@ -205,11 +206,7 @@ void DeleteWizardTest::aFileIsDeleted() {
 }
 
 void DeleteWizardTest::aGroupGoesAsWhatItHolds() {
-    test_.agent->withWorld([](World& world) {
-        auto& stored = *world.set(kId)->stored;
-        stored.addFile("Group\\Team\\c.txt", {{kFirstBackup, kFirstBackup + 60, 10, 8}});
-        stored.addFolder("Group").isGroup = true;
-    });
+    test_.agent->withWorld([](World& world) { storeGroup(world); });
     test_.expectWizard([](QWizardPage& page) { check(page, "Group"); });
     test_.run("OnDelete");
     QCOMPARE(difference(calls(), kOpened + Calls{"BackupSetDeleteView.getSubItems(0)"} +
@@ -354,7 +351,7 @@ void DeleteWizardTest::datesReachTheAgent() {
 }
 
 void DeleteWizardTest::aChangedFilterKeepsTheTreeAndDropsTheMarks() {
-    test_.modals->expect(q("wizard"), isDialog<QWizard>, [](QWidget& widget) {
+    test_.modals->expect(q("wizard"), isDialog<QWizard>, [this](QWidget& widget) {
         QTreeView& tree = treeOf(widget);
         tree.expand(rowAt(tree, "C:"));
         tree.expand(rowAt(tree, "C:/docs"));
@@ -368,6 +365,7 @@ void DeleteWizardTest::aChangedFilterKeepsTheTreeAndDropsTheMarks() {
         QCOMPARE(tree.selectionModel()->selectedRows().size(), 1);
         QCOMPARE(filesIn(widget), QStringList{q("b.txt")});
         QCOMPARE(rowAt(tree, "C:").data(Qt::CheckStateRole).toInt(), 0);
+        QCOMPARE(support::liveObjectsOf(*test_.agent, "BackupSetDeleteView"), 1);
         auto& wizard = static_cast<QWizard&>(widget);
         QVERIFY(!wizard.button(QWizard::FinishButton)->isEnabled());
         wizard.reject();
@@ -478,6 +476,18 @@ void DeleteWizardTest::aGroupThatFailsEndsTheDeletion() {
     test_.run("OnDelete");
     // It has no id that could be sent in place of what it holds.
     QCOMPARE(difference(calls(), kOpened + Calls{"BackupSetDeleteView.getSubItems(0)"}), QString());
+}
+
+void DeleteWizardTest::aGroupThatHoldsNothingDeletesNothing() {
+    test_.agent->withWorld([](World& world) { storeGroup(world); });
+    test_.expectWizard([this](QWizardPage& page) {
+        check(page, "Group");
+        test_.agent->inject("getSubItems", support::emptyList());
+    });
+    test_.run("OnDelete");
+    QCOMPARE(
+        difference(calls(), kOpened + Calls{"BackupSetDeleteView.getSubItems(0)"} + kRefreshed),
+        QString());
 }
 
 QTEST_MAIN(DeleteWizardTest)

@@ -247,7 +247,7 @@ void RestoreFilterTest::aGenerationThatIsNotPicked() {
 }
 
 void RestoreFilterTest::aChangedFilterKeepsTheTreeAndDropsTheMarks() {
-    atFirstPage([](QWizardPage& page) {
+    atFirstPage([this](QWizardPage& page) {
         QTreeView& tree = treeOf(page);
         tree.expand(rowAt(tree, q("C:")));
         tree.expand(rowAt(tree, q("C:/docs")));
@@ -264,6 +264,7 @@ void RestoreFilterTest::aChangedFilterKeepsTheTreeAndDropsTheMarks() {
         QCOMPARE(filesIn(page), QStringList{q("b.txt")});
         QCOMPARE(rowAt(tree, q("C:")).data(Qt::CheckStateRole).toInt(), 0);
         QVERIFY(!button(*page.window(), QWizard::NextButton).isEnabled());
+        QCOMPARE(support::liveObjectsOf(*test_.agent, "BackupSetRestoreView"), 1);
     });
 }
 

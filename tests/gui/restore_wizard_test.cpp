@@ -89,6 +89,7 @@ private slots:
     void cancelling_data();
     void cancelling();
     void aGroupThatFailsEndsTheRestore();
+    void aGroupThatHoldsNothingRestoresNothing();
     void aSetWithoutDataHasNoWizard();
 
 private:
@@ -336,6 +337,22 @@ void RestoreWizardTest::aGroupThatFailsEndsTheRestore() {
     test_.modals->expectErrorBox(q("Error"), q("Keep out."));
     test_.run("OnRestore");
     QCOMPARE(difference(calls(), kRestoreOpened + Calls{"BackupSetRestoreView.getSubItems(0)"}),
+             QString());
+}
+
+void RestoreWizardTest::aGroupThatHoldsNothingRestoresNothing() {
+    startWith([](World& world) {
+        storeFiles(world, {"C:\\a.txt", "Group\\Team\\c.txt"});
+        world.set(kRestoredId)->stored->addFolder("Group").isGroup = true;
+    });
+    test_.expectWizard([this](QWizardPage& page) {
+        wishing({.checked = {"Group"}})(page);
+        if (qobject_cast<RestoreSelectPage*>(&page))
+            test_.agent->inject("getSubItems", support::emptyList());
+    });
+    test_.run("OnRestore");
+    QCOMPARE(difference(calls(), kRestoreOpened + Calls{"BackupSetRestoreView.getSubItems(0)"} +
+                                     kRefreshedAfterRestore),
              QString());
 }
 

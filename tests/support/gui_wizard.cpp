@@ -144,6 +144,17 @@ std::vector<std::string> callsOf(const simulator::Simulator& agent) {
     return texts;
 }
 
+simulator::RawReply emptyList() {
+    return {std::string("r\x01\0Vzz", 6)};
+}
+
+int liveObjectsOf(const simulator::Simulator& agent, const std::string& family) {
+    const auto held = agent.liveObjects();
+    return static_cast<int>(std::count_if(held.begin(), held.end(), [&](const std::string& object) {
+        return object.rfind(family + ' ', 0) == 0;
+    }));
+}
+
 QString difference(const std::vector<std::string>& actual,
                    const std::vector<std::string>& expected) {
     const auto at = [](const std::vector<std::string>& calls, std::size_t i) {

@@ -70,6 +70,12 @@ public:
 /// The calls in order with their arguments, without those of `Release`.
 std::vector<std::string> callsOf(const simulator::Simulator& agent);
 
+/// An agent's answer that there is nothing in the list.
+simulator::RawReply emptyList();
+
+/// How many references to objects of a class aren't released.
+int liveObjectsOf(const simulator::Simulator& agent, const std::string& family);
+
 /// Where two lists of calls first differ, and both calls; empty if they are the same.
 QString difference(const std::vector<std::string>& actual,
                    const std::vector<std::string>& expected);
