@@ -178,8 +178,12 @@ void RestoreSelectPageTest::theGenerationInTheFilterIsMarked() {
     support::ModalDriver modals;
     modals.expect(q("generations"), support::isDialog<SelectGenerationDlg>, [](QWidget& dialog) {
         const auto& model = *child<QTableView>(dialog, "listGenerations").model();
-        const auto icon = model.index(0, 0).data(Qt::DecorationRole).value<QPixmap>();
-        QCOMPARE(icon.toImage(), QPixmap(q(":/tree/selected_file")).toImage());
+        const auto picture = [&model](int row) {
+            return model.index(row, 0).data(Qt::DecorationRole).value<QPixmap>().toImage();
+        };
+        QCOMPARE(model.rowCount(), 2);
+        QCOMPARE(picture(0), QPixmap(q(":/tree/file")).toImage());
+        QCOMPARE(picture(1), QPixmap(q(":/tree/selected_file")).toImage());
         QVERIFY(!child<QTableView>(dialog, "listGenerations").selectionModel()->hasSelection());
         dialog.close();
     });
