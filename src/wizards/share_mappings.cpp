@@ -4,7 +4,8 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <set>
+#include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 namespace wizards {
@@ -15,15 +16,31 @@ constexpr char separator = '\\';
 constexpr std::string_view notInNames = "\"*/:<>?\\|";
 constexpr std::string_view nameOfNameless = ".data.";
 
-/// With as many numbers behind it as it takes: "C", "C_0001", "C_0001_0002".
-std::string unusedName(std::string name, const std::set<std::string>& used) {
-    for (long counter = 1; used.contains(name); ++counter) {
-        char suffix[32];
-        std::snprintf(suffix, sizeof suffix, "_%04ld", counter);
-        name += suffix;
+/// Names of which no two are the same: those that would be get as many numbers behind them as it
+/// takes, "C", "C_0001", "C_0001_0002".
+class DirectoryNames {
+public:
+    std::string unusedFor(const std::string& wanted) {
+        // What was taken on the way to the last one is still taken.
+        auto& [name, counter] = last_.try_emplace(wanted, Numbered{wanted, 1}).first->second;
+        for (; used_.contains(name); ++counter) {
+            char suffix[32];
+            std::snprintf(suffix, sizeof suffix, "_%04ld", counter);
+            name += suffix;
+        }
+        used_.insert(name);
+        return name;
     }
-    return name;
-}
+
+private:
+    struct Numbered {
+        std::string name;
+        long counter; ///< of the next number
+    };
+
+    std::unordered_set<std::string> used_;
+    std::unordered_map<std::string, Numbered> last_; ///< by the name that was wanted
+};
 
 } // namespace
 
@@ -46,10 +63,9 @@ ShareMappings shareMappings(const std::vector<hessiancln::selected_shares>& shar
         return {{{share.share_name, destination, level}}, level};
     }
     ShareMappings result;
-    std::set<std::string> used;
+    DirectoryNames names;
     for (const auto& share : shares) {
-        const std::string name = unusedName(directoryNameOf(share.share_name), used);
-        used.insert(name);
+        const std::string name = names.unusedFor(directoryNameOf(share.share_name));
         std::string directory = destination;
         directory += separator;
         directory += name;

@@ -103,6 +103,15 @@ TEST(ShareMappingsTest, ANumberedNameMayBeTakenToo) {
                 ElementsAre("T\\a_0001", "T\\a", "T\\a_0001_0002"));
 }
 
+TEST(ShareMappingsTest, ThousandsOfOneNameAreNumberedAtOnce) {
+    const std::vector<hessiancln::selected_shares> shares(5000, {"C:", "C:"});
+    const auto made = shareMappings(shares, "T");
+    ASSERT_EQ(made.mappings.size(), shares.size());
+    const std::string& last = made.mappings.back().destination_path;
+    EXPECT_EQ(last.size(), std::string("T\\C").size() + 4999 * 5);
+    EXPECT_THAT(last, testing::EndsWith("_4998_4999"));
+}
+
 TEST(ShareMappingsTest, NamesAreComparedByteByByte) {
     EXPECT_THAT(directoriesOf({"data", "Data"}), ElementsAre("T\\data", "T\\Data"));
 }
