@@ -23,4 +23,8 @@ std::int32_t secondsOf(const QDateTime& time) {
     return static_cast<std::int32_t>(std::clamp<qint64>(time.toSecsSinceEpoch(), 0, Limits::max()));
 }
 
+std::int32_t limitOf(const QDateTime& time) {
+    return std::max(secondsOf(time), 1);
+}
+
 } // namespace wizards

@@ -23,4 +23,8 @@ BackupTimeSpan backupTimeSpan(const std::vector<hessiancln::backup_sessions>& se
 /// one that they can.
 std::int32_t secondsOf(const QDateTime& time);
 
+/// The same for a time up to or since when files count: never 0, which would be no limit, and let
+/// all files count in place of none.
+std::int32_t limitOf(const QDateTime& time);
+
 } // namespace wizards

@@ -9,8 +9,8 @@ namespace wizards {
 DeleteFilter deleteFilter(const DeleteFilterFields& fields) {
     if (!fields.on)
         return {};
-    return {fields.useFrom ? secondsOf(fields.from) : 0, fields.useTo ? secondsOf(fields.to) : 0,
-            fields.useRemoved ? secondsOf(fields.removed) : 0, fields.useKeep ? fields.keep : 0};
+    return {fields.useFrom ? secondsOf(fields.from) : 0, fields.useTo ? limitOf(fields.to) : 0,
+            fields.useRemoved ? limitOf(fields.removed) : 0, fields.useKeep ? fields.keep : 0};
 }
 
 bool isInForce(const DeleteFilterFields& fields) {

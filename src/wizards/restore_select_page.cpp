@@ -129,10 +129,11 @@ RestoreSelectPage::Span RestoreSelectPage::span() const {
     if (!ui_->checkFilter->isChecked())
         return {};
     const auto limit = [](const QCheckBox& box, const QDateTimeEdit& date) {
-        return box.isChecked() ? wizards::secondsOf(date.dateTime()) : 0;
+        return box.isChecked() ? wizards::limitOf(date.dateTime()) : 0;
     };
-    return {limit(*ui_->checkFrom, *ui_->dateFrom), limit(*ui_->checkTo, *ui_->dateTo),
-            limit(*ui_->checkRemoved, *ui_->dateRemoved)};
+    const bool hasFrom = ui_->checkFrom->isChecked();
+    return {hasFrom ? wizards::secondsOf(ui_->dateFrom->dateTime()) : 0,
+            limit(*ui_->checkTo, *ui_->dateTo), limit(*ui_->checkRemoved, *ui_->dateRemoved)};
 }
 
 void RestoreSelectPage::updateDataModel() {

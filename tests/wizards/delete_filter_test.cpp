@@ -42,6 +42,15 @@ TEST(DeleteFilterTest, OnlyCheckedFieldsCount) {
     EXPECT_TRUE(same(deleteFilter(some), 0, 0, 0, 0));
 }
 
+TEST(DeleteFilterTest, ALimitOfTheFirstDayIsStillALimit) {
+    DeleteFilterFields some = fields();
+    some.useFrom = some.useTo = some.useRemoved = true;
+    for (const qint64 second : {0, -1, -86'400}) {
+        some.from = some.to = some.removed = at(second);
+        EXPECT_TRUE(same(deleteFilter(some), 0, 1, 1, 0)) << second;
+    }
+}
+
 TEST(DeleteFilterTest, NothingIsInForceAtFirst) {
     EXPECT_FALSE(isInForce({}));
     EXPECT_FALSE(isInForce(fields()));
@@ -98,6 +107,13 @@ TEST(BackupTimeSpanTest, TimesThatTheWireCantSay) {
     EXPECT_EQ(secondsOf(at(-5)), 0);
     EXPECT_EQ(secondsOf(at(5'000'000'000)), 2'147'483'647);
     EXPECT_EQ(secondsOf(at(77)), 77);
+}
+
+TEST(BackupTimeSpanTest, ALimitIsNeverNone) {
+    EXPECT_EQ(limitOf(at(-5)), 1);
+    EXPECT_EQ(limitOf(at(0)), 1);
+    EXPECT_EQ(limitOf(at(77)), 77);
+    EXPECT_EQ(limitOf(at(5'000'000'000)), 2'147'483'647);
 }
 
 } // namespace
