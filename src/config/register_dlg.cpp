@@ -12,15 +12,40 @@
 #include "ui/error_box.h"
 #include "ui_register_dlg.h"
 
+namespace {
+
+struct Room {
+    int characters;
+    int lines;
+};
+
+constexpr Room roomOfValue{300, 4};
+constexpr Room roomOfStatus{1000, 12};
+
+/// A label grows with its text, and the dialog with the label, beyond the screen if the agent wants
+/// so.
+QString shortened(QString text, Room room) {
+    const int told = text.size();
+    text.truncate(room.characters);
+    text = text.section(QLatin1Char('\n'), 0, room.lines - 1);
+    return text.size() == told ? text : text + QChar(0x2026);
+}
+
+QString valueOf(const std::string& told) {
+    return shortened(session::fromWire(told), roomOfValue);
+}
+
+} // namespace
+
 RegisterDlg::RegisterDlg(QWidget* parent)
     : QDialog(parent)
     , ui_(std::make_unique<Ui::RegisterDlg>()) {
     ui_->setupUi(this);
     setWindowIcon(ui::g_branding.applicationIcon());
     const auto manager = session::required(session::getConnection()->getConfigurationManager());
-    ui_->txtCustomerName->setText(session::fromWire(manager->getCustomerName()));
-    ui_->txtAccountNum->setText(session::fromWire(manager->getAccountNumber()));
-    ui_->txtClientNum->setText(session::fromWire(manager->getClientNumber()));
+    ui_->txtCustomerName->setText(valueOf(manager->getCustomerName()));
+    ui_->txtAccountNum->setText(valueOf(manager->getAccountNumber()));
+    ui_->txtClientNum->setText(valueOf(manager->getClientNumber()));
 }
 
 RegisterDlg::~RegisterDlg() = default;
@@ -31,7 +56,7 @@ void RegisterDlg::on_btnRegister_clicked() {
         session::required(session::getConnection()->getConfigurationManager())->re_register();
         showStatus(tr("Tarn-Client successfully registered with Tarn-System."));
     } catch (const std::exception& error) {
-        showStatus(ui::errorText(error));
+        showStatus(shortened(ui::errorText(error), roomOfStatus));
     }
 }
 

@@ -79,6 +79,8 @@ private slots:
     void registeringAgainReplacesItsStatus_data();
     void registeringAgainReplacesItsStatus();
     void theStatusTellsThatItIsRegistering();
+    void whatTheAgentTellsDoesNotStretchTheDialog_data();
+    void whatTheAgentTellsDoesNotStretchTheDialog();
     void noRegistrationOpensOnAFault_data();
     void noRegistrationOpensOnAFault();
     void anAgentWithoutAConfigurationIsTold();
@@ -459,6 +461,38 @@ void ConfigurationDialogsTest::theStatusTellsThatItIsRegistering() {
         press(dialog, "btnClose");
     });
     openRegister();
+}
+
+void ConfigurationDialogsTest::whatTheAgentTellsDoesNotStretchTheDialog_data() {
+    QTest::addColumn<QString>("text");
+    QTest::newRow("one word") << QString(20000, QLatin1Char('W'));
+    QTest::newRow("many lines") << q("word\n").repeated(4000);
+}
+
+void ConfigurationDialogsTest::whatTheAgentTellsDoesNotStretchTheDialog() {
+    QFETCH(QString, text);
+    const hessiancln::tarnc_reg_info before = [this] {
+        hessiancln::tarnc_reg_info registration;
+        test_.agent->withWorld([&](World& world) { registration = world.registration; });
+        return registration;
+    }();
+    test_.agent->withWorld([&](World& world) {
+        auto& told = world.registration;
+        told.customer_name = told.account_num = told.client_num = text.toStdString();
+    });
+    test_.agent->inject("re_register", simulator::Fault{text.toStdString()});
+    expectRegister([&text](QWidget& dialog) {
+        press(dialog, "btnRegister");
+        const QString status = label(dialog, "labStatus");
+        QVERIFY(status.size() > 50 && text.startsWith(status.left(status.size() - 1)));
+        QCOMPARE(status.right(1), q("…"));
+        QCoreApplication::processEvents();
+        QVERIFY2(dialog.width() <= 800, qPrintable(QString::number(dialog.width())));
+        QVERIFY2(dialog.height() <= 1200, qPrintable(QString::number(dialog.height())));
+        press(dialog, "btnClose");
+    });
+    openRegister();
+    test_.agent->withWorld([&](World& world) { world.registration = before; });
 }
 
 void ConfigurationDialogsTest::noRegistrationOpensOnAFault_data() {
