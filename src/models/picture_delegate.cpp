@@ -20,16 +20,20 @@ QPixmap lightened(QPixmap picture, const QColor& text) {
 
 } // namespace
 
+void lightenSelected(QStyleOptionViewItem& option, const QModelIndex& index) {
+    const auto picture = index.data(Qt::DecorationRole).value<QPixmap>();
+    if (picture.isNull() || !option.state.testFlag(QStyle::State_Selected))
+        return;
+    const bool active = option.state.testFlag(QStyle::State_Active);
+    const QColor text = option.palette.color(active ? QPalette::Active : QPalette::Inactive,
+                                             QPalette::HighlightedText);
+    option.icon.addPixmap(lightened(picture, text), QIcon::Selected);
+}
+
 void PictureDelegate::initStyleOption(QStyleOptionViewItem* option,
                                       const QModelIndex& index) const {
     QStyledItemDelegate::initStyleOption(option, index);
-    const auto picture = index.data(Qt::DecorationRole).value<QPixmap>();
-    if (picture.isNull() || !option->state.testFlag(QStyle::State_Selected))
-        return;
-    const bool active = option->state.testFlag(QStyle::State_Active);
-    const QColor text = option->palette.color(active ? QPalette::Active : QPalette::Inactive,
-                                              QPalette::HighlightedText);
-    option->icon.addPixmap(lightened(picture, text), QIcon::Selected);
+    lightenSelected(*option, index);
 }
 
 } // namespace models

@@ -6,8 +6,11 @@
 
 namespace models {
 
-/// Draws the picture of a selected row light, as its text is. Styles would tint it with the colour
-/// of the row, in which its thin lines are lost.
+/// Has the picture of a selected row drawn light, as its text is. Styles would tint it with the
+/// colour of the row, in which its thin lines are lost.
+void lightenSelected(QStyleOptionViewItem& option, const QModelIndex& index);
+
+/// Draws rows so.
 class PictureDelegate : public QStyledItemDelegate {
     Q_OBJECT
 public:

@@ -12,6 +12,7 @@
 
 #include "api/client_connection.h"
 #include "models/asterisk_key.h"
+#include "models/picture_delegate.h"
 #include "models/restore_destination_directory_only_model.h"
 #include "models/restore_destination_model.h"
 #include "session/connection.h"
@@ -49,6 +50,7 @@ RestoreDirectoryDestination::RestoreDirectoryDestination(QWidget* parent)
     showSubdirectory();
     QTreeView* tree = ui_->treeAvailableDirectories;
     tree->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    tree->setItemDelegate(new models::PictureDelegate(tree));
     models::expandOneLevelByAsterisk(*tree);
     connect(tree, &QTreeView::expanded, this, [tree](const QModelIndex& index) {
         tree->scrollTo(index, QAbstractItemView::PositionAtTop);

@@ -6,9 +6,25 @@
 #include <QHeaderView>
 
 #include "models/generation_select_model.h"
+#include "models/picture_delegate.h"
 #include "ui/branding_resources.h"
 #include "ui/fitting_text_delegate.h"
 #include "ui_select_generation_dlg.h"
+
+namespace {
+
+class GenerationDelegate : public ui::FittingTextDelegate {
+public:
+    using FittingTextDelegate::FittingTextDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        FittingTextDelegate::initStyleOption(option, index);
+        models::lightenSelected(*option, index);
+    }
+};
+
+} // namespace
 
 SelectGenerationDlg::SelectGenerationDlg(const models::Generations& generations, QWidget* parent)
     : QDialog(parent)
@@ -27,7 +43,7 @@ SelectGenerationDlg::~SelectGenerationDlg() = default;
 void SelectGenerationDlg::setUpTable() {
     QTableView& table = *ui_->listGenerations;
     table.setModel(model_.get());
-    table.setItemDelegate(new ui::FittingTextDelegate(&table));
+    table.setItemDelegate(new GenerationDelegate(&table));
     int column = 0;
     for (const int width : {180, 150, 180})
         table.setColumnWidth(column++, width);

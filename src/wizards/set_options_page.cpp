@@ -6,6 +6,7 @@
 
 #include "api/client_connection.h"
 #include "models/asterisk_key.h"
+#include "models/picture_delegate.h"
 #include "models/restore_destination_directory_only_model.h"
 #include "models/restore_destination_model.h"
 #include "session/connection.h"
@@ -21,11 +22,11 @@ SetOptionsPage::SetOptionsPage(QWidget* parent)
     , osType_(session::required(session::getConnection()->getConfigurationManager())
                   ->getClientOSType()) {
     ui_->setupUi(this);
-    QHeaderView* header = ui_->treeAvailableDirectories->header();
-    header->setSectionResizeMode(QHeaderView::ResizeToContents);
-    models::expandOneLevelByAsterisk(*ui_->treeAvailableDirectories);
-    connect(ui_->treeAvailableDirectories, &QTreeView::expanded, this,
-            &SetOptionsPage::treeExpanded);
+    QTreeView* tree = ui_->treeAvailableDirectories;
+    tree->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    tree->setItemDelegate(new models::PictureDelegate(tree));
+    models::expandOneLevelByAsterisk(*tree);
+    connect(tree, &QTreeView::expanded, this, &SetOptionsPage::treeExpanded);
     showFolderIfWanted();
 }
 

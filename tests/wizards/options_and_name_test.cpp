@@ -20,6 +20,7 @@
 #include "simulator/world/world.h"
 #include "tests/support/gui_agent.h"
 #include "tests/support/gui_modal_driver.h"
+#include "tests/wizards/selected_row_look.h"
 #include "ui/wizard_frame.h"
 #include "wizards/select_data_source_page.h"
 #include "wizards/set_name_page.h"
@@ -279,6 +280,9 @@ void OptionsAndNameTest::namesOfUnixDoNot() {
     QVERIFY(page.load(set));
     QCOMPARE(selectedFolder(page), QStringLiteral("/"));
     QCOMPARE(folder(page), QStringLiteral("/"));
+    page.show();
+    auto& tree = child<QTreeView>(page, "treeAvailableDirectories");
+    QVERIFY(lightPointsOfPicture(tree, tree.currentIndex()) > 5);
 }
 
 void OptionsAndNameTest::aSelectedFolderIsWritten() {

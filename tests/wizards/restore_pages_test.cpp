@@ -13,6 +13,7 @@
 #include <QTreeView>
 
 #include "tests/wizards/page_fixture.h"
+#include "tests/wizards/selected_row_look.h"
 #include "wizards/restore_directory_destination.h"
 #include "wizards/restore_location_page.h"
 #include "wizards/select_data_source_page.h"
@@ -264,6 +265,8 @@ void RestorePagesTest::theTreeGoesToTheTypedDirectory() {
     QVERIFY(pages.isTreeInFront());
     QVERIFY(pages.path().isReadOnly());
     QCOMPARE(pages.selected(), q("anna"));
+    pages.directory.show();
+    QVERIFY(lightPointsOfPicture(pages.tree(), pages.tree().currentIndex()) > 5);
     QCOMPARE(pages.path().text(), q("C:\\Users\\anna"));
     pages.browse().setChecked(false);
     QVERIFY(!pages.isTreeInFront());

@@ -13,6 +13,7 @@
 #include <QTreeView>
 
 #include "tests/wizards/page_fixture.h"
+#include "tests/wizards/selected_row_look.h"
 #include "wizards/field_memo.h"
 #include "wizards/restore_select_page.h"
 #include "wizards/select_generation_dlg.h"
@@ -244,6 +245,8 @@ void RestoreSelectPageTest::aGenerationHasToBeSelected() {
     table.clearSelection();
     QVERIFY(!select.isEnabled());
     table.selectRow(0);
+    dialog.show();
+    QVERIFY(lightPointsOfPicture(table, table.model()->index(0, 0)) > 5);
     select.click();
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
     QCOMPARE(*dialog.chosenTime(), kSecond);
