@@ -271,13 +271,17 @@ void RestoreFaultsTest::aFaultOfAFilterLeavesThePage() {
         // The next time comes through, and shows the dates as they should be.
         filter.click();
         QVERIFY(filter.isChecked());
-        const auto& to = child<QDateTimeEdit>(page, "dateTo");
-        QCOMPARE(to.dateTime().toSecsSinceEpoch(), kLastBackup);
-        test_.agent->inject("prepare_restore", Fault{kText});
-        expectBox("Error");
-        child<QCheckBox>(page, "checkTo").click();
-        QVERIFY(!child<QCheckBox>(page, "checkTo").isChecked());
-        QVERIFY(!to.isEnabled());
+        QCOMPARE(child<QDateTimeEdit>(page, "dateTo").dateTime().toSecsSinceEpoch(), kLastBackup);
+        for (const auto& [box, value] :
+             {std::pair("checkFrom", "dateFrom"), std::pair("checkTo", "dateTo"),
+              std::pair("checkRemoved", "dateRemoved")}) {
+            test_.agent->inject("prepare_restore", Fault{kText});
+            expectBox("Error");
+            child<QCheckBox>(page, box).click();
+            QVERIFY(!child<QCheckBox>(page, box).isChecked());
+            QVERIFY(!child<QWidget>(page, value).isEnabled());
+            QVERIFY(filter.isChecked());
+        }
     });
 }
 

@@ -73,6 +73,7 @@ private slots:
     void theNewestGenerationOfAllNarrowsItToo();
     void aGenerationBeforeTheFilterMovesItBack();
     void aGenerationThatTheFilterShowsChangesNothing();
+    void aFileIsFoundAgainByItsOwnCase();
     void aGenerationThatIsNotPicked();
     void aChangedFilterKeepsTheTreeAndDropsTheMarks();
     void theFileFilterIsKept();
@@ -223,13 +224,29 @@ void RestoreFilterTest::aGenerationThatTheFilterShowsChangesNothing() {
     atFirstPage([this](QWizardPage& page) {
         box(page, "checkFilter").click();
         box(page, "checkTo").click();
+        box(page, "checkFrom").click();
+        // As early as it may be without moving.
+        date(page, "dateFrom").setDateTime(QDateTime::fromSecsSinceEpoch(kLastBackup));
         selectFile(page, "notes.txt");
         expectGeneration(0);
         test_.agent->clearCallLog();
         child<QPushButton>(page, "buttonGenerations").click();
         QCOMPARE(difference(calls(), {"BackupSetRestoreView.getItemGenerations(4)"}), QString());
-        QVERIFY(!box(page, "checkFrom").isChecked());
         QCOMPARE(checkStateOf(page, "notes.txt"), 2);
+    });
+}
+
+void RestoreFilterTest::aFileIsFoundAgainByItsOwnCase() {
+    test_.agent->withWorld([](World& world) {
+        storeFiles(world, {"C:\\NOTES.txt", "C:\\notes.txt", "C:\\Notes.txt"});
+    });
+    atFirstPage([this](QWizardPage& page) {
+        selectFile(page, "notes.txt");
+        expectGeneration(1);
+        child<QPushButton>(page, "buttonGenerations").click();
+        QCOMPARE(checkStateOf(page, "NOTES.txt"), 0);
+        QCOMPARE(checkStateOf(page, "notes.txt"), 2);
+        QCOMPARE(checkStateOf(page, "Notes.txt"), 0);
     });
 }
 
@@ -264,6 +281,8 @@ void RestoreFilterTest::aChangedFilterKeepsTheTreeAndDropsTheMarks() {
         QCOMPARE(filesIn(page), QStringList{q("b.txt")});
         QCOMPARE(rowAt(tree, q("C:")).data(Qt::CheckStateRole).toInt(), 0);
         QVERIFY(!button(*page.window(), QWizard::NextButton).isEnabled());
+        check(page, "D:");
+        QVERIFY(button(*page.window(), QWizard::NextButton).isEnabled());
         QCOMPARE(support::liveObjectsOf(*test_.agent, "BackupSetRestoreView"), 1);
     });
 }
