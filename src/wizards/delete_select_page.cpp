@@ -14,6 +14,7 @@
 #include "ui_delete_select_page.h"
 #include "wizards/confirm_by_code.h"
 #include "wizards/delete_filter.h"
+#include "wizards/exact_time.h"
 #include "wizards/set_removal.h"
 
 using session::required;
@@ -107,13 +108,13 @@ void DeleteSelectPage::updateDataModel() {
 wizards::DeleteFilterFields DeleteSelectPage::filterFields() const {
     return {.on = ui_->groupFilter->isChecked(),
             .useFrom = ui_->checkFrom->isChecked(),
-            .from = ui_->dateFrom->dateTime(),
+            .from = wizards::shownTime(*ui_->dateFrom),
             .earliest = ui_->dateFrom->minimumDateTime(),
             .useTo = ui_->checkTo->isChecked(),
-            .to = ui_->dateTo->dateTime(),
+            .to = wizards::shownTime(*ui_->dateTo),
             .latest = ui_->dateTo->maximumDateTime(),
             .useRemoved = ui_->checkRemoved->isChecked(),
-            .removed = ui_->dateRemoved->dateTime(),
+            .removed = wizards::shownTime(*ui_->dateRemoved),
             .useKeep = ui_->checkKeep->isChecked(),
             .keep = ui_->spinKeep->value()};
 }

@@ -19,6 +19,7 @@
 #include "ui/override_cursor.h"
 #include "ui_restore_select_page.h"
 #include "wizards/backup_time_span.h"
+#include "wizards/exact_time.h"
 #include "wizards/select_generation_dlg.h"
 
 using session::required;
@@ -33,7 +34,7 @@ void moveTo(QDateTimeEdit& field, std::int32_t seconds) {
         field.setMinimumDate(time.date());
     if (time > field.maximumDateTime())
         field.setMaximumDate(time.date());
-    field.setDateTime(time);
+    wizards::showTime(field, time);
 }
 
 } // namespace
@@ -129,10 +130,10 @@ RestoreSelectPage::Span RestoreSelectPage::span() const {
     if (!ui_->checkFilter->isChecked())
         return {};
     const auto limit = [](const QCheckBox& box, const QDateTimeEdit& date) {
-        return box.isChecked() ? wizards::limitOf(date.dateTime()) : 0;
+        return box.isChecked() ? wizards::limitOf(wizards::shownTime(date)) : 0;
     };
     const bool hasFrom = ui_->checkFrom->isChecked();
-    return {hasFrom ? wizards::secondsOf(ui_->dateFrom->dateTime()) : 0,
+    return {hasFrom ? wizards::secondsOf(wizards::shownTime(*ui_->dateFrom)) : 0,
             limit(*ui_->checkTo, *ui_->dateTo), limit(*ui_->checkRemoved, *ui_->dateRemoved)};
 }
 

@@ -21,6 +21,7 @@
 #include "ui/error_box.h"
 #include "ui/remote_action.h"
 #include "wizards/backup_time_span.h"
+#include "wizards/exact_time.h"
 
 StoredItemsPage::StoredItemsPage(QWidget* parent)
     : QWizardPage(parent) {}
@@ -63,7 +64,7 @@ void StoredItemsPage::loadDateLimits(hessiancln::BackupSet& set, QDateTimeEdit& 
     const auto limit = [&](QDateTimeEdit& date, const QDateTime& value) {
         // Each field would ask for a view of its own.
         const QSignalBlocker quiet(&date);
-        date.setDateTime(value);
+        wizards::showTime(date, value);
         date.setMinimumDate(span.earliest.date());
         date.setMaximumDate(span.latest.date());
         filterOfView_.remember(date);

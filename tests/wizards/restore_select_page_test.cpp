@@ -49,6 +49,21 @@ QModelIndex rowAt(QTreeView& tree, const char* path) {
     return index;
 }
 
+/// The time zone of the process, for as long as it lives.
+class TimeZone {
+public:
+    explicit TimeZone(const char* zone)
+        : before_(qgetenv("TZ"))
+        , wasSet_(qEnvironmentVariableIsSet("TZ")) {
+        qputenv("TZ", zone);
+    }
+    ~TimeZone() { wasSet_ ? qputenv("TZ", before_) : qunsetenv("TZ"); }
+
+private:
+    QByteArray before_;
+    bool wasSet_;
+};
+
 } // namespace
 
 /// The page on which what is restored is chosen, its dialog, and how its fields are put back.
@@ -65,6 +80,8 @@ private slots:
     void theGenerationsOfNoFileAreNotShown();
     void theGenerationInTheFilterIsMarked();
     void aGenerationOfAForgottenBackup();
+    void aGenerationOfTheHourThatComesTwice_data();
+    void aGenerationOfTheHourThatComesTwice();
     void textsOfTheGenerations();
     void aGenerationHasToBeSelected();
     void fieldsArePutBackInSilence();
@@ -211,6 +228,47 @@ void RestoreSelectPageTest::aGenerationOfAForgottenBackup() {
     QCOMPARE(child<QDateTimeEdit>(page, "dateTo").dateTime().toSecsSinceEpoch(), kFirst + 60);
     QCOMPARE(takeCalls().at(2), std::string("BackupSet.prepare_restore(0, 1700000060, 0)"));
     QVERIFY(page.isComplete());
+}
+
+void RestoreSelectPageTest::aGenerationOfTheHourThatComesTwice_data() {
+    QTest::addColumn<int>("row");
+    QTest::addColumn<QString>("call");
+    QTest::newRow("second") << 1 << q("BackupSet.prepare_restore(0, 1761442200, 0)");
+    QTest::newRow("first") << 2 << q("BackupSet.prepare_restore(0, 1761438600, 0)");
+}
+
+/// At three the clocks are put back to two, and both backups were made at half past two.
+void RestoreSelectPageTest::aGenerationOfTheHourThatComesTwice() {
+    QFETCH(int, row);
+    QFETCH(QString, call);
+    const TimeZone zone("CET-1CEST,M3.5.0,M10.5.0/3");
+    constexpr std::int32_t times[] = {1'761'438'600, 1'761'442'200, 1'761'500'000};
+    const Set set = setWithFiles();
+    change(documents, [&](simulator::BackupSetState& state, simulator::World&) {
+        state.sessions.clear();
+        state.stored = std::make_shared<simulator::StoredData>();
+        std::vector<simulator::StoredGeneration> generations;
+        for (const std::int32_t time : times) {
+            state.sessions.push_back({time, time, 1, 1, time});
+            generations.push_back({time, time, 10, 8});
+        }
+        state.stored->addFile("C:\\notes.txt", generations);
+    });
+    RestoreSelectPage page(set);
+    auto& list = child<QListView>(page, "listSelection");
+    list.setCurrentIndex(list.model()->index(0, 0, list.rootIndex()));
+    takeCalls();
+    support::ModalDriver modals;
+    modals.expect(q("generations"), support::isDialog<SelectGenerationDlg>, [row](QWidget& dialog) {
+        child<QTableView>(dialog, "listGenerations").selectRow(row);
+        child<QPushButton>(dialog, "buttonSelect").click();
+    });
+    child<QPushButton>(page, "buttonGenerations").click();
+    QVERIFY(modals.done());
+    QCOMPARE(q(takeCalls().at(2).c_str()), call);
+    // A time that somebody has typed since then is another one.
+    child<QDateTimeEdit>(page, "dateTo").setTime(QTime(1, 0));
+    QCOMPARE(takeCalls().front(), std::string("BackupSet.prepare_restore(0, 1761433200, 0)"));
 }
 
 void RestoreSelectPageTest::textsOfTheGenerations() {
