@@ -342,8 +342,12 @@ void DeleteWizardTest::aChangedFilterKeepsTheTreeAndDropsTheMarks() {
         tree.expand(rowAt(tree, "C:/docs"));
         tree.setCurrentIndex(rowAt(tree, "C:/docs"));
         check(widget, "C:");
+        int waited = 0;
+        connect(static_cast<QWizard&>(widget).currentPage(), &QWizardPage::completeChanged,
+                [&] { waited += QGuiApplication::overrideCursor() ? 1 : 0; });
         switchOn(widget, "checkKeep");
         child<QCheckBox>(widget, "checkKeep").setChecked(false);
+        QCOMPARE(waited, 3);
         QVERIFY(tree.isExpanded(rowAt(tree, "C:")));
         QVERIFY(tree.isExpanded(rowAt(tree, "C:/docs")));
         QVERIFY(tree.selectionModel()->isSelected(rowAt(tree, "C:/docs")));

@@ -78,6 +78,8 @@ private slots:
     void aChangedFilterKeepsTheTreeAndDropsTheMarks();
     void theFileFilterIsKept();
     void datesReachTheAgent();
+    void theTreeScrollsToWhatIsLookedAt();
+    void theUserSeesThatAViewTakesItsTime();
 
 private:
     /// Opens the wizard for one act on its first page, and gives it up.
@@ -314,6 +316,42 @@ void RestoreFilterTest::datesReachTheAgent() {
                              "BackupSet.prepare_restore(0, 0, 0)",
                              "BackupSet.prepare_restore(0, 1760000000, 1760000000)"}),
                  QString());
+    });
+}
+
+void RestoreFilterTest::theTreeScrollsToWhatIsLookedAt() {
+    test_.agent->withWorld([](World& world) {
+        std::vector<std::string> paths;
+        for (int folder = 10; folder < 90; ++folder)
+            paths.push_back("C:\\" + std::to_string(folder) + "\\sub\\a.txt");
+        storeFiles(world, paths);
+    });
+    atFirstPage([this](QWizardPage& page) {
+        QTreeView& tree = treeOf(page);
+        tree.expand(rowAt(tree, q("C:")));
+        tree.expand(rowAt(tree, q("C:/50")));
+        QCOMPARE(tree.visualRect(rowAt(tree, q("C:/50"))).top(), 0);
+        tree.setCurrentIndex(rowAt(tree, q("C:/50/sub")));
+        tree.scrollToTop();
+        selectFile(page, "a.txt");
+        expectGeneration(1);
+        child<QPushButton>(page, "buttonGenerations").click();
+        const int seen = tree.visualRect(rowAt(tree, q("C:/50/sub"))).center().y();
+        const int height = tree.viewport()->height();
+        QVERIFY2(seen > height / 3 && seen < 2 * height / 3, qPrintable(QString::number(seen)));
+    });
+}
+
+void RestoreFilterTest::theUserSeesThatAViewTakesItsTime() {
+    atFirstPage([](QWizardPage& page) {
+        int waited = 0;
+        connect(&page, &QWizardPage::completeChanged, [&waited] {
+            const QCursor* cursor = QGuiApplication::overrideCursor();
+            waited += cursor && cursor->shape() == Qt::WaitCursor ? 1 : 0;
+        });
+        box(page, "checkFilter").click();
+        QCOMPARE(waited, 1);
+        QVERIFY(!QGuiApplication::overrideCursor());
     });
 }
 

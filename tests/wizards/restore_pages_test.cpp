@@ -287,6 +287,9 @@ void RestorePagesTest::nothingIsSelectedForAnUnknownDrive() {
     LocationPages pages(openSet(documents));
     pages.choose("radioAlternateDir");
     pages.directory.initializePage();
+    pages.browse().setChecked(true);
+    pages.tree().setCurrentIndex(rowAt(pages.tree(), "D:"));
+    pages.browse().setChecked(false);
     pages.path().setText(q("Q:\\x"));
     pages.browse().setChecked(true);
     QCOMPARE(pages.selected(), QString());
