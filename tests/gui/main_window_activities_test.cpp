@@ -86,8 +86,6 @@ private slots:
     void theLogoOpensTheHomePage();
     void helpOpensTheGuide();
     void helpThatCantBeOpenedIsTold();
-    void laterCommandsOpenNothingYet_data();
-    void laterCommandsOpenNothingYet();
 
 private:
     SimpleGUIMainWindow& window() { return driver_->window(); }
@@ -418,20 +416,6 @@ void MainWindowActivitiesTest::helpThatCantBeOpenedIsTold() {
                                                "https://tarn-mobile.example/user-guide.pdf."));
     driver_->trigger("actionLogo");
     QVERIFY(driver_->status().startsWith(QStringLiteral("Failed to open the help file")));
-}
-
-void MainWindowActivitiesTest::laterCommandsOpenNothingYet_data() {
-    QTest::addColumn<QString>("slot");
-    QTest::newRow("OnRestore") << QStringLiteral("OnRestore");
-}
-
-void MainWindowActivitiesTest::laterCommandsOpenNothingYet() {
-    QFETCH(QString, slot);
-    select(0);
-    ModalDriver modals;
-    QVERIFY(QMetaObject::invokeMethod(&window(), qPrintable(slot)));
-    QVERIFY(modals.done());
-    QCOMPARE(agent_->callTexts(), Calls{});
 }
 
 QTEST_MAIN(MainWindowActivitiesTest)
