@@ -12,6 +12,8 @@
 #include <QTest>
 #include <QTreeView>
 
+#include "api/data_view_records.h"
+#include "hessian/value.h"
 #include "resources/pictures.h"
 #include "simulator/world/world.h"
 #include "tests/gui/restore_wizard_calls.h"
@@ -73,6 +75,7 @@ private slots:
     void theNewestGenerationOfAllNarrowsItToo();
     void aGenerationBeforeTheFilterMovesItBack();
     void aGenerationThatTheFilterShowsChangesNothing();
+    void generationsBeforeTheFilterHaveNoSign();
     void aFileIsFoundAgainByItsOwnCase();
     void aGenerationThatIsNotPicked();
     void aChangedFilterKeepsTheTreeAndDropsTheMarks();
@@ -235,6 +238,31 @@ void RestoreFilterTest::aGenerationThatTheFilterShowsChangesNothing() {
         child<QPushButton>(page, "buttonGenerations").click();
         QCOMPARE(difference(calls(), {"BackupSetRestoreView.getItemGenerations(4)"}), QString());
         QCOMPARE(checkStateOf(page, "notes.txt"), 2);
+    });
+}
+
+void RestoreFilterTest::generationsBeforeTheFilterHaveNoSign() {
+    const std::vector<hessiancln::file_generations> old{{kFirstBackup, kFirstBackup, 10, 8},
+                                                        {kFirstBackup, kMiddleBackup, 15, 12}};
+    std::string reply("r\x01\0", 3);
+    hessianser::writeValue(old, reply);
+    atFirstPage([&](QWizardPage& page) {
+        box(page, "checkFilter").click();
+        box(page, "checkFrom").click();
+        date(page, "dateFrom").setDateTime(QDateTime::fromSecsSinceEpoch(kMiddleBackup + 60));
+        selectFile(page, "notes.txt");
+        expectGeneration(-1, [](QTableView& table) {
+            QCOMPARE(table.model()->rowCount(), 2);
+            for (int row = 0; row < 2; ++row)
+                QCOMPARE(table.model()
+                             ->index(row, 0)
+                             .data(Qt::DecorationRole)
+                             .value<QPixmap>()
+                             .toImage(),
+                         QPixmap(q(":/tree/file")).toImage());
+        });
+        test_.agent->inject("getItemGenerations", simulator::RawReply{reply + 'z'});
+        child<QPushButton>(page, "buttonGenerations").click();
     });
 }
 
