@@ -6,15 +6,29 @@ namespace models {
 
 namespace {
 
+enum class Wanted { any, withRowsBelow };
+
 QModelIndex childNamed(const QAbstractItemModel& model, const QModelIndex& parent,
-                       const QString& text, Qt::CaseSensitivity sensitivity) {
+                       const QString& text, Qt::CaseSensitivity sensitivity, Wanted wanted) {
     const int count = model.rowCount(parent);
     for (int row = 0; row < count; ++row) {
         const QModelIndex child = model.index(row, 0, parent);
-        if (QString::compare(child.data().toString(), text, sensitivity) == 0)
+        if (QString::compare(child.data().toString(), text, sensitivity) == 0 &&
+            (wanted == Wanted::any || model.hasChildren(child)))
             return child;
     }
     return {};
+}
+
+QModelIndex descend(const QAbstractItemModel& model, const QStringList& path,
+                    Qt::CaseSensitivity sensitivity, Wanted wanted) {
+    QModelIndex index;
+    for (const QString& text : path) {
+        index = childNamed(model, index, text, sensitivity, wanted);
+        if (!index.isValid())
+            return {};
+    }
+    return index;
 }
 
 } // namespace
@@ -28,13 +42,12 @@ QStringList displayPath(const QModelIndex& index) {
 
 QModelIndex indexAtPath(const QAbstractItemModel& model, const QStringList& path,
                         Qt::CaseSensitivity sensitivity) {
-    QModelIndex index;
-    for (const QString& text : path) {
-        index = childNamed(model, index, text, sensitivity);
-        if (!index.isValid())
-            return {};
-    }
-    return index;
+    return descend(model, path, sensitivity, Wanted::any);
+}
+
+QModelIndex folderAtPath(const QAbstractItemModel& model, const QStringList& path,
+                         Qt::CaseSensitivity sensitivity) {
+    return descend(model, path, sensitivity, Wanted::withRowsBelow);
 }
 
 } // namespace models

@@ -16,4 +16,9 @@ QStringList displayPath(const QModelIndex& index);
 QModelIndex indexAtPath(const QAbstractItemModel& model, const QStringList& path,
                         Qt::CaseSensitivity sensitivity);
 
+/// The same among rows that may have rows below them: what was stored may hold a file that is
+/// called like a folder beside it, each from its own time.
+QModelIndex folderAtPath(const QAbstractItemModel& model, const QStringList& path,
+                         Qt::CaseSensitivity sensitivity);
+
 } // namespace models

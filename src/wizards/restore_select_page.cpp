@@ -37,6 +37,20 @@ void moveTo(QDateTimeEdit& field, std::int32_t seconds) {
     wizards::showTime(field, time);
 }
 
+/// The file at the end of a path, which a folder of an earlier time may be called like.
+QModelIndex fileAt(const CBackedUpDataModel& model, QStringList path) {
+    const QString name = path.takeLast();
+    const QModelIndex folder = models::folderAtPath(model, path, Qt::CaseSensitive);
+    if (!folder.isValid() && !path.isEmpty())
+        return {};
+    for (int row = 0; row < model.rowCount(folder); ++row) {
+        const QModelIndex child = model.index(row, 0, folder);
+        if (!model.canHaveChildren(child) && child.data().toString() == name)
+            return child;
+    }
+    return {};
+}
+
 } // namespace
 
 RestoreSelectPage::RestoreSelectPage(boost::shared_ptr<hessiancln::BackupSet> set, QWidget* parent)
@@ -186,7 +200,7 @@ void RestoreSelectPage::letChooseGeneration(std::int64_t file, const QStringList
     const QModelIndexList folders = ui_->treeSelection->selectionModel()->selectedRows();
     if (!folders.isEmpty())
         ui_->treeSelection->scrollTo(folders.first(), QAbstractItemView::PositionAtCenter);
-    const QModelIndex found = models::indexAtPath(model(), path, Qt::CaseSensitive);
+    const QModelIndex found = fileAt(model(), path);
     if (found.isValid())
         model().setData(found, true, Qt::CheckStateRole);
 }

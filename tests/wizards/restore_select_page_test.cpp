@@ -80,6 +80,8 @@ private slots:
     void theGenerationsOfNoFileAreNotShown();
     void theGenerationInTheFilterIsMarked();
     void aGenerationOfAForgottenBackup();
+    void aGenerationOfAFileThatIsCalledLikeAFolder_data();
+    void aGenerationOfAFileThatIsCalledLikeAFolder();
     void aGenerationOfTheHourThatComesTwice_data();
     void aGenerationOfTheHourThatComesTwice();
     void textsOfTheGenerations();
@@ -228,6 +230,44 @@ void RestoreSelectPageTest::aGenerationOfAForgottenBackup() {
     QCOMPARE(child<QDateTimeEdit>(page, "dateTo").dateTime().toSecsSinceEpoch(), kFirst + 60);
     QCOMPARE(takeCalls().at(2), std::string("BackupSet.prepare_restore(0, 1700000060, 0)"));
     QVERIFY(page.isComplete());
+}
+
+void RestoreSelectPageTest::aGenerationOfAFileThatIsCalledLikeAFolder_data() {
+    QTest::addColumn<bool>("below");
+    QTest::newRow("behind the folder") << false;
+    QTest::newRow("in a folder behind a file") << true;
+}
+
+void RestoreSelectPageTest::aGenerationOfAFileThatIsCalledLikeAFolder() {
+    QFETCH(bool, below);
+    const Set set = setWithFiles();
+    change(documents, [below](simulator::BackupSetState& state, simulator::World&) {
+        state.stored = std::make_shared<simulator::StoredData>();
+        const auto& stored = state.stored->addFile(
+            "C:\\x\\old.txt", {{kFirst, kFirst + 60, 10, 8}, {kSecond, kSecond + 60, 9, 7}});
+        auto file = std::make_shared<simulator::StoredNode>(stored);
+        file->name = "x";
+        auto& all = state.stored->root().children.front()->children;
+        all.insert(below ? all.begin() : all.end(), file);
+    });
+    RestoreSelectPage page(set);
+    auto& tree = child<QTreeView>(page, "treeSelection");
+    auto& list = child<QListView>(page, "listSelection");
+    tree.expand(rowAt(tree, "C:"));
+    tree.setCurrentIndex(rowAt(tree, below ? "C:|x" : "C:"));
+    const auto file = [&list] { return list.model()->index(0, 0, list.rootIndex()); };
+    QCOMPARE(file().data().toString(), q(below ? "old.txt" : "x"));
+    list.setCurrentIndex(file());
+    support::ModalDriver modals;
+    modals.expect(q("generations"), support::isDialog<SelectGenerationDlg>, [](QWidget& dialog) {
+        child<QTableView>(dialog, "listGenerations").selectRow(1);
+        child<QPushButton>(dialog, "buttonSelect").click();
+    });
+    child<QPushButton>(page, "buttonGenerations").click();
+    QVERIFY(modals.done());
+    QCOMPARE(file().data(Qt::CheckStateRole).toInt(), 2);
+    QCOMPARE(rowAt(tree, "C:").data(Qt::CheckStateRole).toInt(), 1);
+    QCOMPARE(rowAt(tree, "C:|x").data(Qt::CheckStateRole).toInt(), below ? 2 : 0);
 }
 
 void RestoreSelectPageTest::aGenerationOfTheHourThatComesTwice_data() {
