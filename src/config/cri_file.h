@@ -30,7 +30,7 @@ struct CriEntry {
 };
 
 /// A line of so many bytes can't be meant, and is passed over.
-inline constexpr qint64 longestCriLine = 64 * 1024;
+inline constexpr qint64 longestCriLine = qint64(64) * 1024;
 
 /// What a line says; none if it has no "=" or its key is unknown.
 std::optional<CriEntry> criEntryOf(const QString& line);

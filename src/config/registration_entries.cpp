@@ -54,7 +54,7 @@ QString problemOfUserInfo(const RegistrationEntries& entries) {
 
 QString problemOf(const RegistrationEntries& entries) {
     for (const auto check : {problemOfCustomer, problemOfKeys, problemOfUserInfo})
-        if (const QString problem = check(entries); !problem.isEmpty())
+        if (QString problem = check(entries); !problem.isEmpty())
             return problem;
     return {};
 }

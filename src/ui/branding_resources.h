@@ -14,7 +14,7 @@ namespace ui {
 class BrandingResources {
 public:
     /// An image of more pixels than this counts as one that can't be decoded.
-    static constexpr qint64 mostPixels = 32 * 1024 * 1024;
+    static constexpr qint64 mostPixels = qint64(32) * 1024 * 1024;
 
     /// Takes the built-in look and then what the file has. A file that is missing or damaged
     /// changes nothing and says nothing. Needs the application object.
