@@ -9,10 +9,13 @@
 
 #include "simulator/world/world.h"
 #include "tests/gui/delete_wizard_calls.h"
+#include "tests/support/gui_tree.h"
 #include "tests/support/gui_wizard.h"
 
 /// What a user does in the wizard that deletes, and the set that it deletes from.
 namespace gui {
+
+using support::rowAt;
 
 inline constexpr int kRow = 3;
 inline constexpr std::int32_t kId = 4;
@@ -76,31 +79,12 @@ inline QListView& listOf(QWidget& page) {
     return support::child<QListView>(page, "listSelection");
 }
 
-/// The row of a tree at the end of names that are joined by slashes.
-inline QModelIndex rowAt(QTreeView& tree, const char* path) {
-    QModelIndex index;
-    for (const QString& name : q(path).split(QLatin1Char('/'))) {
-        const QModelIndex parent = index;
-        index = {};
-        for (int row = 0; row < tree.model()->rowCount(parent) && !index.isValid(); ++row)
-            if (tree.model()->index(row, 0, parent).data().toString() == name)
-                index = tree.model()->index(row, 0, parent);
-        if (!index.isValid())
-            qFatal("There is no %s", path);
-    }
-    return index;
-}
-
 inline void check(QWidget& page, const char* path) {
     treeOf(page).model()->setData(rowAt(treeOf(page), path), Qt::Checked, Qt::CheckStateRole);
 }
 
 inline QStringList filesIn(QWidget& page) {
-    const QListView& list = listOf(page);
-    QStringList names;
-    for (int row = 0; row < list.model()->rowCount(list.rootIndex()); ++row)
-        names << list.model()->index(row, 0, list.rootIndex()).data().toString();
-    return names;
+    return support::namesIn(listOf(page));
 }
 
 inline void checkAll(QWidget& page) {

@@ -265,7 +265,7 @@ void RestoreFaultsTest::aFaultOfAFilterLeavesThePage() {
         // It must not say what the tree doesn't show.
         QVERIFY(!filter.isChecked());
         QVERIFY(!child<QWidget>(page, "filterDisplay").isVisible());
-        QCOMPARE(rowAt(treeOf(page), q("C:/docs")).data(Qt::CheckStateRole).toInt(), 2);
+        QCOMPARE(rowAt(treeOf(page), "C:/docs").data(Qt::CheckStateRole).toInt(), 2);
         QVERIFY(page.isComplete());
         QVERIFY(!QGuiApplication::overrideCursor());
         // The next time comes through, and shows the dates as they should be.
@@ -312,7 +312,7 @@ void RestoreFaultsTest::aFaultOfTheGenerationsLeavesThePage() {
         QVERIFY(!child<QWidget>(page, "filterDisplay").isVisible());
         // Marked is what was marked, and not the file whose generation nobody sees.
         QCOMPARE(checkStateOf(page, "notes.txt"), 0);
-        QCOMPARE(rowAt(treeOf(page), q("D:")).data(Qt::CheckStateRole).toInt(), 2);
+        QCOMPARE(rowAt(treeOf(page), "D:").data(Qt::CheckStateRole).toInt(), 2);
         QVERIFY(generations(page).isEnabled());
     });
 }
@@ -344,7 +344,7 @@ void RestoreFaultsTest::aFolderOfTheDestinationThatFailsIsNotTold() {
                 return;
             child<QPushButton>(page, "btnRestoreTo").click();
             auto& tree = child<QTreeView>(page, "treeAvailableDirectories");
-            const QModelIndex closed = rowAt(tree, q("C:/System Volume Information"));
+            const QModelIndex closed = rowAt(tree, "C:/System Volume Information");
             QVERIFY(tree.model()->hasChildren(closed));
             tree.expand(closed);
             QVERIFY(!tree.model()->hasChildren(closed));

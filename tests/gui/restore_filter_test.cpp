@@ -153,8 +153,7 @@ void RestoreFilterTest::nextWaitsForACheckMark() {
         QVERIFY(!button(wizard, QWizard::NextButton).isEnabled());
         check(page, "D:");
         QVERIFY(button(wizard, QWizard::NextButton).isEnabled());
-        treeOf(page).model()->setData(rowAt(treeOf(page), q("D:")), Qt::Unchecked,
-                                      Qt::CheckStateRole);
+        treeOf(page).model()->setData(rowAt(treeOf(page), "D:"), Qt::Unchecked, Qt::CheckStateRole);
         QVERIFY(!button(wizard, QWizard::NextButton).isEnabled());
     });
 }
@@ -296,20 +295,20 @@ void RestoreFilterTest::aGenerationThatIsNotPicked() {
 void RestoreFilterTest::aChangedFilterKeepsTheTreeAndDropsTheMarks() {
     atFirstPage([this](QWizardPage& page) {
         QTreeView& tree = treeOf(page);
-        tree.expand(rowAt(tree, q("C:")));
-        tree.expand(rowAt(tree, q("C:/docs")));
-        tree.setCurrentIndex(rowAt(tree, q("C:/docs")));
+        tree.expand(rowAt(tree, "C:"));
+        tree.expand(rowAt(tree, "C:/docs"));
+        tree.setCurrentIndex(rowAt(tree, "C:/docs"));
         check(page, "C:");
         box(page, "checkFilter").click();
         box(page, "checkTo").click();
         box(page, "checkTo").click();
         box(page, "checkFilter").click();
-        QVERIFY(tree.isExpanded(rowAt(tree, q("C:"))));
-        QVERIFY(tree.isExpanded(rowAt(tree, q("C:/docs"))));
-        QVERIFY(tree.selectionModel()->isSelected(rowAt(tree, q("C:/docs"))));
+        QVERIFY(tree.isExpanded(rowAt(tree, "C:")));
+        QVERIFY(tree.isExpanded(rowAt(tree, "C:/docs")));
+        QVERIFY(tree.selectionModel()->isSelected(rowAt(tree, "C:/docs")));
         QCOMPARE(tree.selectionModel()->selectedRows().size(), 1);
         QCOMPARE(filesIn(page), QStringList{q("b.txt")});
-        QCOMPARE(rowAt(tree, q("C:")).data(Qt::CheckStateRole).toInt(), 0);
+        QCOMPARE(rowAt(tree, "C:").data(Qt::CheckStateRole).toInt(), 0);
         QVERIFY(!button(*page.window(), QWizard::NextButton).isEnabled());
         check(page, "D:");
         QVERIFY(button(*page.window(), QWizard::NextButton).isEnabled());
@@ -356,15 +355,15 @@ void RestoreFilterTest::theTreeScrollsToWhatIsLookedAt() {
     });
     atFirstPage([this](QWizardPage& page) {
         QTreeView& tree = treeOf(page);
-        tree.expand(rowAt(tree, q("C:")));
-        tree.expand(rowAt(tree, q("C:/50")));
-        QCOMPARE(tree.visualRect(rowAt(tree, q("C:/50"))).top(), 0);
-        tree.setCurrentIndex(rowAt(tree, q("C:/50/sub")));
+        tree.expand(rowAt(tree, "C:"));
+        tree.expand(rowAt(tree, "C:/50"));
+        QCOMPARE(tree.visualRect(rowAt(tree, "C:/50")).top(), 0);
+        tree.setCurrentIndex(rowAt(tree, "C:/50/sub"));
         tree.scrollToTop();
         selectFile(page, "a.txt");
         expectGeneration(1);
         child<QPushButton>(page, "buttonGenerations").click();
-        const int seen = tree.visualRect(rowAt(tree, q("C:/50/sub"))).center().y();
+        const int seen = tree.visualRect(rowAt(tree, "C:/50/sub")).center().y();
         const int height = tree.viewport()->height();
         QVERIFY2(seen > height / 3 && seen < 2 * height / 3, qPrintable(QString::number(seen)));
     });

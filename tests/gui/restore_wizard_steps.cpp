@@ -48,26 +48,8 @@ QListView& listOf(QWidget& page) {
     return child<QListView>(page, "listSelection");
 }
 
-QModelIndex rowAt(QTreeView& tree, const QString& path) {
-    QModelIndex index;
-    for (const QString& name : path.split(QLatin1Char('/'))) {
-        const QModelIndex parent = index;
-        index = {};
-        for (int row = 0; row < tree.model()->rowCount(parent) && !index.isValid(); ++row)
-            if (tree.model()->index(row, 0, parent).data().toString() == name)
-                index = tree.model()->index(row, 0, parent);
-        if (!index.isValid())
-            qFatal("There is no %s", qPrintable(path));
-    }
-    return index;
-}
-
 QStringList filesIn(QWidget& page) {
-    const QListView& list = listOf(page);
-    QStringList names;
-    for (int row = 0; row < list.model()->rowCount(list.rootIndex()); ++row)
-        names << list.model()->index(row, 0, list.rootIndex()).data().toString();
-    return names;
+    return support::namesIn(listOf(page));
 }
 
 QModelIndex fileNamed(QWidget& page, const char* name) {
@@ -81,7 +63,7 @@ int checkStateOf(QWidget& page, const char* file) {
 }
 
 void check(QWidget& page, const char* path) {
-    treeOf(page).model()->setData(rowAt(treeOf(page), q(path)), Qt::Checked, Qt::CheckStateRole);
+    treeOf(page).model()->setData(rowAt(treeOf(page), path), Qt::Checked, Qt::CheckStateRole);
 }
 
 support::AtPage wishing(const RestoreWishes& wishes, QString* name) {

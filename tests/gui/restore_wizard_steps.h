@@ -10,6 +10,7 @@
 #include <QString>
 #include <QStringList>
 
+#include "tests/support/gui_tree.h"
 #include "tests/support/gui_wizard.h"
 
 class QListView;
@@ -35,10 +36,10 @@ void storeFiles(simulator::World& world, const std::vector<std::string>& paths);
 /// Two drives with a few files.
 void storeFiles(simulator::World& world);
 
+using support::rowAt;
+
 QTreeView& treeOf(QWidget& page);
 QListView& listOf(QWidget& page);
-/// The row of a tree at the end of names that are joined by slashes.
-QModelIndex rowAt(QTreeView& tree, const QString& path);
 QStringList filesIn(QWidget& page);
 /// The row of a file in the list; invalid if it isn't shown.
 QModelIndex fileNamed(QWidget& page, const char* name);

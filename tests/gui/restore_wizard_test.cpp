@@ -237,7 +237,7 @@ void RestoreWizardTest::aPickedDirectory() {
                      q("C:\\Users\\anna\\Documents"));
             child<QPushButton>(page, "btnRestoreTo").click();
             auto& tree = child<QTreeView>(page, "treeAvailableDirectories");
-            tree.setCurrentIndex(rowAt(tree, q("D:/Projects/Tower")));
+            tree.setCurrentIndex(rowAt(tree, "D:/Projects/Tower"));
         });
     });
     test_.run("OnRestore");

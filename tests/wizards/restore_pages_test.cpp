@@ -12,6 +12,7 @@
 #include <QStackedWidget>
 #include <QTreeView>
 
+#include "tests/support/gui_tree.h"
 #include "tests/wizards/page_fixture.h"
 #include "tests/wizards/selected_row_look.h"
 #include "wizards/restore_directory_destination.h"
@@ -19,6 +20,7 @@
 #include "wizards/select_data_source_page.h"
 
 using support::child;
+using support::rowAt;
 
 namespace {
 
@@ -29,21 +31,6 @@ QString q(const char* text) {
 void changeLanguage(QWidget& widget) {
     QEvent change(QEvent::LanguageChange);
     QCoreApplication::sendEvent(&widget, &change);
-}
-
-/// The row of a tree at the end of names that are joined by bars.
-QModelIndex rowAt(QTreeView& tree, const char* path) {
-    QModelIndex index;
-    for (const QString& name : q(path).split(QLatin1Char('|'))) {
-        const QModelIndex parent = index;
-        index = {};
-        for (int row = 0; row < tree.model()->rowCount(parent) && !index.isValid(); ++row)
-            if (tree.model()->index(row, 0, parent).data().toString() == name)
-                index = tree.model()->index(row, 0, parent);
-        if (!index.isValid())
-            qFatal("There is no %s", path);
-    }
-    return index;
 }
 
 /// The pages behind the first one, in a wizard that isn't shown.
@@ -320,7 +307,7 @@ void RestorePagesTest::directoriesOfUnixHaveSlashes() {
     pages.browse().setChecked(true);
     QCOMPARE(pages.selected(), QString());
     QCOMPARE(pages.path().text(), q("/home"));
-    pages.tree().setCurrentIndex(rowAt(pages.tree(), "/|usr|local"));
+    pages.tree().setCurrentIndex(rowAt(pages.tree(), "/usr/local"));
     QCOMPARE(pages.path().text(), q("/usr/local"));
 }
 

@@ -12,6 +12,7 @@
 #include <QTableView>
 #include <QTreeView>
 
+#include "tests/support/gui_tree.h"
 #include "tests/wizards/page_fixture.h"
 #include "tests/wizards/selected_row_look.h"
 #include "wizards/field_memo.h"
@@ -19,6 +20,7 @@
 #include "wizards/select_generation_dlg.h"
 
 using support::child;
+using support::rowAt;
 
 namespace {
 
@@ -32,21 +34,6 @@ QString q(const char* text) {
 void compareIcon(const QAbstractButton& button, const char* resource) {
     QVERIFY(!button.icon().pixmap(16).isNull());
     QCOMPARE(button.icon().pixmap(16).toImage(), QIcon(q(resource)).pixmap(16).toImage());
-}
-
-/// The row of a tree at the end of names that are joined by bars.
-QModelIndex rowAt(QTreeView& tree, const char* path) {
-    QModelIndex index;
-    for (const QString& name : q(path).split(QLatin1Char('|'))) {
-        const QModelIndex parent = index;
-        index = {};
-        for (int row = 0; row < tree.model()->rowCount(parent) && !index.isValid(); ++row)
-            if (tree.model()->index(row, 0, parent).data().toString() == name)
-                index = tree.model()->index(row, 0, parent);
-        if (!index.isValid())
-            qFatal("There is no %s", path);
-    }
-    return index;
 }
 
 /// The time zone of the process, for as long as it lives.
@@ -173,7 +160,7 @@ void RestoreSelectPageTest::theGenerationsWantAFile() {
     list.clearSelection();
     QVERIFY(!button.isEnabled());
     list.setCurrentIndex(list.model()->index(0, 0, list.rootIndex()));
-    tree.setCurrentIndex(rowAt(tree, "C:|docs"));
+    tree.setCurrentIndex(rowAt(tree, "C:/docs"));
     QVERIFY(!button.isEnabled());
     QVERIFY(!list.selectionModel()->hasSelection());
 }
@@ -254,7 +241,7 @@ void RestoreSelectPageTest::aGenerationOfAFileThatIsCalledLikeAFolder() {
     auto& tree = child<QTreeView>(page, "treeSelection");
     auto& list = child<QListView>(page, "listSelection");
     tree.expand(rowAt(tree, "C:"));
-    tree.setCurrentIndex(rowAt(tree, below ? "C:|x" : "C:"));
+    tree.setCurrentIndex(rowAt(tree, below ? "C:/x" : "C:"));
     const auto file = [&list] { return list.model()->index(0, 0, list.rootIndex()); };
     QCOMPARE(file().data().toString(), q(below ? "old.txt" : "x"));
     list.setCurrentIndex(file());
@@ -267,7 +254,7 @@ void RestoreSelectPageTest::aGenerationOfAFileThatIsCalledLikeAFolder() {
     QVERIFY(modals.done());
     QCOMPARE(file().data(Qt::CheckStateRole).toInt(), 2);
     QCOMPARE(rowAt(tree, "C:").data(Qt::CheckStateRole).toInt(), 1);
-    QCOMPARE(rowAt(tree, "C:|x").data(Qt::CheckStateRole).toInt(), below ? 2 : 0);
+    QCOMPARE(rowAt(tree, "C:/x").data(Qt::CheckStateRole).toInt(), below ? 2 : 0);
 }
 
 void RestoreSelectPageTest::aGenerationOfTheHourThatComesTwice_data() {
