@@ -77,8 +77,8 @@ void SimpleGUIMainWindow::setTrayTexts() {
 }
 
 void SimpleGUIMainWindow::activityChangeDetected(
-    QList<hessiancln::running_activity_info> appeared,
-    QList<hessiancln::running_activity_info> disappeared) {
+    const QList<hessiancln::running_activity_info>& appeared,
+    const QList<hessiancln::running_activity_info>& disappeared) {
     if (isVisible() && isActiveWindow())
         return;
     tray_->showBalloon(tr("Ostrand Backup Activity"),

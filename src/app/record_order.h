@@ -61,6 +61,7 @@ std::map<std::int32_t, std::int64_t> labelRanks(const std::vector<R>& records, L
         if (const std::int32_t number = key.number(record); !labels.contains(number))
             labels.emplace(number, key.label(record));
     std::vector<QString> ordered;
+    ordered.reserve(labels.size());
     for (const auto& [number, label] : labels)
         ordered.push_back(label);
     std::sort(ordered.begin(), ordered.end());

@@ -105,8 +105,8 @@ public slots:
     void OnDelete();
     void OnNewBackupSet();
     void backupSetContextMenu(BackupSetViewItem* source, QContextMenuEvent* event);
-    void activityChangeDetected(QList<hessiancln::running_activity_info> appeared,
-                                QList<hessiancln::running_activity_info> disappeared);
+    void activityChangeDetected(const QList<hessiancln::running_activity_info>& appeared,
+                                const QList<hessiancln::running_activity_info>& disappeared);
     void showMainWindow();
     void hideMainWindow();
     void sysTrayActivated(QSystemTrayIcon::ActivationReason reason);

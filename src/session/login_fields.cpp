@@ -22,7 +22,7 @@ QString hostForDisplay(const QString& agentAddress) {
 
 QString loginUserOf(const QString& userText, bool asCurrentUser,
                     const std::optional<QString>& domain) {
-    const QString name = userText.left(userText.indexOf(QLatin1Char(':')));
+    QString name = userText.left(userText.indexOf(QLatin1Char(':')));
     if (asCurrentUser || name.isEmpty() || !domain) {
         return name;
     }

@@ -63,7 +63,8 @@ std::string dump(const ResponseHeader& header) {
     // Each byte is printed as a signed number over the tail of the one before it.
     std::array<char, 2 * responseHeaderSize + 8> digits{};
     for (std::size_t i = 0; i < header.size(); ++i) {
-        const int number = static_cast<signed char>(header[i]);
+        const int number =
+            static_cast<signed char>(header[i]); // NOLINT(bugprone-signed-char-misuse)
         std::snprintf(digits.data() + 2 * i, digits.size() - 2 * i, "%02X",
                       static_cast<unsigned>(number));
     }

@@ -11,7 +11,7 @@ namespace platform {
 
 std::string currentWindowsUser() {
     // Accounts from a directory service may carry more text than the system's own hint says.
-    constexpr std::size_t roomForAnAccount = 16 * 1024;
+    constexpr std::size_t roomForAnAccount = std::size_t(16) * 1024;
     std::vector<char> texts(roomForAnAccount);
     passwd account{};
     passwd* found = nullptr;
