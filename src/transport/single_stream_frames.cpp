@@ -23,7 +23,7 @@ constexpr std::uint64_t largestMessage = std::numeric_limits<std::uint32_t>::max
 
 // A message is read in pieces small enough to stay in the processor's cache, from the clearing of
 // the memory to the checksum over it. Memory is touched only as far as bytes have arrived.
-constexpr std::size_t pieceSize = 256 * 1024;
+constexpr std::size_t pieceSize = std::size_t(256) * 1024;
 
 /// Rounded up, since messages of similar sizes then share blocks; the largest number for a size
 /// that can't be told.

@@ -16,7 +16,7 @@ class ZipReader {
 public:
     /// What an entry may unpack to, in bytes. A larger one counts as missing, so that a small
     /// file can't fill the memory.
-    static constexpr qint64 largestEntry = 16 * 1024 * 1024;
+    static constexpr qint64 largestEntry = qint64(16) * 1024 * 1024;
 
     explicit ZipReader(const QString& path);
 
