@@ -15,7 +15,6 @@
 using simulator::Fault;
 using simulator::Scenario;
 using simulator::World;
-using support::callsOf;
 using support::difference;
 using support::isDialog;
 using Calls = std::vector<std::string>;
@@ -42,15 +41,7 @@ const Calls kRuleGone{"BackupSet.getRetentionRule()", "BackupSet.setRetentionRul
                       "ClientConnection.getRetentionRuleManager()",
                       "RetentionRuleManager.removeRule(RetentionRule(retention_for_set_8))"};
 const Calls kSetGone{"ClientConnection.removeBackupSet(BackupSet(8))"};
-const Calls kRefreshed{"ClientConnection.getTarnClientInfo()",
-                       "ClientConnection.getTFAManager()",
-                       "TFAManager.is2FAEnabled()",
-                       "ClientConnection.activity_log",
-                       "ClientConnection.running_activities()",
-                       "ClientConnection.backup_sets_info()",
-                       "ClientConnection.backup_set(8)",
-                       "BackupSet.getLastActivityOfType(0)",
-                       "BackupSet.getOverview()"};
+const Calls kRefreshed = support::callsOfRefresh(8);
 
 /// Gives the empty set a schedule and a rule that no other set has.
 void giveOwnPlans(World& world) {
@@ -126,16 +117,7 @@ void DeleteTest::expectRemovalQuestion(QMessageBox::StandardButton answer) {
 }
 
 Calls DeleteTest::calls() const {
-    Calls calls;
-    for (std::string& call : callsOf(*test_.agent)) {
-        if (call.rfind("ClientConnection.activity_log(", 0) == 0)
-            call.erase(call.find('('));
-        if (call == "BackupSet.getName()")
-            calls.pop_back();
-        else
-            calls.push_back(std::move(call));
-    }
-    return calls;
+    return support::steadyCallsOf(*test_.agent);
 }
 
 void DeleteTest::aSetWithoutFilesIsRemoved_data() {

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/gui_wizard.h"
+
 /// What the wizard that deletes says to the agent, about its fourth set. Without the calls of
 /// `Release`, and without the span of the activity log.
 namespace gui {
@@ -25,15 +27,7 @@ inline const Calls kRemoved{"BackupSet.getSchedule()",
                             "ClientConnection.getRetentionRuleManager()",
                             "RetentionRuleManager.removeRule(RetentionRule(own))",
                             "ClientConnection.removeBackupSet(BackupSet(4))"};
-inline const Calls kRefreshed{"ClientConnection.getTarnClientInfo()",
-                              "ClientConnection.getTFAManager()",
-                              "TFAManager.is2FAEnabled()",
-                              "ClientConnection.activity_log",
-                              "ClientConnection.running_activities()",
-                              "ClientConnection.backup_sets_info()",
-                              "ClientConnection.backup_set(4)",
-                              "BackupSet.getLastActivityOfType(0)",
-                              "BackupSet.getOverview()"};
+inline const Calls kRefreshed = support::callsOfRefresh(4);
 
 inline Calls deleted(const std::string& ids) {
     return {"BackupSetDeleteView.prepareDelete([" + ids + "])", "DeleteActivityInitiator.start()"};

@@ -56,21 +56,6 @@ inline void storeGroup(simulator::World& world) {
     stored.addFolder("Group").isGroup = true;
 }
 
-/// The calls, without the span of the log, which follows the clock, and without the names in
-/// balloons, which only a window in the background shows.
-inline Calls steadyCallsOf(const simulator::Simulator& agent) {
-    Calls calls;
-    for (std::string& call : support::callsOf(agent)) {
-        if (call.rfind("ClientConnection.activity_log(", 0) == 0)
-            call.erase(call.find('('));
-        if (call == "BackupSet.getName()")
-            calls.pop_back();
-        else
-            calls.push_back(std::move(call));
-    }
-    return calls;
-}
-
 inline QTreeView& treeOf(QWidget& page) {
     return support::child<QTreeView>(page, "treeSelection");
 }

@@ -70,7 +70,7 @@ private:
         test_.quiet->letPass = false;
     }
     void expectRemovalQuestion(QMessageBox::StandardButton answer);
-    Calls calls() const { return steadyCallsOf(*test_.agent); }
+    Calls calls() const { return support::steadyCallsOf(*test_.agent); }
 
     support::WizardTest test_;
 };

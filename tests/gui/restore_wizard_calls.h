@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/gui_wizard.h"
+
 /// What the wizard that restores says to the agent, about its fourth set. Without the calls of
 /// `Release`, without the span of the activity log, and with NAME in place of the name of the
 /// directory that the restore makes.
@@ -46,15 +48,7 @@ inline const Calls kDirectoryWanted{
     "DataSourceBrowser.getCurrentCredentials()", "BackupSetCredentials.check(\"My Computer\")",
     "BackupSet.getComputerName()", "DataSourceBrowser.getPredefinedItems(\"My Computer\")"};
 
-inline const Calls kRefreshedAfterRestore{"ClientConnection.getTarnClientInfo()",
-                                          "ClientConnection.getTFAManager()",
-                                          "TFAManager.is2FAEnabled()",
-                                          "ClientConnection.activity_log",
-                                          "ClientConnection.running_activities()",
-                                          "ClientConnection.backup_sets_info()",
-                                          "ClientConnection.backup_set(4)",
-                                          "BackupSet.getLastActivityOfType(0)",
-                                          "BackupSet.getOverview()"};
+inline const Calls kRefreshedAfterRestore = support::callsOfRefresh(4);
 
 /// A finished wizard, when the data goes to where it came from.
 inline Calls restoredToOrigin(const std::string& ids, int reason) {

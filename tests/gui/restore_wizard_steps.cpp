@@ -84,20 +84,11 @@ support::AtPage wishing(const RestoreWishes& wishes, QString* name) {
 }
 
 std::vector<std::string> restoreCallsOf(const simulator::Simulator& agent, const QString& name) {
-    std::vector<std::string> calls;
-    for (std::string& text : support::callsOf(agent)) {
-        if (text.rfind("ClientConnection.activity_log(", 0) == 0)
-            text.erase(text.find('('));
-        // The name in a balloon, which only a window in the background shows.
-        if (text == "BackupSet.getName()") {
-            calls.pop_back();
-            continue;
-        }
-        QString call = QString::fromStdString(text);
-        if (!name.isEmpty())
-            call.replace(name, q("NAME"));
-        calls.push_back(call.toStdString());
-    }
+    std::vector<std::string> calls = support::steadyCallsOf(agent);
+    if (name.isEmpty())
+        return calls;
+    for (std::string& call : calls)
+        call = QString::fromStdString(call).replace(name, q("NAME")).toStdString();
     return calls;
 }
 

@@ -144,6 +144,20 @@ std::vector<std::string> callsOf(const simulator::Simulator& agent) {
     return texts;
 }
 
+std::vector<std::string> steadyCallsOf(const simulator::Simulator& agent) {
+    std::vector<std::string> calls;
+    for (std::string& call : callsOf(agent)) {
+        if (call.starts_with("ClientConnection.activity_log("))
+            call.erase(call.find('('));
+        // The set of that name was asked for just before.
+        if (call == "BackupSet.getName()")
+            calls.pop_back();
+        else
+            calls.push_back(std::move(call));
+    }
+    return calls;
+}
+
 simulator::RawReply emptyList() {
     return {std::string("r\x01\0Vzz", 6)};
 }
@@ -165,6 +179,18 @@ QString difference(const std::vector<std::string>& actual,
             return QStringLiteral("call %1 is %2, expected %3")
                 .arg(QString::number(i), at(actual, i), at(expected, i));
     return {};
+}
+
+std::vector<std::string> callsOfRefresh(std::int32_t selectedSet) {
+    return {"ClientConnection.getTarnClientInfo()",
+            "ClientConnection.getTFAManager()",
+            "TFAManager.is2FAEnabled()",
+            "ClientConnection.activity_log",
+            "ClientConnection.running_activities()",
+            "ClientConnection.backup_sets_info()",
+            "ClientConnection.backup_set(" + std::to_string(selectedSet) + ")",
+            "BackupSet.getLastActivityOfType(0)",
+            "BackupSet.getOverview()"};
 }
 
 std::vector<std::string> callsForCode() {

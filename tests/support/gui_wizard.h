@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -70,6 +71,10 @@ public:
 /// The calls in order with their arguments, without those of `Release`.
 std::vector<std::string> callsOf(const simulator::Simulator& agent);
 
+/// The same without the span of the activity log, which follows the clock, and without the names in
+/// balloons, which only a window in the background shows.
+std::vector<std::string> steadyCallsOf(const simulator::Simulator& agent);
+
 /// An agent's answer that there is nothing in the list.
 simulator::RawReply emptyList();
 
@@ -79,6 +84,9 @@ int liveObjectsOf(const simulator::Simulator& agent, const std::string& family);
 /// Where two lists of calls first differ, and both calls; empty if they are the same.
 QString difference(const std::vector<std::string>& actual,
                    const std::vector<std::string>& expected);
+
+/// How a window with this set selected brings itself up to date; see `steadyCallsOf`.
+std::vector<std::string> callsOfRefresh(std::int32_t selectedSet);
 
 /// What a wizard asks the agent when the user gives the code that was mailed.
 std::vector<std::string> callsForCode();
