@@ -101,8 +101,12 @@ function(tarn_test name)
     if(arg_QTEST)
         target_link_libraries(${name} PRIVATE Qt5::Test tarn_ui)
         target_precompile_headers(${name} REUSE_FROM tarn_ui)
-        add_test(NAME ${name} COMMAND ${name})
-        set(environment QT_QPA_PLATFORM=offscreen)
+        # Silent is all but the failures: what the offscreen platform says that it can't do would
+        # hide them.
+        add_test(NAME ${name} COMMAND ${name} -silent)
+        # A test that hangs shows where, before its time is over.
+        math(EXPR patience "${arg_TIMEOUT} * 1000 * 2 / 3")
+        set(environment QT_QPA_PLATFORM=offscreen QTEST_FUNCTION_TIMEOUT=${patience})
         if(TARN_SANITIZE MATCHES "address")
             # To find the callers beyond Qt too, which has no frame pointers, run the program with
             # ASAN_OPTIONS=fast_unwind_on_malloc=0: that takes eight times as long.
