@@ -101,6 +101,7 @@ function(tarn_test name)
     if(arg_QTEST)
         target_link_libraries(${name} PRIVATE Qt5::Test tarn_ui)
         target_precompile_headers(${name} REUSE_FROM tarn_ui)
+        set_target_properties(${name} PROPERTIES AUTOMOC ON)
         # Silent is all but the failures: what the offscreen platform says that it can't do would
         # hide them.
         add_test(NAME ${name} COMMAND ${name} -silent)

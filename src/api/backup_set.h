@@ -41,56 +41,42 @@ public:
     using SchedulePointer = boost::shared_ptr<Schedule>;
 
     /// One entry for each backup run of the set.
-    std::vector<backup_sessions> backup_times() {
-        return call<std::vector<backup_sessions>>("backup_times");
-    }
-    Parameters createDefaultBackupParameters() {
-        return call<Parameters>("createDefaultBackupParameters");
-    }
+    std::vector<backup_sessions> backup_times();
+    Parameters createDefaultBackupParameters();
     /// The browser for the set's own computer.
-    Browser dataBrowser() { return call<Browser>("dataBrowser"); }
-    std::string getComputerName() { return call<std::string>("getComputerName"); }
-    Credentials getCredentials() { return call<Credentials>("getCredentials"); }
-    backup_set_status getCurrentStatus() { return call<backup_set_status>("getCurrentStatus"); }
-    BackupDataType getDataType() { return call<BackupDataType>("getDataType"); }
-    std::int32_t getID() { return call<std::int32_t>("getID"); }
-    activity_log_info getLastActivityOfType(ActivityType type) {
-        return call<activity_log_info>("getLastActivityOfType", type);
-    }
-    std::string getLocalStoragePath() { return call<std::string>("getLocalStoragePath"); }
-    std::string getName() { return call<std::string>("getName"); }
-    backup_set_overview_info getOverview() { return call<backup_set_overview_info>("getOverview"); }
+    Browser dataBrowser();
+    std::string getComputerName();
+    Credentials getCredentials();
+    backup_set_status getCurrentStatus();
+    BackupDataType getDataType();
+    std::int32_t getID();
+    activity_log_info getLastActivityOfType(ActivityType type);
+    std::string getLocalStoragePath();
+    std::string getName();
+    backup_set_overview_info getOverview();
     /// Null if the set has none.
-    Rule getRetentionRule() { return call<Rule>("getRetentionRule"); }
+    Rule getRetentionRule();
     /// Null if the set has none.
-    SchedulePointer getSchedule() { return call<SchedulePointer>("getSchedule"); }
-    bool isUsingLocalStorage() { return call<bool>("isUsingLocalStorage"); }
-    bool isUsingLocalTransmissionCache() { return call<bool>("isUsingLocalTransmissionCache"); }
-    Items items() { return call<Items>("items"); }
+    SchedulePointer getSchedule();
+    bool isUsingLocalStorage();
+    bool isUsingLocalTransmissionCache();
+    Items items();
     DeleteView prepare_delete(std::int32_t from, std::int32_t to, std::int32_t removed_since,
-                              std::int32_t keep_last, std::int32_t mode) {
-        return call<DeleteView>("prepare_delete", from, to, removed_since, keep_last, mode);
-    }
-    RestoreView prepare_restore(std::int32_t from, std::int32_t to, std::int32_t removed_before) {
-        return call<RestoreView>("prepare_restore", from, to, removed_before);
-    }
-    void setActive(bool value) { call<void>("setActive", value); }
-    void setCredentials(const Credentials& value) { call<void>("setCredentials", value); }
-    void setItems(const Items& value) { call<void>("setItems", value); }
-    void setLocalStoragePath(const std::string& value) { call<void>("setLocalStoragePath", value); }
-    void setName(const std::string& value) { call<void>("setName", value); }
+                              std::int32_t keep_last, std::int32_t mode);
+    RestoreView prepare_restore(std::int32_t from, std::int32_t to, std::int32_t removed_before);
+    void setActive(bool value);
+    void setCredentials(const Credentials& value);
+    void setItems(const Items& value);
+    void setLocalStoragePath(const std::string& value);
+    void setName(const std::string& value);
     /// Null detaches the rule.
-    void setRetentionRule(const Rule& value) { call<void>("setRetentionRule", value); }
+    void setRetentionRule(const Rule& value);
     /// Null detaches the schedule.
-    void setSchedule(const SchedulePointer& value) { call<void>("setSchedule", value); }
-    void setUsingLocalStorage(bool value) { call<void>("setUsingLocalStorage", value); }
-    void setUsingLocalTransmissionCache(bool value) {
-        call<void>("setUsingLocalTransmissionCache", value);
-    }
-    Activity start_backup(const Items& items, const Parameters& parameters) {
-        return call<Activity>("start_backup", items, parameters);
-    }
-    Activity start_sync(bool recover) { return call<Activity>("start_sync", recover); }
+    void setSchedule(const SchedulePointer& value);
+    void setUsingLocalStorage(bool value);
+    void setUsingLocalTransmissionCache(bool value);
+    Activity start_backup(const Items& items, const Parameters& parameters);
+    Activity start_sync(bool recover);
 };
 
 /// A set of files on a Windows computer.
@@ -100,7 +86,7 @@ public:
     using BackupSet::BackupSet;
 
     /// Read files through volume shadow copies.
-    void setUseVSS(bool value) { call<void>("setUseVSS", value); }
+    void setUseVSS(bool value);
 };
 
 } // namespace hessiancln

@@ -29,10 +29,10 @@ public:
     using RemoteObject::RemoteObject;
 
     /// Tries to get access. Raises `invoke_exception` with the reason of a refusal.
-    void check(const std::string& computer) { call<void>("check", computer); }
+    void check(const std::string& computer);
     /// True if the agent's own account is used.
-    bool isUsingClientCredentials() { return call<bool>("isUsingClientCredentials"); }
-    void setUsingClientCredentials(bool value) { call<void>("setUsingClientCredentials", value); }
+    bool isUsingClientCredentials();
+    void setUsingClientCredentials(bool value);
 };
 
 /// A user of a Windows computer.
@@ -41,10 +41,8 @@ public:
     static constexpr std::string_view className = "Win32FS_Generic_BackupSetCredentials";
     using BackupSetCredentials::BackupSetCredentials;
 
-    std::string getUserName() { return call<std::string>("getUserName"); }
-    void setCredentials(const std::string& user, const std::string& password) {
-        call<void>("setCredentials", user, password);
-    }
+    std::string getUserName();
+    void setCredentials(const std::string& user, const std::string& password);
 };
 
 /// A user of a Unix computer.
@@ -53,10 +51,8 @@ public:
     static constexpr std::string_view className = "UnixFS_Generic_BackupSetCredentials";
     using BackupSetCredentials::BackupSetCredentials;
 
-    std::string getUserName() { return call<std::string>("getUserName"); }
-    void setCredentials(const std::string& user, const std::string& password) {
-        call<void>("setCredentials", user, password);
-    }
+    std::string getUserName();
+    void setCredentials(const std::string& user, const std::string& password);
 };
 
 /// A user who logs in to a Unix computer by SSH, and the user to become there.
@@ -67,21 +63,15 @@ public:
 
     /// Logs in by an identity file.
     void setCredentialsViaKeyFile(const std::string& user, const std::string& keyFile,
-                                  const std::string& passphrase) {
-        call<void>("setCredentialsViaKeyFile", user, keyFile, passphrase);
-    }
+                                  const std::string& passphrase);
     /// Empty if nobody is to become.
-    std::string getSudoUser() { return call<std::string>("getSudoUser"); }
+    std::string getSudoUser();
     /// Two empty texts switch it off.
-    void setSudoAs(const std::string& user, const std::string& password) {
-        call<void>("setSudoAs", user, password);
-    }
-    SSHAccessType getSSHAccessType() { return call<SSHAccessType>("getSSHAccessType"); }
+    void setSudoAs(const std::string& user, const std::string& password);
+    SSHAccessType getSSHAccessType();
     /// Path of the interpreter or script; may be empty.
-    std::string getSSHInterpreterPath() { return call<std::string>("getSSHInterpreterPath"); }
-    void setSSHAccessType(SSHAccessType type, const std::string& path) {
-        call<void>("setSSHAccessType", type, path);
-    }
+    std::string getSSHInterpreterPath();
+    void setSSHAccessType(SSHAccessType type, const std::string& path);
 };
 
 } // namespace hessiancln

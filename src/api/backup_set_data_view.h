@@ -17,13 +17,9 @@ public:
     using RemoteObject::RemoteObject;
 
     /// The children of an item; the top level for -1.
-    std::vector<SelectableItem> getSubItems(std::int64_t item) {
-        return call<std::vector<SelectableItem>>("getSubItems", item);
-    }
+    std::vector<SelectableItem> getSubItems(std::int64_t item);
     /// The stored versions of a file, in no order.
-    std::vector<file_generations> getItemGenerations(std::int64_t item) {
-        return call<std::vector<file_generations>>("getItemGenerations", item);
-    }
+    std::vector<file_generations> getItemGenerations(std::int64_t item);
 };
 
 } // namespace hessiancln

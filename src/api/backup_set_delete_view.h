@@ -18,9 +18,7 @@ public:
     using BackupSetDataView::BackupSetDataView;
 
     boost::shared_ptr<DeleteActivityInitiator>
-    prepareDelete(const std::vector<std::int64_t>& items) {
-        return call<boost::shared_ptr<DeleteActivityInitiator>>("prepareDelete", items);
-    }
+    prepareDelete(const std::vector<std::int64_t>& items);
 };
 
 } // namespace hessiancln

@@ -27,8 +27,8 @@ public:
     using RemoteObject::RemoteObject;
 
     /// The path that the item is about.
-    std::string getFolder() { return call<std::string>("getFolder"); }
-    BackupSetItemType getType() { return call<BackupSetItemType>("getType"); }
+    std::string getFolder();
+    BackupSetItemType getType();
 };
 
 /// Includes a path with all below it.
@@ -51,13 +51,13 @@ public:
     static constexpr std::string_view className = "BackupSetRegexExclusion";
     using BackupSetItem::BackupSetItem;
 
-    std::string getExpression() { return call<std::string>("getExpression"); }
+    std::string getExpression();
     /// True if the expression selects files, false if it rejects them.
-    bool getInclusion() { return call<bool>("getInclusion"); }
-    void setInclusion(bool value) { call<void>("setInclusion", value); }
-    void setNegate(bool value) { call<void>("setNegate", value); }
-    void setCaseSensitive(bool value) { call<void>("setCaseSensitive", value); }
-    void setMatchDirectories(bool value) { call<void>("setMatchDirectories", value); }
+    bool getInclusion();
+    void setInclusion(bool value);
+    void setNegate(bool value);
+    void setCaseSensitive(bool value);
+    void setMatchDirectories(bool value);
 };
 
 } // namespace hessiancln

@@ -18,9 +18,7 @@ public:
     using BackupSetDataView::BackupSetDataView;
 
     boost::shared_ptr<RestoreActivityInitiator>
-    prepareRestore(const std::vector<std::int64_t>& items) {
-        return call<boost::shared_ptr<RestoreActivityInitiator>>("prepareRestore", items);
-    }
+    prepareRestore(const std::vector<std::int64_t>& items);
 };
 
 } // namespace hessiancln

@@ -14,10 +14,10 @@ public:
     static constexpr std::string_view family = "BackupStartParameters";
     using RemoteObject::RemoteObject;
 
-    void setDoRetentionAfter(bool value) { call<void>("setDoRetentionAfter", value); }
+    void setDoRetentionAfter(bool value);
 
     /// Scan the source before the backup begins.
-    void setPreScanSource(bool value) { call<void>("setPreScanSource", value); }
+    void setPreScanSource(bool value);
 };
 
 } // namespace hessiancln

@@ -23,42 +23,32 @@ public:
     using Activity = boost::shared_ptr<GenericActivity>;
     using UserInfo = boost::shared_ptr<UserInfoConfiguration>;
 
-    ad_user_info getADUserInfo() { return call<ad_user_info>("getADUserInfo"); }
-    std::string getAccountNumber() { return call<std::string>("getAccountNumber"); }
-    std::int32_t getAdvancedConfigNumber(const std::string& key) {
-        return call<std::int32_t>("getAdvancedConfigNumber", key);
-    }
-    std::string getClientNumber() { return call<std::string>("getClientNumber"); }
-    ClientOSType getClientOSType() { return call<ClientOSType>("getClientOSType"); }
-    std::string getCustomerName() { return call<std::string>("getCustomerName"); }
-    tarnc_reg_info getTarnCRegistrationInfo() {
-        return call<tarnc_reg_info>("getTarnCRegistrationInfo");
-    }
-    time_in_day getDailyAdminRunTime() { return call<time_in_day>("getDailyAdminRunTime"); }
+    ad_user_info getADUserInfo();
+    std::string getAccountNumber();
+    std::int32_t getAdvancedConfigNumber(const std::string& key);
+    std::string getClientNumber();
+    ClientOSType getClientOSType();
+    std::string getCustomerName();
+    tarnc_reg_info getTarnCRegistrationInfo();
+    time_in_day getDailyAdminRunTime();
     /// Null if the agent keeps no such thing.
-    UserInfo getUserInfoConfiguration() { return call<UserInfo>("getUserInfoConfiguration"); }
-    DayOfWeekCode getWeeklyAdminRunDay() { return call<DayOfWeekCode>("getWeeklyAdminRunDay"); }
-    time_in_day getWeeklyAdminRunTime() { return call<time_in_day>("getWeeklyAdminRunTime"); }
+    UserInfo getUserInfoConfiguration();
+    DayOfWeekCode getWeeklyAdminRunDay();
+    time_in_day getWeeklyAdminRunTime();
     /// Registers with the storage server for the first time.
-    void init_register() { call<void>("init_register"); }
-    bool isTarnToolEnabled(std::int32_t tool) { return call<bool>("isTarnToolEnabled", tool); }
+    void init_register();
+    bool isTarnToolEnabled(std::int32_t tool);
     /// Registers with the storage server again.
-    void re_register() { call<void>("re_register"); }
-    void setADUserInfo(const ad_user_info& info) { call<void>("setADUserInfo", info); }
-    void setAdvancedConfigNumber(const std::string& key, std::int32_t value) {
-        call<void>("setAdvancedConfigNumber", key, value);
-    }
-    void setTarnCRegistrationInfo(const tarnc_reg_info& info) {
-        call<void>("setTarnCRegistrationInfo", info);
-    }
-    void setDailyAdminRunTime(const time_in_day& time) { call<void>("setDailyAdminRunTime", time); }
-    void setWeeklyAdminRunTime(DayOfWeekCode day, const time_in_day& time) {
-        call<void>("setWeeklyAdminRunTime", day, time);
-    }
+    void re_register();
+    void setADUserInfo(const ad_user_info& info);
+    void setAdvancedConfigNumber(const std::string& key, std::int32_t value);
+    void setTarnCRegistrationInfo(const tarnc_reg_info& info);
+    void setDailyAdminRunTime(const time_in_day& time);
+    void setWeeklyAdminRunTime(DayOfWeekCode day, const time_in_day& time);
     /// Runs the daily admin process now.
-    Activity start_daily_admin() { return call<Activity>("start_daily_admin"); }
+    Activity start_daily_admin();
     /// Runs the weekly admin process now.
-    Activity start_weekly_admin() { return call<Activity>("start_weekly_admin"); }
+    Activity start_weekly_admin();
 };
 
 } // namespace hessiancln

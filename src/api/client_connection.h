@@ -38,70 +38,41 @@ public:
     using Activity = boost::shared_ptr<GenericActivity>;
 
     /// The kind of agent, as the number that it sends.
-    std::int32_t getTarnClientType() { return call<std::int32_t>("getTarnClientType"); }
-    std::vector<std::string> getAvailableDomains() {
-        return call<std::vector<std::string>>("getAvailableDomains");
-    }
+    std::int32_t getTarnClientType();
+    std::vector<std::string> getAvailableDomains();
 
     /// Starts a session. `flag` is 1 if a password was typed, 0 otherwise.
     boost::shared_ptr<ClientConnection> login(const std::string& url, const std::string& version,
                                               const std::string& user, const std::string& password,
-                                              std::int32_t flag) {
-        return call<boost::shared_ptr<ClientConnection>>("login", url, version, user, password,
-                                                         flag);
-    }
+                                              std::int32_t flag);
     /// One step of integrated logon.
     sspi_login_info sspi_login(const std::string& url, const std::string& version,
-                               const hessianser::Binary& token) {
-        return call<sspi_login_info>("sspi_login", url, version, token);
-    }
+                               const hessianser::Binary& token);
     /// Ends the session.
-    void logout() { call<void>("logout"); }
+    void logout();
 
-    std::vector<tarn_client_info> getTarnClientInfo() {
-        return call<std::vector<tarn_client_info>>("getTarnClientInfo");
-    }
+    std::vector<tarn_client_info> getTarnClientInfo();
 
-    std::vector<backup_set_info> backup_sets_info() {
-        return call<std::vector<backup_set_info>>("backup_sets_info");
-    }
-    Set backup_set(std::int32_t id) { return call<Set>("backup_set", id); }
+    std::vector<backup_set_info> backup_sets_info();
+    Set backup_set(std::int32_t id);
     /// Puts a set that was made by a browser among the agent's sets.
-    void addBackupSet(const Set& set) { call<void>("addBackupSet", set); }
+    void addBackupSet(const Set& set);
     /// Deletes the set; the activity reports it.
-    Activity removeBackupSet(const Set& set) { return call<Activity>("removeBackupSet", set); }
+    Activity removeBackupSet(const Set& set);
 
-    std::vector<running_activity_info> running_activities() {
-        return call<std::vector<running_activity_info>>("running_activities");
-    }
-    Activity activity(std::int32_t id) { return call<Activity>("activity", id); }
-    std::vector<activity_log_info> activity_log(std::int32_t from, std::int32_t to) {
-        return call<std::vector<activity_log_info>>("activity_log", from, to);
-    }
+    std::vector<running_activity_info> running_activities();
+    Activity activity(std::int32_t id);
+    std::vector<activity_log_info> activity_log(std::int32_t from, std::int32_t to);
     /// The events of a time span, or with both times 0 those of one activity.
     std::vector<event_log_info> event_log(std::int32_t from, std::int32_t to,
-                                          std::int32_t activity_id) {
-        return call<std::vector<event_log_info>>("event_log", from, to, activity_id);
-    }
+                                          std::int32_t activity_id);
 
-    boost::shared_ptr<DataSourceBrowser> createBrowser(std::int32_t kind) {
-        return call<boost::shared_ptr<DataSourceBrowser>>("createBrowser", kind);
-    }
-    boost::shared_ptr<ScheduleManager> getScheduleManager() {
-        return call<boost::shared_ptr<ScheduleManager>>("getScheduleManager");
-    }
-    boost::shared_ptr<RetentionRuleManager> getRetentionRuleManager() {
-        return call<boost::shared_ptr<RetentionRuleManager>>("getRetentionRuleManager");
-    }
-    boost::shared_ptr<ClientConfiguration> getConfigurationManager() {
-        return call<boost::shared_ptr<ClientConfiguration>>("getConfigurationManager");
-    }
-    boost::shared_ptr<TFAManager> getTFAManager() {
-        return call<boost::shared_ptr<TFAManager>>("getTFAManager");
-    }
-    boost::shared_ptr<SystemActivityManager> getSystemActivityManager() {
-        return call<boost::shared_ptr<SystemActivityManager>>("getSystemActivityManager");
-    }
+    boost::shared_ptr<DataSourceBrowser> createBrowser(std::int32_t kind);
+    boost::shared_ptr<ScheduleManager> getScheduleManager();
+    boost::shared_ptr<RetentionRuleManager> getRetentionRuleManager();
+    boost::shared_ptr<ClientConfiguration> getConfigurationManager();
+    boost::shared_ptr<TFAManager> getTFAManager();
+    boost::shared_ptr<SystemActivityManager> getSystemActivityManager();
 };
 
 } // namespace hessiancln

@@ -20,9 +20,7 @@ public:
 
     /// A set for the computer. It is none of the agent's sets before
     /// `ClientConnection::addBackupSet`.
-    boost::shared_ptr<BackupSet> createBackupSet(const std::string& computer) {
-        return call<boost::shared_ptr<BackupSet>>("createBackupSet", computer);
-    }
+    boost::shared_ptr<BackupSet> createBackupSet(const std::string& computer);
 };
 
 } // namespace hessiancln

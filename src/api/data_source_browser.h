@@ -27,43 +27,24 @@ public:
     using Inclusion = boost::shared_ptr<BackupSetInclusionItem>;
     using RegexExclusion = boost::shared_ptr<BackupSetRegexExclusion>;
 
-    Exclusion createExclusionItem(const std::string& computer, const std::string& path) {
-        return call<Exclusion>("createExclusionItem", computer, path);
-    }
+    Exclusion createExclusionItem(const std::string& computer, const std::string& path);
     /// `generations`: how many of them are kept of each file.
     Inclusion createInclusionItem(const std::string& computer, const std::string& path,
-                                  std::int32_t generations) {
-        return call<Inclusion>("createInclusionItem", computer, path, generations);
-    }
+                                  std::int32_t generations);
     RegexExclusion createRegexExclusion(const std::string& computer, const std::string& path,
-                                        const std::string& expression) {
-        return call<RegexExclusion>("createRegexExclusion", computer, path, expression);
-    }
+                                        const std::string& expression);
     /// The agent's full name of the source that somebody typed.
-    std::string expandToFullPath(const std::string& name) {
-        return call<std::string>("expandToFullPath", name);
-    }
-    Credentials getCurrentCredentials() { return call<Credentials>("getCurrentCredentials"); }
+    std::string expandToFullPath(const std::string& name);
+    Credentials getCurrentCredentials();
     /// To be repeated after each change of the object.
-    void setCurrentCredentials(const Credentials& value) {
-        call<void>("setCurrentCredentials", value);
-    }
-    std::vector<PreDefinedBrowseItem> getPredefinedItems(const std::string& computer) {
-        return call<std::vector<PreDefinedBrowseItem>>("getPredefinedItems", computer);
-    }
+    void setCurrentCredentials(const Credentials& value);
+    std::vector<PreDefinedBrowseItem> getPredefinedItems(const std::string& computer);
     /// The children of a path; the top level if it is empty.
-    std::vector<browse_item_info> getSubItems(const std::string& computer,
-                                              const std::string& path) {
-        return call<std::vector<browse_item_info>>("getSubItems", computer, path);
-    }
+    std::vector<browse_item_info> getSubItems(const std::string& computer, const std::string& path);
     /// Fresh credentials of the class that the computer needs.
-    Credentials neededCredentials(const std::string& computer) {
-        return call<Credentials>("neededCredentials", computer);
-    }
+    Credentials neededCredentials(const std::string& computer);
     /// The children of a node of the network; the top level if `path` is empty.
-    std::vector<net_item_info> networkDiscovery(const std::string& path) {
-        return call<std::vector<net_item_info>>("networkDiscovery", path);
-    }
+    std::vector<net_item_info> networkDiscovery(const std::string& path);
 };
 
 } // namespace hessiancln

@@ -14,9 +14,7 @@ class DeleteActivityInitiator : public RemoteObject {
 public:
     using RemoteObject::RemoteObject;
 
-    boost::shared_ptr<GenericActivity> start() {
-        return call<boost::shared_ptr<GenericActivity>>("start");
-    }
+    boost::shared_ptr<GenericActivity> start();
 };
 
 } // namespace hessiancln

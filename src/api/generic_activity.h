@@ -14,8 +14,8 @@ public:
     using RemoteObject::RemoteObject;
 
     /// Asks the agent to stop it, and doesn't wait until it has.
-    void Stop() { call<void>("Stop"); }
-    std::int32_t getID() { return call<std::int32_t>("getID"); }
+    void Stop();
+    std::int32_t getID();
 };
 
 } // namespace hessiancln

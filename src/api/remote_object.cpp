@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "api/auto_releaser.h"
+#include "api/remote_call.h"
 #include "transport/i_call_dispatcher.h"
 #include "transport/invoke_exception.h"
 #include "transport/transport_mode.h"

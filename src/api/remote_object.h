@@ -13,8 +13,7 @@
 #include <boost/make_shared.hpp>
 #include <boost/shared_ptr.hpp>
 
-#include "api/bind_proxies.h"
-#include "hessian/value.h"
+#include "hessian/kinds.h"
 
 namespace hessiancln {
 
@@ -23,16 +22,25 @@ class ICallDispatcher;
 
 /// The near end of an object that lives on the agent, known by its URL and by nothing else.
 ///
-/// A proxy class derives from it, adds one method of one line for each remote method, and no data:
+/// A proxy class derives from it, adds one method for each remote method, and no data:
 ///
 ///     class BackupSet : public RemoteObject {
 ///     public:
 ///         static constexpr std::string_view family = "BackupSet";
 ///         using RemoteObject::RemoteObject;
 ///
-///         std::int32_t getID() { return call<std::int32_t>("getID"); }
-///         void setActive(bool value) { call<void>("setActive", value); }
+///         std::int32_t getID();
+///         void setActive(bool value);
 ///     };
+///
+/// The methods are one line each, which needs "api/remote_call.h":
+///
+///     std::int32_t BackupSet::getID() {
+///         return call<std::int32_t>("getID");
+///     }
+///     void BackupSet::setActive(bool value) {
+///         call<void>("setActive", value);
+///     }
 ///
 /// `family` is its name on the wire where it is an argument; a class without one is never passed.
 /// A class that is reached by a cast derives from the family's root and adds its own name as
@@ -95,38 +103,6 @@ private:
 
 template <class T>
 concept ProxyClass = std::derived_from<T, RemoteObject>;
-
-namespace detail {
-
-/// An empty request with the head of the call in it and room for the whole of it.
-std::string startRequest(std::string_view method, std::uint32_t sizeOfArguments);
-
-/// Reads up to where the result begins. Raises `invoke_exception` if the reply is a fault.
-void readReplyHead(hessianser::Cursor& in);
-
-/// Reads the rest of a reply that has no result.
-void readEmptyReply(hessianser::Cursor& in);
-
-} // namespace detail
-
-template <class Result, hessianser::Value... Arguments>
-Result RemoteObject::call(std::string_view method, const Arguments&... arguments) {
-    std::string request =
-        detail::startRequest(method, (hessianser::sizeOfValue(arguments) + ... + 0u));
-    (hessianser::writeValue(arguments, request), ...);
-    const std::string response = sendFinished(request);
-
-    hessianser::Cursor in(response);
-    detail::readReplyHead(in);
-    if constexpr (std::is_void_v<Result>) {
-        detail::readEmptyReply(in);
-    } else {
-        auto result = hessianser::readValue<Result>(in);
-        hessianser::readEnd(in);
-        bindProxies(result, dispatcher_);
-        return result;
-    }
-}
 
 } // namespace hessiancln
 

@@ -24,17 +24,13 @@ public:
     using Activity = boost::shared_ptr<GenericActivity>;
 
     /// The shares that have to be mapped if the items don't go to where they came from.
-    std::vector<hessiancln::selected_shares> selected_shares() {
-        return call<std::vector<hessiancln::selected_shares>>("selected_shares");
-    }
-    void setRestoreReason(std::int32_t code) { call<void>("setRestoreReason", code); }
+    std::vector<hessiancln::selected_shares> selected_shares();
+    void setRestoreReason(std::int32_t code);
     /// `browser` and `computer` say where the items go, and `browser` may be null. The list is
     /// empty, and the level 0, if they go to where they came from; with several mappings each level
     /// is 0.
     Activity start(const Browser& browser, const std::string& computer,
-                   const std::vector<share_mapping>& mappings, std::int32_t truncateLevel) {
-        return call<Activity>("start", browser, computer, mappings, truncateLevel);
-    }
+                   const std::vector<share_mapping>& mappings, std::int32_t truncateLevel);
 };
 
 } // namespace hessiancln

@@ -20,13 +20,11 @@ public:
     using Rule = boost::shared_ptr<RetentionRule>;
     using IntervalOption = boost::shared_ptr<IntervalTimeRetentionOption>;
 
-    std::vector<Rule> definedRules() { return call<std::vector<Rule>>("definedRules"); }
-    Rule createRule() { return call<Rule>("createRule"); }
-    void removeRule(const Rule& rule) { call<void>("removeRule", rule); }
+    std::vector<Rule> definedRules();
+    Rule createRule();
+    void removeRule(const Rule& rule);
     /// An option that no rule has yet.
-    IntervalOption createIntervalTimeRetention() {
-        return call<IntervalOption>("createIntervalTimeRetention");
-    }
+    IntervalOption createIntervalTimeRetention();
 };
 
 } // namespace hessiancln

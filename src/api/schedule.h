@@ -22,15 +22,15 @@ public:
 
     using Detail = boost::shared_ptr<ScheduleDetail>;
 
-    std::string getName() { return call<std::string>("getName"); }
-    void setName(const std::string& name) { call<void>("setName", name); }
-    std::vector<Detail> getDetails() { return call<std::vector<Detail>>("getDetails"); }
-    void addDetail(const Detail& detail) { call<void>("addDetail", detail); }
-    void removeDetail(const Detail& detail) { call<void>("removeDetail", detail); }
+    std::string getName();
+    void setName(const std::string& name);
+    std::vector<Detail> getDetails();
+    void addDetail(const Detail& detail);
+    void removeDetail(const Detail& detail);
     /// Runs only while the network connection is up.
-    bool isUsingNetworkDetection() { return call<bool>("isUsingNetworkDetection"); }
-    void setUsingNetworkDetection(bool value) { call<void>("setUsingNetworkDetection", value); }
-    void setBackupCPUThrottle(std::int32_t percent) { call<void>("setBackupCPUThrottle", percent); }
+    bool isUsingNetworkDetection();
+    void setUsingNetworkDetection(bool value);
+    void setBackupCPUThrottle(std::int32_t percent);
 };
 
 } // namespace hessiancln

@@ -30,20 +30,20 @@ public:
     static constexpr std::string_view family = "ScheduleDetail";
     using RemoteObject::RemoteObject;
 
-    ScheduleDetailType getType() { return call<ScheduleDetailType>("getType"); }
-    time_in_day getStartTime() { return call<time_in_day>("getStartTime"); }
-    void setStartTime(const time_in_day& time) { call<void>("setStartTime", time); }
-    bool hasEndTime() { return call<bool>("hasEndTime"); }
+    ScheduleDetailType getType();
+    time_in_day getStartTime();
+    void setStartTime(const time_in_day& time);
+    bool hasEndTime();
     /// Counted from the day of the start, so that its hour may be above 23.
-    time_in_day getEndTime() { return call<time_in_day>("getEndTime"); }
-    void setEndTime(const time_in_day& time) { call<void>("setEndTime", time); }
-    void setNoEndTime() { call<void>("setNoEndTime"); }
+    time_in_day getEndTime();
+    void setEndTime(const time_in_day& time);
+    void setNoEndTime();
     /// In hours; 0 for once a day.
-    std::int32_t getHourlyFrequency() { return call<std::int32_t>("getHourlyFrequency"); }
-    void setHourlyFrequency(std::int32_t hours) { call<void>("setHourlyFrequency", hours); }
+    std::int32_t getHourlyFrequency();
+    void setHourlyFrequency(std::int32_t hours);
     /// Task bits.
-    std::int32_t getTasks() { return call<std::int32_t>("getTasks"); }
-    void setTasks(std::int32_t mask) { call<void>("setTasks", mask); }
+    std::int32_t getTasks();
+    void setTasks(std::int32_t mask);
 };
 
 /// Runs on given days of the week.
@@ -53,8 +53,8 @@ public:
     using ScheduleDetail::ScheduleDetail;
 
     /// Day bits.
-    std::int32_t getScheduleDays() { return call<std::int32_t>("getScheduleDays"); }
-    void setScheduleDays(std::int32_t mask) { call<void>("setScheduleDays", mask); }
+    std::int32_t getScheduleDays();
+    void setScheduleDays(std::int32_t mask);
 };
 
 /// Runs on one day of the month.
@@ -63,8 +63,8 @@ public:
     static constexpr std::string_view className = "MonthlyScheduleDetail";
     using ScheduleDetail::ScheduleDetail;
 
-    std::int32_t getScheduleDay() { return call<std::int32_t>("getScheduleDay"); }
-    void setScheduleDay(std::int32_t day) { call<void>("setScheduleDay", day); }
+    std::int32_t getScheduleDay();
+    void setScheduleDay(std::int32_t day);
 };
 
 } // namespace hessiancln

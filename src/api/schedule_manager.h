@@ -21,15 +21,13 @@ public:
     using WeeklyDetail = boost::shared_ptr<WeeklyScheduleDetail>;
     using MonthlyDetail = boost::shared_ptr<MonthlyScheduleDetail>;
 
-    std::vector<SchedulePointer> definedSchedules() {
-        return call<std::vector<SchedulePointer>>("definedSchedules");
-    }
-    SchedulePointer createSchedule() { return call<SchedulePointer>("createSchedule"); }
-    void removeSchedule(const SchedulePointer& schedule) { call<void>("removeSchedule", schedule); }
+    std::vector<SchedulePointer> definedSchedules();
+    SchedulePointer createSchedule();
+    void removeSchedule(const SchedulePointer& schedule);
     /// A detail that no schedule has yet.
-    WeeklyDetail createWeeklyDetail() { return call<WeeklyDetail>("createWeeklyDetail"); }
+    WeeklyDetail createWeeklyDetail();
     /// A detail that no schedule has yet.
-    MonthlyDetail createMonthlyDetail() { return call<MonthlyDetail>("createMonthlyDetail"); }
+    MonthlyDetail createMonthlyDetail();
 };
 
 } // namespace hessiancln

@@ -21,16 +21,10 @@ public:
     using Activity = boost::shared_ptr<GenericActivity>;
     using Orphan = boost::shared_ptr<OrphanedBackupSet>;
 
-    std::vector<Orphan> getOrphanedbackupSets() {
-        return call<std::vector<Orphan>>("getOrphanedbackupSets");
-    }
-    Activity recover_tarnclient_database(std::int32_t mode) {
-        return call<Activity>("recover_tarnclient_database", mode);
-    }
+    std::vector<Orphan> getOrphanedbackupSets();
+    Activity recover_tarnclient_database(std::int32_t mode);
     /// The id of the set that takes its place.
-    std::int32_t recover_orphaned_backup_set(const Orphan& orphan) {
-        return call<std::int32_t>("recover_orphaned_backup_set", orphan);
-    }
+    std::int32_t recover_orphaned_backup_set(const Orphan& orphan);
 };
 
 } // namespace hessiancln

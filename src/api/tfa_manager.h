@@ -17,20 +17,14 @@ class TFAManager : public RemoteObject {
 public:
     using RemoteObject::RemoteObject;
 
-    std::vector<user_email> getUserEmails() {
-        return call<std::vector<user_email>>("getUserEmails");
-    }
-    bool is2FAEnabled() { return call<bool>("is2FAEnabled"); }
+    std::vector<user_email> getUserEmails();
+    bool is2FAEnabled();
     /// Has a code sent by mail. The address that it went to.
-    std::string requestCode(std::int32_t mode) { return call<std::string>("requestCode", mode); }
+    std::string requestCode(std::int32_t mode);
     /// Replaces the whole list.
-    void setUserEmails(const std::vector<user_email>& emails) {
-        call<void>("setUserEmails", emails);
-    }
+    void setUserEmails(const std::vector<user_email>& emails);
     /// Raises `invoke_exception` if the code is wrong.
-    void validateCode(const std::string& code, std::int32_t mode) {
-        call<void>("validateCode", code, mode);
-    }
+    void validateCode(const std::string& code, std::int32_t mode);
 };
 
 } // namespace hessiancln

@@ -15,8 +15,8 @@ public:
     static constexpr std::string_view family = "TimeRetentionOption";
     using RemoteObject::RemoteObject;
 
-    retention_time_span getValidFor() { return call<retention_time_span>("getValidFor"); }
-    void setValidFor(const retention_time_span& span) { call<void>("setValidFor", span); }
+    retention_time_span getValidFor();
+    void setValidFor(const retention_time_span& span);
 };
 
 /// Keeps one generation for each repeat time.
@@ -25,7 +25,7 @@ public:
     static constexpr std::string_view className = "IntervalTimeRetentionOption";
     using TimeRetentionOption::TimeRetentionOption;
 
-    void setRepeatTime(const retention_time_span& span) { call<void>("setRepeatTime", span); }
+    void setRepeatTime(const retention_time_span& span);
 };
 
 } // namespace hessiancln

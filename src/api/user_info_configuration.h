@@ -12,8 +12,8 @@ class UserInfoConfiguration : public RemoteObject {
 public:
     using RemoteObject::RemoteObject;
 
-    user_info getUserInfo() { return call<user_info>("getUserInfo"); }
-    void setUserInfo(const user_info& info) { call<void>("setUserInfo", info); }
+    user_info getUserInfo();
+    void setUserInfo(const user_info& info);
 };
 
 } // namespace hessiancln

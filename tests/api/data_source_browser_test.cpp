@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "api/data_browser_with_set_creation.h"
 
+#include "hessian/serialize_exception.h"
 #include "tests/api/golden_data_records.h"
 #include "tests/api/received.h"
 

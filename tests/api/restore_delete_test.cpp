@@ -3,6 +3,7 @@
 #include "api/backup_set_delete_view.h"
 #include "api/backup_set_restore_view.h"
 #include "api/data_browser_with_set_creation.h"
+#include "hessian/serialize_exception.h"
 #include "tests/api/golden_data_records.h"
 #include "tests/api/received.h"
 

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+// The body of `RemoteObject::call`, for the sources of the proxy classes. It stands apart from the
+// class since it brings the whole codec, which is much to compile.
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <type_traits>
+
+#include "api/bind_proxies.h"
+#include "api/remote_object.h"
+#include "hessian/value.h"
+
+namespace hessiancln {
+
+namespace detail {
+
+/// An empty request with the head of the call in it and room for the whole of it.
+std::string startRequest(std::string_view method, std::uint32_t sizeOfArguments);
+
+/// Reads up to where the result begins. Raises `invoke_exception` if the reply is a fault.
+void readReplyHead(hessianser::Cursor& in);
+
+/// Reads the rest of a reply that has no result.
+void readEmptyReply(hessianser::Cursor& in);
+
+} // namespace detail
+
+template <class Result, hessianser::Value... Arguments>
+Result RemoteObject::call(std::string_view method, const Arguments&... arguments) {
+    std::string request =
+        detail::startRequest(method, (hessianser::sizeOfValue(arguments) + ... + 0u));
+    (hessianser::writeValue(arguments, request), ...);
+    const std::string response = sendFinished(request);
+
+    hessianser::Cursor in(response);
+    detail::readReplyHead(in);
+    if constexpr (std::is_void_v<Result>) {
+        detail::readEmptyReply(in);
+    } else {
+        auto result = hessianser::readValue<Result>(in);
+        hessianser::readEnd(in);
+        bindProxies(result, dispatcher_);
+        return result;
+    }
+}
+
+} // namespace hessiancln
