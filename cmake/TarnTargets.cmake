@@ -87,6 +87,18 @@ function(_tarn_label name labels)
     set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES ${script})
 endfunction()
 
+# What Qt's code generator makes of the <topic>_test.cpp of a QTest program, as <topic>_test.moc.
+# AUTOMOC would read all the headers of each program before.
+function(_tarn_moc name)
+    foreach(source IN LISTS ARGN)
+        if(source MATCHES "^(.*_test)[.]cpp$")
+            qt5_generate_moc(${source} ${CMAKE_CURRENT_BINARY_DIR}/${CMAKE_MATCH_1}.moc TARGET ${name})
+            target_sources(${name} PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/${CMAKE_MATCH_1}.moc)
+        endif()
+    endforeach()
+    target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_BINARY_DIR})
+endfunction()
+
 # tarn_test(<name> LABELS <labels> TIMEOUT <seconds> SOURCES <files> [LINK <libraries>])
 #
 # LABELS are of unit, wire, gui, slow. With the word QTEST the program is one QTest class and
@@ -101,7 +113,7 @@ function(tarn_test name)
     if(arg_QTEST)
         target_link_libraries(${name} PRIVATE Qt5::Test tarn_ui)
         target_precompile_headers(${name} REUSE_FROM tarn_ui)
-        set_target_properties(${name} PROPERTIES AUTOMOC ON)
+        _tarn_moc(${name} ${arg_SOURCES})
         # Silent is all but the failures: what the offscreen platform says that it can't do would
         # hide them.
         add_test(NAME ${name} COMMAND ${name} -silent)

@@ -7,6 +7,7 @@
 #include <QMenu>
 
 #include <boost/date_time/posix_time/posix_time_types.hpp>
+#include <boost/thread/thread.hpp>
 
 #include "app/activity_balloon.h"
 #include "app/open_backup_set.h"

@@ -13,6 +13,8 @@
 #include <QMenu>
 #include <QScreen>
 
+#include <boost/thread/thread.hpp>
+
 #include "app/activity_progress_item_delegate.h"
 #include "ui/branding_resources.h"
 #include "ui/fitting_text_delegate.h"
@@ -67,15 +69,15 @@ SimpleGUIMainWindow::SimpleGUIMainWindow(QWidget* parent, std::unique_ptr<app::T
     setUpBackupSetsView();
     setUpGeometry();
     updateEnabling();
-    watcher_ = boost::thread(&SimpleGUIMainWindow::activityWatcherLoop, this);
+    watcher_ = std::make_unique<boost::thread>(&SimpleGUIMainWindow::activityWatcherLoop, this);
     ui_->backupSetsView->installEventFilter(this);
     setUpTray();
 }
 
 SimpleGUIMainWindow::~SimpleGUIMainWindow() {
     stopWatcher_ = true;
-    watcher_.interrupt();
-    watcher_.join();
+    watcher_->interrupt();
+    watcher_->join();
     abandonEditing();
 }
 

@@ -9,7 +9,7 @@
 #include <QMainWindow>
 #include <QStringListModel>
 
-#include <boost/thread/thread.hpp>
+#include <boost/shared_ptr.hpp>
 
 #include "app/activity_log_model.h"
 #include "app/running_activities_model.h"
@@ -24,6 +24,10 @@ class SimpleGUIMainWindow;
 
 namespace app {
 struct SetDetails;
+}
+
+namespace boost {
+class thread;
 }
 
 namespace hessiancln {
@@ -166,5 +170,5 @@ private:
     bool showTrayReminder_ = true;
 
     std::atomic<bool> stopWatcher_ = false;
-    boost::thread watcher_;
+    std::unique_ptr<boost::thread> watcher_;
 };
