@@ -62,9 +62,9 @@ struct running_activity_info {
     bool finished = false;
 
     static constexpr std::string_view wireType = "com.norvel.api.running_activity_info";
+    template <class R = running_activity_info>
     static constexpr auto fields() {
         using hessianser::field;
-        using R = running_activity_info;
         return hessianser::fields(
             field("activity_id", &R::activity_id), field("type", &R::type),
             field("description", &R::description), field("user", &R::user),
@@ -96,9 +96,9 @@ struct activity_log_info {
     std::int64_t net_transmit_amt = 0;
 
     static constexpr std::string_view wireType = "com.norvel.api.activity_log_info";
+    template <class R = activity_log_info>
     static constexpr auto fields() {
         using hessianser::field;
-        using R = activity_log_info;
         return hessianser::fields(
             field("id", &R::id), field("type", &R::type), field("start_time", &R::start_time),
             field("end_time", &R::end_time), field("completion", &R::completion),

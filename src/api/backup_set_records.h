@@ -73,9 +73,9 @@ struct backup_set_info {
     std::int32_t local_storage_file_count = 0;
 
     static constexpr std::string_view wireType = "com.norvel.api.backup_set_info";
+    template <class R = backup_set_info>
     static constexpr auto fields() {
         using hessianser::field;
-        using R = backup_set_info;
         return hessianser::fields(
             field("id", &R::id), field("computer", &R::computer), field("name", &R::name),
             field("data_type", &R::data_type), field("set_type", &R::set_type),
@@ -110,9 +110,9 @@ struct backup_set_status {
     std::int64_t tarnsystem_compressed_size = 0; ///< what the storage server holds
 
     static constexpr std::string_view wireType = "com.norvel.api.backup_set_status";
+    template <class R = backup_set_status>
     static constexpr auto fields() {
         using hessianser::field;
-        using R = backup_set_status;
         return hessianser::fields(
             field("last_sync_time", &R::last_sync_time),
             field("last_successful_backup", &R::last_successful_backup),
@@ -137,9 +137,9 @@ struct backup_set_overview_info {
     ScheduleDetailType schedule_type{};
 
     static constexpr std::string_view wireType = "com.norvel.api.backup_set_overview_info";
+    template <class R = backup_set_overview_info>
     static constexpr auto fields() {
         using hessianser::field;
-        using R = backup_set_overview_info;
         return hessianser::fields(field("data_type", &R::data_type), field("status", &R::status),
                                   field("min_gen", &R::min_gen), field("max_gen", &R::max_gen),
                                   field("retention_rule_id", &R::retention_rule_id),
@@ -159,9 +159,9 @@ struct backup_sessions {
     std::int32_t activity_id = 0;
 
     static constexpr std::string_view wireType = "com.norvel.api.backup_sessions";
+    template <class R = backup_sessions>
     static constexpr auto fields() {
         using hessianser::field;
-        using R = backup_sessions;
         return hessianser::fields(field("start_time", &R::start_time),
                                   field("end_time", &R::end_time), field("files", &R::files),
                                   field("size", &R::size), field("activity_id", &R::activity_id));

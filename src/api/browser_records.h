@@ -29,9 +29,9 @@ struct browse_item_info {
     std::int64_t datasize = 0; ///< in bytes
 
     static constexpr std::string_view wireType = "com.norvel.api.browse_item_info";
+    template <class R = browse_item_info>
     static constexpr auto fields() {
         using hessianser::field;
-        using R = browse_item_info;
         return hessianser::fields(field("type", &R::type), field("name", &R::name),
                                   field("isfile", &R::isfile), field("datasize", &R::datasize));
     }
@@ -43,9 +43,9 @@ struct net_item_info {
     NetItemType type{};
 
     static constexpr std::string_view wireType = "com.norvel.api.net_item_info";
+    template <class R = net_item_info>
     static constexpr auto fields() {
         using hessianser::field;
-        using R = net_item_info;
         return hessianser::fields(field("name", &R::name), field("type", &R::type));
     }
 };
@@ -56,9 +56,9 @@ struct PreDefinedBrowseItem {
     std::string description;
 
     static constexpr std::string_view wireType = "com.norvel.api.PreDefinedBrowseItem";
+    template <class R = PreDefinedBrowseItem>
     static constexpr auto fields() {
         using hessianser::field;
-        using R = PreDefinedBrowseItem;
         return hessianser::fields(field("path", &R::path), field("description", &R::description));
     }
 };

@@ -47,9 +47,9 @@ struct tarnc_reg_info {
     bool escrow_enc_key = false; ///< the keys may be forwarded to the storage server
 
     static constexpr std::string_view wireType = "com.norvel.api.tarnc_reg_info";
+    template <class R = tarnc_reg_info>
     static constexpr auto fields() {
         using hessianser::field;
-        using R = tarnc_reg_info;
         return hessianser::fields(
             field("customer_name", &R::customer_name), field("account_num", &R::account_num),
             field("client_num", &R::client_num), field("private_key_enc", &R::private_key_enc),
@@ -66,9 +66,9 @@ struct ad_user_info {
     bool save = false; ///< the agent is to keep the account
 
     static constexpr std::string_view wireType = "com.norvel.api.ad_user_info";
+    template <class R = ad_user_info>
     static constexpr auto fields() {
         using hessianser::field;
-        using R = ad_user_info;
         return hessianser::fields(field("username", &R::username), field("password", &R::password),
                                   field("save", &R::save));
     }

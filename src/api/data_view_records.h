@@ -20,9 +20,9 @@ struct SelectableItem {
     bool is_selectable = false;
 
     static constexpr std::string_view wireType = "com.norvel.api.SelectableItem";
+    template <class R = SelectableItem>
     static constexpr auto fields() {
         using hessianser::field;
-        using R = SelectableItem;
         return hessianser::fields(field("id", &R::id), field("name", &R::name),
                                   field("data_type", &R::data_type), field("is_file", &R::is_file),
                                   field("is_selectable", &R::is_selectable));
@@ -37,9 +37,9 @@ struct file_generations {
     std::int64_t stream_size = 0; ///< of what is stored
 
     static constexpr std::string_view wireType = "com.norvel.api.file_generations";
+    template <class R = file_generations>
     static constexpr auto fields() {
         using hessianser::field;
-        using R = file_generations;
         return hessianser::fields(field("modification_time", &R::modification_time),
                                   field("backup_time", &R::backup_time),
                                   field("data_size", &R::data_size),

@@ -55,9 +55,9 @@ struct event_log_info {
     std::int32_t node_id = 0; ///< node of the agent
 
     static constexpr std::string_view wireType = "com.norvel.api.event_log_info";
+    template <class R = event_log_info>
     static constexpr auto fields() {
         using hessianser::field;
-        using R = event_log_info;
         return hessianser::fields(
             field("type", &R::type), field("when", &R::when), field("user", &R::user),
             field("category", &R::category), field("event_id", &R::event_id),

@@ -16,9 +16,9 @@ struct selected_shares {
     std::string truncatable_path; ///< what a restore may drop of the path, with backslashes
 
     static constexpr std::string_view wireType = "com.norvel.api.selected_shares";
+    template <class R = selected_shares>
     static constexpr auto fields() {
         using hessianser::field;
-        using R = selected_shares;
         return hessianser::fields(field("share_name", &R::share_name),
                                   field("truncatable_path", &R::truncatable_path));
     }
@@ -31,9 +31,9 @@ struct share_mapping {
     std::int32_t truncate_level = 0; ///< how many leading levels of the path are dropped
 
     static constexpr std::string_view wireType = "com.norvel.api.share_mapping";
+    template <class R = share_mapping>
     static constexpr auto fields() {
         using hessianser::field;
-        using R = share_mapping;
         return hessianser::fields(field("source_share", &R::source_share),
                                   field("destination_path", &R::destination_path),
                                   field("truncate_level", &R::truncate_level));

@@ -27,9 +27,9 @@ struct retention_time_span {
     RetentionTimeUnit unit{};
 
     static constexpr std::string_view wireType = "com.norvel.api.retention_time_span";
+    template <class R = retention_time_span>
     static constexpr auto fields() {
         using hessianser::field;
-        using R = retention_time_span;
         return hessianser::fields(field("period", &R::period), field("unit", &R::unit));
     }
 };

@@ -15,9 +15,9 @@ struct tarn_client_info {
     std::string value;
 
     static constexpr std::string_view wireType = "com.norvel.api.tarn_client_info";
+    template <class R = tarn_client_info>
     static constexpr auto fields() {
         using hessianser::field;
-        using R = tarn_client_info;
         return hessianser::fields(field("name", &R::name), field("value", &R::value));
     }
 };

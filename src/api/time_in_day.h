@@ -17,9 +17,9 @@ struct time_in_day {
     std::int32_t second = 0;
 
     static constexpr std::string_view wireType = "com.norvel.api.time_in_day";
+    template <class R = time_in_day>
     static constexpr auto fields() {
         using hessianser::field;
-        using R = time_in_day;
         return hessianser::fields(field("hour", &R::hour), field("minute", &R::minute),
                                   field("second", &R::second));
     }

@@ -16,9 +16,9 @@ struct user_email {
     std::string email;
 
     static constexpr std::string_view wireType = "com.norvel.api.user_email";
+    template <class R = user_email>
     static constexpr auto fields() {
         using hessianser::field;
-        using R = user_email;
         return hessianser::fields(field("username", &R::username), field("domain", &R::domain),
                                   field("email", &R::email));
     }

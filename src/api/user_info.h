@@ -46,9 +46,9 @@ struct user_info {
     IndustryCode industry_code{};
 
     static constexpr std::string_view wireType = "com.norvel.api.user_info";
+    template <class R = user_info>
     static constexpr auto fields() {
         using hessianser::field;
-        using R = user_info;
         return hessianser::fields(field("country_code", &R::country_code),
                                   field("num_of_employees", &R::num_of_employees),
                                   field("industry_code", &R::industry_code));

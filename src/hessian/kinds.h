@@ -77,9 +77,12 @@ constexpr E enumerationFrom(std::int32_t number) {
 /// A structure that travels as a typed map. It has public members without any other state and
 ///
 ///     static constexpr std::string_view wireType = "com.norvel.api.time_in_day";
+///     template <class R = time_in_day>
 ///     static constexpr auto fields() {
-///         return hessianser::fields(field("hour", &time_in_day::hour), ...);
+///         return hessianser::fields(field("hour", &R::hour), ...);
 ///     }
+///
+/// `fields` may be a plain function; as a template it is compiled only where the codec is used.
 template <class T>
 concept Record = requires {
     { T::wireType } -> std::convertible_to<std::string_view>;
