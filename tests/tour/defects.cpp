@@ -6,6 +6,7 @@
 #include <QAbstractItemView>
 #include <QAbstractScrollArea>
 #include <QComboBox>
+#include <QFileDialog>
 #include <QGroupBox>
 #include <QKeySequence>
 #include <QLabel>
@@ -67,8 +68,12 @@ QString cutText(const QWidget& widget) {
     return {};
 }
 
-/// What a row shows are a user's texts of any length.
-bool isRowOfAView(const QWidget& widget) {
+/// What a row shows, and the folder that a file dialog of Qt looks in, are a user's texts of any
+/// length.
+bool isTextOfAUser(const QWidget& widget) {
+    if (qobject_cast<const QFileDialog*>(widget.parentWidget()) &&
+        widget.objectName() == QLatin1String("lookInCombo"))
+        return true;
     for (const QWidget* at = widget.parentWidget(); at; at = at->parentWidget())
         if (qobject_cast<const QAbstractItemView*>(at))
             return true;
@@ -104,7 +109,7 @@ QStringList defectsOf(const QWidget& shown) {
     QStringList defects;
     QMap<QString, QStringList> keys;
     for (const auto* widget : shown.findChildren<QWidget*>()) {
-        if (!widget->isVisible() || isRowOfAView(*widget))
+        if (!widget->isVisible() || isTextOfAUser(*widget))
             continue;
         const QString cut = cutText(*widget);
         if (!cut.isEmpty())
