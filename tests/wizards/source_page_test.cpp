@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
+#include <QApplication>
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -331,7 +332,8 @@ void SourcePageTest::theBoxOfAFailureEndsNoFurtherEditing() {
                                 simulator::Times::UntilCleared);
     ModalDriver modals;
     modals.expect(QStringLiteral("error box"), support::isDialog<QMessageBox>, [&](QWidget& box) {
-        QVERIFY(QTest::qWaitForWindowActive(&box));
+        // A window counts as active for Qt as soon as the one that it belongs to is.
+        QTRY_COMPARE(QApplication::activeWindow(), &box);
         QVERIFY(!edit.hasFocus());
         static_cast<QMessageBox&>(box).button(QMessageBox::Ok)->click();
     });
