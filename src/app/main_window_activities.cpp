@@ -9,6 +9,7 @@
 #include "api/client_connection.h"
 #include "app/backup_set_view_item.h"
 #include "app/event_log_viewer.h"
+#include "app/log_span.h"
 #include "app/open_backup_set.h"
 #include "app/simple_gui_main_window.h"
 #include "session/connection.h"
@@ -96,9 +97,8 @@ void SimpleGUIMainWindow::ShowEventLog() {
         viewer.showFor(QDateTime::fromSecsSinceEpoch(activity.start_time),
                        QDateTime::fromSecsSinceEpoch(activity.end_time), activity.id);
     } else {
-        const QDate today = QDate::currentDate();
-        viewer.showFor(QDateTime(today.addDays(-1), QTime(0, 0)),
-                       QDateTime(today, QTime(23, 59, 59, 999)), 0);
+        const app::LogSpan span = app::yesterdayAndToday(QDate::currentDate());
+        viewer.showFor(span.from, span.to, 0);
     }
     viewer.exec();
 }

@@ -5,7 +5,6 @@
 #include <array>
 
 #include <QCoreApplication>
-#include <QDateTime>
 #include <QEvent>
 #include <QGuiApplication>
 #include <QHeaderView>
@@ -16,6 +15,7 @@
 #include <boost/thread/thread.hpp>
 
 #include "app/activity_progress_item_delegate.h"
+#include "app/log_span.h"
 #include "ui/branding_resources.h"
 #include "ui/fitting_text_delegate.h"
 #include "ui_simple_gui_main_window.h"
@@ -94,9 +94,9 @@ void SimpleGUIMainWindow::setUpToolBars() {
 }
 
 void SimpleGUIMainWindow::setUpDateRange() {
-    const QDate today = QDate::currentDate();
-    ui_->dateTimeFrom->setDateTime(QDateTime(today.addDays(-1), QTime(0, 0)));
-    ui_->dateTimeTo->setDateTime(QDateTime(today, QTime(23, 59, 59, 999)));
+    const app::LogSpan span = app::yesterdayAndToday(QDate::currentDate());
+    ui_->dateTimeFrom->setDateTime(span.from);
+    ui_->dateTimeTo->setDateTime(span.to);
 }
 
 void SimpleGUIMainWindow::setUpActivityLog() {

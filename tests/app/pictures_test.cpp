@@ -1,11 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
+#include <map>
+
 #include <QFile>
 #include <QIcon>
 #include <QPixmap>
 #include <QTest>
 
 #include "resources/pictures.h"
+#include "ui/activity_type_text.h"
 
 /// Every name under which a screen may ask for a picture.
 class PicturesTest : public QObject {
@@ -52,6 +55,22 @@ private slots:
         QVERIFY(!QIcon(QStringLiteral(":/icons/about.png")).isNull());
     }
 
+    void anActivityHasThePictureOfItsType() {
+        const std::map<int, const char*> known{
+            {0, "activity_backup"}, {1, "activity_backup"}, {2, "activity_restore"},
+            {3, "activity_admin"},  {4, "activity_admin"},  {5, "activity_delete"},
+            {7, "activity_sync"},
+        };
+        for (int type = -1; type <= 31; ++type) {
+            const auto found = known.find(type);
+            const QString name =
+                QLatin1String(found == known.end() ? "icon_unknown" : found->second);
+            QVERIFY2(picture(ui::activityTypeIcon(hessiancln::ActivityType{type})) ==
+                         picture(QIcon(QStringLiteral(":/icons/%1.png").arg(name))),
+                     qPrintable(QString::number(type)));
+        }
+    }
+
     void theLogoHasTheSizeOfItsBar() {
         QCOMPARE(QPixmap(QStringLiteral(":/icons/norvel_logo")).size(), QSize(280, 50));
     }
@@ -62,6 +81,13 @@ private:
     static void add(const char* folder, const char* names) {
         for (const QString& name : QString::fromLatin1(names).split(QLatin1Char(' ')))
             QTest::newRow(qPrintable(name)) << QString::fromLatin1(folder) << name;
+    }
+
+    static QImage picture(const QIcon& icon) {
+        const QImage image = icon.pixmap(16).toImage();
+        if (image.isNull())
+            qFatal("There is no picture");
+        return image;
     }
 
     static bool showsSomething(const QImage& image) {

@@ -1,0 +1,12 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "app/log_span.h"
+
+namespace app {
+
+LogSpan yesterdayAndToday(const QDate& today) {
+    // Not every day has a midnight: some zones put the clock forward at that hour.
+    return {today.addDays(-1).startOfDay(), today.endOfDay()};
+}
+
+} // namespace app

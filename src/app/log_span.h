@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QDateTime>
+
+namespace app {
+
+/// What a log shows until somebody asks for something else. Local times.
+struct LogSpan {
+    QDateTime from;
+    QDateTime to;
+};
+
+/// From the first moment of the day before `today` to the last one of `today`.
+LogSpan yesterdayAndToday(const QDate& today);
+
+} // namespace app

@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include <ctime>
+
+#include <gtest/gtest.h>
+
+#include <QtGlobal>
+
+#include "app/log_span.h"
+
+namespace {
+
+// Rules, not names, which not every machine knows.
+constexpr const char* kBerlin = "CET-1CEST,M3.5.0,M10.5.0/3";
+constexpr const char* kCairo = "EET-2EEST,M4.5.5/0,M10.5.4/24";
+
+/// The local time of a place while this object lives.
+class TimeZone {
+public:
+    explicit TimeZone(const char* rules)
+        : before_(qgetenv("TZ")) {
+        set(rules);
+    }
+    ~TimeZone() { set(before_); }
+    TimeZone(const TimeZone&) = delete;
+    TimeZone& operator=(const TimeZone&) = delete;
+
+private:
+    static void set(const QByteArray& rules) {
+        qputenv("TZ", rules);
+        tzset();
+    }
+    QByteArray before_;
+};
+
+std::string text(const QDateTime& time) {
+    return time.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz")).toStdString();
+}
+
+TEST(LogSpan, IsTwoWholeDays) {
+    const TimeZone zone(kBerlin);
+    const app::LogSpan span = app::yesterdayAndToday({2026, 11, 21});
+    EXPECT_EQ(text(span.from), "2026-11-20 00:00:00.000");
+    EXPECT_EQ(text(span.to), "2026-11-21 23:59:59.999");
+    EXPECT_EQ(span.from.toSecsSinceEpoch(), 1795129200);
+}
+
+TEST(LogSpan, CrossesTheEndOfAYear) {
+    const TimeZone zone("UTC");
+    EXPECT_EQ(text(app::yesterdayAndToday({2027, 1, 1}).from), "2026-12-31 00:00:00.000");
+}
+
+TEST(LogSpan, BeginsLaterOnADayWithoutMidnight) {
+    const TimeZone zone(kCairo);
+    const app::LogSpan span = app::yesterdayAndToday({2026, 4, 25});
+    EXPECT_EQ(text(span.from), "2026-04-24 01:00:00.000");
+    EXPECT_EQ(span.from.toSecsSinceEpoch(), 1776981600);
+}
+
+} // namespace
