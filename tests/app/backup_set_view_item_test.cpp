@@ -5,6 +5,7 @@
 
 #include <QContextMenuEvent>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QtTest>
 
@@ -90,6 +91,8 @@ void BackupSetViewItemTest::showsTheSet() {
     QCOMPARE(shown.name().font().weight(), 75);
     QCOMPARE(shown.card.record().id, 7);
     QVERIFY(shown.card.autoFillBackground());
+    QCOMPARE(shown.card.size(), QSize(539, 78));
+    QCOMPARE(shown.card.layout()->contentsMargins(), QMargins(5, 0, 5, 0));
 }
 
 void BackupSetViewItemTest::showsItsStateByPictureColourAndToolTip() {

@@ -1,8 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
+#include <QAbstractItemModelTester>
 #include <QCheckBox>
 #include <QDateTimeEdit>
 #include <QGroupBox>
+#include <QHeaderView>
 #include <QHelpEvent>
 #include <QLabel>
 #include <QPushButton>
@@ -14,6 +16,7 @@
 #include "app/about_dlg.h"
 #include "app/event_log_viewer.h"
 #include "resources/pictures.h"
+#include "tests/support/gui_form_texts.h"
 #include "tests/support/gui_modal_driver.h"
 #include "ui/branding_resources.h"
 #include "ui/fitting_text_delegate.h"
@@ -101,6 +104,7 @@ private slots:
     }
 
     void theViewerIsLaidOutAsDesigned();
+    void everyColumnOfTheEventsSorts();
     void withoutASessionTheViewerShowsTheErrorAndKeepsItsRows();
     void anActivityIdSwitchesTheTimesOff();
     void idZeroSwitchesTheFilterByActivityOff();
@@ -110,6 +114,8 @@ private slots:
     void aTextThatIsMuchTooWideIsCutAndHasAToolTip();
     void everyWidgetHasAName();
     void theAboutBoxWithoutASession();
+    void theAgentsInformationLeavesOutWhatIsForPrograms();
+    void noSessionLeavesTheInformationEmpty();
 };
 
 void LogDialogsTest::theViewerIsLaidOutAsDesigned() {
@@ -130,8 +136,40 @@ void LogDialogsTest::theViewerIsLaidOutAsDesigned() {
         QVERIFY(editor.calendarPopup());
         QCOMPARE(editor.displayFormat(), QStringLiteral("yyyy-MM-dd HH:mm"));
     }
-    QCOMPARE(child<QLabel>(viewer, "labelFrom").buddy(), &child<QWidget>(viewer, "timeFrom"));
-    QCOMPARE(child<QLabel>(viewer, "labelTo").buddy(), &child<QWidget>(viewer, "timeTo"));
+    support::compareBuddies(viewer, {{"labelFrom", "timeFrom"}, {"labelTo", "timeTo"}});
+    support::compareTexts(viewer, {{"groupBox", "Viewing Filter"},
+                                   {"labelFrom", "&From:"},
+                                   {"labelTo", "&To:"},
+                                   {"checkActivityID", "&Activity ID:"},
+                                   {"buttonClose", "&Close"}});
+    support::compareIcon(viewer, "buttonClose", ":/button/ok");
+    QVERIFY(table.isSortingEnabled());
+    QCOMPARE(table.selectionBehavior(), QAbstractItemView::SelectRows);
+    QVERIFY(table.verticalHeader()->isHidden());
+}
+
+void LogDialogsTest::everyColumnOfTheEventsSorts() {
+    hessiancln::event_log_info first;
+    first.type = hessiancln::EventLogType::Error;
+    first.category = hessiancln::EventCategory::DB2;
+    first.when = first.event_id = first.activity_id = 9;
+    first.user = first.extra_info = first.description = "Z";
+    first.node_id = 1;
+    hessiancln::event_log_info second;
+    // Both come behind the others by their labels only.
+    second.type = hessiancln::EventLogType::Information;
+    second.category = hessiancln::EventCategory::IO;
+    second.when = second.event_id = second.activity_id = 10;
+    second.user = second.extra_info = second.description = "a";
+    second.node_id = 2;
+    EventLogModel model;
+    model.setRecords({second, first});
+    for (int column = 0; column < 8; ++column) {
+        model.sort(column, Qt::AscendingOrder);
+        QCOMPARE(model.at(0).node_id, 1);
+        model.sort(column, Qt::DescendingOrder);
+        QCOMPARE(model.at(0).node_id, 2);
+    }
 }
 
 void LogDialogsTest::withoutASessionTheViewerShowsTheErrorAndKeepsItsRows() {
@@ -250,8 +288,38 @@ void LogDialogsTest::theAboutBoxWithoutASession() {
     QVERIFY(!child<QGroupBox>(about, "groupInfo").isVisible());
     auto& table = child<QTableView>(about, "tableInfo");
     QCOMPARE(table.columnWidth(0), 140);
+    QCOMPARE(table.selectionMode(), QAbstractItemView::SingleSelection);
+    QCOMPARE(table.selectionBehavior(), QAbstractItemView::SelectRows);
+    QVERIFY(table.verticalHeader()->isHidden());
+    support::compareTexts(about, {{"groupInfo", "Tarn-Client Info"}, {"buttonClose", "&Close"}});
+    support::compareIcon(about, "buttonClose", ":/button/ok");
+    QCOMPARE(about.size(), QSize(470, 330));
     child<QPushButton>(about, "buttonClose").click();
     QVERIFY(!about.isVisible());
+}
+
+void LogDialogsTest::theAgentsInformationLeavesOutWhatIsForPrograms() {
+    TarnClientInfoModel model;
+    QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    model.setInformation(
+        {{"Version", "1"}, {"InitialClient", "No"}, {"Name", "x"}, {"InitialClient", "Yes"}});
+    QCOMPARE(model.rowCount(), 2);
+    const auto text = [&model](int row, int column) {
+        return model.index(row, column).data().toString();
+    };
+    QCOMPARE(text(0, 0), QStringLiteral("Version"));
+    QCOMPARE(text(1, 1), QStringLiteral("x"));
+    for (const int column : {0, 1})
+        QCOMPARE(model.index(0, column).data(Qt::TextAlignmentRole).toInt(),
+                 int(Qt::AlignLeft | Qt::AlignVCenter));
+    model.sort(0, Qt::AscendingOrder);
+    QCOMPARE(text(0, 0), QStringLiteral("Version"));
+}
+
+void LogDialogsTest::noSessionLeavesTheInformationEmpty() {
+    TarnClientInfoModel model;
+    model.refresh();
+    QCOMPARE(model.rowCount(), 0);
 }
 
 QTEST_MAIN(LogDialogsTest)

@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
+#include <map>
+
 #include <QAbstractItemModelTester>
 #include <QHeaderView>
 #include <QSignalSpy>
@@ -41,6 +43,19 @@ running_activity_info running(std::int32_t id, std::int64_t start = now) {
 
 QString text(const QAbstractItemModel& model, int row, int column, int role = Qt::DisplayRole) {
     return model.index(row, column).data(role).toString();
+}
+
+/// The icon of a record's type, as a picture.
+QImage iconOf(const QAbstractItemModel& model) {
+    return model.index(0, 0).data(Qt::DecorationRole).value<QIcon>().pixmap(16).toImage();
+}
+
+QImage picture(const char* name) {
+    const QImage image =
+        QIcon(QStringLiteral(":/icons/%1.png").arg(QLatin1String(name))).pixmap(16).toImage();
+    if (image.isNull())
+        qFatal("There is no picture %s", name);
+    return image;
 }
 
 QStringList headers(const QAbstractItemModel& model) {
@@ -104,6 +119,7 @@ private slots:
     void columnsOutOfRangeDoNotSort();
     void rowsOfRunningActivities();
     void theToolTipOfARunningActivity();
+    void everyOtherColumnOfRunningActivitiesSorts();
     void theProgressColumnDoesNotSort();
     void theFirstListAfterAClearIsNotCompared();
     void aLoginReportsOnlyYoungActivities();
@@ -113,8 +129,6 @@ private slots:
     void rowsOfTheEventLog();
     void eventNumbersAboveTheirBoundAreHexadecimal();
     void unknownEventsHaveAFallback();
-    void theAgentsInformationLeavesOutWhatIsForPrograms();
-    void noSessionLeavesTheInformationEmpty();
     void aFailedRefreshLeavesTheRows();
 };
 
@@ -146,13 +160,18 @@ void TableModelsTest::rowsOfTheActivityLog() {
     QCOMPARE(shown, words("Restore|Gr\xC3\xBC\xC3\x9F"
                           "e|1,000|2,000|1/2/70 12:00 AM|1/2/70 1:01 AM|1:01:01|3,000|"
                           "5,000,000,000"));
-    const auto alignment = [&](int column) {
-        return model.index(0, column).data(Qt::TextAlignmentRole);
+    const std::map<int, int> alignments{
+        {ActivityLogModel::errors, Qt::AlignCenter},
+        {ActivityLogModel::warnings, Qt::AlignCenter},
+        {ActivityLogModel::files, Qt::AlignRight | Qt::AlignVCenter},
+        {ActivityLogModel::dataSize, Qt::AlignRight | Qt::AlignVCenter},
     };
-    QCOMPARE(alignment(ActivityLogModel::errors).toInt(), int(Qt::AlignCenter));
-    QCOMPARE(alignment(ActivityLogModel::files).toInt(), int(Qt::AlignRight | Qt::AlignVCenter));
-    QVERIFY(!alignment(ActivityLogModel::start).isValid());
-    QVERIFY(!model.index(0, 0).data(Qt::DecorationRole).value<QIcon>().isNull());
+    for (int column = 0; column < 9; ++column) {
+        const auto found = alignments.find(column);
+        QCOMPARE(model.index(0, column).data(Qt::TextAlignmentRole),
+                 found == alignments.end() ? QVariant() : QVariant(found->second));
+    }
+    QCOMPARE(iconOf(model), picture("activity_restore"));
     QVERIFY(!model.index(0, 1).data(Qt::DecorationRole).isValid());
     QCOMPARE(model.at(0).id, 1);
 }
@@ -272,7 +291,7 @@ void TableModelsTest::rowsOfRunningActivities() {
     for (int column = 0; column < 5; ++column)
         shown << text(model, 0, column);
     QCOMPARE(shown, words("Backup|1/2/70 12:00 AM|ann|1,000 files|Documents"));
-    QVERIFY(!model.index(0, 0).data(Qt::DecorationRole).value<QIcon>().isNull());
+    QCOMPARE(iconOf(model), picture("activity_backup"));
 }
 
 void TableModelsTest::theToolTipOfARunningActivity() {
@@ -290,6 +309,28 @@ void TableModelsTest::theToolTipOfARunningActivity() {
              head + QStringLiteral("<tr><td><b>Status:</b></td> <td>Sending &lt;a&gt;</<td></tr>"
                                    "<tr><td><b>Directory:</b></td><td>C:\\R&amp;D</<td></tr>"
                                    "</table></html>"));
+}
+
+void TableModelsTest::everyOtherColumnOfRunningActivitiesSorts() {
+    running_activity_info low = running(1, 10);
+    low.type = ActivityType::Restore;
+    low.user = low.description = "Z";
+    running_activity_info high = running(2, 20);
+    // By its label, not by its number.
+    high.type = ActivityType::CacheCopy;
+    high.user = high.description = "a";
+    RunningActivitiesModel model;
+    model.setActivities({low, high});
+    for (const int column : {1, 2, 4}) {
+        model.sort(column, Qt::DescendingOrder);
+        QCOMPARE(model.at(0).activity_id, 2);
+        model.sort(column, Qt::AscendingOrder);
+        QCOMPARE(model.at(0).activity_id, 1);
+    }
+    model.sort(0, Qt::AscendingOrder);
+    QCOMPARE(model.at(0).activity_id, 2);
+    model.sort(0, Qt::DescendingOrder);
+    QCOMPARE(model.at(0).activity_id, 1);
 }
 
 void TableModelsTest::theProgressColumnDoesNotSort() {
@@ -383,8 +424,12 @@ void TableModelsTest::rowsOfTheEventLog() {
         shown << text(model, 0, column);
     QCOMPARE(shown, words("Warn|Friday, January 2, 1970 12:00:00 AM UTC|ann|Operating System|"
                           "1,234|5,678|more|what"));
-    QCOMPARE(model.index(0, 4).data(Qt::TextAlignmentRole).toInt(),
-             int(Qt::AlignRight | Qt::AlignVCenter));
+    for (int column = 0; column < 8; ++column) {
+        const QVariant alignment = model.index(0, column).data(Qt::TextAlignmentRole);
+        const bool number =
+            column == EventLogModel::eventNumber || column == EventLogModel::activity;
+        QCOMPARE(alignment, number ? QVariant(int(Qt::AlignRight | Qt::AlignVCenter)) : QVariant());
+    }
     const char* categories[] = {
         "Application", "Socket", "Message", "Database", "Exception", "I/O", "Operating System",
         "Security",    "MAPI",   "Novell",  "Oracle",   "RMAN",      "XML", "DB2"};
@@ -394,12 +439,14 @@ void TableModelsTest::rowsOfTheEventLog() {
         model.setRecords({info});
         QCOMPARE(text(model, 0, EventLogModel::category), QString::fromLatin1(label));
     }
+    const char* const severities[][2] = {
+        {"Info", "event_info"}, {"Warn", "event_warning"}, {"Err", "event_error"}};
     int type = 0;
-    for (const char* label : {"Info", "Warn", "Err"}) {
+    for (const auto& [label, icon] : severities) {
         info.type = EventLogType{type++};
         model.setRecords({info});
         QCOMPARE(text(model, 0, EventLogModel::type), QString::fromLatin1(label));
-        QVERIFY(!model.index(0, 0).data(Qt::DecorationRole).value<QIcon>().isNull());
+        QCOMPARE(iconOf(model), picture(icon));
     }
 }
 
@@ -425,27 +472,7 @@ void TableModelsTest::unknownEventsHaveAFallback() {
     model.setRecords({info});
     QCOMPARE(text(model, 0, EventLogModel::type), QStringLiteral("???"));
     QCOMPARE(text(model, 0, EventLogModel::category), QStringLiteral("???"));
-    QVERIFY(!model.index(0, 0).data(Qt::DecorationRole).value<QIcon>().isNull());
-}
-
-void TableModelsTest::theAgentsInformationLeavesOutWhatIsForPrograms() {
-    TarnClientInfoModel model;
-    QAbstractItemModelTester tester(&model, strict);
-    model.setInformation(
-        {{"Version", "1"}, {"InitialClient", "No"}, {"Name", "x"}, {"InitialClient", "Yes"}});
-    QCOMPARE(model.rowCount(), 2);
-    QCOMPARE(text(model, 0, 0), QStringLiteral("Version"));
-    QCOMPARE(text(model, 1, 1), QStringLiteral("x"));
-    QCOMPARE(model.index(0, 1).data(Qt::TextAlignmentRole).toInt(),
-             int(Qt::AlignLeft | Qt::AlignVCenter));
-    model.sort(0, Qt::AscendingOrder);
-    QCOMPARE(text(model, 0, 0), QStringLiteral("Version"));
-}
-
-void TableModelsTest::noSessionLeavesTheInformationEmpty() {
-    TarnClientInfoModel model;
-    model.refresh();
-    QCOMPARE(model.rowCount(), 0);
+    QCOMPARE(iconOf(model), picture("icon_unknown"));
 }
 
 void TableModelsTest::aFailedRefreshLeavesTheRows() {

@@ -23,6 +23,7 @@
 #include "app/simple_gui_main_window.h"
 #include "resources/pictures.h"
 #include "tests/support/gui_agent.h"
+#include "tests/support/gui_form_texts.h"
 #include "tests/support/gui_modal_driver.h"
 
 using support::child;
@@ -176,8 +177,14 @@ private slots:
                                  "labelDateTimeTo", "dateTimeTo", "buttonEventLog"})
             QVERIFY(tabs.widget(1)->isAncestorOf(&child<QWidget>(*window_, name)));
         QCOMPARE(window_->width(), 1000);
+        const int margins = window_->width() - leftRight.width();
         // 650 to 350, less the handle between them.
-        QVERIFY(qAbs(leftRight.sizes().at(1) - 350) <= 20);
+        const int details = leftRight.sizes().at(1);
+        QVERIFY(qAbs(details - 350) <= 20);
+        // What the window gets more goes to the list.
+        window_->resize(window_->width() + 200, window_->height());
+        QTRY_COMPARE(leftRight.width(), window_->width() - margins);
+        QCOMPARE(leftRight.sizes().at(1), details);
     }
 
     void namesTheDetailsOfASet() {
@@ -186,21 +193,24 @@ private slots:
             {"labSize", "Protected size:"},    {"labItems", "Protected items:"},
             {"labSchedule", "Schedule:"},      {"labRetention", "Retention:"},
         };
-        for (const auto& [name, caption] : captions)
-            QCOMPARE(child<QLabel>(*window_, name).text(), QString::fromLatin1(caption));
+        for (const auto& [name, caption] : captions) {
+            const auto& label = child<QLabel>(*window_, name);
+            QCOMPARE(label.text(), QString::fromLatin1(caption));
+            QCOMPARE(label.minimumHeight(), 22);
+        }
         for (const char* name :
              {"valLastBackup", "valFileGens", "valSize", "valItems", "valSchedule", "valRetention"})
             QCOMPARE(child<QLabel>(*window_, name).text(), QString());
-        const char* const buttons[][2] = {
-            {"btnItems", "Edit backup set items"},
-            {"btnSchedule", "Create/Edit schedule"},
-            {"btnRetention", "Create/Edit retention rules"},
+        const char* const buttons[][3] = {
+            {"btnItems", "Edit backup set items", ":/button/items"},
+            {"btnSchedule", "Create/Edit schedule", ":/button/schedule"},
+            {"btnRetention", "Create/Edit retention rules", ":/button/retention"},
         };
-        for (const auto& [name, tip] : buttons) {
+        for (const auto& [name, tip, icon] : buttons) {
             const auto& button = child<QAbstractButton>(*window_, name);
             QCOMPARE(button.toolTip(), QString::fromLatin1(tip));
             QCOMPARE(button.size(), QSize(28, 28));
-            QVERIFY(!button.icon().isNull());
+            support::compareIcon(*window_, name, icon);
         }
     }
 
@@ -219,6 +229,8 @@ private slots:
         QCOMPARE(child<QLabel>(*window_, "labelDateTimeTo").buddy(), &to);
         QCOMPARE(child<QPushButton>(*window_, "buttonEventLog").text(), QStringLiteral("&Events"));
         QCOMPARE(child<QPushButton>(*window_, "buttonStop").text(), QStringLiteral("&Stop"));
+        support::compareIcon(*window_, "buttonEventLog", ":/button/event_log");
+        support::compareIcon(*window_, "buttonStop", ":/button/stop");
     }
 
     void namesEachWidgetThatTabReaches() {

@@ -67,6 +67,7 @@ private slots:
     void staysMaximizedWhenItIsRaised();
     void announcesWhatBeginsAndEnds();
     void theVisibleActiveWindowAnnouncesNothingButKeepsTrack();
+    void aVisibleWindowBehindAnotherOneAnnounces();
     void whatCameAndWentBetweenHeartbeatsIsNeverTold();
     void oldWorkIsAnnouncedOnlyAtItsEnd();
     void aLoginAnnouncesTheYoungOnly();
@@ -221,6 +222,19 @@ void MainWindowTrayTest::theVisibleActiveWindowAnnouncesNothingButKeepsTrack() {
     agent_->withWorld(stopAll);
     driver_->beat();
     QCOMPARE(linesOfBalloons().size(), 2);
+}
+
+void MainWindowTrayTest::aVisibleWindowBehindAnotherOneAnnounces() {
+    agent_ = std::make_unique<GuiAgent>();
+    driver_->logIn(*agent_);
+    driver_->beat();
+    QWidget other;
+    other.show();
+    QVERIFY(QTest::qWaitForWindowActive(&other));
+    QVERIFY(window().isVisible());
+    agent_->withWorld(startBackup);
+    driver_->beat();
+    QCOMPARE(linesOfBalloons(), QStringList{QStringLiteral("Started - Backup - Documents")});
 }
 
 void MainWindowTrayTest::whatCameAndWentBetweenHeartbeatsIsNeverTold() {

@@ -8,6 +8,7 @@
 
 #include "resources/pictures.h"
 #include "session/connection.h"
+#include "simulator/world/backup_set_state.h"
 #include "simulator/world/world.h"
 #include "tests/gui/new_set_calls.h"
 #include "tests/support/gui_wizard.h"
@@ -71,6 +72,7 @@ private slots:
     void givingUpTheCodeMakesNoSet();
     void aSessionThatEndsUnderTheWizard();
     void theFirstSetIsOfferedAtLogin();
+    void aSetOfADatabaseIsNoFirstSet();
     void underCentralManagementNoSetIsMadeOrOffered();
     // The last one, as no dialog opens in this process any more.
     void quittingUnderTheWizardMakesNoSet();
@@ -207,6 +209,19 @@ void NewSetFlowTest::theFirstSetIsOfferedAtLogin() {
     test_.start(Scenario::Empty);
     QVERIFY(test_.modals->done());
     QCOMPARE(test_.setNames(), QStringList(q("New one")));
+}
+
+void NewSetFlowTest::aSetOfADatabaseIsNoFirstSet() {
+    test_.modals = std::make_unique<ModalDriver>();
+    test_.expectWizard();
+    test_.start(Scenario::Empty, [](World& world) {
+        simulator::BackupSetState database;
+        database.info.name = "Accounts";
+        database.info.data_type = hessiancln::BackupDataType::MSSQLServer;
+        world.addSet(database);
+    });
+    QVERIFY(test_.modals->done());
+    QCOMPARE(test_.setNames(), (QStringList{q("Accounts"), q("New one")}));
 }
 
 void NewSetFlowTest::underCentralManagementNoSetIsMadeOrOffered() {
