@@ -14,11 +14,22 @@ void showInformation(QWidget* parent, const QString& title, const QString& text)
     box.exec();
 }
 
-bool confirms(QWidget* parent, const QString& title, const QString& text) {
+std::optional<bool> asks(QWidget* parent, const QString& title, const QString& text) {
     QMessageBox box(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No, parent);
     box.setDefaultButton(QMessageBox::No);
     setStandardButtonPictures(box);
-    return box.exec() == QMessageBox::Yes;
+    switch (box.exec()) {
+    case QMessageBox::Yes:
+        return true;
+    case QMessageBox::No:
+        return false;
+    default:
+        return std::nullopt;
+    }
+}
+
+bool confirms(QWidget* parent, const QString& title, const QString& text) {
+    return asks(parent, title, text).value_or(false);
 }
 
 } // namespace ui

@@ -90,6 +90,9 @@ void DeleteSelectPage::changeFilter() {
 }
 
 void DeleteSelectPage::fieldsPutBack() {
+    // A group that is off has disabled them by itself, and lets go of them when it is on again.
+    if (!ui_->groupFilter->isChecked())
+        return;
     ui_->dateFrom->setEnabled(ui_->checkFrom->isChecked());
     ui_->dateTo->setEnabled(ui_->checkTo->isChecked());
     ui_->dateRemoved->setEnabled(ui_->checkRemoved->isChecked());
@@ -119,19 +122,19 @@ wizards::DeleteFilterFields DeleteSelectPage::filterFields() const {
             .keep = ui_->spinKeep->value()};
 }
 
-bool DeleteSelectPage::wantsRemoval(QWidget& parent) const {
+std::optional<bool> DeleteSelectPage::wantsRemoval(QWidget& parent) const {
     if (wizards::isInForce(filterFields()) || !model().allSelected())
         return false;
-    return ui::confirms(&parent, tr("Remove backup set?"),
-                        tr("You have selected all data to be deleted.\n"
-                           "Would you like to remove the backup set?"));
+    return ui::asks(&parent, tr("Remove backup set?"),
+                    tr("You have selected all data to be deleted.\n"
+                       "Would you like to remove the backup set?"));
 }
 
 boost::shared_ptr<hessiancln::GenericActivity> DeleteSelectPage::finish(QWidget& parent) {
-    const bool removal = wantsRemoval(parent);
-    if (!wizards::confirmByCode(parent))
+    const auto removal = wantsRemoval(parent);
+    if (!removal || !wizards::confirmByCode(parent))
         return nullptr;
-    if (removal)
+    if (*removal)
         return wizards::removeSet(set_);
     const auto ids = model().selectedIds();
     // What is checked may be a group that turned out empty.

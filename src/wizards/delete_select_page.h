@@ -3,6 +3,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include <boost/shared_ptr.hpp>
 
@@ -50,7 +51,8 @@ private:
     void setUpFilter();
     void updateDataModel();
     wizards::DeleteFilterFields filterFields() const;
-    bool wantsRemoval(QWidget& parent) const;
+    /// Nothing if the user was asked and gave no answer.
+    std::optional<bool> wantsRemoval(QWidget& parent) const;
 
     std::unique_ptr<Ui::DeleteSelectPage> ui_;
     boost::shared_ptr<hessiancln::BackupSet> set_;

@@ -1,16 +1,19 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 #include <QAbstractButton>
+#include <QDateTimeEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QTableView>
 #include <QTest>
+#include <QTimer>
 
 #include "config/tfa_code_dlg.h"
 #include "resources/pictures.h"
 #include "session/connection.h"
 #include "simulator/world/world.h"
-#include "tests/support/gui_wizard.h"
+#include "tests/gui/delete_wizard_steps.h"
 
 using simulator::Fault;
 using simulator::Scenario;
@@ -80,6 +83,10 @@ private slots:
     void aSharedScheduleStaysAndSoDoesTheRest();
     void aFaultOfTheRemoval_data();
     void aFaultOfTheRemoval();
+    void quittingUnderAQuestionDeletesNothing_data();
+    void quittingUnderAQuestionDeletesNothing();
+    void aFilterThatCantBeSwitchedOnStaysDisabled();
+    void eachValueOfTheFilterAsksAnew();
 
 private:
     void start(const std::function<void(World&)>& change, Scenario scenario = Scenario::Default) {
@@ -249,6 +256,83 @@ void DeleteTest::aFaultOfTheRemoval() {
     // Nothing comes behind the call that failed.
     QCOMPARE(support::methodsOf(*test_.agent).back(), method.toStdString());
     QVERIFY(session::connectedToAgent());
+}
+
+void DeleteTest::quittingUnderAQuestionDeletesNothing_data() {
+    QTest::addColumn<bool>("hasFiles");
+    QTest::newRow("of a set without files") << false;
+    QTest::newRow("behind the wizard") << true;
+}
+
+/// To be asked is no answer, not even a no.
+void DeleteTest::quittingUnderAQuestionDeletesNothing() {
+    QFETCH(bool, hasFiles);
+    start([](World& world) { gui::store(world); });
+    if (hasFiles) {
+        test_.driver->sets().selectRow(gui::kRow);
+        test_.expectWizard(gui::checkAll);
+    }
+    test_.modals->expect(q("question"), isDialog<QMessageBox>,
+                         [this](QWidget&) { test_.driver->window().OnQuit(); });
+    // Within the loop that ends then, as in the program.
+    QTimer::singleShot(0, &test_.driver->window(), [this] {
+        test_.run("OnDelete");
+        QCoreApplication::quit();
+    });
+    QCoreApplication::exec();
+    QCOMPARE(difference(calls(), hasFiles ? gui::kOpened + gui::kRefreshed : kAsked), QString());
+}
+
+void DeleteTest::aFilterThatCantBeSwitchedOnStaysDisabled() {
+    start([](World& world) { gui::store(world); });
+    test_.driver->sets().selectRow(gui::kRow);
+    test_.modals->expect(q("wizard"), isDialog<QWizard>, [&](QWidget& widget) {
+        gui::switchOn(widget, "checkFrom");
+        gui::switchOn(widget, "checkKeep");
+        auto& group = support::child<QGroupBox>(widget, "groupFilter");
+        group.setChecked(false);
+        test_.agent->inject("prepare_delete", Fault{"Außer Betrieb."});
+        test_.modals->expectErrorBox(q("Error"), q("Außer Betrieb."));
+        group.setChecked(true);
+        QVERIFY(!group.isChecked());
+        for (const char* name : {"checkFrom", "dateFrom", "checkKeep", "spinKeep", "dateTo"})
+            QVERIFY2(!support::child<QWidget>(widget, name).isEnabled(), name);
+        group.setChecked(true);
+        for (const char* name : {"checkFrom", "dateFrom", "checkKeep", "spinKeep"})
+            QVERIFY2(support::child<QWidget>(widget, name).isEnabled(), name);
+        QVERIFY(!support::child<QWidget>(widget, "dateTo").isEnabled());
+        widget.close();
+    });
+    test_.run("OnDelete");
+}
+
+void DeleteTest::eachValueOfTheFilterAsksAnew() {
+    start([](World& world) { gui::store(world); });
+    test_.driver->sets().selectRow(gui::kRow);
+    test_.modals->expect(q("wizard"), isDialog<QWizard>, [&](QWidget& widget) {
+        for (const char* box : {"checkFrom", "checkTo", "checkRemoved", "checkKeep"})
+            gui::switchOn(widget, box);
+        test_.agent->clearCallLog();
+        for (const auto& [name, seconds] :
+             {std::pair("dateFrom", 7), std::pair("dateTo", -20), std::pair("dateRemoved", -30)}) {
+            auto& date = support::child<QDateTimeEdit>(widget, name);
+            date.setDateTime(date.dateTime().addSecs(seconds));
+        }
+        support::child<QSpinBox>(widget, "spinKeep").setValue(99);
+        Calls views;
+        for (const std::string& call : calls())
+            if (call.starts_with("BackupSet."))
+                views.push_back(call);
+        QCOMPARE(
+            difference(views,
+                       {"BackupSet.prepare_delete(1700000007, 1760000000, 1760000000, 1, 0)",
+                        "BackupSet.prepare_delete(1700000007, 1759999980, 1760000000, 1, 0)",
+                        "BackupSet.prepare_delete(1700000007, 1759999980, 1759999970, 1, 0)",
+                        "BackupSet.prepare_delete(1700000007, 1759999980, 1759999970, 99, 0)"}),
+            QString());
+        widget.close();
+    });
+    test_.run("OnDelete");
 }
 
 QTEST_MAIN(DeleteTest)

@@ -67,7 +67,7 @@ QStringList statementsAt(const QString& code, const QRegularExpression& start) {
 /// those of the agent.
 QStringList boxTextsOfCode() {
     static const QRegularExpression boxes(q(
-        R"re(ui::(showError|showInformation|confirms)\(|QMessageBox::(information|question|warning|critical)\(|QFileDialog dialog\()re"));
+        R"re(ui::(showError|showInformation|asks|confirms)\(|QMessageBox::(information|question|warning|critical)\(|QFileDialog dialog\()re"));
     static const QRegularExpression actions(q(R"re(ui::remoteAction\()re"));
     static const QRegularExpression problems(q(R"re(return Texts::tr\()re"));
     QStringList texts;
