@@ -71,6 +71,8 @@ RestoreSelectPage::~RestoreSelectPage() = default;
 void RestoreSelectPage::setUpFilter() {
     using Page = RestoreSelectPage;
     connect(ui_->buttonGenerations, &QPushButton::clicked, this, &Page::showFileGenerations);
+    // A file that the file filter takes out loses its selection without a word.
+    connect(ui_->editFilter, &QLineEdit::textChanged, this, &Page::fileListSelectionChanged);
     connect(ui_->checkFilter, &QCheckBox::toggled, this, &Page::toggleFiltering);
     // By the user only.
     connect(ui_->checkFrom, &QCheckBox::clicked, this, &Page::toggleFrom);
@@ -223,13 +225,17 @@ bool RestoreSelectPage::narrowTo(std::int32_t chosen, const CGenerationSelectMod
     return isOlder || isHidden;
 }
 
-/// As if the user had, but a failure is for the caller.
+/// As if the user had, but a failure is for the caller. What the filter said when it was switched
+/// off may hide what is shown now, so nothing of it comes back.
 void RestoreSelectPage::switchFilterOn() {
     if (ui_->checkFilter->isChecked())
         return;
     showFilter(true);
     const QSignalBlocker quiet(ui_->checkFilter);
     ui_->checkFilter->setChecked(true);
+    ui_->checkFrom->setChecked(false);
+    ui_->dateFrom->setEnabled(false);
+    ui_->checkRemoved->setChecked(false);
 }
 
 boost::shared_ptr<hessiancln::RestoreActivityInitiator> RestoreSelectPage::prepareRestore() {

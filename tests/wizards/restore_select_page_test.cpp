@@ -63,10 +63,13 @@ private slots:
     void textsOfTheSelectPage();
     void checkFromFromCodeAsksForNothing();
     void theOtherBoxesAskFromCodeToo();
+    void eachValueOfTheFilterAsksAnew();
     void theGenerationsWantAFile();
+    void aFileThatTheFilterHidesHasNoGenerations();
     void theGenerationsOfNoFileAreNotShown();
     void theGenerationInTheFilterIsMarked();
     void aGenerationOfAForgottenBackup();
+    void aFilterThatWasOffHidesNoGeneration();
     void aGenerationOfAFileThatIsCalledLikeAFolder_data();
     void aGenerationOfAFileThatIsCalledLikeAFolder();
     void aGenerationOfTheHourThatComesTwice_data();
@@ -150,6 +153,26 @@ void RestoreSelectPageTest::theOtherBoxesAskFromCodeToo() {
              std::string("BackupSet.prepare_restore(0, 1730000000, 1730000060)"));
 }
 
+void RestoreSelectPageTest::eachValueOfTheFilterAsksAnew() {
+    RestoreSelectPage page(setWithFiles());
+    for (const char* box : {"checkFilter", "checkFrom", "checkTo", "checkRemoved"})
+        child<QCheckBox>(page, box).click();
+    for (const char* name : {"dateFrom", "dateTo", "dateRemoved"})
+        QVERIFY(child<QDateTimeEdit>(page, name).isEnabled());
+    takeCalls();
+    const auto callFor = [&](const char* name, int seconds) {
+        auto& date = child<QDateTimeEdit>(page, name);
+        date.setDateTime(date.dateTime().addSecs(seconds));
+        return takeCalls().front();
+    };
+    QCOMPARE(callFor("dateFrom", 7),
+             std::string("BackupSet.prepare_restore(1700000007, 1730000060, 1730000060)"));
+    QCOMPARE(callFor("dateTo", -20),
+             std::string("BackupSet.prepare_restore(1700000007, 1730000040, 1730000060)"));
+    QCOMPARE(callFor("dateRemoved", -30),
+             std::string("BackupSet.prepare_restore(1700000007, 1730000040, 1730000030)"));
+}
+
 void RestoreSelectPageTest::theGenerationsWantAFile() {
     RestoreSelectPage page(setWithFiles());
     auto& list = child<QListView>(page, "listSelection");
@@ -163,6 +186,22 @@ void RestoreSelectPageTest::theGenerationsWantAFile() {
     tree.setCurrentIndex(rowAt(tree, "C:/docs"));
     QVERIFY(!button.isEnabled());
     QVERIFY(!list.selectionModel()->hasSelection());
+}
+
+void RestoreSelectPageTest::aFileThatTheFilterHidesHasNoGenerations() {
+    RestoreSelectPage page(setWithFiles());
+    auto& list = child<QListView>(page, "listSelection");
+    auto& filter = child<QLineEdit>(page, "editFilter");
+    auto& button = child<QPushButton>(page, "buttonGenerations");
+    list.setCurrentIndex(list.model()->index(0, 0, list.rootIndex()));
+    filter.setText(q("notes*"));
+    QVERIFY(list.selectionModel()->hasSelection());
+    QVERIFY(button.isEnabled());
+    filter.setText(q("*.ods"));
+    QVERIFY(!button.isEnabled());
+    filter.setText(q("*"));
+    QVERIFY(!list.selectionModel()->hasSelection());
+    QVERIFY(!button.isEnabled());
 }
 
 void RestoreSelectPageTest::theGenerationsOfNoFileAreNotShown() {
@@ -217,6 +256,34 @@ void RestoreSelectPageTest::aGenerationOfAForgottenBackup() {
     QCOMPARE(child<QDateTimeEdit>(page, "dateTo").dateTime().toSecsSinceEpoch(), kFirst + 60);
     QCOMPARE(takeCalls().at(2), std::string("BackupSet.prepare_restore(0, 1700000060, 0)"));
     QVERIFY(page.isComplete());
+}
+
+/// What its fields said before it was switched off would hide the very generation that is picked.
+void RestoreSelectPageTest::aFilterThatWasOffHidesNoGeneration() {
+    RestoreSelectPage page(setWithFiles());
+    for (const char* box : {"checkFilter", "checkFrom", "checkRemoved"})
+        child<QCheckBox>(page, box).click();
+    child<QDateTimeEdit>(page, "dateFrom").setDateTime(QDateTime::fromSecsSinceEpoch(kSecond));
+    child<QCheckBox>(page, "checkFilter").click();
+    auto& list = child<QListView>(page, "listSelection");
+    const auto file = [&list] { return list.model()->index(0, 0, list.rootIndex()); };
+    list.setCurrentIndex(file());
+    takeCalls();
+    support::ModalDriver modals;
+    modals.expect(q("generations"), support::isDialog<SelectGenerationDlg>, [](QWidget& dialog) {
+        child<QTableView>(dialog, "listGenerations").selectRow(1);
+        child<QPushButton>(dialog, "buttonSelect").click();
+    });
+    child<QPushButton>(page, "buttonGenerations").click();
+    QVERIFY(modals.done());
+    QCOMPARE(takeCalls().at(1), std::string("BackupSet.prepare_restore(0, 1700000060, 0)"));
+    QCOMPARE(file().data().toString(), q("notes.txt"));
+    QCOMPARE(file().data(Qt::CheckStateRole).toInt(), 2);
+    for (const auto& [box, date] :
+         {std::pair("checkFrom", "dateFrom"), std::pair("checkRemoved", "dateRemoved")}) {
+        QVERIFY(!child<QCheckBox>(page, box).isChecked());
+        QVERIFY(!child<QDateTimeEdit>(page, date).isEnabled());
+    }
 }
 
 void RestoreSelectPageTest::aGenerationOfAFileThatIsCalledLikeAFolder_data() {
