@@ -104,6 +104,7 @@ bool SelectDataSourcePage::initFromEmptySet(const boost::shared_ptr<hessiancln::
 bool SelectDataSourcePage::initForRestore(const boost::shared_ptr<hessiancln::BackupSet>& set) {
     ui::remoteAction(*window(), tr("Init Error"), ui::Cursor::arrow,
                      [&] { ui_->editComputerName->setText(fromWire(set->getComputerName())); });
+    restoredComputer_ = computerName();
     return true;
 }
 
@@ -160,7 +161,15 @@ void SelectDataSourcePage::applyCredentials(const boost::shared_ptr<hessiancln::
 
 bool SelectDataSourcePage::validatePage() {
     return ui::remoteAction(*window(), tr("Credential check failed"), ui::Cursor::wait,
-                            [this] { currentCredentials()->check(toWire(computerName())); });
+                            [this] { currentCredentials()->check(toWire(computerToCheck())); });
+}
+
+bool SelectDataSourcePage::isComplete() const {
+    return complete_ || purpose_ == Purpose::OtherCredentials;
+}
+
+QString SelectDataSourcePage::computerToCheck() const {
+    return purpose_ == Purpose::OtherCredentials ? restoredComputer_ : computerName();
 }
 
 void SelectDataSourcePage::setComplete(bool complete) {

@@ -59,10 +59,11 @@ public:
     void applyCredentials(const boost::shared_ptr<hessiancln::BackupSet>& set);
 
     /// Says what is asked for; at first, what to back up. For a restore there is no account of the
-    /// agent's own.
+    /// agent's own. Other credentials are for the computer of the set, whatever was chosen here
+    /// before.
     void setPurpose(Purpose purpose);
 
-    bool isComplete() const override { return complete_; }
+    bool isComplete() const override;
     /// Lets the agent try the credentials.
     bool validatePage() override;
 
@@ -91,6 +92,7 @@ private:
     void takeNeededCredentials();
     bool showComputerOfFileSet(hessiancln::BackupSet& set);
     void setComplete(bool complete);
+    QString computerToCheck() const;
 
     /// Shows what the present credentials say. To be called whenever the source may be another.
     void refresh();
@@ -109,6 +111,7 @@ private:
     std::unique_ptr<CComputerTreeModel> model_;
     wizards::CachedCredentials cache_;
     Purpose purpose_ = Purpose::Backup;
+    QString restoredComputer_; ///< of the set, if the wizard restores one
     bool complete_ = true;
     bool useClientAccount_ = false; ///< the flag of the credentials, as far as it is known
     bool editing_ = false; ///< an edited name is at the agent, or its failure on the screen

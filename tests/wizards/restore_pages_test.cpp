@@ -83,6 +83,7 @@ private slots:
     void theOriginalPlaceIsTheEnd();
     void theSourcePageIsAskedForCredentials();
     void theSourcePageIsAskedForTheDestination();
+    void otherCredentialsAreForTheSetsComputer();
     void textsOfTheDirectoryPage();
     void theFirstPresetIsOffered();
     void withoutPresetsADirectoryIsWanted();
@@ -200,6 +201,30 @@ void RestorePagesTest::theSourcePageIsAskedForTheDestination() {
                  q("Data will be restored to:"));
         QVERIFY(child<QCheckBox>(pages.source, "chkUseTarnClientAccount").isHidden());
     }
+}
+
+/// What was picked for another computer before doesn't count then, and nobody sees it.
+void RestorePagesTest::otherCredentialsAreForTheSetsComputer() {
+    LocationPages pages(openSet(documents));
+    pages.choose("radioAlternateComputer");
+    pages.location.nextId();
+    child<QPushButton>(pages.source, "btnShowNetDiscovery").setChecked(true);
+    auto& network = child<QTreeView>(pages.source, "treeNetworkDiscovery");
+    network.model()->fetchMore({});
+    network.setCurrentIndex(rowAt(network, "Unix Hosts"));
+    QCOMPARE(pages.source.computerName(), q("Unix Hosts"));
+    QVERIFY(!pages.source.isComplete());
+    pages.choose("radioAlternateDir");
+    pages.location.nextId();
+    QVERIFY(pages.source.isComplete());
+    takeCalls();
+    QVERIFY(pages.source.validatePage());
+    QCOMPARE(takeCalls(), (Calls{"DataSourceBrowser.getCurrentCredentials()",
+                                 "BackupSetCredentials.check(\"My Computer\")"}));
+    pages.choose("radioAlternateComputer");
+    pages.location.nextId();
+    QCOMPARE(pages.source.computerName(), q("Unix Hosts"));
+    QVERIFY(!pages.source.isComplete());
 }
 
 void RestorePagesTest::textsOfTheDirectoryPage() {
