@@ -1,16 +1,19 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 #include <QCheckBox>
+#include <QLineEdit>
 #include <QSpinBox>
 #include <QTextDocument>
 #include <QTimeEdit>
 
 #include "tests/support/gui_form_texts.h"
 #include "tests/wizards/page_fixture.h"
+#include "wizards/delete_select_page.h"
 #include "wizards/items_select_page.h"
 #include "wizards/retention_select_page.h"
 #include "wizards/schedule_select_page.h"
 
+using support::compareBuddies;
 using support::compareIcon;
 using support::compareTexts;
 using support::entriesOf;
@@ -35,7 +38,8 @@ void compareRanges(QWidget& page, std::initializer_list<Range> ranges) {
 
 } // namespace
 
-/// What stands on the pages for items, schedule and retention before anything is typed.
+/// What stands on the pages for items, schedule, retention and what is deleted before anything is
+/// typed.
 class PageFormsTest : public QObject, private PageFixture {
     Q_OBJECT
 private slots:
@@ -49,6 +53,8 @@ private slots:
     void rangesOfTheSchedulePage();
     void textsOfTheRetentionPage();
     void rangesOfTheRetentionPage();
+    void textsOfTheDeletePage();
+    void rangesOfTheDeletePage();
 };
 
 void PageFormsTest::textsOfTheItemsPage() {
@@ -177,6 +183,34 @@ void PageFormsTest::rangesOfTheRetentionPage() {
                           {"spinCleanupAfterPeriod", 0, 999, 30},
                           {"spinCleanupKeepGens", 0, 999, 0},
                           {"spinLocalKeepAllGens", 1, 30, 1}});
+}
+
+void PageFormsTest::textsOfTheDeletePage() {
+    DeleteSelectPage page(openSet(documents));
+    QCOMPARE(page.windowTitle(), QStringLiteral("Delete Items"));
+    QCOMPARE(page.title(), QStringLiteral("Select Items"));
+    QCOMPARE(page.subTitle(), QStringLiteral("Select the files and/or directories to delete from "
+                                             "the backup set storage"));
+    compareTexts(page, {{"groupItems", "Items to Delete"},
+                        {"labelFilter", "File F&ilter:"},
+                        {"groupFilter", "Fil&ter:"},
+                        {"checkFrom", "Backed up on/&after:"},
+                        {"checkRemoved", "Only files &removed since:"},
+                        {"checkTo", "Backed up on/&before:"},
+                        {"checkKeep", "Do not delete the &last:"}});
+    compareBuddies(page, {{"labelFilter", "editFilter"}});
+    QCOMPARE(support::child<QLineEdit>(page, "editFilter").text(), QStringLiteral("*"));
+}
+
+void PageFormsTest::rangesOfTheDeletePage() {
+    DeleteSelectPage page(openSet(documents));
+    compareRanges(page, {{"spinKeep", 1, 99, 1}});
+    QCOMPARE(support::child<QSpinBox>(page, "spinKeep").suffix(), QStringLiteral(" generation(s)"));
+    for (const char* name : {"dateFrom", "dateTo", "dateRemoved"}) {
+        const auto& date = support::child<QDateTimeEdit>(page, name);
+        QCOMPARE(date.displayFormat(), QStringLiteral("M/d/yy HH:mm"));
+        QVERIFY(date.calendarPopup());
+    }
 }
 
 QTEST_MAIN(PageFormsTest)
