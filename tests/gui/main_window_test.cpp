@@ -38,6 +38,14 @@ const QString kPlainTitle = QStringLiteral("Ostrand Backup");
 const QString kTerminated = QStringLiteral("Current connection terminated");
 const QString kNoConnection = QStringLiteral("No API connection exists");
 
+const QStringList kSwitched = QStringLiteral("menu_Backup_Set menu_Configuration actionAdmin "
+                                             "actionLogout buttonEventLog dateTimeFrom dateTimeTo "
+                                             "actionLogin actionNew_Backup_Set actionBackup_Now "
+                                             "actionRestore actionDeleteFromOnline "
+                                             "actionSynchronize buttonStop pageProperties "
+                                             "actionTFASettings")
+                                  .split(QLatin1Char(' '));
+
 QString currentUser() {
     return session::fromWire(session::currentWindowsUser());
 }
@@ -232,6 +240,23 @@ private slots:
         QVERIFY(!isEnabled("actionDeleteFromOnline"));
     }
 
+    void theSessionDecidesWhatIsEnabled() {
+        GuiAgent agent;
+        QCOMPARE(enabled(), QStringList{QStringLiteral("actionLogin")});
+        window().doLogin(true);
+        view().selectRow(0);
+        child<QTableView>(window(), "tableCurrentActivities").selectRow(0);
+        QStringList all = kSwitched;
+        all.removeOne(QStringLiteral("actionLogin"));
+        all.removeOne(QStringLiteral("actionTFASettings"));
+        QCOMPARE(enabled(), all);
+        child<QTableView>(window(), "tableCurrentActivities").clearSelection();
+        all.removeOne(QStringLiteral("buttonStop"));
+        QCOMPARE(enabled(), all);
+        window().OnDisconnect();
+        QCOMPARE(enabled(), QStringList{QStringLiteral("actionLogin")});
+    }
+
     void centralManagementIsReadUnderBothNames_data() {
         QTest::addColumn<QString>("name");
         QTest::newRow("English") << QStringLiteral("Centrally Managed Backup Policy");
@@ -245,12 +270,17 @@ private slots:
         window().doLogin(true);
         QVERIFY(session::g_isCentrallyManaged);
         QVERIFY(!isEnabled("actionNew_Backup_Set"));
-        QVERIFY(!child<QWidget>(window(), "btnItems").isEnabled());
+        view().selectRow(0);
+        QVERIFY(child<QWidget>(window(), "pageProperties").isEnabled());
+        for (const char* name : {"btnItems", "btnSchedule", "btnRetention"})
+            QVERIFY2(!child<QWidget>(window(), name).isEnabled(), name);
 
         agent.withWorld([&](World& world) { world.about = {{wire, "yes"}}; });
         beat();
         QVERIFY(!session::g_isCentrallyManaged);
         QVERIFY(isEnabled("actionNew_Backup_Set"));
+        for (const char* name : {"btnItems", "btnSchedule", "btnRetention"})
+            QVERIFY2(child<QWidget>(window(), name).isEnabled(), name);
     }
 
     void centralManagementIsReadFromTheFirstSuchRowAndKeptWithoutOne() {
@@ -363,6 +393,14 @@ private:
     QStringList sets() { return driver_->cards(); }
     bool isEnabled(const char* action) { return driver_->isEnabled(action); }
     QString status() { return driver_->status(); }
+    /// What is enabled of all that is ever switched, less the buttons in the details.
+    QStringList enabled() {
+        QStringList names;
+        for (const QString& name : kSwitched)
+            if (window().findChild<QObject*>(name)->property("enabled").toBool())
+                names << name;
+        return names;
+    }
     void beat() { driver_->beat(); }
 
     static int calls(const GuiAgent& agent, const char* method) {
