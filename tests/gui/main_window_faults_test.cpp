@@ -86,6 +86,8 @@ private slots:
     void theDetailsShowABox_data();
     void theDetailsShowABox();
     void aLastingFailureOfTheDetailsHasOneBoxAtATime();
+    void theSessionMayEndUnderTheBoxOfTheDetails_data();
+    void theSessionMayEndUnderTheBoxOfTheDetails();
     void aSetThatIsNoneIsToldOfToo();
     void anAgentWithoutTwoFactorManagerEndsTheSession();
     void aFailureAtLoginLeavesADisconnectedWindow();
@@ -236,6 +238,37 @@ void MainWindowFaultsTest::aLastingFailureOfTheDetailsHasOneBoxAtATime() {
     agent_->clearInjections();
     driver_->beat();
     QVERIFY(modals.done());
+}
+
+void MainWindowFaultsTest::theSessionMayEndUnderTheBoxOfTheDetails_data() {
+    QTest::addColumn<bool>("byMouse");
+    QTest::newRow("opened by a heartbeat") << false;
+    QTest::newRow("opened by a press of the mouse") << true;
+}
+
+void MainWindowFaultsTest::theSessionMayEndUnderTheBoxOfTheDetails() {
+    QFETCH(bool, byMouse);
+    inject(QStringLiteral("getOverview"), simulator::Fault{"Out of order."});
+    ModalDriver modals;
+    modals.expect(QStringLiteral("box"), isDialog<QMessageBox>, [&](QWidget& box) {
+        inject(QStringLiteral("getTarnClientInfo"), simulator::Fault{"Out of order."});
+        driver_->beat();
+        checkSessionHasEnded();
+        QTest::mouseClick(static_cast<QMessageBox&>(box).button(QMessageBox::Ok), Qt::LeftButton);
+    });
+    if (byMouse) {
+        const auto& sets = driver_->sets();
+        QTest::mousePress(sets.viewport(), Qt::LeftButton, {},
+                          sets.visualRect(sets.model()->index(1, 0)).center());
+    } else {
+        driver_->beat();
+    }
+    QVERIFY(modals.done());
+    QCOMPARE(driver_->status(), QStringLiteral("No API connection exists"));
+    checkSessionHasEnded();
+    QTest::mouseRelease(driver_->sets().viewport(), Qt::LeftButton);
+    driver_->logIn(*agent_);
+    QCOMPARE(driver_->cards(), cardsOf(*agent_));
 }
 
 void MainWindowFaultsTest::aSetThatIsNoneIsToldOfToo() {
