@@ -27,16 +27,18 @@ private:
 } // namespace
 
 void fill(QLineEdit& field, const QString& secret) {
-    const Silence silence;
-    field.setText(secret);
+    QString held = field.text();
+    {
+        const Silence silence;
+        field.setText(secret);
+    }
+    // The field has let go of it, so that it is ours alone.
+    wipe(held);
 }
 
 void wipe(QLineEdit& field) {
-    QString text = field.text();
-    // The field lets go of what it held, which is then ours alone. Clearing it would note each
-    // character for an undo.
+    // Clearing it would note each character for an undo.
     fill(field, QString());
-    wipe(text);
 }
 
 } // namespace config

@@ -9,10 +9,11 @@ class QString;
 /// even if the field hides it; these functions announce nothing.
 namespace config {
 
+/// Overwrites what the field held, unless somebody else shares it. What Qt has noted on its own way
+/// stays: the events of the keyboard, and the characters that were typed one by one.
 void fill(QLineEdit& field, const QString& secret);
 
-/// Empties the field, and overwrites what it held unless somebody else shares it. What Qt has noted
-/// on its own way stays: the events of the keyboard, and the characters that were typed one by one.
+/// Empties the field in the same way.
 void wipe(QLineEdit& field);
 
 } // namespace config

@@ -30,6 +30,12 @@ QStringList words(const char* text) {
     return q(text).split(QLatin1Char(';'));
 }
 
+/// A key that ends in the secret. Memory that is given back is used again from its beginning, and
+/// the sooner the smaller it is.
+std::string longKey(const std::string& secret) {
+    return std::string(4000, '.') + secret;
+}
+
 /// Keeps what is written to the log while it lives.
 class LogKeeper {
 public:
@@ -63,12 +69,15 @@ private slots:
     void theAdminTimes();
     void theAccount();
     void theRecovery();
+    void tabFollowsTheEye_data();
+    void tabFollowsTheEye();
 
     void keysAreNeverTold();
     void passwordsAreNeverTold();
     void fieldsAreFilledAndWipedWithoutAWord();
     void keysLeaveTheMemory_data();
     void keysLeaveTheMemory();
+    void keysThatWereReadInVainLeaveTheMemory();
 
 private:
     /// Opens the dialog that the slot leads to, has a look, and closes it.
@@ -205,7 +214,9 @@ void DialogFormsTest::theAdminTimes() {
         QCOMPARE(wizard.currentPage()->title(), q("Admin Configuration"));
         QCOMPARE(wizard.currentPage()->subTitle(),
                  q("Tarn-Client daily/weekly admin configuration "));
-        QVERIFY(!wizard.pixmap(QWizard::WatermarkPixmap).isNull());
+        QVERIFY(!wizard.windowIcon().isNull());
+        QCOMPARE(wizard.pixmap(QWizard::WatermarkPixmap).toImage(),
+                 QPixmap(q(":/images/wizard_retention")).toImage());
         QCOMPARE(wizard.button(QWizard::FinishButton)->text(), q("&Finish"));
         QCOMPARE(wizard.button(QWizard::CancelButton)->text(), q("&Cancel"));
         compareTexts(wizard, {{"groupAdmin", "Admin Process"},
@@ -254,6 +265,47 @@ void DialogFormsTest::theRecovery() {
                                              {QDialogButtonBox::Cancel, ":/button/cancel"}})
             QCOMPARE(box.button(which)->icon().pixmap(16).toImage(),
                      QIcon(q(picture)).pixmap(16).toImage());
+    });
+}
+
+void DialogFormsTest::tabFollowsTheEye_data() {
+    QTest::addColumn<QString>("slot");
+    QTest::addColumn<QString>("order");
+    QTest::newRow("registration")
+        << q("on_actionRegistration_Info_triggered")
+        << q("txtFieldCustomer;txtFieldAccountNum;txtFieldClientNum;btnBrowse;"
+             "txtFieldInputAddress;btnAdd;listBoxAddress;btnRemove;cmbPrivateKeyType;"
+             "txtFieldPrivateKey;txtFieldPrivateKeyConfirm;cmbAccountKeyType;txtFieldAccountKey;"
+             "txtFieldAccountKeyConfirm;chkForwardKey;cmbCountry;cmbEmployees;cmbIndustry;"
+             "chkRegister;btnSave;btnCancel");
+    QTest::newRow("account") << q("on_actionLDAP_Account_triggered")
+                             << q("editUser;editPassword;editConfirm;editDomain;btnSave;btnCancel;"
+                                  "btnValidate");
+    QTest::newRow("times") << q("on_actionAdmin_triggered")
+                           << q("checkDaily;timeDaily;btnDaily;checkWeekly;timeWeekly;comboDays;"
+                                "btnWeekly");
+    QTest::newRow("registering again")
+        << q("on_actionRegister_triggered") << q("btnRegister;btnClose");
+    QTest::newRow("recovery") << q("on_action_Recovery_triggered")
+                              << q("radioOrphanedSet;radioDatabase");
+}
+
+void DialogFormsTest::tabFollowsTheEye() {
+    QFETCH(QString, slot);
+    QFETCH(QString, order);
+    const QStringList names = order.split(QLatin1Char(';'));
+    look<QDialog>(qPrintable(slot), [&names](QWidget& dialog) {
+        QCoreApplication::processEvents();
+        auto* const start = dialog.findChild<QWidget*>(names.first());
+        QVERIFY(start);
+        QStringList found;
+        QWidget* widget = start;
+        do {
+            if (names.contains(widget->objectName()))
+                found << widget->objectName();
+            widget = widget->nextInFocusChain();
+        } while (widget != start);
+        QCOMPARE(found, names);
     });
 }
 
@@ -328,27 +380,47 @@ void DialogFormsTest::fieldsAreFilledAndWipedWithoutAWord() {
 
 void DialogFormsTest::keysLeaveTheMemory_data() {
     QTest::addColumn<QString>("slot");
-    QTest::newRow("registration") << q("on_actionRegistration_Info_triggered");
-    QTest::newRow("account") << q("on_actionLDAP_Account_triggered");
+    QTest::addColumn<QString>("end");
+    const QString registration = q("on_actionRegistration_Info_triggered");
+    QTest::newRow("registration, cancelled") << registration << q("btnCancel");
+    QTest::newRow("registration, saved") << registration << q("btnSave");
+    QTest::newRow("registration, with another key from a file") << registration << q("a.cri");
+    QTest::newRow("account") << q("on_actionLDAP_Account_triggered") << q("btnCancel");
 }
 
 void DialogFormsTest::keysLeaveTheMemory() {
     if (!memory_scan::isPossible())
         QSKIP("the memory of the process can't be read");
     QFETCH(QString, slot);
+    QFETCH(QString, end);
     const std::string secret = memory_scan::randomSecret();
     change([&secret](World& world) {
-        world.registration.private_key = secret;
-        world.configuration.directoryAccount.password = secret;
+        world.registration.private_key = longKey(secret);
+        world.configuration.directoryAccount.password = longKey(secret);
     });
-    modals().expect(slot, isDialog<QDialog>, [&secret](QWidget& dialog) {
+    modals().expect(slot, isDialog<QDialog>, [&](QWidget& dialog) {
         const bool account = qobject_cast<ADAccountDlg*>(&dialog) != nullptr;
         auto& field = child<QLineEdit>(dialog, account ? "editPassword" : "txtFieldPrivateKey");
-        QTRY_COMPARE(static_cast<std::size_t>(field.text().size()), secret.size());
+        QTRY_VERIFY(!field.text().isEmpty());
         QVERIFY(memory_scan::holds(secret));
-        press(dialog, "btnCancel");
+        if (end == q("btnSave"))
+            expectSaved();
+        if (end == q("a.cri"))
+            import(dialog, "a.cri", "PrivateEncKey=another key\n");
+        press(dialog, end == q("btnSave") ? "btnSave" : "btnCancel");
     });
     test_.run(qPrintable(slot));
+    QVERIFY(!memory_scan::holds(secret));
+}
+
+void DialogFormsTest::keysThatWereReadInVainLeaveTheMemory() {
+    if (!memory_scan::isPossible())
+        QSKIP("the memory of the process can't be read");
+    const std::string secret = memory_scan::randomSecret();
+    change([&secret](World& world) { world.registration.private_key = longKey(secret); });
+    failAfter(*test_.agent, 0, "getUserInfo");
+    modals().expectErrorBox(q("Configuration Error"), q("Out of order."));
+    test_.run("on_actionRegistration_Info_triggered");
     QVERIFY(!memory_scan::holds(secret));
 }
 
