@@ -273,10 +273,14 @@ const std::array<Country, countryCount>& countries() {
 std::vector<NamedCountry> countriesFor(const QLocale& language) {
     std::vector<NamedCountry> named;
     named.reserve(countryCount);
-    for (const Country& country : kCountries)
-        named.push_back(
-            {country.code, QCoreApplication::translate("InitClntCfgDlg", country.name)});
-    sortFor(language, named);
+    bool translated = false;
+    for (const auto& [code, english] : kCountries) {
+        named.push_back({code, QCoreApplication::translate("InitClntCfgDlg", english)});
+        translated = translated || named.back().name != QString::fromUtf8(english);
+    }
+    // A language without a translation is one that nobody reads here.
+    if (translated)
+        sortFor(language, named);
     return named;
 }
 

@@ -28,7 +28,7 @@ struct NamedCountry {
 };
 
 /// The countries as a reader of that language looks for them. English names keep the order that
-/// they have in `countries`.
+/// they have in `countries`, also where a language has no translation.
 std::vector<NamedCountry> countriesFor(const QLocale& language);
 
 /// The same for names that are given.

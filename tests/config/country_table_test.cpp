@@ -35,6 +35,49 @@ const std::map<std::string, QString> kRenamed{
     {"Turkey", QStringLiteral("TUR")},
 };
 
+/// The names in their order, as they are promised.
+const char* const kNames =
+    "Afghanistan;Åland Islands;Albania;Algeria;American Samoa;Andorra;Angola;Anguilla;"
+    "Antarctica;Antigua and Barbuda;Argentina;Armenia;Aruba;Australia;Austria;Azerbaijan;"
+    "Bahamas;Bahrain;Bangladesh;Barbados;Belarus;Belgium;Belize;Benin;Bermuda;Bhutan;"
+    "Bolivia, Plurinational State of;Bonaire, Sint Eustatius and Saba;"
+    "Bosnia and Herzegovina;Botswana;Bouvet Island;Brazil;British Indian Ocean Territory;"
+    "Brunei Darussalam;Bulgaria;Burkina Faso;Burundi;Cambodia;Cameroon;Canada;Cape Verde;"
+    "Cayman Islands;Central African Republic;Chad;Chile;China;Christmas Island;"
+    "Cocos (Keeling) Islands;Colombia;Comoros;Congo;Congo, the Democratic Republic of the;"
+    "Cook Islands;Costa Rica;Côte d'Ivoire;Croatia;Cuba;Curaçao;Cyprus;Czech Republic;"
+    "Denmark;Djibouti;Dominica;Dominican Republic;Ecuador;Egypt;El Salvador;"
+    "Equatorial Guinea;Eritrea;Estonia;Ethiopia;Falkland Islands (Malvinas);Faroe Islands;"
+    "Fiji;Finland;France;French Guiana;French Polynesia;French Southern Territories;Gabon;"
+    "Gambia;Georgia;Germany;Ghana;Gibraltar;Greece;Greenland;Grenada;Guadeloupe;Guam;"
+    "Guatemala;Guernsey;Guinea;Guinea-Bissau;Guyana;Haiti;"
+    "Heard Island and McDonald Islands;Holy See (Vatican City State);Honduras;Hong Kong;"
+    "Hungary;Iceland;India;Indonesia;Iran, Islamic Republic of;Iraq;Ireland;Isle of Man;"
+    "Israel;Italy;Jamaica;Japan;Jersey;Jordan;Kazakhstan;Kenya;Kiribati;"
+    "Korea, Democratic People's Republic of;Korea, Republic of;Kuwait;Kyrgyzstan;"
+    "Lao People's Democratic Republic;Latvia;Lebanon;Lesotho;Liberia;Libya;Liechtenstein;"
+    "Lithuania;Luxembourg;Macao;Macedonia, the former Yugoslav Republic of;Madagascar;"
+    "Malawi;Malaysia;Maldives;Mali;Malta;Marshall Islands;Martinique;Mauritania;Mauritius;"
+    "Mayotte;Mexico;Micronesia, Federated States of;Moldova, Republic of;Monaco;Mongolia;"
+    "Montenegro;Montserrat;Morocco;Mozambique;Myanmar;Namibia;Nauru;Nepal;Netherlands;"
+    "New Caledonia;New Zealand;Nicaragua;Niger;Nigeria;Niue;Norfolk Island;"
+    "Northern Mariana Islands;Norway;Oman;Pakistan;Palau;Palestine, State of;Panama;"
+    "Papua New Guinea;Paraguay;Peru;Philippines;Pitcairn;Poland;Portugal;Puerto Rico;Qatar;"
+    "Réunion;Romania;Russian Federation;Rwanda;Saint Barthélemy;"
+    "Saint Helena, Ascension and Tristan da Cunha;Saint Kitts and Nevis;Saint Lucia;"
+    "Saint Martin (French part);Saint Pierre and Miquelon;Saint Vincent and the Grenadines;"
+    "Samoa;San Marino;Sao Tome and Principe;Saudi Arabia;Senegal;Serbia;Seychelles;"
+    "Sierra Leone;Singapore;Sint Maarten (Dutch part);Slovakia;Slovenia;Solomon Islands;"
+    "Somalia;South Africa;South Georgia and the South Sandwich Islands;South Sudan;Spain;"
+    "Sri Lanka;Sudan;Suriname;Svalbard and Jan Mayen;Swaziland;Sweden;Switzerland;"
+    "Syrian Arab Republic;Taiwan, Province of China;Tajikistan;"
+    "Tanzania, United Republic of;Thailand;Timor-Leste;Togo;Tokelau;Tonga;"
+    "Trinidad and Tobago;Tunisia;Turkey;Turkmenistan;Turks and Caicos Islands;Tuvalu;"
+    "Uganda;Ukraine;United Arab Emirates;United Kingdom;United States;"
+    "United States Minor Outlying Islands;Uruguay;Uzbekistan;Vanuatu;"
+    "Venezuela, Bolivarian Republic of;Viet Nam;Virgin Islands, British;"
+    "Virgin Islands, U.S.;Wallis and Futuna;Western Sahara;Yemen;Zambia;Zimbabwe";
+
 bool isNameOf(const QJsonObject& country, const char* name) {
     if (const auto renamed = kRenamed.find(name); renamed != kRenamed.end())
         return country[QLatin1String("alpha_3")].toString() == renamed->second;
@@ -59,6 +102,13 @@ TEST(CountryTable, HoldsEachCountryOnce) {
     for (const config::Country& country : config::countries())
         codes.insert(country.code);
     EXPECT_EQ(codes.size(), 249U);
+}
+
+TEST(CountryTable, HasThePromisedNamesInTheirOrder) {
+    QStringList names;
+    for (const config::Country& country : config::countries())
+        names << QString::fromUtf8(country.name);
+    EXPECT_EQ(names.join(QLatin1Char(';')).toStdString(), kNames);
 }
 
 TEST(CountryTable, HasTheCodesOfTheStandard) {
@@ -110,6 +160,14 @@ TEST(CountryTable, KeepsItsOrderInEnglish) {
             EXPECT_EQ(named[row].name, QString::fromUtf8(config::countries()[row].name));
         }
     }
+}
+
+TEST(CountryTable, KeepsItsOrderWhereNothingIsTranslated) {
+    // A Swede looks for Åland behind Zimbabwe, but not in a list in English.
+    const auto named = config::countriesFor(QLocale(QLocale::Swedish));
+    ASSERT_EQ(named.size(), config::countryCount);
+    EXPECT_EQ(named[1].name, QString::fromUtf8("Åland Islands"));
+    EXPECT_EQ(named.back().name, QStringLiteral("Zimbabwe"));
 }
 
 TEST(CountryTable, IsSortedAsAReaderOfTheLanguageExpects) {
