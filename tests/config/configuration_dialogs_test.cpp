@@ -111,6 +111,7 @@ void ConfigurationDialogsTest::theAccountIsReadAndSaved() {
     expectAccount([this](QWidget& dialog) {
         QCOMPARE(dialog.windowTitle(), q("Modify LDAP User Account"));
         QCOMPARE(dialog.parentWidget(), &test_.driver->window());
+        QVERIFY(!dialog.windowIcon().isNull());
         QCOMPARE(text(dialog, "editDomain"), q("OFFICE"));
         QCOMPARE(text(dialog, "editUser"), q("backup"));
         QCOMPARE(text(dialog, "editPassword"), q("correct horse"));
@@ -122,7 +123,7 @@ void ConfigurationDialogsTest::theAccountIsReadAndSaved() {
         expectNews(modals(), "LDAP User Validation",
                    "LDAP User Information is saved successfully.");
         press(dialog, "btnSave");
-        QCOMPARE(static_cast<QDialog&>(dialog).result(), int(ADAccountDlg::saved));
+        QCOMPARE(static_cast<QDialog&>(dialog).result(), 1);
         QCOMPARE(text(dialog, "editPassword"), QString());
     });
     openAccount();
@@ -137,7 +138,7 @@ void ConfigurationDialogsTest::theAccountIsValidated() {
         expectNews(modals(), "LDAP User Validation",
                    "LDAP User Information is validated successfully.");
         press(dialog, "btnValidate");
-        QCOMPARE(static_cast<QDialog&>(dialog).result(), int(ADAccountDlg::validated));
+        QCOMPARE(static_cast<QDialog&>(dialog).result(), 2);
         QVERIFY(!dialog.isVisible());
     });
     openAccount();
@@ -204,7 +205,7 @@ void ConfigurationDialogsTest::theAccountIsChecked() {
 void ConfigurationDialogsTest::cancellingTheAccountSendsNothing() {
     expectAccount([](QWidget& dialog) {
         press(dialog, "btnCancel");
-        QCOMPARE(static_cast<QDialog&>(dialog).result(), int(ADAccountDlg::cancelled));
+        QCOMPARE(static_cast<QDialog&>(dialog).result(), 0);
     });
     openAccount();
     compareCalls(kReadAccount);

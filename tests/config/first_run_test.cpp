@@ -38,6 +38,8 @@ private slots:
     void aFaultAtTheFirstRunDisconnects();
     void aFaultAtSavingLeavesItOpen_data();
     void aFaultAtSavingLeavesItOpen();
+    void aSecondPressSavesAllAgain();
+    void aSessionThatEndsMeanwhileIsToldAtSaving();
 
 private:
     /// Fills in all, asks for the registration, and saves. The daily work may then fail to start.
@@ -51,7 +53,7 @@ private:
             if (failing)
                 modals().expectErrorBox(q("Error"), q("Out of order."));
             press(dialog, "btnSave");
-            QCOMPARE(static_cast<QDialog&>(dialog).result(), int(InitClntCfgDlg::registered));
+            QCOMPARE(static_cast<QDialog&>(dialog).result(), 2);
         });
     }
 };
@@ -59,6 +61,8 @@ private:
 void FirstRunTest::theFirstRunIsSaved() {
     expectDialog([this](QWidget& dialog) {
         QCOMPARE(dialog.windowTitle(), q("Initial Tarn-Client Configuration"));
+        QCOMPARE(dialog.parentWidget(), &test_.driver->window());
+        QVERIFY(!dialog.windowIcon().isNull());
         for (const char* group : {"grpPrivateKey", "grpAccountKey", "grpUserInfo"})
             QVERIFY2(isEnabled(dialog, group), group);
         for (const char* combo : {"cmbCountry", "cmbEmployees", "cmbIndustry"})
@@ -126,7 +130,7 @@ void FirstRunTest::cancellingTheFirstRunDisconnects() {
             dialog.close();
         else
             press(dialog, "btnCancel");
-        QCOMPARE(static_cast<QDialog&>(dialog).result(), int(InitClntCfgDlg::cancelled));
+        QCOMPARE(static_cast<QDialog&>(dialog).result(), 0);
     });
     firstRun();
     compareCalls(kCheck + kRead + kLogout);
@@ -214,6 +218,47 @@ void FirstRunTest::aFaultAtSavingLeavesItOpen() {
     firstRun();
     compareCalls(first(calls, kFirstRun) + kLogout);
     QCOMPARE(test_.agent->waitingInjections(), std::size_t{0});
+}
+
+void FirstRunTest::aSecondPressSavesAllAgain() {
+    failAfter(*test_.agent, 0, "init_register");
+    expectDialog([this](QWidget& dialog) {
+        fill(dialog);
+        press(dialog, "chkRegister");
+        modals().expectErrorBox(q("Configuration Error"), q("Out of order."));
+        press(dialog, "btnSave");
+        expectNews(modals(), "Configuration",
+                   "Tarn-Client Registration Information is saved and registered successfully.");
+        press(dialog, "btnSave");
+        QVERIFY(!dialog.isVisible());
+    });
+    firstRun();
+    const Calls saving =
+        kManager + sentFilled() + kUserInfoSent + Calls{"ClientConfiguration.init_register()"};
+    const Calls expected = kCheck + kRead + saving + saving + kManager +
+                           Calls{"ClientConfiguration.start_daily_admin()"};
+    QCOMPARE(first(static_cast<int>(expected.size()), callsOf(*test_.agent)), expected);
+    change([](World& world) { QCOMPARE(world.configuration.registrations, 1); });
+}
+
+void FirstRunTest::aSessionThatEndsMeanwhileIsToldAtSaving() {
+    expectDialog([this](QWidget& dialog) {
+        fill(dialog);
+        failAfter(*test_.agent, 0, "getTarnClientInfo");
+        test_.quiet->letPass = true;
+        test_.driver->beat();
+        test_.quiet->letPass = false;
+        QVERIFY(!session::connectedToAgent());
+        modals().expectErrorBox(q("Configuration Error"), q("No API connection exists"));
+        press(dialog, "btnSave");
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(text(dialog, "txtFieldPrivateKey"), q("private key"));
+        press(dialog, "btnCancel");
+    });
+    firstRun();
+    // One logout: that of the heartbeat.
+    compareCalls(kCheck + kRead + Calls{"ClientConnection.getTarnClientInfo()"} + kLogout);
+    QCOMPARE(test_.driver->status(), q("Current connection terminated"));
 }
 
 QTEST_MAIN(FirstRunTest)

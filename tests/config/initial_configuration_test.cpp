@@ -23,6 +23,7 @@ private slots:
 
     void whatTheAgentKnowsIsShown();
     void savingSendsIt();
+    void registeringWhatIsThereStartsNothing();
     void theAccountKeyIsSetOnce_data();
     void theAccountKeyIsSetOnce();
     void anOldCipherIsSentByItsNewNumber();
@@ -69,7 +70,7 @@ void InitialConfigurationTest::whatTheAgentKnowsIsShown() {
             QVERIFY2(!isEnabled(dialog, group), group);
         QVERIFY(!isChecked(dialog, "chkRegister"));
         press(dialog, "btnCancel");
-        QCOMPARE(static_cast<QDialog&>(dialog).result(), int(InitClntCfgDlg::cancelled));
+        QCOMPARE(static_cast<QDialog&>(dialog).result(), 0);
     });
     modify();
     compareCalls(kRead);
@@ -82,7 +83,7 @@ void InitialConfigurationTest::savingSendsIt() {
         type(dialog, "txtFieldClientNum", "a4c10093170z");
         expectSaved();
         press(dialog, "btnSave");
-        QCOMPARE(static_cast<QDialog&>(dialog).result(), int(InitClntCfgDlg::saved));
+        QCOMPARE(static_cast<QDialog&>(dialog).result(), 1);
         QCOMPARE(text(dialog, "txtFieldClientNum"), q("A4C10093170Z"));
     });
     modify();
@@ -93,6 +94,20 @@ void InitialConfigurationTest::savingSendsIt() {
         QCOMPARE(q(world.registration.private_key.c_str()), q("the quick brown fox"));
         QCOMPARE(q(world.registration.account_key.c_str()), q("jumps over the lazy dog"));
     });
+}
+
+void InitialConfigurationTest::registeringWhatIsThereStartsNothing() {
+    expectDialog([this](QWidget& dialog) {
+        press(dialog, "chkRegister");
+        expectNews(modals(), "Configuration",
+                   "Tarn-Client Registration Information is saved and registered successfully.");
+        press(dialog, "btnSave");
+        QCOMPARE(static_cast<QDialog&>(dialog).result(), 2);
+    });
+    modify();
+    compareCalls(kRead + kManager + sent(kKnown + ", private_key_enc=7, account_key_enc=7") +
+                 Calls{"ClientConfiguration.init_register()"});
+    QVERIFY(session::connectedToAgent());
 }
 
 void InitialConfigurationTest::theAccountKeyIsSetOnce_data() {
@@ -162,6 +177,8 @@ void InitialConfigurationTest::aCustomerThatIsKeptNowhereIsNotSent() {
     change([](World& world) { world.configuration.keepsCustomer = false; });
     expectDialog([this](QWidget& dialog) {
         QVERIFY(isEnabled(dialog, "grpUserInfo"));
+        for (const char* combo : {"cmbCountry", "cmbEmployees", "cmbIndustry"})
+            QCOMPARE(child<QComboBox>(dialog, combo).currentIndex(), -1);
         chooseUserInfo(dialog);
         expectSaved();
         press(dialog, "btnSave");
@@ -211,6 +228,8 @@ void InitialConfigurationTest::countriesAreInTheOrderOfTheLanguage() {
         session::g_language.clear();
         QCoreApplication::removeTranslator(&german);
         QTRY_COMPARE(countries.currentText(), q("Germany"));
+        QCOMPARE(text(dialog, "txtFieldPrivateKey"), q("the quick brown fox"));
+        QCOMPARE(text(dialog, "txtFieldAccountKey"), q("jumps over the lazy dog"));
         press(dialog, "btnCancel");
     });
     modify();

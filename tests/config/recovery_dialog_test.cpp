@@ -39,6 +39,21 @@ void accept(QWidget& dialog) {
     QVERIFY(!dialog.isVisible());
 }
 
+/// The cursors that a widget gets.
+class CursorWatch : public QObject {
+public:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::CursorChange) {
+            const int shape = static_cast<QWidget*>(watched)->cursor().shape();
+            if (shown.isEmpty() || shown.last() != shape)
+                shown << shape;
+        }
+        return false;
+    }
+
+    QList<int> shown;
+};
+
 } // namespace
 
 /// Lost sets and the lost database, brought back from the main window.
@@ -52,6 +67,8 @@ private slots:
     void withoutOrphansOnlyTheDatabaseIsThere();
     void orphansAreRecovered_data();
     void orphansAreRecovered();
+    void recoveringIsWaitedForWithItsCursor_data();
+    void recoveringIsWaitedForWithItsCursor();
     void aFailureLeavesTheRestOfTheOrphans_data();
     void aFailureLeavesTheRestOfTheOrphans();
     void theDatabaseIsRecovered();
@@ -134,6 +151,28 @@ void RecoveryDialogTest::orphansAreRecovered() {
     compareCalls(expected);
     QCOMPARE(test_.setNames().mid(id - count).join(QLatin1Char(' ')),
              count == 1 ? q("A") : q("A B C"));
+}
+
+void RecoveryDialogTest::recoveringIsWaitedForWithItsCursor_data() {
+    QTest::addColumn<bool>("failing");
+    QTest::newRow("to its end") << false;
+    QTest::newRow("up to a failure") << true;
+}
+
+void RecoveryDialogTest::recoveringIsWaitedForWithItsCursor() {
+    QFETCH(bool, failing);
+    addOrphans({"A"});
+    CursorWatch watch;
+    expectRecovery([&](QWidget& dialog) {
+        dialog.installEventFilter(&watch);
+        if (failing) {
+            failAfter(*test_.agent, 0, "start_sync");
+            modals().expectErrorBox(q(kError), q("Out of order."));
+        }
+        accept(dialog);
+    });
+    open();
+    QCOMPARE(watch.shown, (QList<int>{Qt::WaitCursor, Qt::ArrowCursor}));
 }
 
 void RecoveryDialogTest::aFailureLeavesTheRestOfTheOrphans_data() {
