@@ -187,6 +187,7 @@ void BackupSetViewItemTest::aDoubleClickOnTheNameOpensTheEditor() {
     QVERIFY(shown.editor().isVisible());
     QVERIFY(!shown.name().isVisible());
     QVERIFY(shown.editor().hasFocus());
+    QCOMPARE(child<QLayout>(shown.card, "layoutNameAndData").itemAt(0)->widget(), &shown.editor());
     QCOMPARE(shown.editor().text(), QStringLiteral("Documents"));
     QCOMPARE(shown.editor().selectedText(), QStringLiteral("Documents"));
     QCOMPARE(shown.editor().font(), shown.name().font());
@@ -220,6 +221,7 @@ void BackupSetViewItemTest::returnSendsTheTrimmedNameOnce() {
     QVERIFY(!shown.card.editingName());
     QVERIFY(shown.name().isVisible());
     QVERIFY(!shown.editor().isVisible());
+    QVERIFY(shown.card.hasFocus());
     QCOMPARE(shown.name().text(), QStringLiteral("New name"));
 }
 

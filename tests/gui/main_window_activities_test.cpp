@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QMetaMethod>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QTabWidget>
 #include <QTableView>
@@ -89,6 +90,7 @@ private slots:
     void theTablesAreSetUp();
     void theLogAsksForTheTimesShown();
     void theTablesShowWhatTheAgentHas();
+    void theLogKeepsItsPlaceAndItsSelection();
     void backsUpTheSelectedSet();
     void aBackupThatFailsIsTold_data();
     void aBackupThatFailsIsTold();
@@ -204,6 +206,24 @@ void MainWindowActivitiesTest::theTablesShowWhatTheAgentHas() {
     QCOMPARE(running.index(0, 0).data().toString(), QStringLiteral("Backup"));
     QCOMPARE(running.index(0, 4).data().toString(), QStringLiteral("Pictures and Videos"));
     QVERIFY(driver_->rows("tableActivityLog") > 0);
+}
+
+void MainWindowActivitiesTest::theLogKeepsItsPlaceAndItsSelection() {
+    child<QTabWidget>(window(), "tabWidget").setCurrentIndex(1);
+    auto& log = table("tableActivityLog");
+    auto& bar = *log.verticalScrollBar();
+    QTRY_VERIFY(bar.maximum() > 30);
+    log.selectRow(1);
+    bar.setValue(30);
+    log.horizontalScrollBar()->setValue(20);
+    driver_->beat();
+    // The view lays itself out a little later.
+    QCoreApplication::processEvents();
+    QCOMPARE(bar.value(), 30);
+    QCOMPARE(log.horizontalScrollBar()->value(), 20);
+    const QModelIndexList selected = log.selectionModel()->selectedRows();
+    QCOMPARE(selected.size(), 1);
+    QCOMPARE(selected.first().row(), 1);
 }
 
 void MainWindowActivitiesTest::backsUpTheSelectedSet() {

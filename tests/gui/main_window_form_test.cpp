@@ -8,6 +8,7 @@
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QSplitter>
 #include <QTabBar>
 #include <QTabWidget>
@@ -159,6 +160,8 @@ private slots:
     }
 
     void isLaidOutAsItShouldBe() {
+        QCOMPARE(window_->geometry().center(),
+                 QGuiApplication::primaryScreen()->availableGeometry().center());
         window_->show();
         const auto& upDown = child<QSplitter>(*window_, "splitter_2");
         const auto& leftRight = child<QSplitter>(*window_, "splitterSetView");

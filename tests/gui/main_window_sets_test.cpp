@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPointer>
+#include <QScrollBar>
 #include <QTableView>
 #include <QTest>
 
@@ -64,6 +65,8 @@ private slots:
     void theDetailsGoWithTheSelection();
     void theSelectionFollowsItsSet();
     void theRowStaysSelectedWhenItsSetHasGone();
+    void aSelectedSetIsScrolledIntoView();
+    void withoutASelectionTheListStaysWhereItIs();
     void surplusCardsGo();
     void aRowKeepsItsCard();
     void aNewSetIsSelectedOnceItIsListed();
@@ -186,6 +189,28 @@ void MainWindowSetsTest::theRowStaysSelectedWhenItsSetHasGone() {
     QVERIFY(isHighlighted(driver_->card(0)));
     // The details are those of the set that stands there now.
     QCOMPARE(driver_->details().at(1), QStringLiteral("77"));
+}
+
+void MainWindowSetsTest::aSelectedSetIsScrolledIntoView() {
+    auto& sets = driver_->sets();
+    const int last = driver_->cards().size() - 1;
+    sets.selectRow(last);
+    sets.scrollToTop();
+    const QModelIndex index = sets.model()->index(last, 0);
+    QVERIFY(!sets.viewport()->rect().contains(sets.visualRect(index)));
+    driver_->beat();
+    QVERIFY(sets.viewport()->rect().contains(sets.visualRect(index)));
+}
+
+void MainWindowSetsTest::withoutASelectionTheListStaysWhereItIs() {
+    auto& bar = *driver_->sets().verticalScrollBar();
+    QTRY_VERIFY(bar.maximum() > 30);
+    bar.setValue(30);
+    agent_->withWorld([](World& world) { world.addSet(simulator::BackupSetState()); });
+    driver_->beat();
+    // The view lays itself out a little later.
+    QCoreApplication::processEvents();
+    QCOMPARE(bar.value(), 30);
 }
 
 void MainWindowSetsTest::surplusCardsGo() {

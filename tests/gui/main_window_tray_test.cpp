@@ -101,7 +101,9 @@ private:
 
 void MainWindowTrayTest::theTrayIsSetUp() {
     QCOMPARE(tray().toolTip(), QStringLiteral("Tarn-Mobile User"));
-    QVERIFY(!tray().icon().isNull());
+    const QIcon icon(QStringLiteral(":/icons/tarn_mobile_icon"));
+    QVERIFY(!icon.pixmap(64).isNull());
+    QCOMPARE(tray().icon().pixmap(64).toImage(), icon.pixmap(64).toImage());
     QVERIFY(tray().isVisible());
     const QList<QAction*> entries = tray().contextMenu()->actions();
     QCOMPARE(entries.size(), 4);
@@ -235,6 +237,8 @@ void MainWindowTrayTest::aVisibleWindowBehindAnotherOneAnnounces() {
     agent_->withWorld(startBackup);
     driver_->beat();
     QCOMPARE(linesOfBalloons(), QStringList{QStringLiteral("Started - Backup - Documents")});
+    window().showMainWindow();
+    QTRY_VERIFY(window().isActiveWindow());
 }
 
 void MainWindowTrayTest::whatCameAndWentBetweenHeartbeatsIsNeverTold() {
