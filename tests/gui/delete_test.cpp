@@ -87,6 +87,7 @@ private slots:
     void quittingUnderAQuestionDeletesNothing();
     void aFilterThatCantBeSwitchedOnStaysDisabled();
     void eachValueOfTheFilterAsksAnew();
+    void aSetThatGoesUnderTheWizard();
 
 private:
     void start(const std::function<void(World&)>& change, Scenario scenario = Scenario::Default) {
@@ -333,6 +334,25 @@ void DeleteTest::eachValueOfTheFilterAsksAnew() {
         widget.close();
     });
     test_.run("OnDelete");
+}
+
+/// The heartbeats go on behind the wizard, and the card that it was opened for goes with its set.
+void DeleteTest::aSetThatGoesUnderTheWizard() {
+    start([](World& world) { gui::store(world); });
+    test_.driver->sets().selectRow(gui::kRow);
+    const int rows = test_.driver->cards().size();
+    test_.expectWizard([&](QWizardPage& page) {
+        test_.agent->withWorld([](World& world) { world.removeSet(gui::kId); });
+        test_.quiet->letPass = true;
+        test_.driver->beat();
+        test_.quiet->letPass = false;
+        QCOMPARE(test_.driver->cards().size(), rows - 1);
+        gui::check(page, "D:");
+    });
+    test_.modals->expectErrorBox(q("Error"),
+                                 q("The backup set 'Kundenprojekte Müller & Söhne' has gone."));
+    test_.run("OnDelete");
+    QCOMPARE(calls().back(), std::string("DeleteActivityInitiator.start()"));
 }
 
 QTEST_MAIN(DeleteTest)

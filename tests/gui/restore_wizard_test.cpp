@@ -91,6 +91,7 @@ private slots:
     void aGroupThatFailsEndsTheRestore();
     void aGroupThatHoldsNothingRestoresNothing();
     void aSetWithoutDataHasNoWizard();
+    void aHeartbeatUnderTheWizardDoesntDisturbIt();
 
 private:
     void startWith(const std::function<void(World&)>& change);
@@ -370,6 +371,28 @@ void RestoreWizardTest::aSetWithoutDataHasNoWizard() {
     QCOMPARE(
         difference(calls(), {"ClientConnection.backup_set(4)", "BackupSet.getCurrentStatus()"}),
         QString());
+}
+
+void RestoreWizardTest::aHeartbeatUnderTheWizardDoesntDisturbIt() {
+    int pages = 0;
+    test_.expectWizard([&](QWizardPage& page) {
+        wishing({.checked = {"D:"}, .location = "radioAlternateDir", .directory = kDirectory})(
+            page);
+        const QWidget* focus = QApplication::focusWidget();
+        test_.quiet->letPass = true;
+        test_.driver->beat();
+        test_.quiet->letPass = false;
+        QCOMPARE(QApplication::focusWidget(), focus);
+        QVERIFY(page.isVisible() && page.isComplete());
+        ++pages;
+    });
+    test_.run("OnRestore");
+    QCOMPARE(pages, 4);
+    const Calls all = calls();
+    const std::string start = "RestoreActivityInitiator.start(";
+    QCOMPARE(std::count_if(all.begin(), all.end(),
+                           [&](const std::string& call) { return call.starts_with(start); }),
+             1);
 }
 
 QTEST_MAIN(RestoreWizardTest)
