@@ -77,6 +77,7 @@ private slots:
     void fieldsAreFilledAndWipedWithoutAWord();
     void keysLeaveTheMemory_data();
     void keysLeaveTheMemory();
+    void keysOfAFileLeaveTheMemory();
     void keysThatWereReadInVainLeaveTheMemory();
 
 private:
@@ -386,6 +387,7 @@ void DialogFormsTest::keysLeaveTheMemory_data() {
     QTest::newRow("registration, saved") << registration << q("btnSave");
     QTest::newRow("registration, with another key from a file") << registration << q("a.cri");
     QTest::newRow("account") << q("on_actionLDAP_Account_triggered") << q("btnCancel");
+    QTest::newRow("account, sent") << q("on_actionLDAP_Account_triggered") << q("btnValidate");
 }
 
 void DialogFormsTest::keysLeaveTheMemory() {
@@ -405,11 +407,29 @@ void DialogFormsTest::keysLeaveTheMemory() {
         QVERIFY(memory_scan::holds(secret));
         if (end == q("btnSave"))
             expectSaved();
-        if (end == q("a.cri"))
+        if (end == q("btnValidate"))
+            expectNews(modals(), "LDAP User Validation",
+                       "LDAP User Information is validated successfully.");
+        const bool file = end == q("a.cri");
+        if (file)
             import(dialog, "a.cri", "PrivateEncKey=another key\n");
-        press(dialog, end == q("btnSave") ? "btnSave" : "btnCancel");
+        press(dialog, file ? "btnCancel" : qPrintable(end));
     });
     test_.run(qPrintable(slot));
+    QVERIFY(!memory_scan::holds(secret));
+}
+
+void DialogFormsTest::keysOfAFileLeaveTheMemory() {
+    if (!memory_scan::isPossible())
+        QSKIP("the memory of the process can't be read");
+    const std::string secret = memory_scan::randomSecret();
+    expectDialog([&](QWidget& dialog) {
+        import(dialog, "a.cri", QByteArray::fromStdString("AccEncKey=" + longKey(secret) + "\n"));
+        QVERIFY(memory_scan::holds(secret));
+        expectSaved();
+        press(dialog, "btnSave");
+    });
+    modify();
     QVERIFY(!memory_scan::holds(secret));
 }
 
