@@ -11,6 +11,7 @@
 #include "models/select_display_delegate.h"
 #include "session/required.h"
 #include "session/text.h"
+#include "ui/override_cursor.h"
 #include "ui/plain_tool_tip.h"
 #include "ui/wait_cursor.h"
 #include "ui/wizard_frame.h"
@@ -72,7 +73,8 @@ QSize ItemsSelectPage::minimumSizeHint() const {
 }
 
 bool ItemsSelectPage::load(const Set& set) {
-    const ui::WaitCursor waiting(*this);
+    // Over the whole program, as nobody sees the page yet.
+    const ui::OverrideCursor busy;
     if (set->getDataType() != hessiancln::BackupDataType::FileSystem)
         return false;
     set_ = set;
@@ -80,7 +82,7 @@ bool ItemsSelectPage::load(const Set& set) {
 }
 
 void ItemsSelectPage::apply(const Set& set) {
-    const ui::WaitCursor waiting(*this);
+    const ui::OverrideCursor busy;
     set->setItems(wizards::createItems(*required(source_.browser),
                                        session::toWire(source_.computer), paths(),
                                        wizards::expressionsOf(fileTypes())));

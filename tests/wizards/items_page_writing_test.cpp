@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
+#include "api/backup_set.h"
 #include "tests/wizards/items_page_fixture.h"
+#include "transport/i_call_dispatcher.h"
 
 namespace {
 
@@ -35,6 +37,23 @@ Calls operator+(Calls first, const Calls& second) {
     return first;
 }
 
+/// An agent with one set of files, which notes whether the user sees in each call that it takes its
+/// time.
+class WatchingAgent final : public hessiancln::ICallDispatcher {
+public:
+    WatchingAgent()
+        : ICallDispatcher(0, "") {}
+
+    std::string sendRequest(const std::string&, const std::string& request) override {
+        const QCursor* cursor = QGuiApplication::overrideCursor();
+        waited << (cursor && cursor->shape() == Qt::WaitCursor);
+        const bool asksForType = request.find("getDataType") != std::string::npos;
+        return asksForType ? std::string("r\x01\0I\0\0\0\0z", 9) : std::string("r\x01\0z", 4);
+    }
+
+    QVector<bool> waited;
+};
+
 } // namespace
 
 /// What the items page makes of the choice, and that it comes back from a set.
@@ -57,6 +76,7 @@ private slots:
     void rejectedExtensionsSurvive();
     void aSecondWriteReplacesTheFirst();
     void aFaultLeavesTheItemsOfTheSet();
+    void theUserSeesThatItTakesItsTime();
 
 private:
     Calls callsOfWriting(ItemsPageWidgets& page, const Set& set) {
@@ -209,6 +229,18 @@ void ItemsPageWritingTest::aFaultLeavesTheItemsOfTheSet() {
     agent().inject("setCaseSensitive", simulator::Fault{"Not today."});
     QCOMPARE(errorOf([&] { page->apply(set); }), QStringLiteral("Not today."));
     QCOMPARE(itemsOf(projects), before);
+}
+
+void ItemsPageWritingTest::theUserSeesThatItTakesItsTime() {
+    const auto watching = boost::make_shared<WatchingAgent>();
+    const auto set =
+        boost::make_shared<hessiancln::BackupSet>(watching, "set", false, 0u, std::string());
+    PageOfSource page;
+    QVERIFY(page->load(set));
+    QCOMPARE(watching->waited, QVector<bool>{true});
+    page->apply(set);
+    QCOMPARE(watching->waited, (QVector<bool>{true, true}));
+    QVERIFY(!QGuiApplication::overrideCursor());
 }
 
 QTEST_MAIN(ItemsPageWritingTest)
