@@ -11,6 +11,7 @@
 #include "session/connection.h"
 #include "simulator/world/world.h"
 #include "tests/gui/edit_wizard_calls.h"
+#include "tests/support/cursor_watch.h"
 #include "tests/support/gui_wizard.h"
 #include "wizards/retention_task.h"
 
@@ -66,6 +67,7 @@ private slots:
     void itemsOfASetWithoutItems();
     void itemsOfASetThatHoldsNoFiles();
     void itemsOfASetOfUnixFilesFailAtTheCast();
+    void theUserSeesThatWritingItemsTakesItsTime();
     void retention_data();
     void retention();
     void givingUpTheCodeWritesNoRetention();
@@ -209,6 +211,18 @@ void EditWizardsTest::itemsOfASetOfUnixFilesFailAtTheCast() {
     const Calls methods = support::methodsOf(*test_.agent);
     QCOMPARE(std::count(methods.begin(), methods.end(), "setItems"), 1);
     QCOMPARE(std::count(methods.begin(), methods.end(), "setUseVSS"), 0);
+}
+
+void EditWizardsTest::theUserSeesThatWritingItemsTakesItsTime() {
+    test_.start();
+    test_.driver->sets().selectRow(kProjects);
+    support::CursorWatch watch;
+    test_.expectWizard([&](QWizardPage& page) {
+        if (page.isFinalPage())
+            test_.driver->window().installEventFilter(&watch);
+    });
+    test_.run("on_btnItems_clicked");
+    QCOMPARE(watch.shown, support::kWaited);
 }
 
 void EditWizardsTest::retention_data() {

@@ -2,20 +2,28 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <algorithm>
 
+#include <QCheckBox>
 #include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
 #include <QTableView>
 #include <QTest>
+#include <QTreeView>
 
+#include "config/tfa_code_dlg.h"
 #include "resources/pictures.h"
 #include "session/connection.h"
 #include "simulator/world/backup_set_state.h"
 #include "simulator/world/world.h"
 #include "tests/gui/new_set_calls.h"
+#include "tests/support/cursor_watch.h"
+#include "tests/support/gui_tree.h"
 #include "tests/support/gui_wizard.h"
 
 using simulator::Scenario;
 using simulator::World;
 using support::callsOf;
+using support::child;
 using support::difference;
 using support::isDialog;
 using support::ModalDriver;
@@ -70,6 +78,8 @@ private slots:
     void aNewSetOfUnixFilesFailsAtTheCast();
     void aNameThatIsTakenKeepsTheWizardOpen();
     void givingUpTheCodeMakesNoSet();
+    void theUserSeesThatMakingItTakesItsTime();
+    void treesScrollToWhatIsLookedAt();
     void aSessionThatEndsUnderTheWizard();
     void theFirstSetIsOfferedAtLogin();
     void aSetOfADatabaseIsNoFirstSet();
@@ -178,6 +188,64 @@ void NewSetFlowTest::givingUpTheCodeMakesNoSet() {
     test_.run("OnNewBackupSet");
     QCOMPARE(callsOf(*test_.agent).back(), std::string("TFAManager.requestCode(2)"));
     QCOMPARE(test_.setNames(), before);
+}
+
+void NewSetFlowTest::theUserSeesThatMakingItTakesItsTime() {
+    test_.start(Scenario::Default, [](World& world) { world.twoFactor = true; });
+    support::CursorWatch watch;
+    QVector<Qt::CursorShape> whenAskedForTheCode;
+    test_.expectWizard([&](QWizardPage& page) {
+        support::nameNewSet(page);
+        if (page.isFinalPage())
+            test_.driver->window().installEventFilter(&watch);
+    });
+    test_.modals->expect(q("code"), isDialog<TFACodeDlg>, [&](QWidget& dialog) {
+        whenAskedForTheCode = watch.shown;
+        child<QLineEdit>(dialog, "editCode").setText(q("314159"));
+        child<QPushButton>(dialog, "btnValidate").click();
+    });
+    test_.run("OnNewBackupSet");
+    QCOMPARE(whenAskedForTheCode, QVector<Qt::CursorShape>());
+    QCOMPARE(watch.shown, support::kWaited);
+}
+
+void NewSetFlowTest::treesScrollToWhatIsLookedAt() {
+    test_.start(Scenario::Default, [](World& world) {
+        for (int number = 10; number < 90; ++number) {
+            world.network.addContainer("Net " + std::to_string(number));
+            world.network.addContainer("Net " + std::to_string(number) + "\\Inner");
+            world.network.local()->folders.addFolder("E:\\" + std::to_string(number) + "\\sub");
+        }
+    });
+    const auto expand = [](QTreeView& tree, const char* path) {
+        const QModelIndex row = support::rowAt(tree, path);
+        tree.expand(row);
+        QCOMPARE(tree.visualRect(row).top(), 0);
+    };
+    test_.modals->expect(q("wizard"), isDialog<QWizard>, [&](QWidget& widget) {
+        auto& wizard = static_cast<QWizard&>(widget);
+        child<QPushButton>(wizard, "btnShowNetDiscovery").click();
+        auto& network = child<QTreeView>(wizard, "treeNetworkDiscovery");
+        network.model()->fetchMore({});
+        expand(network, "Net 50");
+        wizard.next();
+        child<QRadioButton>(wizard, "radioCustom").click();
+        auto& items = child<QTreeView>(wizard, "treeComputer");
+        items.expand(support::rowAt(items, "E:"));
+        expand(items, "E:/50");
+        child<QRadioButton>(wizard, "radioSpecificLocation").click();
+        wizard.next();
+        child<QCheckBox>(wizard, "chkLocalCopy").click();
+        child<QLineEdit>(wizard, "editLocalPath").setText(q("E:\\70\\"));
+        child<QPushButton>(wizard, "btnLocalPath").click();
+        auto& folders = child<QTreeView>(wizard, "treeAvailableDirectories");
+        const int seen = folders.visualRect(support::rowAt(folders, "E:/70")).center().y();
+        const int height = folders.viewport()->height();
+        QVERIFY2(seen > height / 3 && seen < 2 * height / 3, qPrintable(QString::number(seen)));
+        expand(folders, "E:/30");
+        wizard.reject();
+    });
+    test_.run("OnNewBackupSet");
 }
 
 void NewSetFlowTest::aSessionThatEndsUnderTheWizard() {

@@ -17,6 +17,7 @@
 #include "session/connection.h"
 #include "simulator/world/sources.h"
 #include "simulator/world/world.h"
+#include "tests/support/cursor_watch.h"
 #include "tests/wizards/source_page_driver.h"
 
 using simulator::LoginKind;
@@ -70,6 +71,7 @@ private slots:
 
     void theCredentialsAreCheckedOnNext();
     void aFailedCheckStaysOnThePage();
+    void theUserSeesThatTheCheckTakesItsTime();
 
     void failsWithoutABrowserOrAName();
     void showsWhatFailsAtConstruction();
@@ -384,6 +386,26 @@ void SourcePageTest::aFailedCheckStaysOnThePage() {
     QCOMPARE(session.source.takeCalls(), (Lines{"DataSourceBrowser.getCurrentCredentials()",
                                                 R"(BackupSetCredentials.check("nas01"))"}));
     QCOMPARE(driver.wizard().currentPage(), &driver.page());
+}
+
+void SourcePageTest::theUserSeesThatTheCheckTakesItsTime() {
+    Session session;
+    PageDriver driver;
+    driver.show();
+    support::CursorWatch watch;
+    driver.wizard().installEventFilter(&watch);
+    driver.pressNext();
+    QCOMPARE(watch.shown, support::kWaited);
+    watch.shown.clear();
+    driver.wizard().back();
+    session.source.agent.inject("check", simulator::Fault{"No."});
+    ModalDriver modals;
+    modals.expect(QStringLiteral("box"), support::isDialog<QMessageBox>, [&](QWidget& box) {
+        QCOMPARE(watch.shown, support::kWaited);
+        static_cast<QMessageBox&>(box).accept();
+    });
+    driver.pressNext();
+    QVERIFY(modals.done());
 }
 
 void SourcePageTest::failsWithoutABrowserOrAName() {
