@@ -4,6 +4,7 @@
 #include <QTextDocument>
 #include <QToolTip>
 
+#include "models/select_display_delegate.h"
 #include "tests/wizards/items_page_fixture.h"
 #include "ui/wizard_frame.h"
 
@@ -63,9 +64,10 @@ private slots:
     void anEmptyFieldBlocks();
     void theTreeNeedsASelection();
     void aCheckInTheTreeIsTold();
+    void exclusionsAreDrawnByOneDelegate();
     void theLocationTakesThePlaceItNeeds();
-    void thePatternsStandInToolTips();
     void wrongExtensionsAreExplained();
+    void wrongExtensionsAreNotLeftOut();
 
     void aFaultLeavesThePageAsItWas();
     void aFaultOfASetGoesToTheOneWhoRunsTheWizard();
@@ -371,6 +373,18 @@ void ItemsPageTest::aCheckInTheTreeIsTold() {
     QCOMPARE(changes.count(), 2);
 }
 
+void ItemsPageTest::exclusionsAreDrawnByOneDelegate() {
+    PageOfSource page;
+    const auto delegate = [&] {
+        return qobject_cast<CSelectDisplayDelegate*>(page.tree().itemDelegate());
+    };
+    const CSelectDisplayDelegate* first = delegate();
+    QVERIFY(first);
+    support::child<QLineEdit>(page.source, "editConnectAs").setText(text("somebody else"));
+    page->initializePage();
+    QCOMPARE(delegate(), first);
+}
+
 void ItemsPageTest::theLocationTakesThePlaceItNeeds() {
     PageOfSource page;
     const auto stretch = [&] {
@@ -390,21 +404,6 @@ void ItemsPageTest::theLocationTakesThePlaceItNeeds() {
     QCOMPARE(stretch(), 0);
     QVERIFY(!page.tree().isVisible());
     QVERIFY(page.presets().isEnabled());
-}
-
-void ItemsPageTest::thePatternsStandInToolTips() {
-    ItemsSelectPage page;
-    const auto tip = [&](const char* name) {
-        return support::child<QCheckBox>(page, name).toolTip();
-    };
-    QVERIFY(tip("checkDocuments").startsWith(text("*.accdb, *.accde")));
-    QVERIFY(tip("checkVideo").startsWith(text("*.asf, *.avi")));
-    QVERIFY(tip("checkPictures").startsWith(text("*.ai, *.bmp")));
-    QVERIFY(tip("checkMusic").startsWith(text("*.a3c, *.aac")));
-    QVERIFY(Qt::mightBeRichText(tip("checkEmail")));
-    QVERIFY(tip("checkEmail").contains(text("*.MsMessageStore, *.dbx")));
-    QCOMPARE(tip("checkTempFiles"), text("*.tmp, *.swp"));
-    QCOMPARE(tip("checkBakFiles"), text("*.bak"));
 }
 
 void ItemsPageTest::wrongExtensionsAreExplained() {
@@ -427,6 +426,20 @@ void ItemsPageTest::wrongExtensionsAreExplained() {
     QTest::keyClicks(&field, text("|x"));
     QCOMPARE(field.text().size(), 258);
     QVERIFY(field.hasAcceptableInput());
+    QToolTip::hideText();
+}
+
+void ItemsPageTest::wrongExtensionsAreNotLeftOut() {
+    PageOfSource page;
+    page.box("checkEverything").click();
+    page.box("checkCustomExc").click();
+    QLineEdit& field = page.edit("editCustomExc");
+    QTest::keyClicks(&field, text("abc|"));
+    QCOMPARE(QToolTip::text(), QString());
+    QTest::keyClicks(&field, text("*.d"));
+    QCOMPARE(field.text(), text("abc|d"));
+    QCOMPARE(QToolTip::text(), text("A file extension cannot contain any of the following "
+                                    "characters: \\/:*?\"<>|."));
     QToolTip::hideText();
 }
 

@@ -202,6 +202,10 @@ void OptionsAndNameTest::aFolderIsWantedByEitherBox() {
     click(page, "chkLocalCache");
     QCOMPARE(shown(), 0);
     QVERIFY(page.isComplete());
+    // A page that is entered follows the boxes, whoever checked them.
+    child<QCheckBox>(page, "chkLocalCache").setChecked(true);
+    page.initializePage();
+    QCOMPARE(shown(), 4);
     QVERIFY(page.validatePage());
 }
 
@@ -222,6 +226,8 @@ void OptionsAndNameTest::optionsOfASetAreShown() {
         QVERIFY(child<QPushButton>(page, "btnLocalPath").isChecked());
         QVERIFY(child<QLineEdit>(page, "editLocalPath").isReadOnly());
         QVERIFY(isTreeInFront(page));
+        QVERIFY(!child<QLineEdit>(page, "editLocalPath").isHidden());
+        QVERIFY(!child<QWidget>(page, "labWarning").isHidden());
         QCOMPARE(selectedFolder(page), QStringLiteral("Tower"));
         QCOMPARE(folder(page), QStringLiteral("D:\\Projects\\Tower"));
     }

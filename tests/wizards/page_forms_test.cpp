@@ -12,6 +12,8 @@
 #include "wizards/items_select_page.h"
 #include "wizards/retention_select_page.h"
 #include "wizards/schedule_select_page.h"
+#include "wizards/set_name_page.h"
+#include "wizards/set_options_page.h"
 
 using support::compareBuddies;
 using support::compareIcon;
@@ -53,6 +55,7 @@ private slots:
     void rangesOfTheSchedulePage();
     void textsOfTheRetentionPage();
     void rangesOfTheRetentionPage();
+    void pagesFollowTheLanguage();
     void textsOfTheDeletePage();
     void rangesOfTheDeletePage();
 };
@@ -183,6 +186,35 @@ void PageFormsTest::rangesOfTheRetentionPage() {
                           {"spinCleanupAfterPeriod", 0, 999, 30},
                           {"spinCleanupKeepGens", 0, 999, 0},
                           {"spinLocalKeepAllGens", 1, 30, 1}});
+}
+
+void PageFormsTest::pagesFollowTheLanguage() {
+    ItemsSelectPage items;
+    ScheduleSelectPage schedule;
+    RetentionSelectPage retention;
+    SetOptionsPage options;
+    SetNamePage name;
+    auto& kind = support::child<QCheckBox>(items, "checkMusic");
+    auto& day = support::child<QComboBox>(schedule, "comboStopInDays");
+    auto& unit = support::child<QComboBox>(retention, "comboCleanupAfterUnit");
+    kind.setToolTip({});
+    day.setCurrentIndex(3);
+    unit.setCurrentIndex(2);
+    const std::pair<QWizardPage*, const char*> titles[] = {{&items, "Select Items"},
+                                                           {&schedule, "Select Schedule"},
+                                                           {&retention, "Select Retention"},
+                                                           {&options, "Backup Options"},
+                                                           {&name, "Select Backup Set Name"}};
+    for (const auto& [page, title] : titles) {
+        // The texts of the present language are those that the change brings.
+        page->setTitle({});
+        QEvent change(QEvent::LanguageChange);
+        QCoreApplication::sendEvent(page, &change);
+        QCOMPARE(page->title(), QString::fromUtf8(title));
+    }
+    QVERIFY(kind.toolTip().startsWith(QStringLiteral("*.a3c, ")));
+    QCOMPARE(day.currentText(), QStringLiteral("in 3 days"));
+    QCOMPARE(unit.currentText(), QStringLiteral("month(s)"));
 }
 
 void PageFormsTest::textsOfTheDeletePage() {

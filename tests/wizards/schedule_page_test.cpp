@@ -35,6 +35,7 @@ private slots:
     void aMonthlyScheduleIsShown();
     void aDetailOfAnotherKindLeavesTheType();
     void anEndHourOf30IsTheNextDayAtSix();
+    void anHourlyScheduleWithoutAnEndGetsOne();
     void onlyTheFirstDetailIsShown();
     void whatCannotBeShownIsShownAsTheNearest();
 
@@ -137,6 +138,7 @@ void SchedulePageTest::aWeeklyScheduleIsShown() {
     give(music, "Some days",
          {{ScheduleDetailType::Weekly, 1 + 8 + 64, {21, 45, 0}, {{23, 15, 0}}, 3, 1}});
     Page page;
+    page.radio("radioMonthly").click();
     const Set set = openSet(music);
     page->load(set);
     QCOMPARE(takeCalls(),
@@ -146,6 +148,7 @@ void SchedulePageTest::aWeeklyScheduleIsShown() {
                     "ScheduleDetail.getStartTime()", "ScheduleDetail.hasEndTime()",
                     "ScheduleDetail.getEndTime()", "ScheduleDetail.getHourlyFrequency()"}));
     QCOMPARE(page.checkedType(), name("radioDaily"));
+    QCOMPARE(page.shownDays(), name("frameDaily"));
     QCOMPARE(page.days(), name("MoThSu"));
     QCOMPARE(page.time("timeStart").time(), QTime(21, 45));
     QCOMPARE(page.time("timeStop").time(), QTime(23, 15));
@@ -199,6 +202,19 @@ void SchedulePageTest::anEndHourOf30IsTheNextDayAtSix() {
     page->load(openSet(music));
     QCOMPARE(page.time("timeStop").time(), QTime(6, 0));
     QCOMPARE(page.stopDay().currentText(), name("next day"));
+}
+
+void SchedulePageTest::anHourlyScheduleWithoutAnEndGetsOne() {
+    give(music, "Hourly", {{ScheduleDetailType::Weekly, 127, {8, 0, 0}, {}, 2, 1}});
+    Page page;
+    page->load(openSet(music));
+    QVERIFY(page.box("checkOccurEvery").isChecked());
+    QCOMPARE(page.spin("spinOccurEvery").value(), 2);
+    QVERIFY(page.box("checkStop").isChecked());
+    QVERIFY(page.time("timeStop").isEnabled());
+    // Of the stop that was offered, at 06:00 of the next day.
+    QCOMPARE(page.time("timeStop").time(), QTime(23, 59));
+    QCOMPARE(page.stopDay().currentText(), name("same day"));
 }
 
 void SchedulePageTest::onlyTheFirstDetailIsShown() {

@@ -38,6 +38,7 @@ private slots:
     void honoursTheFlagOfTheAgentsAccountUnseen();
     void showsTheSSHLogin();
     void showsTheSourceOfASet();
+    void showsASetWhoseCredentialsFail_data();
     void showsASetWhoseCredentialsFail();
     void showsTheSourceOfASetWithoutItems();
     void refusesASetOfAnotherKind();
@@ -97,21 +98,39 @@ void SourceOfSetTest::showsTheSourceOfASet() {
     QVERIFY(driver.isEnabled("btnConnectAs"));
 }
 
+void SourceOfSetTest::showsASetWhoseCredentialsFail_data() {
+    QTest::addColumn<int>("number");
+    QTest::newRow("there are none") << 0;
+    QTest::newRow("the flag") << 1;
+    QTest::newRow("the browser refuses them") << 2;
+}
+
 void SourceOfSetTest::showsASetWhoseCredentialsFail() {
+    QFETCH(int, number);
+    const char* const methods[] = {"getCredentials", "isUsingClientCredentials",
+                                   "setCurrentCredentials"};
+    const Lines calls{
+        "BackupSet.getCredentials()", "BackupSetCredentials.isUsingClientCredentials()",
+        "DataSourceBrowser.setCurrentCredentials(BackupSetCredentials(OFFICE\\anna))"};
     Session session;
-    const auto set = session.source.set([](simulator::CredentialsState&) {});
+    const auto set = session.source.set([](simulator::CredentialsState& login) {
+        login.user = "OFFICE\\anna";
+        login.usingClientAccount = false;
+    });
     PageDriver driver;
-    session.source.agent.inject("getCredentials", simulator::Fault{"Locked."});
+    session.source.agent.inject(methods[number], simulator::Fault{"Locked."});
     ModalDriver modals;
     modals.expectErrorBox(QStringLiteral("Init Error"), QStringLiteral("Locked."));
     session.source.takeCalls();
     QVERIFY(driver.page().initFromSet(set));
     QVERIFY(modals.done());
     QCOMPARE(session.source.takeCalls(),
-             join({{"BackupSet.getDataType()", "BackupSet.getComputerName()",
-                    "BackupSet.getCredentials()"},
+             join({{"BackupSet.getDataType()", "BackupSet.getComputerName()"},
+                   Lines(calls.begin(), calls.begin() + number + 1),
                    wizards_test::refreshOf(LoginKind::Windows, "demo")}));
+    QCOMPARE(driver.text("editConnectAs"), QStringLiteral("demo"));
     QVERIFY(!driver.isEnabled("editComputerName"));
+    QVERIFY(!driver.isEnabled("btnShowNetDiscovery"));
 }
 
 void SourceOfSetTest::showsTheSourceOfASetWithoutItems() {
