@@ -62,6 +62,8 @@ private slots:
     void init() { start(); }
     void cleanup() { test_.end(); }
 
+    void eachCommandOpensItsDialog_data();
+    void eachCommandOpensItsDialog();
     void theRegistrationsTexts();
     void theRegistrationsFields();
     void theRegistrationsChoices();
@@ -69,8 +71,8 @@ private slots:
     void theAdminTimes();
     void theAccount();
     void theRecovery();
-    void tabFollowsTheEye_data();
-    void tabFollowsTheEye();
+    void tabGoesThroughTheFields_data();
+    void tabGoesThroughTheFields();
 
     void keysAreNeverTold();
     void passwordsAreNeverTold();
@@ -107,6 +109,27 @@ private:
         }
     }
 };
+
+void DialogFormsTest::eachCommandOpensItsDialog_data() {
+    QTest::addColumn<QString>("dialog");
+    QTest::newRow("actionLDAP_Account") << q("ADAccountDlg");
+    QTest::newRow("actionAdmin") << q("QWizard");
+    QTest::newRow("action_Recovery") << q("RecoveryDlg");
+    QTest::newRow("actionRegister") << q("RegisterDlg");
+    QTest::newRow("actionRegistration_Info") << q("InitClntCfgDlg");
+}
+
+void DialogFormsTest::eachCommandOpensItsDialog() {
+    QFETCH(QString, dialog);
+    modals().expect(
+        dialog,
+        [dialog](QWidget& widget) {
+            return QString::fromLatin1(widget.metaObject()->className()) == dialog;
+        },
+        [](QWidget& widget) { static_cast<QDialog&>(widget).reject(); });
+    test_.driver->trigger(QTest::currentDataTag());
+    QVERIFY(modals().done());
+}
 
 void DialogFormsTest::theRegistrationsTexts() {
     lookAtRegistration([](QWidget& dialog) {
@@ -269,7 +292,7 @@ void DialogFormsTest::theRecovery() {
     });
 }
 
-void DialogFormsTest::tabFollowsTheEye_data() {
+void DialogFormsTest::tabGoesThroughTheFields_data() {
     QTest::addColumn<QString>("slot");
     QTest::addColumn<QString>("order");
     QTest::newRow("registration")
@@ -291,7 +314,7 @@ void DialogFormsTest::tabFollowsTheEye_data() {
                               << q("radioOrphanedSet;radioDatabase");
 }
 
-void DialogFormsTest::tabFollowsTheEye() {
+void DialogFormsTest::tabGoesThroughTheFields() {
     QFETCH(QString, slot);
     QFETCH(QString, order);
     const QStringList names = order.split(QLatin1Char(';'));
