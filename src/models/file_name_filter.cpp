@@ -9,9 +9,9 @@ namespace models {
 namespace {
 
 /// What an asterisk at an end would match is matched without it as well, and much quicker. One
-/// within a bracket is no wildcard.
+/// within a bracket or behind a backslash is no wildcard.
 QString withoutOuterAsterisks(const QString& pattern) {
-    if (pattern.contains(QLatin1Char('[')))
+    if (pattern.contains(QLatin1Char('[')) || pattern.contains(QLatin1Char('\\')))
         return pattern;
     const auto isAsterisk = [](QChar c) { return c == QLatin1Char('*'); };
     const auto begin = std::find_if_not(pattern.begin(), pattern.end(), isAsterisk);

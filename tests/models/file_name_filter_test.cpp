@@ -45,6 +45,14 @@ TEST(FileNameFilterTest, SignsOfExpressionsAreLetters) {
     EXPECT_FALSE(matches("a.c*d", "abc_d"));
 }
 
+TEST(FileNameFilterTest, BehindABackslashAnAsteriskIsALetter) {
+    EXPECT_TRUE(matches("\\*", "a\\*b"));
+    EXPECT_FALSE(matches("\\*", "a\\b"));
+    EXPECT_FALSE(matches("a\\*", "a\\b"));
+    EXPECT_TRUE(matches("\\", "a\\b"));
+    EXPECT_TRUE(matches("*\\", "a\\b"));
+}
+
 TEST(FileNameFilterTest, AnOpenBracketMatchesNothing) {
     EXPECT_FALSE(matches("[a", "[a"));
 }
