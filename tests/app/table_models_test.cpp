@@ -392,7 +392,8 @@ void TableModelsTest::aDisconnectLeavesNothingToReport() {
     QCOMPARE(reports.take(), QStringLiteral("+1"));
     model.clear();
     QCOMPARE(model.rowCount(), 0);
-    model.setActivities({});
+    // An activity of the next session may have the same number.
+    model.setActivities({running(1)});
     model.setActivities({});
     QCOMPARE(reports.take(), QString());
 }

@@ -299,7 +299,10 @@ void MainWindowActivitiesTest::stopsTheSelectedActivities() {
     select(0);
     driver_->trigger("actionSynchronize");
     auto& running = table("tableCurrentActivities");
-    running.selectAll();
+    // The lower one first, but they are stopped from top to bottom.
+    running.selectRow(1);
+    running.selectionModel()->select(running.model()->index(0, 0),
+                                     QItemSelectionModel::Select | QItemSelectionModel::Rows);
     std::vector<std::int32_t> ids;
     for (int row = 0; row < 2; ++row)
         ids.push_back(static_cast<RunningActivitiesModel*>(running.model())->at(row).activity_id);

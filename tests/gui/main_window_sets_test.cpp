@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 #include <QContextMenuEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -34,6 +35,20 @@ const QString kNoneSelected = QStringLiteral("No backup set selected.");
 bool isHighlighted(const BackupSetViewItem& card) {
     return card.backgroundRole() == QPalette::Highlight;
 }
+
+/// The keys whose press reaches a window while this object lives.
+class ReceivedKeys : public QObject {
+public:
+    explicit ReceivedKeys(QWidget& window) { window.installEventFilter(this); }
+    QList<int> keys;
+
+private:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::KeyPress)
+            keys << static_cast<QKeyEvent*>(event)->key();
+        return false;
+    }
+};
 
 void removeFirstSet(World& world) {
     world.removeSet(world.sets().front()->info.id);
@@ -401,8 +416,13 @@ void MainWindowSetsTest::theListMayGoUnderAnOpenContextMenu() {
 void MainWindowSetsTest::theDeleteKeyWithoutASelectionShowsTheBox() {
     ModalDriver modals;
     modals.expectErrorBox(QStringLiteral("Error"), kNoneSelected);
+    const ReceivedKeys further(window());
     QTest::keyClick(&driver_->sets(), Qt::Key_Delete);
     QVERIFY(modals.done());
+    // The list consumes it; other keys that it has no use for go on.
+    QVERIFY(!further.keys.contains(Qt::Key_Delete));
+    QTest::keyClick(&driver_->sets(), Qt::Key_F9);
+    QVERIFY(further.keys.contains(Qt::Key_F9));
 }
 
 void MainWindowSetsTest::theDeleteKeyOnASetOfThePolicyDoesNothing() {
