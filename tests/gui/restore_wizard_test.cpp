@@ -84,6 +84,7 @@ private slots:
     void toAnotherComputerWithOtherCredentials();
     void aPickedDirectory();
     void goingBackToTheOriginalPlace();
+    void withoutAReasonThePageIsNotLeft();
     void theKeyboardIsAtTheCredentials();
     void theHeadNamesTheDirectory();
     void cancelling_data();
@@ -269,6 +270,28 @@ void RestoreWizardTest::goingBackToTheOriginalPlace() {
     QCOMPARE(difference(calls(), kRestoreOpened + kDirectoryWanted + restoredToOrigin("2", 3) +
                                      kRefreshedAfterRestore),
              QString());
+}
+
+void RestoreWizardTest::withoutAReasonThePageIsNotLeft() {
+    test_.modals->expect(q("wizard"), isDialog<QWizard>, [](QWidget& wizard) {
+        check(pageOf(wizard), "D:");
+        press(wizard, QWizard::NextButton);
+        QVERIFY(button(wizard, QWizard::FinishButton).isVisible());
+        QVERIFY(!button(wizard, QWizard::FinishButton).isEnabled());
+        child<QRadioButton>(pageOf(wizard), "radioAlternateDir").click();
+        QVERIFY(button(wizard, QWizard::NextButton).isVisible());
+        QVERIFY(!button(wizard, QWizard::NextButton).isEnabled());
+        auto& reasons = child<QComboBox>(pageOf(wizard), "cmbRestoreReason");
+        reasons.setCurrentIndex(6);
+        QCOMPARE(reasons.currentText(), q("    Data loss - Hardware malfunction"));
+        QVERIFY(button(wizard, QWizard::NextButton).isEnabled());
+        child<QRadioButton>(pageOf(wizard), "radioOriginal").click();
+        press(wizard, QWizard::FinishButton);
+    });
+    test_.run("OnRestore");
+    QCOMPARE(
+        difference(calls(), kRestoreOpened + restoredToOrigin("2", 4) + kRefreshedAfterRestore),
+        QString());
 }
 
 void RestoreWizardTest::theKeyboardIsAtTheCredentials() {
