@@ -8,6 +8,7 @@
 #include "resources/pictures.h"
 #include "simulator/world/world.h"
 #include "tests/config/dialog_steps.h"
+#include "tests/support/cursor_watch.h"
 
 using namespace steps;
 using simulator::World;
@@ -38,21 +39,6 @@ void accept(QWidget& dialog) {
                       Qt::LeftButton);
     QVERIFY(!dialog.isVisible());
 }
-
-/// The cursors that a widget gets.
-class CursorWatch : public QObject {
-public:
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::CursorChange) {
-            const int shape = static_cast<QWidget*>(watched)->cursor().shape();
-            if (shown.isEmpty() || shown.last() != shape)
-                shown << shape;
-        }
-        return false;
-    }
-
-    QList<int> shown;
-};
 
 } // namespace
 
@@ -162,7 +148,7 @@ void RecoveryDialogTest::recoveringIsWaitedForWithItsCursor_data() {
 void RecoveryDialogTest::recoveringIsWaitedForWithItsCursor() {
     QFETCH(bool, failing);
     addOrphans({"A"});
-    CursorWatch watch;
+    support::CursorWatch watch;
     expectRecovery([&](QWidget& dialog) {
         dialog.installEventFilter(&watch);
         if (failing) {
@@ -172,7 +158,7 @@ void RecoveryDialogTest::recoveringIsWaitedForWithItsCursor() {
         accept(dialog);
     });
     open();
-    QCOMPARE(watch.shown, (QList<int>{Qt::WaitCursor, Qt::ArrowCursor}));
+    QCOMPARE(watch.shown, support::kWaited);
 }
 
 void RecoveryDialogTest::aFailureLeavesTheRestOfTheOrphans_data() {

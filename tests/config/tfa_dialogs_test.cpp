@@ -73,6 +73,7 @@ private slots:
     void aCodeThatCantBeSentLeavesTheDialogOpen();
     void theCodeDialogSaysWhatItWants();
     void anAgentWithoutAManagerOfCodesIsTold();
+    void theDialogsFollowTheLanguage();
 };
 
 void TFADialogsTest::theCommandOpensTheList() {
@@ -446,6 +447,24 @@ void TFADialogsTest::theCodeDialogSaysWhatItWants() {
         press(dialog, "btnCancel");
     });
     TFACodeDlg(1, nullptr).exec();
+}
+
+void TFADialogsTest::theDialogsFollowTheLanguage() {
+    TFAUsersViewer viewer;
+    TFAUserDlg user({"Ada", "Home", "ada@example.org"});
+    TFACodeDlg code(1, nullptr);
+    const std::pair<QWidget*, const char*> titles[] = {
+        {&viewer, "User Email Settimgs"},
+        {&user, "Edit User Email"},
+        {&code, "Two-factor Authentication Validation"}};
+    for (const auto& [dialog, title] : titles) {
+        // The texts of the present language are those that the change brings.
+        dialog->setWindowTitle({});
+        QEvent change(QEvent::LanguageChange);
+        QCoreApplication::sendEvent(dialog, &change);
+        QCOMPARE(dialog->windowTitle(), q(title));
+    }
+    QCOMPARE(child<QLineEdit>(user, "editUsername").text(), q("Ada"));
 }
 
 QTEST_MAIN(TFADialogsTest)
