@@ -12,6 +12,7 @@
 #include "wizards/items_select_page.h"
 #include "wizards/retention_select_page.h"
 #include "wizards/schedule_select_page.h"
+#include "wizards/select_data_source_page.h"
 #include "wizards/set_name_page.h"
 #include "wizards/set_options_page.h"
 
@@ -189,6 +190,7 @@ void PageFormsTest::rangesOfTheRetentionPage() {
 }
 
 void PageFormsTest::pagesFollowTheLanguage() {
+    SelectDataSourcePage source;
     ItemsSelectPage items;
     ScheduleSelectPage schedule;
     RetentionSelectPage retention;
@@ -200,11 +202,13 @@ void PageFormsTest::pagesFollowTheLanguage() {
     kind.setToolTip({});
     day.setCurrentIndex(3);
     unit.setCurrentIndex(2);
-    const std::pair<QWizardPage*, const char*> titles[] = {{&items, "Select Items"},
-                                                           {&schedule, "Select Schedule"},
-                                                           {&retention, "Select Retention"},
-                                                           {&options, "Backup Options"},
-                                                           {&name, "Select Backup Set Name"}};
+    const std::pair<QWizardPage*, const char*> titles[] = {
+        {&source, "Data Source and Login Information"},
+        {&items, "Select Items"},
+        {&schedule, "Select Schedule"},
+        {&retention, "Select Retention"},
+        {&options, "Backup Options"},
+        {&name, "Select Backup Set Name"}};
     for (const auto& [page, title] : titles) {
         // The texts of the present language are those that the change brings.
         page->setTitle({});
