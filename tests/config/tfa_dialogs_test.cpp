@@ -51,6 +51,7 @@ private slots:
     void openingReadsTheList();
     void aListThatCantBeReadIsEmpty();
     void aRowIsAdded();
+    void aUserWhoIsThereTwiceGetsTheAddressOnce();
     void aRowThatBreaksARuleStaysInItsDialog_data();
     void aRowThatBreaksARuleStaysInItsDialog();
     void theSelectedRowIsEdited();
@@ -147,6 +148,24 @@ void TFADialogsTest::aRowIsAdded() {
                               q("Jürgen;;j@example.org")}));
     });
     QCOMPARE(agent_->callTexts(), kReading);
+}
+
+void TFADialogsTest::aUserWhoIsThereTwiceGetsTheAddressOnce() {
+    agent_->withWorld([](World& world) {
+        world.userEmails.push_back({"ADA", "home", "second@example.org"});
+    });
+    withViewer([this](QWidget& viewer) {
+        expectUser([](QWidget& dialog) {
+            type(dialog, "editUsername", "ada");
+            type(dialog, "editDomain", "Home");
+            type(dialog, "editEmail", "new@example.org");
+            press(dialog, "btnOK");
+        });
+        press(viewer, "btnAdd");
+        QCOMPARE(rows(viewer),
+                 (QStringList{q("Ada;Home;new@example.org"), q("bob;;bob@example.org"),
+                              q("ADA;home;second@example.org")}));
+    });
 }
 
 void TFADialogsTest::aRowThatBreaksARuleStaysInItsDialog_data() {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include <QBuffer>
+#include <QTextCodec>
 #include <gmock/gmock.h>
 
 #include "config/user_email_csv.h"
@@ -156,6 +157,16 @@ TEST(UserEmailCsv, IsUtf8WithoutAMark) {
                    "da,B\xC3\xBCro,a@b.cd"),
               Rows{"\xC3\x84"
                    "da;B\xC3\xBCro;a@b.cd"});
+}
+
+TEST(UserEmailCsv, IsUtf8WhateverTheSystemWritesIn) {
+    QTextCodec* const system = QTextCodec::codecForLocale();
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("windows-1252"));
+    const Rows rows = read("\xC3\x84"
+                           "da,,a@b.cd");
+    QTextCodec::setCodecForLocale(system);
+    EXPECT_EQ(rows, Rows{"\xC3\x84"
+                         "da;;a@b.cd"});
 }
 
 TEST(UserEmailCsv, IsUtf8WithAMark) {
