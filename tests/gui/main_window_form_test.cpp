@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QAction>
 #include <QDateTimeEdit>
+#include <QDesktopServices>
 #include <QDir>
 #include <QLabel>
 #include <QMainWindow>
@@ -18,6 +19,7 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <QTranslator>
+#include <QUrl>
 
 #include <zip.h>
 
@@ -67,6 +69,9 @@ QStringList words(const char* text) {
 /// What stands in the main window and how it is called, without any session.
 class MainWindowFormTest : public QObject {
     Q_OBJECT
+public slots:
+    void open(const QUrl& url) { opened_ << url.toString(); }
+
 private slots:
     void initTestCase() { resources::initPictures(); }
     void init() { window_ = std::make_unique<SimpleGUIMainWindow>(); }
@@ -113,11 +118,15 @@ private slots:
         const QString before = QDir::currentPath();
         const QTemporaryDir branded;
         QVERIFY(QDir::setCurrent(branded.path()));
-        brand("description : Our Company\n");
+        brand("description : Our Company\nhomepageurl: https://ours.example/\n");
         window_ = std::make_unique<SimpleGUIMainWindow>();
         QVERIFY(QDir::setCurrent(before));
         const auto& ours = child<QAction>(*window_, "actionLogo");
         QCOMPARE(ours.toolTip(), QStringLiteral("Our Company"));
+        QDesktopServices::setUrlHandler(QStringLiteral("https"), this, "open");
+        window_->on_actionLogo_triggered();
+        QDesktopServices::unsetUrlHandler(QStringLiteral("https"));
+        QCOMPARE(opened_, QStringList{QStringLiteral("https://ours.example/")});
         QCOMPARE(largest(ours.icon()), largest(QIcon(QStringLiteral(":/icons/norvel_logo"))));
     }
 
@@ -287,6 +296,7 @@ private:
         QTest::newRow(name) << QString::fromLatin1(label) << QString::fromLatin1(icon);
     }
 
+    QStringList opened_;
     std::unique_ptr<SimpleGUIMainWindow> window_;
 };
 

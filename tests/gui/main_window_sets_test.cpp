@@ -5,7 +5,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMessageBox>
 #include <QPointer>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QTableView>
 #include <QTest>
@@ -93,11 +95,13 @@ private slots:
     void underCentralManagementNoCardCanBeRenamed();
     void losingTheSessionForgetsTheRename();
     void losingTheSessionUnderTheBoxOfARename();
+    void aCardThatGoesForgetsItsRename();
     void quittingForgetsTheRename();
     void theContextMenuHasTheCommandsOfTheSelectedSet();
     void theListMayGoUnderAnOpenContextMenu();
     void theDeleteKeyWithoutASelectionShowsTheBox();
     void theDeleteKeyOnASetOfThePolicyDoesNothing();
+    void aSetOfThePolicyCanGoWhereNothingIsManagedCentrally();
     void commandsWithoutASelectionShowTheBox_data();
     void commandsWithoutASelectionShowTheBox();
 
@@ -369,6 +373,22 @@ void MainWindowSetsTest::losingTheSessionUnderTheBoxOfARename() {
     QTRY_VERIFY(!card);
 }
 
+void MainWindowSetsTest::aCardThatGoesForgetsItsRename() {
+    const int last = driver_->cards().size() - 1;
+    startRename(last).setText(QStringLiteral("New name"));
+    // Only a rename in the selected card holds the list.
+    driver_->sets().selectRow(0);
+    QVERIFY(driver_->card(last).editingName());
+    agent_->withWorld([](World& world) { world.removeSet(world.sets().back()->info.id); });
+    agent_->clearCallLog();
+    ModalDriver modals;
+    driver_->beat();
+    QVERIFY(modals.done());
+    QCOMPARE(driver_->cards(), cardsOf(*agent_));
+    const Calls calls = methodsOf(*agent_);
+    QCOMPARE(std::count(calls.begin(), calls.end(), "setName"), 0);
+}
+
 void MainWindowSetsTest::quittingForgetsTheRename() {
     startRename(0).setText(QStringLiteral("New name"));
     agent_->clearCallLog();
@@ -438,6 +458,23 @@ void MainWindowSetsTest::theDeleteKeyOnASetOfThePolicyDoesNothing() {
     QVERIFY(modals.done());
     QCOMPARE(agent_->callTexts(), Calls{});
     QCOMPARE(driver_->selectedRow(), 0);
+}
+
+void MainWindowSetsTest::aSetOfThePolicyCanGoWhereNothingIsManagedCentrally() {
+    agent_->withWorld([](World& world) {
+        world.sets().front()->info.is_created_by_policy = true;
+        world.sets().front()->info.online_file_count = 0;
+    });
+    driver_->beat();
+    driver_->sets().selectRow(0);
+    ModalDriver modals;
+    modals.expect(QStringLiteral("question"), support::isDialog<QMessageBox>, [](QWidget& widget) {
+        auto& box = static_cast<QMessageBox&>(widget);
+        QCOMPARE(box.windowTitle(), QStringLiteral("Delete Backup Set?"));
+        box.button(QMessageBox::No)->click();
+    });
+    window().OnDelete();
+    QVERIFY(modals.done());
 }
 
 void MainWindowSetsTest::commandsWithoutASelectionShowTheBox_data() {
