@@ -240,6 +240,23 @@ private slots:
         QVERIFY(!isEnabled("actionDeleteFromOnline"));
     }
 
+    void theDetailsGoWithTheLastSet() {
+        GuiAgent agent;
+        window().doLogin(true);
+        view().selectRow(0);
+        QVERIFY(!driver_->details().at(0).isEmpty());
+        agent.withWorld([](World& world) {
+            while (!world.sets().empty())
+                world.removeSet(world.sets().front()->info.id);
+        });
+        beat();
+        QCOMPARE(sets(), QStringList());
+        QCOMPARE(driver_->details().join(QString()), QString());
+        QVERIFY(!child<QWidget>(window(), "pageProperties").isEnabled());
+        QVERIFY(!isEnabled("actionSynchronize"));
+        QVERIFY(session::connectedToAgent());
+    }
+
     void theSessionDecidesWhatIsEnabled() {
         GuiAgent agent;
         QCOMPARE(enabled(), QStringList{QStringLiteral("actionLogin")});
