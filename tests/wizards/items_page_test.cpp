@@ -313,15 +313,19 @@ void ItemsPageTest::allFilesHaveTheirOwnBoxes() {
 
 void ItemsPageTest::extensionsHaveAFieldWhenTheyAreChecked() {
     PageOfSource page;
+    QSignalSpy changes(&page.page(), &QWizardPage::completeChanged);
     QVERIFY(!page.edit("editCustomInc").isEnabled());
     page.box("checkCustomInc").click();
     QVERIFY(page.edit("editCustomInc").isEnabled());
     QCOMPARE(page.wizard.focusWidget(), &page.edit("editCustomInc"));
     page.box("checkCustomInc").click();
     QVERIFY(!page.edit("editCustomInc").isEnabled());
+    QCOMPARE(changes.count(), 2);
     page.box("checkEverything").click();
     QVERIFY(!page.edit("editCustomExc").isEnabled());
+    changes.clear();
     page.box("checkCustomExc").click();
+    QCOMPARE(changes.count(), 1);
     QVERIFY(page.edit("editCustomExc").isEnabled());
     QCOMPARE(page.wizard.focusWidget(), &page.edit("editCustomExc"));
 }

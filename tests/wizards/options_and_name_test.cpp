@@ -253,6 +253,7 @@ void OptionsAndNameTest::aMissingFolderSelectsItsParent() {
     const Set set = session.set(false, true, "D:\\Projects\\Gone\\Deeper\\");
     SetOptionsPage page;
     QVERIFY(page.load(set));
+    QVERIFY(child<QCheckBox>(page, "chkLocalCache").isChecked());
     QCOMPARE(selectedFolder(page), QStringLiteral("Projects"));
     QCOMPARE(folder(page), QStringLiteral("D:\\Projects"));
 }

@@ -48,6 +48,7 @@ private slots:
     void dailyNeedsADay();
     void anEarlyStopBlocksEvenWhatIsNotScheduled();
     void equalTimesPass();
+    void theBoxesOfTheTimesTellTheWizard();
 
     void aFaultWhileLoadingGoesToTheCaller();
 };
@@ -334,6 +335,19 @@ void SchedulePageTest::equalTimesPass() {
     page.time("timeStart").setTime(QTime(20, 31));
     QVERIFY(!page->isComplete());
     QCOMPARE(changes.count(), 2);
+}
+
+void SchedulePageTest::theBoxesOfTheTimesTellTheWizard() {
+    Page page;
+    page.box("checkOccurEvery").click();
+    QSignalSpy changes(&*page, &QWizardPage::completeChanged);
+    page.box("checkOccurEvery").click();
+    QCOMPARE(changes.count(), 1);
+    QCOMPARE(page.stopDay().currentIndex(), 0);
+    page.box("checkStop").click();
+    changes.clear();
+    page.box("checkStop").click();
+    QCOMPARE(changes.count(), 1);
 }
 
 void SchedulePageTest::aFaultWhileLoadingGoesToTheCaller() {
