@@ -5,6 +5,7 @@
 #include <utility>
 
 #include <QEvent>
+#include <QKeyEvent>
 
 #include "api/backup_set.h"
 #include "models/backed_up_data_model.h"
@@ -55,6 +56,12 @@ void DeleteSelectPage::changeEvent(QEvent* event) {
     if (event->type() == QEvent::LanguageChange)
         ui_->retranslateUi(this);
     QWizardPage::changeEvent(event);
+}
+
+void DeleteSelectPage::keyPressEvent(QKeyEvent* event) {
+    // The wizard would take a Return behind a name or a date for its button, and delete at once.
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+        StoredItemsPage::keyPressEvent(event);
 }
 
 void DeleteSelectPage::toggleFiltering(bool on) {

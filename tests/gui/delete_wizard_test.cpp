@@ -13,7 +13,6 @@
 #include "tests/gui/delete_wizard_steps.h"
 
 using namespace gui;
-using simulator::Fault;
 using simulator::World;
 using support::callsOf;
 using support::child;
@@ -36,6 +35,7 @@ private slots:
     void theFormIsAsItBegins();
     void finishWaitsForACheckMark();
     void withoutACheckMarkNothingIsPrepared();
+    void theReturnKeyDeletesNothing();
     void aSelectionIsDeleted();
     void aFileIsDeleted();
     void aGroupGoesAsWhatItHolds();
@@ -52,15 +52,6 @@ private slots:
     void datesReachTheAgent();
     void aChangedFilterKeepsTheTreeAndDropsTheMarks();
     void theFileFilterIsKept();
-    void aFaultBeforeTheWizard_data();
-    void aFaultBeforeTheWizard();
-    void aFaultOfTheDeletion_data();
-    void aFaultOfTheDeletion();
-    void aFaultOfAFilterLeavesThePage_data();
-    void aFaultOfAFilterLeavesThePage();
-    void aFolderThatFailsIsToldOnce();
-    void aGroupThatFailsEndsTheDeletion();
-    void aGroupThatHoldsNothingDeletesNothing();
 
 private:
     void protect() {
@@ -171,6 +162,24 @@ void DeleteWizardTest::withoutACheckMarkNothingIsPrepared() {
     });
     test_.run("OnDelete");
     QCOMPARE(difference(calls(), kOpened), QString());
+}
+
+void DeleteWizardTest::theReturnKeyDeletesNothing() {
+    test_.modals->expect(q("wizard"), isDialog<QWizard>, [](QWidget& widget) {
+        auto& wizard = static_cast<QWizard&>(widget);
+        switchOn(widget, "checkFrom");
+        check(widget, "D:");
+        QVERIFY(wizard.button(QWizard::FinishButton)->isEnabled());
+        for (const char* name : {"editFilter", "dateFrom", "treeSelection", "listSelection"})
+            for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+                QTest::keyClick(&child<QWidget>(widget, name), key);
+                QVERIFY2(wizard.isVisible(), name);
+            }
+        wizard.reject();
+    });
+    test_.run("OnDelete");
+    for (const std::string& call : calls())
+        QVERIFY2(call.find("prepareDelete") == std::string::npos, call.c_str());
 }
 
 void DeleteWizardTest::aSelectionIsDeleted() {
@@ -375,118 +384,6 @@ void DeleteWizardTest::theFileFilterIsKept() {
         widget.close();
     });
     test_.run("OnDelete");
-}
-
-void DeleteWizardTest::aFaultBeforeTheWizard_data() {
-    QTest::addColumn<QString>("method");
-    for (const char* method : {"backup_set", "getCurrentStatus", "prepare_delete", "getSubItems"})
-        QTest::newRow(method) << q(method);
-}
-
-void DeleteWizardTest::aFaultBeforeTheWizard() {
-    QFETCH(QString, method);
-    test_.agent->inject(method.toStdString(), Fault{"Außer Betrieb."});
-    test_.modals->expectErrorBox(q("Error"), q("Außer Betrieb."));
-    test_.run("OnDelete");
-    QCOMPARE(support::methodsOf(*test_.agent).back(), method.toStdString());
-}
-
-void DeleteWizardTest::aFaultOfTheDeletion_data() {
-    QTest::addColumn<QString>("method");
-    for (const char* method : {"prepareDelete", "DeleteActivityInitiator.start"})
-        QTest::newRow(method) << q(method);
-}
-
-void DeleteWizardTest::aFaultOfTheDeletion() {
-    QFETCH(QString, method);
-    test_.agent->inject(method.toStdString(), Fault{"Außer Betrieb."});
-    test_.expectWizard([](QWizardPage& page) { check(page, "D:"); });
-    test_.modals->expectErrorBox(q("Error"), q("Außer Betrieb."));
-    test_.run("OnDelete");
-    QCOMPARE(support::methodsOf(*test_.agent).back(),
-             method.section(QLatin1Char('.'), -1).toStdString());
-}
-
-void DeleteWizardTest::aFaultOfAFilterLeavesThePage_data() {
-    QTest::addColumn<QString>("method");
-    for (const char* method : {"backup_times", "prepare_delete", "getSubItems"})
-        QTest::newRow(method) << q(method);
-}
-
-void DeleteWizardTest::aFaultOfAFilterLeavesThePage() {
-    QFETCH(QString, method);
-    test_.modals->expect(q("wizard"), isDialog<QWizard>, [&](QWidget& widget) {
-        check(widget, "C:/docs");
-        test_.agent->inject(method.toStdString(), Fault{"Außer Betrieb."});
-        test_.modals->expectErrorBox(q("Error"), q("Außer Betrieb."));
-        auto& filter = child<QGroupBox>(widget, "groupFilter");
-        filter.setChecked(true);
-        // It must not say what the tree doesn't show: that is what would be deleted.
-        QVERIFY(!filter.isChecked());
-        QCOMPARE(rowAt(treeOf(widget), "C:/docs").data(Qt::CheckStateRole).toInt(), 2);
-        filter.setChecked(true);
-        QVERIFY(filter.isChecked());
-        check(widget, "C:/docs");
-        for (const auto& [box, value] :
-             {std::pair("checkFrom", "dateFrom"), std::pair("checkTo", "dateTo"),
-              std::pair("checkRemoved", "dateRemoved"), std::pair("checkKeep", "spinKeep")}) {
-            test_.agent->inject("prepare_delete", Fault{"Außer Betrieb."});
-            test_.modals->expectErrorBox(q("Error"), q("Außer Betrieb."));
-            child<QCheckBox>(widget, box).setChecked(true);
-            QVERIFY(!child<QCheckBox>(widget, box).isChecked());
-            QVERIFY(!child<QWidget>(widget, value).isEnabled());
-            QVERIFY(filter.isChecked());
-        }
-        QCOMPARE(rowAt(treeOf(widget), "C:/docs").data(Qt::CheckStateRole).toInt(), 2);
-        QVERIFY(static_cast<QWizard&>(widget).button(QWizard::FinishButton)->isEnabled());
-        QVERIFY(!QGuiApplication::overrideCursor());
-        widget.close();
-    });
-    test_.run("OnDelete");
-}
-
-void DeleteWizardTest::aFolderThatFailsIsToldOnce() {
-    test_.agent->withWorld([](World& world) {
-        for (const char* path : {"C:\\locked", "C:\\too"})
-            world.set(kId)->stored->addFolder(path).denied = "Keep out.";
-    });
-    test_.modals->expect(q("wizard"), isDialog<QWizard>, [&](QWidget& widget) {
-        QTreeView& tree = treeOf(widget);
-        tree.expand(rowAt(tree, "C:"));
-        test_.modals->expectErrorBox(q("Error"), q("Keep out."));
-        tree.setCurrentIndex(rowAt(tree, "C:/locked"));
-        QCOMPARE(tree.model()->rowCount(rowAt(tree, "C:/too")), 0);
-        QTRY_VERIFY(!tree.model()->hasChildren(rowAt(tree, "C:/locked")));
-        QCOMPARE(filesIn(widget), QStringList());
-        QCoreApplication::processEvents();
-        widget.close();
-    });
-    test_.run("OnDelete");
-}
-
-void DeleteWizardTest::aGroupThatFailsEndsTheDeletion() {
-    test_.agent->withWorld([](World& world) {
-        auto& group = world.set(kId)->stored->addFolder("Group");
-        group.isGroup = true;
-        group.denied = "Keep out.";
-    });
-    test_.expectWizard([](QWizardPage& page) { check(page, "Group"); });
-    test_.modals->expectErrorBox(q("Error"), q("Keep out."));
-    test_.run("OnDelete");
-    // It has no id that could be sent in place of what it holds.
-    QCOMPARE(difference(calls(), kOpened + Calls{"BackupSetDeleteView.getSubItems(0)"}), QString());
-}
-
-void DeleteWizardTest::aGroupThatHoldsNothingDeletesNothing() {
-    test_.agent->withWorld([](World& world) { storeGroup(world); });
-    test_.expectWizard([this](QWizardPage& page) {
-        check(page, "Group");
-        test_.agent->inject("getSubItems", support::emptyList());
-    });
-    test_.run("OnDelete");
-    QCOMPARE(
-        difference(calls(), kOpened + Calls{"BackupSetDeleteView.getSubItems(0)"} + kRefreshed),
-        QString());
 }
 
 QTEST_MAIN(DeleteWizardTest)
