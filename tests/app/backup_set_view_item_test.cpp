@@ -13,6 +13,7 @@
 #include "resources/pictures.h"
 #include "session/process_values.h"
 #include "tests/support/gui_modal_driver.h"
+#include "ui/elided_label.h"
 
 namespace {
 
@@ -68,6 +69,7 @@ private slots:
     void anUnchangedCardIsNotDrawnAnew();
     void aCardThatRecoversLosesItsColour();
     void markupInANameIsText();
+    void aNameThatIsTooLongEndsInTheCard();
     void theSelectionColoursTheBackground();
     void aDoubleClickOnTheNameOpensTheEditor();
     void aDoubleClickElsewhereDoesNot();
@@ -169,6 +171,21 @@ void BackupSetViewItemTest::markupInANameIsText() {
     card.setRecord(healthySet("<b>x</b>"));
     QCOMPARE(child<QLabel>(card, "labelSetName").textFormat(), Qt::PlainText);
     QCOMPARE(child<QLabel>(card, "labelAdditionalInfo").textFormat(), Qt::PlainText);
+}
+
+void BackupSetViewItemTest::aNameThatIsTooLongEndsInTheCard() {
+    ShownCard shown;
+    const std::string name(80, 'W');
+    auto set = healthySet(name.c_str());
+    set.computer = std::string(200, 'W');
+    shown.card.setRecord(set);
+    QCoreApplication::processEvents();
+    QCOMPARE(shown.card.size(), QSize(539, 78));
+    for (const char* label : {"labelSetName", "labelAdditionalInfo"}) {
+        auto& line = child<ui::ElidedLabel>(shown.card, label);
+        QVERIFY(line.isCut());
+        QVERIFY(shown.card.rect().contains(line.geometry()));
+    }
 }
 
 void BackupSetViewItemTest::theSelectionColoursTheBackground() {

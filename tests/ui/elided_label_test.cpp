@@ -1,0 +1,107 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "ui/elided_label.h"
+
+#include <QHelpEvent>
+#include <QPixmap>
+#include <QTest>
+#include <QToolTip>
+
+namespace {
+
+const QString kText = QStringLiteral("Everything that the accounts need");
+
+/// A label of the given part of the width that its text needs.
+void place(QLabel& label, const QString& text, double part) {
+    label.setText(text);
+    label.resize(qRound(label.sizeHint().width() * part), label.sizeHint().height());
+}
+
+/// The tool tip that resting the pointer on it brings; empty if it brings none.
+QString tipOf(QWidget& widget) {
+    QHelpEvent rest(QEvent::ToolTip, {3, 3}, widget.mapToGlobal({3, 3}));
+    QCoreApplication::sendEvent(&widget, &rest);
+    return rest.isAccepted() ? QToolTip::text() : QString();
+}
+
+} // namespace
+
+class ElidedLabelTest : public QObject {
+    Q_OBJECT
+private slots:
+    void cleanup() { QToolTip::hideText(); }
+
+    void aTextThatFitsIsThatOfAnyLabel() {
+        ui::ElidedLabel label;
+        QLabel any;
+        place(label, kText, 1);
+        place(any, kText, 1);
+        QVERIFY(!label.isCut());
+        QCOMPARE(label.grab().toImage(), any.grab().toImage());
+    }
+
+    void aTextThatDoesNotFitEndsInAnEllipsis() {
+        ui::ElidedLabel label;
+        place(label, kText, 0.5);
+        QVERIFY(label.isCut());
+        QLabel shorter;
+        shorter.setText(label.fontMetrics().elidedText(kText, Qt::ElideRight, label.width()));
+        QVERIFY(shorter.text().endsWith(QChar(0x2026)));
+        shorter.resize(label.size());
+        QCOMPARE(label.grab().toImage(), shorter.grab().toImage());
+        QCOMPARE(label.text(), kText);
+    }
+
+    void itKeepsTheColourOfAStyleSheet() {
+        QWidget card;
+        card.setStyleSheet(QStringLiteral("QLabel#name { color: red; }"));
+        auto& label = *new ui::ElidedLabel(&card);
+        label.setObjectName(QStringLiteral("name"));
+        place(label, kText, 0.5);
+        label.ensurePolished();
+        const QImage image = label.grab().toImage();
+        bool red = false;
+        for (int x = 0; x < image.width(); ++x)
+            for (int y = 0; y < image.height(); ++y) {
+                const QColor pixel = image.pixelColor(x, y);
+                red = red || (pixel.red() > 200 && pixel.green() < 80 && pixel.blue() < 80);
+            }
+        QVERIFY(red);
+    }
+
+    void itIsNotWidenedByItsText() {
+        ui::ElidedLabel label;
+        label.setText(kText.repeated(1000));
+        QVERIFY(label.minimumSizeHint().width() < 50);
+        QCOMPARE(label.minimumSizeHint().height(), QLabel(kText).minimumSizeHint().height());
+    }
+
+    void onlyACutTextIsItsOwnToolTip() {
+        ui::ElidedLabel label;
+        place(label, kText, 0.5);
+        label.show();
+        QCOMPARE(tipOf(label), kText);
+        place(label, kText, 1);
+        QCOMPARE(tipOf(label), QString());
+    }
+
+    void markupIsText() {
+        ui::ElidedLabel label;
+        QCOMPARE(label.textFormat(), Qt::PlainText);
+        place(label, QStringLiteral("<b>Everything that the accounts need</b>"), 0.5);
+        label.show();
+        QCOMPARE(tipOf(label), QStringLiteral("<span>&lt;b&gt;Everything that the accounts "
+                                              "need&lt;/b&gt;</span>"));
+    }
+
+    void aToolTipOfItsOwnComesFirst() {
+        ui::ElidedLabel label;
+        place(label, kText, 0.5);
+        label.setToolTip(QStringLiteral("Own"));
+        label.show();
+        QCOMPARE(tipOf(label), QStringLiteral("Own"));
+    }
+};
+
+QTEST_MAIN(ElidedLabelTest)
+#include "elided_label_test.moc"
