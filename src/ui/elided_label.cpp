@@ -5,7 +5,6 @@
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
-#include <QToolTip>
 
 #include "ui/plain_tool_tip.h"
 
@@ -32,8 +31,7 @@ bool ElidedLabel::isCut() const {
 
 bool ElidedLabel::event(QEvent* event) {
     if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && isCut()) {
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), plainToolTip(text()),
-                           this);
+        showWholeText(*static_cast<QHelpEvent*>(event), text(), *this, rect());
         return true;
     }
     return QLabel::event(event);

@@ -5,8 +5,8 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QHelpEvent>
-#include <QTextDocument>
-#include <QToolTip>
+
+#include "ui/plain_tool_tip.h"
 
 namespace ui {
 
@@ -58,10 +58,7 @@ bool FittingTextDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
         !index.data(Qt::ToolTipRole).isValid()) {
         const QStyleOptionViewItem cell = fitted(option, index);
         if (!showsAll(cell)) {
-            // An agent's text isn't rich, whatever it looks like.
-            QToolTip::showText(event->globalPos(),
-                               Qt::convertFromPlainText(cell.text, Qt::WhiteSpaceNormal),
-                               view->viewport(), option.rect);
+            showWholeText(*event, cell.text, *view->viewport(), option.rect);
             return true;
         }
     }

@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ui/plain_tool_tip.h"
 
+#include <QHelpEvent>
 #include <QTextDocument>
+#include <QToolTip>
+#include <QWidget>
 
 namespace ui {
 
@@ -10,6 +13,11 @@ QString plainToolTip(const QString& text) {
     if (!Qt::mightBeRichText(text))
         return text;
     return QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped());
+}
+
+void showWholeText(const QHelpEvent& rest, const QString& text, QWidget& widget, QRect part) {
+    QToolTip::showText(rest.globalPos(), Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal),
+                       &widget, part);
 }
 
 } // namespace ui

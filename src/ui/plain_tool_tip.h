@@ -2,11 +2,19 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <QRect>
 #include <QString>
+
+class QHelpEvent;
+class QWidget;
 
 namespace ui {
 
 /// A tool tip that shows a text of somebody else's as it is, also where it looks like HTML.
 QString plainToolTip(const QString& text);
+
+/// Shows a text of which a part of the widget shows only the beginning: whole, in lines that fit
+/// the screen, until the pointer leaves that part.
+void showWholeText(const QHelpEvent& rest, const QString& text, QWidget& widget, QRect part);
 
 } // namespace ui
