@@ -97,15 +97,16 @@ endfunction()
 # LABELS are of unit, wire, gui, slow. With the word QTEST the program is one QTest class and
 # one test of ctest; without it, it is GoogleTest, and each TEST is a test of ctest. Under a
 # sanitizer, where a process takes long to start, the whole program is one test of ctest there too.
-# The headers that all tests of a kind read are precompiled once: see tarn_ui, tarn_google_test.
+# The headers that all tests of a kind read are precompiled once: see tarn_qt_test and
+# tarn_google_test.
 function(tarn_test name)
     cmake_parse_arguments(arg "QTEST" "TIMEOUT" "LABELS;SOURCES;LINK" ${ARGN})
     tarn_program(${name} SOURCES ${arg_SOURCES} LINK ${arg_LINK})
     # Tests may include the doubles in tests/support and the simulator beside the product.
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
     if(arg_QTEST)
-        target_link_libraries(${name} PRIVATE Qt5::Test tarn_ui)
-        target_precompile_headers(${name} REUSE_FROM tarn_ui)
+        target_link_libraries(${name} PRIVATE tarn_qt_test)
+        target_precompile_headers(${name} REUSE_FROM tarn_qt_test)
         _tarn_moc(${name} ${arg_SOURCES})
         # Silent is all but the failures: what the offscreen platform says that it can't do would
         # hide them.
