@@ -289,15 +289,15 @@ private slots:
         QVERIFY(!isEnabled("actionNew_Backup_Set"));
         view().selectRow(0);
         QVERIFY(child<QWidget>(window(), "pageProperties").isEnabled());
-        for (const char* name : {"btnItems", "btnSchedule", "btnRetention"})
-            QVERIFY2(!child<QWidget>(window(), name).isEnabled(), name);
+        for (const char* button : {"btnItems", "btnSchedule", "btnRetention"})
+            QVERIFY2(!child<QWidget>(window(), button).isEnabled(), button);
 
         agent.withWorld([&](World& world) { world.about = {{wire, "yes"}}; });
         beat();
         QVERIFY(!session::g_isCentrallyManaged);
         QVERIFY(isEnabled("actionNew_Backup_Set"));
-        for (const char* name : {"btnItems", "btnSchedule", "btnRetention"})
-            QVERIFY2(child<QWidget>(window(), name).isEnabled(), name);
+        for (const char* button : {"btnItems", "btnSchedule", "btnRetention"})
+            QVERIFY2(child<QWidget>(window(), button).isEnabled(), button);
     }
 
     void centralManagementIsReadFromTheFirstSuchRowAndKeptWithoutOne() {
