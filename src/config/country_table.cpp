@@ -278,7 +278,7 @@ std::vector<NamedCountry> countriesFor(const QLocale& language) {
         named.push_back({code, QCoreApplication::translate("InitClntCfgDlg", english)});
         translated = translated || named.back().name != QString::fromUtf8(english);
     }
-    // A language without a translation is one that nobody reads here.
+    // Where nothing is translated the reader sees English, whatever the language.
     if (translated)
         sortFor(language, named);
     return named;

@@ -8,8 +8,8 @@
 namespace models {
 
 /// Names that hold a text somewhere, in the same case. In it "*" stands for any characters, "?" for
-/// one, and "[...]" for one of those in it; behind a backslash both are letters. An empty text
-/// stands in every name, one with a bracket that isn't closed in none.
+/// one, and "[...]" for one of those in it. A backslash is a letter, and so is the sign behind it.
+/// An empty text stands in every name, one with a bracket that isn't closed in none.
 class FileNameFilter {
 public:
     explicit FileNameFilter(const QString& pattern = {});

@@ -10,19 +10,13 @@
 
 namespace ui {
 
-namespace {
-
-constexpr QChar kEllipsis(0x2026);
-
-} // namespace
-
 ElidedLabel::ElidedLabel(QWidget* parent)
     : QLabel(parent) {
     setTextFormat(Qt::PlainText);
 }
 
 QSize ElidedLabel::minimumSizeHint() const {
-    return {fontMetrics().horizontalAdvance(kEllipsis), QLabel::minimumSizeHint().height()};
+    return {fontMetrics().horizontalAdvance(QChar(0x2026)), QLabel::minimumSizeHint().height()};
 }
 
 bool ElidedLabel::isCut() const {

@@ -13,8 +13,8 @@ namespace ui {
 /// A tool tip that shows a text of somebody else's as it is, also where it looks like HTML.
 QString plainToolTip(const QString& text);
 
-/// Shows a text of which a part of the widget shows only the beginning: whole, in lines that fit
-/// the screen, until the pointer leaves that part.
+/// The tool tip of a text that is cut in that part of the widget: the whole text, as it is, in
+/// lines that fit the screen.
 void showWholeText(const QHelpEvent& rest, const QString& text, QWidget& widget, QRect part);
 
 } // namespace ui

@@ -1,37 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
-#include <ctime>
+#include "app/log_span.h"
 
 #include <gtest/gtest.h>
 
-#include <QtGlobal>
-
-#include "app/log_span.h"
+#include "tests/support/time_zone.h"
 
 namespace {
 
-// Rules, not names, which not every machine knows.
+using support::TimeZone;
+
 constexpr const char* kBerlin = "CET-1CEST,M3.5.0,M10.5.0/3";
 constexpr const char* kCairo = "EET-2EEST,M4.5.5/0,M10.5.4/24";
-
-/// The local time of a place while this object lives.
-class TimeZone {
-public:
-    explicit TimeZone(const char* rules)
-        : before_(qgetenv("TZ")) {
-        set(rules);
-    }
-    ~TimeZone() { set(before_); }
-    TimeZone(const TimeZone&) = delete;
-    TimeZone& operator=(const TimeZone&) = delete;
-
-private:
-    static void set(const QByteArray& rules) {
-        qputenv("TZ", rules);
-        tzset();
-    }
-    QByteArray before_;
-};
 
 std::string text(const QDateTime& time) {
     return time.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz")).toStdString();

@@ -4,11 +4,9 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <cstdlib>
 #include <ctime>
 #include <filesystem>
 #include <locale>
-#include <optional>
 #include <regex>
 #include <utility>
 #include <vector>
@@ -17,6 +15,7 @@
 
 #include "platform/process_id.h"
 #include "tests/support/temporary_file.h"
+#include "tests/support/time_zone.h"
 #include "transport/trace_exception.h"
 #include "transport/tracer.h"
 
@@ -24,6 +23,7 @@ namespace {
 
 using namespace hessiancln;
 using support::TemporaryFile;
+using support::TimeZone;
 
 const std::regex prefix(R"(^(\d+) \((\d+)\) \d{1,2}/\d{1,2}/\d{4} \d\d:\d\d:\d\d )");
 
@@ -68,27 +68,6 @@ std::string localTime() {
                   parts.tm_year + 1900, parts.tm_hour, parts.tm_min, parts.tm_sec);
     return text;
 }
-
-/// Sets the zone that the process lives in, and at its end the one before.
-class TimeZone {
-public:
-    explicit TimeZone(const char* zone) {
-        if (const char* before = std::getenv("TZ")) {
-            before_ = before;
-        }
-        ::setenv("TZ", zone, 1);
-        ::tzset();
-    }
-    TimeZone(const TimeZone&) = delete;
-    TimeZone& operator=(const TimeZone&) = delete;
-    ~TimeZone() {
-        before_ ? ::setenv("TZ", before_->c_str(), 1) : ::unsetenv("TZ");
-        ::tzset();
-    }
-
-private:
-    std::optional<std::string> before_;
-};
 
 /// The two zones are a day apart, so that in one of them the day isn't the number of the month.
 TEST(TraceEntry, TellsTheLocalTimeWithTheMonthBeforeTheDay) {

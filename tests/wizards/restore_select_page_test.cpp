@@ -12,7 +12,9 @@
 #include <QTableView>
 #include <QTreeView>
 
+#include "tests/support/gui_form_texts.h"
 #include "tests/support/gui_tree.h"
+#include "tests/support/time_zone.h"
 #include "tests/wizards/page_fixture.h"
 #include "tests/wizards/selected_row_look.h"
 #include "wizards/field_memo.h"
@@ -31,25 +33,16 @@ QString q(const char* text) {
     return QString::fromUtf8(text);
 }
 
-void compareIcon(const QAbstractButton& button, const char* resource) {
-    QVERIFY(!button.icon().pixmap(16).isNull());
-    QCOMPARE(button.icon().pixmap(16).toImage(), QIcon(q(resource)).pixmap(16).toImage());
+/// Asks for the generations of the chosen file, and picks that one.
+void pickGeneration(RestoreSelectPage& page, int row) {
+    support::ModalDriver modals;
+    modals.expect(q("generations"), support::isDialog<SelectGenerationDlg>, [row](QWidget& dialog) {
+        child<QTableView>(dialog, "listGenerations").selectRow(row);
+        child<QPushButton>(dialog, "buttonSelect").click();
+    });
+    child<QPushButton>(page, "buttonGenerations").click();
+    QVERIFY(modals.done());
 }
-
-/// The time zone of the process, for as long as it lives.
-class TimeZone {
-public:
-    explicit TimeZone(const char* zone)
-        : before_(qgetenv("TZ"))
-        , wasSet_(qEnvironmentVariableIsSet("TZ")) {
-        qputenv("TZ", zone);
-    }
-    ~TimeZone() { wasSet_ ? qputenv("TZ", before_) : qunsetenv("TZ"); }
-
-private:
-    QByteArray before_;
-    bool wasSet_;
-};
 
 } // namespace
 
@@ -104,7 +97,7 @@ void RestoreSelectPageTest::textsOfTheSelectPage() {
     QCOMPARE(child<QLineEdit>(page, "editFilter").text(), q("*"));
     auto& generations = child<QPushButton>(page, "buttonGenerations");
     QCOMPARE(generations.text(), q("&Generations"));
-    compareIcon(generations, ":/button/generations");
+    support::compareIcon(page, "buttonGenerations", ":/button/generations");
     QVERIFY(!generations.isEnabled());
     for (const auto& [name, text] : {std::pair("checkFilter", "Time f&ilter"),
                                      {"checkFrom", "Backed up on/&after:"},
@@ -246,13 +239,7 @@ void RestoreSelectPageTest::aGenerationOfAForgottenBackup() {
     auto& list = child<QListView>(page, "listSelection");
     list.setCurrentIndex(list.model()->index(0, 0, list.rootIndex()));
     takeCalls();
-    support::ModalDriver modals;
-    modals.expect(q("generations"), support::isDialog<SelectGenerationDlg>, [](QWidget& dialog) {
-        child<QTableView>(dialog, "listGenerations").selectRow(1);
-        child<QPushButton>(dialog, "buttonSelect").click();
-    });
-    child<QPushButton>(page, "buttonGenerations").click();
-    QVERIFY(modals.done());
+    pickGeneration(page, 1);
     QCOMPARE(child<QDateTimeEdit>(page, "dateTo").dateTime().toSecsSinceEpoch(), kFirst + 60);
     QCOMPARE(takeCalls().at(2), std::string("BackupSet.prepare_restore(0, 1700000060, 0)"));
     QVERIFY(page.isComplete());
@@ -269,13 +256,7 @@ void RestoreSelectPageTest::aFilterThatWasOffHidesNoGeneration() {
     const auto file = [&list] { return list.model()->index(0, 0, list.rootIndex()); };
     list.setCurrentIndex(file());
     takeCalls();
-    support::ModalDriver modals;
-    modals.expect(q("generations"), support::isDialog<SelectGenerationDlg>, [](QWidget& dialog) {
-        child<QTableView>(dialog, "listGenerations").selectRow(1);
-        child<QPushButton>(dialog, "buttonSelect").click();
-    });
-    child<QPushButton>(page, "buttonGenerations").click();
-    QVERIFY(modals.done());
+    pickGeneration(page, 1);
     QCOMPARE(takeCalls().at(1), std::string("BackupSet.prepare_restore(0, 1700000060, 0)"));
     QCOMPARE(file().data().toString(), q("notes.txt"));
     QCOMPARE(file().data(Qt::CheckStateRole).toInt(), 2);
@@ -312,13 +293,7 @@ void RestoreSelectPageTest::aGenerationOfAFileThatIsCalledLikeAFolder() {
     const auto file = [&list] { return list.model()->index(0, 0, list.rootIndex()); };
     QCOMPARE(file().data().toString(), q(below ? "old.txt" : "x"));
     list.setCurrentIndex(file());
-    support::ModalDriver modals;
-    modals.expect(q("generations"), support::isDialog<SelectGenerationDlg>, [](QWidget& dialog) {
-        child<QTableView>(dialog, "listGenerations").selectRow(1);
-        child<QPushButton>(dialog, "buttonSelect").click();
-    });
-    child<QPushButton>(page, "buttonGenerations").click();
-    QVERIFY(modals.done());
+    pickGeneration(page, 1);
     QCOMPARE(file().data(Qt::CheckStateRole).toInt(), 2);
     QCOMPARE(rowAt(tree, "C:").data(Qt::CheckStateRole).toInt(), 1);
     QCOMPARE(rowAt(tree, "C:/x").data(Qt::CheckStateRole).toInt(), below ? 2 : 0);
@@ -335,7 +310,7 @@ void RestoreSelectPageTest::aGenerationOfTheHourThatComesTwice_data() {
 void RestoreSelectPageTest::aGenerationOfTheHourThatComesTwice() {
     QFETCH(int, row);
     QFETCH(QString, call);
-    const TimeZone zone("CET-1CEST,M3.5.0,M10.5.0/3");
+    const support::TimeZone zone("CET-1CEST,M3.5.0,M10.5.0/3");
     constexpr std::int32_t times[] = {1'761'438'600, 1'761'442'200, 1'761'500'000};
     const Set set = setWithFiles();
     change(documents, [&](simulator::BackupSetState& state, simulator::World&) {
@@ -352,13 +327,7 @@ void RestoreSelectPageTest::aGenerationOfTheHourThatComesTwice() {
     auto& list = child<QListView>(page, "listSelection");
     list.setCurrentIndex(list.model()->index(0, 0, list.rootIndex()));
     takeCalls();
-    support::ModalDriver modals;
-    modals.expect(q("generations"), support::isDialog<SelectGenerationDlg>, [row](QWidget& dialog) {
-        child<QTableView>(dialog, "listGenerations").selectRow(row);
-        child<QPushButton>(dialog, "buttonSelect").click();
-    });
-    child<QPushButton>(page, "buttonGenerations").click();
-    QVERIFY(modals.done());
+    pickGeneration(page, row);
     QCOMPARE(q(takeCalls().at(2).c_str()), call);
     // A time that somebody has typed since then is another one.
     child<QDateTimeEdit>(page, "dateTo").setTime(QTime(1, 0));
@@ -379,8 +348,8 @@ void RestoreSelectPageTest::textsOfTheGenerations() {
     auto& close = child<QPushButton>(dialog, "buttonClose");
     QCOMPARE(select.text(), q("&Select"));
     QCOMPARE(close.text(), q("&Close"));
-    compareIcon(select, ":/button/ok");
-    compareIcon(close, ":/button/cancel");
+    support::compareIcon(dialog, "buttonSelect", ":/button/ok");
+    support::compareIcon(dialog, "buttonClose", ":/button/cancel");
     close.click();
     QCOMPARE(dialog.result(), int(QDialog::Rejected));
 }
