@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <limits>
 #include <string_view>
 
 #include <boost/endian/conversion.hpp>
@@ -49,6 +50,10 @@ std::uint32_t responseId(const ResponseHeader& header) {
 
 std::uint64_t responseLength(const ResponseHeader& header) {
     return boost::endian::load_big_u64(header.data() + 8);
+}
+
+bool isMessageLength(std::uint64_t length) {
+    return length <= std::numeric_limits<std::uint32_t>::max();
 }
 
 std::uint32_t checksumOf(const ResponseHeader& header) {

@@ -26,6 +26,9 @@ bool hasResponseMagic(const ResponseHeader& header);
 std::uint32_t responseId(const ResponseHeader& header);
 std::uint64_t responseLength(const ResponseHeader& header);
 
+/// Whether a message may be so long: the codec counts its bytes in 32 bits.
+bool isMessageLength(std::uint64_t length);
+
 /// The checksum of what the header adds to it. The message follows.
 std::uint32_t checksumOf(const ResponseHeader& header);
 

@@ -31,6 +31,15 @@ invoke_exception failure(const char* what, const ErrorCode& error) {
                               << ")";
 }
 
+/// The reason that came with the status. `reason()` of the response would put a usual one in the
+/// place of an empty one.
+std::string reasonAsSent(const http::fields& fields) {
+    struct Opened : http::fields {
+        static auto reason() { return &Opened::get_reason_impl; }
+    };
+    return std::string((fields.*Opened::reason())());
+}
+
 } // namespace
 
 HttpExchange::HttpExchange(bool useTls, const HttpLimits& limits, const Tracer& trace)
@@ -80,7 +89,7 @@ std::string HttpExchange::post(const std::string& host, std::uint32_t port, cons
     auto& response = parser.get();
     if (response.result_int() != 200) {
         throw invoke_exception() << "Server returned status code " << response.result_int() << " ("
-                                 << std::string(response.reason()) << ")";
+                                 << reasonAsSent(response) << ")";
     }
     return std::move(response.body());
 }

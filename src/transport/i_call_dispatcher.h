@@ -27,8 +27,8 @@ public:
     ICallDispatcher& operator=(const ICallDispatcher&) = delete;
 
     /// Waits for the calls that workers have taken, then fails the queued ones. A class that
-    /// implements `sendRequest` calls `stopWorkers` in its own destructor, since no worker may find
-    /// it half destroyed.
+    /// leaves `asyncSendRequest` to the workers calls `stopWorkers` in its own destructor, since
+    /// none of them may find it half destroyed.
     virtual ~ICallDispatcher();
 
     /// Sends `request` to the object at `url` and blocks until the whole reply is there. May be

@@ -83,7 +83,6 @@ CRawStreamDispacher::~CRawStreamDispacher() {
         // The event log has it, and every connection has ended.
     }
     teardowns_->waitForAll();
-    stopWorkers();
 }
 
 std::string CRawStreamDispacher::sendRequest(const std::string& url, const std::string& request) {

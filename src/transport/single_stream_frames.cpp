@@ -17,10 +17,6 @@ namespace asio = boost::asio;
 
 namespace {
 
-// The codec counts the bytes of a message in 32 bits. Beyond that a length is refused before any
-// memory is asked for: some systems would grant it, and fail the process when it is touched.
-constexpr std::uint64_t largestMessage = std::numeric_limits<std::uint32_t>::max();
-
 // A message is read in pieces small enough to stay in the processor's cache, from the clearing of
 // the memory to the checksum over it. Memory is touched only as far as bytes have arrived.
 constexpr std::size_t pieceSize = std::size_t(256) * 1024;
@@ -39,7 +35,8 @@ std::uint64_t blockSize(std::uint64_t messageLength) {
 void reserve(std::string& data, std::uint64_t messageLength) {
     const std::uint64_t size = blockSize(messageLength);
     try {
-        if (messageLength > largestMessage) {
+        // Some systems would grant the memory, and fail the process when it is touched.
+        if (!isMessageLength(messageLength)) {
             throw std::length_error("more than a message can be");
         }
         data.reserve(size);
@@ -99,9 +96,7 @@ void CSingleStreamDispatcherConnection::enqueue(CallPtr& call) {
 
 std::string CSingleStreamDispatcherConnection::prepareRequest(const Call& call) {
     trace_.step("CSingleStreamDispatcherConnection::prepareRequest ENTER");
-    do {
-        ++nextRequestId_;
-    } while (waiting_.contains(nextRequestId_)); // after 2^32 calls an id may be still in use
+    ++nextRequestId_;
     std::string frame = requestFrame(nextRequestId_, call.url, call.request);
     trace_.step("CSingleStreamDispatcherConnection::prepareRequest LEAVE");
     return frame;

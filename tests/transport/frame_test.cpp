@@ -97,4 +97,11 @@ TEST(LoopbackServer, AnswersWithFramesAsTyped) {
               printable(bytes("'@RSP' 00 00 00 02 00 00 00 00 00 00 00 00 55 23 ee e9")));
 }
 
+TEST(Frame, AMessageIsCountedIn32Bits) {
+    EXPECT_TRUE(hessiancln::isMessageLength(0));
+    EXPECT_TRUE(hessiancln::isMessageLength(0xFFFF'FFFF));
+    EXPECT_FALSE(hessiancln::isMessageLength(0x1'0000'0000));
+    EXPECT_FALSE(hessiancln::isMessageLength(0xFFFF'FFFF'FFFF'FFFF));
+}
+
 } // namespace

@@ -2,12 +2,17 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "transport/http_call_dispatcher.h"
 
+#include <atomic>
+#include <memory>
+#include <mutex>
 #include <set>
 #include <thread>
+#include <typeindex>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include "tests/support/client_socket.h"
 #include "tests/support/loopback_server.h"
 #include "tests/support/signal.h"
 #include "tests/support/temporary_file.h"
@@ -146,9 +151,9 @@ TEST_P(Http, AStatusOtherThan200Raises) {
     EXPECT_EQ(failureOf(server.url()), "Server returned status code 500 (Internal Server Error)");
 }
 
-TEST_P(Http, AStatusWithoutReasonRaisesWithTheUsualOne) {
+TEST_P(Http, AnEmptyReasonIsShownAsOne) {
     LoopbackServer server(GetParam(), answer("HTTP/1.1 404 \r\nContent-Length: 0\r\n\r\n"));
-    EXPECT_EQ(failureOf(server.url()), "Server returned status code 404 (Not Found)");
+    EXPECT_EQ(failureOf(server.url()), "Server returned status code 404 ()");
 }
 
 TEST_P(Http, AlsoOtherStatusCodesOfSuccessRaise) {
@@ -266,6 +271,57 @@ TEST_P(Http, AnAsynchronousCallEndsBeforeTheDispatcher) {
         EXPECT_TRUE(done.wait());
     }
     EXPECT_EQ(reply, "pong");
+}
+
+TEST_P(Http, ASmallRequestLeavesAtOnce) {
+    std::vector<bool> noDelay;
+    LoopbackServer server(GetParam(), [&](Peer& peer) {
+        peer.open().receiveUntil("ping");
+        for (const int socket : support::clientSockets(server.port())) {
+            noDelay.push_back(support::hasNoDelay(socket));
+        }
+        peer.send(okStart + "Content-Length: 4\r\n\r\npong");
+    });
+    CHttpCallDispatcher dispatcher(0, "");
+    dispatcher.sendRequest(server.url(), "ping");
+    EXPECT_EQ(noDelay, std::vector<bool>{true});
+}
+
+TEST_P(Http, AWorkerNeverFindsAHalfDestroyedDispatcher) {
+    LoopbackServer server(GetParam(), answer(okStart + "Content-Length: 4\r\n\r\npong"));
+    support::Signal stopping;
+    std::mutex mutex;
+    std::set<std::type_index> seen;
+    std::atomic<int> taken = 0;
+    support::Signal allTaken;
+    const auto ignore = [](const std::string&) {};
+
+    std::unique_ptr<ICallDispatcher> dispatcher = std::make_unique<CHttpCallDispatcher>(0, "");
+    ICallDispatcher& used = *dispatcher;
+    for (int i = 0; i < 4; ++i) {
+        used.asyncSendRequest(
+            server.url(), "ping",
+            [&](const std::string&) {
+                if (++taken == 4) {
+                    allTaken.raise();
+                }
+                EXPECT_TRUE(stopping.wait());
+                const std::lock_guard lock(mutex);
+                seen.insert(typeid(used));
+            },
+            [](const std::string& text) { ADD_FAILURE() << text; });
+    }
+    ASSERT_TRUE(allTaken.wait());
+    for (int i = 0; i < 16; ++i) {
+        used.asyncSendRequest(server.url(), "ping", ignore, ignore);
+    }
+    // The queue is full, so this call returns only once the destructor has stopped the dispatcher.
+    std::thread late([&] { used.asyncSendRequest(server.url(), "ping", ignore, ignore); });
+    std::thread destroyer([&] { dispatcher.reset(); });
+    late.join();
+    stopping.raise();
+    destroyer.join();
+    EXPECT_EQ(seen, (std::set<std::type_index>{typeid(CHttpCallDispatcher)}));
 }
 
 TEST(HttpFailures, AUrlWithoutHttpRaises) {

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "tests/support/bytes.h"
+#include "tests/support/client_socket.h"
 #include "tests/support/signal.h"
 #include "tests/transport/raw_stream_fixture.h"
 #include "transport/single_stream_connection.h"
@@ -118,6 +119,15 @@ TEST_P(RawStream, TheUrlGoesOutAsGiven) {
     CRawStreamDispacher dispatcher(0, "", true);
     const std::string url = server.url("/api/objects/7?x=y#z");
     EXPECT_EQ(dispatcher.sendRequest(url, "ping"), url);
+}
+
+TEST_P(RawStream, ASmallFrameLeavesAtOnce) {
+    LoopbackServer server(GetParam(), echo(1));
+    CRawStreamDispacher dispatcher(0, "", true);
+    dispatcher.sendRequest(server.url(), "ping");
+    const std::vector<int> sockets = support::clientSockets(server.port());
+    ASSERT_EQ(sockets.size(), 1u);
+    EXPECT_TRUE(support::hasNoDelay(sockets.front()));
 }
 
 TEST_P(RawStream, AReplyOfLengthZeroIsAnEmptyString) {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "tests/support/bytes.h"
+#include "tests/support/client_socket.h"
 #include "tests/support/signal.h"
 #include "tests/transport/raw_stream_fixture.h"
 #include "transport/raw_stream_dispatcher.h"
@@ -130,6 +131,25 @@ TEST_P(RawStreamFailures, APeerThatClosesWithinTheRequest) {
     CRawStreamDispacher dispatcher(0, "", true);
     const std::string text = failureOf(dispatcher, server.url(), std::string(32'000'000, 'x'));
     EXPECT_TRUE(text.starts_with("Receive failed (header): ")) << text;
+}
+
+TEST_P(RawStreamFailures, AWriteThatFailsWhileThePeerIsSilent) {
+    Signal failed;
+    LoopbackServer server(GetParam(), [&](Peer& peer) {
+        peer.open();
+        peer.send(responseFrame(peer.receiveFrame().id, "pong"));
+        failed.wait(); // neither an answer nor an end comes from here
+    });
+    CRawStreamDispacher dispatcher(0, "", true);
+    ASSERT_EQ(dispatcher.sendRequest(server.url(), "ping"), "pong");
+    const std::vector<int> sockets = support::clientSockets(server.port());
+    ASSERT_EQ(sockets.size(), 1u);
+    ASSERT_EQ(::shutdown(sockets.front(), SHUT_WR), 0); // a write fails, the read goes on waiting
+
+    auto call = std::async([&] { return failureOf(dispatcher, server.url()); });
+    EXPECT_EQ(call.wait_for(std::chrono::seconds(10)), std::future_status::ready);
+    failed.raise();
+    EXPECT_EQ(call.get(), "Receive failed (header): " + cut());
 }
 
 TEST_P(RawStreamFailures, FourOtherBytesAtTheStart) {

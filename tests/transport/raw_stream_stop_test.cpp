@@ -6,6 +6,7 @@
 #include <thread>
 #include <vector>
 
+#include "tests/support/client_socket.h"
 #include "tests/support/signal.h"
 #include "tests/transport/raw_stream_fixture.h"
 #include "transport/raw_stream_dispatcher.h"
@@ -179,6 +180,21 @@ TEST_P(RawStreamStop, AnIdleConnectionIsClosedByTheDestructor) {
         dispatcher.sendRequest(server.url(), "ping");
     }
     EXPECT_TRUE(server.waitForEnded(1));
+}
+
+TEST_P(RawStreamStop, TheDestructorWaitsForTheConnectionsThatNoOneJoins) {
+    LoopbackServer server(GetParam(), [](Peer& peer) {
+        peer.open();
+        peer.send(responseFrame(peer.receiveFrame().id, "pong")).expectClose();
+    });
+    // Without the wait, a connection hardly ever ends so soon.
+    for (int round = 0; round < 10; ++round) {
+        {
+            CRawStreamDispacher dispatcher(0, "", false);
+            dispatcher.sendRequest(server.url(), "ping");
+        }
+        EXPECT_TRUE(support::clientSockets(server.port()).empty());
+    }
 }
 
 TEST_P(RawStreamStop, MayComeWhileManyThreadsCall) {
