@@ -6,7 +6,15 @@ namespace session {
 
 QString agentAddressOf(const QString& userText) {
     const int colon = userText.indexOf(QLatin1Char(':'));
-    return colon < 0 ? QStringLiteral("127.0.0.1:4411") : userText.mid(colon + 1);
+    if (colon < 0) {
+        return QStringLiteral("127.0.0.1:4411");
+    }
+    // As it comes from a page or a mail that it was copied from.
+    QString address = userText.mid(colon + 1).trimmed();
+    if (address.endsWith(QLatin1Char('/')) && !address.endsWith(QLatin1String("//"))) {
+        address.chop(1);
+    }
+    return address;
 }
 
 QString hostForDisplay(const QString& agentAddress) {

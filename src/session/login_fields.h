@@ -10,7 +10,8 @@
 /// user and, behind the first colon, the address of the agent.
 namespace session {
 
-/// The address to log in to; the agent on this machine if the text names none.
+/// The address to log in to, without blanks around it and a slash at its end; the agent on this
+/// machine if the text has no address.
 QString agentAddressOf(const QString& userText);
 
 /// The host to show for `agentAddress`, without scheme and port.

@@ -45,6 +45,19 @@ TEST(AgentAddress, IsEmptyBehindALastColon) {
     EXPECT_EQ(address("anna:"), "");
 }
 
+TEST(AgentAddress, LosesBlanksAroundItAndOneSlashAtItsEnd) {
+    EXPECT_EQ(address("anna: backup.lan "), "backup.lan");
+    EXPECT_EQ(address("anna:\tbackup.lan:99\t"), "backup.lan:99");
+    EXPECT_EQ(address("anna:https://backup.lan:99/"), "https://backup.lan:99");
+    EXPECT_EQ(address("anna:backup.lan/ "), "backup.lan");
+    EXPECT_EQ(address("anna: "), "");
+}
+
+TEST(AgentAddress, KeepsWhatIsMoreThanASlash) {
+    EXPECT_EQ(address("anna:http://"), "http://");
+    EXPECT_EQ(address("anna:backup.lan/api"), "backup.lan/api");
+}
+
 TEST(AgentAddress, NeedsNoUserBeforeIt) {
     EXPECT_EQ(address(":backup.lan"), "backup.lan");
 }
