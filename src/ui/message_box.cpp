@@ -2,11 +2,33 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ui/message_box.h"
 
+#include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMessageBox>
 
 #include "ui/standard_buttons.h"
 
 namespace ui {
+
+namespace {
+
+/// A question that is left without an answer by the Escape key and by the title bar's cross. Qt
+/// takes either for a click on No.
+class Question : public QMessageBox {
+public:
+    using QMessageBox::QMessageBox;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->matches(QKeySequence::Cancel))
+            reject();
+        else
+            QMessageBox::keyPressEvent(event);
+    }
+    void closeEvent(QCloseEvent* event) override { QDialog::closeEvent(event); }
+};
+
+} // namespace
 
 void showInformation(QWidget* parent, const QString& title, const QString& text) {
     QMessageBox box(QMessageBox::Information, title, text, QMessageBox::Ok, parent);
@@ -15,7 +37,7 @@ void showInformation(QWidget* parent, const QString& title, const QString& text)
 }
 
 std::optional<bool> asks(QWidget* parent, const QString& title, const QString& text) {
-    QMessageBox box(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No, parent);
+    Question box(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No, parent);
     box.setDefaultButton(QMessageBox::No);
     setStandardButtonPictures(box);
     switch (box.exec()) {

@@ -13,11 +13,11 @@ namespace ui {
 /// A box that tells of something that went well; returns when the user has closed it.
 void showInformation(QWidget* parent, const QString& title, const QString& text);
 
-/// Asks about what nothing brings back. No is what the Return key says. Nothing if the box goes
-/// without an answer, as it does when the program is quit meanwhile.
+/// Asks before something that can't be undone. The Return key answers No. Nothing if the user
+/// gives no answer: by the Escape key, by the title bar's cross, or by quitting the program.
 std::optional<bool> asks(QWidget* parent, const QString& title, const QString& text);
 
-/// The same where no answer is a no.
+/// The same where no answer means No.
 bool confirms(QWidget* parent, const QString& title, const QString& text);
 
 } // namespace ui

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include <QEvent>
+#include <QStandardItemModel>
 #include <QWizard>
 
 #include "api/backup_set.h"
@@ -18,6 +19,20 @@
 #include "wizards/share_mappings.h"
 
 using wizards::RestoreReasonCode;
+
+namespace {
+
+/// Makes the last row one that keys, wheel and mouse pass over.
+void makeHeading(QComboBox& list) {
+    const auto* rows = qobject_cast<QStandardItemModel*>(list.model());
+    QStandardItem* row = rows->item(list.count() - 1);
+    row->setFlags(Qt::NoItemFlags);
+    QFont font = list.font();
+    font.setBold(true);
+    row->setFont(font);
+}
+
+} // namespace
 
 RestoreLocationPage::RestoreLocationPage(boost::shared_ptr<hessiancln::BackupSet> set,
                                          QWidget* parent)
@@ -35,8 +50,11 @@ RestoreLocationPage::RestoreLocationPage(boost::shared_ptr<hessiancln::BackupSet
 RestoreLocationPage::~RestoreLocationPage() = default;
 
 void RestoreLocationPage::fillReasons() {
-    for (const wizards::RestoreReason& reason : wizards::restoreReasons())
+    for (const wizards::RestoreReason& reason : wizards::restoreReasons()) {
         ui_->cmbRestoreReason->addItem(reason.shownText(), static_cast<int>(reason.code));
+        if (reason.code == RestoreReasonCode::Heading)
+            makeHeading(*ui_->cmbRestoreReason);
+    }
     ui_->cmbRestoreReason->setCurrentIndex(-1);
 }
 

@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
+#include <functional>
+
 #include <QAbstractButton>
 #include <QDateTimeEdit>
 #include <QMessageBox>
@@ -21,6 +23,9 @@ using simulator::World;
 using support::difference;
 using support::isDialog;
 using Calls = std::vector<std::string>;
+using Leave = std::function<void(QWidget&)>; ///< how the user leaves a box
+
+Q_DECLARE_METATYPE(Leave)
 
 namespace {
 
@@ -83,8 +88,8 @@ private slots:
     void aSharedScheduleStaysAndSoDoesTheRest();
     void aFaultOfTheRemoval_data();
     void aFaultOfTheRemoval();
-    void quittingUnderAQuestionDeletesNothing_data();
-    void quittingUnderAQuestionDeletesNothing();
+    void leavingAQuestionDeletesNothing_data();
+    void leavingAQuestionDeletesNothing();
     void aFilterThatCantBeSwitchedOnStaysDisabled();
     void eachValueOfTheFilterAsksAnew();
     void aSetThatGoesUnderTheWizard();
@@ -259,22 +264,30 @@ void DeleteTest::aFaultOfTheRemoval() {
     QVERIFY(session::connectedToAgent());
 }
 
-void DeleteTest::quittingUnderAQuestionDeletesNothing_data() {
+void DeleteTest::leavingAQuestionDeletesNothing_data() {
     QTest::addColumn<bool>("hasFiles");
-    QTest::newRow("of a set without files") << false;
-    QTest::newRow("behind the wizard") << true;
+    QTest::addColumn<Leave>("leave");
+    const Leave quit = [this](QWidget&) { test_.driver->window().OnQuit(); };
+    const Leave escape = [](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); };
+    const Leave cross = [](QWidget& box) { box.close(); };
+    QTest::newRow("quit, of a set without files") << false << quit;
+    QTest::newRow("quit, after the wizard") << true << quit;
+    QTest::newRow("Escape, of a set without files") << false << escape;
+    QTest::newRow("Escape, after the wizard") << true << escape;
+    QTest::newRow("cross, of a set without files") << false << cross;
+    QTest::newRow("cross, after the wizard") << true << cross;
 }
 
 /// To be asked is no answer, not even a no.
-void DeleteTest::quittingUnderAQuestionDeletesNothing() {
+void DeleteTest::leavingAQuestionDeletesNothing() {
     QFETCH(bool, hasFiles);
+    QFETCH(Leave, leave);
     start([](World& world) { gui::store(world); });
     if (hasFiles) {
         test_.driver->sets().selectRow(gui::kRow);
         test_.expectWizard(gui::checkAll);
     }
-    test_.modals->expect(q("question"), isDialog<QMessageBox>,
-                         [this](QWidget&) { test_.driver->window().OnQuit(); });
+    test_.modals->expect(q("question"), isDialog<QMessageBox>, leave);
     // Within the loop that ends then, as in the program.
     QTimer::singleShot(0, &test_.driver->window(), [this] {
         test_.run("OnDelete");

@@ -79,6 +79,7 @@ private slots:
     void aReasonIsCompulsory();
     void aHeadingMovesToItsFirstReason_data();
     void aHeadingMovesToItsFirstReason();
+    void keysPassOverAHeading();
     void aNotebookHasNoOtherComputer();
     void theOriginalPlaceIsTheEnd();
     void theSourcePageIsAskedForCredentials();
@@ -146,6 +147,20 @@ void RestorePagesTest::aHeadingMovesToItsFirstReason() {
     pages.reasons().setCurrentIndex(heading);
     QCOMPARE(pages.reasons().currentIndex(), heading + 1);
     QCOMPARE(pages.reasons().currentData().toInt(), code);
+}
+
+void RestorePagesTest::keysPassOverAHeading() {
+    LocationPages pages(openSet(documents));
+    QComboBox& reasons = pages.reasons();
+    for (int heading : {0, 6, 9})
+        QVERIFY(!(reasons.model()->flags(reasons.model()->index(heading, 0)) & Qt::ItemIsEnabled));
+    reasons.setCurrentIndex(7);
+    QTest::keyClick(&reasons, Qt::Key_Up);
+    QCOMPARE(reasons.currentIndex(), 5);
+    QTest::keyClick(&reasons, Qt::Key_Down);
+    QCOMPARE(reasons.currentIndex(), 7);
+    QTest::keyClick(&reasons, Qt::Key_Home);
+    QCOMPARE(reasons.currentIndex(), 1);
 }
 
 void RestorePagesTest::aNotebookHasNoOtherComputer() {
