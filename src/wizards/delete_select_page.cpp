@@ -48,7 +48,7 @@ void DeleteSelectPage::setUpFilter() {
     connect(ui_->checkRemoved, &QCheckBox::toggled, this, &Page::toggleRemoved);
     connect(ui_->checkKeep, &QCheckBox::toggled, this, &Page::toggleKeep);
     for (QDateTimeEdit* date : {ui_->dateFrom, ui_->dateTo, ui_->dateRemoved})
-        connect(date, &QDateTimeEdit::dateTimeChanged, this, &Page::changeFilter);
+        connect(date, &QDateTimeEdit::dateTimeChanged, this, &Page::changeDate);
     connect(ui_->spinKeep, qOverload<int>(&QSpinBox::valueChanged), this, &Page::changeFilter);
 }
 
@@ -90,6 +90,11 @@ void DeleteSelectPage::toggleRemoved(bool on) {
 void DeleteSelectPage::toggleKeep(bool on) {
     ui_->spinKeep->setEnabled(on);
     changeFilter();
+}
+
+void DeleteSelectPage::changeDate() {
+    if (filterChanged())
+        changeFilter();
 }
 
 void DeleteSelectPage::changeFilter() {

@@ -46,6 +46,7 @@ private slots:
     void toggleTo(bool on);
     void toggleRemoved(bool on);
     void toggleKeep(bool on);
+    void changeDate();
     void changeFilter();
 
 private:

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "wizards/field_memo.h"
 
+#include <algorithm>
+
 #include <QMetaProperty>
 #include <QSignalBlocker>
 #include <QWidget>
@@ -24,6 +26,12 @@ void FieldMemo::remember(QWidget& field) {
 void FieldMemo::rememberAll() {
     for (auto& [field, value] : values_)
         value = valueOf(*field).read(field);
+}
+
+bool FieldMemo::differs() const {
+    return std::any_of(values_.begin(), values_.end(), [](const auto& entry) {
+        return valueOf(*entry.first).read(entry.first) != entry.second;
+    });
 }
 
 void FieldMemo::putBack() const {

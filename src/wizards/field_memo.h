@@ -19,6 +19,8 @@ public:
     /// The same for all fields that are known already.
     void rememberAll();
     void putBack() const;
+    /// Whether a field says something else than what is remembered.
+    bool differs() const;
 
 private:
     std::map<QWidget*, QVariant> values_;

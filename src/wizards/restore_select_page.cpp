@@ -79,7 +79,7 @@ void RestoreSelectPage::setUpFilter() {
     connect(ui_->checkTo, &QCheckBox::toggled, this, &Page::toggleTo);
     connect(ui_->checkRemoved, &QCheckBox::toggled, this, &Page::toggleRemoved);
     for (QDateTimeEdit* date : {ui_->dateFrom, ui_->dateTo, ui_->dateRemoved})
-        connect(date, &QDateTimeEdit::dateTimeChanged, this, &Page::changeFilter);
+        connect(date, &QDateTimeEdit::dateTimeChanged, this, &Page::changeDate);
 }
 
 void RestoreSelectPage::changeEvent(QEvent* event) {
@@ -129,6 +129,11 @@ void RestoreSelectPage::toggleTo(bool on) {
 void RestoreSelectPage::toggleRemoved(bool on) {
     ui_->dateRemoved->setEnabled(on);
     changeFilter();
+}
+
+void RestoreSelectPage::changeDate() {
+    if (filterChanged())
+        changeFilter();
 }
 
 void RestoreSelectPage::changeFilter() {

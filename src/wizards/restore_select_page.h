@@ -49,6 +49,7 @@ private slots:
     void toggleFrom(bool on);
     void toggleTo(bool on);
     void toggleRemoved(bool on);
+    void changeDate();
     void changeFilter();
     void fileListSelectionChanged();
     void showFileGenerations();

@@ -4,6 +4,7 @@
 
 #include <utility>
 
+#include <QAbstractSpinBox>
 #include <QDateTimeEdit>
 #include <QHeaderView>
 #include <QLineEdit>
@@ -44,6 +45,12 @@ void StoredItemsPage::setUp(const Views& views, std::initializer_list<QWidget*> 
 
 bool StoredItemsPage::isComplete() const {
     return model_ && model_->hasSelection();
+}
+
+bool StoredItemsPage::validatePage() {
+    for (QAbstractSpinBox* field : findChildren<QAbstractSpinBox*>())
+        field->interpretText();
+    return isComplete();
 }
 
 void StoredItemsPage::atField(const std::function<void()>& work) {

@@ -39,6 +39,9 @@ public:
     ~StoredItemsPage() override;
 
     bool isComplete() const override;
+    /// Takes over a date that is typed but not entered yet, as the key of a button leaves it: what
+    /// is finished with is what the fields say. Stays on the page if that dropped the marks.
+    bool validatePage() override;
 
 protected:
     /// Widgets of the page's form.
@@ -63,6 +66,9 @@ protected:
                         std::initializer_list<QDateTimeEdit*> others);
     /// Runs what a field has led to. A failure is shown.
     void atField(const std::function<void()>& work);
+    /// Whether the filter says something else than what is shown. The Return key makes a date
+    /// report a change even where there is none.
+    bool filterChanged() const { return filterOfView_.differs(); }
     /// To be overridden for what follows the fields of the filter, which were put back.
     virtual void fieldsPutBack() = 0;
 

@@ -44,6 +44,13 @@ void pickGeneration(RestoreSelectPage& page, int row) {
     QVERIFY(modals.done());
 }
 
+/// By the keyboard, without entering it.
+void typeMinutes(QDateTimeEdit& field, const char* minutes) {
+    field.setSelectedSection(QDateTimeEdit::MinuteSection);
+    for (const char digit : std::string_view(minutes))
+        QTest::keyClick(&field, digit);
+}
+
 } // namespace
 
 /// The page on which what is restored is chosen, its dialog, and how its fields are put back.
@@ -57,6 +64,8 @@ private slots:
     void checkFromFromCodeAsksForNothing();
     void theOtherBoxesAskFromCodeToo();
     void eachValueOfTheFilterAsksAnew();
+    void aTypedDateAsksOnce();
+    void aTypedDateCountsWithoutLeavingItsField();
     void theGenerationsWantAFile();
     void aFileThatTheFilterHidesHasNoGenerations();
     void theGenerationsOfNoFileAreNotShown();
@@ -164,6 +173,36 @@ void RestoreSelectPageTest::eachValueOfTheFilterAsksAnew() {
              std::string("BackupSet.prepare_restore(1700000007, 1730000040, 1730000060)"));
     QCOMPARE(callFor("dateRemoved", -30),
              std::string("BackupSet.prepare_restore(1700000007, 1730000040, 1730000030)"));
+}
+
+void RestoreSelectPageTest::aTypedDateAsksOnce() {
+    RestoreSelectPage page(setWithFiles());
+    for (const char* box : {"checkFilter", "checkTo"})
+        child<QCheckBox>(page, box).click();
+    takeCalls();
+    auto& to = child<QDateTimeEdit>(page, "dateTo");
+    typeMinutes(to, "17");
+    QCOMPARE(takeCalls(), Calls{});
+    QTest::keyClick(&to, Qt::Key_Return);
+    // From 03:34 to 03:17.
+    QCOMPARE(takeCalls().front(), std::string("BackupSet.prepare_restore(0, 1729999040, 0)"));
+    QTest::keyClick(&to, Qt::Key_Return);
+    QCOMPARE(takeCalls(), Calls{});
+}
+
+void RestoreSelectPageTest::aTypedDateCountsWithoutLeavingItsField() {
+    RestoreSelectPage page(setWithFiles());
+    for (const char* box : {"checkFilter", "checkFrom"})
+        child<QCheckBox>(page, box).click();
+    auto& list = child<QListView>(page, "listSelection");
+    list.model()->setData(list.model()->index(0, 0, list.rootIndex()), Qt::Checked,
+                          Qt::CheckStateRole);
+    QVERIFY(page.validatePage());
+    typeMinutes(child<QDateTimeEdit>(page, "dateFrom"), "45");
+    takeCalls();
+    // From 22:13 to 22:45, another view in which nothing is marked yet.
+    QVERIFY(!page.validatePage());
+    QCOMPARE(takeCalls().front(), std::string("BackupSet.prepare_restore(1700001920, 0, 0)"));
 }
 
 void RestoreSelectPageTest::theGenerationsWantAFile() {
