@@ -12,7 +12,10 @@ target_compile_features(tarn_options INTERFACE cxx_std_20)
 target_include_directories(tarn_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
 target_compile_options(tarn_options INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
-    -Wold-style-cast -Werror)
+    -Wold-style-cast)
+if(TARN_WERROR)
+    target_compile_options(tarn_options INTERFACE -Werror)
+endif()
 target_compile_definitions(tarn_options INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_DEPRECATED_WARNINGS)
 # GCC 12 takes the two sides of "text" + std::string for overlapping, and loses the length of

@@ -62,16 +62,14 @@ void connectToAgent(const std::string& address, const std::string& user,
 
     Root root;
     const bool integrated = user.empty() && integratedLogonAvailable();
-    if (!integrated) {
+    if (!integrated)
         root = bootstrap.login(baseUrl, clientVersion, user, password, flag);
-    } else if (!performIntegratedLogon(root, bootstrap, baseUrl, clientVersion,
-                                       *securityOperations())) {
+    else if (!performIntegratedLogon(root, bootstrap, baseUrl, clientVersion,
+                                     *platform::securityOperations()))
         return;
-    }
     // An agent may end a login without a fault and without a session.
-    if (!root) {
+    if (!root)
         return;
-    }
     moveToRawStream(*root);
     g_connection = std::move(root);
     g_currentUser = integrated ? currentWindowsUser() : user;
@@ -79,9 +77,8 @@ void connectToAgent(const std::string& address, const std::string& user,
 
 void disconnectFromAgent() {
     const std::lock_guard lock(g_connectionMutex);
-    if (!g_connection) {
+    if (!g_connection)
         return;
-    }
     try {
         g_connection->logout();
     } catch (const std::exception&) {
@@ -92,9 +89,8 @@ void disconnectFromAgent() {
 
 Root getConnection() {
     const std::lock_guard lock(g_connectionMutex);
-    if (!g_connection) {
+    if (!g_connection)
         throw serialize_exception("No API connection exists");
-    }
     return g_connection;
 }
 
@@ -105,9 +101,8 @@ QStringList readDomainList(const std::string& address) {
         std::string baseUrl;
         normalizeAgentUrl(address, apiUrl, baseUrl);
         ClientConnection bootstrap(apiUrl, false, 0, std::string());
-        for (const std::string& domain : bootstrap.getAvailableDomains()) {
+        for (const std::string& domain : bootstrap.getAvailableDomains())
             domains.append(fromWire(domain));
-        }
     } catch (const std::exception&) {
         // Without domains the login simply offers none.
     }

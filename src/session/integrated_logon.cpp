@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "session/integrated_logon.h"
 
-#include <optional>
 #include <utility>
 
 #include "api/client_connection.h"
@@ -19,12 +18,10 @@ namespace {
 // The service stands on the machine of the user, whatever address it is reached by.
 const char* const targetName = "OstrandBakSvc/localhost";
 
-std::optional<SecurityOperations*> operationsOverride;
-
 } // namespace
 
 bool integratedLogonAvailable() {
-    return securityOperations() != nullptr;
+    return platform::securityOperations() != nullptr;
 }
 
 bool performIntegratedLogon(boost::shared_ptr<ClientConnection>& connectionOut,
@@ -37,23 +34,10 @@ bool performIntegratedLogon(boost::shared_ptr<ClientConnection>& connectionOut,
         root = std::move(answer.conn);
         context.setInToken(framedToken(answer.context));
     }
-    if (!context.done()) {
+    if (!context.done())
         return false;
-    }
     connectionOut = std::move(root);
     return true;
-}
-
-SecurityOperations* securityOperations() {
-    return operationsOverride.value_or(platform::securityOperations());
-}
-
-SecurityOperationsOverride::SecurityOperationsOverride(SecurityOperations* operations) {
-    operationsOverride = operations;
-}
-
-SecurityOperationsOverride::~SecurityOperationsOverride() {
-    operationsOverride.reset();
 }
 
 } // namespace session

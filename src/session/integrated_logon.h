@@ -31,17 +31,4 @@ bool performIntegratedLogon(boost::shared_ptr<hessiancln::ClientConnection>& con
                             hessiancln::ClientConnection& bootstrap, const std::string& url,
                             const std::string& version, platform::SecurityOperations& operations);
 
-/// The security operations in use; null where the system has none.
-platform::SecurityOperations* securityOperations();
-
-/// Puts `operations`, which may be null, in the place of this system's for as long as the object
-/// lives. One at a time, and while nobody logs in.
-class SecurityOperationsOverride {
-public:
-    explicit SecurityOperationsOverride(platform::SecurityOperations* operations);
-    SecurityOperationsOverride(const SecurityOperationsOverride&) = delete;
-    SecurityOperationsOverride& operator=(const SecurityOperationsOverride&) = delete;
-    ~SecurityOperationsOverride();
-};
-
 } // namespace session

@@ -5,7 +5,7 @@
 # the program puts into it.
 # LUPDATE, SOURCES and a scratch folder OUT are given.
 file(MAKE_DIRECTORY ${OUT})
-set(copy ${OUT}/sg_i18n_de.ts)
+set(copy ${OUT}/texts.ts)
 file(COPY_FILE ${TS} ${copy})
 execute_process(
     COMMAND ${LUPDATE} -silent -locations none -no-obsolete ${SOURCES} -extensions cpp,h,ui

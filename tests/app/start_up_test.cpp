@@ -15,6 +15,7 @@
 #include "resources/pictures.h"
 #include "session/process_values.h"
 #include "tests/support/gui_modal_driver.h"
+#include "tests/support/gui_translation.h"
 #include "ui/size_text.h"
 
 namespace {
@@ -78,7 +79,8 @@ private slots:
     }
 
     void installsATranslationFromTheCurrentDirectory() {
-        QVERIFY(QFile::copy(QStringLiteral(TARN_TRANSLATION_DE), QStringLiteral("sg_i18n_de")));
+        QVERIFY(QFile::copy(support::translationFile(QStringLiteral("de")),
+                            QStringLiteral("sg_i18n_de")));
         support::ModalDriver modals;
         app::installTranslation(*qApp, QStringLiteral("de"));
         QVERIFY(modals.done());
@@ -88,7 +90,8 @@ private slots:
     }
 
     void aTranslationWritesSizesAsTheLocaleDoes() {
-        QVERIFY(QFile::copy(QStringLiteral(TARN_TRANSLATION_DE), QStringLiteral("sg_i18n_de")));
+        QVERIFY(QFile::copy(support::translationFile(QStringLiteral("de")),
+                            QStringLiteral("sg_i18n_de")));
         const QLocale before;
         QLocale::setDefault(QLocale(QLocale::German));
         app::installTranslation(*qApp, QStringLiteral("de"));
@@ -104,7 +107,8 @@ private slots:
     void takesNoFileOfAnotherName() {
         // What Qt would try on its own: a suffix, and the name cut at its underscores.
         for (const char* name : {"sg_i18n_de.qm", "sg_i18n", "sg_i18n.qm", "sg", "sg.qm"})
-            QVERIFY(QFile::copy(QStringLiteral(TARN_TRANSLATION_DE), QString::fromLatin1(name)));
+            QVERIFY(QFile::copy(support::translationFile(QStringLiteral("de")),
+                                QString::fromLatin1(name)));
         expectTranslationError(QStringLiteral("de"));
     }
 

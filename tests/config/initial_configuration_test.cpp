@@ -1,10 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
+#include <optional>
+
 #include <QElapsedTimer>
-#include <QTranslator>
 
 #include "session/process_values.h"
 #include "tests/config/registration_fixture.h"
+#include "tests/support/gui_translation.h"
 
 using namespace steps;
 using hessiancln::KeyEncryptionType;
@@ -73,7 +75,7 @@ void InitialConfigurationTest::whatTheAgentKnowsIsShown() {
         QCOMPARE(static_cast<QDialog&>(dialog).result(), 0);
     });
     modify();
-    compareCalls(kRead);
+    compareCalls(registrationRead);
 }
 
 void InitialConfigurationTest::savingSendsIt() {
@@ -87,7 +89,7 @@ void InitialConfigurationTest::savingSendsIt() {
         QCOMPARE(text(dialog, "txtFieldClientNum"), q("A4C10093170Z"));
     });
     modify();
-    compareCalls(kRead + kManager +
+    compareCalls(registrationRead + managerAsked +
                  sent("customer_name=\"Ada & Co\", account_num=\"AB-1\", "
                       "client_num=\"A4C10093170Z\", private_key_enc=7, account_key_enc=7"));
     change([](World& world) {
@@ -105,7 +107,8 @@ void InitialConfigurationTest::registeringWhatIsThereStartsNothing() {
         QCOMPARE(static_cast<QDialog&>(dialog).result(), 2);
     });
     modify();
-    compareCalls(kRead + kManager + sent(kKnown + ", private_key_enc=7, account_key_enc=7") +
+    compareCalls(registrationRead + managerAsked +
+                 sent(known + ", private_key_enc=7, account_key_enc=7") +
                  Calls{"ClientConfiguration.init_register()"});
     QVERIFY(session::connectedToAgent());
 }
@@ -144,7 +147,8 @@ void InitialConfigurationTest::anOldCipherIsSentByItsNewNumber() {
         press(dialog, "btnSave");
     });
     modify();
-    compareCalls(kRead + kManager + sent(kKnown + ", private_key_enc=5, account_key_enc=7"));
+    compareCalls(registrationRead + managerAsked +
+                 sent(known + ", private_key_enc=5, account_key_enc=7"));
 }
 
 void InitialConfigurationTest::aPrivateKeyOfNoTypeIsSentAsAes128() {
@@ -156,7 +160,8 @@ void InitialConfigurationTest::aPrivateKeyOfNoTypeIsSentAsAes128() {
         press(dialog, "btnSave");
     });
     modify();
-    compareCalls(kRead + kManager + sent(kKnown + ", private_key_enc=5, account_key_enc=7"));
+    compareCalls(registrationRead + managerAsked +
+                 sent(known + ", private_key_enc=5, account_key_enc=7"));
 }
 
 void InitialConfigurationTest::anAccountKeyOfNoTypeMayBeEmpty() {
@@ -169,7 +174,8 @@ void InitialConfigurationTest::anAccountKeyOfNoTypeMayBeEmpty() {
         press(dialog, "btnSave");
     });
     modify();
-    compareCalls(kRead + kManager + sent(kKnown + ", private_key_enc=7, account_key_enc=0"));
+    compareCalls(registrationRead + managerAsked +
+                 sent(known + ", private_key_enc=7, account_key_enc=0"));
     change([](World& world) { QVERIFY(world.registration.account_key.empty()); });
 }
 
@@ -184,9 +190,9 @@ void InitialConfigurationTest::aCustomerThatIsKeptNowhereIsNotSent() {
         press(dialog, "btnSave");
     });
     modify();
-    Calls read = kRead;
+    Calls read = registrationRead;
     read.pop_back();
-    compareCalls(read + kManager + sent(kKnown + ", private_key_enc=7, account_key_enc=7") +
+    compareCalls(read + managerAsked + sent(known + ", private_key_enc=7, account_key_enc=7") +
                  Calls{"ClientConfiguration.getUserInfoConfiguration()"});
 }
 
@@ -209,13 +215,10 @@ void InitialConfigurationTest::eachChoiceHasItsCode() {
 }
 
 void InitialConfigurationTest::countriesAreInTheOrderOfTheLanguage() {
-    QTranslator german;
-    const QString none = QLatin1String("");
-    QVERIFY(german.load(q(TARN_TRANSLATION_DE), none, none, none));
-    expectDialog([&german](QWidget& dialog) {
+    expectDialog([](QWidget& dialog) {
         auto& countries = child<QComboBox>(dialog, "cmbCountry");
         session::g_language = q("de");
-        QCoreApplication::installTranslator(&german);
+        std::optional<support::Translation> german(q("de"));
         QTRY_COMPARE(countries.currentText(), q("Deutschland"));
         QCOMPARE(countries.currentData().toInt(), 276);
         QCOMPARE(countries.count(), 249);
@@ -226,7 +229,7 @@ void InitialConfigurationTest::countriesAreInTheOrderOfTheLanguage() {
                  (QStringList{q("Afghanistan"), q("Ägypten"), q("Ålandinseln"), q("Albanien")}));
         QCOMPARE(countries.itemData(1).toInt(), 818);
         session::g_language.clear();
-        QCoreApplication::removeTranslator(&german);
+        german.reset();
         QTRY_COMPARE(countries.currentText(), q("Germany"));
         QCOMPARE(text(dialog, "txtFieldPrivateKey"), q("the quick brown fox"));
         QCOMPARE(text(dialog, "txtFieldAccountKey"), q("jumps over the lazy dog"));
@@ -237,13 +240,13 @@ void InitialConfigurationTest::countriesAreInTheOrderOfTheLanguage() {
 
 void InitialConfigurationTest::eachCheckIsMade_data() {
     QTest::addColumn<int>("row");
-    for (std::size_t row = 0; row < kSpoilings.size(); ++row)
-        QTest::newRow(kSpoilings[row].message) << static_cast<int>(row);
+    for (std::size_t row = 0; row < spoilings.size(); ++row)
+        QTest::newRow(spoilings[row].message) << static_cast<int>(row);
 }
 
 void InitialConfigurationTest::eachCheckIsMade() {
     QFETCH(int, row);
-    const Spoiling& spoiling = kSpoilings[static_cast<std::size_t>(row)];
+    const Spoiling& spoiling = spoilings[static_cast<std::size_t>(row)];
     expectDialog([&](QWidget& dialog) {
         fill(dialog);
         spoiling.spoil(dialog);
@@ -256,7 +259,7 @@ void InitialConfigurationTest::eachCheckIsMade() {
         QVERIFY(!dialog.isVisible());
     });
     firstRun();
-    compareCalls(kCheck + kRead + kManager + sentFilled() + kUserInfoSent);
+    compareCalls(check + registrationRead + managerAsked + sentFilled() + userInfoSent);
 }
 
 void InitialConfigurationTest::addressesAreAddedAndRemoved() {
@@ -310,7 +313,7 @@ void InitialConfigurationTest::noDialogOpensOnAFault() {
         modals().expectErrorBox(q("Configuration Error"), q("Out of order."));
         test_.agent->clearCallLog();
         modify();
-        compareCalls(first(++calls, kRead));
+        compareCalls(first(++calls, registrationRead));
     }
     QVERIFY(session::connectedToAgent());
 }
@@ -334,7 +337,7 @@ void InitialConfigurationTest::aFileFillsTheFields() {
         press(dialog, "btnCancel");
     });
     modify();
-    compareCalls(kRead);
+    compareCalls(registrationRead);
 }
 
 void InitialConfigurationTest::aKeyAheadOfItsTypeIsLost() {
@@ -398,7 +401,8 @@ void InitialConfigurationTest::aFileWithoutKeysChangesNothing() {
         press(dialog, "btnSave");
     });
     modify();
-    compareCalls(kRead + kManager + sent(kKnown + ", private_key_enc=7, account_key_enc=7"));
+    compareCalls(registrationRead + managerAsked +
+                 sent(known + ", private_key_enc=7, account_key_enc=7"));
 }
 
 void InitialConfigurationTest::aLineWithoutEndIsPassedOver() {

@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
+#include <optional>
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -10,7 +12,6 @@
 #include <QMetaMethod>
 #include <QPushButton>
 #include <QTest>
-#include <QTranslator>
 
 #include "app/login_check.h"
 #include "resources/pictures.h"
@@ -20,7 +21,9 @@
 #include "simulator/world/world.h"
 #include "tests/support/gui_agent.h"
 #include "tests/support/gui_modal_driver.h"
+#include "tests/support/gui_translation.h"
 #include "tests/support/scripted_security_operations.h"
+#include "tests/support/security_operations_override.h"
 
 using support::child;
 using support::GuiAgent;
@@ -59,7 +62,7 @@ std::string login(const std::string& baseUrl, const std::string& user) {
     return "ClientConnection.login(\"" + baseUrl + "\", \"13.0.0.0\", \"" + user + "\", ***, 1)";
 }
 
-const std::string kLocalUrl = "https://127.0.0.1:4411";
+const std::string localUrl = "https://127.0.0.1:4411";
 
 simulator::Options inDomains() {
     simulator::Options options;
@@ -216,7 +219,7 @@ private slots:
         QVERIFY(session::connectedToAgent());
         QCOMPARE(dialog.user(), QStringLiteral("demo"));
         QCOMPARE(dialog.host(), QStringLiteral("127.0.0.1"));
-        QCOMPARE(logins(agent), std::vector{login(kLocalUrl, "demo")});
+        QCOMPARE(logins(agent), std::vector{login(localUrl, "demo")});
         QCOMPARE(dialog.cursor().shape(), Qt::ArrowCursor);
     }
 
@@ -322,7 +325,7 @@ private slots:
         // The log writes a backslash as it stands in a literal.
         const QString logged =
             QString(user).replace(QStringLiteral("\\"), backslashOfLog(calls[0]));
-        QCOMPARE(calls[0], login(kLocalUrl, session::toWire(logged)));
+        QCOMPARE(calls[0], login(localUrl, session::toWire(logged)));
     }
 
     void theUserFieldMayNameAnAgent() {
@@ -340,7 +343,7 @@ private slots:
 
     void withIntegratedLogonTheFieldsAreClosedAtFirst() {
         FailingSecurity security;
-        const session::SecurityOperationsOverride override(&security);
+        const support::SecurityOperationsOverride override(&security);
         LoginCheck dialog;
         QVERIFY(!child<QCheckBox>(dialog, "chkSSPILogin").isHidden());
         QVERIFY(child<QCheckBox>(dialog, "chkSSPILogin").isChecked());
@@ -349,7 +352,7 @@ private slots:
 
     void aClickOnTheCheckBoxForgetsWhatWasTyped() {
         FailingSecurity security;
-        const session::SecurityOperationsOverride override(&security);
+        const support::SecurityOperationsOverride override(&security);
         const GuiAgent agent(inDomains());
         LoginCheck dialog;
         dialog.show();
@@ -367,7 +370,7 @@ private slots:
 
     void withTheBoxCheckedItIsTheAgentOfThisMachine() {
         FailingSecurity security;
-        const session::SecurityOperationsOverride override(&security);
+        const support::SecurityOperationsOverride override(&security);
         const GuiAgent agent(inDomains());
         LoginCheck dialog;
         QCOMPARE(dialog.host(), QStringLiteral("127.0.0.1"));
@@ -378,7 +381,7 @@ private slots:
 
     void anIntegratedLogonThatFailsInThisSystemBehavesLikeEscape() {
         FailingSecurity security;
-        const session::SecurityOperationsOverride override(&security);
+        const support::SecurityOperationsOverride override(&security);
         const GuiAgent agent;
         LoginCheck dialog;
         dialog.show();
@@ -393,7 +396,7 @@ private slots:
 
     void anEmptyUserTakesTheIntegratedPathAndIgnoresThePassword() {
         FailingSecurity security;
-        const session::SecurityOperationsOverride override(&security);
+        const support::SecurityOperationsOverride override(&security);
         const GuiAgent agent;
         LoginCheck dialog;
         child<QCheckBox>(dialog, "chkSSPILogin").click();
@@ -408,16 +411,13 @@ private slots:
         const GuiAgent agent(inDomains());
         LoginCheck dialog;
         dialog.show();
-        QTranslator german;
-        const QString none = QLatin1String("");
-        QVERIFY(german.load(QStringLiteral(TARN_TRANSLATION_DE), none, none, none));
-        QCoreApplication::installTranslator(&german);
+        std::optional<support::Translation> german(QStringLiteral("de"));
         QTRY_COMPARE(dialog.windowTitle(), QStringLiteral("Anmeldung"));
         QCOMPARE(child<QLabel>(dialog, "labelDomain").text(), QString::fromUtf8("&Domäne:"));
         QCOMPARE(child<QPushButton>(dialog, "buttonLogin").text(), QStringLiteral("A&nmelden"));
         QVERIFY(dialog.width() >= dialog.layout()->minimumSize().width());
         QVERIFY(dialog.height() >= dialog.layout()->minimumSize().height());
-        QCoreApplication::removeTranslator(&german);
+        german.reset();
         QTRY_COMPARE(dialog.windowTitle(), QStringLiteral("Login"));
     }
 

@@ -18,7 +18,6 @@
 #include <QTest>
 #include <QToolBar>
 #include <QToolButton>
-#include <QTranslator>
 #include <QUrl>
 
 #include <zip.h>
@@ -28,6 +27,7 @@
 #include "tests/support/gui_agent.h"
 #include "tests/support/gui_form_texts.h"
 #include "tests/support/gui_modal_driver.h"
+#include "tests/support/gui_translation.h"
 
 using support::child;
 
@@ -277,18 +277,14 @@ private slots:
     }
 
     void opensInTheTextsOfATranslation() {
-        QTranslator german;
-        const QString none = QLatin1String("");
-        QVERIFY(german.load(QStringLiteral(TARN_TRANSLATION_DE), none, none, none));
         window_->setWindowTitle(QStringLiteral("Ostrand Backup - demo@there"));
-        QCoreApplication::installTranslator(&german);
+        const support::Translation german(QStringLiteral("de"));
         QTRY_COMPARE(child<QAction>(*window_, "actionLogin").text(), QStringLiteral("&Verbinden"));
         QCOMPARE(window_->windowTitle(), QStringLiteral("Ostrand Backup - demo@there"));
 
         SimpleGUIMainWindow fresh;
         QCOMPARE(child<QMenu>(fresh, "menu_Help").title(), QStringLiteral("&Hilfe"));
         QCOMPARE(fresh.windowTitle(), QStringLiteral("Ostrand Backup"));
-        QCoreApplication::removeTranslator(&german);
     }
 
 private:

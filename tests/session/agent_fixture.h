@@ -22,9 +22,8 @@ protected:
 
     void TearDown() override {
         session::g_connection.reset();
-        if (!agentGone) {
+        if (!agentGone)
             EXPECT_THAT(agent.liveObjects(), testing::IsEmpty());
-        }
         EXPECT_THAT(agent.violations(), testing::IsEmpty());
         EXPECT_EQ(agent.waitingInjections(), 0u);
     }

@@ -28,9 +28,8 @@ protected:
 
     static std::vector<std::string> asUtf8(const QStringList& domains) {
         std::vector<std::string> texts;
-        for (const QString& domain : domains) {
+        for (const QString& domain : domains)
             texts.push_back(session::toWire(domain));
-        }
         return texts;
     }
 };
@@ -75,9 +74,8 @@ TEST_F(DomainList, TakesNoLockAndTouchesNoProcessValue) {
     bool free = false;
     WebServer server([&free](const std::string&) {
         free = session::g_connectionMutex.try_lock();
-        if (free) {
+        if (free)
             session::g_connectionMutex.unlock();
-        }
         return webPage(bytes("r 01 00 V z z"));
     });
     readDomainList(server.url());

@@ -8,6 +8,7 @@
 #include "tests/session/web_server.h"
 #include "tests/support/bytes.h"
 #include "tests/support/scripted_security_operations.h"
+#include "tests/support/security_operations_override.h"
 #include "transport/invoke_exception.h"
 
 // Servers that are no agent, and agents that answer nonsense. Replies are typed by hand.
@@ -178,9 +179,8 @@ TEST_F(FailedLogin, HoldsTheMutexThroughTheRemoteCalls) {
     std::vector<bool> free;
     WebServer server([&free](const std::string&) {
         const bool taken = session::g_connectionMutex.try_lock();
-        if (taken) {
+        if (taken)
             session::g_connectionMutex.unlock();
-        }
         free.push_back(taken);
         return webPage(bytes(free.size() == 1 ? mobileKind : "f z"));
     });
@@ -250,7 +250,7 @@ TEST_F(FailedLogin, SendsTextAsUtf8) {
 }
 
 TEST_F(FailedLogin, WithoutAUserAndASecurityInterfaceSendsAnEmptyLogin) {
-    const session::SecurityOperationsOverride none(nullptr);
+    const support::SecurityOperationsOverride none(nullptr);
     WebServer server(answers(mobileKind, "f z"));
     EXPECT_THROW(session::connectToAgent(server.url(), "", "", 0), invoke_exception);
     const std::string login = bytes("c 01 00 m 00 05 'login'") + wireString(server.url()) +
@@ -262,7 +262,7 @@ TEST_F(FailedLogin, WithoutAUserAndASecurityInterfaceSendsAnEmptyLogin) {
 class FailedIntegratedLogin : public session_tests::SessionTest {
 protected:
     support::ScriptedSecurityOperations system;
-    session::SecurityOperationsOverride inUse{&system};
+    support::SecurityOperationsOverride inUse{&system};
 };
 
 TEST_F(FailedIntegratedLogin, InsideTheSystemRaisesNothing) {

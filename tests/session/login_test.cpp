@@ -8,6 +8,7 @@
 #include "session/text.h"
 #include "tests/session/agent_fixture.h"
 #include "tests/support/scripted_security_operations.h"
+#include "tests/support/security_operations_override.h"
 #include "transport/invoke_exception.h"
 
 namespace {
@@ -54,7 +55,7 @@ TEST_F(Login, AfterAFailedOneSucceeds) {
 }
 
 TEST_F(Login, WithoutAUserAndASecurityInterfaceIsThatOfAGuest) {
-    const session::SecurityOperationsOverride none(nullptr);
+    const support::SecurityOperationsOverride none(nullptr);
     session::connectToAgent(agent.address(), "", "", 0);
     EXPECT_THAT(agent.callTexts(),
                 ElementsAre(askKind, "ClientConnection.login(\"" + agent.baseUrl() +
@@ -246,7 +247,7 @@ protected:
     }
 
     support::ScriptedSecurityOperations system;
-    session::SecurityOperationsOverride inUse{&system};
+    support::SecurityOperationsOverride inUse{&system};
 };
 
 TEST_F(IntegratedLogin, GoesThroughTheRoundsAndMovesToTheStream) {

@@ -6,9 +6,9 @@
 #include <QFile>
 #include <QRegularExpression>
 #include <QTest>
-#include <QTranslator>
 
 #include "resources/pictures.h"
+#include "tests/support/gui_translation.h"
 #include "tests/tour/album.h"
 #include "tests/tour/catalogue.h"
 #include "tests/tour/stories.h"
@@ -97,7 +97,7 @@ bool isSeen(const QString& text, const QStringList& seen) {
 }
 
 /// Letters that the texts of the dialog give twice; a second press goes on to the other one.
-const char* const kTwice[] = {
+const char* const givenTwice[] = {
     "registration-first: Alt+O stands for labAccountNum \"Acc&ount #\" and labAccountKeyConfirm "
     "\"C&onfirm\"",
     "registration-first: Alt+T stands for labPrivateKeyType \"&Type\" and chkRegister \"Connect to "
@@ -107,7 +107,7 @@ void check(const tour::Album& album) {
     for (const QString& screen : album.missing())
         QTest::qFail(qPrintable(screen + q(" has no picture")), __FILE__, __LINE__);
     for (const QString& defect : album.defects())
-        if (std::none_of(std::begin(kTwice), std::end(kTwice),
+        if (std::none_of(std::begin(givenTwice), std::end(givenTwice),
                          [&](const char* twice) { return defect == q(twice); }))
             QTest::qFail(qPrintable(defect), __FILE__, __LINE__);
 }
@@ -121,7 +121,8 @@ private slots:
     void initTestCase() { resources::initPictures(); }
 
     void inEnglish();
-    void inGerman();
+    void inEachLanguage_data();
+    void inEachLanguage();
     void everyFormHasAChapter();
     void everyBoxIsTaken();
     void theReadmeTellsWhereEachScreenStands();
@@ -138,11 +139,15 @@ void TourTest::inEnglish() {
     check(album);
 }
 
-void TourTest::inGerman() {
-    QTranslator german;
-    const QString none = QLatin1String("");
-    QVERIFY(german.load(QStringLiteral(TARN_TRANSLATION_DE), none, none, none));
-    QVERIFY(QCoreApplication::installTranslator(&german));
+void TourTest::inEachLanguage_data() {
+    QTest::addColumn<QString>("language");
+    for (const QString& language : support::languages())
+        QTest::newRow(qPrintable(language)) << language;
+}
+
+void TourTest::inEachLanguage() {
+    QFETCH(QString, language);
+    const support::Translation texts(language);
     tour::Album album(q("Außer Betrieb."));
     tour::takeAll(album);
     check(album);
@@ -191,8 +196,8 @@ void TourTest::thePageShowsEveryScreen() {
     const QString page = contentOf(q("docs/tour.md"));
     for (const tour::Chapter& chapter : tour::catalogue())
         for (const tour::Screen& screen : chapter.screens)
-            for (const char* language : {"en", "de"}) {
-                const QString picture = q("tour/%1/%2.png").arg(q(language), q(screen.name));
+            for (const QString& language : QStringList(q("en")) + support::languages()) {
+                const QString picture = q("tour/%1/%2.png").arg(language, q(screen.name));
                 QVERIFY2(page.contains(picture), screen.name);
                 QVERIFY2(QFile::exists(QStringLiteral(TARN_SOURCE_DIR "/docs/") + picture),
                          screen.name);
