@@ -65,11 +65,10 @@ Node parseRecord(hessianser::Cursor& in) {
 Node parseList(hessianser::Cursor& in) {
     Node node;
     node.kind = Node::Kind::List;
-    if (hessianser::readListStart(in)) {
+    if (hessianser::readListStart(in))
         do
             node.elements.push_back(parse(in));
         while (hessianser::readListContinues(in));
-    }
     return node;
 }
 

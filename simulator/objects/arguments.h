@@ -73,11 +73,10 @@ T readArgument(hessianser::Cursor& in, References& references) {
         if (in.startsWith("Vt") || in.startsWith("Vl"))
             throw Violation("a list isn't written as its kind is");
         T list;
-        if (hessianser::readListStart(in)) {
+        if (hessianser::readListStart(in))
             do
                 list.push_back(readArgument<typename T::value_type>(in, references));
             while (hessianser::readListContinues(in));
-        }
         return list;
     } else if constexpr (std::is_same_v<T, Secret>) {
         return Secret{detail::readCanonical<std::string, Secret>(in)};

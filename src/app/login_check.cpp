@@ -18,11 +18,11 @@
 
 namespace {
 
-constexpr int kLoggedIn = 0;
-constexpr int kCancelled = 1;
-constexpr std::int32_t kPasswordLogin = 1;
-constexpr int kWidth = 294;
-constexpr int kHeight = 180;
+constexpr int loggedIn = 0;
+constexpr int cancelled = 1;
+constexpr std::int32_t passwordLogin = 1;
+constexpr int smallestWidth = 294;
+constexpr int smallestHeight = 180;
 
 QString currentUserName() {
     return session::fromWire(session::currentWindowsUser());
@@ -84,8 +84,8 @@ void LoginCheck::fitToTexts() {
     ensurePolished();
     const QSize needed = layout()->minimumSize();
     setMinimumWidth(needed.width());
-    setFixedHeight(std::max(kHeight, needed.height()));
-    resize(std::max(kWidth, needed.width()), height());
+    setFixedHeight(std::max(smallestHeight, needed.height()));
+    resize(std::max(smallestWidth, needed.width()), height());
 }
 
 void LoginCheck::changeEvent(QEvent* event) {
@@ -128,11 +128,11 @@ void LoginCheck::OnLogin() {
             session::connectToAgent(address, "", "", 0);
         else
             session::connectToAgent(address, session::toWire(user()),
-                                    session::toWire(ui_->lineEditPassword->text()), kPasswordLogin);
-        done(kLoggedIn);
+                                    session::toWire(ui_->lineEditPassword->text()), passwordLogin);
+        done(loggedIn);
     });
 }
 
 void LoginCheck::OnQuit() {
-    done(kCancelled);
+    done(cancelled);
 }

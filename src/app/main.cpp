@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int kAnswerTime = 5000;
+constexpr int answerTime = 5000;
 
 /// What has to be set before the application object exists.
 void prepareApplication() {
@@ -39,7 +39,7 @@ int main(int argc, char** argv) {
     QtSingleApplication application(argc, argv);
     resources::initPictures();
     app::applyStyleSheet(application);
-    if (application.sendMessage(QString(), kAnswerTime))
+    if (application.sendMessage(QString(), answerTime))
         return 0;
     session::g_language = app::languageOf(QCoreApplication::arguments());
     app::installTranslation(application, session::g_language);

@@ -14,10 +14,10 @@
 namespace {
 
 // A message is its length in UTF-8 as 4 bytes, then the text; the answer is one byte.
-constexpr int kLengthSize = 4;
-constexpr quint32 kLongestMessage = 64 * 1024;
-constexpr char kConfirmation = '!';
-constexpr int kPauseBeforeNextTry = 20;
+constexpr int lengthSize = 4;
+constexpr quint32 longestMessage = 64 * 1024;
+constexpr char confirmation = '!';
+constexpr int pauseBeforeNextTry = 20;
 
 /// Whether this process is the first one. Nobody else is where no lock can be made at all.
 bool takeLock(QLockFile& lock) {
@@ -37,7 +37,7 @@ QString inRuntimeDirectory(const QString& name) {
 
 QByteArray frame(const QString& message) {
     const QByteArray text = message.toUtf8();
-    QByteArray bytes(kLengthSize, '\0');
+    QByteArray bytes(lengthSize, '\0');
     qToBigEndian(static_cast<quint32>(text.size()), bytes.data());
     return bytes + text;
 }
@@ -48,24 +48,24 @@ bool connectUntil(QLocalSocket& socket, const QString& name, const QDeadlineTime
         socket.connectToServer(name);
         if (socket.waitForConnected(static_cast<int>(deadline.remainingTime())))
             return true;
-        QThread::msleep(kPauseBeforeNextTry);
+        QThread::msleep(pauseBeforeNextTry);
     }
     return false;
 }
 
 /// Whether a whole message has come; if so, it is taken from the socket into `message`.
 bool takeMessage(QLocalSocket& socket, QString& message) {
-    if (socket.bytesAvailable() < kLengthSize)
+    if (socket.bytesAvailable() < lengthSize)
         return false;
-    const QByteArray head = socket.peek(kLengthSize);
+    const QByteArray head = socket.peek(lengthSize);
     const auto length = qFromBigEndian<quint32>(head.constData());
-    if (length > kLongestMessage) {
+    if (length > longestMessage) {
         socket.abort();
         return false;
     }
-    if (socket.bytesAvailable() < kLengthSize + static_cast<qint64>(length))
+    if (socket.bytesAvailable() < lengthSize + static_cast<qint64>(length))
         return false;
-    socket.skip(kLengthSize);
+    socket.skip(lengthSize);
     message = QString::fromUtf8(socket.read(length));
     return true;
 }
@@ -94,7 +94,7 @@ bool QtSingleApplication::sendMessage(const QString& message, int timeout) {
     while (socket.bytesAvailable() == 0)
         if (!socket.waitForReadyRead(static_cast<int>(deadline.remainingTime())))
             return false;
-    return socket.read(1) == QByteArray(1, kConfirmation);
+    return socket.read(1) == QByteArray(1, confirmation);
 }
 
 bool QtSingleApplication::event(QEvent* event) {
@@ -122,7 +122,7 @@ void QtSingleApplication::receive() {
             QString message;
             if (!takeMessage(*socket, message))
                 return;
-            socket->write(&kConfirmation, 1);
+            socket->write(&confirmation, 1);
             socket->flush();
             emit messageReceived(message);
         };

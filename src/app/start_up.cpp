@@ -21,8 +21,8 @@
 
 namespace {
 
-constexpr int kTimeToAppear = 500;
-constexpr int kTimeBetweenLooks = 10;
+constexpr int timeToAppear = 500;
+constexpr int timeBetweenLooks = 10;
 
 } // namespace
 
@@ -62,10 +62,10 @@ void applyStyleSheet(QApplication& application) {
 
 void showAtOnce(QWidget& window) {
     window.show();
-    const QDeadlineTimer deadline(kTimeToAppear);
+    const QDeadlineTimer deadline(timeToAppear);
     while (!window.windowHandle()->isExposed() && !deadline.hasExpired()) {
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-        QThread::msleep(kTimeBetweenLooks);
+        QThread::msleep(timeBetweenLooks);
     }
     // Appearing may have asked for another layout.
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);

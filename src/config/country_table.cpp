@@ -12,7 +12,7 @@ namespace config {
 namespace {
 
 // Some names are older than the standard's present ones: they are what agents were set up with.
-constexpr std::array<Country, countryCount> kCountries{{
+constexpr std::array<Country, countryCount> countryTable{{
     {4, QT_TRANSLATE_NOOP("InitClntCfgDlg", "Afghanistan")},
     {248, QT_TRANSLATE_NOOP("InitClntCfgDlg", "Åland Islands")},
     {8, QT_TRANSLATE_NOOP("InitClntCfgDlg", "Albania")},
@@ -267,14 +267,14 @@ constexpr std::array<Country, countryCount> kCountries{{
 } // namespace
 
 const std::array<Country, countryCount>& countries() {
-    return kCountries;
+    return countryTable;
 }
 
 std::vector<NamedCountry> countriesFor(const QLocale& language) {
     std::vector<NamedCountry> named;
     named.reserve(countryCount);
     bool translated = false;
-    for (const auto& [code, english] : kCountries) {
+    for (const auto& [code, english] : countryTable) {
         named.push_back({code, QCoreApplication::translate("InitClntCfgDlg", english)});
         translated = translated || named.back().name != QString::fromUtf8(english);
     }

@@ -19,7 +19,7 @@ struct NamedKey {
     CriKey key;
 };
 
-const NamedKey kKeys[] = {
+const NamedKey keys[] = {
     {QLatin1String("UserName"), CriKey::customerName},
     {QLatin1String("AccountName"), CriKey::accountNumber},
     {QLatin1String("ClientNumber"), CriKey::clientNumber},
@@ -55,7 +55,7 @@ std::optional<CriEntry> criEntryOf(const QString& line) {
     if (end <= 0)
         return std::nullopt;
     const QStringRef name = line.leftRef(end);
-    for (const NamedKey& known : kKeys)
+    for (const NamedKey& known : keys)
         if (name == known.name)
             return CriEntry{known.key, line.mid(end + 1)};
     return std::nullopt;

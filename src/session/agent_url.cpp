@@ -9,9 +9,8 @@ void normalizeAgentUrl(const std::string& address, std::string& apiUrl, std::str
     std::string url = hasScheme ? address : "https://" + address;
     // Behind the colon of either scheme, and before that of any port.
     constexpr std::size_t behindScheme = 7;
-    if (url.find(':', behindScheme) == std::string::npos) {
+    if (url.find(':', behindScheme) == std::string::npos)
         url += ":4411";
-    }
     apiUrl = url + "/api";
     baseUrl = std::move(url);
 }

@@ -14,9 +14,8 @@ std::string toWire(const QString& text) {
 }
 
 QString fromWire(std::string_view text) {
-    if (text.size() > std::numeric_limits<int>::max() / sizeof(QChar)) {
+    if (text.size() > std::numeric_limits<int>::max() / sizeof(QChar))
         throw std::length_error("Text too long to be shown");
-    }
     return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
 }
 

@@ -7,12 +7,10 @@
 namespace hessiancln {
 
 bool ConnectionKey::operator<(const ConnectionKey& other) const {
-    if (useTls != other.useTls) {
+    if (useTls != other.useTls)
         return useTls;
-    }
-    if (port != other.port) {
+    if (port != other.port)
         return port < other.port;
-    }
     return compareIgnoringCase(host, other.host) < 0;
 }
 

@@ -52,9 +52,8 @@ HttpExchange::HttpExchange(bool useTls, const HttpLimits& limits, const Tracer& 
 void HttpExchange::connect(const std::string& host, std::uint32_t port) {
     ErrorCode error;
     const TcpConnection::Endpoints endpoints = connection_.resolve(host, port, error);
-    if (!error) {
+    if (!error)
         error = await([&](auto completion) { connection_.asyncConnect(endpoints, completion); });
-    }
     if (error) {
         trace_.detail("connect: ", error.value(), " msg: ", error.message());
         throw invoke_exception(connectFailure(host, port, error));
@@ -79,11 +78,10 @@ std::string HttpExchange::post(const std::string& host, std::uint32_t port, cons
 
     ResponseParser parser;
     parser.body_limit(limits_.largestContent);
-    if (connection_.useTls()) {
+    if (connection_.useTls())
         exchange(connection_.tlsStream(), request, parser);
-    } else {
+    else
         exchange(connection_.socket(), request, parser);
-    }
     connection_.finish();
 
     auto& response = parser.get();
@@ -100,12 +98,10 @@ void HttpExchange::exchange(Stream& stream, const Request& request, ResponsePars
     // yet mean that there is no answer.
     const ErrorCode sent = send(stream, request);
     const ErrorCode received = receive(stream, parser);
-    if (received && sent) {
+    if (received && sent)
         throw failure("Failed to send the HTTP request", sent);
-    }
-    if (received) {
+    if (received)
         throw failure("Failed to receive the HTTP response", received);
-    }
 }
 
 template <class Stream>
@@ -164,9 +160,8 @@ ErrorCode HttpExchange::await(const std::function<void(TcpConnection::Completion
         timer_.cancel();
     });
     io_.restart();
-    while (!result || !timerDone) {
+    while (!result || !timerDone)
         io_.run_one();
-    }
     return timedOut ? ErrorCode(asio::error::timed_out) : *result;
 }
 

@@ -52,9 +52,8 @@ private:
 
 void ICallDispatcher::WorkerPool::queue(PendingCall call) {
     std::unique_lock lock(mutex_);
-    if (!stopped_ && workers_.empty()) {
+    if (!stopped_ && workers_.empty())
         startWorkers();
-    }
     // Also a handler on a worker may wait here, and the stop waits for that worker.
     roomOrStop_.wait(lock, [this] { return stopped_ || pending_.size() < pendingLimit; });
     if (stopped_) {
@@ -67,23 +66,20 @@ void ICallDispatcher::WorkerPool::queue(PendingCall call) {
 
 void ICallDispatcher::WorkerPool::startWorkers() {
     workers_.reserve(workerCount);
-    while (workers_.size() < workerCount) {
+    while (workers_.size() < workerCount)
         workers_.emplace_back([this] { work(); });
-    }
 }
 
 void ICallDispatcher::WorkerPool::work() {
-    while (std::optional<PendingCall> call = take()) {
+    while (std::optional<PendingCall> call = take())
         carryOut(*call);
-    }
 }
 
 std::optional<PendingCall> ICallDispatcher::WorkerPool::take() {
     std::unique_lock lock(mutex_);
     workOrStop_.wait(lock, [this] { return stopped_ || !pending_.empty(); });
-    if (stopped_) {
+    if (stopped_)
         return std::nullopt;
-    }
     PendingCall call = std::move(pending_.front());
     pending_.pop_front();
     roomOrStop_.notify_one();
@@ -107,12 +103,10 @@ void ICallDispatcher::WorkerPool::stop() {
     }
     workOrStop_.notify_all();
     roomOrStop_.notify_all();
-    for (std::thread& worker : ending) {
+    for (std::thread& worker : ending)
         worker.join();
-    }
-    for (const PendingCall& call : std::exchange(pending_, {})) {
+    for (const PendingCall& call : std::exchange(pending_, {}))
         call.onFailure("Call dispatcher destroyed");
-    }
 }
 
 ICallDispatcher::ICallDispatcher(std::uint32_t traceLevel, std::string traceFile)

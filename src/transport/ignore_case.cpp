@@ -17,9 +17,8 @@ char lower(char character) {
 
 int compareIgnoringCase(std::string_view left, std::string_view right) {
     const auto [inLeft, inRight] = std::ranges::mismatch(left, right, {}, lower, lower);
-    if (inLeft == left.end() || inRight == right.end()) {
+    if (inLeft == left.end() || inRight == right.end())
         return static_cast<int>(inLeft != left.end()) - static_cast<int>(inRight != right.end());
-    }
     return static_cast<unsigned char>(lower(*inLeft)) < static_cast<unsigned char>(lower(*inRight))
                ? -1
                : 1;

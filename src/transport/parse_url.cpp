@@ -33,9 +33,8 @@ void parseUrl(const std::string& url, bool& useTls, std::string& host, std::stri
     constexpr std::string_view plain = "http://";
 
     useTls = startsWith(url, secure);
-    if (!useTls && !startsWith(url, plain)) {
+    if (!useTls && !startsWith(url, plain))
         throw invoke_exception() << "Invalid URL (does not start with http/https): '" << url << "'";
-    }
     port = useTls ? 443 : 80;
 
     const std::string rest = url.substr(useTls ? secure.size() : plain.size());
@@ -45,9 +44,8 @@ void parseUrl(const std::string& url, bool& useTls, std::string& host, std::stri
 
     if (const std::size_t colon = host.find(':'); colon != std::string::npos) {
         port = portNumber(host.c_str() + colon + 1);
-        if (port == 0) {
+        if (port == 0)
             throw invoke_exception() << "Invalid port component in host '" << host << "'";
-        }
         host.resize(colon);
     }
 }

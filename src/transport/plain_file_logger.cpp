@@ -46,9 +46,8 @@ bool PlainFileLogger::open(const std::string& path) {
 
 void PlainFileLogger::close() {
     const std::lock_guard lock(mutex_);
-    if (file_.is_open()) {
+    if (file_.is_open())
         file_.close();
-    }
 }
 
 void PlainFileLogger::setThreshold(std::uint32_t threshold) {
@@ -63,9 +62,8 @@ bool PlainFileLogger::admits(std::uint32_t level) const {
 
 void PlainFileLogger::log(std::uint32_t level, const std::string& message) {
     const std::lock_guard lock(mutex_);
-    if (level < threshold_ || !file_.is_open()) {
+    if (level < threshold_ || !file_.is_open())
         return;
-    }
     const auto now = boost::posix_time::microsec_clock::local_time();
     file_ << boost::posix_time::to_simple_string(now) << " : " << nameOf(level) << " : " << message
           << '\n';

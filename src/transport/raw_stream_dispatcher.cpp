@@ -90,11 +90,10 @@ std::string CRawStreamDispacher::sendRequest(const std::string& url, const std::
     trace.step("CRawStreamDispacher::sendRequest ENTER");
     const ConnectionKey key = endpointOf(url);
     std::string response;
-    if (reuseConnections_) {
+    if (reuseConnections_)
         connectionFor(key)->SendRequest(url, request, response);
-    } else {
+    else
         response = sendOnFreshConnection(key, url, request);
-    }
     trace.step("CRawStreamDispacher::sendRequest LEAVE");
     return response;
 }
@@ -102,9 +101,8 @@ std::string CRawStreamDispacher::sendRequest(const std::string& url, const std::
 CRawStreamDispacher::ConnectionPtr CRawStreamDispacher::connectionFor(const ConnectionKey& key) {
     const std::lock_guard lock(connectionMutex_);
     const auto known = connections_.find(key);
-    if (known != connections_.end() && known->second->isOpen()) {
+    if (known != connections_.end() && known->second->isOpen())
         return known->second;
-    }
     auto fresh = CSingleStreamDispatcherConnection::start(key, traceLevel(), traceFile());
     connections_[key] = fresh;
     return fresh;
@@ -161,9 +159,8 @@ void CRawStreamDispacher::stopConnections() {
             traceFailure = std::current_exception();
         }
     }
-    if (traceFailure) {
+    if (traceFailure)
         std::rethrow_exception(traceFailure);
-    }
 }
 
 } // namespace hessiancln

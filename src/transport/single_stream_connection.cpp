@@ -74,9 +74,8 @@ CSingleStreamDispatcherConnection::CSingleStreamDispatcherConnection(const Conne
 
 CSingleStreamDispatcherConnection::~CSingleStreamDispatcherConnection() {
     // A connection that nobody stopped ends on its own thread, with the last reference.
-    if (thread_.joinable()) {
+    if (thread_.joinable())
         thread_.detach();
-    }
 }
 
 void CSingleStreamDispatcherConnection::SendRequest(const std::string& url,
@@ -84,9 +83,8 @@ void CSingleStreamDispatcherConnection::SendRequest(const std::string& url,
                                                     std::string& response) {
     trace_.step("CSingleStreamDispatcherConnection::SendRequest ENTER");
     // A handler would wait for the thread that it runs on.
-    if (std::this_thread::get_id() == streamThread_) {
+    if (std::this_thread::get_id() == streamThread_)
         throw invoke_exception("A handler can't wait for a reply on its own connection");
-    }
 
     const auto reply = std::make_shared<PendingReply>();
     auto call = std::make_unique<Call>();
@@ -98,11 +96,10 @@ void CSingleStreamDispatcherConnection::SendRequest(const std::string& url,
         const std::lock_guard lock(writeMutex_);
         ++writeCount_;
     }
-    if (submit(call)) {
+    if (submit(call))
         reply->wait();
-    } else {
+    else
         reply->failure = errorText();
-    }
 
     if (!reply->done) {
         trace_.step("CSingleStreamDispatcherConnection::SendRequest EXCEPTION");
@@ -148,14 +145,12 @@ void CSingleStreamDispatcherConnection::WaitForStop() {
         traceFailure = std::current_exception();
     }
     io_.stop();
-    if (thread_.joinable()) {
+    if (thread_.joinable())
         thread_.join();
-    }
     open_ = false;
     connection_.reset();
-    if (traceFailure) {
+    if (traceFailure)
         std::rethrow_exception(traceFailure);
-    }
     trace_.step("CSingleStreamDispatcherConnection::WaitForStop LEAVE");
 }
 
@@ -165,15 +160,13 @@ bool CSingleStreamDispatcherConnection::submit(CallPtr& call) {
     bool wake = false;
     {
         const std::lock_guard lock(stateMutex_);
-        if (terminated_) {
+        if (terminated_)
             return false;
-        }
         submitted_.push_back(std::move(call));
         wake = streaming_ && submitted_.size() == 1;
     }
-    if (wake) {
+    if (wake)
         asio::post(io_, [this] { guarded([this] { enqueueSubmitted(); }); });
-    }
     return true;
 }
 
@@ -202,19 +195,17 @@ void CSingleStreamDispatcherConnection::IOProcessingThread() {
 
 /// False if the connection didn't come up or was stopped before it did.
 bool CSingleStreamDispatcherConnection::connect() {
-    if (!createConnection()) {
+    if (!createConnection())
         return false;
-    }
     trace_.detail("connecting: ", key_.host, " port: ", key_.port);
 
     ErrorCode error;
     std::optional<ErrorCode> result;
     const auto endpoints = connection_->resolve(key_.host, key_.port, error);
-    if (error) {
+    if (error)
         result = error;
-    } else {
+    else
         result = await([&](auto done) { connection_->asyncConnect(endpoints, done); });
-    }
     if (result && *result) {
         trace_.detail("connect: ", result->value(), " msg: ", result->message());
         terminate(connectFailure(key_.host, key_.port, *result));
@@ -275,14 +266,12 @@ void CSingleStreamDispatcherConnection::terminate(const std::string& text) {
     std::list<CallPtr> left;
     {
         const std::lock_guard lock(stateMutex_);
-        if (terminated_) {
+        if (terminated_)
             return;
-        }
         errorText_ << text;
         terminated_ = true;
-        for (auto& [id, call] : waiting_) {
+        for (auto& [id, call] : waiting_)
             left.push_back(std::move(call));
-        }
         left.splice(left.end(), submitted_);
         const std::lock_guard writeLock(writeMutex_);
         writeCondition_.notify_all();
@@ -294,9 +283,8 @@ void CSingleStreamDispatcherConnection::terminate(const std::string& text) {
         connection_->shutDown();
     } else {
         open_ = false;
-        if (connection_) {
+        if (connection_)
             connection_->close();
-        }
     }
     io_.stop();
 

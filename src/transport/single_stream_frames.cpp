@@ -26,9 +26,8 @@ constexpr std::size_t pieceSize = std::size_t(256) * 1024;
 std::uint64_t blockSize(std::uint64_t messageLength) {
     constexpr std::uint64_t step = 1024;
     constexpr std::uint64_t largest = std::numeric_limits<std::uint64_t>::max();
-    if (messageLength > largest - checksumSize - step) {
+    if (messageLength > largest - checksumSize - step)
         return largest;
-    }
     return (messageLength + checksumSize + step - 1) / step * step;
 }
 
@@ -36,9 +35,8 @@ void reserve(std::string& data, std::uint64_t messageLength) {
     const std::uint64_t size = blockSize(messageLength);
     try {
         // Some systems would grant the memory, and fail the process when it is touched.
-        if (!isMessageLength(messageLength)) {
+        if (!isMessageLength(messageLength))
             throw std::length_error("more than a message can be");
-        }
         data.reserve(size);
     } catch (const std::exception&) {
         throw invoke_exception() << "Failed to allocate " << size << " bytes for data receiving";
@@ -50,25 +48,22 @@ void reserve(std::string& data, std::uint64_t messageLength) {
 void CSingleStreamDispatcherConnection::enqueueSubmitted() {
     while (CallPtr call = takeSubmitted()) {
         try {
-            if (call->asynchronous) {
+            if (call->asynchronous)
                 enqueueAsyncSendRequest(call);
-            } else {
+            else
                 enqueue(call);
-            }
         } catch (const std::exception& failure) {
             terminate(failure.what());
-            if (call) {
+            if (call)
                 call->fail(failure.what());
-            }
         }
     }
 }
 
 CSingleStreamDispatcherConnection::CallPtr CSingleStreamDispatcherConnection::takeSubmitted() {
     const std::lock_guard lock(stateMutex_);
-    if (submitted_.empty()) {
+    if (submitted_.empty())
         return nullptr;
-    }
     CallPtr call = std::move(submitted_.front());
     submitted_.pop_front();
     return call;
@@ -89,9 +84,8 @@ void CSingleStreamDispatcherConnection::enqueue(CallPtr& call) {
         writeQueue_.push_back(std::move(frame));
         idle = writeQueue_.size() == 1;
     }
-    if (idle) {
+    if (idle)
         startWriting(false);
-    }
 }
 
 std::string CSingleStreamDispatcherConnection::prepareRequest(const Call& call) {
@@ -112,16 +106,14 @@ void CSingleStreamDispatcherConnection::startWriting(bool writeCompleted) {
             --writeCount_;
             writeCondition_.notify_all();
         }
-        if (!writeQueue_.empty()) {
+        if (!writeQueue_.empty())
             frame = &writeQueue_.front();
-        }
     }
     if (frame) {
         connection_->asyncWrite(asio::buffer(*frame), [this](const ErrorCode& error, std::size_t) {
             guarded([&] {
-                if (error) {
+                if (error)
                     connection_->shutDown(); // the read that is under way ends the stream
-                }
                 startWriting(true);
             });
         });
@@ -170,14 +162,12 @@ void CSingleStreamDispatcherConnection::readDataComplete(const ErrorCode& error,
                                  << error.value() << ")";
     }
     const std::size_t end = std::min<std::uint64_t>(data_.size(), responseLength_);
-    if (pieceStart < end) {
+    if (pieceStart < end)
         checksum_ = continueChecksum(checksum_, data_.data() + pieceStart, end - pieceStart);
-    }
-    if (data_.size() < responseLength_ + checksumSize) {
+    if (data_.size() < responseLength_ + checksumSize)
         readData();
-    } else {
+    else
         takeReply();
-    }
 }
 
 void CSingleStreamDispatcherConnection::takeReply() {

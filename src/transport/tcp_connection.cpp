@@ -74,9 +74,8 @@ void TcpConnection::close() {
 
 void TcpConnection::finish() {
     close();
-    if (finished_) {
+    if (finished_)
         finished_();
-    }
 }
 
 std::string connectFailure(const std::string& host, std::uint32_t port, const ErrorCode& error) {

@@ -50,21 +50,19 @@ public:
     /// Reads until the buffer is full.
     template <class Buffer, class Handler>
     void asyncRead(const Buffer& buffer, Handler handler) {
-        if (useTls_) {
+        if (useTls_)
             boost::asio::async_read(stream_, buffer, std::move(handler));
-        } else {
+        else
             boost::asio::async_read(socket(), buffer, std::move(handler));
-        }
     }
 
     /// Writes the whole buffer.
     template <class Buffer, class Handler>
     void asyncWrite(const Buffer& buffer, Handler handler) {
-        if (useTls_) {
+        if (useTls_)
             boost::asio::async_write(stream_, buffer, std::move(handler));
-        } else {
+        else
             boost::asio::async_write(socket(), buffer, std::move(handler));
-        }
     }
 
     /// Ends both directions and leaves the socket open. Operations under way end with an error.

@@ -52,9 +52,8 @@ TraceEntry::~TraceEntry() {
 void TraceEntry::flush() {
     const std::string text = std::exchange(text_, {}).str();
     text_.imbue(std::locale::classic());
-    if (text.empty() || file_.empty()) {
+    if (text.empty() || file_.empty())
         return;
-    }
     std::string failure = "Failed to trace to '" + file_ + "'. ";
     try {
         errno = 0;
@@ -72,9 +71,8 @@ void TraceEntry::append(const std::string& text) const {
     const std::string first = prefix();
     const std::string later(first.size(), ' ');
     std::string_view rest = text;
-    if (rest.ends_with('\n')) {
+    if (rest.ends_with('\n'))
         rest.remove_suffix(1);
-    }
 
     std::ofstream out;
     out.exceptions(std::ios::failbit | std::ios::badbit);
@@ -83,9 +81,8 @@ void TraceEntry::append(const std::string& text) const {
     for (;;) {
         const std::size_t end = rest.find('\n');
         out << *indent << rest.substr(0, end) << '\n';
-        if (end == std::string_view::npos) {
+        if (end == std::string_view::npos)
             break;
-        }
         rest.remove_prefix(end + 1);
         indent = &later;
     }

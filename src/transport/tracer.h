@@ -19,16 +19,14 @@ public:
         , file_(std::move(file)) {}
 
     void step(const char* text) const {
-        if (level_ == 1 || level_ == 2) {
+        if (level_ == 1 || level_ == 2)
             write(text);
-        }
     }
 
     template <class... Parts>
     void detail(const Parts&... parts) const {
-        if (level_ == 2) {
+        if (level_ == 2)
             write(parts...);
-        }
     }
 
 private:

@@ -13,7 +13,7 @@ namespace ui {
 namespace {
 
 /// Percent of the font's width. Below that it is no pleasure to read.
-constexpr int kNarrower[] = {90, 80};
+constexpr int narrower[] = {90, 80};
 
 const QStyle& styleOf(const QStyleOptionViewItem& option) {
     return option.widget ? *option.widget->style() : *QApplication::style();
@@ -30,7 +30,7 @@ QStyleOptionViewItem FittingTextDelegate::fitted(const QStyleOptionViewItem& opt
     QStyleOptionViewItem fitted = option;
     initStyleOption(&fitted, index);
     fitted.textElideMode = cut_;
-    for (const int percent : kNarrower) {
+    for (const int percent : narrower) {
         if (showsAll(fitted))
             break;
         fitted.font.setStretch(percent);

@@ -21,11 +21,11 @@ namespace {
 
 using Item = boost::shared_ptr<BackupSetItem>;
 
-constexpr std::int32_t kGenerations = 9999;
-constexpr char kSeparator = '\\';
+constexpr std::int32_t generations = 9999;
+constexpr char separator = '\\';
 
 std::string withoutTrailingSeparators(std::string path) {
-    path.erase(path.find_last_not_of(kSeparator) + 1);
+    path.erase(path.find_last_not_of(separator) + 1);
     return path;
 }
 
@@ -39,7 +39,7 @@ void readFilter(const Item& item, StoredItems& stored) {
 }
 
 std::string rootOf(const std::string& path) {
-    return path.substr(0, path.find(kSeparator));
+    return path.substr(0, path.find(separator));
 }
 
 std::vector<std::string> rootsOf(const std::vector<models::PathItem>& paths) {
@@ -56,7 +56,7 @@ Item createPathItem(DataSourceBrowser& browser, const std::string& computer,
                     const models::PathItem& item) {
     if (item.isExclusion)
         return required(browser.createExclusionItem(computer, item.path));
-    return required(browser.createInclusionItem(computer, item.path, kGenerations));
+    return required(browser.createInclusionItem(computer, item.path, generations));
 }
 
 Item createFilter(DataSourceBrowser& browser, const std::string& computer, const std::string& root,

@@ -9,11 +9,11 @@ namespace wizards {
 
 namespace {
 
-constexpr QLatin1Char kSlash('/');
-constexpr QLatin1Char kBackslash('\\');
+constexpr QLatin1Char slash('/');
+constexpr QLatin1Char backslash('\\');
 
 bool isSeparator(QChar character) {
-    return character == kSlash || character == kBackslash;
+    return character == slash || character == backslash;
 }
 
 /// One separator for each run of them.
@@ -48,14 +48,14 @@ QModelIndex childNamed(const QAbstractItemModel& tree, const QModelIndex& parent
 QString folderOfTreePath(const QString& treePath, hessiancln::ClientOSType system) {
     if (system == hessiancln::ClientOSType::Windows)
         return treePath;
-    return withSeparator(treePath, kSlash);
+    return withSeparator(treePath, slash);
 }
 
 QString treePathOfFolder(const QString& folder, hessiancln::ClientOSType system) {
     if (system == hessiancln::ClientOSType::Windows)
         return folder;
-    QString below = withSeparator(folder, kBackslash);
-    if (below.startsWith(kBackslash))
+    QString below = withSeparator(folder, backslash);
+    if (below.startsWith(backslash))
         below.remove(0, 1);
     return QStringLiteral("/\\") + below;
 }
@@ -68,13 +68,13 @@ QString localStoragePath(const QString& folder) {
     QString path = folder.trimmed();
     while (!path.isEmpty() && (isSeparator(path.back()) || path.back().isSpace()))
         path.chop(1);
-    return path + kBackslash;
+    return path + backslash;
 }
 
 QModelIndex deepestIndex(const QAbstractItemModel& tree, const QString& treePath,
                          Qt::CaseSensitivity sensitivity) {
     QModelIndex deepest;
-    for (const QString& name : treePath.split(kBackslash)) {
+    for (const QString& name : treePath.split(backslash)) {
         const QModelIndex next = childNamed(tree, deepest, name, sensitivity);
         if (!next.isValid())
             break;

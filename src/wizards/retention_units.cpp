@@ -11,20 +11,20 @@ using hessiancln::RetentionTimeUnit;
 
 namespace {
 
-constexpr std::array kUnits{RetentionTimeUnit::Days, RetentionTimeUnit::Weeks,
-                            RetentionTimeUnit::Months, RetentionTimeUnit::Years};
+constexpr std::array units{RetentionTimeUnit::Days, RetentionTimeUnit::Weeks,
+                           RetentionTimeUnit::Months, RetentionTimeUnit::Years};
 
 } // namespace
 
 int indexOfUnit(RetentionTimeUnit unit) {
-    const auto found = std::ranges::find(kUnits, unit);
-    return found == kUnits.end() ? -1 : static_cast<int>(found - kUnits.begin());
+    const auto found = std::ranges::find(units, unit);
+    return found == units.end() ? -1 : static_cast<int>(found - units.begin());
 }
 
 RetentionTimeUnit unitOfIndex(int index) {
-    if (index < 0 || index >= static_cast<int>(kUnits.size()))
+    if (index < 0 || index >= static_cast<int>(units.size()))
         return RetentionTimeUnit::Days;
-    return kUnits[static_cast<std::size_t>(index)];
+    return units[static_cast<std::size_t>(index)];
 }
 
 IntervalRule onePerDay() {

@@ -27,9 +27,9 @@ using session::required;
 
 namespace {
 
-constexpr int kNextDay = 1;
-constexpr std::int32_t kFullThrottle = 100;
-constexpr const char* kMissedSchedule = "ScheduleMiss";
+constexpr int nextDay = 1;
+constexpr std::int32_t fullThrottle = 100;
+constexpr const char* missedSchedule = "ScheduleMiss";
 
 /// A wizard doesn't grow with a page that shows more than before.
 void keepPlace(QWidget& widget) {
@@ -77,8 +77,8 @@ void ScheduleSelectPage::setDefaults() {
     const auto agent = configuration();
     ui_->timeStart->setTime(wizards::defaultStart(session::fromWire(agent->getClientNumber())));
     ui_->timeStop->setTime(QTime(6, 0));
-    ui_->comboStopInDays->setCurrentIndex(kNextDay);
-    ui_->spinMissedSchedule->setValue(agent->getAdvancedConfigNumber(kMissedSchedule));
+    ui_->comboStopInDays->setCurrentIndex(nextDay);
+    ui_->spinMissedSchedule->setValue(agent->getAdvancedConfigNumber(missedSchedule));
 }
 
 void ScheduleSelectPage::changeEvent(QEvent* event) {
@@ -137,7 +137,7 @@ void ScheduleSelectPage::loadTimes(ScheduleDetail& detail) {
 void ScheduleSelectPage::apply(const Set& set) {
     applySchedule(*set);
     set->setActive(true);
-    configuration()->setAdvancedConfigNumber(kMissedSchedule, ui_->spinMissedSchedule->value());
+    configuration()->setAdvancedConfigNumber(missedSchedule, ui_->spinMissedSchedule->value());
 }
 
 void ScheduleSelectPage::applySchedule(hessiancln::BackupSet& set) {
@@ -168,7 +168,7 @@ void ScheduleSelectPage::write(ScheduleManager& manager, hessiancln::Schedule& s
     const bool connected = ui_->checkCloudConnection->isChecked();
     schedule.setUsingNetworkDetection(connected);
     if (connected)
-        schedule.setBackupCPUThrottle(kFullThrottle);
+        schedule.setBackupCPUThrottle(fullThrottle);
 }
 
 ScheduleSelectPage::DetailPointer ScheduleSelectPage::createDetail(ScheduleManager& manager) const {

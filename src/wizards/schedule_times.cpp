@@ -11,14 +11,14 @@ namespace wizards {
 
 namespace {
 
-constexpr int kHoursOfDay = 24;
-constexpr int kMinutesOfHour = 60;
-constexpr int kMinutesOfDay = kHoursOfDay * kMinutesOfHour;
-constexpr int kFirstHour = 18;
-constexpr int kStarts = 23;
-constexpr int kQuarters = 4;
-constexpr int kQuarterMinutes = 15;
-constexpr int kDigitsThatCount = 5;
+constexpr int hoursOfDay = 24;
+constexpr int minutesOfHour = 60;
+constexpr int minutesOfDay = hoursOfDay * minutesOfHour;
+constexpr int firstHour = 18;
+constexpr int starts = 23;
+constexpr int quarters = 4;
+constexpr int quarterMinutes = 15;
+constexpr int digitsThatCount = 5;
 
 /// Qt would like to see another generator, but the start of a client must stay what it is.
 int firstRandomNumber(uint seed) {
@@ -31,30 +31,29 @@ int firstRandomNumber(uint seed) {
 
 /// Minutes since the day's begin, kept within so many days.
 int minutesWithin(const hessiancln::time_in_day& time, int days) {
-    const std::int64_t minutes =
-        static_cast<std::int64_t>(time.hour) * kMinutesOfHour + time.minute;
+    const std::int64_t minutes = static_cast<std::int64_t>(time.hour) * minutesOfHour + time.minute;
     return static_cast<int>(
-        std::clamp<std::int64_t>(minutes, 0, std::int64_t{days} * kMinutesOfDay - 1));
+        std::clamp<std::int64_t>(minutes, 0, std::int64_t{days} * minutesOfDay - 1));
 }
 
 QTime timeOfMinutes(int minutes) {
-    return {minutes / kMinutesOfHour % kHoursOfDay, minutes % kMinutesOfHour};
+    return {minutes / minutesOfHour % hoursOfDay, minutes % minutesOfHour};
 }
 
 } // namespace
 
 QTime defaultStart(const QString& clientNumber) {
-    const int start = firstRandomNumber(clientNumber.right(kDigitsThatCount).toUInt()) % kStarts;
-    return {kFirstHour + start / kQuarters, start % kQuarters * kQuarterMinutes};
+    const int start = firstRandomNumber(clientNumber.right(digitsThatCount).toUInt()) % starts;
+    return {firstHour + start / quarters, start % quarters * quarterMinutes};
 }
 
 hessiancln::time_in_day endTimeOf(const StopTime& stop) {
-    return {stop.time.hour() + kHoursOfDay * stop.days, stop.time.minute(), 0};
+    return {stop.time.hour() + hoursOfDay * stop.days, stop.time.minute(), 0};
 }
 
 StopTime stopTimeOf(const hessiancln::time_in_day& end) {
-    const int minutes = minutesWithin(end, kLastStopDay + 1);
-    return {timeOfMinutes(minutes), minutes / kMinutesOfDay};
+    const int minutes = minutesWithin(end, lastStopDay + 1);
+    return {timeOfMinutes(minutes), minutes / minutesOfDay};
 }
 
 QTime startTimeOf(const hessiancln::time_in_day& start) {

@@ -11,7 +11,7 @@
 namespace wizards {
 
 /// The latest day on which a backup may be stopped, counted from the day of its start.
-inline constexpr int kLastStopDay = 6;
+inline constexpr int lastStopDay = 6;
 
 /// The start that is offered to a client: a quarter of an hour from 18:00 to 23:30, which spreads
 /// the clients over the evening, and is the same for one client each time. `clientNumber` as the

@@ -32,7 +32,7 @@ using SSH = hessiancln::UnixFS_SSH_BackupSetCredentials;
 
 namespace {
 
-constexpr std::int32_t kBrowserForNewSet = 0;
+constexpr std::int32_t browserForNewSet = 0;
 
 } // namespace
 
@@ -43,7 +43,7 @@ SelectDataSourcePage::SelectDataSourcePage(const AdministratorTest& isAdministra
                                            QWidget* parent)
     : QWizardPage(parent)
     , ui_(std::make_unique<Ui::SelectDataSourcePage>())
-    , browser_(session::required(session::getConnection()->createBrowser(kBrowserForNewSet)))
+    , browser_(session::required(session::getConnection()->createBrowser(browserForNewSet)))
     , model_(std::make_unique<CComputerTreeModel>(browser_)) {
     ui_->setupUi(this);
     ui_->chkUseTarnClientAccount->setVisible(!session::isNotebookAgent(session::clientType()) &&

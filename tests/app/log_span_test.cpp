@@ -10,15 +10,15 @@ namespace {
 
 using support::TimeZone;
 
-constexpr const char* kBerlin = "CET-1CEST,M3.5.0,M10.5.0/3";
-constexpr const char* kCairo = "EET-2EEST,M4.5.5/0,M10.5.4/24";
+constexpr const char* berlin = "CET-1CEST,M3.5.0,M10.5.0/3";
+constexpr const char* cairo = "EET-2EEST,M4.5.5/0,M10.5.4/24";
 
 std::string text(const QDateTime& time) {
     return time.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz")).toStdString();
 }
 
 TEST(LogSpan, IsTwoWholeDays) {
-    const TimeZone zone(kBerlin);
+    const TimeZone zone(berlin);
     const app::LogSpan span = app::yesterdayAndToday({2026, 11, 21});
     EXPECT_EQ(text(span.from), "2026-11-20 00:00:00.000");
     EXPECT_EQ(text(span.to), "2026-11-21 23:59:59.999");
@@ -31,7 +31,7 @@ TEST(LogSpan, CrossesTheEndOfAYear) {
 }
 
 TEST(LogSpan, BeginsLaterOnADayWithoutMidnight) {
-    const TimeZone zone(kCairo);
+    const TimeZone zone(cairo);
     const app::LogSpan span = app::yesterdayAndToday({2026, 4, 25});
     EXPECT_EQ(text(span.from), "2026-04-24 01:00:00.000");
     EXPECT_EQ(span.from.toSecsSinceEpoch(), 1776981600);

@@ -18,17 +18,17 @@ using support::ModalDriver;
 
 namespace {
 
-const char* const kError = "Configuration Error";
-const char* const kLdapError = "LDAP User Validation Error";
+const char* const error = "Configuration Error";
+const char* const ldapError = "LDAP User Validation Error";
 
-const Calls kReadAccount = kManager + Calls{"ClientConfiguration.getADUserInfo()"};
-const Calls kReadTimes = kManager + Calls{"ClientConfiguration.getDailyAdminRunTime()",
-                                          "ClientConfiguration.getWeeklyAdminRunTime()",
-                                          "ClientConfiguration.getWeeklyAdminRunDay()"};
+const Calls readAccount = managerAsked + Calls{"ClientConfiguration.getADUserInfo()"};
+const Calls readTimes = managerAsked + Calls{"ClientConfiguration.getDailyAdminRunTime()",
+                                             "ClientConfiguration.getWeeklyAdminRunTime()",
+                                             "ClientConfiguration.getWeeklyAdminRunDay()"};
 
 Calls sent(const std::string& username, bool save) {
-    return kManager + Calls{"ClientConfiguration.setADUserInfo({username=" + username +
-                            ", password=***, save=" + (save ? "true})" : "false})")};
+    return managerAsked + Calls{"ClientConfiguration.setADUserInfo({username=" + username +
+                                ", password=***, save=" + (save ? "true})" : "false})")};
 }
 
 QTimeEdit& timeOf(QWidget& wizard, const char* name) {
@@ -112,7 +112,7 @@ void ConfigurationDialogsTest::theAccountIsReadAndSaved() {
         QCOMPARE(text(dialog, "editPassword"), QString());
     });
     openAccount();
-    compareCalls(kReadAccount + sent("\"HOME\\\\Jürgen\"", true));
+    compareCalls(readAccount + sent("\"HOME\\\\Jürgen\"", true));
     test_.agent->withWorld([](World& world) {
         QCOMPARE(q(world.configuration.directoryAccount.password.c_str()), q("  pass word "));
     });
@@ -127,7 +127,7 @@ void ConfigurationDialogsTest::theAccountIsValidated() {
         QVERIFY(!dialog.isVisible());
     });
     openAccount();
-    compareCalls(kReadAccount + sent("\"OFFICE\\\\backup\"", false));
+    compareCalls(readAccount + sent("\"OFFICE\\\\backup\"", false));
 }
 
 void ConfigurationDialogsTest::anAccountWithoutADomainIsNotShown() {
@@ -139,7 +139,7 @@ void ConfigurationDialogsTest::anAccountWithoutADomainIsNotShown() {
         press(dialog, "btnCancel");
     });
     openAccount();
-    compareCalls(kReadAccount);
+    compareCalls(readAccount);
 }
 
 void ConfigurationDialogsTest::anEmptyAccountIsABackslash() {
@@ -151,7 +151,7 @@ void ConfigurationDialogsTest::anEmptyAccountIsABackslash() {
         press(dialog, "btnSave");
     });
     openAccount();
-    compareCalls(kReadAccount + sent("\"\\\\\"", true));
+    compareCalls(readAccount + sent("\"\\\\\"", true));
 }
 
 void ConfigurationDialogsTest::theAccountIsChecked_data() {
@@ -177,14 +177,14 @@ void ConfigurationDialogsTest::theAccountIsChecked() {
     expectAccount([&](QWidget& dialog) {
         dialog.findChild<QLineEdit*>(field)->setText(value);
         for (const char* button : {"btnSave", "btnValidate"}) {
-            modals().expectErrorBox(q(kLdapError), message);
+            modals().expectErrorBox(q(ldapError), message);
             press(dialog, button);
             QVERIFY(dialog.isVisible());
         }
         press(dialog, "btnCancel");
     });
     openAccount();
-    compareCalls(kReadAccount);
+    compareCalls(readAccount);
 }
 
 void ConfigurationDialogsTest::cancellingTheAccountSendsNothing() {
@@ -193,7 +193,7 @@ void ConfigurationDialogsTest::cancellingTheAccountSendsNothing() {
         QCOMPARE(static_cast<QDialog&>(dialog).result(), 0);
     });
     openAccount();
-    compareCalls(kReadAccount);
+    compareCalls(readAccount);
 }
 
 void ConfigurationDialogsTest::aFaultLeavesTheAccountOpen_data() {
@@ -217,11 +217,11 @@ void ConfigurationDialogsTest::aFaultLeavesTheAccountOpen() {
     const bool opening = button.isEmpty();
     failAfter(*test_.agent, after, qPrintable(method));
     if (opening)
-        modals().expectErrorBox(q(kLdapError), q("Out of order."));
+        modals().expectErrorBox(q(ldapError), q("Out of order."));
     modals().expect(q("account"), isDialog<ADAccountDlg>, [&](QWidget& dialog) {
         if (!opening) {
             QTRY_COMPARE(text(dialog, "editUser"), q("backup"));
-            modals().expectErrorBox(q(kLdapError), q("Out of order."));
+            modals().expectErrorBox(q(ldapError), q("Out of order."));
             press(dialog, qPrintable(button));
             QCOMPARE(text(dialog, "editPassword"), q("correct horse"));
         }
@@ -231,7 +231,7 @@ void ConfigurationDialogsTest::aFaultLeavesTheAccountOpen() {
     });
     openAccount();
     compareCalls(first(
-        calls, kReadAccount + sent("\"OFFICE\\\\backup\"", button == QLatin1String("btnSave"))));
+        calls, readAccount + sent("\"OFFICE\\\\backup\"", button == QLatin1String("btnSave"))));
     QCOMPARE(test_.agent->waitingInjections(), std::size_t{0});
 }
 
@@ -271,11 +271,11 @@ void ConfigurationDialogsTest::theTimesAreShownAndSaved() {
         QVERIFY(support::finishWizard(wizard));
     });
     openTimes();
-    Calls expected = kReadTimes;
+    Calls expected = readTimes;
     if (!weekly)
         expected.pop_back();
     const std::string off = "{hour=-1, minute=0, second=0})";
-    compareCalls(expected + kManager +
+    compareCalls(expected + managerAsked +
                  Calls{"ClientConfiguration.setDailyAdminRunTime(" +
                            (daily ? "{hour=6, minute=45, second=0})" : off),
                        "ClientConfiguration.setWeeklyAdminRunTime(5, " +
@@ -316,7 +316,7 @@ void ConfigurationDialogsTest::theChecksEnableTheTimes() {
         support::cancelWizard(wizard, 0);
     });
     openTimes();
-    compareCalls(kReadTimes);
+    compareCalls(readTimes);
 }
 
 void ConfigurationDialogsTest::runningNowWritesNothing_data() {
@@ -335,7 +335,7 @@ void ConfigurationDialogsTest::runningNowWritesNothing() {
         QVERIFY(!wizard.isVisible());
     });
     openTimes();
-    compareCalls(kReadTimes + kManager +
+    compareCalls(readTimes + managerAsked +
                  Calls{"ClientConfiguration." + method.toStdString() + "()"});
 }
 
@@ -355,12 +355,12 @@ void ConfigurationDialogsTest::aRunThatFailsIsToldAndClosesToo() {
     QFETCH(int, after);
     failAfter(*test_.agent, after, qPrintable(method));
     expectTimes([&](QWidget& wizard) {
-        modals().expectErrorBox(q(kError), q("Out of order."));
+        modals().expectErrorBox(q(error), q("Out of order."));
         press(wizard, qPrintable(button));
         QVERIFY(!wizard.isVisible());
     });
     openTimes();
-    Calls expected = kReadTimes + kManager;
+    Calls expected = readTimes + managerAsked;
     if (after == 0)
         expected.push_back("ClientConfiguration." + method.toStdString() + "()");
     compareCalls(expected);
@@ -386,7 +386,7 @@ void ConfigurationDialogsTest::aFaultEndsTheTimes() {
     failAfter(*test_.agent, after, qPrintable(method));
     if (QByteArray(QTest::currentDataTag()).startsWith("saving"))
         expectTimes([](QWidget& wizard) { QVERIFY(support::finishWizard(wizard)); });
-    modals().expectErrorBox(q(kError), q("Out of order."));
+    modals().expectErrorBox(q(error), q("Out of order."));
     openTimes();
     const Calls methods{"getConfigurationManager", "getDailyAdminRunTime",
                         "getWeeklyAdminRunTime",   "getWeeklyAdminRunDay",
@@ -401,13 +401,13 @@ void ConfigurationDialogsTest::anAgentWithoutAConfigurationIsTold() {
         test_.agent->inject("getConfigurationManager", simulator::NullResult{});
         modals().expectErrorBox(q(title), q("The agent doesn't have what was asked for."));
     };
-    expectBox(kError);
+    expectBox(error);
     openRegister();
-    expectBox(kError);
+    expectBox(error);
     openTimes();
-    expectBox(kError);
+    expectBox(error);
     test_.run("on_actionRegistration_Info_triggered");
-    expectBox(kLdapError);
+    expectBox(ldapError);
     modals().expect(q("account"), isDialog<ADAccountDlg>,
                     [](QWidget& dialog) { press(dialog, "btnCancel"); });
     openAccount();

@@ -27,7 +27,7 @@ std::map<std::int32_t, QJsonObject> independentList() {
 }
 
 /// The present codes of the countries whose names have changed since.
-const std::map<std::string, QString> kRenamed{
+const std::map<std::string, QString> renamedCountries{
     {"Cape Verde", QStringLiteral("CPV")},
     {"Congo, the Democratic Republic of the", QStringLiteral("COD")},
     {"Macedonia, the former Yugoslav Republic of", QStringLiteral("MKD")},
@@ -36,7 +36,7 @@ const std::map<std::string, QString> kRenamed{
 };
 
 /// The names in their order, as they are promised.
-const char* const kNames =
+const char* const namesInOrder =
     "Afghanistan;Åland Islands;Albania;Algeria;American Samoa;Andorra;Angola;Anguilla;"
     "Antarctica;Antigua and Barbuda;Argentina;Armenia;Aruba;Australia;Austria;Azerbaijan;"
     "Bahamas;Bahrain;Bangladesh;Barbados;Belarus;Belgium;Belize;Benin;Bermuda;Bhutan;"
@@ -79,7 +79,7 @@ const char* const kNames =
     "Virgin Islands, U.S.;Wallis and Futuna;Western Sahara;Yemen;Zambia;Zimbabwe";
 
 bool isNameOf(const QJsonObject& country, const char* name) {
-    if (const auto renamed = kRenamed.find(name); renamed != kRenamed.end())
+    if (const auto renamed = renamedCountries.find(name); renamed != renamedCountries.end())
         return country[QLatin1String("alpha_3")].toString() == renamed->second;
     const QString text = QString::fromUtf8(name);
     for (const char* key : {"name", "common_name", "official_name"})
@@ -108,7 +108,7 @@ TEST(CountryTable, HasThePromisedNamesInTheirOrder) {
     QStringList names;
     for (const config::Country& country : config::countries())
         names << QString::fromUtf8(country.name);
-    EXPECT_EQ(names.join(QLatin1Char(';')).toStdString(), kNames);
+    EXPECT_EQ(names.join(QLatin1Char(';')).toStdString(), namesInOrder);
 }
 
 TEST(CountryTable, HasTheCodesOfTheStandard) {

@@ -190,7 +190,7 @@ void DialogFormsTest::theRegistrationsFields() {
                                           {"txtFieldAccountNum", 10},
                                           {"txtFieldClientNum", 12}})
             QCOMPARE(child<QLineEdit>(dialog, name).maxLength(), limit);
-        for (const char* name : kKeyFields)
+        for (const char* name : keyFields)
             QCOMPARE(child<QLineEdit>(dialog, name).echoMode(), QLineEdit::Password);
     });
 }
@@ -345,7 +345,7 @@ void DialogFormsTest::keysAreNeverTold() {
         import(dialog, "a.cri", "PrivateEncKey=the file key\nAccEncKey=the file key\n");
         verify(dialog);
         fill(dialog);
-        for (const char* name : kKeyFields)
+        for (const char* name : keyFields)
             type(dialog, name, "the typed key");
         verify(dialog);
         modals().expectErrorBox(q("Configuration Error"), q("Out of order."));
@@ -354,7 +354,7 @@ void DialogFormsTest::keysAreNeverTold() {
         verify(dialog);
         expectSaved();
         press(dialog, "btnSave");
-        for (const char* name : kKeyFields)
+        for (const char* name : keyFields)
             QCOMPARE(text(dialog, name), QString());
     });
     firstRun();

@@ -31,7 +31,7 @@ inline Calls first(int count, Calls calls) {
     return calls;
 }
 
-inline const Calls kManager{"ClientConnection.getConfigurationManager()"};
+inline const Calls managerAsked{"ClientConnection.getConfigurationManager()"};
 
 inline void press(QWidget& dialog, const char* button) {
     auto& found = support::child<QAbstractButton>(dialog, button);

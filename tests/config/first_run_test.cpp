@@ -12,10 +12,10 @@ using support::ModalDriver;
 namespace {
 
 /// All that a first run calls.
-const Calls kFirstRun = kCheck + kRead + kManager + sentFilled() + kUserInfoSent +
-                        Calls{"ClientConfiguration.init_register()"} + kManager +
-                        Calls{"ClientConfiguration.start_daily_admin()"};
-const Calls kLogout{"ClientConnection.logout()"};
+const Calls firstRunCalls = check + registrationRead + managerAsked + sentFilled() + userInfoSent +
+                            Calls{"ClientConfiguration.init_register()"} + managerAsked +
+                            Calls{"ClientConfiguration.start_daily_admin()"};
+const Calls logoutCalls{"ClientConnection.logout()"};
 
 } // namespace
 
@@ -72,7 +72,7 @@ void FirstRunTest::theFirstRunIsSaved() {
         press(dialog, "btnSave");
     });
     firstRun();
-    compareCalls(kCheck + kRead + kManager + sentFilled() + kUserInfoSent);
+    compareCalls(check + registrationRead + managerAsked + sentFilled() + userInfoSent);
     QVERIFY(session::connectedToAgent());
     change([](World& world) {
         QCOMPARE(q(world.registration.private_key.c_str()), q("private key"));
@@ -84,14 +84,14 @@ void FirstRunTest::theFirstRunRegistersAndStartsTheDailyAdmin() {
     expectRegistration();
     firstRun();
     Calls calls = callsOf(*test_.agent);
-    const std::size_t refreshing = kFirstRun.size();
+    const std::size_t refreshing = firstRunCalls.size();
     QVERIFY(calls.size() > refreshing);
     // Its arguments are the times of now.
     QVERIFY(calls[refreshing].starts_with("ClientConnection.activity_log("));
     calls.erase(calls.begin() + static_cast<std::ptrdiff_t>(refreshing));
     const Calls activities{"ClientConnection.running_activities()",
                            "ClientConnection.backup_set(2)", "BackupSet.getName()"};
-    QCOMPARE(calls, kFirstRun + activities);
+    QCOMPARE(calls, firstRunCalls + activities);
     QVERIFY(test_.driver->status().endsWith(q(": Daily admin started.")));
     change([](World& world) { QCOMPARE(world.configuration.registrations, 1); });
 }
@@ -100,7 +100,7 @@ void FirstRunTest::aDailyAdminThatFailsIsTold_data() {
     QTest::addColumn<QString>("method");
     QTest::addColumn<int>("after");
     QTest::addColumn<int>("calls");
-    const int all = static_cast<int>(kFirstRun.size());
+    const int all = static_cast<int>(firstRunCalls.size());
     QTest::newRow("manager") << q("getConfigurationManager") << 3 << all - 1;
     QTest::newRow("run") << q("start_daily_admin") << 0 << all;
 }
@@ -112,7 +112,7 @@ void FirstRunTest::aDailyAdminThatFailsIsTold() {
     failAfter(*test_.agent, after, qPrintable(method));
     expectRegistration(true);
     firstRun();
-    compareCalls(first(calls, kFirstRun));
+    compareCalls(first(calls, firstRunCalls));
     QVERIFY(session::connectedToAgent());
     QCOMPARE(test_.agent->waitingInjections(), std::size_t{0});
 }
@@ -133,7 +133,7 @@ void FirstRunTest::cancellingTheFirstRunDisconnects() {
         QCOMPARE(static_cast<QDialog&>(dialog).result(), 0);
     });
     firstRun();
-    compareCalls(kCheck + kRead + kLogout);
+    compareCalls(check + registrationRead + logoutCalls);
     QVERIFY(!session::connectedToAgent());
 }
 
@@ -152,7 +152,7 @@ void FirstRunTest::aNewAgentAsksAtTheLogin() {
 void FirstRunTest::anAgentWithoutCustomersDoesntAsk() {
     change([](World& world) { world.configuration.keepsCustomer = false; });
     firstRun();
-    Calls expected = kCheck;
+    Calls expected = check;
     expected.pop_back();
     compareCalls(expected);
     QVERIFY(session::connectedToAgent());
@@ -179,7 +179,7 @@ void FirstRunTest::aFaultAtTheFirstRunDisconnects() {
     failAfter(*test_.agent, after, qPrintable(method));
     modals().expectErrorBox(q("Configuration Error"), q("Out of order."));
     firstRun();
-    compareCalls(first(calls, kCheck + kRead) + kLogout);
+    compareCalls(first(calls, check + registrationRead) + logoutCalls);
     QVERIFY(!session::connectedToAgent());
     QCOMPARE(test_.agent->waitingInjections(), std::size_t{0});
 }
@@ -216,7 +216,7 @@ void FirstRunTest::aFaultAtSavingLeavesItOpen() {
         press(dialog, "btnCancel");
     });
     firstRun();
-    compareCalls(first(calls, kFirstRun) + kLogout);
+    compareCalls(first(calls, firstRunCalls) + logoutCalls);
     QCOMPARE(test_.agent->waitingInjections(), std::size_t{0});
 }
 
@@ -234,8 +234,8 @@ void FirstRunTest::aSecondPressSavesAllAgain() {
     });
     firstRun();
     const Calls saving =
-        kManager + sentFilled() + kUserInfoSent + Calls{"ClientConfiguration.init_register()"};
-    const Calls expected = kCheck + kRead + saving + saving + kManager +
+        managerAsked + sentFilled() + userInfoSent + Calls{"ClientConfiguration.init_register()"};
+    const Calls expected = check + registrationRead + saving + saving + managerAsked +
                            Calls{"ClientConfiguration.start_daily_admin()"};
     QCOMPARE(first(static_cast<int>(expected.size()), callsOf(*test_.agent)), expected);
     change([](World& world) { QCOMPARE(world.configuration.registrations, 1); });
@@ -257,7 +257,8 @@ void FirstRunTest::aSessionThatEndsMeanwhileIsToldAtSaving() {
     });
     firstRun();
     // One logout: that of the heartbeat.
-    compareCalls(kCheck + kRead + Calls{"ClientConnection.getTarnClientInfo()"} + kLogout);
+    compareCalls(check + registrationRead + Calls{"ClientConnection.getTarnClientInfo()"} +
+                 logoutCalls);
     QCOMPARE(test_.driver->status(), q("Current connection terminated"));
 }
 

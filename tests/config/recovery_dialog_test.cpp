@@ -19,13 +19,14 @@ using support::ModalDriver;
 
 namespace {
 
-const char* const kError = "Tarn-Client Database Recovery Error";
+const char* const error = "Tarn-Client Database Recovery Error";
 
-const Calls kCount{"ClientConnection.getSystemActivityManager()",
-                   "SystemActivityManager.getOrphanedbackupSets()"};
+const Calls countingCalls{"ClientConnection.getSystemActivityManager()",
+                          "SystemActivityManager.getOrphanedbackupSets()"};
 
-const Calls kRecovering = kCount + Calls{"ClientConnection.getSystemActivityManager()",
-                                         "SystemActivityManager.recover_tarnclient_database(0)"};
+const Calls recoveringCalls =
+    countingCalls + Calls{"ClientConnection.getSystemActivityManager()",
+                          "SystemActivityManager.recover_tarnclient_database(0)"};
 
 /// One set, which gets this number.
 Calls recovering(const std::string& name, int id) {
@@ -108,7 +109,7 @@ void RecoveryDialogTest::withoutOrphansOnlyTheDatabaseIsThere() {
         static_cast<QDialog&>(dialog).reject();
     });
     open();
-    compareCalls(kCount);
+    compareCalls(countingCalls);
 }
 
 void RecoveryDialogTest::orphansAreRecovered_data() {
@@ -122,7 +123,7 @@ void RecoveryDialogTest::orphansAreRecovered() {
     std::vector<std::string> names{"A", "B", "C"};
     names.resize(static_cast<std::size_t>(count));
     addOrphans(names);
-    Calls expected = kCount + kCount;
+    Calls expected = countingCalls + countingCalls;
     int id = test_.setNames().size();
     for (const std::string& name : names)
         expected = expected + recovering(name, ++id);
@@ -153,12 +154,12 @@ void RecoveryDialogTest::recoveringIsWaitedForWithItsCursor() {
         dialog.installEventFilter(&watch);
         if (failing) {
             failAfter(*test_.agent, 0, "start_sync");
-            modals().expectErrorBox(q(kError), q("Out of order."));
+            modals().expectErrorBox(q(error), q("Out of order."));
         }
         accept(dialog);
     });
     open();
-    QCOMPARE(watch.shown, support::kWaited);
+    QCOMPARE(watch.shown, support::waited);
 }
 
 void RecoveryDialogTest::aFailureLeavesTheRestOfTheOrphans_data() {
@@ -186,11 +187,11 @@ void RecoveryDialogTest::aFailureLeavesTheRestOfTheOrphans() {
     const int before = test_.setNames().size();
     failAfter(*test_.agent, after, qPrintable(method));
     expectRecovery([this](QWidget& dialog) {
-        modals().expectErrorBox(q(kError), q("Out of order."));
+        modals().expectErrorBox(q(error), q("Out of order."));
         accept(dialog);
     });
     open();
-    compareCalls(first(calls, kCount + kCount + recovering("A", before + 1) +
+    compareCalls(first(calls, countingCalls + countingCalls + recovering("A", before + 1) +
                                   recovering("B", before + 2) + recovering("C", before + 3)));
     QCOMPARE(test_.setNames().size() - before, recovered);
     QCOMPARE(test_.agent->waitingInjections(), std::size_t{0});
@@ -210,7 +211,7 @@ void RecoveryDialogTest::answer(QMessageBox::StandardButton button, bool failing
             QTest::mouseClick(box.button(button), Qt::LeftButton);
         });
         if (failing)
-            modals().expectErrorBox(q(kError), q("Out of order."));
+            modals().expectErrorBox(q(error), q("Out of order."));
         accept(dialog);
     });
 }
@@ -218,13 +219,13 @@ void RecoveryDialogTest::answer(QMessageBox::StandardButton button, bool failing
 void RecoveryDialogTest::theDatabaseIsRecovered() {
     answer(QMessageBox::Yes);
     open();
-    compareCalls(kRecovering);
+    compareCalls(recoveringCalls);
 }
 
 void RecoveryDialogTest::noMeansNoRecovery() {
     answer(QMessageBox::No);
     open();
-    compareCalls(kCount);
+    compareCalls(countingCalls);
 }
 
 void RecoveryDialogTest::aDatabaseThatCantBeRecoveredIsTold_data() {
@@ -242,7 +243,7 @@ void RecoveryDialogTest::aDatabaseThatCantBeRecoveredIsTold() {
     failAfter(*test_.agent, after, qPrintable(method));
     answer(QMessageBox::Yes, true);
     open();
-    compareCalls(first(calls, kRecovering));
+    compareCalls(first(calls, recoveringCalls));
     QCOMPARE(test_.agent->waitingInjections(), std::size_t{0});
 }
 
@@ -254,7 +255,7 @@ void RecoveryDialogTest::cancellingDoesNothing() {
         QVERIFY(!dialog.isVisible());
     });
     open();
-    compareCalls(kCount);
+    compareCalls(countingCalls);
 }
 
 void RecoveryDialogTest::nothingOpensOnAFault_data() {
@@ -270,7 +271,7 @@ void RecoveryDialogTest::nothingOpensOnAFault() {
     failAfter(*test_.agent, 0, qPrintable(method));
     modals().expectErrorBox(q("Configuration Error"), q("Out of order."));
     open();
-    compareCalls(first(calls, kCount));
+    compareCalls(first(calls, countingCalls));
 }
 
 void RecoveryDialogTest::anAgentWithoutAManagerIsTold() {

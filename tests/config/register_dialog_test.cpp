@@ -14,9 +14,9 @@ using support::ModalDriver;
 
 namespace {
 
-const Calls kReadNumbers = kManager + Calls{"ClientConfiguration.getCustomerName()",
-                                            "ClientConfiguration.getAccountNumber()",
-                                            "ClientConfiguration.getClientNumber()"};
+const Calls readNumbers = managerAsked + Calls{"ClientConfiguration.getCustomerName()",
+                                               "ClientConfiguration.getAccountNumber()",
+                                               "ClientConfiguration.getClientNumber()"};
 
 } // namespace
 
@@ -60,7 +60,7 @@ void RegisterDialogTest::theNumbersAreShown() {
         QCOMPARE(static_cast<QDialog&>(dialog).result(), int(QDialog::Accepted));
     });
     openRegister();
-    compareCalls(kReadNumbers);
+    compareCalls(readNumbers);
 }
 
 void RegisterDialogTest::registeringAgainReplacesItsStatus_data() {
@@ -84,8 +84,8 @@ void RegisterDialogTest::registeringAgainReplacesItsStatus() {
         press(dialog, "btnClose");
     });
     openRegister();
-    const Calls again = kManager + Calls{"ClientConfiguration.re_register()"};
-    compareCalls(kReadNumbers + (after == 0 ? again : kManager) + again);
+    const Calls again = managerAsked + Calls{"ClientConfiguration.re_register()"};
+    compareCalls(readNumbers + (after == 0 ? again : managerAsked) + again);
     test_.agent->withWorld([](World& world) { QCOMPARE(world.configuration.registrations, 1); });
 }
 
@@ -147,7 +147,7 @@ void RegisterDialogTest::noRegistrationOpensOnAFault() {
     failAfter(*test_.agent, 0, qPrintable(method));
     test_.modals->expectErrorBox(q("Configuration Error"), q("Out of order."));
     openRegister();
-    compareCalls(first(calls, kReadNumbers));
+    compareCalls(first(calls, readNumbers));
 }
 
 QTEST_MAIN(RegisterDialogTest)

@@ -9,8 +9,8 @@ using config::RegistrationEntries;
 
 namespace {
 
-const auto kKey = QStringLiteral("secret");
-const auto kOther = QStringLiteral("Secret");
+const auto secretKey = QStringLiteral("secret");
+const auto other = QStringLiteral("Secret");
 
 RegistrationEntries good() {
     RegistrationEntries entries;
@@ -18,9 +18,9 @@ RegistrationEntries good() {
     entries.accountNumber = QStringLiteral("1");
     entries.clientNumber = QStringLiteral(" 123456789012 ");
     entries.addresses = 1;
-    entries.privateKey = entries.privateKeyConfirm = kKey;
+    entries.privateKey = entries.privateKeyConfirm = secretKey;
     entries.accountKeyType = QStringLiteral("AES128");
-    entries.accountKey = entries.accountKeyConfirm = kKey;
+    entries.accountKey = entries.accountKeyConfirm = secretKey;
     entries.countryChosen = entries.employeesChosen = entries.industryChosen = true;
     return entries;
 }
@@ -69,7 +69,7 @@ TEST(RegistrationEntries, NeedAnAddress) {
 }
 
 TEST(RegistrationEntries, NeedThePrivateKeyTwice) {
-    EXPECT_EQ(problem([](auto& it) { it.privateKeyConfirm = kOther; }),
+    EXPECT_EQ(problem([](auto& it) { it.privateKeyConfirm = other; }),
               "The private encryption keys you typed do not match.");
 }
 
@@ -93,7 +93,7 @@ TEST(RegistrationEntries, NeedAnAccountKeyUnlessItsTypeIsNone) {
 
 TEST(RegistrationEntries, NeedTheAccountKeyTwice) {
     const char* const message = "The account encryption keys you typed do not match.";
-    EXPECT_EQ(problem([](auto& it) { it.accountKeyConfirm = kOther; }), message);
+    EXPECT_EQ(problem([](auto& it) { it.accountKeyConfirm = other; }), message);
     EXPECT_EQ(problem([](auto& it) {
                   it.accountKeyType = QStringLiteral("NONE");
                   it.accountKey = QString();
@@ -123,14 +123,14 @@ TEST(RegistrationEntries, AreCheckedInOrder) {
     EXPECT_EQ(told(), "Please select a number of employees.");
     entries.countryChosen = false;
     EXPECT_EQ(told(), "Please select a country.");
-    entries.accountKeyConfirm = kOther;
+    entries.accountKeyConfirm = other;
     EXPECT_EQ(told(), "The account encryption keys you typed do not match.");
     entries.accountKey = QString();
     EXPECT_EQ(told(), "Please select \"NONE\" as the account key ecnryption type if you want to "
                       "input the empty account key!!");
     entries.privateKey = entries.privateKeyConfirm = QString();
     EXPECT_EQ(told(), "Private key is needed for initialization.");
-    entries.privateKeyConfirm = kOther;
+    entries.privateKeyConfirm = other;
     EXPECT_EQ(told(), "The private encryption keys you typed do not match.");
     entries.addresses = 0;
     EXPECT_EQ(told(), "Need at least one Tarn-System address for initialization.");

@@ -13,19 +13,20 @@
 namespace steps {
 
 /// Whether there is anything to ask.
-inline const Calls kCheck =
-    Calls{"ClientConnection.getTarnClientInfo()"} + kManager +
+inline const Calls check =
+    Calls{"ClientConnection.getTarnClientInfo()"} + managerAsked +
     Calls{"ClientConfiguration.getUserInfoConfiguration()", "UserInfoConfiguration.getUserInfo()"};
 
-inline const Calls kRead = kManager + Calls{"ClientConfiguration.getTarnCRegistrationInfo()",
-                                            "ClientConfiguration.getUserInfoConfiguration()",
-                                            "UserInfoConfiguration.getUserInfo()"};
+inline const Calls registrationRead =
+    managerAsked + Calls{"ClientConfiguration.getTarnCRegistrationInfo()",
+                         "ClientConfiguration.getUserInfoConfiguration()",
+                         "UserInfoConfiguration.getUserInfo()"};
 
-inline const Calls kUserInfoSent{
+inline const Calls userInfoSent{
     "ClientConfiguration.getUserInfoConfiguration()",
     "UserInfoConfiguration.setUserInfo({country_code=40, num_of_employees=3, industry_code=8})"};
 
-inline const std::string kKnown =
+inline const std::string known =
     "customer_name=\"Müller & Söhne GmbH\", account_num=\"OFFICE-401\", "
     "client_num=\"A4C100931700\"";
 
@@ -61,8 +62,8 @@ inline void chooseUserInfo(QWidget& dialog) {
     choose(dialog, "cmbIndustry", 7);
 }
 
-inline constexpr const char* kKeyFields[] = {"txtFieldPrivateKey", "txtFieldPrivateKeyConfirm",
-                                             "txtFieldAccountKey", "txtFieldAccountKeyConfirm"};
+inline constexpr const char* keyFields[] = {"txtFieldPrivateKey", "txtFieldPrivateKeyConfirm",
+                                            "txtFieldAccountKey", "txtFieldAccountKeyConfirm"};
 
 /// Fills in all that a first run needs.
 inline void fill(QWidget& dialog) {
@@ -109,7 +110,7 @@ struct Spoiling {
     const char* message;
 };
 
-inline const std::vector<Spoiling> kSpoilings{
+inline const std::vector<Spoiling> spoilings{
     {[](QWidget& dialog) { type(dialog, "txtFieldCustomer", "  "); },
      "Customer name is needed for initialization."},
     {[](QWidget& dialog) { type(dialog, "txtFieldAccountNum", " "); },

@@ -18,8 +18,8 @@ using support::MainWindowDriver;
 
 namespace {
 
-const Calls kReading{"ClientConnection.getTFAManager()", "TFAManager.getUserEmails()",
-                     "TFAManager.Release()"};
+const Calls reading{"ClientConnection.getTFAManager()", "TFAManager.getUserEmails()",
+                    "TFAManager.Release()"};
 
 QStringList rows(QWidget& viewer) {
     const QAbstractItemModel& model = *child<QTableView>(viewer, "tableUsers").model();
@@ -93,7 +93,7 @@ void TFADialogsTest::theCommandOpensTheList() {
         press(viewer, "btnClose");
     });
     driver.trigger("actionTFASettings");
-    QCOMPARE(agent_->callTexts(), kReading);
+    QCOMPARE(agent_->callTexts(), reading);
 }
 
 void TFADialogsTest::openingReadsTheList() {
@@ -109,7 +109,7 @@ void TFADialogsTest::openingReadsTheList() {
                  (QStringList{q("&Add"), q("&Edit"), q("&Delete"), q("Import from csv file"),
                               q("&Forward to Tarn-System"), q("&Close")}));
     });
-    QCOMPARE(agent_->callTexts(), kReading);
+    QCOMPARE(agent_->callTexts(), reading);
 }
 
 void TFADialogsTest::aListThatCantBeReadIsEmpty() {
@@ -147,7 +147,7 @@ void TFADialogsTest::aRowIsAdded() {
                  (QStringList{q("Ada;Home;new@example.org"), q("bob;;bob@example.org"),
                               q("Jürgen;;j@example.org")}));
     });
-    QCOMPARE(agent_->callTexts(), kReading);
+    QCOMPARE(agent_->callTexts(), reading);
 }
 
 void TFADialogsTest::aUserWhoIsThereTwiceGetsTheAddressOnce() {
@@ -212,7 +212,7 @@ void TFADialogsTest::theSelectedRowIsEdited() {
         QCOMPARE(rows(viewer),
                  (QStringList{q("Ada;Work;ada@example.org"), q("bob;;bob@example.org")}));
     });
-    QCOMPARE(agent_->callTexts(), kReading);
+    QCOMPARE(agent_->callTexts(), reading);
 }
 
 void TFADialogsTest::aDoubleClickEditsToo() {
@@ -235,7 +235,7 @@ void TFADialogsTest::theSelectedRowIsDeleted() {
         press(viewer, "btnDelete");
         QCOMPARE(rows(viewer), QStringList(q("bob;;bob@example.org")));
     });
-    QCOMPARE(agent_->callTexts(), kReading);
+    QCOMPARE(agent_->callTexts(), reading);
 }
 
 void TFADialogsTest::withoutASelectionNothingIsEditedOrDeleted() {
@@ -268,7 +268,7 @@ void TFADialogsTest::aFileIsImported() {
                  (QStringList{q("Ada;Home;ada@example.org"), q("bob;;new@example.org"),
                               q("dan;home;dan@example.org")}));
     });
-    QCOMPARE(agent_->callTexts(), kReading);
+    QCOMPARE(agent_->callTexts(), reading);
 }
 
 void TFADialogsTest::aLongFileIsImportedAtOnce() {
@@ -373,7 +373,7 @@ void TFADialogsTest::closingForgetsWhatWasChanged() {
         select(viewer, 1);
         press(viewer, "btnDelete");
     });
-    QCOMPARE(agent_->callTexts(), kReading);
+    QCOMPARE(agent_->callTexts(), reading);
     withViewer([](QWidget& viewer) { QCOMPARE(rows(viewer).size(), 2); });
 }
 

@@ -38,9 +38,9 @@ protected:
     QSignalSpy removed{&model, &QAbstractItemModel::rowsRemoved};
 };
 
-const std::string kAda = "Ada;Home;ada@example.org";
-const std::string kBob = "bob;;bob@example.org";
-const std::string kCy = "cy;work;cy@example.org";
+const std::string rowOfAda = "Ada;Home;ada@example.org";
+const std::string rowOfBob = "bob;;bob@example.org";
+const std::string rowOfCy = "cy;work;cy@example.org";
 
 TEST_F(UsersModel, HasThreeColumns) {
     ASSERT_EQ(model.columnCount(), 3);
@@ -50,12 +50,12 @@ TEST_F(UsersModel, HasThreeColumns) {
     EXPECT_EQ(header(0), "Username");
     EXPECT_EQ(header(1), "Domain");
     EXPECT_EQ(header(2), "Email");
-    EXPECT_EQ(rows(), (Rows{kAda, kBob, kCy}));
+    EXPECT_EQ(rows(), (Rows{rowOfAda, rowOfBob, rowOfCy}));
 }
 
 TEST_F(UsersModel, ANewUserComesLast) {
     model.insert({"dan", "home", "dan@example.org"});
-    EXPECT_EQ(rows(), (Rows{kAda, kBob, kCy, "dan;home;dan@example.org"}));
+    EXPECT_EQ(rows(), (Rows{rowOfAda, rowOfBob, rowOfCy, "dan;home;dan@example.org"}));
     ASSERT_EQ(inserted.count(), 1);
     EXPECT_EQ(inserted[0][1].toInt(), 3);
     EXPECT_EQ(changed.count(), 0);
@@ -63,7 +63,7 @@ TEST_F(UsersModel, ANewUserComesLast) {
 
 TEST_F(UsersModel, AUserWhoIsThereGetsTheAddressInPlace) {
     model.insert({"ADA", "home", "new@example.org"});
-    EXPECT_EQ(rows(), (Rows{"Ada;Home;new@example.org", kBob, kCy}));
+    EXPECT_EQ(rows(), (Rows{"Ada;Home;new@example.org", rowOfBob, rowOfCy}));
     EXPECT_EQ(inserted.count(), 0);
     ASSERT_EQ(changed.count(), 1);
     EXPECT_EQ(changed[0][0].toModelIndex().row(), 0);
@@ -71,7 +71,7 @@ TEST_F(UsersModel, AUserWhoIsThereGetsTheAddressInPlace) {
 
 TEST_F(UsersModel, TheSameNameInAnotherDomainIsAnotherUser) {
     model.insert({"ada", "", "new@example.org"});
-    EXPECT_EQ(rows(), (Rows{kAda, kBob, kCy, "ada;;new@example.org"}));
+    EXPECT_EQ(rows(), (Rows{rowOfAda, rowOfBob, rowOfCy, "ada;;new@example.org"}));
 }
 
 TEST_F(UsersModel, ManyRowsAreAddedAtOnceAsIfOneByOne) {
@@ -79,51 +79,51 @@ TEST_F(UsersModel, ManyRowsAreAddedAtOnceAsIfOneByOne) {
                                          {"BOB", "", "new@example.org"},
                                          {"eve", "", "eve@example.org"},
                                          {"Dan", "", "two@example.org"}});
-    EXPECT_EQ(rows(), (Rows{kAda, "bob;;new@example.org", kCy, "dan;;two@example.org",
+    EXPECT_EQ(rows(), (Rows{rowOfAda, "bob;;new@example.org", rowOfCy, "dan;;two@example.org",
                             "eve;;eve@example.org"}));
     EXPECT_EQ(inserted.count(), 1);
 }
 
 TEST_F(UsersModel, NoRowsChangeNothing) {
     model.insert(std::vector<user_email>{});
-    EXPECT_EQ(rows(), (Rows{kAda, kBob, kCy}));
+    EXPECT_EQ(rows(), (Rows{rowOfAda, rowOfBob, rowOfCy}));
     EXPECT_EQ(inserted.count(), 0);
 }
 
 TEST_F(UsersModel, EditingARowKeepsItsPlace) {
     model.replace(1, {"robert", "home", "r@example.org"});
-    EXPECT_EQ(rows(), (Rows{kAda, "robert;home;r@example.org", kCy}));
+    EXPECT_EQ(rows(), (Rows{rowOfAda, "robert;home;r@example.org", rowOfCy}));
     // And it is known by its new name from now on.
     model.insert({"ROBERT", "home", "again@example.org"});
     model.insert({"bob", "", "bob@example.org"});
-    EXPECT_EQ(rows(), (Rows{kAda, "robert;home;again@example.org", kCy, kBob}));
+    EXPECT_EQ(rows(), (Rows{rowOfAda, "robert;home;again@example.org", rowOfCy, rowOfBob}));
 }
 
 TEST_F(UsersModel, EditingTheCaseOfANameIsAnEditOfThatRow) {
     model.replace(0, {"ADA", "HOME", "ada@example.org"});
-    EXPECT_EQ(rows(), (Rows{"ADA;HOME;ada@example.org", kBob, kCy}));
+    EXPECT_EQ(rows(), (Rows{"ADA;HOME;ada@example.org", rowOfBob, rowOfCy}));
 }
 
 TEST_F(UsersModel, ARowEditedIntoAnotherUsersGivesThatUserTheAddress) {
     model.replace(2, {"BOB", "", "new@example.org"});
-    EXPECT_EQ(rows(), (Rows{kAda, "bob;;new@example.org"}));
+    EXPECT_EQ(rows(), (Rows{rowOfAda, "bob;;new@example.org"}));
     ASSERT_EQ(removed.count(), 1);
     EXPECT_EQ(removed[0][1].toInt(), 2);
 }
 
 TEST_F(UsersModel, ARowEditedIntoALaterUsersGivesThatUserTheAddress) {
     model.replace(0, {"cy", "Work", "new@example.org"});
-    EXPECT_EQ(rows(), (Rows{kBob, "cy;work;new@example.org"}));
+    EXPECT_EQ(rows(), (Rows{rowOfBob, "cy;work;new@example.org"}));
     model.insert({"cy", "work", "last@example.org"});
-    EXPECT_EQ(rows(), (Rows{kBob, "cy;work;last@example.org"}));
+    EXPECT_EQ(rows(), (Rows{rowOfBob, "cy;work;last@example.org"}));
 }
 
 TEST_F(UsersModel, ARemovedUserIsNewAgain) {
     model.remove(0);
-    EXPECT_EQ(rows(), (Rows{kBob, kCy}));
+    EXPECT_EQ(rows(), (Rows{rowOfBob, rowOfCy}));
     model.insert({"cy", "work", "new@example.org"});
     model.insert({"ada", "home", "ada@example.org"});
-    EXPECT_EQ(rows(), (Rows{kBob, "cy;work;new@example.org", "ada;home;ada@example.org"}));
+    EXPECT_EQ(rows(), (Rows{rowOfBob, "cy;work;new@example.org", "ada;home;ada@example.org"}));
 }
 
 TEST_F(UsersModel, TextIsUtf8) {

@@ -13,7 +13,7 @@ using Rows = std::vector<std::string>;
 
 namespace {
 
-const QString kBadAddress = QStringLiteral("Not a valid Email address.");
+const QString badAddress = QStringLiteral("Not a valid Email address.");
 
 QString problem(const char* email) {
     return config::problemOf({"ada", "", email});
@@ -64,23 +64,23 @@ TEST(UserEmailRules, RefuseWhatIsNoAddress) {
     for (const char* bad : {"ada", "ada.example.org", "@example.org", "ada@", "ada@example",
                             "ada@example.", "ada@example.o", "a da@example.org", "ada@exam_ple.org",
                             "ada@example.c0m", "\xC3\xA4@example.org"})
-        EXPECT_EQ(problem(bad), kBadAddress) << bad;
+        EXPECT_EQ(problem(bad), badAddress) << bad;
 }
 
 TEST(UserEmailRules, RefuseALastPartOfMoreThanFourLetters) {
     EXPECT_EQ(problem("ada@example.info"), QString());
-    EXPECT_EQ(problem("ada@example.photo"), kBadAddress);
+    EXPECT_EQ(problem("ada@example.photo"), badAddress);
 }
 
 TEST(UserEmailRules, WantTheWholeTextToBeTheAddress) {
     for (const char* bad : {" ada@example.org", "ada@example.org ", "ada@example.org\n",
                             "Ada <ada@example.org>", "ada@example.org, bob@example.org"})
-        EXPECT_EQ(problem(bad), kBadAddress) << bad;
+        EXPECT_EQ(problem(bad), badAddress) << bad;
 }
 
 TEST(UserEmailRules, WantALetterADigitOrAnUnderscoreFirst) {
     for (const char* bad : {"+ada@example.org", ".ada@example.org", "-ada@example.org"})
-        EXPECT_EQ(problem(bad), kBadAddress) << bad;
+        EXPECT_EQ(problem(bad), badAddress) << bad;
 }
 
 TEST(UserEmailRules, TellUsersApartByNameAndDomainWithoutCase) {

@@ -20,7 +20,7 @@ private slots:
     void initTestCase() { resources::initPictures(); }
     void init() {
         test_.start(simulator::Scenario::Default, [](World& world) { store(world); });
-        test_.driver->sets().selectRow(kRow);
+        test_.driver->sets().selectRow(setRow);
     }
     void cleanup() { test_.end(); }
 
@@ -111,7 +111,7 @@ void DeleteFaultsTest::aFaultOfAFilterLeavesThePage() {
 void DeleteFaultsTest::aFolderThatFailsIsToldOnce() {
     test_.agent->withWorld([](World& world) {
         for (const char* path : {"C:\\locked", "C:\\too"})
-            world.set(kId)->stored->addFolder(path).denied = "Keep out.";
+            world.set(setId)->stored->addFolder(path).denied = "Keep out.";
     });
     test_.modals->expect(q("wizard"), isDialog<QWizard>, [&](QWidget& widget) {
         QTreeView& tree = treeOf(widget);
@@ -129,7 +129,7 @@ void DeleteFaultsTest::aFolderThatFailsIsToldOnce() {
 
 void DeleteFaultsTest::aGroupThatFailsEndsTheDeletion() {
     test_.agent->withWorld([](World& world) {
-        auto& group = world.set(kId)->stored->addFolder("Group");
+        auto& group = world.set(setId)->stored->addFolder("Group");
         group.isGroup = true;
         group.denied = "Keep out.";
     });
@@ -137,7 +137,8 @@ void DeleteFaultsTest::aGroupThatFailsEndsTheDeletion() {
     test_.modals->expectErrorBox(q("Error"), q("Keep out."));
     test_.run("OnDelete");
     // It has no id that could be sent in place of what it holds.
-    QCOMPARE(difference(calls(), kOpened + Calls{"BackupSetDeleteView.getSubItems(0)"}), QString());
+    QCOMPARE(difference(calls(), wizardOpened + Calls{"BackupSetDeleteView.getSubItems(0)"}),
+             QString());
 }
 
 void DeleteFaultsTest::aGroupThatHoldsNothingDeletesNothing() {
@@ -148,7 +149,7 @@ void DeleteFaultsTest::aGroupThatHoldsNothingDeletesNothing() {
     });
     test_.run("OnDelete");
     QCOMPARE(
-        difference(calls(), kOpened + Calls{"BackupSetDeleteView.getSubItems(0)"} + kRefreshed),
+        difference(calls(), wizardOpened + Calls{"BackupSetDeleteView.getSubItems(0)"} + refreshed),
         QString());
 }
 

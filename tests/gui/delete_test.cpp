@@ -29,8 +29,8 @@ Q_DECLARE_METATYPE(Leave)
 
 namespace {
 
-constexpr int kEmptySet = 6; // the row of a set that holds no files
-constexpr std::int32_t kEmptyId = 8;
+constexpr int emptySet = 6; // the row of a set that holds no files
+constexpr std::int32_t emptyId = 8;
 
 QString q(const char* text) {
     return QString::fromUtf8(text);
@@ -41,15 +41,15 @@ Calls operator+(Calls calls, const Calls& more) {
     return calls;
 }
 
-const Calls kAsked{"ClientConnection.backup_set(8)", "BackupSet.getCurrentStatus()"};
-const Calls kScheduleGone{"BackupSet.getSchedule()", "BackupSet.setSchedule(null)",
-                          "ClientConnection.getScheduleManager()",
-                          "ScheduleManager.removeSchedule(Schedule(schedule_for_set_8))"};
-const Calls kRuleGone{"BackupSet.getRetentionRule()", "BackupSet.setRetentionRule(null)",
-                      "ClientConnection.getRetentionRuleManager()",
-                      "RetentionRuleManager.removeRule(RetentionRule(retention_for_set_8))"};
-const Calls kSetGone{"ClientConnection.removeBackupSet(BackupSet(8))"};
-const Calls kRefreshed = support::callsOfRefresh(8);
+const Calls askedFirst{"ClientConnection.backup_set(8)", "BackupSet.getCurrentStatus()"};
+const Calls scheduleGone{"BackupSet.getSchedule()", "BackupSet.setSchedule(null)",
+                         "ClientConnection.getScheduleManager()",
+                         "ScheduleManager.removeSchedule(Schedule(schedule_for_set_8))"};
+const Calls ruleGone{"BackupSet.getRetentionRule()", "BackupSet.setRetentionRule(null)",
+                     "ClientConnection.getRetentionRuleManager()",
+                     "RetentionRuleManager.removeRule(RetentionRule(retention_for_set_8))"};
+const Calls setGone{"ClientConnection.removeBackupSet(BackupSet(8))"};
+const Calls refreshed = support::callsOfRefresh(8);
 
 /// Gives the empty set a schedule and a rule that no other set has.
 void giveOwnPlans(World& world) {
@@ -57,13 +57,13 @@ void giveOwnPlans(World& world) {
     schedule.name = "schedule_for_set_8";
     simulator::RetentionRuleState rule;
     rule.name = "retention_for_set_8";
-    auto& info = world.set(kEmptyId)->info;
+    auto& info = world.set(emptyId)->info;
     info.schedule_id = world.schedules.add(schedule)->id;
     info.retention_rule_id = world.retentionRules.add(rule)->id;
 }
 
 void takePlans(World& world) {
-    auto& info = world.set(kEmptyId)->info;
+    auto& info = world.set(emptyId)->info;
     info.schedule_id = simulator::noSchedule;
     info.retention_rule_id = simulator::noRule;
 }
@@ -97,7 +97,7 @@ private slots:
 private:
     void start(const std::function<void(World&)>& change, Scenario scenario = Scenario::Default) {
         test_.start(scenario, change);
-        test_.driver->sets().selectRow(kEmptySet);
+        test_.driver->sets().selectRow(emptySet);
     }
     /// A question with the buttons Yes and No, of which No needs no mouse.
     void expectQuestion(const char* title, const char* text, QMessageBox::StandardButton answer);
@@ -154,9 +154,9 @@ void DeleteTest::aSetWithoutFilesIsRemoved() {
         test_.expectCode(true);
     test_.run("OnDelete");
     const Calls bare{"BackupSet.getSchedule()", "BackupSet.getRetentionRule()"};
-    QCOMPARE(difference(calls(), kAsked + (twoFactor ? support::callsForCode() : Calls{}) +
-                                     (plans ? kScheduleGone + kRuleGone : bare) + kSetGone +
-                                     kRefreshed),
+    QCOMPARE(difference(calls(), askedFirst + (twoFactor ? support::callsForCode() : Calls{}) +
+                                     (plans ? scheduleGone + ruleGone : bare) + setGone +
+                                     refreshed),
              QString());
     test_.agent->withWorld([](World& world) {
         for (const auto& schedule : world.schedules.all())
@@ -191,7 +191,7 @@ void DeleteTest::answeringNoRemovesNothing() {
     });
     expectRemovalQuestion(QMessageBox::No);
     test_.run("OnDelete");
-    QCOMPARE(difference(calls(), kAsked), QString());
+    QCOMPARE(difference(calls(), askedFirst), QString());
 }
 
 void DeleteTest::cancellingTheCodeRemovesNothing() {
@@ -203,11 +203,11 @@ void DeleteTest::cancellingTheCodeRemovesNothing() {
     test_.expectCode(false);
     test_.run("OnDelete");
     const Calls requested{"ClientConnection.getTFAManager()", "TFAManager.requestCode(2)"};
-    QCOMPARE(difference(calls(), kAsked + requested), QString());
+    QCOMPARE(difference(calls(), askedFirst + requested), QString());
 }
 
 void DeleteTest::aSetOfThePolicyIsLeftAlone() {
-    start([](World& world) { world.set(kEmptyId)->info.is_created_by_policy = true; },
+    start([](World& world) { world.set(emptyId)->info.is_created_by_policy = true; },
           Scenario::Central);
     test_.run("OnDelete");
     QCOMPARE(difference(calls(), {}), QString());
@@ -218,13 +218,13 @@ void DeleteTest::anOwnSetIsRemovedUnderCentralManagement() {
     expectRemovalQuestion(QMessageBox::Yes);
     test_.run("OnDelete");
     const Calls bare{"BackupSet.getSchedule()", "BackupSet.getRetentionRule()"};
-    QCOMPARE(difference(calls(), kAsked + bare + kSetGone + kRefreshed), QString());
+    QCOMPARE(difference(calls(), askedFirst + bare + setGone + refreshed), QString());
 }
 
 void DeleteTest::aSharedScheduleStaysAndSoDoesTheRest() {
     start([](World& world) {
         giveOwnPlans(world);
-        world.set(kEmptyId)->info.schedule_id = 1;
+        world.set(emptyId)->info.schedule_id = 1;
     });
     expectRemovalQuestion(QMessageBox::Yes);
     test_.modals->expectErrorBox(
@@ -234,8 +234,8 @@ void DeleteTest::aSharedScheduleStaysAndSoDoesTheRest() {
              std::string("ScheduleManager.removeSchedule(Schedule(Every evening))"));
     // What was done before stays done.
     test_.agent->withWorld([](World& world) {
-        QCOMPARE(world.set(kEmptyId)->info.schedule_id, simulator::noSchedule);
-        QVERIFY(world.set(kEmptyId)->info.retention_rule_id != simulator::noRule);
+        QCOMPARE(world.set(emptyId)->info.schedule_id, simulator::noSchedule);
+        QVERIFY(world.set(emptyId)->info.retention_rule_id != simulator::noRule);
     });
 }
 
@@ -284,7 +284,7 @@ void DeleteTest::leavingAQuestionDeletesNothing() {
     QFETCH(Leave, leave);
     start([](World& world) { gui::store(world); });
     if (hasFiles) {
-        test_.driver->sets().selectRow(gui::kRow);
+        test_.driver->sets().selectRow(gui::setRow);
         test_.expectWizard(gui::checkAll);
     }
     test_.modals->expect(q("question"), isDialog<QMessageBox>, leave);
@@ -294,12 +294,13 @@ void DeleteTest::leavingAQuestionDeletesNothing() {
         QCoreApplication::quit();
     });
     QCoreApplication::exec();
-    QCOMPARE(difference(calls(), hasFiles ? gui::kOpened + gui::kRefreshed : kAsked), QString());
+    QCOMPARE(difference(calls(), hasFiles ? gui::wizardOpened + gui::refreshed : askedFirst),
+             QString());
 }
 
 void DeleteTest::aFilterThatCantBeSwitchedOnStaysDisabled() {
     start([](World& world) { gui::store(world); });
-    test_.driver->sets().selectRow(gui::kRow);
+    test_.driver->sets().selectRow(gui::setRow);
     test_.modals->expect(q("wizard"), isDialog<QWizard>, [&](QWidget& widget) {
         gui::switchOn(widget, "checkFrom");
         gui::switchOn(widget, "checkKeep");
@@ -322,7 +323,7 @@ void DeleteTest::aFilterThatCantBeSwitchedOnStaysDisabled() {
 
 void DeleteTest::eachValueOfTheFilterAsksAnew() {
     start([](World& world) { gui::store(world); });
-    test_.driver->sets().selectRow(gui::kRow);
+    test_.driver->sets().selectRow(gui::setRow);
     test_.modals->expect(q("wizard"), isDialog<QWizard>, [&](QWidget& widget) {
         for (const char* box : {"checkFrom", "checkTo", "checkRemoved", "checkKeep"})
             gui::switchOn(widget, box);
@@ -352,10 +353,10 @@ void DeleteTest::eachValueOfTheFilterAsksAnew() {
 /// The heartbeats go on behind the wizard, and the card that it was opened for goes with its set.
 void DeleteTest::aSetThatGoesUnderTheWizard() {
     start([](World& world) { gui::store(world); });
-    test_.driver->sets().selectRow(gui::kRow);
+    test_.driver->sets().selectRow(gui::setRow);
     const int rows = test_.driver->cards().size();
     test_.expectWizard([&](QWizardPage& page) {
-        test_.agent->withWorld([](World& world) { world.removeSet(gui::kId); });
+        test_.agent->withWorld([](World& world) { world.removeSet(gui::setId); });
         test_.quiet->letPass = true;
         test_.driver->beat();
         test_.quiet->letPass = false;

@@ -14,20 +14,20 @@ namespace gui {
 using Calls = std::vector<std::string>;
 
 /// What the wizard asks until it is seen: the view, its top level, and the first drive's rows.
-inline const Calls kOpened{"ClientConnection.backup_set(4)", "BackupSet.getCurrentStatus()",
-                           "BackupSet.prepare_delete(0, 0, 0, 0, 0)",
-                           "BackupSetDeleteView.getSubItems(-1)",
-                           "BackupSetDeleteView.getSubItems(1)"};
-inline const Calls kRemoved{"BackupSet.getSchedule()",
-                            "BackupSet.setSchedule(null)",
-                            "ClientConnection.getScheduleManager()",
-                            "ScheduleManager.removeSchedule(Schedule(own))",
-                            "BackupSet.getRetentionRule()",
-                            "BackupSet.setRetentionRule(null)",
-                            "ClientConnection.getRetentionRuleManager()",
-                            "RetentionRuleManager.removeRule(RetentionRule(own))",
-                            "ClientConnection.removeBackupSet(BackupSet(4))"};
-inline const Calls kRefreshed = support::callsOfRefresh(4);
+inline const Calls wizardOpened{"ClientConnection.backup_set(4)", "BackupSet.getCurrentStatus()",
+                                "BackupSet.prepare_delete(0, 0, 0, 0, 0)",
+                                "BackupSetDeleteView.getSubItems(-1)",
+                                "BackupSetDeleteView.getSubItems(1)"};
+inline const Calls removedCalls{"BackupSet.getSchedule()",
+                                "BackupSet.setSchedule(null)",
+                                "ClientConnection.getScheduleManager()",
+                                "ScheduleManager.removeSchedule(Schedule(own))",
+                                "BackupSet.getRetentionRule()",
+                                "BackupSet.setRetentionRule(null)",
+                                "ClientConnection.getRetentionRuleManager()",
+                                "RetentionRuleManager.removeRule(RetentionRule(own))",
+                                "ClientConnection.removeBackupSet(BackupSet(4))"};
+inline const Calls refreshed = support::callsOfRefresh(4);
 
 inline Calls deleted(const std::string& ids) {
     return {"BackupSetDeleteView.prepareDelete([" + ids + "])", "DeleteActivityInitiator.start()"};

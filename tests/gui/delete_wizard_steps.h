@@ -17,10 +17,10 @@ namespace gui {
 
 using support::rowAt;
 
-inline constexpr int kRow = 3;
-inline constexpr std::int32_t kId = 4;
-inline constexpr std::int32_t kFirstBackup = 1'700'000'000;
-inline constexpr std::int32_t kLastBackup = 1'760'000'000;
+inline constexpr int setRow = 3;
+inline constexpr std::int32_t setId = 4;
+inline constexpr std::int32_t firstBackup = 1'700'000'000;
+inline constexpr std::int32_t lastBackup = 1'760'000'000;
 
 inline QString q(const char* text) {
     return QString::fromUtf8(text);
@@ -37,22 +37,22 @@ inline void store(simulator::World& world) {
     schedule.name = "own";
     simulator::RetentionRuleState rule;
     rule.name = "own";
-    auto& set = *world.set(kId);
+    auto& set = *world.set(setId);
     set.info.schedule_id = world.schedules.add(schedule)->id;
     set.info.retention_rule_id = world.retentionRules.add(rule)->id;
-    set.sessions = {{kFirstBackup, kFirstBackup + 60, 5, 500, 1},
-                    {kLastBackup - 60, kLastBackup, 5, 500, 2}};
+    set.sessions = {{firstBackup, firstBackup + 60, 5, 500, 1},
+                    {lastBackup - 60, lastBackup, 5, 500, 2}};
     set.stored = std::make_shared<simulator::StoredData>();
     for (const char* path : {"C:\\docs\\2024\\a.txt", "C:\\docs\\b.txt", "C:\\notes.txt",
                              "C:\\budget.ods", "D:\\x.bin"})
-        set.stored->addFile(path, {{kFirstBackup, kFirstBackup + 60, 10, 8},
-                                   {kLastBackup - 60, kLastBackup, 20, 16}});
+        set.stored->addFile(
+            path, {{firstBackup, firstBackup + 60, 10, 8}, {lastBackup - 60, lastBackup, 20, 16}});
 }
 
 /// An entry at the top that can't be named to the agent, over a folder that can.
 inline void storeGroup(simulator::World& world) {
-    auto& stored = *world.set(kId)->stored;
-    stored.addFile("Group\\Team\\c.txt", {{kFirstBackup, kFirstBackup + 60, 10, 8}});
+    auto& stored = *world.set(setId)->stored;
+    stored.addFile("Group\\Team\\c.txt", {{firstBackup, firstBackup + 60, 10, 8}});
     stored.addFolder("Group").isGroup = true;
 }
 

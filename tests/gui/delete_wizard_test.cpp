@@ -27,7 +27,7 @@ private slots:
     void initTestCase() { resources::initPictures(); }
     void init() {
         test_.start(simulator::Scenario::Default, [](World& world) { store(world); });
-        test_.driver->sets().selectRow(kRow);
+        test_.driver->sets().selectRow(setRow);
     }
     void cleanup() { test_.end(); }
 
@@ -93,7 +93,7 @@ void DeleteWizardTest::theWizardIsFramed() {
         wizard.reject();
     });
     test_.run("OnDelete");
-    QCOMPARE(difference(calls(), kOpened), QString());
+    QCOMPARE(difference(calls(), wizardOpened), QString());
 }
 
 void DeleteWizardTest::theFormIsAsItBegins() {
@@ -121,13 +121,12 @@ void DeleteWizardTest::theFormIsAsItBegins() {
             auto& date = child<QDateTimeEdit>(page, name);
             QCOMPARE(date.displayFormat(), q("M/d/yy HH:mm"));
             QVERIFY(date.calendarPopup());
-            QCOMPARE(date.minimumDate(), QDateTime::fromSecsSinceEpoch(kFirstBackup).date());
-            QCOMPARE(date.maximumDate(), QDateTime::fromSecsSinceEpoch(kLastBackup).date());
+            QCOMPARE(date.minimumDate(), QDateTime::fromSecsSinceEpoch(firstBackup).date());
+            QCOMPARE(date.maximumDate(), QDateTime::fromSecsSinceEpoch(lastBackup).date());
         }
-        QCOMPARE(child<QDateTimeEdit>(page, "dateFrom").dateTime().toSecsSinceEpoch(),
-                 kFirstBackup);
+        QCOMPARE(child<QDateTimeEdit>(page, "dateFrom").dateTime().toSecsSinceEpoch(), firstBackup);
         QCOMPARE(child<QDateTimeEdit>(page, "dateRemoved").dateTime().toSecsSinceEpoch(),
-                 kLastBackup);
+                 lastBackup);
         auto& keep = child<QSpinBox>(page, "spinKeep");
         QCOMPARE(keep.minimum(), 1);
         QCOMPARE(keep.maximum(), 99);
@@ -161,7 +160,7 @@ void DeleteWizardTest::withoutACheckMarkNothingIsPrepared() {
         wizard.reject();
     });
     test_.run("OnDelete");
-    QCOMPARE(difference(calls(), kOpened), QString());
+    QCOMPARE(difference(calls(), wizardOpened), QString());
 }
 
 void DeleteWizardTest::theReturnKeyDeletesNothing() {
@@ -185,7 +184,7 @@ void DeleteWizardTest::theReturnKeyDeletesNothing() {
 void DeleteWizardTest::aSelectionIsDeleted() {
     test_.expectWizard([](QWizardPage& page) { check(page, "C:/docs"); });
     test_.run("OnDelete");
-    QCOMPARE(difference(calls(), kOpened + deleted("3") + kRefreshed), QString());
+    QCOMPARE(difference(calls(), wizardOpened + deleted("3") + refreshed), QString());
 }
 
 void DeleteWizardTest::aFileIsDeleted() {
@@ -196,15 +195,15 @@ void DeleteWizardTest::aFileIsDeleted() {
                               Qt::CheckStateRole);
     });
     test_.run("OnDelete");
-    QCOMPARE(difference(calls(), kOpened + deleted("5") + kRefreshed), QString());
+    QCOMPARE(difference(calls(), wizardOpened + deleted("5") + refreshed), QString());
 }
 
 void DeleteWizardTest::aGroupGoesAsWhatItHolds() {
     test_.agent->withWorld([](World& world) { storeGroup(world); });
     test_.expectWizard([](QWizardPage& page) { check(page, "Group"); });
     test_.run("OnDelete");
-    QCOMPARE(difference(calls(), kOpened + Calls{"BackupSetDeleteView.getSubItems(0)"} +
-                                     deleted("6") + kRefreshed),
+    QCOMPARE(difference(calls(), wizardOpened + Calls{"BackupSetDeleteView.getSubItems(0)"} +
+                                     deleted("6") + refreshed),
              QString());
 }
 
@@ -213,7 +212,7 @@ void DeleteWizardTest::theCodeComesBeforeTheDeletion() {
     test_.expectWizard([](QWizardPage& page) { check(page, "D:"); });
     test_.expectCode(true);
     test_.run("OnDelete");
-    QCOMPARE(difference(calls(), kOpened + support::callsForCode() + deleted("2") + kRefreshed),
+    QCOMPARE(difference(calls(), wizardOpened + support::callsForCode() + deleted("2") + refreshed),
              QString());
 }
 
@@ -223,7 +222,7 @@ void DeleteWizardTest::cancellingTheCodeDeletesNothing() {
     test_.expectCode(false);
     test_.run("OnDelete");
     const Calls asked{"ClientConnection.getTFAManager()", "TFAManager.requestCode(2)"};
-    QCOMPARE(difference(calls(), kOpened + asked + kRefreshed), QString());
+    QCOMPARE(difference(calls(), wizardOpened + asked + refreshed), QString());
 }
 
 void DeleteWizardTest::cancellingTheWizardDeletesNothing() {
@@ -232,21 +231,21 @@ void DeleteWizardTest::cancellingTheWizardDeletesNothing() {
         support::cancelWizard(wizard, 0);
     });
     test_.run("OnDelete");
-    QCOMPARE(difference(calls(), kOpened), QString());
+    QCOMPARE(difference(calls(), wizardOpened), QString());
 }
 
 void DeleteWizardTest::everythingWithTheRemoval() {
     test_.expectWizard(checkAll);
     expectRemovalQuestion(QMessageBox::Yes);
     test_.run("OnDelete");
-    QCOMPARE(difference(calls(), kOpened + kRemoved + kRefreshed), QString());
+    QCOMPARE(difference(calls(), wizardOpened + removedCalls + refreshed), QString());
 }
 
 void DeleteWizardTest::everythingWithoutTheRemoval() {
     test_.expectWizard(checkAll);
     expectRemovalQuestion(QMessageBox::No);
     test_.run("OnDelete");
-    QCOMPARE(difference(calls(), kOpened + deleted("1, 2") + kRefreshed), QString());
+    QCOMPARE(difference(calls(), wizardOpened + deleted("1, 2") + refreshed), QString());
 }
 
 void DeleteWizardTest::cancellingTheCodeAfterYesRemovesNothing() {
@@ -256,7 +255,7 @@ void DeleteWizardTest::cancellingTheCodeAfterYesRemovesNothing() {
     test_.expectCode(false);
     test_.run("OnDelete");
     const Calls asked{"ClientConnection.getTFAManager()", "TFAManager.requestCode(2)"};
-    QCOMPARE(difference(calls(), kOpened + asked + kRefreshed), QString());
+    QCOMPARE(difference(calls(), wizardOpened + asked + refreshed), QString());
 }
 
 void DeleteWizardTest::aFilterNeverOffersTheRemoval() {
@@ -269,14 +268,14 @@ void DeleteWizardTest::aFilterNeverOffersTheRemoval() {
     test_.run("OnDelete");
     const Calls all = calls();
     QCOMPARE(std::count(all.begin(), all.end(), deleted("1, 2").front()), 1);
-    QCOMPARE(std::count(all.begin(), all.end(), kRemoved.back()), 0);
+    QCOMPARE(std::count(all.begin(), all.end(), removedCalls.back()), 0);
 }
 
 void DeleteWizardTest::aFromAtMidnightOfTheFirstDayIsNoFilter() {
-    const QDate firstDay = QDateTime::fromSecsSinceEpoch(kFirstBackup).date();
+    const QDate firstDay = QDateTime::fromSecsSinceEpoch(firstBackup).date();
     const auto midnight = static_cast<std::int32_t>(firstDay.startOfDay().toSecsSinceEpoch());
     test_.agent->withWorld(
-        [&](World& world) { world.set(kId)->sessions.front().start_time = midnight; });
+        [&](World& world) { world.set(setId)->sessions.front().start_time = midnight; });
     test_.expectWizard([&](QWizardPage& page) {
         switchOn(page, "checkFrom");
         QCOMPARE(child<QDateTimeEdit>(page, "dateFrom").dateTime().toSecsSinceEpoch(), midnight);
@@ -291,14 +290,13 @@ void DeleteWizardTest::aFromAtMidnightOfTheFirstDayIsNoFilter() {
 void DeleteWizardTest::aFromLaterOnTheFirstDayIsAFilter() {
     test_.expectWizard([&](QWizardPage& page) {
         switchOn(page, "checkFrom");
-        QCOMPARE(child<QDateTimeEdit>(page, "dateFrom").dateTime().toSecsSinceEpoch(),
-                 kFirstBackup);
+        QCOMPARE(child<QDateTimeEdit>(page, "dateFrom").dateTime().toSecsSinceEpoch(), firstBackup);
         checkAll(page);
     });
     test_.run("OnDelete");
     const Calls all = calls();
     QCOMPARE(std::count(all.begin(), all.end(), deleted("1, 2").front()), 1);
-    QCOMPARE(std::count(all.begin(), all.end(), kRemoved.back()), 0);
+    QCOMPARE(std::count(all.begin(), all.end(), removedCalls.back()), 0);
 }
 
 void DeleteWizardTest::theLastGenerationsAreAFilter() {
@@ -312,7 +310,7 @@ void DeleteWizardTest::theLastGenerationsAreAFilter() {
     QCOMPARE(difference(calls(), Calls{"BackupSet.prepare_delete(0, 0, 0, 1, 0)",
                                        "BackupSetDeleteView.getSubItems(-1)",
                                        "BackupSetDeleteView.getSubItems(1)"} +
-                                     deleted("1, 2") + kRefreshed),
+                                     deleted("1, 2") + refreshed),
              QString());
 }
 

@@ -12,11 +12,11 @@ namespace gui {
 
 using Calls = std::vector<std::string>;
 
-inline const Calls kShadowCopies{"BackupSet.types()", "Win32FS_BackupSet.setUseVSS(true)"};
-inline const Calls kDetails{"ClientConnection.backup_set(4)", "BackupSet.getLastActivityOfType(0)",
-                            "BackupSet.getOverview()"};
+inline const Calls shadowCopies{"BackupSet.types()", "Win32FS_BackupSet.setUseVSS(true)"};
+inline const Calls detailsRead{"ClientConnection.backup_set(4)",
+                               "BackupSet.getLastActivityOfType(0)", "BackupSet.getOverview()"};
 
-inline const Calls kItemsPages{
+inline const Calls itemsPages{
     "ClientConnection.getConfigurationManager()", "ClientConfiguration.isTarnToolEnabled(8)",
     "ClientConnection.backup_set(4)",
     // The data source page.
@@ -28,47 +28,47 @@ inline const Calls kItemsPages{
     "DataSourceBrowser.setCurrentCredentials(BackupSetCredentials(guest))",
     "BackupSet.getDataType()", "BackupSet.getComputerName()"};
 
-inline const std::string kOwnAccount = "BackupSetCredentials(the agent's own account)";
+inline const std::string ownAccount = "BackupSetCredentials(the agent's own account)";
 
-inline const Calls kItemsLogin{"BackupSet.getCredentials()",
-                               "BackupSetCredentials.isUsingClientCredentials()",
-                               "DataSourceBrowser.setCurrentCredentials(" + kOwnAccount + ")",
-                               "DataSourceBrowser.getCurrentCredentials()",
-                               "BackupSetCredentials.types()",
-                               "BackupSetCredentials.types()",
-                               "Win32FS_Generic_BackupSetCredentials.getUserName()",
-                               "DataSourceBrowser.setCurrentCredentials(" + kOwnAccount + ")"};
+inline const Calls itemsLogin{"BackupSet.getCredentials()",
+                              "BackupSetCredentials.isUsingClientCredentials()",
+                              "DataSourceBrowser.setCurrentCredentials(" + ownAccount + ")",
+                              "DataSourceBrowser.getCurrentCredentials()",
+                              "BackupSetCredentials.types()",
+                              "BackupSetCredentials.types()",
+                              "Win32FS_Generic_BackupSetCredentials.getUserName()",
+                              "DataSourceBrowser.setCurrentCredentials(" + ownAccount + ")"};
 
-inline const Calls kItemsOptions{"ClientConnection.getConfigurationManager()",
-                                 "ClientConfiguration.getClientOSType()",
-                                 "BackupSet.dataBrowser()",
-                                 "BackupSet.isUsingLocalStorage()",
-                                 "BackupSet.isUsingLocalTransmissionCache()",
-                                 "BackupSet.getLocalStoragePath()",
-                                 "DataSourceBrowser.getSubItems(\"Tarn-Client Computer\", \"\")"};
+inline const Calls itemsOptions{"ClientConnection.getConfigurationManager()",
+                                "ClientConfiguration.getClientOSType()",
+                                "BackupSet.dataBrowser()",
+                                "BackupSet.isUsingLocalStorage()",
+                                "BackupSet.isUsingLocalTransmissionCache()",
+                                "BackupSet.getLocalStoragePath()",
+                                "DataSourceBrowser.getSubItems(\"Tarn-Client Computer\", \"\")"};
 
-inline const Calls kItemsShown{"DataSourceBrowser.getCurrentCredentials()",
-                               "BackupSetCredentials.check(\"My Computer\")",
-                               "DataSourceBrowser.getPredefinedItems(\"My Computer\")",
-                               "DataSourceBrowser.getSubItems(\"My Computer\", \"\")",
-                               "BackupSet.items()",
-                               "BackupSetItem.getFolder()",
-                               "BackupSetItem.getType()",
-                               "DataSourceBrowser.getSubItems(\"My Computer\", \"D:\")",
-                               "BackupSetItem.getFolder()",
-                               "BackupSetItem.getType()",
-                               "DataSourceBrowser.getSubItems(\"My Computer\", \"D:\\\\Projects\")",
-                               "BackupSetItem.getFolder()",
-                               "BackupSetItem.getType()",
-                               "BackupSetItem.types()",
-                               "BackupSetRegexExclusion.getExpression()"};
+inline const Calls itemsShown{"DataSourceBrowser.getCurrentCredentials()",
+                              "BackupSetCredentials.check(\"My Computer\")",
+                              "DataSourceBrowser.getPredefinedItems(\"My Computer\")",
+                              "DataSourceBrowser.getSubItems(\"My Computer\", \"\")",
+                              "BackupSet.items()",
+                              "BackupSetItem.getFolder()",
+                              "BackupSetItem.getType()",
+                              "DataSourceBrowser.getSubItems(\"My Computer\", \"D:\")",
+                              "BackupSetItem.getFolder()",
+                              "BackupSetItem.getType()",
+                              "DataSourceBrowser.getSubItems(\"My Computer\", \"D:\\\\Projects\")",
+                              "BackupSetItem.getFolder()",
+                              "BackupSetItem.getType()",
+                              "BackupSetItem.types()",
+                              "BackupSetRegexExclusion.getExpression()"};
 
 /// As the options page is entered.
-inline const Calls kFoldersShown{"DataSourceBrowser.getSubItems(\"Tarn-Client Computer\", \"\")"};
+inline const Calls foldersShown{"DataSourceBrowser.getSubItems(\"Tarn-Client Computer\", \"\")"};
 
-inline const Calls kItemsWritten{
+inline const Calls itemsWritten{
     "DataSourceBrowser.getCurrentCredentials()",
-    "BackupSet.setCredentials(" + kOwnAccount + ")",
+    "BackupSet.setCredentials(" + ownAccount + ")",
     "DataSourceBrowser.createInclusionItem(\"My Computer\", \"D:\\\\Projects\", 9999)",
     "DataSourceBrowser.createExclusionItem(\"My Computer\", \"D:\\\\Projects\\\\Archive\")",
     "DataSourceBrowser.createRegexExclusion(\"My Computer\", \"D:\", \".*\\\\.(|tmp|swp|bak)\")",
@@ -79,11 +79,11 @@ inline const Calls kItemsWritten{
     "BackupSet.setItems([BackupSetItem(D:\\Projects), BackupSetItem(D:\\Projects\\Archive, "
     "excluded), BackupSetItem(D:, without .*\\.(|tmp|swp|bak))])"};
 
-inline const Calls kOptionsWritten{"BackupSet.setLocalStoragePath(\"\")",
-                                   "BackupSet.setUsingLocalStorage(false)",
-                                   "BackupSet.setUsingLocalTransmissionCache(false)"};
+inline const Calls optionsWritten{"BackupSet.setLocalStoragePath(\"\")",
+                                  "BackupSet.setUsingLocalStorage(false)",
+                                  "BackupSet.setUsingLocalTransmissionCache(false)"};
 
-inline const Calls kRetentionLoaded{
+inline const Calls retentionLoaded{
     "ClientConnection.backup_set(4)",          "BackupSet.getRetentionRule()",
     "RetentionRule.getKeepLastGenerations()",  "RetentionRule.getTimeRetentions()",
     "TimeRetentionOption.getValidFor()",       "TimeRetentionOption.getValidFor()",
@@ -91,7 +91,7 @@ inline const Calls kRetentionLoaded{
     "RetentionRule.getCleanupRemovedKeep()",   "BackupSet.isUsingLocalStorage()",
     "RetentionRule.getLocalStorageRetention()"};
 
-inline const Calls kRetentionWritten{
+inline const Calls retentionWritten{
     "BackupSet.getID()",
     "BackupSet.getRetentionRule()",
     "ClientConnection.getRetentionRuleManager()",
@@ -118,45 +118,45 @@ inline const Calls kRetentionWritten{
     "RetentionRule.setLocalStorageRetention({period=0, unit=3})"};
 
 /// Of a set with a rule, and a schedule for backups only.
-inline const Calls kSynchronised{"BackupSet.getRetentionRule()", "BackupSet.getSchedule()",
-                                 "Schedule.getDetails()", "ScheduleDetail.getTasks()",
-                                 "ScheduleDetail.setTasks(3)"};
+inline const Calls synchronised{"BackupSet.getRetentionRule()", "BackupSet.getSchedule()",
+                                "Schedule.getDetails()", "ScheduleDetail.getTasks()",
+                                "ScheduleDetail.setTasks(3)"};
 
-inline const Calls kScheduleLoaded{"ClientConnection.backup_set(4)",
-                                   "ClientConnection.getConfigurationManager()",
-                                   "ClientConfiguration.getClientNumber()",
-                                   "ClientConfiguration.getAdvancedConfigNumber(\"ScheduleMiss\")",
-                                   "BackupSet.getSchedule()",
+inline const Calls scheduleLoaded{"ClientConnection.backup_set(4)",
+                                  "ClientConnection.getConfigurationManager()",
+                                  "ClientConfiguration.getClientNumber()",
+                                  "ClientConfiguration.getAdvancedConfigNumber(\"ScheduleMiss\")",
+                                  "BackupSet.getSchedule()",
+                                  "Schedule.getDetails()",
+                                  "Schedule.isUsingNetworkDetection()",
+                                  "ScheduleDetail.getType()",
+                                  "ScheduleDetail.types()",
+                                  "MonthlyScheduleDetail.getScheduleDay()",
+                                  "ScheduleDetail.getStartTime()",
+                                  "ScheduleDetail.hasEndTime()",
+                                  "ScheduleDetail.getHourlyFrequency()"};
+
+inline const Calls scheduleAsked{"BackupSet.getID()", "BackupSet.getSchedule()",
+                                 "ClientConnection.getScheduleManager()", "Schedule.getName()"};
+
+inline const Calls scheduleCreated{"ScheduleManager.definedSchedules()",
+                                   "Schedule.getName()",
+                                   "Schedule.getName()",
+                                   "Schedule.getName()",
+                                   "ScheduleManager.createSchedule()",
+                                   "Schedule.setName(\"schedule_for_set_4\")",
+                                   "ScheduleManager.createMonthlyDetail()",
+                                   "MonthlyScheduleDetail.setScheduleDay(1)",
+                                   "ScheduleDetail.setStartTime({hour=19, minute=30, second=0})",
+                                   "ScheduleDetail.setNoEndTime()",
+                                   "ScheduleDetail.setHourlyFrequency(0)",
+                                   "ScheduleDetail.setTasks(1)",
                                    "Schedule.getDetails()",
-                                   "Schedule.isUsingNetworkDetection()",
-                                   "ScheduleDetail.getType()",
-                                   "ScheduleDetail.types()",
-                                   "MonthlyScheduleDetail.getScheduleDay()",
-                                   "ScheduleDetail.getStartTime()",
-                                   "ScheduleDetail.hasEndTime()",
-                                   "ScheduleDetail.getHourlyFrequency()"};
+                                   "Schedule.addDetail(ScheduleDetail(monthly))",
+                                   "Schedule.setUsingNetworkDetection(false)",
+                                   "BackupSet.setSchedule(Schedule(schedule_for_set_4))"};
 
-inline const Calls kScheduleAsked{"BackupSet.getID()", "BackupSet.getSchedule()",
-                                  "ClientConnection.getScheduleManager()", "Schedule.getName()"};
-
-inline const Calls kScheduleCreated{"ScheduleManager.definedSchedules()",
-                                    "Schedule.getName()",
-                                    "Schedule.getName()",
-                                    "Schedule.getName()",
-                                    "ScheduleManager.createSchedule()",
-                                    "Schedule.setName(\"schedule_for_set_4\")",
-                                    "ScheduleManager.createMonthlyDetail()",
-                                    "MonthlyScheduleDetail.setScheduleDay(1)",
-                                    "ScheduleDetail.setStartTime({hour=19, minute=30, second=0})",
-                                    "ScheduleDetail.setNoEndTime()",
-                                    "ScheduleDetail.setHourlyFrequency(0)",
-                                    "ScheduleDetail.setTasks(1)",
-                                    "Schedule.getDetails()",
-                                    "Schedule.addDetail(ScheduleDetail(monthly))",
-                                    "Schedule.setUsingNetworkDetection(false)",
-                                    "BackupSet.setSchedule(Schedule(schedule_for_set_4))"};
-
-inline const Calls kScheduleActive{
+inline const Calls scheduleActive{
     "BackupSet.setActive(true)", "ClientConnection.getConfigurationManager()",
     "ClientConfiguration.setAdvancedConfigNumber(\"ScheduleMiss\", 4)"};
 

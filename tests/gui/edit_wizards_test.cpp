@@ -29,7 +29,7 @@ Q_DECLARE_METATYPE(std::vector<std::string>)
 
 namespace {
 
-constexpr int kProjects = 3; // the row of the fourth set
+constexpr int projects = 3; // the row of the fourth set
 
 QString q(const char* text) {
     return QString::fromUtf8(text);
@@ -107,7 +107,7 @@ void EditWizardsTest::aWizardIsFramed() {
     QFETCH(QString, picture);
     QFETCH(bool, anySize);
     test_.start();
-    test_.driver->sets().selectRow(kProjects);
+    test_.driver->sets().selectRow(projects);
     test_.modals->expect(q("wizard"), isDialog<QWizard>, [&](QWidget& widget) {
         auto& wizard = static_cast<QWizard&>(widget);
         QCOMPARE(wizard.parentWidget(), &test_.driver->window());
@@ -139,14 +139,14 @@ void EditWizardsTest::items_data() {
     QTest::addColumn<bool>("twoFactor");
     QTest::addColumn<int>("pages");
     QTest::addColumn<Calls>("expected");
-    const Calls loaded = kItemsPages + kItemsLogin + Calls{"BackupSet.getDataType()"};
-    const Calls all = loaded + kItemsOptions + kItemsShown + kFoldersShown + kItemsWritten +
-                      kOptionsWritten + kShadowCopies;
-    const Calls bare = loaded + kItemsShown + kItemsWritten;
+    const Calls loaded = itemsPages + itemsLogin + Calls{"BackupSet.getDataType()"};
+    const Calls all = loaded + itemsOptions + itemsShown + foldersShown + itemsWritten +
+                      optionsWritten + shadowCopies;
+    const Calls bare = loaded + itemsShown + itemsWritten;
     QTest::newRow("mobile") << Scenario::Default << true << false << 3 << all;
     QTest::newRow("mobile, no code asked for") << Scenario::Default << true << true << 3 << all;
     QTest::newRow("mobile without the tool")
-        << Scenario::Default << false << false << 2 << bare + kShadowCopies;
+        << Scenario::Default << false << false << 2 << bare + shadowCopies;
     QTest::newRow("notebook") << Scenario::Notebook << true << false << 2 << bare;
 }
 
@@ -161,7 +161,7 @@ void EditWizardsTest::items() {
         if (!tool)
             world.tools.clear();
     });
-    test_.driver->sets().selectRow(kProjects);
+    test_.driver->sets().selectRow(projects);
     int seen = 0;
     test_.expectWizard([&seen](QWizardPage&) { ++seen; });
     test_.run("on_btnItems_clicked");
@@ -171,12 +171,12 @@ void EditWizardsTest::items() {
 
 void EditWizardsTest::itemsOfASetWithoutItems() {
     test_.start(Scenario::Default, [](World& world) {
-        auto& set = *world.sets()[kProjects];
+        auto& set = *world.sets()[projects];
         set.items.clear();
         set.info.has_items = false;
         world.tools.clear();
     });
-    test_.driver->sets().selectRow(kProjects);
+    test_.driver->sets().selectRow(projects);
     test_.modals->expect(q("wizard"), isDialog<QWizard>, [](QWidget& wizard) {
         auto& computer = child<QLineEdit>(wizard, "editComputerName");
         QCOMPARE(computer.text(), q("My Computer"));
@@ -184,15 +184,15 @@ void EditWizardsTest::itemsOfASetWithoutItems() {
         support::cancelWizard(wizard, 0);
     });
     test_.run("on_btnItems_clicked");
-    QCOMPARE(difference(callsOf(*test_.agent), kItemsPages + Calls{"BackupSet.getDataType()"}),
+    QCOMPARE(difference(callsOf(*test_.agent), itemsPages + Calls{"BackupSet.getDataType()"}),
              QString());
 }
 
 void EditWizardsTest::itemsOfASetThatHoldsNoFiles() {
     test_.start();
-    test_.driver->sets().selectRow(kProjects);
+    test_.driver->sets().selectRow(projects);
     test_.agent->withWorld([](World& world) {
-        world.sets()[kProjects]->info.data_type = hessiancln::BackupDataType::MSSQLServer;
+        world.sets()[projects]->info.data_type = hessiancln::BackupDataType::MSSQLServer;
     });
     test_.modals->expectErrorBox(
         q("Error"), q("This backup set type cannot be edited by this user interface."));
@@ -215,14 +215,14 @@ void EditWizardsTest::itemsOfASetOfUnixFilesFailAtTheCast() {
 
 void EditWizardsTest::theUserSeesThatWritingItemsTakesItsTime() {
     test_.start();
-    test_.driver->sets().selectRow(kProjects);
+    test_.driver->sets().selectRow(projects);
     support::CursorWatch watch;
     test_.expectWizard([&](QWizardPage& page) {
         if (page.isFinalPage())
             test_.driver->window().installEventFilter(&watch);
     });
     test_.run("on_btnItems_clicked");
-    QCOMPARE(watch.shown, support::kWaited);
+    QCOMPARE(watch.shown, support::waited);
 }
 
 void EditWizardsTest::retention_data() {
@@ -234,50 +234,50 @@ void EditWizardsTest::retention_data() {
 void EditWizardsTest::retention() {
     QFETCH(bool, twoFactor);
     test_.start(Scenario::Default, [&](World& world) { world.twoFactor = twoFactor; });
-    test_.driver->sets().selectRow(kProjects);
+    test_.driver->sets().selectRow(projects);
     test_.expectWizard();
     if (twoFactor)
         test_.expectCode(true);
     test_.run("on_btnRetention_clicked");
-    QCOMPARE(difference(callsOf(*test_.agent), kRetentionLoaded +
+    QCOMPARE(difference(callsOf(*test_.agent), retentionLoaded +
                                                    (twoFactor ? support::callsForCode() : Calls{}) +
-                                                   kRetentionWritten + kSynchronised + kDetails),
+                                                   retentionWritten + synchronised + detailsRead),
              QString());
 }
 
 void EditWizardsTest::givingUpTheCodeWritesNoRetention() {
     test_.start(Scenario::Default, [](World& world) { world.twoFactor = true; });
-    test_.driver->sets().selectRow(kProjects);
+    test_.driver->sets().selectRow(projects);
     test_.expectWizard();
     test_.expectCode(false);
     test_.run("on_btnRetention_clicked");
     const Calls asked{"ClientConnection.getTFAManager()", "TFAManager.requestCode(2)"};
-    QCOMPARE(difference(callsOf(*test_.agent), kRetentionLoaded + asked), QString());
+    QCOMPARE(difference(callsOf(*test_.agent), retentionLoaded + asked), QString());
 }
 
 void EditWizardsTest::schedule() {
     // It never asks for a code.
     test_.start(Scenario::Default, [](World& world) { world.twoFactor = true; });
-    test_.driver->sets().selectRow(kProjects);
+    test_.driver->sets().selectRow(projects);
     test_.expectWizard();
     test_.run("on_btnSchedule_clicked");
-    QCOMPARE(difference(callsOf(*test_.agent), kScheduleLoaded + kScheduleAsked + kScheduleCreated +
-                                                   kScheduleActive + kSynchronised + kDetails),
+    QCOMPARE(difference(callsOf(*test_.agent), scheduleLoaded + scheduleAsked + scheduleCreated +
+                                                   scheduleActive + synchronised + detailsRead),
              QString());
 }
 
 void EditWizardsTest::notScheduled() {
     test_.start();
-    test_.driver->sets().selectRow(kProjects);
+    test_.driver->sets().selectRow(projects);
     test_.expectWizard([](QWizardPage& page) {
         QTest::mouseClick(&child<QRadioButton>(page, "radioNotScheduled"), Qt::LeftButton);
     });
     test_.run("on_btnSchedule_clicked");
     const Calls detached{"BackupSet.setSchedule(null)"};
     const Calls nothingToSynchronise{"BackupSet.getRetentionRule()", "BackupSet.getSchedule()"};
-    QCOMPARE(difference(callsOf(*test_.agent), kScheduleLoaded + kScheduleAsked + detached +
-                                                   kScheduleActive + nothingToSynchronise +
-                                                   kDetails),
+    QCOMPARE(difference(callsOf(*test_.agent), scheduleLoaded + scheduleAsked + detached +
+                                                   scheduleActive + nothingToSynchronise +
+                                                   detailsRead),
              QString());
 }
 
@@ -296,7 +296,7 @@ void EditWizardsTest::cancelledWizardsWriteNothing() {
     QFETCH(QString, slot);
     QFETCH(int, page);
     test_.start(Scenario::Default, [](World& world) { world.twoFactor = true; });
-    test_.driver->sets().selectRow(kProjects);
+    test_.driver->sets().selectRow(projects);
     const QStringList before = test_.setNames();
     test_.modals->expect(q("wizard"), isDialog<QWizard>, [page](QWidget& wizard) {
         support::cancelWizard(wizard, page, support::nameNewSet);
@@ -307,7 +307,7 @@ void EditWizardsTest::cancelledWizardsWriteNothing() {
     QCOMPARE(test_.setNames(), before);
     test_.quiet->letPass = true;
     test_.driver->beat();
-    QCOMPARE(test_.driver->selectedRow(), kProjects);
+    QCOMPARE(test_.driver->selectedRow(), projects);
 }
 
 void EditWizardsTest::aFaultOfAnEditWizard_data() {
@@ -342,7 +342,7 @@ void EditWizardsTest::aFaultOfAnEditWizard() {
     QFETCH(QString, title);
     QFETCH(bool, opens);
     test_.start();
-    test_.driver->sets().selectRow(kProjects);
+    test_.driver->sets().selectRow(projects);
     test_.agent->inject(method.toStdString(), Fault{"Außer Betrieb."});
     if (opens)
         test_.modals->expect(q("wizard"), isDialog<QWizard>,
@@ -357,7 +357,7 @@ void EditWizardsTest::aFaultOfAnEditWizard() {
 
 void EditWizardsTest::theListMayGoUnderAWizard() {
     test_.start();
-    test_.driver->sets().selectRow(kProjects);
+    test_.driver->sets().selectRow(projects);
     test_.modals->expect(q("wizard"), isDialog<QWizard>, [this](QWidget& wizard) {
         test_.agent->withWorld([](World& world) {
             while (!world.sets().empty())
@@ -388,7 +388,7 @@ void EditWizardsTest::underCentralManagementNoSetIsEdited() {
 
 void EditWizardsTest::otherTasksOfAScheduleStay() {
     test_.start(Scenario::Default, [](World& world) {
-        world.sets()[kProjects]->info.schedule_id = 3;
+        world.sets()[projects]->info.schedule_id = 3;
         world.schedules.find(3)->details[0]->tasks = 5;
     });
     const auto set = session::getConnection()->backup_set(4);
@@ -399,8 +399,8 @@ void EditWizardsTest::otherTasksOfAScheduleStay() {
 
 void EditWizardsTest::withoutARuleTheTaskIsCleared() {
     test_.start(Scenario::Default, [](World& world) {
-        world.sets()[kProjects]->info.schedule_id = 3;
-        world.sets()[kProjects]->info.retention_rule_id = 0;
+        world.sets()[projects]->info.schedule_id = 3;
+        world.sets()[projects]->info.retention_rule_id = 0;
         auto& details = world.schedules.find(3)->details;
         details[0]->tasks = 7;
         details.push_back(std::make_shared<simulator::ScheduleDetailState>(*details[0]));

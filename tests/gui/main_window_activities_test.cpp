@@ -37,7 +37,7 @@ using Calls = std::vector<std::string>;
 
 namespace {
 
-const QString kFault = QStringLiteral("Out of order.");
+const QString faultText = QStringLiteral("Out of order.");
 
 /// The cursors that a widget is given while this object lives.
 class GivenCursors : public QObject {
@@ -264,7 +264,7 @@ void MainWindowActivitiesTest::aBackupThatFailsIsTold() {
     select(0);
     agent_->inject(session::toWire(method), simulator::Fault{"Out of order."});
     ModalDriver modals;
-    modals.expectErrorBox(QStringLiteral("Error"), kFault);
+    modals.expectErrorBox(QStringLiteral("Error"), faultText);
     driver_->trigger("actionBackup_Now");
     QVERIFY(modals.done());
     QCOMPARE(methodsOf(*agent_).back(), session::toWire(method));
@@ -289,7 +289,7 @@ void MainWindowActivitiesTest::aSynchronisationThatFailsIsTold() {
     select(0);
     agent_->inject("start_sync", simulator::Fault{"Out of order."});
     ModalDriver modals;
-    modals.expectErrorBox(QStringLiteral("Error"), kFault);
+    modals.expectErrorBox(QStringLiteral("Error"), faultText);
     driver_->trigger("actionSynchronize");
     QVERIFY(modals.done());
     QVERIFY(session::connectedToAgent());
@@ -331,7 +331,7 @@ void MainWindowActivitiesTest::aStopThatFailsIsTold() {
     window().OnStopActivity();
     QVERIFY(modals.done());
     agent_->inject("Stop", simulator::Fault{"Out of order."});
-    modals.expectErrorBox(QStringLiteral("Error"), kFault);
+    modals.expectErrorBox(QStringLiteral("Error"), faultText);
     window().OnStopActivity();
     QVERIFY(modals.done());
     QVERIFY(session::connectedToAgent());
@@ -356,7 +356,7 @@ void MainWindowActivitiesTest::startsTheDailyAdmin() {
     QVERIFY(driver_->status().endsWith(QStringLiteral(": Daily admin started.")));
     agent_->inject("start_daily_admin", simulator::Fault{"Out of order."});
     ModalDriver modals;
-    modals.expectErrorBox(QStringLiteral("Error"), kFault);
+    modals.expectErrorBox(QStringLiteral("Error"), faultText);
     window().startDailyAdmin();
     QVERIFY(modals.done());
 }
@@ -432,7 +432,7 @@ void MainWindowActivitiesTest::theAboutBoxOpens() {
 void MainWindowActivitiesTest::anAboutBoxThatCantAskIsTold() {
     agent_->inject("getTarnClientInfo", simulator::Fault{"Out of order."});
     ModalDriver modals;
-    modals.expectErrorBox(QStringLiteral("Configuration Error"), kFault);
+    modals.expectErrorBox(QStringLiteral("Configuration Error"), faultText);
     driver_->trigger("action_About");
     QVERIFY(modals.done());
     QVERIFY(session::connectedToAgent());

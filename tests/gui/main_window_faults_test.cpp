@@ -27,8 +27,8 @@ Q_DECLARE_METATYPE(simulator::Injection)
 
 namespace {
 
-const QString kFault = QStringLiteral("Out of order.");
-const QString kUnknownKey = QStringLiteral("Unknown map field type");
+const QString faultText = QStringLiteral("Out of order.");
+const QString unknownKey = QStringLiteral("Unknown map field type");
 
 /// The three ways in which each of these calls goes wrong. A result without records is garbage
 /// where the others have a member that nobody knows.
@@ -55,8 +55,8 @@ bool isCut(const Injection& injection) {
 /// What the user is to read; empty where only the transport knows.
 QString textOf(const Injection& injection) {
     if (std::holds_alternative<simulator::Fault>(injection))
-        return kFault;
-    return std::holds_alternative<simulator::UnknownKey>(injection) ? kUnknownKey : QString();
+        return faultText;
+    return std::holds_alternative<simulator::UnknownKey>(injection) ? unknownKey : QString();
 }
 
 } // namespace
@@ -232,7 +232,7 @@ void MainWindowFaultsTest::aLastingFailureOfTheDetailsHasOneBoxAtATime() {
     });
     driver_->beat();
     QVERIFY(modals.done());
-    modals.expectErrorBox(title, kFault);
+    modals.expectErrorBox(title, faultText);
     driver_->beat();
     QVERIFY(modals.done());
     agent_->clearInjections();
@@ -314,9 +314,9 @@ void MainWindowFaultsTest::theConfigurationThatCantBeReadEndsTheSession_data() {
     const Injection fault = simulator::Fault{"Out of order."};
     for (const char* method :
          {"getConfigurationManager", "getUserInfoConfiguration", "getUserInfo"})
-        QTest::addRow("%s, fault", method) << QString::fromLatin1(method) << fault << kFault;
+        QTest::addRow("%s, fault", method) << QString::fromLatin1(method) << fault << faultText;
     QTest::addRow("malformed record")
-        << QStringLiteral("getUserInfo") << Injection(simulator::UnknownKey{}) << kUnknownKey;
+        << QStringLiteral("getUserInfo") << Injection(simulator::UnknownKey{}) << unknownKey;
     QTest::addRow("no configuration")
         << QStringLiteral("getConfigurationManager") << Injection(simulator::NullResult{})
         << QStringLiteral("The agent doesn't have what was asked for.");

@@ -32,7 +32,7 @@ using Calls = std::vector<std::string>;
 
 namespace {
 
-const QString kNoneSelected = QStringLiteral("No backup set selected.");
+const QString noneSelected = QStringLiteral("No backup set selected.");
 
 bool isHighlighted(const BackupSetViewItem& card) {
     return card.backgroundRole() == QPalette::Highlight;
@@ -435,7 +435,7 @@ void MainWindowSetsTest::theListMayGoUnderAnOpenContextMenu() {
 
 void MainWindowSetsTest::theDeleteKeyWithoutASelectionShowsTheBox() {
     ModalDriver modals;
-    modals.expectErrorBox(QStringLiteral("Error"), kNoneSelected);
+    modals.expectErrorBox(QStringLiteral("Error"), noneSelected);
     const ReceivedKeys further(window());
     QTest::keyClick(&driver_->sets(), Qt::Key_Delete);
     QVERIFY(modals.done());
@@ -488,7 +488,7 @@ void MainWindowSetsTest::commandsWithoutASelectionShowTheBox_data() {
 void MainWindowSetsTest::commandsWithoutASelectionShowTheBox() {
     QFETCH(QString, slot);
     ModalDriver modals;
-    modals.expectErrorBox(QStringLiteral("Error"), kNoneSelected);
+    modals.expectErrorBox(QStringLiteral("Error"), noneSelected);
     QVERIFY(QMetaObject::invokeMethod(&window(), qPrintable(slot)));
     QVERIFY(modals.done());
     QCOMPARE(agent_->callTexts(), Calls{});

@@ -34,17 +34,18 @@ using support::ModalDriver;
 
 namespace {
 
-const QString kPlainTitle = QStringLiteral("Ostrand Backup");
-const QString kTerminated = QStringLiteral("Current connection terminated");
-const QString kNoConnection = QStringLiteral("No API connection exists");
+const QString plainTitle = QStringLiteral("Ostrand Backup");
+const QString terminatedText = QStringLiteral("Current connection terminated");
+const QString noConnection = QStringLiteral("No API connection exists");
 
-const QStringList kSwitched = QStringLiteral("menu_Backup_Set menu_Configuration actionAdmin "
-                                             "actionLogout buttonEventLog dateTimeFrom dateTimeTo "
-                                             "actionLogin actionNew_Backup_Set actionBackup_Now "
-                                             "actionRestore actionDeleteFromOnline "
-                                             "actionSynchronize buttonStop pageProperties "
-                                             "actionTFASettings")
-                                  .split(QLatin1Char(' '));
+const QStringList everSwitched =
+    QStringLiteral("menu_Backup_Set menu_Configuration actionAdmin "
+                   "actionLogout buttonEventLog dateTimeFrom dateTimeTo "
+                   "actionLogin actionNew_Backup_Set actionBackup_Now "
+                   "actionRestore actionDeleteFromOnline "
+                   "actionSynchronize buttonStop pageProperties "
+                   "actionTFASettings")
+        .split(QLatin1Char(' '));
 
 QString currentUser() {
     return session::fromWire(session::currentWindowsUser());
@@ -83,7 +84,7 @@ private slots:
     void cleanup() { driver_.reset(); }
 
     void startsWithoutASession() {
-        QCOMPARE(window().windowTitle(), kPlainTitle);
+        QCOMPARE(window().windowTitle(), plainTitle);
         QVERIFY(isEnabled("actionLogin"));
         QVERIFY(!isEnabled("actionLogout"));
         QVERIFY(!isEnabled("actionNew_Backup_Set"));
@@ -117,7 +118,7 @@ private slots:
         QVERIFY(!window().doLogin(true));
         QCOMPARE(status(), QStringLiteral("Failed to connect to '127.0.0.1' on port 4411. O/S "
                                           "error 111 (Connection refused)"));
-        QCOMPARE(window().windowTitle(), kPlainTitle);
+        QCOMPARE(window().windowTitle(), plainTitle);
     }
 
     void tellsOfTheFirstLoginBeforeThatBlocks() {
@@ -160,7 +161,7 @@ private slots:
         QVERIFY(modals.done());
         QVERIFY(window().isVisible());
         QVERIFY(status().startsWith(QStringLiteral("Failed to connect")));
-        QCOMPARE(window().windowTitle(), kPlainTitle);
+        QCOMPARE(window().windowTitle(), plainTitle);
         QVERIFY(isEnabled("actionLogin"));
         QVERIFY(!session::connectedToAgent());
     }
@@ -263,7 +264,7 @@ private slots:
         window().doLogin(true);
         view().selectRow(0);
         child<QTableView>(window(), "tableCurrentActivities").selectRow(0);
-        QStringList all = kSwitched;
+        QStringList all = everSwitched;
         all.removeOne(QStringLiteral("actionLogin"));
         all.removeOne(QStringLiteral("actionTFASettings"));
         QCOMPARE(enabled(), all);
@@ -329,8 +330,8 @@ private slots:
         view().selectRow(0);
         child<QAction>(window(), "actionLogout").trigger();
         QVERIFY(!session::connectedToAgent());
-        QCOMPARE(window().windowTitle(), kPlainTitle);
-        QCOMPARE(status(), kTerminated);
+        QCOMPARE(window().windowTitle(), plainTitle);
+        QCOMPARE(status(), terminatedText);
         QCOMPARE(sets(), QStringList());
         QVERIFY(view().selectionModel()->selectedRows().isEmpty());
         QVERIFY(isEnabled("actionLogin"));
@@ -349,8 +350,8 @@ private slots:
         beat();
         QVERIFY2(time.elapsed() < 2000, "a dead agent must not hold the window up");
         QVERIFY(!session::connectedToAgent());
-        QCOMPARE(status(), kNoConnection);
-        QCOMPARE(window().windowTitle(), kPlainTitle);
+        QCOMPARE(status(), noConnection);
+        QCOMPARE(window().windowTitle(), plainTitle);
         QCOMPARE(sets(), QStringList());
         QVERIFY(isEnabled("actionLogin"));
     }
@@ -413,7 +414,7 @@ private:
     /// What is enabled of all that is ever switched, less the buttons in the details.
     QStringList enabled() {
         QStringList names;
-        for (const QString& name : kSwitched)
+        for (const QString& name : everSwitched)
             if (window().findChild<QObject*>(name)->property("enabled").toBool())
                 names << name;
         return names;

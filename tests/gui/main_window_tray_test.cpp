@@ -21,10 +21,10 @@ using support::MainWindowDriver;
 
 namespace {
 
-const QString kActivity = QStringLiteral("Ostrand Backup Activity");
-const QString kRunning = QStringLiteral("Tarn-Mobile User is still running!");
-const QString kReminder = QStringLiteral("You can click the icon to show the window.\n\n"
-                                         "Click here to not show this reminder again.");
+const QString activityTitle = QStringLiteral("Ostrand Backup Activity");
+const QString runningTitle = QStringLiteral("Tarn-Mobile User is still running!");
+const QString reminderText = QStringLiteral("You can click the icon to show the window.\n\n"
+                                            "Click here to not show this reminder again.");
 
 void startBackup(World& world) {
     world.start(world.backupOf(world.sets().front(), "anna"));
@@ -88,7 +88,7 @@ private:
     QStringList linesOfBalloons() {
         QStringList lines;
         for (const auto& [title, text] : tray().balloons) {
-            if (title != kActivity)
+            if (title != activityTitle)
                 QTest::qFail("A balloon has another title", __FILE__, __LINE__);
             lines << text.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
         }
@@ -120,7 +120,7 @@ void MainWindowTrayTest::closingHidesTheWindowAndReminds() {
     QVERIFY(!window().isVisible());
     QVERIFY(driver_->isEnabled("actionShow"));
     QVERIFY(!driver_->isEnabled("actionHide"));
-    QCOMPARE(tray().balloons, (QList<QPair<QString, QString>>{{kRunning, kReminder}}));
+    QCOMPARE(tray().balloons, (QList<QPair<QString, QString>>{{runningTitle, reminderText}}));
 }
 
 void MainWindowTrayTest::withoutATrayClosingOnlyReminds() {
@@ -128,7 +128,7 @@ void MainWindowTrayTest::withoutATrayClosingOnlyReminds() {
     QVERIFY(!window().close());
     QVERIFY(window().isVisible());
     QVERIFY(!driver_->isEnabled("actionShow"));
-    QCOMPARE(tray().balloons, (QList<QPair<QString, QString>>{{kRunning, kReminder}}));
+    QCOMPARE(tray().balloons, (QList<QPair<QString, QString>>{{runningTitle, reminderText}}));
 }
 
 void MainWindowTrayTest::theMenuHidesAndShows() {

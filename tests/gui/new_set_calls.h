@@ -24,14 +24,14 @@ struct FlowCall {
     OnFault onFault;
 };
 
-inline const std::string kDocuments =
+inline const std::string documentsExpression =
     "accdb|accde|accdr|accdt|csv|doc|docm|docx|dot|dotm|dotx|htm|html|mht|mpp|mppx|one|pdf|potm|"
     "potx|ppam|pps|ppsm|ppsx|ppt|pptm|pptx|ps|rtf|txt|vsd|wpd|wpg|wps|xlam|xlc|xls|xlsb|xlsm|"
     "xlsx|xlt|xltm|xltx";
 
 /// All calls of a new set named "New one" at an agent with everything that sets can have, from the
 /// command to the end, when nothing else is changed on the pages. Without those of `Release`.
-inline const std::vector<FlowCall> kNewSetCalls{
+inline const std::vector<FlowCall> newSetTable{
     {"ClientConnection.getConfigurationManager()", OnFault::NoWizard},
     {"ClientConfiguration.isTarnToolEnabled(8)", OnFault::NoWizard},
     // The data source page.
@@ -64,8 +64,8 @@ inline const std::vector<FlowCall> kNewSetCalls{
     {"DataSourceBrowser.createInclusionItem(\"My Computer\", \"C:\\\\Users\\\\anna\\\\Documents\", "
      "9999)",
      OnFault::NoSet},
-    {"DataSourceBrowser.createRegexExclusion(\"My Computer\", \"C:\", \".*\\\\.(" + kDocuments +
-         ")\")",
+    {"DataSourceBrowser.createRegexExclusion(\"My Computer\", \"C:\", \".*\\\\.(" +
+         documentsExpression + ")\")",
      OnFault::NoSet},
     {"BackupSetRegexExclusion.setInclusion(true)", OnFault::NoSet},
     {"BackupSetRegexExclusion.setNegate(false)", OnFault::NoSet},
@@ -73,7 +73,7 @@ inline const std::vector<FlowCall> kNewSetCalls{
     {"BackupSetRegexExclusion.setMatchDirectories(false)", OnFault::NoSet},
     {"BackupSet.setItems([BackupSetItem(C:\\Users\\anna\\Documents), BackupSetItem(C:, only "
      ".*\\.(" +
-         kDocuments + "))])",
+         documentsExpression + "))])",
      OnFault::NoSet},
     {"BackupSet.setLocalStoragePath(\"\")", OnFault::NoSet},
     {"BackupSet.setUsingLocalStorage(false)", OnFault::NoSet},
@@ -129,7 +129,7 @@ inline const std::vector<FlowCall> kNewSetCalls{
 
 inline std::vector<std::string> newSetCalls() {
     std::vector<std::string> texts;
-    for (const FlowCall& call : kNewSetCalls)
+    for (const FlowCall& call : newSetTable)
         texts.push_back(call.text);
     return texts;
 }

@@ -8,7 +8,7 @@
 #include "tests/gui/new_set_calls.h"
 #include "tests/support/gui_wizard.h"
 
-using gui::kNewSetCalls;
+using gui::newSetTable;
 using gui::OnFault;
 using simulator::Fault;
 using simulator::Times;
@@ -22,8 +22,8 @@ using Calls = std::vector<std::string>;
 
 namespace {
 
-const QString kFlowTitle = QStringLiteral("New Backup Set Error");
-const QString kText = QStringLiteral("Außer Betrieb.");
+const QString flowTitle = QStringLiteral("New Backup Set Error");
+const QString faultText = QStringLiteral("Außer Betrieb.");
 
 /// "BackupSet.setName" of "BackupSet.setName("Documents")".
 std::string methodOf(const std::string& call) {
@@ -112,11 +112,11 @@ void NewSetFaultsTest::forgetNewSet() {
 
 /// The call of that number fails; earlier ones of the same method don't.
 void NewSetFaultsTest::failCall(std::size_t number) {
-    const std::string method = methodOf(kNewSetCalls[number].text);
+    const std::string method = methodOf(newSetTable[number].text);
     for (std::size_t i = 0; i < number; ++i)
-        if (methodOf(kNewSetCalls[i].text) == method)
+        if (methodOf(newSetTable[i].text) == method)
             agent_->inject(method, simulator::Delay{std::chrono::milliseconds(0)});
-    agent_->inject(method, Fault{kText.toStdString()});
+    agent_->inject(method, Fault{faultText.toStdString()});
 }
 
 void NewSetFaultsTest::expectWizard() {
@@ -131,14 +131,14 @@ void NewSetFaultsTest::expectAfterFault(OnFault onFault) {
     };
     switch (onFault) {
     case OnFault::NoWizard:
-        modals_->expectErrorBox(kFlowTitle, kText);
+        modals_->expectErrorBox(flowTitle, faultText);
         break;
     case OnFault::ErrorR1:
-        modals_->expectErrorBox(QStringLiteral("Error R1"), kText);
+        modals_->expectErrorBox(QStringLiteral("Error R1"), faultText);
         expectCancelled();
         break;
     case OnFault::ErrorR2:
-        modals_->expectErrorBox(QStringLiteral("Error R2"), kText);
+        modals_->expectErrorBox(QStringLiteral("Error R2"), faultText);
         expectCancelled();
         break;
     case OnFault::Nothing:
@@ -146,27 +146,27 @@ void NewSetFaultsTest::expectAfterFault(OnFault onFault) {
         break;
     case OnFault::SourceStays:
         expectWizard();
-        modals_->expectErrorBox(QStringLiteral("Credential check failed"), kText);
+        modals_->expectErrorBox(QStringLiteral("Credential check failed"), faultText);
         break;
     case OnFault::WizardGone:
     case OnFault::NoSet:
     case OnFault::SetStays:
         expectWizard();
-        modals_->expectErrorBox(kFlowTitle, kText);
+        modals_->expectErrorBox(flowTitle, faultText);
         break;
     }
 }
 
 void NewSetFaultsTest::aFaultIsToldAndStopsTheFlow_data() {
     QTest::addColumn<int>("number");
-    for (std::size_t i = 0; i < kNewSetCalls.size(); ++i)
-        QTest::addRow("%zu %s", i, methodOf(kNewSetCalls[i].text).c_str()) << static_cast<int>(i);
+    for (std::size_t i = 0; i < newSetTable.size(); ++i)
+        QTest::addRow("%zu %s", i, methodOf(newSetTable[i].text).c_str()) << static_cast<int>(i);
 }
 
 void NewSetFaultsTest::aFaultIsToldAndStopsTheFlow() {
     QFETCH(int, number);
     const auto index = static_cast<std::size_t>(number);
-    const OnFault onFault = kNewSetCalls[index].onFault;
+    const OnFault onFault = newSetTable[index].onFault;
     failCall(index);
     expectAfterFault(onFault);
     driver_->trigger("actionNew_Backup_Set");
@@ -189,7 +189,7 @@ void NewSetFaultsTest::aCutConnectionIsTold() {
     agent_->inject("createBackupSet", simulator::CutBefore{});
     expectWizard();
     modals_->expect(
-        QStringLiteral("box"), [](QWidget& box) { return box.windowTitle() == kFlowTitle; },
+        QStringLiteral("box"), [](QWidget& box) { return box.windowTitle() == flowTitle; },
         [](QWidget& box) { box.close(); });
     driver_->trigger("actionNew_Backup_Set");
     QVERIFY(modals_->done());
@@ -201,7 +201,7 @@ void NewSetFaultsTest::aCutConnectionIsTold() {
 }
 
 void NewSetFaultsTest::referencesThatCantBeReleasedStopNothing() {
-    agent_->inject("Release", Fault{kText.toStdString()}, Times::UntilCleared);
+    agent_->inject("Release", Fault{faultText.toStdString()}, Times::UntilCleared);
     expectWizard();
     driver_->trigger("actionNew_Backup_Set");
     agent_->clearInjections();

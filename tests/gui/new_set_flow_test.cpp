@@ -34,12 +34,12 @@ Q_DECLARE_METATYPE(std::vector<std::string>)
 
 namespace {
 
-const Calls kOptionsPage{"ClientConnection.getConfigurationManager()",
-                         "ClientConfiguration.getClientOSType()"};
-const Calls kOptionsWritten{"BackupSet.setLocalStoragePath(\"\")",
-                            "BackupSet.setUsingLocalStorage(false)",
-                            "BackupSet.setUsingLocalTransmissionCache(false)"};
-const Calls kShadowCopies{"BackupSet.types()", "Win32FS_BackupSet.setUseVSS(true)"};
+const Calls optionsPage{"ClientConnection.getConfigurationManager()",
+                        "ClientConfiguration.getClientOSType()"};
+const Calls optionsWritten{"BackupSet.setLocalStoragePath(\"\")",
+                           "BackupSet.setUsingLocalStorage(false)",
+                           "BackupSet.setUsingLocalTransmissionCache(false)"};
+const Calls shadowCopies{"BackupSet.types()", "Win32FS_BackupSet.setUseVSS(true)"};
 
 QString q(const char* text) {
     return QString::fromUtf8(text);
@@ -98,8 +98,8 @@ void NewSetFlowTest::aNewSet_data() {
     QTest::addColumn<int>("pages");
     QTest::addColumn<Calls>("expected");
     const Calls all = gui::newSetCalls();
-    const Calls withoutTool = without(without(all, kOptionsPage), kOptionsWritten);
-    const Calls notebook = without(withoutTool, kShadowCopies);
+    const Calls withoutTool = without(without(all, optionsPage), optionsWritten);
+    const Calls notebook = without(withoutTool, shadowCopies);
     const std::string lastOfWizard = "ClientConnection.backup_sets_info()";
     QTest::newRow("mobile") << Scenario::Default << true << false << 6 << all;
     QTest::newRow("mobile, with code") << Scenario::Default << true << true << 6
@@ -206,7 +206,7 @@ void NewSetFlowTest::theUserSeesThatMakingItTakesItsTime() {
     });
     test_.run("OnNewBackupSet");
     QCOMPARE(whenAskedForTheCode, QVector<Qt::CursorShape>());
-    QCOMPARE(watch.shown, support::kWaited);
+    QCOMPARE(watch.shown, support::waited);
 }
 
 void NewSetFlowTest::treesScrollToWhatIsLookedAt() {

@@ -27,7 +27,7 @@ using support::isDialog;
 
 namespace {
 
-const char kText[] = "Außer Betrieb.";
+const char faultText[] = "Außer Betrieb.";
 
 /// What the user meets when a call of the wizard fails.
 enum class OnFault {
@@ -47,7 +47,7 @@ struct FlowCall {
 };
 
 /// The calls of a restore to another directory, from the command to the start.
-const std::vector<FlowCall> kFlow{
+const std::vector<FlowCall> flow{
     {"ClientConnection.backup_set", OnFault::NoWizard},
     {"BackupSet.getCurrentStatus", OnFault::NoWizard},
     {"BackupSet.prepare_restore", OnFault::NoWizard},
@@ -75,7 +75,7 @@ const std::vector<FlowCall> kFlow{
     {"BackupSet.getComputerName", OnFault::NothingStarts},
     {"RestoreActivityInitiator.start", OnFault::NothingStarts}};
 
-const RestoreWishes kWishes{.checked = {"D:"}, .location = "radioAlternateDir"};
+const RestoreWishes wishes{.checked = {"D:"}, .location = "radioAlternateDir"};
 
 QPushButton& generations(QWidget& page) {
     return child<QPushButton>(page, "buttonGenerations");
@@ -107,7 +107,7 @@ private slots:
 
 private:
     void failCall(std::size_t number);
-    void expectBox(const char* title) { test_.modals->expectErrorBox(q(title), q(kText)); }
+    void expectBox(const char* title) { test_.modals->expectErrorBox(q(title), q(faultText)); }
     void expectAfterFault(OnFault onFault);
     /// The first page of the wizard, which is given up afterwards.
     void atFirstPage(const support::AtPage& act);
@@ -120,7 +120,7 @@ private:
 void RestoreFaultsTest::initTestCase() {
     resources::initPictures();
     test_.start(simulator::Scenario::Default, [](World& world) { storeFiles(world); });
-    test_.driver->sets().selectRow(kRestoredRow);
+    test_.driver->sets().selectRow(restoredRow);
 }
 
 void RestoreFaultsTest::cleanup() {
@@ -132,11 +132,11 @@ void RestoreFaultsTest::cleanup() {
 
 /// The call of that number fails; earlier ones of the same method don't.
 void RestoreFaultsTest::failCall(std::size_t number) {
-    const std::string method = kFlow[number].method;
+    const std::string method = flow[number].method;
     for (std::size_t i = 0; i < number; ++i)
-        if (kFlow[i].method == method)
+        if (flow[i].method == method)
             test_.agent->inject(method, simulator::Delay{std::chrono::milliseconds(0)});
-    test_.agent->inject(method, Fault{kText});
+    test_.agent->inject(method, Fault{faultText});
 }
 
 void RestoreFaultsTest::expectAfterFault(OnFault onFault) {
@@ -146,7 +146,7 @@ void RestoreFaultsTest::expectAfterFault(OnFault onFault) {
     };
     const auto expectFinished = [this](bool comesThrough) {
         test_.modals->expect(q("wizard"), isDialog<QWizard>, [comesThrough](QWidget& wizard) {
-            QCOMPARE(support::finishWizard(wizard, wishing(kWishes)), comesThrough);
+            QCOMPARE(support::finishWizard(wizard, wishing(wishes)), comesThrough);
         });
     };
     switch (onFault) {
@@ -195,14 +195,14 @@ std::size_t RestoreFaultsTest::restoresUnderWay() {
 
 void RestoreFaultsTest::aFaultIsToldAndStopsTheFlow_data() {
     QTest::addColumn<int>("number");
-    for (std::size_t i = 0; i < kFlow.size(); ++i)
-        QTest::addRow("%zu %s", i, kFlow[i].method) << static_cast<int>(i);
+    for (std::size_t i = 0; i < flow.size(); ++i)
+        QTest::addRow("%zu %s", i, flow[i].method) << static_cast<int>(i);
 }
 
 void RestoreFaultsTest::aFaultIsToldAndStopsTheFlow() {
     QFETCH(int, number);
     const auto index = static_cast<std::size_t>(number);
-    const OnFault onFault = kFlow[index].onFault;
+    const OnFault onFault = flow[index].onFault;
     failCall(index);
     expectAfterFault(onFault);
     test_.run("OnRestore");
@@ -213,7 +213,7 @@ void RestoreFaultsTest::aFaultIsToldAndStopsTheFlow() {
     // The calls up to the one that failed, and no other.
     Calls expected;
     for (std::size_t i = 0; i <= index; ++i)
-        expected.emplace_back(kFlow[i].method);
+        expected.emplace_back(flow[i].method);
     Calls actual;
     for (const std::string& call : callsOf(*test_.agent))
         actual.push_back(call.substr(0, call.find('(')));
@@ -230,7 +230,7 @@ void RestoreFaultsTest::aFaultOnTheWayToTheOriginalPlace_data() {
 
 void RestoreFaultsTest::aFaultOnTheWayToTheOriginalPlace() {
     QFETCH(QString, method);
-    test_.agent->inject(method.toStdString(), Fault{kText});
+    test_.agent->inject(method.toStdString(), Fault{faultText});
     test_.expectWizard(wishing({.checked = {"D:"}}));
     expectBox("Error");
     test_.run("OnRestore");
@@ -258,7 +258,7 @@ void RestoreFaultsTest::aFaultOfAFilterLeavesThePage() {
     QFETCH(QString, method);
     atFirstPage([&](QWizardPage& page) {
         check(page, "C:/docs");
-        test_.agent->inject(method.toStdString(), Fault{kText});
+        test_.agent->inject(method.toStdString(), Fault{faultText});
         expectBox("Error");
         auto& filter = child<QCheckBox>(page, "checkFilter");
         filter.click();
@@ -271,11 +271,11 @@ void RestoreFaultsTest::aFaultOfAFilterLeavesThePage() {
         // The next time comes through, and shows the dates as they should be.
         filter.click();
         QVERIFY(filter.isChecked());
-        QCOMPARE(child<QDateTimeEdit>(page, "dateTo").dateTime().toSecsSinceEpoch(), kLastBackup);
+        QCOMPARE(child<QDateTimeEdit>(page, "dateTo").dateTime().toSecsSinceEpoch(), lastBackup);
         for (const auto& [box, value] :
              {std::pair("checkFrom", "dateFrom"), std::pair("checkTo", "dateTo"),
               std::pair("checkRemoved", "dateRemoved")}) {
-            test_.agent->inject("prepare_restore", Fault{kText});
+            test_.agent->inject("prepare_restore", Fault{faultText});
             expectBox("Error");
             child<QCheckBox>(page, box).click();
             QVERIFY(!child<QCheckBox>(page, box).isChecked());
@@ -299,7 +299,7 @@ void RestoreFaultsTest::aFaultOfTheGenerationsLeavesThePage() {
     atFirstPage([&](QWizardPage& page) {
         check(page, "D:");
         listOf(page).setCurrentIndex(fileNamed(page, "notes.txt"));
-        test_.agent->inject(method.toStdString(), Fault{kText});
+        test_.agent->inject(method.toStdString(), Fault{faultText});
         if (picked)
             test_.modals->expect(q("generations"), isDialog<SelectGenerationDlg>, [](QWidget& one) {
                 child<QTableView>(one, "listGenerations").selectRow(1);
@@ -330,7 +330,7 @@ void RestoreFaultsTest::anObjectThatIsMissing() {
     QFETCH(bool, opens);
     test_.agent->inject(method.toStdString(), simulator::NullResult{});
     if (opens)
-        test_.expectWizard(wishing(kWishes));
+        test_.expectWizard(wishing(wishes));
     test_.modals->expectErrorBox(q("Error"), q("The agent doesn't have what was asked for."));
     test_.run("OnRestore");
     QCOMPARE(restoresUnderWay(), restoresBefore_);
@@ -339,7 +339,7 @@ void RestoreFaultsTest::anObjectThatIsMissing() {
 void RestoreFaultsTest::aFolderOfTheDestinationThatFailsIsNotTold() {
     test_.modals->expect(q("wizard"), isDialog<QWizard>, [](QWidget& wizard) {
         QVERIFY(support::finishWizard(wizard, [](QWizardPage& page) {
-            wishing(kWishes)(page);
+            wishing(wishes)(page);
             if (!qobject_cast<RestoreDirectoryDestination*>(&page))
                 return;
             child<QPushButton>(page, "btnRestoreTo").click();
@@ -356,9 +356,9 @@ void RestoreFaultsTest::aFolderOfTheDestinationThatFailsIsNotTold() {
 void RestoreFaultsTest::aPageWithoutDirectoryCanBeTriedAgain() {
     test_.modals->expect(q("wizard"), isDialog<QWizard>, [this](QWidget& widget) {
         auto& wizard = static_cast<QWizard&>(widget);
-        test_.agent->inject("getPredefinedItems", Fault{kText});
+        test_.agent->inject("getPredefinedItems", Fault{faultText});
         for (int page = 0; page < 3; ++page) {
-            wishing(kWishes)(*wizard.currentPage());
+            wishing(wishes)(*wizard.currentPage());
             if (page == 2)
                 expectBox("Error");
             wizard.next();

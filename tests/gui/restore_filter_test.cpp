@@ -95,7 +95,7 @@ private:
 
 void RestoreFilterTest::init() {
     test_.start(simulator::Scenario::Default, [](World& world) { storeFiles(world); });
-    test_.driver->sets().selectRow(kRestoredRow);
+    test_.driver->sets().selectRow(restoredRow);
 }
 
 void RestoreFilterTest::atFirstPage(const support::AtPage& act) {
@@ -135,13 +135,13 @@ void RestoreFilterTest::theFormIsAsItBegins() {
         for (const char* name : {"dateFrom", "dateTo", "dateRemoved"}) {
             QVERIFY(!date(page, name).isEnabled());
             QCOMPARE(date(page, name).minimumDate(),
-                     QDateTime::fromSecsSinceEpoch(kFirstBackup).date());
+                     QDateTime::fromSecsSinceEpoch(firstBackup).date());
             QCOMPARE(date(page, name).maximumDate(),
-                     QDateTime::fromSecsSinceEpoch(kLastBackup).date());
+                     QDateTime::fromSecsSinceEpoch(lastBackup).date());
         }
-        QCOMPARE(date(page, "dateFrom").dateTime().toSecsSinceEpoch(), kFirstBackup);
-        QCOMPARE(date(page, "dateTo").dateTime().toSecsSinceEpoch(), kLastBackup);
-        QCOMPARE(date(page, "dateRemoved").dateTime().toSecsSinceEpoch(), kLastBackup);
+        QCOMPARE(date(page, "dateFrom").dateTime().toSecsSinceEpoch(), firstBackup);
+        QCOMPARE(date(page, "dateTo").dateTime().toSecsSinceEpoch(), lastBackup);
+        QCOMPARE(date(page, "dateRemoved").dateTime().toSecsSinceEpoch(), lastBackup);
         box(page, "checkFilter").click();
         QVERIFY(!child<QWidget>(page, "filterDisplay").isVisible());
     });
@@ -182,7 +182,7 @@ void RestoreFilterTest::anOldGenerationNarrowsTheFilter() {
         QVERIFY(!box(page, "checkFrom").isChecked());
         QVERIFY(box(page, "checkTo").isChecked());
         QVERIFY(date(page, "dateTo").isEnabled());
-        QCOMPARE(date(page, "dateTo").dateTime().toSecsSinceEpoch(), kMiddleBackup + 60);
+        QCOMPARE(date(page, "dateTo").dateTime().toSecsSinceEpoch(), middleBackup + 60);
         QCOMPARE(checkStateOf(page, "notes.txt"), 2);
         QCOMPARE(checkStateOf(page, "budget.ods"), 0);
         QVERIFY(!child<QPushButton>(page, "buttonGenerations").isEnabled());
@@ -198,7 +198,7 @@ void RestoreFilterTest::theNewestGenerationOfAllNarrowsItToo() {
         selectFile(page, "notes.txt");
         expectGeneration(0);
         child<QPushButton>(page, "buttonGenerations").click();
-        QCOMPARE(date(page, "dateTo").dateTime().toSecsSinceEpoch(), kLastBackup);
+        QCOMPARE(date(page, "dateTo").dateTime().toSecsSinceEpoch(), lastBackup);
         QCOMPARE(checkStateOf(page, "notes.txt"), 2);
     });
     QCOMPARE(ofSet(calls()).back(), std::string("BackupSet.prepare_restore(0, 1760000000, 0)"));
@@ -209,7 +209,7 @@ void RestoreFilterTest::aGenerationBeforeTheFilterMovesItBack() {
         box(page, "checkFilter").click();
         box(page, "checkTo").click();
         box(page, "checkFrom").click();
-        date(page, "dateFrom").setDateTime(QDateTime::fromSecsSinceEpoch(kMiddleBackup));
+        date(page, "dateFrom").setDateTime(QDateTime::fromSecsSinceEpoch(middleBackup));
         selectFile(page, "notes.txt");
         expectGeneration(2, [](QTableView& table) { QCOMPARE(table.model()->rowCount(), 3); });
         test_.agent->clearCallLog();
@@ -218,8 +218,8 @@ void RestoreFilterTest::aGenerationBeforeTheFilterMovesItBack() {
             difference(ofSet(calls()), {"BackupSet.prepare_restore(1700000060, 1700000060, 0)"}),
             QString());
         QVERIFY(box(page, "checkFrom").isChecked());
-        QCOMPARE(date(page, "dateFrom").dateTime().toSecsSinceEpoch(), kFirstBackup + 60);
-        QCOMPARE(date(page, "dateTo").dateTime().toSecsSinceEpoch(), kFirstBackup + 60);
+        QCOMPARE(date(page, "dateFrom").dateTime().toSecsSinceEpoch(), firstBackup + 60);
+        QCOMPARE(date(page, "dateTo").dateTime().toSecsSinceEpoch(), firstBackup + 60);
         QCOMPARE(checkStateOf(page, "notes.txt"), 2);
     });
 }
@@ -230,7 +230,7 @@ void RestoreFilterTest::aGenerationThatTheFilterShowsChangesNothing() {
         box(page, "checkTo").click();
         box(page, "checkFrom").click();
         // As early as it may be without moving.
-        date(page, "dateFrom").setDateTime(QDateTime::fromSecsSinceEpoch(kLastBackup));
+        date(page, "dateFrom").setDateTime(QDateTime::fromSecsSinceEpoch(lastBackup));
         selectFile(page, "notes.txt");
         expectGeneration(0);
         test_.agent->clearCallLog();
@@ -241,14 +241,14 @@ void RestoreFilterTest::aGenerationThatTheFilterShowsChangesNothing() {
 }
 
 void RestoreFilterTest::generationsBeforeTheFilterHaveNoSign() {
-    const std::vector<hessiancln::file_generations> old{{kFirstBackup, kFirstBackup, 10, 8},
-                                                        {kFirstBackup, kMiddleBackup, 15, 12}};
+    const std::vector<hessiancln::file_generations> old{{firstBackup, firstBackup, 10, 8},
+                                                        {firstBackup, middleBackup, 15, 12}};
     std::string reply("r\x01\0", 3);
     hessianser::writeValue(old, reply);
     atFirstPage([&](QWizardPage& page) {
         box(page, "checkFilter").click();
         box(page, "checkFrom").click();
-        date(page, "dateFrom").setDateTime(QDateTime::fromSecsSinceEpoch(kMiddleBackup + 60));
+        date(page, "dateFrom").setDateTime(QDateTime::fromSecsSinceEpoch(middleBackup + 60));
         selectFile(page, "notes.txt");
         expectGeneration(-1, [](QTableView& table) {
             QCOMPARE(table.model()->rowCount(), 2);

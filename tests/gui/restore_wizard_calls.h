@@ -41,14 +41,14 @@ inline Calls restoreOpened(const std::string& firstDrive = "1") {
             "BackupSet.getComputerName()"};
 }
 
-inline const Calls kRestoreOpened = restoreOpened();
+inline const Calls restoreOpenedCalls = restoreOpened();
 
 /// The wizard goes on to the page for the directory, on the set's own computer.
-inline const Calls kDirectoryWanted{
+inline const Calls directoryWanted{
     "DataSourceBrowser.getCurrentCredentials()", "BackupSetCredentials.check(\"My Computer\")",
     "BackupSet.getComputerName()", "DataSourceBrowser.getPredefinedItems(\"My Computer\")"};
 
-inline const Calls kRefreshedAfterRestore = support::callsOfRefresh(4);
+inline const Calls refreshedAfterRestore = support::callsOfRefresh(4);
 
 /// A finished wizard, when the data goes to where it came from.
 inline Calls restoredToOrigin(const std::string& ids, int reason) {

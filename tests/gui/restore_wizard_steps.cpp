@@ -24,15 +24,15 @@ QString q(const char* text) {
 }
 
 void storeFiles(simulator::World& world, const std::vector<std::string>& paths) {
-    auto& set = *world.set(kRestoredId);
-    set.sessions = {{kFirstBackup, kFirstBackup + 60, 5, 500, 1},
-                    {kMiddleBackup, kMiddleBackup + 60, 5, 500, 2},
-                    {kLastBackup - 60, kLastBackup, 5, 500, 3}};
+    auto& set = *world.set(restoredId);
+    set.sessions = {{firstBackup, firstBackup + 60, 5, 500, 1},
+                    {middleBackup, middleBackup + 60, 5, 500, 2},
+                    {lastBackup - 60, lastBackup, 5, 500, 3}};
     set.stored = std::make_shared<simulator::StoredData>();
     for (const std::string& path : paths)
-        set.stored->addFile(path, {{kFirstBackup, kFirstBackup + 60, 10, 8},
-                                   {kMiddleBackup, kMiddleBackup + 60, 15, 12},
-                                   {kLastBackup - 60, kLastBackup, 20, 16}});
+        set.stored->addFile(path, {{firstBackup, firstBackup + 60, 10, 8},
+                                   {middleBackup, middleBackup + 60, 15, 12},
+                                   {lastBackup - 60, lastBackup, 20, 16}});
 }
 
 void storeFiles(simulator::World& world) {

@@ -23,11 +23,11 @@ class World;
 /// What a user does in the wizard that restores, on the agent's fourth set.
 namespace gui {
 
-inline constexpr int kRestoredRow = 3;
-inline constexpr std::int32_t kRestoredId = 4;
-inline constexpr std::int32_t kFirstBackup = 1'700'000'000;
-inline constexpr std::int32_t kMiddleBackup = 1'730'000'000;
-inline constexpr std::int32_t kLastBackup = 1'760'000'000;
+inline constexpr int restoredRow = 3;
+inline constexpr std::int32_t restoredId = 4;
+inline constexpr std::int32_t firstBackup = 1'700'000'000;
+inline constexpr std::int32_t middleBackup = 1'730'000'000;
+inline constexpr std::int32_t lastBackup = 1'760'000'000;
 
 QString q(const char* text);
 

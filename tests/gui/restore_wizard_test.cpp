@@ -34,21 +34,21 @@ using support::isDialog;
 
 namespace {
 
-const char kDirectory[] = "C:\\Users";
+const char otherDirectory[] = "C:\\Users";
 
 /// What the page for the source asks when another computer was typed.
-const Calls kComputerTyped{"DataSourceBrowser.expandToFullPath(\"FILESRV\")",
-                           "DataSourceBrowser.getCurrentCredentials()",
-                           "BackupSetCredentials.types()",
-                           "BackupSetCredentials.types()",
-                           "Win32FS_Generic_BackupSetCredentials.getUserName()",
-                           "DataSourceBrowser.setCurrentCredentials(BackupSetCredentials(guest))"};
-const Calls kLoginGiven{"DataSourceBrowser.getCurrentCredentials()",
-                        "BackupSetCredentials.types()",
-                        "BackupSetCredentials.types()",
-                        "Win32FS_Generic_BackupSetCredentials.getUserName()",
-                        "Win32FS_Generic_BackupSetCredentials.setCredentials(\"anna\", ***)",
-                        "DataSourceBrowser.setCurrentCredentials(BackupSetCredentials(anna))"};
+const Calls computerTyped{"DataSourceBrowser.expandToFullPath(\"FILESRV\")",
+                          "DataSourceBrowser.getCurrentCredentials()",
+                          "BackupSetCredentials.types()",
+                          "BackupSetCredentials.types()",
+                          "Win32FS_Generic_BackupSetCredentials.getUserName()",
+                          "DataSourceBrowser.setCurrentCredentials(BackupSetCredentials(guest))"};
+const Calls loginGiven{"DataSourceBrowser.getCurrentCredentials()",
+                       "BackupSetCredentials.types()",
+                       "BackupSetCredentials.types()",
+                       "Win32FS_Generic_BackupSetCredentials.getUserName()",
+                       "Win32FS_Generic_BackupSetCredentials.setCredentials(\"anna\", ***)",
+                       "DataSourceBrowser.setCurrentCredentials(BackupSetCredentials(anna))"};
 
 QWizardPage& pageOf(QWidget& wizard) {
     return *static_cast<QWizard&>(wizard).currentPage();
@@ -109,7 +109,7 @@ void RestoreWizardTest::startWith(const std::function<void(World&)>& change) {
         test_.end();
     name_.clear();
     test_.start(simulator::Scenario::Default, change);
-    test_.driver->sets().selectRow(kRestoredRow);
+    test_.driver->sets().selectRow(restoredRow);
 }
 
 void RestoreWizardTest::restore(const RestoreWishes& wishes) {
@@ -131,13 +131,13 @@ void RestoreWizardTest::theWizardIsFramed() {
         wizard.reject();
     });
     test_.run("OnRestore");
-    QCOMPARE(difference(calls(), kRestoreOpened), QString());
+    QCOMPARE(difference(calls(), restoreOpenedCalls), QString());
 }
 
 void RestoreWizardTest::toTheOriginalPlace() {
     restore({.checked = {"C:/docs"}, .reason = 5});
     QCOMPARE(
-        difference(calls(), kRestoreOpened + restoredToOrigin("3", 11) + kRefreshedAfterRestore),
+        difference(calls(), restoreOpenedCalls + restoredToOrigin("3", 11) + refreshedAfterRestore),
         QString());
     QCOMPARE(test_.driver->rows("tableCurrentActivities"), 2);
 }
@@ -152,7 +152,7 @@ void RestoreWizardTest::aFileToTheOriginalPlace() {
     });
     test_.run("OnRestore");
     QCOMPARE(
-        difference(calls(), kRestoreOpened + restoredToOrigin("4", 3) + kRefreshedAfterRestore),
+        difference(calls(), restoreOpenedCalls + restoredToOrigin("4", 3) + refreshedAfterRestore),
         QString());
 }
 
@@ -160,12 +160,12 @@ void RestoreWizardTest::toAnotherDirectory() {
     restore({.checked = {"C:/docs/2024"},
              .location = "radioAlternateDir",
              .reason = 2,
-             .directory = kDirectory});
+             .directory = otherDirectory});
     const std::string mapping =
         R"({source_share="C:", destination_path="C:\\Users/NAME/", truncate_level=1})";
-    QCOMPARE(difference(calls(), kRestoreOpened + Calls{"BackupSetRestoreView.getSubItems(3)"} +
-                                     kDirectoryWanted + restoredToDirectory("6", 1, mapping, 1) +
-                                     kRefreshedAfterRestore),
+    QCOMPARE(difference(calls(), restoreOpenedCalls + Calls{"BackupSetRestoreView.getSubItems(3)"} +
+                                     directoryWanted + restoredToDirectory("6", 1, mapping, 1) +
+                                     refreshedAfterRestore),
              QString());
     QVERIFY2(QRegularExpression(q("^restore_\\d{4}_[^_]+_\\d\\d_\\d\\d-\\d\\d-\\d\\d$"))
                  .match(name_)
@@ -175,16 +175,17 @@ void RestoreWizardTest::toAnotherDirectory() {
 
 void RestoreWizardTest::threeSharesWhoseNamesCollide() {
     startWith([](World& world) { storeFiles(world, {"C:\\a.txt", "C\\b.txt", "C*\\c.txt"}); });
-    restore(
-        {.checked = {"C:", "C", "C*"}, .location = "radioAlternateDir", .directory = kDirectory});
+    restore({.checked = {"C:", "C", "C*"},
+             .location = "radioAlternateDir",
+             .directory = otherDirectory});
     const std::string mappings =
         R"({source_share="C:", destination_path="C:\\Users/NAME/\\C", truncate_level=0}, )"
         R"({source_share="C", destination_path="C:\\Users/NAME/\\C_0001", truncate_level=0}, )"
         R"({source_share="C*", destination_path="C:\\Users/NAME/\\C_0001_0002", truncate_level=0})";
     // They are sorted by name, and numbered as they are stored.
-    QCOMPARE(difference(calls(), restoreOpened("2") + kDirectoryWanted +
+    QCOMPARE(difference(calls(), restoreOpened("2") + directoryWanted +
                                      restoredToDirectory("2, 3, 1", 3, mappings, 0) +
-                                     kRefreshedAfterRestore),
+                                     refreshedAfterRestore),
              QString());
 }
 
@@ -223,8 +224,8 @@ void RestoreWizardTest::toAnotherComputerWithOtherCredentials() {
                          "RestoreActivityInitiator.start(DataSourceBrowser, " + computer +
                              R"(, [{source_share="D:", destination_path="Shares\\Sales/NAME/", )" +
                              "truncate_level=0}], 0)"};
-    QCOMPARE(difference(calls(), kRestoreOpened + kComputerTyped + kLoginGiven + wanted + restored +
-                                     kRefreshedAfterRestore),
+    QCOMPARE(difference(calls(), restoreOpenedCalls + computerTyped + loginGiven + wanted +
+                                     restored + refreshedAfterRestore),
              QString());
 }
 
@@ -267,8 +268,8 @@ void RestoreWizardTest::goingBackToTheOriginalPlace() {
         press(wizard, QWizard::FinishButton);
     });
     test_.run("OnRestore");
-    QCOMPARE(difference(calls(), kRestoreOpened + kDirectoryWanted + restoredToOrigin("2", 3) +
-                                     kRefreshedAfterRestore),
+    QCOMPARE(difference(calls(), restoreOpenedCalls + directoryWanted + restoredToOrigin("2", 3) +
+                                     refreshedAfterRestore),
              QString());
 }
 
@@ -290,7 +291,7 @@ void RestoreWizardTest::withoutAReasonThePageIsNotLeft() {
     });
     test_.run("OnRestore");
     QCOMPARE(
-        difference(calls(), kRestoreOpened + restoredToOrigin("2", 4) + kRefreshedAfterRestore),
+        difference(calls(), restoreOpenedCalls + restoredToOrigin("2", 4) + refreshedAfterRestore),
         QString());
 }
 
@@ -305,7 +306,7 @@ void RestoreWizardTest::theKeyboardIsAtTheCredentials() {
         static_cast<QWizard&>(wizard).reject();
     });
     test_.run("OnRestore");
-    QCOMPARE(difference(calls(), kRestoreOpened), QString());
+    QCOMPARE(difference(calls(), restoreOpenedCalls), QString());
 }
 
 /// A wizard's head has room for two lines.
@@ -336,7 +337,7 @@ void RestoreWizardTest::cancelling_data() {
     QTest::newRow("items") << 0 << Calls{};
     QTest::newRow("location") << 1 << Calls{};
     QTest::newRow("credentials") << 2 << Calls{};
-    QTest::newRow("directory") << 3 << kDirectoryWanted;
+    QTest::newRow("directory") << 3 << directoryWanted;
 }
 
 void RestoreWizardTest::cancelling() {
@@ -347,27 +348,27 @@ void RestoreWizardTest::cancelling() {
                               wishing({.checked = {"D:"}, .location = "radioAlternateDir"}));
     });
     test_.run("OnRestore");
-    QCOMPARE(difference(calls(), kRestoreOpened + asked), QString());
+    QCOMPARE(difference(calls(), restoreOpenedCalls + asked), QString());
 }
 
 void RestoreWizardTest::aGroupThatFailsEndsTheRestore() {
     startWith([](World& world) {
         storeFiles(world);
-        auto& group = world.set(kRestoredId)->stored->addFolder("Group");
+        auto& group = world.set(restoredId)->stored->addFolder("Group");
         group.isGroup = true;
         group.denied = "Keep out.";
     });
     test_.expectWizard(wishing({.checked = {"Group"}}));
     test_.modals->expectErrorBox(q("Error"), q("Keep out."));
     test_.run("OnRestore");
-    QCOMPARE(difference(calls(), kRestoreOpened + Calls{"BackupSetRestoreView.getSubItems(0)"}),
+    QCOMPARE(difference(calls(), restoreOpenedCalls + Calls{"BackupSetRestoreView.getSubItems(0)"}),
              QString());
 }
 
 void RestoreWizardTest::aGroupThatHoldsNothingRestoresNothing() {
     startWith([](World& world) {
         storeFiles(world, {"C:\\a.txt", "Group\\Team\\c.txt"});
-        world.set(kRestoredId)->stored->addFolder("Group").isGroup = true;
+        world.set(restoredId)->stored->addFolder("Group").isGroup = true;
     });
     test_.expectWizard([this](QWizardPage& page) {
         wishing({.checked = {"Group"}})(page);
@@ -375,13 +376,13 @@ void RestoreWizardTest::aGroupThatHoldsNothingRestoresNothing() {
             test_.agent->inject("getSubItems", support::emptyList());
     });
     test_.run("OnRestore");
-    QCOMPARE(difference(calls(), kRestoreOpened + Calls{"BackupSetRestoreView.getSubItems(0)"} +
-                                     kRefreshedAfterRestore),
+    QCOMPARE(difference(calls(), restoreOpenedCalls + Calls{"BackupSetRestoreView.getSubItems(0)"} +
+                                     refreshedAfterRestore),
              QString());
 }
 
 void RestoreWizardTest::aSetWithoutDataHasNoWizard() {
-    startWith([](World& world) { world.set(kRestoredId)->info.online_file_count = 0; });
+    startWith([](World& world) { world.set(restoredId)->info.online_file_count = 0; });
     test_.modals->expect(q("box"), isDialog<QMessageBox>, [this](QWidget& widget) {
         auto& info = static_cast<QMessageBox&>(widget);
         QCOMPARE(info.windowTitle(), q("No data backed up"));
@@ -399,7 +400,7 @@ void RestoreWizardTest::aSetWithoutDataHasNoWizard() {
 void RestoreWizardTest::aHeartbeatUnderTheWizardDoesntDisturbIt() {
     int pages = 0;
     test_.expectWizard([&](QWizardPage& page) {
-        wishing({.checked = {"D:"}, .location = "radioAlternateDir", .directory = kDirectory})(
+        wishing({.checked = {"D:"}, .location = "radioAlternateDir", .directory = otherDirectory})(
             page);
         const QWidget* focus = QApplication::focusWidget();
         test_.quiet->letPass = true;

@@ -86,9 +86,8 @@ std::string ourFolder(const std::string& target) {
 
 TEST(Layout, EveryFolderIsInTheTable) {
     for (const auto& entry : fs::directory_iterator(root / "src"))
-        if (entry.is_directory()) {
+        if (entry.is_directory())
             EXPECT_TRUE(allowed.count(entry.path().filename().string())) << entry.path();
-        }
 }
 
 TEST(Layout, NoFolderIncludesOneAboveIt) {

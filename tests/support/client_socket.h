@@ -23,9 +23,8 @@ inline std::vector<int> clientSockets(std::uint16_t port) {
         sockaddr_in peer{};
         socklen_t size = sizeof peer;
         if (::getpeername(descriptor, reinterpret_cast<sockaddr*>(&peer), &size) == 0 &&
-            peer.sin_family == AF_INET && ntohs(peer.sin_port) == port) {
+            peer.sin_family == AF_INET && ntohs(peer.sin_port) == port)
             found.push_back(descriptor);
-        }
     }
     return found;
 }

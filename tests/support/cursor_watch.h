@@ -29,6 +29,6 @@ private:
 };
 
 /// What it sees of an action that the user has to wait for.
-inline const QVector<Qt::CursorShape> kWaited{Qt::WaitCursor, Qt::ArrowCursor};
+inline const QVector<Qt::CursorShape> waited{Qt::WaitCursor, Qt::ArrowCursor};
 
 } // namespace support

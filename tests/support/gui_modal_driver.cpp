@@ -16,7 +16,7 @@ namespace support {
 
 namespace {
 
-constexpr int kInterval = 5;
+constexpr int interval = 5;
 
 void fail(const QString& text) {
     QTest::qFail(qPrintable(text), __FILE__, __LINE__);
@@ -67,7 +67,7 @@ void ModalDriver::expectErrorBox(const QString& title, const QString& text) {
 // One shot after the other: a timer doesn't fire again while its slot runs, and a step may open
 // the next dialog.
 void ModalDriver::lookSoon() {
-    QTimer::singleShot(kInterval, &context_, [this] { look(); });
+    QTimer::singleShot(interval, &context_, [this] { look(); });
 }
 
 void ModalDriver::look() {

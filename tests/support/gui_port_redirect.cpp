@@ -16,7 +16,7 @@
 
 namespace {
 
-constexpr std::uint16_t kLocalAgentPort = 4411;
+constexpr std::uint16_t localAgentPort = 4411;
 
 std::uint16_t portOfEnvironment() {
     const char* text = std::getenv("TARN_TEST_AGENT_PORT");
@@ -30,7 +30,7 @@ bool isLocalAgent(const sockaddr* address, socklen_t length) {
         return false;
     sockaddr_in in;
     std::memcpy(&in, address, sizeof in);
-    return in.sin_addr.s_addr == htonl(INADDR_LOOPBACK) && in.sin_port == htons(kLocalAgentPort);
+    return in.sin_addr.s_addr == htonl(INADDR_LOOPBACK) && in.sin_port == htons(localAgentPort);
 }
 
 } // namespace

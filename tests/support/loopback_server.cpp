@@ -39,9 +39,8 @@ constexpr std::array<std::uint32_t, 256> crcTable = [] {
     std::array<std::uint32_t, 256> table{};
     for (std::uint32_t byte = 0; byte < 256; ++byte) {
         std::uint32_t crc = byte;
-        for (int bit = 0; bit < 8; ++bit) {
+        for (int bit = 0; bit < 8; ++bit)
             crc = (crc >> 1) ^ ((crc & 1) != 0 ? 0xEDB88320 : 0);
-        }
         table[byte] = crc;
     }
     return table;
@@ -49,25 +48,22 @@ constexpr std::array<std::uint32_t, 256> crcTable = [] {
 
 std::uint32_t crc32(std::string_view bytes) {
     std::uint32_t crc = 0xFFFFFFFF;
-    for (const char c : bytes) {
+    for (const char c : bytes)
         crc = (crc >> 8) ^ crcTable[(crc ^ static_cast<unsigned char>(c)) & 0xFF];
-    }
     return ~crc;
 }
 
 std::string bigEndian(std::uint64_t number, int size) {
     std::string bytes;
-    for (int shift = 8 * (size - 1); shift >= 0; shift -= 8) {
+    for (int shift = 8 * (size - 1); shift >= 0; shift -= 8)
         bytes += static_cast<char>(number >> shift);
-    }
     return bytes;
 }
 
 std::uint64_t number(std::string_view bytes) {
     std::uint64_t value = 0;
-    for (const char c : bytes) {
+    for (const char c : bytes)
         value = value << 8 | static_cast<unsigned char>(c);
-    }
     return value;
 }
 
@@ -105,9 +101,8 @@ int listenOnLoopback(std::uint16_t& port) {
     socklen_t size = sizeof address;
     auto* any = reinterpret_cast<sockaddr*>(&address);
     if (listener < 0 || ::bind(listener, any, size) != 0 || ::listen(listener, 64) != 0 ||
-        ::getsockname(listener, any, &size) != 0) {
+        ::getsockname(listener, any, &size) != 0)
         throw std::system_error(errno, std::generic_category(), "no listener");
-    }
     port = ntohs(address.sin_port);
     return listener;
 }
@@ -139,9 +134,8 @@ Peer& Peer::open() {
     if (context_) {
         tls_ = SSL_new(context_);
         SSL_set_fd(tls_, socket_);
-        if (SSL_accept(tls_) != 1) {
+        if (SSL_accept(tls_) != 1)
             fail("the handshake failed");
-        }
     }
     return *this;
 }
@@ -149,24 +143,21 @@ Peer& Peer::open() {
 std::size_t Peer::receiveSome(char* buffer, std::size_t size) {
     if (!tls_) {
         const ssize_t got = ::recv(socket_, buffer, size, 0);
-        if (got < 0 && errno != ECONNRESET) {
+        if (got < 0 && errno != ECONNRESET)
             fail(std::string("nothing received: ") + std::strerror(errno));
-        }
         return static_cast<std::size_t>(std::max<ssize_t>(got, 0));
     }
     std::size_t got = 0;
-    if (SSL_read_ex(tls_, buffer, size, &got) == 1) {
+    if (SSL_read_ex(tls_, buffer, size, &got) == 1)
         return got;
-    }
     // This client never says goodbye, so the end of the socket is the end of the stream.
     const int cause = SSL_get_error(tls_, 0);
     const bool end = cause == SSL_ERROR_ZERO_RETURN ||
                      (cause == SSL_ERROR_SYSCALL && errno == ECONNRESET) ||
                      ERR_GET_REASON(ERR_peek_error()) == SSL_R_UNEXPECTED_EOF_WHILE_READING;
     ERR_clear_error();
-    if (!end) {
+    if (!end)
         fail("nothing received on TLS");
-    }
     return 0;
 }
 
@@ -174,9 +165,8 @@ std::string Peer::receive(std::size_t size) {
     std::string bytes(size, '\0');
     for (std::size_t held = 0; held < size;) {
         const std::size_t got = receiveSome(bytes.data() + held, size - held);
-        if (got == 0) {
+        if (got == 0)
             fail("closed after " + std::to_string(held) + " of " + std::to_string(size) + " bytes");
-        }
         held += got;
     }
     return bytes;
@@ -184,42 +174,37 @@ std::string Peer::receive(std::size_t size) {
 
 std::string Peer::receiveUntil(std::string_view end) {
     std::string bytes;
-    while (!bytes.ends_with(end)) {
+    while (!bytes.ends_with(end))
         bytes += receive(1);
-    }
     return bytes;
 }
 
 Peer& Peer::expect(std::string_view bytes) {
     const std::string got = receive(bytes.size());
-    if (got != bytes) {
+    if (got != bytes)
         fail("expected " + printable(bytes) + "\n     but got " + printable(got));
-    }
     return *this;
 }
 
 RequestFrame Peer::receiveFrame() {
     const std::string start = receive(12);
-    if (!start.starts_with("@REQ")) {
+    if (!start.starts_with("@REQ"))
         fail("not a request frame: " + printable(start));
-    }
     RequestFrame frame;
     frame.id = static_cast<std::uint32_t>(number(start.substr(4, 4)));
     frame.url = receive(number(start.substr(8)));
     const std::string length = receive(8);
     frame.message = receive(number(length));
     const std::string covered = start.substr(4) + frame.url + length + frame.message;
-    if (number(receive(4)) != crc32(covered)) {
+    if (number(receive(4)) != crc32(covered))
         fail("the checksum of a request is wrong");
-    }
     return frame;
 }
 
 Peer& Peer::expectClose() {
     char byte = 0;
-    if (receiveSome(&byte, 1) != 0) {
+    if (receiveSome(&byte, 1) != 0)
         fail("bytes where the end was expected");
-    }
     return *this;
 }
 
@@ -234,14 +219,12 @@ Peer& Peer::send(std::string_view bytes) {
     while (!bytes.empty()) {
         std::size_t sent = 0;
         if (tls_) {
-            if (SSL_write_ex(tls_, bytes.data(), bytes.size(), &sent) != 1) {
+            if (SSL_write_ex(tls_, bytes.data(), bytes.size(), &sent) != 1)
                 fail("nothing sent on TLS");
-            }
         } else {
             const ssize_t got = ::send(socket_, bytes.data(), bytes.size(), MSG_NOSIGNAL);
-            if (got < 0) {
+            if (got < 0)
                 fail(std::string("nothing sent: ") + std::strerror(errno));
-            }
             sent = static_cast<std::size_t>(got);
         }
         bytes.remove_prefix(sent);
@@ -250,9 +233,8 @@ Peer& Peer::send(std::string_view bytes) {
 }
 
 Peer& Peer::sendByteByByte(std::string_view bytes) {
-    for (std::size_t i = 0; i < bytes.size(); ++i) {
+    for (std::size_t i = 0; i < bytes.size(); ++i)
         send(bytes.substr(i, 1));
-    }
     return *this;
 }
 
@@ -261,9 +243,8 @@ void Peer::close() {
 }
 
 void Peer::closePolitely() {
-    if (tls_) {
+    if (tls_)
         SSL_shutdown(tls_);
-    }
     close();
 }
 
@@ -317,18 +298,15 @@ void LoopbackServer::tolerateFailures() {
 void LoopbackServer::stop() {
     {
         const std::lock_guard lock(mutex_);
-        if (std::exchange(stopping_, true)) {
+        if (std::exchange(stopping_, true))
             return;
-        }
-        for (const Connection& connection : connections_) {
+        for (const Connection& connection : connections_)
             connection.peer->interrupt();
-        }
     }
     ::shutdown(listener_, SHUT_RDWR);
     acceptor_.join();
-    for (Connection& connection : connections_) {
+    for (Connection& connection : connections_)
         connection.thread.join();
-    }
     connections_.clear();
     ::close(listener_);
 }
@@ -338,9 +316,8 @@ void LoopbackServer::acceptAll() {
         const int socket = ::accept4(listener_, nullptr, nullptr, SOCK_CLOEXEC);
         const std::lock_guard lock(mutex_);
         if (socket < 0 || stopping_) {
-            if (socket >= 0) {
+            if (socket >= 0)
                 ::close(socket);
-            }
             return;
         }
         const Script& script = scripts_[std::min(connections_.size(), scripts_.size() - 1)];
@@ -367,9 +344,8 @@ void LoopbackServer::play(Peer& peer, const Script& script) {
     }
     peer.close();
     const std::lock_guard lock(mutex_);
-    if (!failure.empty() && !stopping_ && !tolerant_) {
+    if (!failure.empty() && !stopping_ && !tolerant_)
         ADD_FAILURE() << failure;
-    }
     ++ended_;
     changed_.notify_all();
 }

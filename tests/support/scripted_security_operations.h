@@ -47,17 +47,15 @@ public:
 
     platform::SecurityStatus queryMaxTokenSize(std::uint32_t& size) override {
         operations.emplace_back("query");
-        if (queryStatus >= 0) {
+        if (queryStatus >= 0)
             size = maxTokenSize;
-        }
         return queryStatus;
     }
 
     platform::SecurityStatus acquireCredentials(platform::SecurityHandle& credentials) override {
         operations.emplace_back("acquire");
-        if (acquireStatus >= 0) {
+        if (acquireStatus >= 0)
             credentials.lower = 1;
-        }
         return acquireStatus;
     }
 
@@ -69,9 +67,8 @@ public:
         asked.push_back(
             {targetName, context.held(), Bytes(input.begin(), input.end()), output.size()});
         const Round round = rounds.empty() ? Round{roundsUsedUp, {}, 0} : rounds.front();
-        if (!rounds.empty()) {
+        if (!rounds.empty())
             rounds.pop_front();
-        }
         context.lower = 2;
         std::copy_n(round.token.begin(), std::min(round.token.size(), output.size()),
                     output.begin());

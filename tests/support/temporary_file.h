@@ -40,9 +40,8 @@ public:
     std::vector<std::string> lines() const {
         std::vector<std::string> lines;
         std::ifstream in(path_);
-        for (std::string line; std::getline(in, line);) {
+        for (std::string line; std::getline(in, line);)
             lines.push_back(line);
-        }
         return lines;
     }
 

@@ -14,7 +14,7 @@ namespace tour {
 
 namespace {
 
-constexpr int kTimeToRest = 150;
+constexpr int timeToRest = 150;
 
 bool shows(const QWidget& widget, const char* className) {
     if (widget.inherits(className))
@@ -67,7 +67,7 @@ void Album::take(QWidget& shown, const char* screen) {
         defects_ << name + QStringLiteral(": ") + defect;
     // What comes late has come then, and is on the picture.
     if (folder_)
-        QTest::qWait(kTimeToRest);
+        QTest::qWait(timeToRest);
     const QPixmap picture = shown.grab();
     if (picture.isNull())
         qFatal("%s has no picture", screen);

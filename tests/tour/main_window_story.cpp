@@ -29,9 +29,9 @@ using simulator::Scenario;
 using simulator::World;
 
 // Rows of the default agent's sets.
-constexpr int kDocuments = 0;
-constexpr int kPictures = 1;
-constexpr int kEmptySet = 6;
+constexpr int documents = 0;
+constexpr int picturesExpression = 1;
+constexpr int emptySet = 6;
 
 void takeLogin(Album& album) {
     {
@@ -72,7 +72,7 @@ void takeMenus(Photographer& photographer) {
 
     QContextMenuEvent event(QContextMenuEvent::Mouse, {3, 4},
                             photographer.window().mapToGlobal({40, 160}));
-    QCoreApplication::sendEvent(&photographer.driver().card(kDocuments), &event);
+    QCoreApplication::sendEvent(&photographer.driver().card(documents), &event);
     auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     if (!menu)
         qFatal("A card has no menu");
@@ -102,8 +102,8 @@ void takeCards(Photographer& photographer) {
     photographer.driver().sets().scrollToBottom();
     photographer.take(photographer.window(), "cards");
 
-    BackupSetViewItem& card = photographer.driver().card(kDocuments);
-    photographer.selectSet(kDocuments);
+    BackupSetViewItem& card = photographer.driver().card(documents);
+    photographer.selectSet(documents);
     photographer.driver().sets().scrollToTop();
     const QPoint name = child<QLabel>(card, "labelSetName").geometry().center();
     QMouseEvent twice(QEvent::MouseButtonDblClick, name, Qt::LeftButton, Qt::LeftButton,
@@ -132,7 +132,7 @@ void takeFailures(Photographer& photographer, const QString& refusal) {
     photographer.run("OnDelete", "box-no-set");
     photographer.refuse("getLastActivityOfType");
     photographer.expect("box-details");
-    photographer.selectSet(kPictures);
+    photographer.selectSet(picturesExpression);
     photographer.end();
     photographer.refuse("start_sync");
     photographer.run("OnSync", "box-error");
@@ -148,10 +148,10 @@ void takeFailures(Photographer& photographer, const QString& refusal) {
     photographer.refuse("getDataType");
     photographer.run("on_btnItems_clicked", "box-edit-items");
     photographer.agent().withWorld([](World& world) {
-        world.sets()[kPictures]->info.data_type = hessiancln::BackupDataType::MSSQLServer;
+        world.sets()[picturesExpression]->info.data_type = hessiancln::BackupDataType::MSSQLServer;
     });
     photographer.run("on_btnItems_clicked", "box-kind-of-set");
-    photographer.selectSet(kEmptySet);
+    photographer.selectSet(emptySet);
     photographer.run("OnDelete", "delete-question");
 }
 
@@ -180,7 +180,7 @@ void takeMainWindow(Album& album) {
     {
         Photographer photographer(album, {.scenario = Scenario::Central});
         photographer.logIn();
-        photographer.selectSet(kDocuments);
+        photographer.selectSet(documents);
         photographer.take(photographer.window(), "main-window-central");
     }
     Photographer photographer(album);
@@ -188,7 +188,7 @@ void takeMainWindow(Album& album) {
     photographer.take(photographer.window(), "main-window-sets");
     photographer.run("on_action_About_triggered", "about");
     photographer.letPass(std::chrono::minutes(6));
-    photographer.selectSet(kDocuments);
+    photographer.selectSet(documents);
     takeMenus(photographer);
     photographer.run("OnBackupNow");
     photographer.letPass(std::chrono::seconds(45));

@@ -15,12 +15,12 @@ namespace tour {
 
 namespace {
 
-constexpr char kPassword[] = "correct horse";
+constexpr char rightPassword[] = "correct horse";
 
 simulator::Options ahead(simulator::Options options,
                          const std::shared_ptr<std::atomic<simulator::Milliseconds>>& by) {
     options.user = "anna";
-    options.password = kPassword;
+    options.password = rightPassword;
     options.clock = [by, clock = simulator::systemClock()] { return clock() + *by; };
     return options;
 }
@@ -40,7 +40,7 @@ Photographer::Photographer(Album& album, simulator::Options options,
 void Photographer::expectLogin() {
     expect<LoginCheck>([](LoginCheck& login) {
         type(login, "lineEditUserName", "anna");
-        type(login, "lineEditPassword", kPassword);
+        type(login, "lineEditPassword", rightPassword);
         click(login, "buttonLogin");
     });
 }

@@ -18,12 +18,12 @@
 
 namespace {
 
-constexpr char kTitles[] = "titles";
+constexpr char titlesFile[] = "titles";
 
 using Titles = QMap<QString, QString>;
 
 void writeTitles(const QDir& folder, const Titles& titles) {
-    QFile file(folder.filePath(QLatin1String(kTitles)));
+    QFile file(folder.filePath(QLatin1String(titlesFile)));
     if (!file.open(QIODevice::WriteOnly))
         qFatal("Can't write %s", qPrintable(file.fileName()));
     QDataStream stream(&file);
@@ -31,7 +31,7 @@ void writeTitles(const QDir& folder, const Titles& titles) {
 }
 
 Titles readTitles(const QDir& folder) {
-    QFile file(folder.filePath(QLatin1String(kTitles)));
+    QFile file(folder.filePath(QLatin1String(titlesFile)));
     if (!file.open(QIODevice::ReadOnly))
         qFatal("Can't read %s", qPrintable(file.fileName()));
     Titles titles;

@@ -22,9 +22,9 @@ using simulator::Scenario;
 using simulator::World;
 
 // Rows of the default agent's sets.
-constexpr int kPicturesAndVideos = 1;
-constexpr int kProjects = 3;
-constexpr int kEmptySet = 6;
+constexpr int picturesAndVideos = 1;
+constexpr int projects = 3;
+constexpr int emptySet = 6;
 
 void takeSource(Photographer& photographer, QWizard& wizard) {
     photographer.take(wizard, "new-set-source");
@@ -111,7 +111,7 @@ void takeNewSet(Photographer& photographer) {
 }
 
 void takeEditWizards(Photographer& photographer) {
-    photographer.selectSet(kPicturesAndVideos);
+    photographer.selectSet(picturesAndVideos);
     photographer.expect<QWizard>([&](QWizard& wizard) {
         photographer.take(wizard, "edit-source");
         next(wizard);
@@ -124,13 +124,13 @@ void takeEditWizards(Photographer& photographer) {
     photographer.expect("box-login-of-set");
     photographer.expect<QWizard>([](QWizard&) {});
     photographer.run("on_btnItems_clicked");
-    photographer.selectSet(kProjects);
+    photographer.selectSet(projects);
     photographer.run("on_btnSchedule_clicked", "edit-schedule");
     photographer.run("on_btnRetention_clicked", "edit-retention");
 }
 
 void takeDelete(Photographer& photographer) {
-    photographer.selectSet(kProjects);
+    photographer.selectSet(projects);
     photographer.expect<QWizard>([&](QWizard& wizard) {
         auto& tree = child<QTreeView>(wizard, "treeSelection");
         tree.setCurrentIndex(openFirstRows(tree, 4));
@@ -170,7 +170,7 @@ void takeDestination(Photographer& photographer, QWizard& wizard) {
 }
 
 void takeRestore(Photographer& photographer) {
-    photographer.selectSet(kProjects);
+    photographer.selectSet(projects);
     photographer.expect<QWizard>([&](QWizard& wizard) {
         auto& tree = child<QTreeView>(wizard, "treeSelection");
         tree.setCurrentIndex(openFirstRows(tree, 4));
@@ -191,7 +191,7 @@ void takeRestore(Photographer& photographer) {
         takeDestination(photographer, wizard);
     });
     photographer.run("OnRestore");
-    photographer.selectSet(kEmptySet);
+    photographer.selectSet(emptySet);
     photographer.run("OnRestore", "box-no-data");
 }
 

@@ -94,9 +94,8 @@ TEST_P(Http, AUrlWithoutPathGoesToTheRoot) {
 TEST_P(Http, EachCallHasAConnectionOfItsOwn) {
     LoopbackServer server(GetParam(), answer(okStart + "Content-Length: 4\r\n\r\npong"));
     CHttpCallDispatcher dispatcher(0, "");
-    for (int i = 0; i < 3; ++i) {
+    for (int i = 0; i < 3; ++i)
         EXPECT_EQ(dispatcher.sendRequest(server.url(), "ping"), "pong");
-    }
     EXPECT_EQ(server.connections(), 3u);
 }
 
@@ -134,9 +133,8 @@ TEST_P(Http, CarriesLargeBodiesBothWays) {
 
 TEST_P(Http, CarriesEveryByteValue) {
     std::string all;
-    for (int byte = 0; byte < 256; ++byte) {
+    for (int byte = 0; byte < 256; ++byte)
         all += static_cast<char>(byte);
-    }
     LoopbackServer server(GetParam(), [&](Peer& peer) {
         peer.open().receiveUntil("\r\n\r\n");
         peer.expect(all).send(okStart + "Content-Length: 256\r\n\r\n" + all);
@@ -244,14 +242,12 @@ TEST_P(Http, ManyThreadsMaySendAtOnce) {
     std::vector<std::thread> threads;
     for (int i = 0; i < 8; ++i) {
         threads.emplace_back([&, request = "req" + std::to_string(i)] {
-            for (int call = 0; call < 5; ++call) {
+            for (int call = 0; call < 5; ++call)
                 EXPECT_EQ(dispatcher.sendRequest(server.url(), request), request);
-            }
         });
     }
-    for (std::thread& thread : threads) {
+    for (std::thread& thread : threads)
         thread.join();
-    }
     EXPECT_EQ(server.connections(), 40u);
 }
 
@@ -277,9 +273,8 @@ TEST_P(Http, ASmallRequestLeavesAtOnce) {
     std::vector<bool> noDelay;
     LoopbackServer server(GetParam(), [&](Peer& peer) {
         peer.open().receiveUntil("ping");
-        for (const int socket : support::clientSockets(server.port())) {
+        for (const int socket : support::clientSockets(server.port()))
             noDelay.push_back(support::hasNoDelay(socket));
-        }
         peer.send(okStart + "Content-Length: 4\r\n\r\npong");
     });
     CHttpCallDispatcher dispatcher(0, "");
@@ -302,9 +297,8 @@ TEST_P(Http, AWorkerNeverFindsAHalfDestroyedDispatcher) {
         used.asyncSendRequest(
             server.url(), "ping",
             [&](const std::string&) {
-                if (++taken == 4) {
+                if (++taken == 4)
                     allTaken.raise();
-                }
                 EXPECT_TRUE(stopping.wait());
                 const std::lock_guard lock(mutex);
                 seen.insert(typeid(used));
@@ -312,9 +306,8 @@ TEST_P(Http, AWorkerNeverFindsAHalfDestroyedDispatcher) {
             [](const std::string& text) { ADD_FAILURE() << text; });
     }
     ASSERT_TRUE(allTaken.wait());
-    for (int i = 0; i < 16; ++i) {
+    for (int i = 0; i < 16; ++i)
         used.asyncSendRequest(server.url(), "ping", ignore, ignore);
-    }
     // The queue is full, so this call returns only once the destructor has stopped the dispatcher.
     std::thread late([&] { used.asyncSendRequest(server.url(), "ping", ignore, ignore); });
     std::thread destroyer([&] { dispatcher.reset(); });

@@ -33,16 +33,13 @@ public:
         {
             const std::lock_guard lock(mutex_);
             threads_.insert(std::this_thread::get_id());
-            if (++taken_ == 4) {
+            if (++taken_ == 4)
                 allBusy.raise();
-            }
         }
-        if (!gate.wait()) {
+        if (!gate.wait())
             throw std::runtime_error("the gate stayed closed");
-        }
-        if (request == "fail") {
+        if (request == "fail")
             throw hessiancln::invoke_exception() << "no answer from " << url;
-        }
         return request;
     }
 
@@ -67,9 +64,8 @@ public:
         return [this, kind](const std::string& text) {
             const std::lock_guard lock(mutex_);
             outcomes_.push_back(kind + text);
-            if (outcomes_.size() >= awaited_) {
+            if (outcomes_.size() >= awaited_)
                 reached_.raise();
-            }
         };
     }
 
@@ -116,9 +112,8 @@ TEST(ICallDispatcher, TellsTheFailureOfAnAsynchronousCall) {
 TEST(ICallDispatcher, HasFourWorkers) {
     Outcomes outcomes(8);
     EchoDispatcher dispatcher;
-    for (int i = 0; i < 8; ++i) {
+    for (int i = 0; i < 8; ++i)
         callAsync(dispatcher, "x", outcomes);
-    }
     ASSERT_TRUE(dispatcher.allBusy.wait());
     EXPECT_EQ(dispatcher.threads(), 4u);
     dispatcher.gate.raise();
@@ -153,13 +148,11 @@ TEST(ICallDispatcher, ASuccessHandlerThatRaisesEndsInTheFailureHandlerOnTheSameW
 TEST(ICallDispatcher, The17thPendingCallBlocksUntilAWorkerTakesOne) {
     Outcomes outcomes(4 + 17);
     EchoDispatcher dispatcher;
-    for (int i = 0; i < 4; ++i) {
+    for (int i = 0; i < 4; ++i)
         callAsync(dispatcher, "taken", outcomes);
-    }
     ASSERT_TRUE(dispatcher.allBusy.wait());
-    for (int i = 0; i < 16; ++i) {
+    for (int i = 0; i < 16; ++i)
         callAsync(dispatcher, "queued", outcomes);
-    }
 
     Signal queued;
     std::thread caller([&] {
@@ -177,9 +170,8 @@ TEST(ICallDispatcher, DestructionFinishesTakenCallsAndThenFailsTheQueuedOnesInOr
     Outcomes outcomes(7);
     auto dispatcher = std::make_unique<EchoDispatcher>();
     EchoDispatcher& used = *dispatcher;
-    for (int i = 0; i < 4; ++i) {
+    for (int i = 0; i < 4; ++i)
         callAsync(used, "taken", outcomes);
-    }
     ASSERT_TRUE(used.allBusy.wait());
     for (const std::string name : {"fifth", "sixth", "seventh"}) {
         used.asyncSendRequest("url", name, outcomes.note("success: "),
@@ -210,13 +202,11 @@ TEST(ICallDispatcher, ACallAfterTheStopFailsAtOnce) {
     Outcomes others(4 + 16);
     auto dispatcher = std::make_unique<EchoDispatcher>();
     EchoDispatcher& used = *dispatcher;
-    for (int i = 0; i < 4; ++i) {
+    for (int i = 0; i < 4; ++i)
         callAsync(used, "taken", others);
-    }
     ASSERT_TRUE(used.allBusy.wait());
-    for (int i = 0; i < 16; ++i) {
+    for (int i = 0; i < 16; ++i)
         callAsync(used, "queued", others);
-    }
 
     // The queue is full, so this call sees the stop whether it comes before or after it.
     std::thread caller([&] { callAsync(used, "late", whileStopping); });
@@ -248,21 +238,18 @@ TEST(ICallDispatcher, LosesNoCallUnderLoad) {
     std::vector<std::thread> threads;
     for (int i = 0; i < callers; ++i) {
         threads.emplace_back([&] {
-            for (int call = 0; call < callsEach; ++call) {
+            for (int call = 0; call < callsEach; ++call)
                 dispatcher.asyncSendRequest(
                     "url", "x",
                     [&](const std::string&) {
-                        if (++succeeded == callers * callsEach) {
+                        if (++succeeded == callers * callsEach)
                             all.raise();
-                        }
                     },
                     [](const std::string& text) { ADD_FAILURE() << text; });
-            }
         });
     }
-    for (std::thread& thread : threads) {
+    for (std::thread& thread : threads)
         thread.join();
-    }
     EXPECT_TRUE(all.wait());
 }
 

@@ -88,9 +88,8 @@ TEST(ParseUrl, RefusesAPortThatIsNoNumber) {
 
 TEST(ParseUrl, RefusesOtherSchemes) {
     for (const std::string url :
-         {"ftp://agent/", "", "http:/agent", "https:", "agent:4411", " http://a"}) {
+         {"ftp://agent/", "", "http:/agent", "https:", "agent:4411", " http://a"})
         EXPECT_EQ(failureOf(url), "Invalid URL (does not start with http/https): '" + url + "'");
-    }
 }
 
 } // namespace

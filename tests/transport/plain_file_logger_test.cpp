@@ -28,9 +28,8 @@ TEST(PlainFileLogger, NamesTheLevels) {
     const TemporaryFile file;
     PlainFileLogger logger;
     ASSERT_TRUE(logger.open(file.path()));
-    for (std::uint32_t level = 0; level < 6; ++level) {
+    for (std::uint32_t level = 0; level < 6; ++level)
         logger.log(level, "text");
-    }
     EXPECT_EQ(linesWithoutTime(file),
               (std::vector<std::string>{"DEBUG : text", "INFO : text", "WARNING : text",
                                         "ERROR : text", "FATAL : text", "<UNKNOWN> : text"}));

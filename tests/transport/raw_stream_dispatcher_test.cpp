@@ -81,9 +81,8 @@ TEST_P(RawStream, IdsCountUpFromOneOnEachConnection) {
     });
     for (int round = 0; round < 2; ++round) {
         CRawStreamDispacher dispatcher(0, "", true);
-        for (int i = 0; i < 3; ++i) {
+        for (int i = 0; i < 3; ++i)
             dispatcher.sendRequest(server.url(), "x");
-        }
     }
     EXPECT_TRUE(server.waitForEnded(2));
 }
@@ -146,9 +145,8 @@ TEST_P(RawStream, CarriesMessagesOfManySizes) {
     for (const std::size_t size : {0u, 1u, 1019u, 1020u, 1021u, 16383u, 16384u, 16385u, 262139u,
                                    262140u, 262141u, 262144u, 262145u, 524284u, 1000000u}) {
         std::string message(size, '\0');
-        for (std::size_t i = 0; i < size; ++i) {
+        for (std::size_t i = 0; i < size; ++i)
             message[i] = static_cast<char>(i * 31 + size);
-        }
         EXPECT_TRUE(dispatcher.sendRequest(server.url(), message) == message) << size;
     }
     server.stop();
@@ -179,9 +177,8 @@ TEST_P(RawStream, RepliesMayComeInOneWrite) {
         callers.emplace_back(
             [&, message] { EXPECT_EQ(dispatcher.sendRequest(server.url(), message), message); });
     }
-    for (std::thread& caller : callers) {
+    for (std::thread& caller : callers)
         caller.join();
-    }
     EXPECT_EQ(server.connections(), 1u);
 }
 
@@ -257,9 +254,8 @@ TEST_P(RawStream, SixteenCallersAtOnceShareOneConnection) {
             }
         });
     }
-    for (std::thread& caller : callers) {
+    for (std::thread& caller : callers)
         caller.join();
-    }
     EXPECT_EQ(server.connections(), 1u);
     server.stop();
 }
@@ -268,9 +264,8 @@ TEST_P(RawStream, WithoutReuseEachCallConnectsAnewAndIsClosedAfterwards) {
     LoopbackServer server(GetParam(), echo(1));
     {
         CRawStreamDispacher dispatcher(0, "", false);
-        for (int i = 0; i < 3; ++i) {
+        for (int i = 0; i < 3; ++i)
             EXPECT_EQ(dispatcher.sendRequest(server.url(), "ping"), "ping");
-        }
         EXPECT_EQ(server.connections(), 3u);
         EXPECT_TRUE(server.waitForEnded(3)); // each has seen its close
     }
@@ -303,16 +298,14 @@ TEST_P(RawStream, AHandlerMayCallOn) {
     dispatcher.asyncSendRequest(
         server.url(), "first",
         [&](const std::string&) {
-            for (int i = 0; i < calls; ++i) {
+            for (int i = 0; i < calls; ++i)
                 dispatcher.asyncSendRequest(
                     server.url(), "next",
                     [&](const std::string&) {
-                        if (++answered == calls) {
+                        if (++answered == calls)
                             done.raise();
-                        }
                     },
                     unexpected);
-            }
         },
         unexpected);
     EXPECT_TRUE(done.wait());
@@ -323,9 +316,8 @@ TEST_P(RawStream, SixteenUnwrittenFramesBlockTheNextAsynchronousCaller) {
     LoopbackServer server(GetParam(), [&](Peer& peer) {
         peer.open();
         blocked.wait();
-        for (int i = 0; i < 17; ++i) {
+        for (int i = 0; i < 17; ++i)
             peer.send(responseFrame(peer.receiveFrame().id, ""));
-        }
         peer.expectClose();
     });
     // The first frame is larger than what the sockets hold, so nothing behind it is written.
@@ -337,16 +329,14 @@ TEST_P(RawStream, SixteenUnwrittenFramesBlockTheNextAsynchronousCaller) {
         dispatcher.asyncSendRequest(
             server.url(), request,
             [&](const std::string&) {
-                if (++answered == 17) {
+                if (++answered == 17)
                     all.raise();
-                }
             },
             [](const std::string& text) { ADD_FAILURE() << text; });
     };
     call(large);
-    for (int i = 1; i < 16; ++i) {
+    for (int i = 1; i < 16; ++i)
         call("small");
-    }
     Signal queued;
     std::thread caller([&] {
         call("one too many");

@@ -207,9 +207,8 @@ TEST_P(RawStreamFailures, ALengthNearTwoToTheSixtyFourIsRefused) {
 TEST_P(RawStreamFailures, EveryWaitingCallerIsTold) {
     LoopbackServer server(GetParam(), [](Peer& peer) {
         peer.open();
-        for (int i = 0; i < 16; ++i) {
+        for (int i = 0; i < 16; ++i)
             peer.receiveFrame();
-        }
         peer.close();
     });
     CRawStreamDispacher dispatcher(0, "", true);
@@ -219,17 +218,15 @@ TEST_P(RawStreamFailures, EveryWaitingCallerIsTold) {
             EXPECT_EQ(failureOf(dispatcher, server.url()), "Receive failed (header): " + cut());
         });
     }
-    for (std::thread& caller : callers) {
+    for (std::thread& caller : callers)
         caller.join();
-    }
 }
 
 TEST_P(RawStreamFailures, AStreamThatDiedRaisesItsTextAgainWithoutConnecting) {
     LoopbackServer server(GetParam(), answer(""));
     CRawStreamDispacher dispatcher(0, "", true);
-    for (int i = 0; i < 3; ++i) {
+    for (int i = 0; i < 3; ++i)
         EXPECT_EQ(failureOf(dispatcher, server.url()), "Receive failed (header): " + cut());
-    }
     EXPECT_EQ(server.connections(), 1u);
 }
 
@@ -300,9 +297,8 @@ TEST_P(RawStreamFailures, AnAsynchronousCallToADeadStreamIsTold) {
 TEST_P(RawStreamFailures, AsynchronousCallsAreToldInTheOrderOfTheirIds) {
     LoopbackServer server(GetParam(), [](Peer& peer) {
         peer.open();
-        for (int i = 0; i < 5; ++i) {
+        for (int i = 0; i < 5; ++i)
             peer.receiveFrame();
-        }
         peer.close();
     });
     std::vector<int> order;
@@ -313,9 +309,8 @@ TEST_P(RawStreamFailures, AsynchronousCallsAreToldInTheOrderOfTheirIds) {
             server.url(), "ping", [](const std::string&) { ADD_FAILURE(); },
             [&, i](const std::string&) {
                 order.push_back(i);
-                if (i == 4) {
+                if (i == 4)
                     all.raise();
-                }
                 throw std::runtime_error("must not keep the others from hearing of it");
             });
     }

@@ -55,9 +55,8 @@ TEST_P(RawStreamLoad, CarriesAHundredThousandCallsInARow) {
 TEST_P(RawStreamLoad, CarriesAReplyOf64MiBWithoutASecondCopy) {
     constexpr std::size_t size = 64 * 1024 * 1024;
     std::string reply(size, '\0');
-    for (std::size_t i = 0; i < size; ++i) {
+    for (std::size_t i = 0; i < size; ++i)
         reply[i] = static_cast<char>(i * 2654435761u >> 13);
-    }
     const std::string frame = responseFrame(1, reply);
     LoopbackServer server(GetParam(), [&](Peer& peer) {
         peer.open().receiveFrame();

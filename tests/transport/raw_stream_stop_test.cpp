@@ -46,9 +46,8 @@ TEST_P(RawStreamStop, FreesSixteenCallersOfASilentServer) {
     Signal asked;
     LoopbackServer server(GetParam(), [&](Peer& peer) {
         peer.open();
-        for (int i = 0; i < 16; ++i) {
+        for (int i = 0; i < 16; ++i)
             peer.receiveFrame();
-        }
         asked.raise();
         peer.expectClose();
     });
@@ -61,9 +60,8 @@ TEST_P(RawStreamStop, FreesSixteenCallersOfASilentServer) {
     }
     ASSERT_TRUE(asked.wait());
     dispatcher.stopConnections();
-    for (std::thread& caller : callers) {
+    for (std::thread& caller : callers)
         caller.join();
-    }
 }
 
 TEST_P(RawStreamStop, FreesACallerWithinAReply) {
@@ -121,9 +119,8 @@ TEST_P(RawStreamStop, FreesAnAsynchronousCallerThatWaitsForRoom) {
             });
     };
     call(std::string(32'000'000, 'x'));
-    for (int i = 1; i < 16; ++i) {
+    for (int i = 1; i < 16; ++i)
         call("small");
-    }
     Signal queued;
     std::thread caller([&] {
         call("one too many");
@@ -200,9 +197,8 @@ TEST_P(RawStreamStop, TheDestructorWaitsForTheConnectionsThatNoOneJoins) {
 TEST_P(RawStreamStop, MayComeWhileManyThreadsCall) {
     LoopbackServer server(GetParam(), [](Peer& peer) {
         peer.open();
-        for (;;) {
+        for (;;)
             peer.send(responseFrame(peer.receiveFrame().id, "pong"));
-        }
     });
     server.tolerateFailures(); // its scripts end wherever the stop meets them
     CRawStreamDispacher dispatcher(0, "", true);
@@ -230,14 +226,12 @@ TEST_P(RawStreamStop, MayComeWhileManyThreadsCall) {
     for (int stop = 0; stop < 50; ++stop) {
         const int before = answered;
         dispatcher.stopConnections();
-        while (answered < before + 8) {
+        while (answered < before + 8)
             std::this_thread::yield();
-        }
     }
     ending = true;
-    for (std::thread& caller : callers) {
+    for (std::thread& caller : callers)
         caller.join();
-    }
 }
 
 TEST(RawStreamHandshakeStop, FreesACallerOfAServerThatIsSilentInTheHandshake) {

@@ -178,9 +178,8 @@ TEST(TraceEntry, ADirectoryThatDoesNotExistIsReportedAndRaised) {
 }
 
 TEST(TraceEntry, AFullDiskIsReportedAndRaised) {
-    if (!std::filesystem::exists("/dev/full")) {
+    if (!std::filesystem::exists("/dev/full"))
         GTEST_SKIP() << "needs /dev/full";
-    }
     EventLog log;
     TraceEntry entry("/dev/full", true, log.sink());
     entry << "text";
@@ -216,9 +215,8 @@ TEST(Tracer, LevelsDecideWhatIsWritten) {
         trace.step("step");
         trace.detail("port: ", 80);
         std::vector<std::string> lines;
-        for (const std::string& line : file.lines()) {
+        for (const std::string& line : file.lines())
             lines.push_back(withoutPrefix(line));
-        }
         EXPECT_EQ(lines, written[level]) << "level " << level;
     }
 }

@@ -36,28 +36,24 @@ std::vector<Lines> threadsOf(const TemporaryFile& file) {
             ADD_FAILURE() << "no prefix: " << line;
             continue;
         }
-        if (!threads.contains(parts[1])) {
+        if (!threads.contains(parts[1]))
             order.push_back(parts[1]);
-        }
         threads[parts[1]].push_back(parts[2]);
     }
     std::vector<Lines> result;
-    for (const std::string& thread : order) {
+    for (const std::string& thread : order)
         result.push_back(threads[thread]);
-    }
     return result;
 }
 
 /// With the details of level 2, which start with "+", or without them.
 Lines atLevel(std::uint32_t level, const Lines& all) {
     Lines lines;
-    for (const std::string& line : all) {
-        if (!line.starts_with('+')) {
+    for (const std::string& line : all)
+        if (!line.starts_with('+'))
             lines.push_back(line);
-        } else if (level == 2) {
+        else if (level == 2)
             lines.push_back(line.substr(1));
-        }
-    }
     return lines;
 }
 
@@ -287,9 +283,8 @@ TEST(RawTraceFailure, ABrokenTraceFileFailsTheCall) {
 }
 
 TEST(RawTraceFailure, ATraceFileThatBreaksUnderTheStreamLeavesNobodyBehind) {
-    if (!std::filesystem::exists("/dev/full")) {
+    if (!std::filesystem::exists("/dev/full"))
         GTEST_SKIP() << "needs /dev/full";
-    }
     for (const bool reuse : {true, false}) {
         const TemporaryFile file;
         const TemporaryFile fullDisk;

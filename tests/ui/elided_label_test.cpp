@@ -10,7 +10,7 @@
 
 namespace {
 
-const QString kText = QStringLiteral("Everything that the accounts need");
+const QString wholeText = QStringLiteral("Everything that the accounts need");
 
 /// A label of the given part of the width that its text needs.
 void place(QLabel& label, const QString& text, double part) {
@@ -39,22 +39,22 @@ private slots:
     void aTextThatFitsIsThatOfAnyLabel() {
         ui::ElidedLabel label;
         QLabel any;
-        place(label, kText, 1);
-        place(any, kText, 1);
+        place(label, wholeText, 1);
+        place(any, wholeText, 1);
         QVERIFY(!label.isCut());
         QCOMPARE(label.grab().toImage(), any.grab().toImage());
     }
 
     void aTextThatDoesNotFitEndsInAnEllipsis() {
         ui::ElidedLabel label;
-        place(label, kText, 0.5);
+        place(label, wholeText, 0.5);
         QVERIFY(label.isCut());
         QLabel shorter;
-        shorter.setText(label.fontMetrics().elidedText(kText, Qt::ElideRight, label.width()));
+        shorter.setText(label.fontMetrics().elidedText(wholeText, Qt::ElideRight, label.width()));
         QVERIFY(shorter.text().endsWith(QChar(0x2026)));
         shorter.resize(label.size());
         QCOMPARE(label.grab().toImage(), shorter.grab().toImage());
-        QCOMPARE(label.text(), kText);
+        QCOMPARE(label.text(), wholeText);
     }
 
     void itKeepsTheColourOfAStyleSheet() {
@@ -62,7 +62,7 @@ private slots:
         card.setStyleSheet(QStringLiteral("QLabel#name { color: red; }"));
         auto& label = *new ui::ElidedLabel(&card);
         label.setObjectName(QStringLiteral("name"));
-        place(label, kText, 0.5);
+        place(label, wholeText, 0.5);
         label.ensurePolished();
         const QImage image = label.grab().toImage();
         bool red = false;
@@ -76,17 +76,17 @@ private slots:
 
     void itIsNotWidenedByItsText() {
         ui::ElidedLabel label;
-        label.setText(kText.repeated(1000));
+        label.setText(wholeText.repeated(1000));
         QVERIFY(label.minimumSizeHint().width() < 50);
-        QCOMPARE(label.minimumSizeHint().height(), QLabel(kText).minimumSizeHint().height());
+        QCOMPARE(label.minimumSizeHint().height(), QLabel(wholeText).minimumSizeHint().height());
     }
 
     void onlyACutTextIsItsOwnToolTip() {
         ui::ElidedLabel label;
-        place(label, kText, 0.5);
+        place(label, wholeText, 0.5);
         label.show();
-        QCOMPARE(tipOf(label), kText);
-        place(label, kText, 1);
+        QCOMPARE(tipOf(label), wholeText);
+        place(label, wholeText, 1);
         QCOMPARE(tipOf(label), QString());
     }
 
@@ -101,7 +101,7 @@ private slots:
 
     void aToolTipOfItsOwnComesFirst() {
         ui::ElidedLabel label;
-        place(label, kText, 0.5);
+        place(label, wholeText, 0.5);
         label.setToolTip(QStringLiteral("Own"));
         label.show();
         QCOMPARE(tipOf(label), QStringLiteral("Own"));

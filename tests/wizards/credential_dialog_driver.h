@@ -10,7 +10,7 @@ class QWidget;
 
 namespace wizards_test {
 
-inline constexpr char kPassword[] = "s3same-0pen";
+inline constexpr char rightPassword[] = "s3same-0pen";
 
 QString fieldText(QWidget& dialog, const char* edit);
 bool canBeConfirmed(QWidget& dialog);

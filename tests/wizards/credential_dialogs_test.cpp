@@ -22,8 +22,8 @@ using support::child;
 using wizards_test::canBeConfirmed;
 using wizards_test::fieldText;
 using wizards_test::gives;
-using wizards_test::kPassword;
 using wizards_test::press;
+using wizards_test::rightPassword;
 using wizards_test::type;
 
 namespace {
@@ -210,7 +210,7 @@ void CredentialDialogsTest::theSudoDialogStartsEmptyWithoutAUser() {
 }
 
 void CredentialDialogsTest::noDialogGivesAwayASecret() {
-    const QString secret = QString::fromLatin1(kPassword);
+    const QString secret = QString::fromLatin1(rightPassword);
     CEnterSimpleUserPsw simple(QStringLiteral("anna"));
     CSSHConnectAsDlg ssh(QStringLiteral("anna"));
     CSSHSudoCredentials sudo(QStringLiteral("root"));
@@ -234,7 +234,7 @@ void CredentialDialogsTest::dialogsFollowTheLanguage() {
     CSSHSudoCredentials sudo(QStringLiteral("anna"));
     QWidget* const dialogs[] = {&simple, &ssh, &sudo};
     for (QWidget* dialog : dialogs)
-        type(*dialog, "editPassword", QString::fromLatin1(kPassword));
+        type(*dialog, "editPassword", QString::fromLatin1(rightPassword));
     Underlining language;
     QCoreApplication::installTranslator(&language);
     for (QWidget* dialog : dialogs) {
@@ -244,7 +244,7 @@ void CredentialDialogsTest::dialogsFollowTheLanguage() {
         for (const QAbstractButton* button : dialog->findChildren<QAbstractButton*>())
             QVERIFY2(button->text().startsWith(QLatin1Char('_')), qPrintable(button->text()));
         QCOMPARE(fieldText(*dialog, "editUserName"), QStringLiteral("anna"));
-        QCOMPARE(fieldText(*dialog, "editPassword"), QString::fromLatin1(kPassword));
+        QCOMPARE(fieldText(*dialog, "editPassword"), QString::fromLatin1(rightPassword));
     }
     QCoreApplication::removeTranslator(&language);
 }

@@ -25,10 +25,10 @@ using support::isDialog;
 using support::ModalDriver;
 using wizards_test::fieldText;
 using wizards_test::gives;
-using wizards_test::kPassword;
 using wizards_test::Lines;
 using wizards_test::PageDriver;
 using wizards_test::press;
+using wizards_test::rightPassword;
 using wizards_test::Source;
 using wizards_test::type;
 
@@ -44,12 +44,12 @@ Lines readLogin(const std::string& getUser) {
             "BackupSetCredentials.types()", getUser};
 }
 
-const std::string kGetWindowsUser = "Win32FS_Generic_BackupSetCredentials.getUserName()";
-const std::string kGetUnixUser = "UnixFS_Generic_BackupSetCredentials.getUserName()";
+const std::string getWindowsUser = "Win32FS_Generic_BackupSetCredentials.getUserName()";
+const std::string getUnixUser = "UnixFS_Generic_BackupSetCredentials.getUserName()";
 
-const Lines kShowSSH{kGetUnixUser, "UnixFS_SSH_BackupSetCredentials.getSudoUser()",
-                     "UnixFS_SSH_BackupSetCredentials.getSSHAccessType()",
-                     "UnixFS_SSH_BackupSetCredentials.getSSHInterpreterPath()"};
+const Lines showSSH{getUnixUser, "UnixFS_SSH_BackupSetCredentials.getSudoUser()",
+                    "UnixFS_SSH_BackupSetCredentials.getSSHAccessType()",
+                    "UnixFS_SSH_BackupSetCredentials.getSSHInterpreterPath()"};
 
 /// The page, shown, over a computer that wants that kind of login.
 struct Shown {
@@ -105,36 +105,36 @@ void CredentialsSentTest::aWindowsUserIsSent() {
     shown.modals.expect(QStringLiteral("login"), isDialog<CEnterSimpleUserPsw>, [](QWidget& asked) {
         QCOMPARE(fieldText(asked, "editUserName"), QStringLiteral("demo"));
         type(asked, "editUserName", QString::fromUtf8("BÜRO\\zoë"));
-        type(asked, "editPassword", QString::fromLatin1(kPassword));
+        type(asked, "editPassword", QString::fromLatin1(rightPassword));
         press(asked, "btnOK");
     });
     shown.driver.click("btnConnectAs");
     QVERIFY(shown.modals.done());
     QCOMPARE(shown.source.takeCalls(),
              wizards_test::join(
-                 {readLogin(kGetWindowsUser),
+                 {readLogin(getWindowsUser),
                   {R"(Win32FS_Generic_BackupSetCredentials.setCredentials("BÜRO\\zoë", ***))",
                    setCurrent("BÜRO\\zoë")}}));
     QCOMPARE(shown.driver.text("editConnectAs"), QString::fromUtf8("BÜRO\\zoë"));
     QCOMPARE(shown.driver.page().connectUser(), QString::fromUtf8("BÜRO\\zoë"));
-    QVERIFY(!gives(shown.driver.page(), QString::fromLatin1(kPassword)));
-    shown.verifyLogsIn({{"BÜRO\\zoë", kPassword}});
+    QVERIFY(!gives(shown.driver.page(), QString::fromLatin1(rightPassword)));
+    shown.verifyLogsIn({{"BÜRO\\zoë", rightPassword}});
 }
 
 void CredentialsSentTest::aUnixUserIsSent() {
     Shown shown(LoginKind::Unix);
     shown.modals.expect(QStringLiteral("login"), isDialog<CEnterSimpleUserPsw>, [](QWidget& asked) {
-        type(asked, "editPassword", QString::fromLatin1(kPassword));
+        type(asked, "editPassword", QString::fromLatin1(rightPassword));
         QTest::keyClick(&asked, Qt::Key_Return);
     });
     shown.driver.click("btnConnectAs");
     QVERIFY(shown.modals.done());
     QCOMPARE(
         shown.source.takeCalls(),
-        wizards_test::join({readLogin(kGetUnixUser),
+        wizards_test::join({readLogin(getUnixUser),
                             {R"(UnixFS_Generic_BackupSetCredentials.setCredentials("demo", ***))",
                              setCurrent("demo")}}));
-    shown.verifyLogsIn({{"demo", kPassword}});
+    shown.verifyLogsIn({{"demo", rightPassword}});
 }
 
 void CredentialsSentTest::anSSHPasswordIsSent() {
@@ -142,32 +142,32 @@ void CredentialsSentTest::anSSHPasswordIsSent() {
     shown.modals.expect(QStringLiteral("login"), isDialog<CSSHConnectAsDlg>, [](QWidget& asked) {
         QCOMPARE(fieldText(asked, "editUserName"), QStringLiteral("demo"));
         type(asked, "editUserName", QStringLiteral("anna"));
-        type(asked, "editPassword", QString::fromLatin1(kPassword));
+        type(asked, "editPassword", QString::fromLatin1(rightPassword));
         press(asked, "btnOK");
     });
     shown.driver.click("btnConnectAs");
     QVERIFY(shown.modals.done());
     QCOMPARE(
         shown.source.takeCalls(),
-        wizards_test::join({readLogin(kGetUnixUser),
+        wizards_test::join({readLogin(getUnixUser),
                             {R"(UnixFS_Generic_BackupSetCredentials.setCredentials("anna", ***))",
                              setCurrent("anna")},
-                            kShowSSH}));
+                            showSSH}));
     QCOMPARE(shown.driver.text("editConnectAs"), QStringLiteral("anna"));
-    shown.verifyLogsIn({{"anna", kPassword}});
+    shown.verifyLogsIn({{"anna", rightPassword}});
 }
 
 void CredentialsSentTest::anIdentityFileIsSent() {
     Shown shown(LoginKind::Ssh);
     shown.source.agent.withWorld([](simulator::World& world) {
         world.network.local()->keyFile = "/etc/id-ü";
-        world.network.local()->passphrase = kPassword;
+        world.network.local()->passphrase = rightPassword;
     });
     shown.modals.expect(QStringLiteral("login"), isDialog<CSSHConnectAsDlg>, [](QWidget& asked) {
         press(asked, "radioIdentity");
         type(asked, "editIdentityUser", QStringLiteral("anna"));
         type(asked, "editIdentity", QString::fromUtf8("/etc/id-ü"));
-        type(asked, "editPassPhrase", QString::fromLatin1(kPassword));
+        type(asked, "editPassPhrase", QString::fromLatin1(rightPassword));
         press(asked, "btnOK");
     });
     shown.driver.click("btnConnectAs");
@@ -175,10 +175,10 @@ void CredentialsSentTest::anIdentityFileIsSent() {
     QCOMPARE(
         shown.source.takeCalls(),
         wizards_test::join(
-            {readLogin(kGetUnixUser),
+            {readLogin(getUnixUser),
              {R"(UnixFS_SSH_BackupSetCredentials.setCredentialsViaKeyFile("anna", "/etc/id-ü", ***))",
               setCurrent("anna")},
-             kShowSSH}));
+             showSSH}));
     shown.verifyLogsIn({{"anna", "another one"}});
 }
 
@@ -187,7 +187,7 @@ void CredentialsSentTest::aSudoUserIsSent() {
     shown.modals.expect(QStringLiteral("sudo"), isDialog<CSSHSudoCredentials>, [](QWidget& asked) {
         QCOMPARE(fieldText(asked, "editUserName"), QString());
         type(asked, "editUserName", QStringLiteral("root"));
-        type(asked, "editPassword", QString::fromLatin1(kPassword));
+        type(asked, "editPassword", QString::fromLatin1(rightPassword));
         press(asked, "btnOK");
     });
     shown.driver.click("btnSudo");
@@ -199,7 +199,7 @@ void CredentialsSentTest::aSudoUserIsSent() {
                    R"(UnixFS_SSH_BackupSetCredentials.setSudoAs("root", ***))"},
                   wizards_test::refreshOf(LoginKind::Ssh, "demo")}));
     QCOMPARE(shown.driver.text("editSudo"), QStringLiteral("root"));
-    QVERIFY(!gives(shown.driver.page(), QString::fromLatin1(kPassword)));
+    QVERIFY(!gives(shown.driver.page(), QString::fromLatin1(rightPassword)));
 }
 
 void CredentialsSentTest::sudoIsSwitchedOff() {
@@ -207,7 +207,7 @@ void CredentialsSentTest::sudoIsSwitchedOff() {
     shown.modals.expect(QStringLiteral("sudo"), isDialog<CSSHSudoCredentials>, [](QWidget& asked) {
         // What stands in the fields doesn't count.
         type(asked, "editUserName", QStringLiteral("root"));
-        type(asked, "editPassword", QString::fromLatin1(kPassword));
+        type(asked, "editPassword", QString::fromLatin1(rightPassword));
         press(asked, "btnNoSudo");
     });
     shown.driver.click("btnSudo");
@@ -249,7 +249,7 @@ void CredentialsSentTest::anSSHAccessIsSent() {
                    "UnixFS_SSH_BackupSetCredentials.getSSHInterpreterPath()",
                    "UnixFS_SSH_BackupSetCredentials.getSSHAccessType()",
                    R"(UnixFS_SSH_BackupSetCredentials.setSSHAccessType(1, ""))"},
-                  kShowSSH}));
+                  showSSH}));
     QCOMPARE(shown.driver.text("editSSHAccess"), QStringLiteral("Python"));
     choose(0, QStringLiteral("/usr/bin/perl"));
     QCOMPARE(shown.driver.text("editSSHAccess"), QStringLiteral("Perl: /usr/bin/perl"));
@@ -299,7 +299,7 @@ void CredentialsSentTest::anUnknownAccessStartsAsTheFirst() {
 void CredentialsSentTest::aCancelledDialogSendsNothing() {
     const auto cancel = [](QWidget& asked) {
         if (asked.findChild<QLineEdit*>(QStringLiteral("editPassword")))
-            type(asked, "editPassword", QString::fromLatin1(kPassword));
+            type(asked, "editPassword", QString::fromLatin1(rightPassword));
         press(asked, "btnCancel");
     };
     Shown shown(LoginKind::Ssh);
@@ -319,7 +319,7 @@ void CredentialsSentTest::whatTheAgentRefusesIsShown() {
     shown.source.agent.inject("setCredentials", simulator::Fault{"No such user."});
     shown.modals.expect(QStringLiteral("login"), isDialog<CEnterSimpleUserPsw>, [](QWidget& asked) {
         type(asked, "editUserName", QStringLiteral("anna"));
-        type(asked, "editPassword", QString::fromLatin1(kPassword));
+        type(asked, "editPassword", QString::fromLatin1(rightPassword));
         press(asked, "btnOK");
     });
     shown.modals.expectErrorBox(QStringLiteral("Error"), QStringLiteral("No such user."));

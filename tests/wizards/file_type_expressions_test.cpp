@@ -26,19 +26,20 @@ using wizards::FileTypeExpression;
 using wizards::FileTypes;
 using wizards::ReadExpression;
 
-constexpr const char* kDocuments =
+constexpr const char* documentsExpression =
     ".*\\.(accdb|accde|accdr|accdt|csv|doc|docm|docx|dot|dotm|dotx|htm|html|mht|mpp|mppx|one|pdf|"
     "potm|potx|ppam|pps|ppsm|ppsx|ppt|pptm|pptx|ps|rtf|txt|vsd|wpd|wpg|wps|xlam|xlc|xls|xlsb|xlsm|"
     "xlsx|xlt|xltm|xltx)";
-constexpr const char* kVideo = ".*\\.(asf|avi|dv|flv|m1v|m2p|m2v|m4v|moov|mov|mpa|mpe|mpeg|mpg|mpv|"
-                               "ogm|omf|qt|swf|vdo|vob|wm|wmd|wmv|wmx)";
-constexpr const char* kPictures =
+constexpr const char* videoExpression =
+    ".*\\.(asf|avi|dv|flv|m1v|m2p|m2v|m4v|moov|mov|mpa|mpe|mpeg|mpg|mpv|"
+    "ogm|omf|qt|swf|vdo|vob|wm|wmd|wmv|wmx)";
+constexpr const char* picturesExpression =
     ".*\\.(ai|bmp|cdr|dib|eps|gif|icb|indd|j2c|j2k|jfif|jp2|jpc|jpe|jpeg|jpf|jpg|jpx|kdc|pcd|pct|"
     "pdd|pict|png|psd|psp|pxr|raw|rle|sct|tga|tif|tiff|vda|vst|wmf)";
-constexpr const char* kMusic =
+constexpr const char* musicExpression =
     ".*\\.(a3c|aac|aif|aifc|aiff|ape|flac|itl|m3u|m4a|m4p|mid|midi|mp1|mp2|mp3|mp4|pls|ra|ram|rm|"
     "rmi|s3m|wav|wma|wpl|xm)";
-constexpr const char* kEmail =
+constexpr const char* emailExpression =
     ".*\\.(MsMessageStore|dbx|eml|fol|mbx|mif|msb|msf|msg|nsf|pst|rwz|snm)";
 
 QString text(const char* utf8) {
@@ -56,19 +57,19 @@ FileTypeExpression rejects(const char* expression) {
 TEST(ExpressionsOf, EachKindIsOneFilter) {
     FileTypes types;
     types.documents = true;
-    EXPECT_THAT(wizards::expressionsOf(types), ElementsAre(selects(kDocuments)));
+    EXPECT_THAT(wizards::expressionsOf(types), ElementsAre(selects(documentsExpression)));
     types = {};
     types.video = true;
-    EXPECT_THAT(wizards::expressionsOf(types), ElementsAre(selects(kVideo)));
+    EXPECT_THAT(wizards::expressionsOf(types), ElementsAre(selects(videoExpression)));
     types = {};
     types.pictures = true;
-    EXPECT_THAT(wizards::expressionsOf(types), ElementsAre(selects(kPictures)));
+    EXPECT_THAT(wizards::expressionsOf(types), ElementsAre(selects(picturesExpression)));
     types = {};
     types.music = true;
-    EXPECT_THAT(wizards::expressionsOf(types), ElementsAre(selects(kMusic)));
+    EXPECT_THAT(wizards::expressionsOf(types), ElementsAre(selects(musicExpression)));
     types = {};
     types.email = true;
-    EXPECT_THAT(wizards::expressionsOf(types), ElementsAre(selects(kEmail)));
+    EXPECT_THAT(wizards::expressionsOf(types), ElementsAre(selects(emailExpression)));
 }
 
 TEST(ExpressionsOf, TheKindsHaveAnOrder) {
@@ -80,15 +81,16 @@ TEST(ExpressionsOf, TheKindsHaveAnOrder) {
                     .custom = true,
                     .customExtensions = text("abc")};
     EXPECT_THAT(wizards::expressionsOf(types),
-                ElementsAre(selects(kDocuments), selects(kMusic), selects(kPictures),
-                            selects(kVideo), selects(kEmail),
-                            selects(".*\\.(CustomFileExtensions|abc)")));
+                ElementsAre(selects(documentsExpression), selects(musicExpression),
+                            selects(picturesExpression), selects(videoExpression),
+                            selects(emailExpression), selects(".*\\.(CustomFileExtensions|abc)")));
 }
 
 TEST(ExpressionsOf, MusicWithExtensionsOfTheUser) {
     const FileTypes types{.music = true, .custom = true, .customExtensions = text("abc|def")};
-    EXPECT_THAT(wizards::expressionsOf(types),
-                ElementsAre(selects(kMusic), selects(".*\\.(CustomFileExtensions|abc|def)")));
+    EXPECT_THAT(
+        wizards::expressionsOf(types),
+        ElementsAre(selects(musicExpression), selects(".*\\.(CustomFileExtensions|abc|def)")));
 }
 
 TEST(ExpressionsOf, EverythingNeedsNoFilter) {
@@ -125,7 +127,7 @@ TEST(ExpressionsOf, KindsIgnoreWhatIsLeftOutOfEverything) {
                                         .backup = true,
                                         .excluded = true,
                                         .excludedExtensions = text("abc")}),
-                ElementsAre(selects(kMusic)));
+                ElementsAre(selects(musicExpression)));
 }
 
 TEST(ExpressionsOf, ExtensionsBehindAnUncheckedBoxDontCount) {
@@ -158,8 +160,8 @@ TEST(ExpressionsOf, NothingButBarsAndBlanksIsNothing) {
 }
 
 TEST(ReadExpression, WithoutTheMarkerAllOfItTellsKinds) {
-    const ReadExpression read = wizards::readExpression(text(kMusic));
-    EXPECT_EQ(read.kinds, text(kMusic));
+    const ReadExpression read = wizards::readExpression(text(musicExpression));
+    EXPECT_EQ(read.kinds, text(musicExpression));
     EXPECT_EQ(read.custom, std::nullopt);
 }
 
@@ -231,11 +233,11 @@ std::string namesOf(const FileTypes& types) {
 }
 
 TEST(ReadKinds, EachKindIsRecognisedAlone) {
-    EXPECT_EQ(namesOf(kindsOf(kDocuments)), "D");
-    EXPECT_EQ(namesOf(kindsOf(kVideo)), "V");
-    EXPECT_EQ(namesOf(kindsOf(kPictures)), "P");
-    EXPECT_EQ(namesOf(kindsOf(kMusic)), "M");
-    EXPECT_EQ(namesOf(kindsOf(kEmail)), "E");
+    EXPECT_EQ(namesOf(kindsOf(documentsExpression)), "D");
+    EXPECT_EQ(namesOf(kindsOf(videoExpression)), "V");
+    EXPECT_EQ(namesOf(kindsOf(picturesExpression)), "P");
+    EXPECT_EQ(namesOf(kindsOf(musicExpression)), "M");
+    EXPECT_EQ(namesOf(kindsOf(emailExpression)), "E");
     EXPECT_EQ(namesOf(kindsOf(".*\\.(|tmp|swp)")), "t");
     EXPECT_EQ(namesOf(kindsOf(".*\\.(|bak)")), "b");
     EXPECT_EQ(namesOf(kindsOf(".*\\.(|tmp|swp|bak)")), "tb");
@@ -291,10 +293,10 @@ std::string extensionsIn(QString patterns) {
 }
 
 TEST(Patterns, AreThoseOfTheFilters) {
-    EXPECT_EQ(extensionsIn(wizards::documentPatterns()), kDocuments);
-    EXPECT_EQ(extensionsIn(wizards::videoPatterns()), kVideo);
-    EXPECT_EQ(extensionsIn(wizards::picturePatterns()), kPictures);
-    EXPECT_EQ(extensionsIn(wizards::musicPatterns()), kMusic);
+    EXPECT_EQ(extensionsIn(wizards::documentPatterns()), documentsExpression);
+    EXPECT_EQ(extensionsIn(wizards::videoPatterns()), videoExpression);
+    EXPECT_EQ(extensionsIn(wizards::picturePatterns()), picturesExpression);
+    EXPECT_EQ(extensionsIn(wizards::musicPatterns()), musicExpression);
 }
 
 } // namespace

@@ -12,10 +12,10 @@ namespace {
 
 using Calls = PageFixture::Calls;
 
-const QString kMusicFilter = QStringLiteral(
+const QString musicFilter = QStringLiteral(
     ".*\\.(a3c|aac|aif|aifc|aiff|ape|flac|itl|m3u|m4a|m4p|mid|midi|mp1|mp2|mp3|mp4|pls|ra|ram|rm|"
     "rmi|s3m|wav|wma|wpl|xm)");
-const std::string kPreset = R"(C:\Users\anna\Pictures)";
+const std::string preset = R"(C:\Users\anna\Pictures)";
 
 QString text(const char* utf8) {
     return QString::fromUtf8(utf8);
@@ -156,7 +156,7 @@ void ItemsPageTest::theItemsOfASetAreShown() {
 }
 
 void ItemsPageTest::onePresetComesBackAsThePreset() {
-    PageOfSet page(openSetWith({included(kPreset)}));
+    PageOfSet page(openSetWith({included(preset)}));
     QVERIFY(page.radio("radioSpecificLocation").isChecked());
     QCOMPARE(page.presets().currentText(), text("Pictures of anna"));
     QVERIFY(!page.tree().isVisible());
@@ -169,13 +169,13 @@ void ItemsPageTest::aPresetWithABackslashAtItsEndIsThePreset() {
 }
 
 void ItemsPageTest::twoItemsOfOnePresetAreThePreset() {
-    PageOfSet page(openSetWith({included(kPreset), included(kPreset + "\\")}));
+    PageOfSet page(openSetWith({included(preset), included(preset + "\\")}));
     QVERIFY(page.radio("radioSpecificLocation").isChecked());
     QCOMPARE(page.presets().currentText(), text("Pictures of anna"));
 }
 
 void ItemsPageTest::aPresetAndAnotherPathAreCustom() {
-    PageOfSet page(openSetWith({included(kPreset), included(R"(D:\Tax)")}));
+    PageOfSet page(openSetWith({included(preset), included(R"(D:\Tax)")}));
     QVERIFY(page.radio("radioCustom").isChecked());
     QVERIFY(!page.presets().isEnabled());
     QVERIFY(page.tree().isVisible());
@@ -227,7 +227,7 @@ void ItemsPageTest::rejectedExtensionsAreShown() {
 
 void ItemsPageTest::anExtensionOfAKindTurnsItOnOnlyInItsFilter() {
     PageOfSet page(
-        openSetWith({included(R"(D:\Music)"), filter("D:", kMusicFilter.toStdString(), true),
+        openSetWith({included(R"(D:\Music)"), filter("D:", musicFilter.toStdString(), true),
                      filter("D:", R"(.*\.(CustomFileExtensions|doc|bak|jpg))", true)}));
     QCOMPARE(page.kinds(), text("Mc"));
     QCOMPARE(page.edit("editCustomInc").text(), text("doc|bak|jpg"));

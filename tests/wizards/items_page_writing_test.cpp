@@ -8,11 +8,11 @@ namespace {
 
 using Calls = PageFixture::Calls;
 
-const std::string kDocuments =
+const std::string documentsExpression =
     R"(.*\.(accdb|accde|accdr|accdt|csv|doc|docm|docx|dot|dotm|dotx|htm|html|mht|mpp|mppx|one|)"
     R"(pdf|potm|potx|ppam|pps|ppsm|ppsx|ppt|pptm|pptx|ps|rtf|txt|vsd|wpd|wpg|wps|xlam|xlc|xls|)"
     R"(xlsb|xlsm|xlsx|xlt|xltm|xltx))";
-const std::string kMusic =
+const std::string musicExpression =
     R"(.*\.(a3c|aac|aif|aifc|aiff|ape|flac|itl|m3u|m4a|m4p|mid|midi|mp1|mp2|mp3|mp4|pls|ra|ram|)"
     R"(rm|rmi|s3m|wav|wma|wpl|xm))";
 
@@ -99,10 +99,10 @@ void ItemsPageWritingTest::aPresetIsOneInclusion() {
     const Set set = openSet(music);
     QCOMPARE(callsOfWriting(page, set),
              Calls{R"(DataSourceBrowser.createInclusionItem("My Computer", "D:\\Mail", 9999))"} +
-                 filterCalls("D:", kDocuments, true) +
+                 filterCalls("D:", documentsExpression, true) +
                  Calls{R"(BackupSet.setItems([BackupSetItem(D:\Mail), BackupSetItem(D:, only )" +
-                       kDocuments + ")])"});
-    QCOMPARE(itemsOf(music), (Calls{R"(+D:\Mail)", ">D: " + kDocuments}));
+                       documentsExpression + ")])"});
+    QCOMPARE(itemsOf(music), (Calls{R"(+D:\Mail)", ">D: " + documentsExpression}));
 }
 
 void ItemsPageWritingTest::aSelectionIsItsInclusionsAndExclusions() {
@@ -131,9 +131,10 @@ void ItemsPageWritingTest::eachRootHasItsFilters() {
     page.check(path(R"(D:\Tax)"));
     page.check(path("E:"));
     page->apply(openSet(music));
-    QCOMPARE(itemsOf(music), (Calls{R"(+C:\Users)", R"(+D:\Mail)", R"(+D:\Tax)", "+E:",
-                                    ">C: " + kDocuments, ">C: " + kMusic, ">D: " + kDocuments,
-                                    ">D: " + kMusic, ">E: " + kDocuments, ">E: " + kMusic}));
+    QCOMPARE(itemsOf(music), (Calls{R"(+C:\Users)", R"(+D:\Mail)", R"(+D:\Tax)",
+                                    "+E:", ">C: " + documentsExpression, ">C: " + musicExpression,
+                                    ">D: " + documentsExpression, ">D: " + musicExpression,
+                                    ">E: " + documentsExpression, ">E: " + musicExpression}));
 }
 
 void ItemsPageWritingTest::allFilesNeedNoFilter() {
@@ -162,7 +163,7 @@ void ItemsPageWritingTest::musicWithExtensionsOfTheUser() {
     page.box("checkCustomInc").click();
     QTest::keyClicks(&page.edit("editCustomInc"), QStringLiteral("abc|def"));
     page->apply(openSet(music));
-    QCOMPARE(itemsOf(music), (Calls{R"(+C:\Users\anna\Documents)", ">C: " + kMusic,
+    QCOMPARE(itemsOf(music), (Calls{R"(+C:\Users\anna\Documents)", ">C: " + musicExpression,
                                     R"(>C: .*\.(CustomFileExtensions|abc|def))"}));
 }
 
@@ -190,7 +191,7 @@ void ItemsPageWritingTest::allThatAUnixAgentHasIsOneRoot() {
     page.check({QStringLiteral("/"), QStringLiteral("home")});
     page.check({QStringLiteral("/"), QStringLiteral("etc")});
     page->apply(openSet(1));
-    QCOMPARE(itemsOf(1), (Calls{R"(+/\etc)", R"(+/\home)", ">/ " + kDocuments}));
+    QCOMPARE(itemsOf(1), (Calls{R"(+/\etc)", R"(+/\home)", ">/ " + documentsExpression}));
 }
 
 void ItemsPageWritingTest::aSetThatWasReadIsWrittenAsItWas() {

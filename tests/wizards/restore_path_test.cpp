@@ -17,7 +17,7 @@ namespace {
 using hessiancln::ClientOSType;
 using wizards::closestDirectory;
 
-constexpr auto kUnix = ClientOSType(1);
+constexpr auto unix = ClientOSType(1);
 
 QString q(const char* text) {
     return QString::fromUtf8(text);
@@ -61,12 +61,12 @@ TEST_F(RestorePathTest, WhatIsMissingIsDropped) {
 
 TEST_F(RestorePathTest, CaseCountsOutsideWindowsOnly) {
     EXPECT_EQ(found("c:\\USERS\\ANN", ClientOSType::Windows), q("ann"));
-    EXPECT_EQ(found("C:\\USERS\\ann", kUnix), q("C:"));
+    EXPECT_EQ(found("C:\\USERS\\ann", unix), q("C:"));
 }
 
 TEST_F(RestorePathTest, SlashesPartNothing) {
-    EXPECT_EQ(found("/home", kUnix), q("(none)"));
-    EXPECT_EQ(found("/\\home", kUnix), q("home"));
+    EXPECT_EQ(found("/home", unix), q("(none)"));
+    EXPECT_EQ(found("/\\home", unix), q("home"));
 }
 
 TEST(RestoreDirectoryTest, StandsBetweenSlashes) {

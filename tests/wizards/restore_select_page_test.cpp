@@ -26,8 +26,8 @@ using support::rowAt;
 
 namespace {
 
-constexpr std::int32_t kFirst = 1'700'000'000;
-constexpr std::int32_t kSecond = 1'730'000'000;
+constexpr std::int32_t firstTime = 1'700'000'000;
+constexpr std::int32_t secondTime = 1'730'000'000;
 
 QString q(const char* text) {
     return QString::fromUtf8(text);
@@ -86,11 +86,12 @@ private:
 
 PageFixture::Set RestoreSelectPageTest::setWithFiles() {
     change(documents, [](simulator::BackupSetState& set, simulator::World&) {
-        set.sessions = {{kFirst, kFirst + 60, 1, 1, 1}, {kSecond, kSecond + 60, 1, 1, 2}};
+        set.sessions = {{firstTime, firstTime + 60, 1, 1, 1},
+                        {secondTime, secondTime + 60, 1, 1, 2}};
         set.stored = std::make_shared<simulator::StoredData>();
         for (const char* path : {"C:\\docs\\b.txt", "C:\\notes.txt"})
-            set.stored->addFile(path,
-                                {{kFirst, kFirst + 60, 10, 8}, {kSecond, kSecond + 60, 0, 0}});
+            set.stored->addFile(
+                path, {{firstTime, firstTime + 60, 10, 8}, {secondTime, secondTime + 60, 0, 0}});
     });
     return openSet(documents);
 }
@@ -251,7 +252,7 @@ void RestoreSelectPageTest::theGenerationInTheFilterIsMarked() {
     auto& list = child<QListView>(page, "listSelection");
     child<QCheckBox>(page, "checkFilter").setChecked(true);
     child<QCheckBox>(page, "checkTo").setChecked(true);
-    child<QDateTimeEdit>(page, "dateTo").setDateTime(QDateTime::fromSecsSinceEpoch(kSecond));
+    child<QDateTimeEdit>(page, "dateTo").setDateTime(QDateTime::fromSecsSinceEpoch(secondTime));
     list.setCurrentIndex(list.model()->index(0, 0, list.rootIndex()));
     support::ModalDriver modals;
     modals.expect(q("generations"), support::isDialog<SelectGenerationDlg>, [](QWidget& dialog) {
@@ -279,7 +280,7 @@ void RestoreSelectPageTest::aGenerationOfAForgottenBackup() {
     list.setCurrentIndex(list.model()->index(0, 0, list.rootIndex()));
     takeCalls();
     pickGeneration(page, 1);
-    QCOMPARE(child<QDateTimeEdit>(page, "dateTo").dateTime().toSecsSinceEpoch(), kFirst + 60);
+    QCOMPARE(child<QDateTimeEdit>(page, "dateTo").dateTime().toSecsSinceEpoch(), firstTime + 60);
     QCOMPARE(takeCalls().at(2), std::string("BackupSet.prepare_restore(0, 1700000060, 0)"));
     QVERIFY(page.isComplete());
 }
@@ -289,7 +290,7 @@ void RestoreSelectPageTest::aFilterThatWasOffHidesNoGeneration() {
     RestoreSelectPage page(setWithFiles());
     for (const char* box : {"checkFilter", "checkFrom", "checkRemoved"})
         child<QCheckBox>(page, box).click();
-    child<QDateTimeEdit>(page, "dateFrom").setDateTime(QDateTime::fromSecsSinceEpoch(kSecond));
+    child<QDateTimeEdit>(page, "dateFrom").setDateTime(QDateTime::fromSecsSinceEpoch(secondTime));
     child<QCheckBox>(page, "checkFilter").click();
     auto& list = child<QListView>(page, "listSelection");
     const auto file = [&list] { return list.model()->index(0, 0, list.rootIndex()); };
@@ -317,8 +318,9 @@ void RestoreSelectPageTest::aGenerationOfAFileThatIsCalledLikeAFolder() {
     const Set set = setWithFiles();
     change(documents, [below](simulator::BackupSetState& state, simulator::World&) {
         state.stored = std::make_shared<simulator::StoredData>();
-        const auto& stored = state.stored->addFile(
-            "C:\\x\\old.txt", {{kFirst, kFirst + 60, 10, 8}, {kSecond, kSecond + 60, 9, 7}});
+        const auto& stored =
+            state.stored->addFile("C:\\x\\old.txt", {{firstTime, firstTime + 60, 10, 8},
+                                                     {secondTime, secondTime + 60, 9, 7}});
         auto file = std::make_shared<simulator::StoredNode>(stored);
         file->name = "x";
         auto& all = state.stored->root().children.front()->children;
@@ -374,7 +376,7 @@ void RestoreSelectPageTest::aGenerationOfTheHourThatComesTwice() {
 }
 
 void RestoreSelectPageTest::textsOfTheGenerations() {
-    SelectGenerationDlg dialog({{kFirst, kFirst, 0, 0}, {kSecond, kSecond, 2048, 10}});
+    SelectGenerationDlg dialog({{firstTime, firstTime, 0, 0}, {secondTime, secondTime, 2048, 10}});
     QCOMPARE(dialog.windowTitle(), q("Select a file generation to restore"));
     auto& table = child<QTableView>(dialog, "listGenerations");
     dialog.show();
@@ -394,14 +396,14 @@ void RestoreSelectPageTest::textsOfTheGenerations() {
 }
 
 void RestoreSelectPageTest::aGenerationHasToBeSelected() {
-    SelectGenerationDlg dialog({{kFirst, kFirst, 0, 0}, {kSecond, kSecond, 2048, 10}});
+    SelectGenerationDlg dialog({{firstTime, firstTime, 0, 0}, {secondTime, secondTime, 2048, 10}});
     auto& table = child<QTableView>(dialog, "listGenerations");
     auto& select = child<QPushButton>(dialog, "buttonSelect");
     QVERIFY(!select.isEnabled());
     QVERIFY(!dialog.chosenTime());
     table.selectRow(1);
     QVERIFY(select.isEnabled());
-    QCOMPARE(*dialog.chosenTime(), kFirst);
+    QCOMPARE(*dialog.chosenTime(), firstTime);
     table.clearSelection();
     QVERIFY(!select.isEnabled());
     table.selectRow(0);
@@ -409,7 +411,7 @@ void RestoreSelectPageTest::aGenerationHasToBeSelected() {
     QVERIFY(lightPointsOfPicture(table, table.model()->index(0, 0)) > 5);
     select.click();
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
-    QCOMPARE(*dialog.chosenTime(), kSecond);
+    QCOMPARE(*dialog.chosenTime(), secondTime);
 }
 
 void RestoreSelectPageTest::fieldsArePutBackInSilence() {
@@ -422,17 +424,17 @@ void RestoreSelectPageTest::fieldsArePutBackInSilence() {
     for (QWidget* field : {static_cast<QWidget*>(&box), static_cast<QWidget*>(&group),
                            static_cast<QWidget*>(&date), static_cast<QWidget*>(&number)})
         memo.remember(*field);
-    date.setDateTime(QDateTime::fromSecsSinceEpoch(kFirst));
+    date.setDateTime(QDateTime::fromSecsSinceEpoch(firstTime));
     memo.rememberAll();
     box.setChecked(true);
     group.setChecked(false);
-    date.setDateTime(QDateTime::fromSecsSinceEpoch(kSecond));
+    date.setDateTime(QDateTime::fromSecsSinceEpoch(secondTime));
     number.setValue(7);
     QSignalSpy boxes(&box, &QCheckBox::toggled);
     QSignalSpy dates(&date, &QDateTimeEdit::dateTimeChanged);
     memo.putBack();
     QVERIFY(!box.isChecked() && group.isChecked());
-    QCOMPARE(date.dateTime().toSecsSinceEpoch(), kFirst);
+    QCOMPARE(date.dateTime().toSecsSinceEpoch(), firstTime);
     QCOMPARE(number.value(), 0);
     QVERIFY(boxes.isEmpty() && dates.isEmpty());
 }

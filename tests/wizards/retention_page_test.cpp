@@ -14,7 +14,7 @@ using hessiancln::RetentionTimeUnit;
 using simulator::RetentionOptionState;
 using simulator::RetentionRuleState;
 
-constexpr RetentionTimeUnit kHours{2};
+constexpr RetentionTimeUnit hours{2};
 
 class Page : public ShownPage<RetentionSelectPage> {
 public:
@@ -41,8 +41,8 @@ std::shared_ptr<RetentionOptionState> validFor(RetentionTimeUnit unit) {
 }
 
 /// What is written at the end of a rule by a page that still has its defaults.
-const Calls kDefaultEnd{"RetentionRule.setCleanupRemovedFiles(false)",
-                        "RetentionRule.setLocalStorageRetention({period=0, unit=3})"};
+const Calls defaultEnd{"RetentionRule.setCleanupRemovedFiles(false)",
+                       "RetentionRule.setLocalStorageRetention({period=0, unit=3})"};
 
 Calls operator+(Calls first, const Calls& second) {
     first.insert(first.end(), second.begin(), second.end());
@@ -190,7 +190,7 @@ void RetentionPageTest::aBoxIsChosenByHowLongItsOptionHolds() {
 
 void RetentionPageTest::otherUnitsLeaveTheBoxesAlone() {
     give(music, {.name = "retention_for_set_8",
-                 .options = {validFor(kHours), validFor(RetentionTimeUnit::Days),
+                 .options = {validFor(hours), validFor(RetentionTimeUnit::Days),
                              validFor(RetentionTimeUnit{7})}});
     Page page;
     load(page, music);
@@ -219,7 +219,7 @@ void RetentionPageTest::aCleanupPeriodOfZeroIsShown() {
 }
 
 void RetentionPageTest::aUnitThatIsNotOfferedLeavesTheListEmpty() {
-    give(music, {.name = "Hours", .cleanupRemoved = true, .cleanupAfter = {36, kHours}});
+    give(music, {.name = "Hours", .cleanupRemoved = true, .cleanupAfter = {36, hours}});
     Page page;
     load(page, music);
     QCOMPARE(page.spin("spinCleanupAfterPeriod").value(), 36);
@@ -292,7 +292,7 @@ void RetentionPageTest::aSharedRuleIsLeftAlone() {
                "RetentionRule.setName(\"retention_for_set_1\")",
                "BackupSet.setRetentionRule(RetentionRule(retention_for_set_1))",
                "RetentionRule.setKeepLastGenerations(3)", "RetentionRule.getTimeRetentions()"}) +
-            kDefaultEnd);
+            defaultEnd);
     QCOMPARE(ruleOf(mail).name, before.name);
     QCOMPARE(ruleOf(mail).options.size(), before.options.size());
     QCOMPARE(ruleOf(mail).keepLast, before.keepLast);
@@ -306,7 +306,7 @@ void RetentionPageTest::theOwnRuleIsWrittenAnew() {
                     "ClientConnection.getRetentionRuleManager()", "RetentionRule.getName()",
                     "RetentionRule.setKeepLastGenerations(3)", "RetentionRule.getTimeRetentions()",
                     "RetentionRule.removeTimeRetentionOption(TimeRetentionOption)"}) +
-                 kDefaultEnd);
+                 defaultEnd);
 }
 
 void RetentionPageTest::anOwnRuleThatTheSetLostIsTakenAgain() {
@@ -323,7 +323,7 @@ void RetentionPageTest::anOwnRuleThatTheSetLostIsTakenAgain() {
                "RetentionRule.getName()", "RetentionRule.getName()", "RetentionRule.getName()",
                "BackupSet.setRetentionRule(RetentionRule(retention_for_set_8))",
                "RetentionRule.setKeepLastGenerations(3)", "RetentionRule.getTimeRetentions()"}) +
-            kDefaultEnd);
+            defaultEnd);
     QCOMPARE(ruleCount(), rules);
 }
 
@@ -350,7 +350,7 @@ void RetentionPageTest::intervalsAreWrittenInTheirOrder() {
         (Calls{"BackupSet.getID()", "BackupSet.getRetentionRule()",
                "ClientConnection.getRetentionRuleManager()", "RetentionRule.getName()",
                "RetentionRule.setKeepLastGenerations(3)", "RetentionRule.getTimeRetentions()"}) +
-            option("3", "4") + option("4", "5") + option("5", "6") + kDefaultEnd);
+            option("3", "4") + option("4", "5") + option("5", "6") + defaultEnd);
 }
 
 void RetentionPageTest::theCleanupIsWritten() {

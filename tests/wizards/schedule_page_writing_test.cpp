@@ -8,8 +8,8 @@ using Calls = PageFixture::Calls;
 using Page = ShownSchedulePage;
 using hessiancln::ScheduleDetailType;
 
-const Calls kLastCalls{"BackupSet.setActive(true)", "ClientConnection.getConfigurationManager()",
-                       "ClientConfiguration.setAdvancedConfigNumber(\"ScheduleMiss\", 4)"};
+const Calls lastCalls{"BackupSet.setActive(true)", "ClientConnection.getConfigurationManager()",
+                      "ClientConfiguration.setAdvancedConfigNumber(\"ScheduleMiss\", 4)"};
 
 } // namespace
 
@@ -217,7 +217,7 @@ void SchedulePageWritingTest::leavingTheOwnScheduleRemovesIt() {
                    "Schedule.getName()",
                    "BackupSet.setSchedule(null)",
                    "ScheduleManager.removeSchedule(Schedule(schedule_for_set_8))"};
-    expected.insert(expected.end(), kLastCalls.begin(), kLastCalls.end());
+    expected.insert(expected.end(), lastCalls.begin(), lastCalls.end());
     QCOMPARE(takeCalls(), expected);
     QCOMPARE(scheduleNames(), (Calls{"Every evening", "First of the month", "On start-up"}));
 }
@@ -230,7 +230,7 @@ void SchedulePageWritingTest::leavingASharedScheduleDetachesIt() {
     Calls expected{"BackupSet.getID()", "BackupSet.getSchedule()",
                    "ClientConnection.getScheduleManager()", "Schedule.getName()",
                    "BackupSet.setSchedule(null)"};
-    expected.insert(expected.end(), kLastCalls.begin(), kLastCalls.end());
+    expected.insert(expected.end(), lastCalls.begin(), lastCalls.end());
     QCOMPARE(takeCalls(), expected);
     QCOMPARE(scheduleNames(), (Calls{"Every evening", "First of the month", "On start-up"}));
     QCOMPARE(scheduleOf(mail).name, std::string("Every evening"));
@@ -243,7 +243,7 @@ void SchedulePageWritingTest::stayingUnscheduledWritesNoSchedule() {
     page->apply(set);
     Calls expected{"BackupSet.getID()", "BackupSet.getSchedule()",
                    "ClientConnection.getScheduleManager()"};
-    expected.insert(expected.end(), kLastCalls.begin(), kLastCalls.end());
+    expected.insert(expected.end(), lastCalls.begin(), lastCalls.end());
     QCOMPARE(takeCalls(), expected);
 }
 

@@ -15,7 +15,7 @@ using wizards::directoryNameOf;
 using wizards::shareMappings;
 using wizards::truncateLevelOf;
 
-constexpr char kTarget[] = "D:\\Back/restore_now/";
+constexpr char target[] = "D:\\Back/restore_now/";
 
 std::vector<std::string> directoriesOf(const std::vector<std::string>& shares) {
     std::vector<selected_shares> selected;
@@ -50,7 +50,7 @@ TEST(DirectoryNameTest, OfDroppedCharactersOnlyIsData) {
 }
 
 TEST(ShareMappingsTest, OneShareGoesToTheDestinationItself) {
-    const auto made = shareMappings({{"C:", "C:\\Users\\ann"}}, kTarget);
+    const auto made = shareMappings({{"C:", "C:\\Users\\ann"}}, target);
     EXPECT_EQ(made.truncateLevel, 2);
     ASSERT_EQ(made.mappings.size(), 1u);
     EXPECT_EQ(made.mappings[0].source_share, "C:");
@@ -67,7 +67,7 @@ TEST(ShareMappingsTest, OneShareWithoutDirectoriesKeepsItsLevels) {
 }
 
 TEST(ShareMappingsTest, OfSeveralSharesEachHasItsDirectory) {
-    const auto made = shareMappings({{"C:", "C:\\Users\\ann"}, {"D:", "D:\\x\\y"}}, kTarget);
+    const auto made = shareMappings({{"C:", "C:\\Users\\ann"}, {"D:", "D:\\x\\y"}}, target);
     EXPECT_EQ(made.truncateLevel, 0);
     ASSERT_EQ(made.mappings.size(), 2u);
     EXPECT_EQ(made.mappings[0].source_share, "C:");
@@ -79,7 +79,7 @@ TEST(ShareMappingsTest, OfSeveralSharesEachHasItsDirectory) {
 }
 
 TEST(ShareMappingsTest, NoShareMapsNothing) {
-    const auto made = shareMappings({}, kTarget);
+    const auto made = shareMappings({}, target);
     EXPECT_EQ(made.truncateLevel, 0);
     EXPECT_THAT(made.mappings, IsEmpty());
 }

@@ -395,13 +395,13 @@ void SourcePageTest::theUserSeesThatTheCheckTakesItsTime() {
     support::CursorWatch watch;
     driver.wizard().installEventFilter(&watch);
     driver.pressNext();
-    QCOMPARE(watch.shown, support::kWaited);
+    QCOMPARE(watch.shown, support::waited);
     watch.shown.clear();
     driver.wizard().back();
     session.source.agent.inject("check", simulator::Fault{"No."});
     ModalDriver modals;
     modals.expect(QStringLiteral("box"), support::isDialog<QMessageBox>, [&](QWidget& box) {
-        QCOMPARE(watch.shown, support::kWaited);
+        QCOMPARE(watch.shown, support::waited);
         static_cast<QMessageBox&>(box).accept();
     });
     driver.pressNext();

@@ -25,9 +25,8 @@ public:
         const int failure = readWithRoom(texts, [&] {
             return getpwnam_r(name.c_str(), &entry, texts.data(), texts.size(), &found);
         });
-        if (failure != 0 || !found) {
+        if (failure != 0 || !found)
             return std::nullopt;
-        }
         return Account{found->pw_uid, found->pw_gid};
     }
 
@@ -38,13 +37,11 @@ public:
         const int failure = readWithRoom(texts, [&] {
             return getgrnam_r(name.c_str(), &entry, texts.data(), texts.size(), &found);
         });
-        if (failure != 0 || !found) {
+        if (failure != 0 || !found)
             return std::nullopt;
-        }
         Group result{found->gr_gid, {}};
-        for (char** member = found->gr_mem; member && *member; ++member) {
+        for (char** member = found->gr_mem; member && *member; ++member)
             result.members.emplace_back(*member);
-        }
         return result;
     }
 };

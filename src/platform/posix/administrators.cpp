@@ -10,22 +10,18 @@ namespace platform {
 
 bool isAdministrator(const std::string& user, AccountDatabase& accounts) {
     // A zero inside the name would cut it short on its way to the system.
-    if (user.empty() || user.find('\0') != std::string::npos) {
+    if (user.empty() || user.find('\0') != std::string::npos)
         return false;
-    }
     const std::optional<Account> account = accounts.account(user);
-    if (!account) {
+    if (!account)
         return false;
-    }
-    if (account->id == 0) {
+    if (account->id == 0)
         return true;
-    }
     for (const char* name : {"sudo", "wheel", "admin"}) {
         const std::optional<Group> group = accounts.group(name);
         if (group && (group->id == account->primaryGroup ||
-                      std::ranges::find(group->members, user) != group->members.end())) {
+                      std::ranges::find(group->members, user) != group->members.end()))
             return true;
-        }
     }
     return false;
 }

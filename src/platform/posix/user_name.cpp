@@ -15,9 +15,8 @@ std::string currentWindowsUser() {
     std::vector<char> texts(roomForAnAccount);
     passwd account{};
     passwd* found = nullptr;
-    if (getpwuid_r(geteuid(), &account, texts.data(), texts.size(), &found) != 0 || !found) {
+    if (getpwuid_r(geteuid(), &account, texts.data(), texts.size(), &found) != 0 || !found)
         return {};
-    }
     return found->pw_name;
 }
 

@@ -30,9 +30,8 @@ OwnedSid administratorsSid() {
     SID_IDENTIFIER_AUTHORITY authority = {SECURITY_NT_AUTHORITY};
     PSID sid = nullptr;
     if (!AllocateAndInitializeSid(&authority, 2, SECURITY_BUILTIN_DOMAIN_RID,
-                                  DOMAIN_ALIAS_RID_ADMINS, 0, 0, 0, 0, 0, 0, &sid)) {
+                                  DOMAIN_ALIAS_RID_ADMINS, 0, 0, 0, 0, 0, 0, &sid))
         return nullptr;
-    }
     return OwnedSid(sid);
 }
 
@@ -59,9 +58,8 @@ bool isGroup(const wchar_t* name, PSID wanted) {
 bool isAdministrator(const std::string& user) {
     const std::wstring name = toWide(user);
     // A zero inside the name would cut it short on its way to the system.
-    if (name.empty() || name.find(L'\0') != std::wstring::npos) {
+    if (name.empty() || name.find(L'\0') != std::wstring::npos)
         return false;
-    }
     LPBYTE buffer = nullptr;
     DWORD count = 0;
     DWORD total = 0;
@@ -69,18 +67,14 @@ bool isAdministrator(const std::string& user) {
         NetUserGetLocalGroups(nullptr, name.c_str(), 0, LG_INCLUDE_INDIRECT, &buffer,
                               MAX_PREFERRED_LENGTH, &count, &total);
     const OwnedGroups groups(reinterpret_cast<LOCALGROUP_USERS_INFO_0*>(buffer));
-    if (status != NERR_Success || !groups) {
+    if (status != NERR_Success || !groups)
         return false;
-    }
     const OwnedSid administrators = administratorsSid();
-    if (!administrators) {
+    if (!administrators)
         return false;
-    }
-    for (const LOCALGROUP_USERS_INFO_0& group : std::span(groups.get(), count)) {
-        if (isGroup(group.lgrui0_name, administrators.get())) {
+    for (const LOCALGROUP_USERS_INFO_0& group : std::span(groups.get(), count))
+        if (isGroup(group.lgrui0_name, administrators.get()))
             return true;
-        }
-    }
     return false;
 }
 

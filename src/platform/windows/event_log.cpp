@@ -10,9 +10,8 @@ namespace platform {
 
 void reportError(const std::string& source, const std::string& text) {
     const HANDLE log = RegisterEventSourceW(nullptr, toWide(source).c_str());
-    if (!log) {
+    if (!log)
         return;
-    }
     const char* line = text.c_str();
     ReportEventA(log, EVENTLOG_ERROR_TYPE, 0, 0xFFFFFFFF, nullptr, 1, 0, &line, nullptr);
     DeregisterEventSource(log);

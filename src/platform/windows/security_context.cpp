@@ -37,9 +37,8 @@ public:
     SecurityStatus queryMaxTokenSize(std::uint32_t& maxTokenSize) override {
         SecPkgInfoW* package = nullptr;
         const SECURITY_STATUS status = QuerySecurityPackageInfoW(packageName, &package);
-        if (status < 0) {
+        if (status < 0)
             return status;
-        }
         maxTokenSize = package->cbMaxToken;
         FreeContextBuffer(package);
         return status;
@@ -51,9 +50,8 @@ public:
         const SECURITY_STATUS status =
             AcquireCredentialsHandleW(nullptr, packageName, SECPKG_CRED_OUTBOUND, nullptr, nullptr,
                                       nullptr, nullptr, &acquired, &expiry);
-        if (status >= 0) {
+        if (status >= 0)
             credentials = fromSystem(acquired);
-        }
         return status;
     }
 

@@ -11,9 +11,8 @@ namespace platform {
 std::string currentWindowsUser() {
     wchar_t name[512];
     DWORD count = 512;
-    if (!GetUserNameW(name, &count) || count == 0) {
+    if (!GetUserNameW(name, &count) || count == 0)
         return {};
-    }
     return toUtf8({name, count - 1}); // the count includes the terminating zero
 }
 
