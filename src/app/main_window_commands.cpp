@@ -1,22 +1,23 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
-// The main window's commands that open something else: a page, a dialog or a wizard.
-#include <QDesktopServices>
-#include <QUrl>
+// The main window's slots that act on sets and activities, and those of its icon in the tray.
+#include <QContextMenuEvent>
+#include <QDateTime>
+#include <QMenu>
 
-#include "app/about_dlg.h"
-#include "app/backup_set_view_item.h"
+#include "app/activity_commands.h"
+#include "app/activity_tables.h"
+#include "app/backup_set_list.h"
+#include "app/event_log_viewer.h"
+#include "app/log_span.h"
 #include "app/open_backup_set.h"
 #include "app/simple_gui_main_window.h"
-#include "config/ad_account_dlg.h"
-#include "config/admin_flow.h"
-#include "config/init_clnt_cfg_dlg.h"
-#include "config/recovery_dlg.h"
-#include "config/register_dlg.h"
-#include "config/tfa_users_viewer.h"
+#include "app/tray_presence.h"
 #include "session/process_values.h"
-#include "ui/branding_resources.h"
-#include "ui/remote_action.h"
+#include "session/text.h"
+#include "ui/error_box.h"
+#include "ui/locale_text.h"
+#include "ui_simple_gui_main_window.h"
 #include "wizards/delete_flow.h"
 #include "wizards/items_flow.h"
 #include "wizards/new_set_flow.h"
@@ -24,60 +25,58 @@
 #include "wizards/retention_flow.h"
 #include "wizards/schedule_flow.h"
 
-void SimpleGUIMainWindow::on_actionLogo_triggered() {
-    QDesktopServices::openUrl(QUrl::fromUserInput(ui::g_branding.homePageUrl()));
+namespace {
+
+void filter(EventLogViewer& viewer, const std::optional<hessiancln::activity_log_info>& activity) {
+    if (activity) {
+        viewer.showFor(QDateTime::fromSecsSinceEpoch(activity->start_time),
+                       QDateTime::fromSecsSinceEpoch(activity->end_time), activity->id);
+    } else {
+        const app::LogSpan span = app::yesterdayAndToday(QDate::currentDate());
+        viewer.showFor(span.from, span.to, 0);
+    }
 }
 
-void SimpleGUIMainWindow::on_actionHelp_triggered() {
-    const QString url = QStringLiteral(TARN_HELP_URL);
-    if (!QDesktopServices::openUrl(QUrl(url)))
-        showStatus(tr("Failed to open the help file %1.").arg(url));
+/// The key that leads to a deletion isn't disabled with the command.
+bool mayDelete(const hessiancln::backup_set_info& set) {
+    return !session::g_isCentrallyManaged || !set.is_created_by_policy;
 }
 
-void SimpleGUIMainWindow::on_action_About_triggered() {
-    ui::remoteAction(*this, tr("Configuration Error"), ui::Cursor::arrow, [this] {
-        AboutDlg dialog(this);
-        dialog.exec();
-    });
+} // namespace
+
+BackupSetViewItem* SimpleGUIMainWindow::selectedSetItem() const {
+    return sets_->selectedCard();
 }
 
-void SimpleGUIMainWindow::on_actionRegister_triggered() {
-    ui::remoteAction(*this, tr("Configuration Error"), ui::Cursor::arrow, [this] {
-        RegisterDlg dialog(this);
-        dialog.exec();
-    });
+void SimpleGUIMainWindow::selectSetOnceListed(std::int32_t setId) {
+    sets_->selectOnceListed(setId);
 }
 
-void SimpleGUIMainWindow::on_action_Recovery_triggered() {
-    ui::remoteAction(*this, tr("Configuration Error"), ui::Cursor::arrow, [this] {
-        RecoveryDlg dialog(this);
-        dialog.exec();
-    });
+void SimpleGUIMainWindow::commandSelectedSet(const QString& errorTitle, ui::Cursor cursor,
+                                             const SetCommand& command) {
+    const BackupSetViewItem* card = selectedSetItem();
+    if (!card) {
+        ui::showError(this, tr("Error"), tr("No backup set selected."));
+        return;
+    }
+    // A copy: the card may go while a wizard is open.
+    const hessiancln::backup_set_info set = card->record();
+    ui::remoteAction(*this, errorTitle, cursor, [&] { command(set); });
 }
 
-void SimpleGUIMainWindow::on_actionRegistration_Info_triggered() {
-    ui::remoteAction(*this, tr("Configuration Error"), ui::Cursor::arrow, [this] {
-        InitClntCfgDlg dialog(false, this);
-        dialog.exec();
-    });
+void SimpleGUIMainWindow::start(StartOnSet* begin, const hessiancln::backup_set_info& set,
+                                const QString& status) {
+    // Kept for as long as the activity is spoken of.
+    const auto activity = begin(set.id);
+    RefreshActivityLogs();
+    showStatus(status.arg(ui::timeText(QDateTime::currentSecsSinceEpoch(), QLocale::LongFormat),
+                          session::fromWire(set.name)));
 }
 
-void SimpleGUIMainWindow::on_actionLDAP_Account_triggered() {
-    ui::remoteAction(*this, tr("LDAP User Validation Error"), ui::Cursor::arrow, [this] {
-        ADAccountDlg dialog(this);
-        dialog.exec();
-    });
-}
-
-void SimpleGUIMainWindow::on_actionAdmin_triggered() {
-    ui::remoteAction(*this, tr("Configuration Error"), ui::Cursor::arrow,
-                     [this] { config::editAdminTimes(*this); });
-}
-
-void SimpleGUIMainWindow::on_actionTFASettings_triggered() {
-    ui::remoteAction(*this, tr("2FA Settings Error"), ui::Cursor::arrow, [this] {
-        TFAUsersViewer dialog(this);
-        dialog.exec();
+void SimpleGUIMainWindow::editSelectedSet(EditSet* edit) {
+    commandSelectedSet(tr("Error"), ui::Cursor::arrow, [this, edit](const auto& set) {
+        if (edit(*this, app::openBackupSet(set.id)))
+            showSetDetails();
     });
 }
 
@@ -88,16 +87,40 @@ void SimpleGUIMainWindow::OnNewBackupSet() {
     });
 }
 
-void SimpleGUIMainWindow::on_btnItems_clicked() {
-    const BackupSetViewItem* card = requireSetItem();
-    if (!card)
-        return;
-    // A copy: the card may go while the wizard is open.
-    const hessiancln::backup_set_info info = card->record();
-    ui::remoteAction(*this, tr("Editing Backup Set Items Error"), ui::Cursor::arrow, [this, &info] {
-        const wizards::SetFeatures features = wizards::readSetFeatures();
-        wizards::editItems(*this, features, app::openBackupSet(info.id), info.has_items);
+void SimpleGUIMainWindow::OnBackupNow() {
+    commandSelectedSet(tr("Error"), ui::Cursor::wait, [this](const auto& set) {
+        start(app::startBackup, set, tr("%1: On-demand backup started for '%2'"));
     });
+}
+
+void SimpleGUIMainWindow::OnSync() {
+    commandSelectedSet(tr("Error"), ui::Cursor::arrow, [this](const auto& set) {
+        start(app::startSync, set, tr("%1: On-demand Synchronization started for '%2'"));
+    });
+}
+
+void SimpleGUIMainWindow::OnRestore() {
+    commandSelectedSet(tr("Error"), ui::Cursor::arrow, [this](const auto& set) {
+        if (const auto activity = wizards::restoreFromSet(*this, app::openBackupSet(set.id)))
+            refreshAll();
+    });
+}
+
+void SimpleGUIMainWindow::OnDelete() {
+    commandSelectedSet(tr("Error"), ui::Cursor::arrow, [this](const auto& set) {
+        if (!mayDelete(set))
+            return;
+        if (const auto activity = wizards::deleteFromSet(*this, app::openBackupSet(set.id)))
+            refreshAll();
+    });
+}
+
+void SimpleGUIMainWindow::on_btnItems_clicked() {
+    commandSelectedSet(
+        tr("Editing Backup Set Items Error"), ui::Cursor::arrow, [this](const auto& set) {
+            const wizards::SetFeatures features = wizards::readSetFeatures();
+            wizards::editItems(*this, features, app::openBackupSet(set.id), set.has_items);
+        });
 }
 
 void SimpleGUIMainWindow::on_btnRetention_clicked() {
@@ -108,39 +131,62 @@ void SimpleGUIMainWindow::on_btnSchedule_clicked() {
     editSelectedSet(wizards::editSchedule);
 }
 
-void SimpleGUIMainWindow::editSelectedSet(
-    bool (*edit)(QWidget& parent, const boost::shared_ptr<hessiancln::BackupSet>& set)) {
-    const BackupSetViewItem* card = requireSetItem();
-    if (!card)
-        return;
-    const std::int32_t id = card->record().id;
-    ui::remoteAction(*this, tr("Error"), ui::Cursor::arrow, [this, edit, id] {
-        if (edit(*this, app::openBackupSet(id)))
-            showSetDetails();
+void SimpleGUIMainWindow::OnBackupSetSelectionChanged(const QItemSelection&,
+                                                      const QItemSelection&) {
+    showSetDetails();
+    updateEnabling();
+}
+
+void SimpleGUIMainWindow::backupSetContextMenu(BackupSetViewItem*, QContextMenuEvent* event) {
+    // Not run in a loop of its own: a heartbeat may take away the card that asked for it.
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addAction(ui_->actionBackup_Now);
+    menu->addAction(ui_->actionRestore);
+    menu->addAction(ui_->actionDeleteFromOnline);
+    menu->addSeparator();
+    menu->addAction(ui_->actionSynchronize);
+    menu->popup(event->globalPos());
+}
+
+void SimpleGUIMainWindow::OnRunningActivitySelectionChanged(const QItemSelection&,
+                                                            const QItemSelection&) {
+    ui_->buttonStop->setEnabled(activities_->anyRunningSelected());
+}
+
+void SimpleGUIMainWindow::OnStopActivity() {
+    ui::remoteAction(*this, tr("Error"), ui::Cursor::arrow, [this] {
+        for (const std::int32_t id : activities_->selectedRunning())
+            showStatus(tr("Sent a stop request to activity with id %1")
+                           .arg(ui::numberText(app::stopActivity(id))));
     });
 }
 
-void SimpleGUIMainWindow::OnRestore() {
-    const BackupSetViewItem* card = requireSetItem();
-    if (!card)
-        return;
-    const std::int32_t id = card->record().id;
-    ui::remoteAction(*this, tr("Error"), ui::Cursor::arrow, [this, id] {
-        if (const auto activity = wizards::restoreFromSet(*this, app::openBackupSet(id)))
-            refreshAll();
-    });
+void SimpleGUIMainWindow::ShowEventLog() {
+    EventLogViewer viewer(this);
+    filter(viewer, activities_->selectedLogEntry());
+    viewer.exec();
 }
 
-void SimpleGUIMainWindow::OnDelete() {
-    const BackupSetViewItem* card = requireSetItem();
-    if (!card)
-        return;
-    // The key that leads here isn't disabled with the command.
-    if (session::g_isCentrallyManaged && card->record().is_created_by_policy)
-        return;
-    const std::int32_t id = card->record().id;
-    ui::remoteAction(*this, tr("Error"), ui::Cursor::arrow, [this, id] {
-        if (const auto activity = wizards::deleteFromSet(*this, app::openBackupSet(id)))
-            refreshAll();
-    });
+void SimpleGUIMainWindow::activityChangeDetected(
+    const QList<hessiancln::running_activity_info>& appeared,
+    const QList<hessiancln::running_activity_info>& disappeared) {
+    tray_->announce(appeared, disappeared);
+}
+
+void SimpleGUIMainWindow::showMainWindow() {
+    tray_->showWindow();
+}
+
+void SimpleGUIMainWindow::hideMainWindow() {
+    tray_->hideWindow();
+}
+
+void SimpleGUIMainWindow::sysTrayActivated(QSystemTrayIcon::ActivationReason reason) {
+    if (reason == QSystemTrayIcon::Trigger)
+        showMainWindow();
+}
+
+void SimpleGUIMainWindow::sysTrayMessageClicked() {
+    tray_->endReminder();
 }

@@ -1,21 +1,24 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
-// How a session of the main window begins and ends.
+// A session of the main window: how it begins, what the window learns in it, and how it ends.
 #include <QCoreApplication>
 #include <QDateTime>
 
 #include "api/client_connection.h"
+#include "app/activity_commands.h"
+#include "app/activity_tables.h"
+#include "app/agent_policy.h"
+#include "app/backup_set_list.h"
 #include "app/initial_configuration.h"
 #include "app/login_check.h"
+#include "app/set_details_panel.h"
 #include "app/simple_gui_main_window.h"
 #include "config/init_clnt_cfg_dlg.h"
 #include "session/connection.h"
 #include "session/integrated_logon.h"
-#include "session/required.h"
 #include "session/text.h"
 #include "ui/error_box.h"
 #include "ui/locale_text.h"
-#include "ui/remote_action.h"
 #include "ui_simple_gui_main_window.h"
 
 bool SimpleGUIMainWindow::doLogin(bool automatic) {
@@ -94,16 +97,69 @@ void SimpleGUIMainWindow::openInitialConfiguration() {
 }
 
 void SimpleGUIMainWindow::offerNewBackupSet() {
-    if (session::connectedToAgent() && setRows_.rowCount() == 0 && !session::g_isCentrallyManaged)
+    if (session::connectedToAgent() && sets_->count() == 0 && !session::g_isCentrallyManaged)
         OnNewBackupSet();
 }
 
 void SimpleGUIMainWindow::startDailyAdmin() {
     ui::remoteAction(*this, tr("Error"), ui::Cursor::arrow, [this] {
-        const auto manager = session::required(session::getConnection()->getConfigurationManager());
-        const auto activity = manager->start_daily_admin();
+        const auto activity = app::startDailyAdmin();
         RefreshActivityLogs();
         showStatus(tr("%1: Daily admin started.")
                        .arg(ui::timeText(QDateTime::currentSecsSinceEpoch(), QLocale::LongFormat)));
     });
+}
+
+void SimpleGUIMainWindow::refreshAll() {
+    if (!session::connectedToAgent()) {
+        activities_->clear();
+        sets_->clear();
+        return;
+    }
+    try {
+        RefreshTarnClientInfo();
+        RefreshActivityLogs();
+        refreshBackupSets();
+    } catch (const std::exception& error) {
+        showStatus(ui::errorText(error));
+        activities_->clear();
+    }
+}
+
+void SimpleGUIMainWindow::RefreshTarnClientInfo() {
+    refresh(app::readAgentPolicy);
+}
+
+void SimpleGUIMainWindow::RefreshActivityLogs() {
+    refresh([this] { activities_->refresh(); });
+}
+
+void SimpleGUIMainWindow::refresh(const std::function<void()>& read) {
+    if (!session::connectedToAgent())
+        return;
+    try {
+        read();
+        updateEnabling();
+    } catch (const std::exception& error) {
+        showStatus(ui::errorText(error));
+        activities_->clear();
+        OnDisconnect();
+    }
+}
+
+void SimpleGUIMainWindow::refreshBackupSets() {
+    if (!sets_->rebuild())
+        return;
+    // Last, when all rows are what they will be: an error box lets the next heartbeat in.
+    showSetDetails();
+    updateEnabling();
+}
+
+void SimpleGUIMainWindow::showSetDetails() {
+    const BackupSetViewItem* card = selectedSetItem();
+    // As rows go one by one with their session, the view may select another one for a moment.
+    if (card && session::connectedToAgent())
+        details_->show(card->record().id);
+    else
+        details_->clear();
 }

@@ -2,22 +2,19 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "app/simple_gui_main_window.h"
 
-#include <array>
-
-#include <QCoreApplication>
-#include <QEvent>
+#include <QCloseEvent>
 #include <QGuiApplication>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QScreen>
 
-#include <boost/thread/thread.hpp>
-
-#include "app/activity_progress_item_delegate.h"
-#include "app/log_span.h"
+#include "app/activity_tables.h"
+#include "app/backup_set_list.h"
+#include "app/enable_state.h"
+#include "app/set_details_panel.h"
+#include "app/tray_presence.h"
+#include "session/process_values.h"
 #include "ui/branding_resources.h"
-#include "ui/fitting_text_delegate.h"
 #include "ui_simple_gui_main_window.h"
 
 namespace {
@@ -25,8 +22,6 @@ namespace {
 constexpr int kWidth = 1000;
 constexpr int kSetsWidth = 650;
 constexpr int kDetailsWidth = 350;
-constexpr std::array kLogWidths{150, 280, 60, 80, 140, 140, 120, 60, 100};
-constexpr std::array kRunningWidths{130, 140, 120, 320, 450};
 
 /// Wants all the width that there is, and needs none. In a row of tool bars the last one gets what
 /// the others don't want; with this in the first bar, the last one stands at the right end.
@@ -37,48 +32,28 @@ public:
     QSize minimumSizeHint() const override { return {0, 0}; }
 };
 
-template <class Widths>
-void setUpTable(QTableView& table, app::SortedTableModel& model, const Widths& widths,
-                int sortColumn) {
-    table.setModel(&model);
-    for (std::size_t column = 0; column < widths.size(); ++column)
-        table.setColumnWidth(static_cast<int>(column), widths[column]);
-    table.setItemDelegate(new ui::FittingTextDelegate(&table));
-    // In the middle of its column, the header of a wide one would be out of sight.
-    table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    table.sortByColumn(sortColumn, Qt::DescendingOrder);
-}
-
 } // namespace
 
 SimpleGUIMainWindow::SimpleGUIMainWindow(QWidget* parent, std::unique_ptr<app::TrayIcon> tray)
     : QMainWindow(parent)
     , ui_(std::make_unique<Ui::SimpleGUIMainWindow>())
-    , heartbeatEventType_(QEvent::registerEventType())
-    , tray_(std::move(tray))
-    , actionShow_(new QAction(this))
-    , actionHide_(new QAction(this))
-    , trayMenu_(new QMenu(this)) {
+    , heartbeat_(*this) {
     ui_->setupUi(this);
     ui_->pageProperties->resize(ui_->pageProperties->layout()->sizeHint());
     setUpBranding();
     setUpToolBars();
-    setUpDateRange();
-    setUpActivityLog();
-    setUpRunningActivities();
-    setUpBackupSetsView();
+    setUpActivities();
+    setUpBackupSets();
     setUpGeometry();
     updateEnabling();
-    watcher_ = std::make_unique<boost::thread>(&SimpleGUIMainWindow::activityWatcherLoop, this);
+    heartbeat_.start();
     ui_->backupSetsView->installEventFilter(this);
-    setUpTray();
+    setUpTray(std::move(tray));
 }
 
 SimpleGUIMainWindow::~SimpleGUIMainWindow() {
-    stopWatcher_ = true;
-    watcher_->interrupt();
-    watcher_->join();
-    abandonEditing();
+    heartbeat_.stop();
+    sets_->abandonEditing();
 }
 
 void SimpleGUIMainWindow::setUpBranding() {
@@ -93,32 +68,26 @@ void SimpleGUIMainWindow::setUpToolBars() {
     ui_->toolBarLogo->setMinimumWidth(ui_->toolBarLogo->sizeHint().width());
 }
 
-void SimpleGUIMainWindow::setUpDateRange() {
-    const app::LogSpan span = app::yesterdayAndToday(QDate::currentDate());
-    ui_->dateTimeFrom->setDateTime(span.from);
-    ui_->dateTimeTo->setDateTime(span.to);
-}
-
-void SimpleGUIMainWindow::setUpActivityLog() {
-    setUpTable(*ui_->tableActivityLog, activityLog_, kLogWidths, ActivityLogModel::start);
-}
-
-void SimpleGUIMainWindow::setUpRunningActivities() {
-    QTableView& table = *ui_->tableCurrentActivities;
-    setUpTable(table, running_, kRunningWidths, RunningActivitiesModel::startTime);
-    app::keepSortArrow(table, running_);
-    table.setItemDelegateForColumn(RunningActivitiesModel::progress,
-                                   new CActivityProgressItemDelegate(running_, &table));
-    connect(table.selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            &SimpleGUIMainWindow::OnRunningActivitySelectionChanged);
-    connect(&running_, &RunningActivitiesModel::activityChangeDetected, this,
+void SimpleGUIMainWindow::setUpActivities() {
+    activities_ = std::make_unique<app::ActivityTables>(
+        app::ActivityTables::Widgets{*ui_->tableCurrentActivities, *ui_->tableActivityLog,
+                                     *ui_->dateTimeFrom, *ui_->dateTimeTo});
+    connect(ui_->tableCurrentActivities->selectionModel(), &QItemSelectionModel::selectionChanged,
+            this, &SimpleGUIMainWindow::OnRunningActivitySelectionChanged);
+    connect(&activities_->running(), &RunningActivitiesModel::activityChangeDetected, this,
             &SimpleGUIMainWindow::activityChangeDetected);
 }
 
-void SimpleGUIMainWindow::setUpBackupSetsView() {
-    ui_->backupSetsView->setModel(&setRows_);
-    connect(ui_->backupSetsView->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+void SimpleGUIMainWindow::setUpBackupSets() {
+    sets_ = std::make_unique<app::BackupSetList>(*ui_->backupSetsView);
+    connect(sets_.get(), &app::BackupSetList::selectionChanged, this,
             &SimpleGUIMainWindow::OnBackupSetSelectionChanged);
+    connect(sets_.get(), &app::BackupSetList::contextMenuNeedsDisplay, this,
+            &SimpleGUIMainWindow::backupSetContextMenu);
+    details_ = std::make_unique<app::SetDetailsPanel>(
+        *ui_->pageProperties,
+        app::SetDetailsPanel::Labels{*ui_->valLastBackup, *ui_->valFileGens, *ui_->valSize,
+                                     *ui_->valItems, *ui_->valSchedule, *ui_->valRetention});
 }
 
 void SimpleGUIMainWindow::setUpGeometry() {
@@ -130,8 +99,63 @@ void SimpleGUIMainWindow::setUpGeometry() {
     ui_->splitterSetView->setStretchFactor(1, 0);
 }
 
+void SimpleGUIMainWindow::setUpTray(std::unique_ptr<app::TrayIcon> icon) {
+    tray_ = std::make_unique<app::TrayPresence>(*this, *ui_->actionQuit, std::move(icon));
+    connect(&tray_->actionShow(), &QAction::triggered, this, &SimpleGUIMainWindow::showMainWindow);
+    connect(&tray_->actionHide(), &QAction::triggered, this, &SimpleGUIMainWindow::hideMainWindow);
+    connect(&tray_->icon(), &QSystemTrayIcon::activated, this,
+            &SimpleGUIMainWindow::sysTrayActivated);
+    connect(&tray_->icon(), &QSystemTrayIcon::messageClicked, this,
+            &SimpleGUIMainWindow::sysTrayMessageClicked);
+}
+
+app::EnableInputs SimpleGUIMainWindow::enableInputs() const {
+    app::EnableInputs in;
+    in.connected = session::connectedToAgent();
+    in.activitySelected = activities_->anyRunningSelected();
+    in.centrallyManaged = session::g_isCentrallyManaged;
+    in.twoFactorEnabled = session::g_is2FAEnabled;
+    in.setHasBackedUpData = details_->hasBackedUpData();
+    if (const BackupSetViewItem* card = selectedSetItem()) {
+        const hessiancln::backup_set_info& set = card->record();
+        in.setSelected = true;
+        in.setInSync = set.in_sync;
+        in.setHasItems = set.has_items;
+        in.setCreatedByPolicy = set.is_created_by_policy;
+        in.activityRunsOnSet = activities_->running().hasActivityOnSet(set.id);
+    }
+    return in;
+}
+
+void SimpleGUIMainWindow::updateEnabling() {
+    const app::EnableInputs in = enableInputs();
+    const app::EnableState on = app::enableState(in);
+    ui_->menu_Backup_Set->setEnabled(on.menuBackupSet);
+    ui_->menu_Configuration->setEnabled(on.menuConfiguration);
+    ui_->actionAdmin->setEnabled(on.actionAdmin);
+    ui_->actionLogout->setEnabled(on.actionLogout);
+    ui_->buttonEventLog->setEnabled(on.buttonEventLog);
+    ui_->dateTimeFrom->setEnabled(on.dateTimeFrom);
+    ui_->dateTimeTo->setEnabled(on.dateTimeTo);
+    ui_->actionLogin->setEnabled(on.actionLogin);
+    ui_->actionNew_Backup_Set->setEnabled(on.actionNewBackupSet);
+    ui_->actionBackup_Now->setEnabled(on.actionBackupNow);
+    ui_->actionRestore->setEnabled(on.actionRestore);
+    ui_->actionDeleteFromOnline->setEnabled(on.actionDeleteFromOnline);
+    ui_->actionSynchronize->setEnabled(on.actionSynchronize);
+    ui_->buttonStop->setEnabled(on.buttonStop);
+    ui_->pageProperties->setEnabled(on.pageProperties);
+    ui_->btnItems->setEnabled(on.btnItems);
+    ui_->btnSchedule->setEnabled(on.btnSchedule);
+    ui_->btnRetention->setEnabled(on.btnRetention);
+    ui_->actionTFASettings->setEnabled(on.actionTFASettings);
+
+    if (!in.connected)
+        refreshAll();
+}
+
 bool SimpleGUIMainWindow::event(QEvent* event) {
-    if (event->type() == heartbeatEventType_) {
+    if (event->type() == heartbeatEventType()) {
         refreshAll();
         return true;
     }
@@ -154,7 +178,13 @@ void SimpleGUIMainWindow::changeEvent(QEvent* event) {
         ui_->retranslateUi(this);
         setWindowTitle(title);
         ui_->actionLogo->setToolTip(ui::g_branding.description());
-        setTrayTexts();
+        tray_->setTexts();
     }
     QMainWindow::changeEvent(event);
+}
+
+void SimpleGUIMainWindow::closeEvent(QCloseEvent* event) {
+    hideMainWindow();
+    event->ignore();
+    tray_->remind();
 }

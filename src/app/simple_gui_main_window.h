@@ -2,18 +2,17 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <atomic>
+#include <functional>
 #include <memory>
 
 #include <QItemSelection>
 #include <QMainWindow>
-#include <QStringListModel>
 
 #include <boost/shared_ptr.hpp>
 
-#include "app/activity_log_model.h"
-#include "app/running_activities_model.h"
+#include "app/heartbeat.h"
 #include "app/tray_icon.h"
+#include "ui/remote_action.h"
 
 class BackupSetViewItem;
 class QContextMenuEvent;
@@ -23,24 +22,31 @@ class SimpleGUIMainWindow;
 }
 
 namespace app {
-struct SetDetails;
-}
-
-namespace boost {
-class thread;
-}
+class ActivityTables;
+class BackupSetList;
+class SetDetailsPanel;
+class TrayPresence;
+struct EnableInputs;
+} // namespace app
 
 namespace hessiancln {
 class BackupSet;
-}
+class GenericActivity;
+struct backup_set_info;
+struct running_activity_info;
+} // namespace hessiancln
 
 /// The program's one top-level window: the backup sets of the agent that the session is with, its
 /// activities, and the commands on them. It stores no state of the connection; each look at it
 /// asks the session.
 ///
-/// A thread of its own posts a heartbeat to it every 5 seconds, upon which it asks the agent for
-/// everything anew. That is the only way in which it learns anything. Heartbeats arrive in the
-/// event loop of an open dialog too, so nothing here may hold on to a card or a row over one.
+/// What has a state of its own is a class beside it: the list of cards, the details of the selected
+/// set, the tables of activities, the presence in the tray and the heartbeat. None of them knows
+/// another one; the window connects them.
+///
+/// Upon each heartbeat it asks the agent for everything anew. That is the only way in which it
+/// learns anything. Heartbeats arrive in the event loop of an open dialog too, so nothing here may
+/// hold on to a card or a row over one.
 ///
 /// Closing the window only hides it in the tray.
 class SimpleGUIMainWindow : public QMainWindow {
@@ -71,10 +77,10 @@ public:
     /// The card of the first selected set, or null. It may go with the next heartbeat.
     BackupSetViewItem* selectedSetItem() const;
     /// Selects the set with this id as soon as the agent lists it.
-    void selectSetOnceListed(std::int32_t setId) { pendingSelectSetId_ = setId; }
+    void selectSetOnceListed(std::int32_t setId);
 
     /// The type of the event that makes the window refresh itself.
-    int heartbeatEventType() const { return heartbeatEventType_; }
+    int heartbeatEventType() const { return heartbeat_.eventType(); }
 
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -123,52 +129,36 @@ protected:
 private:
     void setUpBranding();
     void setUpToolBars();
-    void setUpDateRange();
-    void setUpActivityLog();
-    void setUpRunningActivities();
-    void setUpBackupSetsView();
+    void setUpActivities();
+    void setUpBackupSets();
     void setUpGeometry();
-    void setUpTray();
-    void setTrayTexts();
-    void activityWatcherLoop();
+    void setUpTray(std::unique_ptr<app::TrayIcon> icon);
 
+    app::EnableInputs enableInputs() const;
     void showSession(const QString& server, const QString& user);
     void showStatus(const QString& text);
     void openInitialConfiguration();
 
-    void readClientInfo();
-    void readActivities();
-    void clearActivities();
-    void endSession(const std::exception& error);
-
+    /// Reads something in the session, or ends the session if that fails.
+    void refresh(const std::function<void()>& read);
     void refreshBackupSets();
-    void clearSets();
-    void setCardCount(int count);
-    BackupSetViewItem* cardAt(int row) const;
-    BackupSetViewItem* requireSetItem();
-    void selectCard(int row);
-    void abandonEditing();
     void showSetDetails();
-    void editSelectedSet(bool (*edit)(QWidget& parent,
-                                      const boost::shared_ptr<hessiancln::BackupSet>& set));
-    void fillDetails(const app::SetDetails& details);
+
+    /// Runs a command on the selected set, or shows that there is none.
+    using SetCommand = std::function<void(const hessiancln::backup_set_info& set)>;
+    void commandSelectedSet(const QString& errorTitle, ui::Cursor cursor,
+                            const SetCommand& command);
+    /// Starts an activity; `status` gets the time and the name of the set.
+    using StartOnSet = boost::shared_ptr<hessiancln::GenericActivity>(std::int32_t setId);
+    void start(StartOnSet* begin, const hessiancln::backup_set_info& set, const QString& status);
+    /// Edits the selected set, and shows its details again if the edit was finished.
+    using EditSet = bool(QWidget& parent, const boost::shared_ptr<hessiancln::BackupSet>& set);
+    void editSelectedSet(EditSet* edit);
 
     std::unique_ptr<Ui::SimpleGUIMainWindow> ui_;
-    ActivityLogModel activityLog_;
-    RunningActivitiesModel running_;
-    QStringListModel setRows_; ///< a row for each card, which shows everything itself
-    const int heartbeatEventType_;
-    bool hasBackedUpData_ = false; ///< of the selected set
-    std::int32_t pendingSelectSetId_ = -1;
-    bool rebuildingSets_ = false;
-    bool readingDetails_ = false;
-
-    std::unique_ptr<app::TrayIcon> tray_;
-    QAction* actionShow_; ///< owned by the window, like the next two
-    QAction* actionHide_;
-    QMenu* trayMenu_;
-    bool showTrayReminder_ = true;
-
-    std::atomic<bool> stopWatcher_ = false;
-    std::unique_ptr<boost::thread> watcher_;
+    std::unique_ptr<app::ActivityTables> activities_;
+    std::unique_ptr<app::BackupSetList> sets_;
+    std::unique_ptr<app::SetDetailsPanel> details_;
+    std::unique_ptr<app::TrayPresence> tray_;
+    app::Heartbeat heartbeat_;
 };

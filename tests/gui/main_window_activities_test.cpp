@@ -15,9 +15,11 @@
 #include <QUrl>
 
 #include "app/about_dlg.h"
+#include "app/activity_log_model.h"
 #include "app/activity_progress_item_delegate.h"
 #include "app/backup_set_view_item.h"
 #include "app/event_log_viewer.h"
+#include "app/running_activities_model.h"
 #include "resources/pictures.h"
 #include "session/connection.h"
 #include "session/text.h"

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "app/agent_policy.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "api/client_connection.h"
+#include "session/connection.h"
+#include "session/process_values.h"
+#include "session/required.h"
+
+namespace app {
+
+namespace {
+
+using hessiancln::tarn_client_info;
+
+// The names under which an English and a German agent tell who makes the policy. The value is
+// English under both.
+constexpr std::string_view kPolicyNames[] = {"Centrally Managed Backup Policy",
+                                             "Zentral-verwaltete Backup-Politik"};
+constexpr std::string_view kYes = "Yes";
+
+bool tellsPolicy(const tarn_client_info& info) {
+    return std::find(std::begin(kPolicyNames), std::end(kPolicyNames), info.name) !=
+           std::end(kPolicyNames);
+}
+
+} // namespace
+
+void readAgentPolicy() {
+    const auto connection = session::getConnection();
+    const auto rows = connection->getTarnClientInfo();
+    const auto policy = std::find_if(rows.begin(), rows.end(), tellsPolicy);
+    if (policy != rows.end())
+        session::g_isCentrallyManaged = policy->value == kYes;
+    session::g_is2FAEnabled = session::required(connection->getTFAManager())->is2FAEnabled();
+}
+
+} // namespace app

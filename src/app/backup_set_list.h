@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+#include <QItemSelection>
+#include <QObject>
+#include <QStringListModel>
+
+#include "app/backup_set_view_item.h"
+
+class QTableView;
+
+namespace app {
+
+/// The cards of the agent's file sets in a table view: a row each, in the agent's order. Sets of
+/// anything else aren't listed. A row keeps its card from one rebuild to the next, and the
+/// selection stays with its set.
+class BackupSetList : public QObject {
+    Q_OBJECT
+public:
+    /// Asks the agent for its sets; what it raises leaves the list as it was.
+    using Source = std::function<std::vector<hessiancln::backup_set_info>()>;
+    static std::vector<hessiancln::backup_set_info> setsOfAgent();
+
+    /// `view` gets the list's model, and has to outlive the list.
+    explicit BackupSetList(QTableView& view, Source source = setsOfAgent,
+                           BackupSetViewItem::Rename rename = BackupSetViewItem::renameOnAgent);
+
+    /// Shows what the source gives now. False if a rename of the selected set is in progress, under
+    /// which the list isn't touched.
+    bool rebuild();
+    void clear();
+    int count() const { return rows_.rowCount(); }
+
+    /// The card of the first selected row, or null. It may go with the next rebuild.
+    BackupSetViewItem* selectedCard() const;
+    /// Selects the set with this id as soon as a rebuild finds it.
+    void selectOnceListed(std::int32_t setId) { pendingId_ = setId; }
+
+    /// Forgets what was typed into a card's name.
+    void abandonEditing();
+
+signals:
+    /// The user selected something else. Not sent for what a rebuild selects.
+    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected);
+    void contextMenuNeedsDisplay(BackupSetViewItem* source, QContextMenuEvent* event);
+
+private:
+    void setCount(int count);
+    void addCard(int row);
+    BackupSetViewItem* cardAt(int row) const;
+    std::int32_t selectedId() const;
+    void select(int row);
+    void mark(const QItemSelection& rows, bool selected);
+    void followSelection(const QItemSelection& selected, const QItemSelection& deselected);
+
+    QTableView& view_;
+    Source source_;
+    BackupSetViewItem::Rename rename_;
+    QStringListModel rows_; ///< a row for each card, which shows everything itself
+    std::int32_t pendingId_;
+    bool rebuilding_ = false;
+};
+
+} // namespace app

@@ -1,0 +1,108 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "app/tray_presence.h"
+
+#include <QGuiApplication>
+#include <QMenu>
+#include <QWidget>
+
+#include "app/open_backup_set.h"
+#include "session/text.h"
+#include "ui/branding_resources.h"
+
+namespace app {
+
+namespace {
+
+QString productName() {
+    return QStringLiteral("Tarn-Mobile User");
+}
+
+void letTheWindowHide() {
+    // A dialog over the hidden window is the last one that is seen, and its end is none.
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    // At a log-out Qt would close the window, which only hides, and take that for a no to the end
+    // of the user's session.
+    QGuiApplication::setFallbackSessionManagementEnabled(false);
+}
+
+} // namespace
+
+std::optional<QString> TrayPresence::nameOnAgent(std::int32_t setId) {
+    try {
+        return session::fromWire(openBackupSet(setId)->getName());
+    } catch (const std::exception&) {
+        return std::nullopt;
+    }
+}
+
+TrayPresence::TrayPresence(QWidget& window, QAction& quit, std::unique_ptr<TrayIcon> icon,
+                           SetNames nameOf)
+    : window_(window)
+    , icon_(std::move(icon))
+    , nameOf_(std::move(nameOf))
+    , actionShow_(*new QAction(&window))
+    , actionHide_(*new QAction(&window))
+    , menu_(*new QMenu(&window)) {
+    letTheWindowHide();
+    setUpMenu(quit);
+    icon_->setIcon(ui::g_branding.applicationIcon());
+    setTexts();
+    icon_->show();
+    // The window is about to be shown.
+    actionShow_.setEnabled(false);
+}
+
+TrayPresence::~TrayPresence() = default;
+
+void TrayPresence::setUpMenu(QAction& quit) {
+    actionShow_.setObjectName(QStringLiteral("actionShow"));
+    actionHide_.setObjectName(QStringLiteral("actionHide"));
+    menu_.setObjectName(QStringLiteral("menuTray"));
+    menu_.addAction(&actionShow_);
+    menu_.addAction(&actionHide_);
+    menu_.addSeparator();
+    menu_.addAction(&quit);
+    icon_->setContextMenu(&menu_);
+}
+
+void TrayPresence::setTexts() {
+    actionShow_.setText(tr("Show"));
+    actionHide_.setText(tr("Hide"));
+    icon_->setToolTip(tr("%1").arg(productName()));
+}
+
+void TrayPresence::showWindow() {
+    actionShow_.setEnabled(false);
+    actionHide_.setEnabled(true);
+    if (window_.isMaximized())
+        window_.showMaximized();
+    else
+        window_.showNormal();
+    window_.activateWindow();
+}
+
+void TrayPresence::hideWindow() {
+    if (!icon_->isAvailable())
+        return;
+    window_.hide();
+    actionShow_.setEnabled(true);
+    actionHide_.setEnabled(false);
+}
+
+void TrayPresence::announce(const QList<hessiancln::running_activity_info>& appeared,
+                            const QList<hessiancln::running_activity_info>& disappeared) {
+    if (window_.isVisible() && window_.isActiveWindow())
+        return;
+    icon_->showBalloon(tr("Ostrand Backup Activity"),
+                       activityBalloonText(appeared, disappeared, nameOf_));
+}
+
+void TrayPresence::remind() {
+    if (showReminder_)
+        icon_->showBalloon(tr("%1 is still running!").arg(productName()),
+                           tr("You can click the icon to show the window.\n\nClick here to not "
+                              "show this reminder again."));
+}
+
+} // namespace app

@@ -1,0 +1,132 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include <QDateTimeEdit>
+#include <QHeaderView>
+#include <QSignalSpy>
+#include <QTableView>
+#include <QtTest>
+
+#include "app/activity_tables.h"
+#include "resources/pictures.h"
+
+using hessiancln::activity_log_info;
+using hessiancln::running_activity_info;
+
+namespace {
+
+/// Tables as the form of the main window has them.
+struct Tables {
+    Tables() {
+        for (QTableView* view : {&runningView, &logView}) {
+            view->setSelectionBehavior(QAbstractItemView::SelectRows);
+            view->setSelectionMode(QAbstractItemView::ExtendedSelection);
+            view->setSortingEnabled(true);
+        }
+    }
+
+    /// Activities with these ids, the youngest first.
+    void run(std::initializer_list<std::int32_t> ids) {
+        std::vector<running_activity_info> activities;
+        for (const std::int32_t id : ids) {
+            running_activity_info activity;
+            activity.activity_id = id;
+            activity.start_time = 1'000 - static_cast<std::int32_t>(activities.size());
+            activities.push_back(activity);
+        }
+        tables.running().setActivities(std::move(activities));
+    }
+
+    void log(std::initializer_list<std::int32_t> ids) {
+        std::vector<activity_log_info> entries;
+        for (const std::int32_t id : ids) {
+            activity_log_info entry;
+            entry.id = id;
+            entry.start_time = 1'000 - static_cast<std::int32_t>(entries.size());
+            entries.push_back(entry);
+        }
+        tables.log().setRecords(std::move(entries));
+    }
+
+    static void select(QTableView& view, std::initializer_list<int> rows) {
+        view.clearSelection();
+        for (const int row : rows)
+            view.selectionModel()->select(view.model()->index(row, 0),
+                                          QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    }
+
+    QTableView runningView;
+    QTableView logView;
+    QDateTimeEdit from;
+    QDateTimeEdit to;
+    app::ActivityTables tables{{runningView, logView, from, to}};
+};
+
+} // namespace
+
+class ActivityTablesTest : public QObject {
+    Q_OBJECT
+private slots:
+    void initTestCase() { resources::initPictures(); }
+
+    void theLogBeginsWithYesterdayAndToday() {
+        const QDate before = QDate::currentDate();
+        const Tables shown;
+        if (QDate::currentDate() != before)
+            QSKIP("Midnight has come in between");
+        QCOMPARE(shown.from.dateTime(), QDateTime(before.addDays(-1), QTime(0, 0)));
+        QCOMPARE(shown.to.dateTime(), QDateTime(before, QTime(23, 59, 59, 999)));
+    }
+
+    void theYoungestComeFirst() {
+        Tables shown;
+        QCOMPARE(shown.logView.horizontalHeader()->sortIndicatorSection(), 4);
+        QCOMPARE(shown.logView.horizontalHeader()->sortIndicatorOrder(), Qt::DescendingOrder);
+        QCOMPARE(shown.runningView.horizontalHeader()->sortIndicatorSection(), 1);
+        QCOMPARE(shown.runningView.horizontalHeader()->sortIndicatorOrder(), Qt::DescendingOrder);
+    }
+
+    void theSelectedActivitiesAreGivenFromTopToBottom() {
+        Tables shown;
+        shown.run({5, 6, 7, 8});
+        QVERIFY(!shown.tables.anyRunningSelected());
+        QCOMPARE(shown.tables.selectedRunning(), std::vector<std::int32_t>());
+        Tables::select(shown.runningView, {3, 0, 1});
+        QVERIFY(shown.tables.anyRunningSelected());
+        QCOMPARE(shown.tables.selectedRunning(), (std::vector<std::int32_t>{5, 6, 8}));
+    }
+
+    void theTopmostSelectedEntryOfTheLogCounts() {
+        Tables shown;
+        shown.log({5, 6, 7});
+        QVERIFY(!shown.tables.selectedLogEntry());
+        Tables::select(shown.logView, {2, 1});
+        QCOMPARE(shown.tables.selectedLogEntry()->id, 6);
+    }
+
+    void clearEmptiesBoth() {
+        Tables shown;
+        shown.run({5, 6});
+        shown.log({5, 6, 7});
+        shown.tables.clear();
+        QCOMPARE(shown.tables.running().rowCount(), 0);
+        QCOMPARE(shown.tables.log().rowCount(), 0);
+        // What ran before has not ended.
+        const QSignalSpy changes(&shown.tables.running(),
+                                 &RunningActivitiesModel::activityChangeDetected);
+        shown.run({});
+        shown.run({});
+        QCOMPARE(changes.count(), 0);
+    }
+
+    void withoutASessionARefreshRaisesAndKeepsTheRows() {
+        Tables shown;
+        shown.run({5, 6});
+        shown.log({5, 6, 7});
+        QVERIFY_EXCEPTION_THROWN(shown.tables.refresh(), std::exception);
+        QCOMPARE(shown.tables.running().rowCount(), 2);
+        QCOMPARE(shown.tables.log().rowCount(), 3);
+    }
+};
+
+QTEST_MAIN(ActivityTablesTest)
+#include "activity_tables_test.moc"

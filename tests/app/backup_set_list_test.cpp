@@ -1,0 +1,228 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include <stdexcept>
+
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTableView>
+#include <QtTest>
+
+#include "app/backup_set_list.h"
+#include "resources/pictures.h"
+#include "tests/support/gui_modal_driver.h"
+
+using hessiancln::backup_set_info;
+using support::child;
+
+namespace {
+
+backup_set_info fileSet(std::int32_t id) {
+    backup_set_info set;
+    set.id = id;
+    set.name = "Set " + std::to_string(id);
+    set.in_sync = true;
+    set.has_items = true;
+    return set;
+}
+
+/// A list over sets that the test decides on, in a view that is shown.
+struct ShownList {
+    ShownList() {
+        view.setSelectionBehavior(QAbstractItemView::SelectRows);
+        view.setSelectionMode(QAbstractItemView::SingleSelection);
+        view.verticalHeader()->setDefaultSectionSize(70);
+        view.resize(500, 200);
+        view.show();
+        if (!QTest::qWaitForWindowActive(&view))
+            qFatal("The view doesn't become active");
+    }
+
+    void rebuildWith(std::initializer_list<std::int32_t> ids) {
+        sets.clear();
+        for (const std::int32_t id : ids)
+            sets.push_back(fileSet(id));
+        QVERIFY(list.rebuild());
+    }
+
+    BackupSetViewItem& card(int row) {
+        return static_cast<BackupSetViewItem&>(*view.indexWidget(view.model()->index(row, 0)));
+    }
+    QList<int> ids() {
+        QList<int> found;
+        for (int row = 0; row < list.count(); ++row)
+            found << card(row).record().id;
+        return found;
+    }
+    QList<int> highlighted() {
+        QList<int> found;
+        for (int row = 0; row < list.count(); ++row)
+            if (card(row).backgroundRole() == QPalette::Highlight)
+                found << card(row).record().id;
+        return found;
+    }
+    int selectedId() { return list.selectedCard() ? list.selectedCard()->record().id : -1; }
+
+    QLineEdit& startRename(int row) {
+        const QPoint name = child<QLabel>(card(row), "labelSetName").geometry().center();
+        QTest::mouseDClick(&card(row), Qt::LeftButton, {}, name);
+        return child<QLineEdit>(card(row), "nameEditor");
+    }
+
+    std::vector<backup_set_info> sets;
+    int asked = 0;
+    QStringList renames;
+    QTableView view;
+    app::BackupSetList list{view,
+                            [this] {
+                                ++asked;
+                                return sets;
+                            },
+                            [this](std::int32_t id, const QString& name) {
+                                renames << QStringLiteral("%1=%2").arg(id).arg(name);
+                            }};
+    QSignalSpy selections{&list, &app::BackupSetList::selectionChanged};
+};
+
+} // namespace
+
+class BackupSetListTest : public QObject {
+    Q_OBJECT
+private slots:
+    void initTestCase() { resources::initPictures(); }
+
+    void keepsTheOrderAndLeavesOutWhatHoldsNoFiles() {
+        ShownList shown;
+        shown.sets = {fileSet(9), fileSet(3), fileSet(5)};
+        shown.sets[1].data_type = hessiancln::BackupDataType::MSSQLServer;
+        QVERIFY(shown.list.rebuild());
+        QCOMPARE(shown.ids(), (QList<int>{9, 5}));
+        QCOMPARE(shown.list.selectedCard(), nullptr);
+    }
+
+    void aRowKeepsItsCard() {
+        ShownList shown;
+        shown.rebuildWith({1, 2});
+        const BackupSetViewItem* card = &shown.card(0);
+        shown.rebuildWith({7, 8, 9});
+        QCOMPARE(&shown.card(0), card);
+        QCOMPARE(shown.ids(), (QList<int>{7, 8, 9}));
+    }
+
+    void theUsersSelectionIsMarkedAndTold() {
+        ShownList shown;
+        shown.rebuildWith({1, 2, 3});
+        shown.view.selectRow(1);
+        QCOMPARE(shown.selections.count(), 1);
+        QCOMPARE(shown.selectedId(), 2);
+        QCOMPARE(shown.highlighted(), QList<int>{2});
+        shown.view.selectRow(2);
+        QCOMPARE(shown.selections.count(), 2);
+        QCOMPARE(shown.highlighted(), QList<int>{3});
+    }
+
+    void theSelectionFollowsItsSetInSilence() {
+        ShownList shown;
+        shown.rebuildWith({1, 2, 3});
+        shown.view.selectRow(2);
+        shown.rebuildWith({3, 1});
+        QCOMPARE(shown.selectedId(), 3);
+        QCOMPARE(shown.highlighted(), QList<int>{3});
+        QCOMPARE(shown.selections.count(), 1);
+    }
+
+    void aSetIsSelectedOnceItIsListed() {
+        ShownList shown;
+        shown.rebuildWith({1, 2});
+        shown.view.selectRow(0);
+        shown.list.selectOnceListed(3);
+        shown.rebuildWith({1, 2});
+        QCOMPARE(shown.selectedId(), 1);
+        shown.rebuildWith({1, 2, 3});
+        QCOMPARE(shown.selectedId(), 3);
+        // Only once: it is the user's turn again.
+        shown.view.selectRow(0);
+        shown.rebuildWith({1, 2, 3});
+        QCOMPARE(shown.selectedId(), 1);
+    }
+
+    void aSetIsScrolledIntoViewWhenItIsSelected() {
+        ShownList shown;
+        shown.rebuildWith({1, 2, 3, 4, 5, 6, 7, 8});
+        QVERIFY(!shown.view.viewport()->rect().contains(shown.card(7).geometry()));
+        shown.list.selectOnceListed(8);
+        QVERIFY(shown.list.rebuild());
+        QTRY_VERIFY(shown.view.viewport()->rect().contains(shown.card(7).geometry()));
+    }
+
+    void aFailureLeavesTheListAsItWas() {
+        QTableView view;
+        bool fails = false;
+        app::BackupSetList list(view, [&fails] {
+            if (fails)
+                throw std::runtime_error("Out of order.");
+            return std::vector{fileSet(1), fileSet(2)};
+        });
+        QVERIFY(list.rebuild());
+        view.selectRow(1);
+        fails = true;
+        QVERIFY_EXCEPTION_THROWN(list.rebuild(), std::runtime_error);
+        QCOMPARE(list.count(), 2);
+        QCOMPARE(list.selectedCard()->record().id, 2);
+    }
+
+    void aRenameOfTheSelectedSetHoldsTheList() {
+        ShownList shown;
+        shown.rebuildWith({1, 2});
+        shown.view.selectRow(1);
+        QLineEdit& editor = shown.startRename(1);
+        const int asked = shown.asked;
+        shown.sets = {fileSet(4)};
+        QVERIFY(!shown.list.rebuild());
+        QCOMPARE(shown.asked, asked);
+        QCOMPARE(shown.ids(), (QList<int>{1, 2}));
+        editor.setText(QStringLiteral("Photos"));
+        QTest::keyClick(&editor, Qt::Key_Return);
+        QCOMPARE(shown.renames, QStringList{QStringLiteral("2=Photos")});
+        QVERIFY(shown.list.rebuild());
+        QCOMPARE(shown.ids(), QList<int>{4});
+    }
+
+    void aCardThatGoesForgetsItsRename() {
+        ShownList shown;
+        shown.rebuildWith({1, 2});
+        shown.view.selectRow(0);
+        shown.startRename(1).setText(QStringLiteral("Photos"));
+        shown.rebuildWith({1});
+        QCOMPARE(shown.ids(), QList<int>{1});
+        QCOMPARE(shown.renames, QStringList());
+    }
+
+    void clearForgetsTheSelectionAndTheRename() {
+        ShownList shown;
+        shown.rebuildWith({1, 2});
+        shown.view.selectRow(0);
+        shown.startRename(0).setText(QStringLiteral("Photos"));
+        shown.list.clear();
+        QCOMPARE(shown.list.count(), 0);
+        QCOMPARE(shown.list.selectedCard(), nullptr);
+        QCOMPARE(shown.renames, QStringList());
+        shown.rebuildWith({1});
+        QCOMPARE(shown.selectedId(), -1);
+    }
+
+    void passesOnThatACardWantsItsMenu() {
+        ShownList shown;
+        shown.rebuildWith({1, 2});
+        const QSignalSpy menus(&shown.list, &app::BackupSetList::contextMenuNeedsDisplay);
+        QContextMenuEvent event(QContextMenuEvent::Mouse, {3, 4});
+        QCoreApplication::sendEvent(&shown.card(1), &event);
+        QCOMPARE(menus.count(), 1);
+        QCOMPARE(menus.first().at(0).value<BackupSetViewItem*>(), &shown.card(1));
+    }
+};
+
+QTEST_MAIN(BackupSetListTest)
+#include "backup_set_list_test.moc"

@@ -1,0 +1,126 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include <QMenu>
+#include <QtTest>
+
+#include "app/tray_presence.h"
+#include "resources/pictures.h"
+#include "tests/support/gui_main_window.h"
+
+using hessiancln::running_activity_info;
+
+namespace {
+
+using Balloons = QList<QPair<QString, QString>>;
+
+const Balloons kReminder{{QStringLiteral("Tarn-Mobile User is still running!"),
+                          QStringLiteral("You can click the icon to show the window.\n\nClick "
+                                         "here to not show this reminder again.")}};
+
+/// A window that is shown, with its presence in a tray that keeps what it shows.
+struct ShownWindow {
+    explicit ShownWindow(bool trayAvailable = true)
+        : icon(new support::RecordingTray(trayAvailable))
+        , presence(window, quit, std::unique_ptr<app::TrayIcon>(icon),
+                   [](std::int32_t id) -> std::optional<QString> {
+                       if (id == 1)
+                           return QStringLiteral("Documents");
+                       return std::nullopt;
+                   }) {
+        presence.showWindow();
+        if (!QTest::qWaitForWindowActive(&window))
+            qFatal("The window doesn't become active");
+    }
+
+    QWidget window;
+    QAction quit;
+    support::RecordingTray* icon; ///< the presence's
+    app::TrayPresence presence;
+};
+
+running_activity_info backupOf(std::int32_t setId) {
+    running_activity_info activity;
+    activity.type = hessiancln::ActivityType::Backup;
+    activity.set_id = setId;
+    return activity;
+}
+
+} // namespace
+
+class TrayPresenceTest : public QObject {
+    Q_OBJECT
+private slots:
+    void initTestCase() { resources::initPictures(); }
+
+    void theIconHasAMenu() {
+        ShownWindow shown;
+        QVERIFY(shown.icon->isVisible());
+        QCOMPARE(shown.icon->toolTip(), QStringLiteral("Tarn-Mobile User"));
+        const QList<QAction*> entries = shown.icon->contextMenu()->actions();
+        QCOMPARE(entries.size(), 4);
+        QCOMPARE(entries.at(0), &shown.presence.actionShow());
+        QCOMPARE(entries.at(0)->text(), QStringLiteral("Show"));
+        QCOMPARE(entries.at(1), &shown.presence.actionHide());
+        QCOMPARE(entries.at(1)->text(), QStringLiteral("Hide"));
+        QVERIFY(entries.at(2)->isSeparator());
+        QCOMPARE(entries.at(3), &shown.quit);
+    }
+
+    void hidesAndShows() {
+        ShownWindow shown;
+        QVERIFY(!shown.presence.actionShow().isEnabled());
+        QVERIFY(shown.presence.actionHide().isEnabled());
+        shown.presence.hideWindow();
+        QVERIFY(!shown.window.isVisible());
+        QVERIFY(shown.presence.actionShow().isEnabled());
+        QVERIFY(!shown.presence.actionHide().isEnabled());
+        shown.presence.showWindow();
+        QVERIFY(shown.window.isVisible());
+        QVERIFY(!shown.presence.actionShow().isEnabled());
+        QVERIFY(shown.presence.actionHide().isEnabled());
+    }
+
+    void withoutATrayNothingHides() {
+        ShownWindow shown(false);
+        shown.presence.hideWindow();
+        QVERIFY(shown.window.isVisible());
+        QVERIFY(!shown.presence.actionShow().isEnabled());
+    }
+
+    void remindsUntilToldNotTo() {
+        ShownWindow shown;
+        shown.presence.remind();
+        QCOMPARE(shown.icon->balloons, kReminder);
+        shown.presence.remind();
+        QCOMPARE(shown.icon->balloons, kReminder + kReminder);
+        shown.presence.endReminder();
+        shown.presence.remind();
+        QCOMPARE(shown.icon->balloons.size(), 2);
+    }
+
+    void announcesWhatTheUserDoesNotSee() {
+        ShownWindow shown;
+        shown.presence.announce({backupOf(1)}, {});
+        QCOMPARE(shown.icon->balloons, Balloons());
+        shown.presence.hideWindow();
+        shown.presence.announce({backupOf(1)}, {backupOf(2)});
+        QCOMPARE(
+            shown.icon->balloons,
+            (Balloons{{QStringLiteral("Ostrand Backup Activity"),
+                       QStringLiteral("Started - Backup - Documents\nCompleted - Backup\n")}}));
+    }
+
+    void aVisibleWindowBehindAnotherOneAnnounces() {
+        ShownWindow shown;
+        QWidget other;
+        other.show();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        shown.presence.announce({}, {backupOf(1)});
+        QCOMPARE(shown.icon->balloons.size(), 1);
+        QCOMPARE(shown.icon->balloons.first().second,
+                 QStringLiteral("Completed - Backup - Documents\n"));
+    }
+};
+
+QTEST_MAIN(TrayPresenceTest)
+#include "tray_presence_test.moc"
