@@ -4,8 +4,8 @@
 
 #include <utility>
 
+#include "transport/call_failure.h"
 #include "transport/http_exchange.h"
-#include "transport/invoke_exception.h"
 #include "transport/parse_url.h"
 #include "transport/tracer.h"
 
@@ -21,6 +21,10 @@ CHttpCallDispatcher::~CHttpCallDispatcher() {
 }
 
 std::string CHttpCallDispatcher::sendRequest(const std::string& url, const std::string& request) {
+    return asCall([&] { return exchange(url, request); });
+}
+
+std::string CHttpCallDispatcher::exchange(const std::string& url, const std::string& request) {
     const Tracer trace(traceLevel(), traceFile());
     trace.step("CHttpCallDispatcher::sendRequest ENTER");
 
@@ -31,14 +35,9 @@ std::string CHttpCallDispatcher::sendRequest(const std::string& url, const std::
     parseUrl(url, useTls, host, path, port);
     trace.detail("parseURL: ", host, " port: ", port);
 
-    std::string reply;
-    try {
-        HttpExchange exchange(useTls, limits_, trace);
-        exchange.connect(host, port);
-        reply = exchange.post(host, port, path, request);
-    } catch (const boost::system::system_error& failure) {
-        throw invoke_exception(failure.what());
-    }
+    HttpExchange exchange(useTls, limits_, trace);
+    exchange.connect(host, port);
+    std::string reply = exchange.post(host, port, path, request);
 
     trace.step("CHttpCallDispatcher::sendRequest LEAVE");
     return reply;

@@ -28,6 +28,8 @@ public:
     std::string sendRequest(const std::string& url, const std::string& request) override;
 
 private:
+    std::string exchange(const std::string& url, const std::string& request);
+
     HttpLimits limits_;
 };
 

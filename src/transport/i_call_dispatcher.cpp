@@ -6,9 +6,12 @@
 #include <list>
 #include <mutex>
 #include <optional>
+#include <system_error>
 #include <thread>
 #include <utility>
 #include <vector>
+
+#include "transport/call_failure.h"
 
 namespace hessiancln {
 
@@ -52,7 +55,7 @@ private:
 
 void ICallDispatcher::WorkerPool::queue(PendingCall call) {
     std::unique_lock lock(mutex_);
-    if (!stopped_ && workers_.empty())
+    if (!stopped_)
         startWorkers();
     // Also a handler on a worker may wait here, and the stop waits for that worker.
     roomOrStop_.wait(lock, [this] { return stopped_ || pending_.size() < pendingLimit; });
@@ -64,10 +67,16 @@ void ICallDispatcher::WorkerPool::queue(PendingCall call) {
     workOrStop_.notify_one();
 }
 
+/// Starts the workers that are missing. One is enough to go on with.
 void ICallDispatcher::WorkerPool::startWorkers() {
     workers_.reserve(workerCount);
-    while (workers_.size() < workerCount)
-        workers_.emplace_back([this] { work(); });
+    try {
+        while (workers_.size() < workerCount)
+            workers_.emplace_back([this] { work(); });
+    } catch (const std::system_error& failure) {
+        if (workers_.empty())
+            throw invoke_exception() << "Failed to start a worker thread: " << failure.what();
+    }
 }
 
 void ICallDispatcher::WorkerPool::work() {
@@ -124,7 +133,7 @@ void ICallDispatcher::stopWorkers() {
 
 void ICallDispatcher::asyncSendRequest(const std::string& url, const std::string& request,
                                        Handler onSuccess, Handler onFailure) {
-    pool_->queue({url, request, std::move(onSuccess), std::move(onFailure)});
+    asCall([&] { pool_->queue({url, request, std::move(onSuccess), std::move(onFailure)}); });
 }
 
 void ICallDispatcher::stopConnections() {}

@@ -38,8 +38,9 @@ public:
 
     /// Queues the call and returns. One of the two handlers runs, once, on another thread; only a
     /// call to a dispatcher or connection that has ended already fails on the calling thread.
-    /// Blocks while 16 calls are queued. An exception out of `onSuccess` ends in `onFailure` of the
-    /// same call; `onFailure` must not raise.
+    /// Blocks while 16 calls are queued. Raises `invoke_exception`, and calls neither handler, when
+    /// the system has no memory or no thread for the call. An exception out of `onSuccess` ends in
+    /// `onFailure` of the same call; `onFailure` must not raise.
     virtual void asyncSendRequest(const std::string& url, const std::string& request,
                                   Handler onSuccess, Handler onFailure);
 

@@ -7,9 +7,9 @@
 #include <thread>
 #include <utility>
 
+#include "transport/call_failure.h"
 #include "transport/parse_url.h"
 #include "transport/single_stream_connection.h"
-#include "transport/trace_exception.h"
 #include "transport/tracer.h"
 
 namespace hessiancln {
@@ -38,7 +38,8 @@ public:
                 end(connection);
                 teardowns->done();
             }).detach();
-        } catch (const std::system_error&) {
+        } catch (const std::exception&) {
+            // There is no thread or no memory for one, so the caller waits.
             end(connection);
             teardowns->done();
         }
@@ -86,6 +87,10 @@ CRawStreamDispacher::~CRawStreamDispacher() {
 }
 
 std::string CRawStreamDispacher::sendRequest(const std::string& url, const std::string& request) {
+    return asCall([&] { return send(url, request); });
+}
+
+std::string CRawStreamDispacher::send(const std::string& url, const std::string& request) {
     const Tracer trace(traceLevel(), traceFile());
     trace.step("CRawStreamDispacher::sendRequest ENTER");
     const ConnectionKey key = endpointOf(url);
@@ -100,12 +105,10 @@ std::string CRawStreamDispacher::sendRequest(const std::string& url, const std::
 
 CRawStreamDispacher::ConnectionPtr CRawStreamDispacher::connectionFor(const ConnectionKey& key) {
     const std::lock_guard lock(connectionMutex_);
-    const auto known = connections_.find(key);
-    if (known != connections_.end() && known->second->isOpen())
-        return known->second;
-    auto fresh = CSingleStreamDispatcherConnection::start(key, traceLevel(), traceFile());
-    connections_[key] = fresh;
-    return fresh;
+    ConnectionPtr& connection = connections_[key];
+    if (!connection || !connection->isOpen())
+        connection = CSingleStreamDispatcherConnection::start(key, traceLevel(), traceFile());
+    return connection;
 }
 
 std::string CRawStreamDispacher::sendOnFreshConnection(const ConnectionKey& key,
@@ -116,9 +119,10 @@ std::string CRawStreamDispacher::sendOnFreshConnection(const ConnectionKey& key,
     std::string response;
     try {
         connection->SendRequest(url, request, response);
-    } catch (const trace_exception&) {
-        // Unlike after any other failure, the stream is up and would stay.
-        Teardowns::begin(teardowns_, connection);
+    } catch (const std::exception&) {
+        // A stream that is up in spite of the failure would stay.
+        if (!connection->hasDied())
+            Teardowns::begin(teardowns_, connection);
         throw;
     }
     Teardowns::begin(teardowns_, connection);
@@ -127,17 +131,21 @@ std::string CRawStreamDispacher::sendOnFreshConnection(const ConnectionKey& key,
 
 void CRawStreamDispacher::asyncSendRequest(const std::string& url, const std::string& request,
                                            Handler onSuccess, Handler onFailure) {
+    asCall([&] { asyncSend(url, request, std::move(onSuccess), std::move(onFailure)); });
+}
+
+void CRawStreamDispacher::asyncSend(const std::string& url, const std::string& request,
+                                    Handler onSuccess, Handler onFailure) {
     const Tracer trace(traceLevel(), traceFile());
     trace.step("CRawStreamDispacher::asyncSendRequest ENTER");
     const ConnectionKey key = endpointOf(url);
     ConnectionPtr connection;
     {
         const std::lock_guard lock(connectionMutex_);
-        const auto known = connections_.find(key);
-        connection = known != connections_.end()
-                         ? known->second
-                         : CSingleStreamDispatcherConnection::start(key, 0, "");
-        connections_[key] = connection;
+        ConnectionPtr& known = connections_[key];
+        if (!known)
+            known = CSingleStreamDispatcherConnection::start(key, 0, "");
+        connection = known;
     }
     connection->asyncSendRequest(url, request, std::move(onSuccess), std::move(onFailure));
     trace.step("CRawStreamDispacher::asyncSendRequest LEAVE");
@@ -154,7 +162,8 @@ void CRawStreamDispacher::stopConnections() {
     std::exception_ptr traceFailure;
     for (const auto& [key, connection] : ending) {
         try {
-            connection->WaitForStop();
+            if (connection)
+                connection->WaitForStop();
         } catch (const trace_exception&) {
             traceFailure = std::current_exception();
         }

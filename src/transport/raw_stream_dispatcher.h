@@ -44,13 +44,16 @@ private:
     using ConnectionPtr = boost::shared_ptr<CSingleStreamDispatcherConnection>;
     class Teardowns;
 
+    std::string send(const std::string& url, const std::string& request);
+    void asyncSend(const std::string& url, const std::string& request, Handler onSuccess,
+                   Handler onFailure);
     ConnectionPtr connectionFor(const ConnectionKey& key);
     std::string sendOnFreshConnection(const ConnectionKey& key, const std::string& url,
                                       const std::string& request);
 
     bool reuseConnections_;
     std::mutex connectionMutex_;
-    std::map<ConnectionKey, ConnectionPtr> connections_;
+    std::map<ConnectionKey, ConnectionPtr> connections_; ///< null where none could be started
     std::shared_ptr<Teardowns> teardowns_;
 };
 

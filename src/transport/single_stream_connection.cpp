@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "transport/single_stream_connection.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <boost/asio/executor_work_guard.hpp>
@@ -33,7 +34,11 @@ struct CSingleStreamDispatcherConnection::PendingReply {
     void fail(const std::string& text) {
         {
             const std::lock_guard lock(mutex);
-            failure = text;
+            try {
+                failure = text;
+            } catch (const std::bad_alloc&) {
+                failure = outOfMemory;
+            }
         }
         condition.notify_one();
     }
@@ -87,11 +92,9 @@ void CSingleStreamDispatcherConnection::SendRequest(const std::string& url,
         throw invoke_exception("A handler can't wait for a reply on its own connection");
 
     const auto reply = std::make_shared<PendingReply>();
-    auto call = std::make_unique<Call>();
-    call->url = url;
-    call->request = request;
-    call->succeed = [reply](std::string& body) { reply->succeed(body); };
-    call->fail = [reply](const std::string& text) { reply->fail(text); };
+    Calls call = newCall(url, request);
+    call.front()->succeed = [reply](std::string& body) { reply->succeed(body); };
+    call.front()->fail = [reply](const std::string& text) { reply->fail(text); };
     {
         const std::lock_guard lock(writeMutex_);
         ++writeCount_;
@@ -113,6 +116,12 @@ void CSingleStreamDispatcherConnection::asyncSendRequest(const std::string& url,
                                                          const std::string& request,
                                                          Handler onSuccess, Handler onFailure) {
     trace_.step("CSingleStreamDispatcherConnection::asyncSendRequest ENTER");
+    Calls call = newCall(url, request);
+    call.front()->succeed = [onSuccess = std::move(onSuccess)](std::string& body) {
+        onSuccess(body);
+    };
+    call.front()->fail = std::move(onFailure);
+    call.front()->asynchronous = true;
     {
         std::unique_lock lock(writeMutex_);
         // A handler that calls on is the writer itself, and would wait for ever.
@@ -122,16 +131,9 @@ void CSingleStreamDispatcherConnection::asyncSendRequest(const std::string& url,
         }
         ++writeCount_;
     }
-
-    auto call = std::make_unique<Call>();
-    call->url = url;
-    call->request = request;
-    call->succeed = [onSuccess = std::move(onSuccess)](std::string& body) { onSuccess(body); };
-    call->fail = std::move(onFailure);
-    call->asynchronous = true;
     if (!submit(call)) {
         // The thread that would tell has ended.
-        call->fail(errorText());
+        call.front()->fail(errorText());
     }
     trace_.step("CSingleStreamDispatcherConnection::asyncSendRequest LEAVE");
 }
@@ -154,20 +156,39 @@ void CSingleStreamDispatcherConnection::WaitForStop() {
     trace_.step("CSingleStreamDispatcherConnection::WaitForStop LEAVE");
 }
 
-/// Hands the call to the connection's thread; false, with the call untouched, if the stream is
-/// dead. Calls that come before the stream is up wait for it.
-bool CSingleStreamDispatcherConnection::submit(CallPtr& call) {
-    bool wake = false;
-    {
-        const std::lock_guard lock(stateMutex_);
-        if (terminated_)
-            return false;
-        submitted_.push_back(std::move(call));
-        wake = streaming_ && submitted_.size() == 1;
+/// A call on its own, in a list already, so that it changes hands without asking for memory.
+CSingleStreamDispatcherConnection::Calls
+CSingleStreamDispatcherConnection::newCall(const std::string& url, const std::string& request) {
+    Calls call;
+    call.push_back(std::make_unique<Call>());
+    call.front()->url = url;
+    call.front()->request = request;
+    return call;
+}
+
+/// Hands the call, which counts as unwritten, to the connection's thread; false, with the call
+/// untouched, if the stream is dead. Calls that come before the stream is up wait for it.
+bool CSingleStreamDispatcherConnection::submit(Calls& call) {
+    const std::lock_guard lock(stateMutex_);
+    if (terminated_)
+        return false;
+    if (streaming_ && submitted_.empty()) {
+        try {
+            asio::post(io_, [this] { guarded([this] { enqueueSubmitted(); }); });
+        } catch (const std::exception&) {
+            forgetUnwritten();
+            throw;
+        }
     }
-    if (wake)
-        asio::post(io_, [this] { guarded([this] { enqueueSubmitted(); }); });
+    submitted_.splice(submitted_.end(), call);
     return true;
+}
+
+/// One call fewer stands between an asynchronous caller and its room.
+void CSingleStreamDispatcherConnection::forgetUnwritten() {
+    const std::lock_guard lock(writeMutex_);
+    --writeCount_;
+    writeCondition_.notify_all();
 }
 
 std::string CSingleStreamDispatcherConnection::errorText() {
@@ -262,21 +283,27 @@ void CSingleStreamDispatcherConnection::startStreaming() {
     asio::post(io_, [this] { guarded([this] { enqueueSubmitted(); }); });
 }
 
-void CSingleStreamDispatcherConnection::terminate(const std::string& text) {
-    std::list<CallPtr> left;
+void CSingleStreamDispatcherConnection::terminate(std::string_view cause) {
+    std::map<std::uint32_t, CallPtr> waiting;
+    Calls submitted;
+    std::string text;
     {
         const std::lock_guard lock(stateMutex_);
         if (terminated_)
             return;
-        errorText_ << text;
+        try {
+            text = cause;
+            errorText_ << text;
+        } catch (const std::bad_alloc&) {
+            text = outOfMemory;
+            errorText_ = invoke_exception(text);
+        }
         terminated_ = true;
-        for (auto& [id, call] : waiting_)
-            left.push_back(std::move(call));
-        left.splice(left.end(), submitted_);
+        waiting.swap(waiting_);
+        submitted.swap(submitted_);
         const std::lock_guard writeLock(writeMutex_);
         writeCondition_.notify_all();
     }
-    waiting_.clear();
 
     // A stream that was up keeps its socket, which marks it as one not to be replaced.
     if (streaming_) {
@@ -288,13 +315,16 @@ void CSingleStreamDispatcherConnection::terminate(const std::string& text) {
     }
     io_.stop();
 
-    for (const CallPtr& call : left) {
+    const auto fail = [&text](const CallPtr& call) {
         try {
             call->fail(text);
         } catch (...) {
             // The others must hear of it too.
         }
-    }
+    };
+    for (const auto& [id, call] : waiting)
+        fail(call);
+    std::ranges::for_each(submitted, fail);
 }
 
 } // namespace hessiancln

@@ -12,12 +12,14 @@
 #include <mutex>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <thread>
 
 #include <boost/asio/io_context.hpp>
 #include <boost/enable_shared_from_this.hpp>
 #include <boost/shared_ptr.hpp>
 
+#include "transport/call_failure.h"
 #include "transport/connection_key.h"
 #include "transport/frame.h"
 #include "transport/i_call_dispatcher.h"
@@ -66,6 +68,9 @@ public:
     /// False once the socket is closed: the connection never came up, or has ended.
     bool isOpen() const { return open_; }
 
+    /// True once the stream is dead: no call gets through any more.
+    bool hasDied() const { return terminated_; }
+
 private:
     struct Call {
         std::string url;
@@ -75,10 +80,13 @@ private:
         bool asynchronous = false;
     };
     using CallPtr = std::unique_ptr<Call>;
+    using Calls = std::list<CallPtr>;
     struct PendingReply;
 
     // Any thread
-    bool submit(CallPtr& call);
+    static Calls newCall(const std::string& url, const std::string& request);
+    bool submit(Calls& call);
+    void forgetUnwritten();
     std::string errorText();
 
     // The connection's own thread
@@ -99,7 +107,7 @@ private:
     void readData();
     void readDataComplete(const ErrorCode& error, std::size_t pieceStart);
     void takeReply();
-    void terminate(const std::string& text);
+    void terminate(std::string_view cause);
     template <class Step>
     void guarded(Step step);
 
@@ -116,7 +124,7 @@ private:
     std::atomic<bool> terminated_ = false;
     invoke_exception errorText_;
     bool streaming_ = false;
-    std::list<CallPtr> submitted_;
+    Calls submitted_;
 
     std::mutex writeMutex_; ///< guards the next two; may be taken with the state mutex held
     std::condition_variable writeCondition_;
@@ -138,7 +146,7 @@ void CSingleStreamDispatcherConnection::guarded(Step step) {
     try {
         step();
     } catch (const std::exception& failure) {
-        terminate(failure.what());
+        terminate(callFailure(failure));
     } catch (...) {
         open_ = false;
         connection_->finish();

@@ -52,6 +52,11 @@ void CSingleStreamDispatcherConnection::enqueueSubmitted() {
                 enqueueAsyncSendRequest(call);
             else
                 enqueue(call);
+        } catch (const std::bad_alloc&) {
+            if (!call)
+                throw; // its frame stands in the queue
+            forgetUnwritten();
+            call->fail(std::string(outOfMemory));
         } catch (const std::exception& failure) {
             terminate(failure.what());
             if (call)
@@ -76,12 +81,14 @@ void CSingleStreamDispatcherConnection::enqueueAsyncSendRequest(CallPtr& call) {
 }
 
 void CSingleStreamDispatcherConnection::enqueue(CallPtr& call) {
-    std::string frame = prepareRequest(*call);
+    // Nothing asks for memory between the two places where the call becomes known.
+    std::list<std::string> frame;
+    frame.push_back(prepareRequest(*call));
     waiting_[nextRequestId_] = std::move(call);
     bool idle = false;
     {
         const std::lock_guard lock(writeMutex_);
-        writeQueue_.push_back(std::move(frame));
+        writeQueue_.splice(writeQueue_.end(), frame);
         idle = writeQueue_.size() == 1;
     }
     if (idle)
@@ -98,14 +105,13 @@ std::string CSingleStreamDispatcherConnection::prepareRequest(const Call& call) 
 
 void CSingleStreamDispatcherConnection::startWriting(bool writeCompleted) {
     trace_.step("CSingleStreamDispatcherConnection::startWriting ENTER");
+    if (writeCompleted)
+        forgetUnwritten();
     const std::string* frame = nullptr;
     {
         const std::lock_guard lock(writeMutex_);
-        if (writeCompleted) {
+        if (writeCompleted)
             writeQueue_.pop_front();
-            --writeCount_;
-            writeCondition_.notify_all();
-        }
         if (!writeQueue_.empty())
             frame = &writeQueue_.front();
     }
