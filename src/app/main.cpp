@@ -16,10 +16,7 @@ constexpr int answerTime = 5000;
 void prepareApplication() {
     platform::fillStandardStreams();
     platform::allowSetForeground();
-    // Where the style is missing, Qt's own choice stays.
-    QApplication::setStyle(QStringLiteral("plastique"));
-    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    app::prepareToolkit();
 }
 
 int runWindow(QtSingleApplication& application) {

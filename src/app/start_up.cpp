@@ -28,6 +28,19 @@ constexpr int timeBetweenLooks = 10;
 
 namespace app {
 
+void prepareToolkit() {
+    // Where the style is missing, Qt's own choice stays.
+    QApplication::setStyle(QStringLiteral("plastique"));
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    // 150 % is 150 %: rounded to 200 % the window doesn't fit the screen.
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    // On X11 Qt looks for OpenGL, which takes time and memory and isn't used here.
+    if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION"))
+        qputenv("QT_XCB_GL_INTEGRATION", "none");
+}
+
 QString languageOf(const QStringList& arguments) {
     const int option = arguments.indexOf(QStringLiteral("--lang"));
     if (option < 0 || option + 1 >= arguments.size())

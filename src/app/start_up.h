@@ -9,8 +9,12 @@ class QApplication;
 class QWidget;
 class SimpleGUIMainWindow;
 
-/// The steps of start-up between the application object and the event loop.
+/// The steps of start-up up to the event loop.
 namespace app {
+
+/// Sets what Qt reads while the application object is made: style, scaling by any factor, and no
+/// search for OpenGL.
+void prepareToolkit();
 
 /// The language code behind the first "--lang". Empty for the built-in English: when there is no
 /// such option, when nothing follows it, and for the code "en".

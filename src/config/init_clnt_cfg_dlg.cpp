@@ -200,6 +200,15 @@ void InitClntCfgDlg::on_btnAdd_clicked() {
     ui_->txtFieldInputAddress->clear();
 }
 
+/// In the field for an address the Return key adds it; elsewhere it saves.
+void InitClntCfgDlg::keyPressEvent(QKeyEvent* event) {
+    const bool enters = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enters && focusWidget() == ui_->txtFieldInputAddress)
+        ui_->btnAdd->click();
+    else
+        QDialog::keyPressEvent(event);
+}
+
 void InitClntCfgDlg::on_btnRemove_clicked() {
     delete ui_->listBoxAddress->takeItem(ui_->listBoxAddress->currentRow());
 }

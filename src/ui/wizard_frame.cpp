@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QPixmap>
 #include <QPushButton>
+#include <QShowEvent>
 #include <QWizard>
 
 #include "ui/branding_resources.h"
@@ -53,10 +54,20 @@ void frameWizard(QWizard& wizard, const QString& title, const QString& watermark
               QStringLiteral(":/button/ok"));
     setButton(wizard, QWizard::CancelButton, WizardButtonText::tr("&Cancel"),
               QStringLiteral(":/button/cancel"));
+    // A click on it takes the focus from no field: what is left unfinished asks the agent nothing.
+    wizard.button(QWizard::CancelButton)->setFocusPolicy(Qt::TabFocus);
 }
 
 void allowAnySize(QWizard& wizard) {
     wizard.setMaximumSize(largest, largest);
+}
+
+void focusFirst(const QShowEvent& event, QWidget& first) {
+    // A window that comes back from the task bar keeps its focus.
+    if (event.spontaneous())
+        return;
+    QMetaObject::invokeMethod(
+        &first, [&first] { first.setFocus(Qt::OtherFocusReason); }, Qt::QueuedConnection);
 }
 
 bool runWizard(QWizard& wizard) {

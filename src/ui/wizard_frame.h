@@ -6,6 +6,8 @@
 
 #include <QString>
 
+class QShowEvent;
+class QWidget;
 class QWizard;
 
 namespace ui {
@@ -16,6 +18,10 @@ void frameWizard(QWizard& wizard, const QString& title, const QString& watermark
 
 /// Lets the user make a wizard as large as the screen allows, whatever its pages want.
 void allowAnySize(QWizard& wizard);
+
+/// For a page's show event: gives the focus to `first` once the wizard, which would choose by the
+/// tab order alone, has turned to the page.
+void focusFirst(const QShowEvent& event, QWidget& first);
 
 /// Runs a wizard until it is closed. Whether it was finished. Raises what a page handed to
 /// `failWizard`.

@@ -12,6 +12,7 @@
 #include "api/retention_rule_manager.h"
 #include "session/connection.h"
 #include "session/required.h"
+#include "ui/wizard_frame.h"
 #include "ui_retention_select_page.h"
 
 using hessiancln::RetentionRule;
@@ -52,6 +53,11 @@ RetentionSelectPage::RetentionSelectPage(QWidget* parent)
 }
 
 RetentionSelectPage::~RetentionSelectPage() = default;
+
+void RetentionSelectPage::showEvent(QShowEvent* event) {
+    QWizardPage::showEvent(event);
+    ui::focusFirst(*event, *ui_->spinMaxGens);
+}
 
 void RetentionSelectPage::changeEvent(QEvent* event) {
     if (event->type() == QEvent::LanguageChange)

@@ -41,6 +41,7 @@ public:
     void apply(const Set& set);
 
 protected:
+    void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private slots:

@@ -15,6 +15,7 @@
 #include "session/connection.h"
 #include "session/required.h"
 #include "session/text.h"
+#include "ui/wizard_frame.h"
 #include "ui_schedule_select_page.h"
 #include "wizards/schedule_times.h"
 
@@ -79,6 +80,18 @@ void ScheduleSelectPage::setDefaults() {
     ui_->timeStop->setTime(QTime(6, 0));
     ui_->comboStopInDays->setCurrentIndex(nextDay);
     ui_->spinMissedSchedule->setValue(agent->getAdvancedConfigNumber(missedSchedule));
+}
+
+QRadioButton* ScheduleSelectPage::checkedKind() const {
+    for (QRadioButton* kind : {ui_->radioDaily, ui_->radioMonthly})
+        if (kind->isChecked())
+            return kind;
+    return ui_->radioNotScheduled;
+}
+
+void ScheduleSelectPage::showEvent(QShowEvent* event) {
+    QWizardPage::showEvent(event);
+    ui::focusFirst(*event, *checkedKind());
 }
 
 void ScheduleSelectPage::changeEvent(QEvent* event) {

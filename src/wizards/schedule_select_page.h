@@ -11,6 +11,7 @@
 #include <boost/shared_ptr.hpp>
 
 class QCheckBox;
+class QRadioButton;
 
 namespace Ui {
 class ScheduleSelectPage;
@@ -48,6 +49,7 @@ public:
     bool isComplete() const override;
 
 protected:
+    void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private slots:
@@ -64,6 +66,7 @@ private:
     using SchedulePointer = boost::shared_ptr<hessiancln::Schedule>;
     using DetailPointer = boost::shared_ptr<hessiancln::ScheduleDetail>;
 
+    QRadioButton* checkedKind() const;
     void setDefaults();
     void loadDays(const DetailPointer& detail);
     void loadTimes(hessiancln::ScheduleDetail& detail);

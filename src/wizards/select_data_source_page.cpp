@@ -160,6 +160,10 @@ void SelectDataSourcePage::applyCredentials(const boost::shared_ptr<hessiancln::
 }
 
 bool SelectDataSourcePage::validatePage() {
+    // The key of a button leaves the field as it is.
+    const QLineEdit& name = *ui_->editComputerName;
+    if (name.hasFocus() && name.isModified() && !takeTypedComputer())
+        return false;
     return ui::remoteAction(*window(), tr("Credential check failed"), ui::Cursor::wait,
                             [this] { currentCredentials()->check(toWire(computerToCheck())); });
 }
@@ -245,19 +249,25 @@ void SelectDataSourcePage::enableConnectAs() {
 
 void SelectDataSourcePage::computerNameEdited() {
     // A field loses the focus to the very box that tells of its failure, and one that only shows
-    // the tree's choice when the user passes through it: nothing was typed then.
-    if (editing_ || ui_->editComputerName->isReadOnly())
+    // the tree's choice when the user passes through it: nothing was typed then. A wizard
+    // that is left hides its page, and leaves behind what was typed.
+    if (editing_ || ui_->editComputerName->isReadOnly() || isHidden())
         return;
+    takeTypedComputer();
+}
+
+bool SelectDataSourcePage::takeTypedComputer() {
     const QScopedValueRollback editing(editing_, true);
     const bool expanded = ui::remoteAction(*window(), tr("Error"), ui::Cursor::arrow, [this] {
         const std::string name = browser_->expandToFullPath(toWire(computerName()));
         ui_->editComputerName->setText(fromWire(name));
     });
     if (!expanded)
-        return;
+        return false;
     ui_->treeNetworkDiscovery->clearSelection();
     refresh();
     setComplete(true);
+    return true;
 }
 
 void SelectDataSourcePage::treeSelectionChanged() {

@@ -86,6 +86,8 @@ private:
     using Credentials = boost::shared_ptr<hessiancln::BackupSetCredentials>;
 
     void connectWidgets();
+    /// Expands what is typed. False if that failed, which was shown.
+    bool takeTypedComputer();
     void showPurpose();
     void giveTreeItsModel();
     void growToContents();

@@ -273,7 +273,20 @@ void InitialConfigurationTest::addressesAreAddedAndRemoved() {
         type(dialog, "txtFieldInputAddress", " \t");
         press(dialog, "btnAdd");
         QCOMPARE(addresses(dialog), q("vault1.example.net vault2.example.net vault3.example.net"));
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+            type(dialog, "txtFieldInputAddress",
+                 key == Qt::Key_Return ? "vault4.example.net" : "vault5.example.net");
+            child<QLineEdit>(dialog, "txtFieldInputAddress").setFocus();
+            QTest::keyClick(&child<QLineEdit>(dialog, "txtFieldInputAddress"), key);
+            QCOMPARE(text(dialog, "txtFieldInputAddress"), QString());
+        }
+        QCOMPARE(addresses(dialog), q("vault1.example.net vault2.example.net vault3.example.net "
+                                      "vault4.example.net vault5.example.net"));
         auto& list = child<QListWidget>(dialog, "listBoxAddress");
+        for (int row : {4, 3}) {
+            list.setCurrentRow(row);
+            press(dialog, "btnRemove");
+        }
         list.setCurrentRow(1);
         press(dialog, "btnRemove");
         QCOMPARE(addresses(dialog), q("vault1.example.net vault3.example.net"));

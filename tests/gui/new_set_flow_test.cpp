@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 #include <algorithm>
+#include <functional>
 
 #include <QCheckBox>
 #include <QLineEdit>
@@ -28,6 +29,9 @@ using support::difference;
 using support::isDialog;
 using support::ModalDriver;
 using Calls = std::vector<std::string>;
+using Leave = std::function<void(QWizard&)>; ///< how the user leaves a wizard
+
+Q_DECLARE_METATYPE(Leave)
 
 Q_DECLARE_METATYPE(simulator::Scenario)
 Q_DECLARE_METATYPE(std::vector<std::string>)
@@ -80,6 +84,8 @@ private slots:
     void givingUpTheCodeMakesNoSet();
     void theUserSeesThatMakingItTakesItsTime();
     void treesScrollToWhatIsLookedAt();
+    void aWizardThatIsLeftAsksForNothing_data();
+    void aWizardThatIsLeftAsksForNothing();
     void aSessionThatEndsUnderTheWizard();
     void theFirstSetIsOfferedAtLogin();
     void aSetOfADatabaseIsNoFirstSet();
@@ -244,6 +250,35 @@ void NewSetFlowTest::treesScrollToWhatIsLookedAt() {
         QVERIFY2(seen > height / 3 && seen < 2 * height / 3, qPrintable(QString::number(seen)));
         expand(folders, "E:/30");
         wizard.reject();
+    });
+    test_.run("OnNewBackupSet");
+}
+
+void NewSetFlowTest::aWizardThatIsLeftAsksForNothing_data() {
+    QTest::addColumn<Leave>("leave");
+    QTest::newRow("Escape") << Leave(
+        [](QWizard& wizard) { QTest::keyClick(wizard.focusWidget(), Qt::Key_Escape); });
+    QTest::newRow("Cancel") << Leave([](QWizard& wizard) {
+        QTest::mouseClick(wizard.button(QWizard::CancelButton), Qt::LeftButton);
+    });
+    QTest::newRow("the title bar's cross") << Leave([](QWizard& wizard) { wizard.close(); });
+}
+
+/// A name that is half typed is no reason to look for the computer.
+void NewSetFlowTest::aWizardThatIsLeftAsksForNothing() {
+    QFETCH(Leave, leave);
+    test_.start();
+    test_.modals->expect(q("wizard"), isDialog<QWizard>, [&](QWidget& widget) {
+        widget.activateWindow();
+        QTRY_COMPARE(QApplication::activeWindow(), &widget);
+        auto& computer = child<QLineEdit>(widget, "editComputerName");
+        computer.setFocus();
+        QVERIFY(computer.hasFocus());
+        QTest::keyClicks(&computer, q("files"));
+        test_.agent->clearCallLog();
+        leave(static_cast<QWizard&>(widget));
+        QVERIFY(!widget.isVisible());
+        QCOMPARE(difference(callsOf(*test_.agent), {}), QString());
     });
     test_.run("OnNewBackupSet");
 }

@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QTranslator>
 
+#include "app/start_up.h"
 #include "resources/pictures.h"
 #include "tests/tour/album.h"
 #include "tests/tour/catalogue.h"
@@ -69,8 +70,7 @@ int main(int argc, char** argv) {
                    readTitles(QString::fromLocal8Bit(argv[3])));
         return 0;
     }
-    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    app::prepareToolkit();
     QApplication application(argc, argv);
     resources::initPictures();
     const QStringList arguments = QCoreApplication::arguments();

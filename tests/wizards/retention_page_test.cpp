@@ -58,6 +58,7 @@ private slots:
     void init() { start(); }
     void cleanup() { end(); }
 
+    void theFocusBeginsOnTheFirstField();
     void theDefaultsNeedNoAgent();
     void aSetWithoutARuleLeavesTheDefaults();
     void theRuleOfTheSetIsShown();
@@ -113,6 +114,11 @@ private:
         return takeCalls();
     }
 };
+
+void RetentionPageTest::theFocusBeginsOnTheFirstField() {
+    Page page;
+    QTRY_COMPARE(page->window()->focusWidget(), &page.widget("spinMaxGens"));
+}
 
 void RetentionPageTest::theDefaultsNeedNoAgent() {
     Page page;

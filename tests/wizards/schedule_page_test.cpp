@@ -28,6 +28,8 @@ private slots:
     void anAgentThatFailsFailsTheConstructor();
     void theTypeDecidesWhatIsShown();
     void whatIsHiddenKeepsItsPlace();
+    void theFocusBeginsOnTheCheckedKind_data();
+    void theFocusBeginsOnTheCheckedKind();
 
     void aSetWithoutAScheduleIsNotScheduled();
     void aScheduleWithoutDetailsLeavesTheDefaults();
@@ -113,6 +115,24 @@ void SchedulePageTest::whatIsHiddenKeepsItsPlace() {
             QVERIFY2(widget->height() >= widget->minimumSizeHint().height(),
                      qPrintable(widget->objectName()));
     QCOMPARE(wizard.size(), size);
+}
+
+void SchedulePageTest::theFocusBeginsOnTheCheckedKind_data() {
+    QTest::addColumn<QString>("kind");
+    for (const char* kind : {"radioNotScheduled", "radioDaily", "radioMonthly"})
+        QTest::newRow(kind) << name(kind);
+}
+
+void SchedulePageTest::theFocusBeginsOnTheCheckedKind() {
+    QFETCH(QString, kind);
+    QWizard wizard;
+    auto* page = new ScheduleSelectPage;
+    wizard.addPage(page);
+    auto& radio = support::child<QRadioButton>(*page, qPrintable(kind));
+    radio.setChecked(true);
+    wizard.show();
+    QVERIFY(QTest::qWaitForWindowActive(&wizard));
+    QTRY_COMPARE(wizard.focusWidget(), &radio);
 }
 
 void SchedulePageTest::aSetWithoutAScheduleIsNotScheduled() {

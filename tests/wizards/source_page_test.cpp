@@ -65,6 +65,7 @@ private slots:
     void looksIntoTheNetworkOnlyIfShown();
     void aContainerBlocksNext();
     void aTypedNameIsExpanded();
+    void aNameIsExpandedBeforeNextByItsKey();
     void aNameThatCantBeExpandedStays();
     void theBoxOfAFailureEndsNoFurtherEditing();
     void aFieldThatIsPassedThroughIsNotEdited();
@@ -306,6 +307,29 @@ void SourcePageTest::aTypedNameIsExpanded() {
     QCOMPARE(driver.text("editComputerName"), fromUtf8(simulator::sources::fileServer));
     QCOMPARE(driver.page().computerName(), fromUtf8(simulator::sources::fileServer));
     QVERIFY(!driver.isEnabled("chkUseTarnClientAccount"));
+}
+
+void SourcePageTest::aNameIsExpandedBeforeNextByItsKey() {
+    Session session;
+    PageDriver driver;
+    driver.show();
+    driver.typeComputer(QStringLiteral("other"));
+    auto& edit = child<QLineEdit>(driver.page(), "editComputerName");
+    edit.setFocus();
+    edit.selectAll();
+    QTest::keyClicks(&edit, QStringLiteral("filesrv"));
+    session.source.takeCalls();
+    session.source.agent.inject("check", simulator::Fault{"Out of order."});
+    ModalDriver modals;
+    modals.expectErrorBox(QStringLiteral("Credential check failed"),
+                          QStringLiteral("Out of order."));
+    driver.wizard().button(QWizard::NextButton)->click();
+    QVERIFY(modals.done());
+    const Lines calls = session.source.takeCalls();
+    QCOMPARE(calls.front(), std::string(R"(DataSourceBrowser.expandToFullPath("filesrv"))"));
+    QCOMPARE(
+        calls.at(7),
+        std::string(R"(BackupSetCredentials.check("Microsoft Windows Network\\OFFICE\\FILESRV"))"));
 }
 
 void SourcePageTest::aNameThatCantBeExpandedStays() {
