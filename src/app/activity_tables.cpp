@@ -18,8 +18,8 @@ namespace app {
 
 namespace {
 
-constexpr std::array kLogWidths{150, 280, 60, 80, 140, 140, 120, 60, 100};
-constexpr std::array kRunningWidths{130, 140, 120, 320, 450};
+constexpr std::array logWidths{150, 280, 60, 80, 140, 140, 120, 60, 100};
+constexpr std::array runningWidths{130, 140, 120, 320, 450};
 
 template <class Widths>
 void setUpTable(QTableView& table, SortedTableModel& model, const Widths& widths, int sortColumn) {
@@ -57,12 +57,12 @@ void ActivityTables::setUpSpan() {
 }
 
 void ActivityTables::setUpLog() {
-    setUpTable(widgets_.log, log_, kLogWidths, ActivityLogModel::start);
+    setUpTable(widgets_.log, log_, logWidths, ActivityLogModel::start);
 }
 
 void ActivityTables::setUpRunning() {
     QTableView& table = widgets_.running;
-    setUpTable(table, running_, kRunningWidths, RunningActivitiesModel::startTime);
+    setUpTable(table, running_, runningWidths, RunningActivitiesModel::startTime);
     keepSortArrow(table, running_);
     table.setItemDelegateForColumn(RunningActivitiesModel::progress,
                                    new CActivityProgressItemDelegate(running_, &table));

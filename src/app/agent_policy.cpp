@@ -18,13 +18,13 @@ using hessiancln::tarn_client_info;
 
 // The names under which an English and a German agent tell who makes the policy. The value is
 // English under both.
-constexpr std::string_view kPolicyNames[] = {"Centrally Managed Backup Policy",
-                                             "Zentral-verwaltete Backup-Politik"};
-constexpr std::string_view kYes = "Yes";
+constexpr std::string_view policyNames[] = {"Centrally Managed Backup Policy",
+                                            "Zentral-verwaltete Backup-Politik"};
+constexpr std::string_view yes = "Yes";
 
 bool tellsPolicy(const tarn_client_info& info) {
-    return std::find(std::begin(kPolicyNames), std::end(kPolicyNames), info.name) !=
-           std::end(kPolicyNames);
+    return std::find(std::begin(policyNames), std::end(policyNames), info.name) !=
+           std::end(policyNames);
 }
 
 } // namespace
@@ -34,7 +34,7 @@ void readAgentPolicy() {
     const auto rows = connection->getTarnClientInfo();
     const auto policy = std::find_if(rows.begin(), rows.end(), tellsPolicy);
     if (policy != rows.end())
-        session::g_isCentrallyManaged = policy->value == kYes;
+        session::g_isCentrallyManaged = policy->value == yes;
     session::g_is2FAEnabled = session::required(connection->getTFAManager())->is2FAEnabled();
 }
 

@@ -12,7 +12,7 @@ namespace app {
 
 namespace {
 
-constexpr std::int32_t kNoSet = -1;
+constexpr std::int32_t noSet = -1;
 
 bool holdsOtherThanFiles(const hessiancln::backup_set_info& set) {
     return set.data_type != hessiancln::BackupDataType::FileSystem;
@@ -28,7 +28,7 @@ BackupSetList::BackupSetList(QTableView& view, Source source, BackupSetViewItem:
     : view_(view)
     , source_(std::move(source))
     , rename_(std::move(rename))
-    , pendingId_(kNoSet) {
+    , pendingId_(noSet) {
     view_.setModel(&rows_);
     connect(view_.selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &BackupSetList::followSelection);
@@ -48,7 +48,7 @@ bool BackupSetList::rebuild() {
         cardAt(row)->setRecord(set);
         if (pendingId_ == set.id) {
             idToSelect = set.id;
-            pendingId_ = kNoSet;
+            pendingId_ = noSet;
         }
         if (idToSelect == set.id)
             select(row);
@@ -92,7 +92,7 @@ BackupSetViewItem* BackupSetList::selectedCard() const {
 
 std::int32_t BackupSetList::selectedId() const {
     const BackupSetViewItem* card = selectedCard();
-    return card ? card->record().id : kNoSet;
+    return card ? card->record().id : noSet;
 }
 
 void BackupSetList::select(int row) {

@@ -11,7 +11,7 @@ namespace app {
 
 namespace {
 
-constexpr int kSecondsPerBeat = 5;
+constexpr int secondsPerBeat = 5;
 
 } // namespace
 
@@ -42,7 +42,7 @@ void Heartbeat::stop() {
 void Heartbeat::run() {
     int seconds = 0;
     while (!stop_) {
-        if (++seconds == kSecondsPerBeat) {
+        if (++seconds == secondsPerBeat) {
             QCoreApplication::postEvent(&receiver_,
                                         new QEvent(static_cast<QEvent::Type>(eventType_)));
             seconds = 0;

@@ -19,9 +19,9 @@
 
 namespace {
 
-constexpr int kWidth = 1000;
-constexpr int kSetsWidth = 650;
-constexpr int kDetailsWidth = 350;
+constexpr int windowWidth = 1000;
+constexpr int setsWidth = 650;
+constexpr int detailsWidth = 350;
 
 /// Wants all the width that there is, and needs none. In a row of tool bars the last one gets what
 /// the others don't want; with this in the first bar, the last one stands at the right end.
@@ -91,10 +91,10 @@ void SimpleGUIMainWindow::setUpBackupSets() {
 }
 
 void SimpleGUIMainWindow::setUpGeometry() {
-    resize(kWidth, height());
+    resize(windowWidth, height());
     if (const QScreen* screen = QGuiApplication::primaryScreen())
         move(screen->availableGeometry().center() - rect().center());
-    ui_->splitterSetView->setSizes({kSetsWidth, kDetailsWidth});
+    ui_->splitterSetView->setSizes({setsWidth, detailsWidth});
     ui_->splitterSetView->setStretchFactor(0, 1);
     ui_->splitterSetView->setStretchFactor(1, 0);
 }

@@ -12,7 +12,7 @@ using support::ModalDriver;
 
 namespace {
 
-const QString kTitle = QStringLiteral("Error checking backup set properties");
+const QString boxTitle = QStringLiteral("Error checking backup set properties");
 
 /// A panel about sets that have as many files as their id says, unless the agent is out of order.
 struct ShownPanel {
@@ -42,9 +42,10 @@ struct ShownPanel {
         }};
 };
 
-const QStringList kTexts{QStringLiteral("UNKNOWN"),       QStringLiteral("12"),
-                         QStringLiteral("2.00 KB"),       QStringLiteral("File System"),
-                         QStringLiteral("Not Scheduled"), QStringLiteral("1 to 3 generations")};
+const QStringList expectedTexts{
+    QStringLiteral("UNKNOWN"),       QStringLiteral("12"),
+    QStringLiteral("2.00 KB"),       QStringLiteral("File System"),
+    QStringLiteral("Not Scheduled"), QStringLiteral("1 to 3 generations")};
 
 } // namespace
 
@@ -55,7 +56,7 @@ private slots:
         ShownPanel shown;
         shown.panel.show(12);
         QCOMPARE(shown.asked, QList<int>{12});
-        QCOMPARE(shown.texts(), kTexts);
+        QCOMPARE(shown.texts(), expectedTexts);
         QVERIFY(shown.panel.hasBackedUpData());
         shown.panel.show(0);
         QCOMPARE(shown.texts().at(0), QStringLiteral("Never backed up"));
@@ -76,10 +77,10 @@ private slots:
         shown.panel.show(12);
         shown.outOfOrder = true;
         ModalDriver modals;
-        modals.expectErrorBox(kTitle, QStringLiteral("Out of order."));
+        modals.expectErrorBox(boxTitle, QStringLiteral("Out of order."));
         shown.panel.show(0);
         QVERIFY(modals.done());
-        QCOMPARE(shown.texts(), kTexts);
+        QCOMPARE(shown.texts(), expectedTexts);
         QVERIFY(shown.panel.hasBackedUpData());
     }
 
@@ -89,14 +90,14 @@ private slots:
         // What a heartbeat does while the box is open.
         QTimer::singleShot(0, &shown.page, [&shown] { shown.panel.show(2); });
         ModalDriver modals;
-        modals.expectErrorBox(kTitle, QStringLiteral("Out of order."));
+        modals.expectErrorBox(boxTitle, QStringLiteral("Out of order."));
         shown.panel.show(1);
         QVERIFY(modals.done());
         QCOMPARE(shown.asked, QList<int>{1});
         // Afterwards it asks again.
         shown.outOfOrder = false;
         shown.panel.show(12);
-        QCOMPARE(shown.texts(), kTexts);
+        QCOMPARE(shown.texts(), expectedTexts);
     }
 };
 

@@ -13,9 +13,9 @@ namespace {
 
 using Balloons = QList<QPair<QString, QString>>;
 
-const Balloons kReminder{{QStringLiteral("Tarn-Mobile User is still running!"),
-                          QStringLiteral("You can click the icon to show the window.\n\nClick "
-                                         "here to not show this reminder again.")}};
+const Balloons reminder{{QStringLiteral("Tarn-Mobile User is still running!"),
+                         QStringLiteral("You can click the icon to show the window.\n\nClick "
+                                        "here to not show this reminder again.")}};
 
 /// A window that is shown, with its presence in a tray that keeps what it shows.
 struct ShownWindow {
@@ -90,9 +90,9 @@ private slots:
     void remindsUntilToldNotTo() {
         ShownWindow shown;
         shown.presence.remind();
-        QCOMPARE(shown.icon->balloons, kReminder);
+        QCOMPARE(shown.icon->balloons, reminder);
         shown.presence.remind();
-        QCOMPARE(shown.icon->balloons, kReminder + kReminder);
+        QCOMPARE(shown.icon->balloons, reminder + reminder);
         shown.presence.endReminder();
         shown.presence.remind();
         QCOMPARE(shown.icon->balloons.size(), 2);
