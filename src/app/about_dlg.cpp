@@ -3,11 +3,10 @@
 #include "app/about_dlg.h"
 
 #include <QEvent>
-#include <QHeaderView>
 
 #include "session/process_values.h"
 #include "ui/branding_resources.h"
-#include "ui/fitting_text_delegate.h"
+#include "ui/table_columns.h"
 #include "ui_about_dlg.h"
 
 namespace {
@@ -40,11 +39,7 @@ void AboutDlg::setTexts() {
 
 void AboutDlg::setUpInformation() {
     ui_->groupInfo->setVisible(session::connectedToAgent());
-    ui_->tableInfo->setModel(&model_);
-    ui_->tableInfo->setItemDelegate(new ui::FittingTextDelegate(ui_->tableInfo));
-    ui_->tableInfo->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    ui_->tableInfo->setColumnWidth(TarnClientInfoModel::item, 140);
-    ui_->tableInfo->setColumnWidth(TarnClientInfoModel::value, 270);
+    ui::setUpTable(*ui_->tableInfo, model_);
     model_.refresh();
 }
 

@@ -15,12 +15,10 @@
 
 namespace {
 
+using M = ActivityLogModel;
 using R = hessiancln::activity_log_info;
 using app::LabelKey;
-using app::TableColumn;
-
-constexpr Qt::Alignment centred = Qt::AlignCenter;
-constexpr Qt::Alignment right = Qt::AlignRight | Qt::AlignVCenter;
+using app::RecordColumn;
 
 bool hasEnded(const R& record) {
     return record.end_time >= 1;
@@ -46,37 +44,42 @@ constexpr LabelKey<R> typeKey{
     [](const R& record) { return static_cast<std::int32_t>(record.type); },
     [](const R& record) { return ui::activityTypeLabel(record.type); }};
 
-const std::array<TableColumn<R>, 9> columns{{
-    {QT_TRANSLATE_NOOP("ActivityLogModel", "Type"),
+constexpr std::array<RecordColumn<R>, M::columns> columnTable{{
+    {{M::type, QT_TRANSLATE_NOOP("ActivityLogModel", "Type"), 150},
      [](const R& record) { return ui::activityTypeLabel(record.type); },
      typeKey,
-     {},
      [](const R& record) { return ui::activityTypeIcon(record.type); }},
-    {QT_TRANSLATE_NOOP("ActivityLogModel", "Description"),
-     [](const R& record) { return session::fromWire(record.description); }, &R::description},
-    {QT_TRANSLATE_NOOP("ActivityLogModel", "Errors"),
+    {{M::description, QT_TRANSLATE_NOOP("ActivityLogModel", "Description"), 280},
+     [](const R& record) { return session::fromWire(record.description); },
+     &R::description},
+    {{M::errors, QT_TRANSLATE_NOOP("ActivityLogModel", "Errors"), 60, Qt::AlignCenter},
      [](const R& record) { return ui::numberText(record.errors); },
-     [](const R& record) -> std::int64_t { return record.errors; }, centred},
-    {QT_TRANSLATE_NOOP("ActivityLogModel", "Warnings"),
+     [](const R& record) -> std::int64_t { return record.errors; }},
+    {{M::warnings, QT_TRANSLATE_NOOP("ActivityLogModel", "Warnings"), 80, Qt::AlignCenter},
      [](const R& record) { return ui::numberText(record.warnings); },
-     [](const R& record) -> std::int64_t { return record.warnings; }, centred},
-    {QT_TRANSLATE_NOOP("ActivityLogModel", "Start"), startText,
+     [](const R& record) -> std::int64_t { return record.warnings; }},
+    {{M::start, QT_TRANSLATE_NOOP("ActivityLogModel", "Start"), 140},
+     startText,
      [](const R& record) -> std::int64_t { return record.start_time; }},
-    {QT_TRANSLATE_NOOP("ActivityLogModel", "End"), endText,
+    {{M::end, QT_TRANSLATE_NOOP("ActivityLogModel", "End"), 140},
+     endText,
      [](const R& record) -> std::int64_t { return record.end_time; }},
-    {QT_TRANSLATE_NOOP("ActivityLogModel", "Duration"), durationText, secondsOf},
-    {QT_TRANSLATE_NOOP("ActivityLogModel", "Files"),
+    {{M::duration, QT_TRANSLATE_NOOP("ActivityLogModel", "Duration"), 120},
+     durationText,
+     secondsOf},
+    {{M::files, QT_TRANSLATE_NOOP("ActivityLogModel", "Files"), 60, ui::rightInCell},
      [](const R& record) { return ui::numberText(record.file_count); },
-     [](const R& record) -> std::int64_t { return record.file_count; }, right},
-    {QT_TRANSLATE_NOOP("ActivityLogModel", "Data size"),
+     [](const R& record) -> std::int64_t { return record.file_count; }},
+    {{M::dataSize, QT_TRANSLATE_NOOP("ActivityLogModel", "Data size"), 100, ui::rightInCell},
      [](const R& record) { return ui::numberText(record.data_size); },
-     [](const R& record) { return record.data_size; }, right},
+     [](const R& record) { return record.data_size; }},
 }};
+static_assert(ui::areInOrder(columnTable));
 
 } // namespace
 
 ActivityLogModel::ActivityLogModel(QObject* parent)
-    : RecordTableModel(columns, parent) {}
+    : RecordTableModel(columnTable, parent) {}
 
 void ActivityLogModel::refresh(std::int32_t from, std::int32_t to) {
     setRecords(session::getConnection()->activity_log(from, to));

@@ -9,7 +9,18 @@
 class ActivityLogModel : public app::RecordTableModel<hessiancln::activity_log_info> {
     Q_OBJECT
 public:
-    enum Column { type, description, errors, warnings, start, end, duration, files, dataSize };
+    enum Column {
+        type,
+        description,
+        errors,
+        warnings,
+        start,
+        end,
+        duration,
+        files,
+        dataSize,
+        columns
+    };
 
     explicit ActivityLogModel(QObject* parent = nullptr);
 

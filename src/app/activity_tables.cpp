@@ -3,34 +3,18 @@
 #include "app/activity_tables.h"
 
 #include <algorithm>
-#include <array>
 
 #include <QDateTimeEdit>
-#include <QHeaderView>
 #include <QTableView>
 
 #include "app/activity_progress_item_delegate.h"
 #include "app/log_span.h"
-#include "app/wire_time.h"
-#include "ui/fitting_text_delegate.h"
+#include "session/wire_time.h"
+#include "ui/table_columns.h"
 
 namespace app {
 
 namespace {
-
-constexpr std::array logWidths{150, 280, 60, 80, 140, 140, 120, 60, 100};
-constexpr std::array runningWidths{130, 140, 120, 320, 450};
-
-template <class Widths>
-void setUpTable(QTableView& table, SortedTableModel& model, const Widths& widths, int sortColumn) {
-    table.setModel(&model);
-    for (std::size_t column = 0; column < widths.size(); ++column)
-        table.setColumnWidth(static_cast<int>(column), widths[column]);
-    table.setItemDelegate(new ui::FittingTextDelegate(&table));
-    // In the middle of its column, the header of a wide one would be out of sight.
-    table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    table.sortByColumn(sortColumn, Qt::DescendingOrder);
-}
 
 /// From top to bottom.
 std::vector<int> selectedRows(const QTableView& table) {
@@ -57,19 +41,22 @@ void ActivityTables::setUpSpan() {
 }
 
 void ActivityTables::setUpLog() {
-    setUpTable(widgets_.log, log_, logWidths, ActivityLogModel::start);
+    ui::setUpTable(widgets_.log, log_);
+    widgets_.log.sortByColumn(ActivityLogModel::start, Qt::DescendingOrder);
 }
 
 void ActivityTables::setUpRunning() {
     QTableView& table = widgets_.running;
-    setUpTable(table, running_, runningWidths, RunningActivitiesModel::startTime);
+    ui::setUpTable(table, running_);
+    table.sortByColumn(RunningActivitiesModel::startTime, Qt::DescendingOrder);
     keepSortArrow(table, running_);
     table.setItemDelegateForColumn(RunningActivitiesModel::progress,
                                    new CActivityProgressItemDelegate(running_, &table));
 }
 
 void ActivityTables::refresh() {
-    log_.refresh(wireTime(widgets_.from.dateTime()), wireTime(widgets_.to.dateTime()));
+    log_.refresh(session::wireTime(widgets_.from.dateTime()),
+                 session::wireTime(widgets_.to.dateTime()));
     running_.refresh();
 }
 

@@ -12,11 +12,10 @@
 
 namespace {
 
+using M = EventLogModel;
 using R = hessiancln::event_log_info;
 using app::LabelKey;
-using app::TableColumn;
-
-constexpr Qt::Alignment right = Qt::AlignRight | Qt::AlignVCenter;
+using app::RecordColumn;
 
 struct Severity {
     const char* label;
@@ -74,35 +73,41 @@ QString eventNumberText(const R& record) {
     return QStringLiteral("0x%1").arg(record.event_id, 8, 16, QLatin1Char('0'));
 }
 
-const std::array<TableColumn<R>, 8> columns{{
-    {QT_TRANSLATE_NOOP("EventLogModel", "Type"),
-     typeLabel,
-     LabelKey<R>{[](const R& record) { return static_cast<std::int32_t>(record.type); }, typeLabel},
-     {},
-     typeIcon},
-    {QT_TRANSLATE_NOOP("EventLogModel", "Time"),
+constexpr LabelKey<R> typeKey{
+    [](const R& record) { return static_cast<std::int32_t>(record.type); }, typeLabel};
+constexpr LabelKey<R> categoryKey{
+    [](const R& record) { return static_cast<std::int32_t>(record.category); }, categoryLabel};
+
+constexpr std::array<RecordColumn<R>, M::columns> columnTable{{
+    {{M::type, QT_TRANSLATE_NOOP("EventLogModel", "Type"), 60}, typeLabel, typeKey, typeIcon},
+    {{M::time, QT_TRANSLATE_NOOP("EventLogModel", "Time"), 220},
      [](const R& record) { return ui::timeText(record.when, QLocale::LongFormat); },
      [](const R& record) -> std::int64_t { return record.when; }},
-    {QT_TRANSLATE_NOOP("EventLogModel", "User"),
-     [](const R& record) { return session::fromWire(record.user); }, &R::user},
-    {QT_TRANSLATE_NOOP("EventLogModel", "Category"), categoryLabel,
-     LabelKey<R>{[](const R& record) { return static_cast<std::int32_t>(record.category); },
-                 categoryLabel}},
-    {QT_TRANSLATE_NOOP("EventLogModel", "Event #"), eventNumberText,
-     [](const R& record) -> std::int64_t { return record.event_id; }, right},
-    {QT_TRANSLATE_NOOP("EventLogModel", "Activity"),
+    {{M::user, QT_TRANSLATE_NOOP("EventLogModel", "User"), 80},
+     [](const R& record) { return session::fromWire(record.user); },
+     &R::user},
+    {{M::category, QT_TRANSLATE_NOOP("EventLogModel", "Category"), 100},
+     categoryLabel,
+     categoryKey},
+    {{M::eventNumber, QT_TRANSLATE_NOOP("EventLogModel", "Event #"), 80, ui::rightInCell},
+     eventNumberText,
+     [](const R& record) -> std::int64_t { return record.event_id; }},
+    {{M::activity, QT_TRANSLATE_NOOP("EventLogModel", "Activity"), 80, ui::rightInCell},
      [](const R& record) { return ui::numberText(record.activity_id); },
-     [](const R& record) -> std::int64_t { return record.activity_id; }, right},
-    {QT_TRANSLATE_NOOP("EventLogModel", "Detail"),
-     [](const R& record) { return session::fromWire(record.extra_info); }, &R::extra_info},
-    {QT_TRANSLATE_NOOP("EventLogModel", "Description"),
-     [](const R& record) { return session::fromWire(record.description); }, &R::description},
+     [](const R& record) -> std::int64_t { return record.activity_id; }},
+    {{M::detail, QT_TRANSLATE_NOOP("EventLogModel", "Detail"), 80},
+     [](const R& record) { return session::fromWire(record.extra_info); },
+     &R::extra_info},
+    {{M::description, QT_TRANSLATE_NOOP("EventLogModel", "Description"), 1500},
+     [](const R& record) { return session::fromWire(record.description); },
+     &R::description},
 }};
+static_assert(ui::areInOrder(columnTable));
 
 } // namespace
 
 EventLogModel::EventLogModel(QObject* parent)
-    : RecordTableModel(columns, parent) {}
+    : RecordTableModel(columnTable, parent) {}
 
 void EventLogModel::refresh(std::int32_t from, std::int32_t to, std::int32_t activityId) {
     setRecords(session::getConnection()->event_log(from, to, activityId));

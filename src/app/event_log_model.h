@@ -9,7 +9,7 @@
 class EventLogModel : public app::RecordTableModel<hessiancln::event_log_info> {
     Q_OBJECT
 public:
-    enum Column { type, time, user, category, eventNumber, activity, detail, description };
+    enum Column { type, time, user, category, eventNumber, activity, detail, description, columns };
 
     explicit EventLogModel(QObject* parent = nullptr);
 

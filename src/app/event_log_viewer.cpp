@@ -2,24 +2,16 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "app/event_log_viewer.h"
 
-#include <array>
-
 #include <QDateTime>
 #include <QEvent>
-#include <QHeaderView>
 #include <QSignalBlocker>
 
-#include "app/wire_time.h"
+#include "session/wire_time.h"
 #include "ui/branding_resources.h"
 #include "ui/fitting_text_delegate.h"
 #include "ui/remote_action.h"
+#include "ui/table_columns.h"
 #include "ui_event_log_viewer.h"
-
-namespace {
-
-constexpr std::array columnWidths{60, 220, 80, 100, 80, 80, 80, 1500};
-
-} // namespace
 
 EventLogViewer::EventLogViewer(QWidget* parent)
     : QDialog(parent)
@@ -40,15 +32,10 @@ EventLogViewer::~EventLogViewer() = default;
 
 void EventLogViewer::setUpTable() {
     QTableView& table = *ui_->tableEvents;
-    table.setModel(&model_);
-    for (std::size_t column = 0; column < columnWidths.size(); ++column)
-        table.setColumnWidth(static_cast<int>(column), columnWidths[column]);
-    table.setItemDelegate(new ui::FittingTextDelegate(&table));
+    ui::setUpTable(table, model_);
     // The time of day stands at the end, and tells events apart better than the month does.
     table.setItemDelegateForColumn(EventLogModel::time,
                                    new ui::FittingTextDelegate(&table, Qt::ElideMiddle));
-    // In the middle of its column, the header of the widest one would be out of sight.
-    table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     table.sortByColumn(EventLogModel::time, Qt::DescendingOrder);
 }
 
@@ -73,8 +60,8 @@ void EventLogViewer::refreshData() {
         if (ui_->checkActivityID->isChecked() && id != 0)
             model_.refresh(0, 0, id);
         else
-            model_.refresh(app::wireTime(ui_->timeFrom->dateTime()),
-                           app::wireTime(ui_->timeTo->dateTime()), 0);
+            model_.refresh(session::wireTime(ui_->timeFrom->dateTime()),
+                           session::wireTime(ui_->timeTo->dateTime()), 0);
     });
 }
 

@@ -7,21 +7,19 @@
 #include <utility>
 #include <vector>
 
-#include <QCoreApplication>
 #include <QIcon>
 
 #include "app/record_order.h"
 #include "app/sorted_table_model.h"
+#include "ui/table_columns.h"
 
 namespace app {
 
-/// How a record is shown in one column.
+/// A column, and how a record is shown in it.
 template <class R>
-struct TableColumn {
-    const char* header; ///< English; translated in the context of the model's class
-    QString (*text)(const R&);
-    SortKey<R> key;
-    Qt::Alignment alignment = {}; ///< none leaves it to the view
+struct RecordColumn : ui::TableColumn {
+    QString (*text)(const R&) = nullptr;
+    SortKey<R> key{};
     QIcon (*icon)(const R&) = nullptr;
 };
 
@@ -31,7 +29,7 @@ template <class R>
 class RecordTableModel : public SortedTableModel {
 public:
     /// `columns` has to outlive the model.
-    explicit RecordTableModel(std::span<const TableColumn<R>> columns, QObject* parent = nullptr)
+    explicit RecordTableModel(std::span<const RecordColumn<R>> columns, QObject* parent = nullptr)
         : SortedTableModel(parent)
         , columns_(columns) {}
 
@@ -61,7 +59,7 @@ protected:
 private:
     void signalAllChanged();
 
-    std::span<const TableColumn<R>> columns_;
+    std::span<const RecordColumn<R>> columns_;
     std::vector<R> records_;
 };
 
@@ -102,23 +100,21 @@ QVariant RecordTableModel<R>::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
         return {};
     const R& record = records_[static_cast<std::size_t>(index.row())];
-    const TableColumn<R>& column = columns_[static_cast<std::size_t>(index.column())];
+    const RecordColumn<R>& column = columns_[static_cast<std::size_t>(index.column())];
     if (role == Qt::DisplayRole)
         return column.text(record);
     if (role == Qt::DecorationRole && column.icon)
         return column.icon(record);
     if (role == Qt::TextAlignmentRole && column.alignment)
-        return static_cast<int>(column.alignment);
+        return ui::alignmentOf(column);
     return rowData(record, role);
 }
 
 template <class R>
 QVariant RecordTableModel<R>::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || section < 0 || section >= columnCount() ||
-        role != Qt::DisplayRole)
+    if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
         return QAbstractTableModel::headerData(section, orientation, role);
-    return QCoreApplication::translate(metaObject()->className(),
-                                       columns_[static_cast<std::size_t>(section)].header);
+    return ui::headerOf(*this, columns_[static_cast<std::size_t>(section)], role);
 }
 
 template <class R>

@@ -15,29 +15,36 @@
 
 namespace {
 
+using M = RunningActivitiesModel;
 using R = hessiancln::running_activity_info;
 using app::LabelKey;
-using app::TableColumn;
+using app::RecordColumn;
 
 QString typeLabel(const R& record) {
     return ui::activityTypeLabel(record.type);
 }
 
-const std::array<TableColumn<R>, 5> columns{{
-    {QT_TRANSLATE_NOOP("RunningActivitiesModel", "Type"),
+constexpr LabelKey<R> typeKey{
+    [](const R& record) { return static_cast<std::int32_t>(record.type); }, typeLabel};
+
+constexpr std::array<RecordColumn<R>, M::columns> columnTable{{
+    {{M::type, QT_TRANSLATE_NOOP("RunningActivitiesModel", "Type"), 130},
      typeLabel,
-     LabelKey<R>{[](const R& record) { return static_cast<std::int32_t>(record.type); }, typeLabel},
-     {},
+     typeKey,
      [](const R& record) { return ui::activityTypeIcon(record.type); }},
-    {QT_TRANSLATE_NOOP("RunningActivitiesModel", "Start Time"),
+    {{M::startTime, QT_TRANSLATE_NOOP("RunningActivitiesModel", "Start Time"), 140},
      [](const R& record) { return ui::timeText(record.start_time, QLocale::ShortFormat); },
      [](const R& record) -> std::int64_t { return record.start_time; }},
-    {QT_TRANSLATE_NOOP("RunningActivitiesModel", "User Name"),
-     [](const R& record) { return session::fromWire(record.user); }, &R::user},
-    {QT_TRANSLATE_NOOP("RunningActivitiesModel", "Progress"), app::progressText, {}},
-    {QT_TRANSLATE_NOOP("RunningActivitiesModel", "Description"),
-     [](const R& record) { return session::fromWire(record.description); }, &R::description},
+    {{M::userName, QT_TRANSLATE_NOOP("RunningActivitiesModel", "User Name"), 120},
+     [](const R& record) { return session::fromWire(record.user); },
+     &R::user},
+    {{M::progress, QT_TRANSLATE_NOOP("RunningActivitiesModel", "Progress"), 320},
+     app::progressText},
+    {{M::description, QT_TRANSLATE_NOOP("RunningActivitiesModel", "Description"), 450},
+     [](const R& record) { return session::fromWire(record.description); },
+     &R::description},
 }};
+static_assert(ui::areInOrder(columnTable));
 
 /// Text of the agent inside a rich text.
 QString rich(const std::string& text) {
@@ -64,7 +71,7 @@ std::int64_t RunningActivitiesModel::systemClock() {
 }
 
 RunningActivitiesModel::RunningActivitiesModel(QObject* parent, Clock clock)
-    : RecordTableModel(columns, parent)
+    : RecordTableModel(columnTable, parent)
     , clock_(std::move(clock)) {}
 
 void RunningActivitiesModel::refresh() {

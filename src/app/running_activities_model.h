@@ -14,7 +14,7 @@ Q_DECLARE_METATYPE(hessiancln::running_activity_info)
 class RunningActivitiesModel : public app::RecordTableModel<hessiancln::running_activity_info> {
     Q_OBJECT
 public:
-    enum Column { type, startTime, userName, progress, description };
+    enum Column { type, startTime, userName, progress, description, columns };
 
     /// Gives seconds since 1970 UTC.
     using Clock = std::function<std::int64_t()>;

@@ -10,25 +10,21 @@
 
 namespace {
 
+using M = TarnClientInfoModel;
 using R = hessiancln::tarn_client_info;
 
-constexpr Qt::Alignment left = Qt::AlignLeft | Qt::AlignVCenter;
-
-const std::array<app::TableColumn<R>, 2> columns{{
-    {QT_TRANSLATE_NOOP("TarnClientInfoModel", "Item"),
-     [](const R& record) { return session::fromWire(record.name); },
-     {},
-     left},
-    {QT_TRANSLATE_NOOP("TarnClientInfoModel", "Value"),
-     [](const R& record) { return session::fromWire(record.value); },
-     {},
-     left},
+constexpr std::array<app::RecordColumn<R>, M::columns> columnTable{{
+    {{M::item, QT_TRANSLATE_NOOP("TarnClientInfoModel", "Item"), 140, ui::leftInCell},
+     [](const R& record) { return session::fromWire(record.name); }},
+    {{M::value, QT_TRANSLATE_NOOP("TarnClientInfoModel", "Value"), 270, ui::leftInCell},
+     [](const R& record) { return session::fromWire(record.value); }},
 }};
+static_assert(ui::areInOrder(columnTable));
 
 } // namespace
 
 TarnClientInfoModel::TarnClientInfoModel(QObject* parent)
-    : RecordTableModel(columns, parent) {}
+    : RecordTableModel(columnTable, parent) {}
 
 void TarnClientInfoModel::refresh() {
     if (session::connectedToAgent())

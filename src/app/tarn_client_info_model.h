@@ -9,7 +9,7 @@
 class TarnClientInfoModel : public app::RecordTableModel<hessiancln::tarn_client_info> {
     Q_OBJECT
 public:
-    enum Column { item, value };
+    enum Column { item, value, columns };
 
     explicit TarnClientInfoModel(QObject* parent = nullptr);
 

@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "config/admin_times.h"
 
-#include <QTime>
-
 #include "api/client_configuration_records.h"
+#include "session/wire_time.h"
 
 namespace config {
 
@@ -26,9 +25,7 @@ DayOfWeekCode dayOfRow(int row) {
 }
 
 hessiancln::time_in_day runTime(bool on, const QTime& time) {
-    if (!on)
-        return {off, 0, 0};
-    return {time.hour(), time.minute(), 0};
+    return on ? session::wireTime(time) : hessiancln::time_in_day{off, 0, 0};
 }
 
 } // namespace config

@@ -2,11 +2,27 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "config/tfa_users_model.h"
 
+#include <array>
+
 #include "api/client_connection.h"
 #include "config/user_email_rules.h"
 #include "session/connection.h"
 #include "session/required.h"
 #include "session/text.h"
+#include "ui/table_columns.h"
+
+namespace {
+
+using M = TFAUsersModel;
+
+constexpr std::array<ui::TableColumn, M::columns> columnTable{{
+    {M::username, QT_TRANSLATE_NOOP("TFAUsersModel", "Username"), 160},
+    {M::domain, QT_TRANSLATE_NOOP("TFAUsersModel", "Domain"), 140},
+    {M::email, QT_TRANSLATE_NOOP("TFAUsersModel", "Email")},
+}};
+static_assert(ui::areInOrder(columnTable));
+
+} // namespace
 
 void TFAUsersModel::refresh() {
     auto rows = session::required(session::getConnection()->getTFAManager())->getUserEmails();
@@ -84,18 +100,9 @@ QVariant TFAUsersModel::data(const QModelIndex& index, int role) const {
 }
 
 QVariant TFAUsersModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+    if (orientation != Qt::Horizontal || section < 0 || section >= columns)
         return QAbstractTableModel::headerData(section, orientation, role);
-    switch (section) {
-    case username:
-        return tr("Username");
-    case domain:
-        return tr("Domain");
-    case email:
-        return tr("Email");
-    default:
-        return {};
-    }
+    return ui::headerOf(*this, columnTable[static_cast<std::size_t>(section)], role);
 }
 
 void TFAUsersModel::setRow(int index, const hessiancln::user_email& row) {

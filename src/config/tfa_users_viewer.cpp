@@ -5,7 +5,6 @@
 #include <QEvent>
 #include <QFile>
 #include <QFileDialog>
-#include <QHeaderView>
 
 #include "api/client_connection.h"
 #include "config/chosen_file.h"
@@ -15,10 +14,10 @@
 #include "session/connection.h"
 #include "session/required.h"
 #include "ui/branding_resources.h"
-#include "ui/fitting_text_delegate.h"
 #include "ui/message_box.h"
 #include "ui/remote_action.h"
 #include "ui/standard_buttons.h"
+#include "ui/table_columns.h"
 #include "ui_tfa_users_viewer.h"
 
 namespace {
@@ -43,11 +42,7 @@ TFAUsersViewer::~TFAUsersViewer() = default;
 
 void TFAUsersViewer::setUpTable() {
     QTableView& table = *ui_->tableUsers;
-    table.setModel(&model_);
-    table.setItemDelegate(new ui::FittingTextDelegate(&table));
-    table.setColumnWidth(TFAUsersModel::username, 160);
-    table.setColumnWidth(TFAUsersModel::domain, 140);
-    table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    ui::setUpTable(table, model_);
     connect(table.selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &TFAUsersViewer::updateEnabling);
     connect(&model_, &QAbstractItemModel::modelReset, this, &TFAUsersViewer::updateEnabling);

@@ -9,7 +9,7 @@
 #include "models/name_order.h"
 #include "session/text.h"
 #include "ui/error_box.h"
-#include "ui/override_cursor.h"
+#include "ui/wait_cursor.h"
 
 using hessiancln::net_item_info;
 using hessiancln::NetItemType;

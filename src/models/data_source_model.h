@@ -9,7 +9,7 @@
 #include <boost/shared_ptr.hpp>
 
 #include "models/lazy_tree_model.h"
-#include "models/path_item.h"
+#include "models/path_selection.h"
 
 class CDataSourceItem;
 

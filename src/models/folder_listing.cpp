@@ -8,7 +8,7 @@
 #include "api/data_source_browser.h"
 #include "models/lazy_node.h"
 #include "models/name_order.h"
-#include "ui/override_cursor.h"
+#include "ui/wait_cursor.h"
 
 namespace models {
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "models/generation_select_model.h"
 
+#include <array>
 #include <cstddef>
 
 #include <QPixmap>
@@ -9,10 +10,22 @@
 #include "models/item_pixmap.h"
 #include "ui/locale_text.h"
 #include "ui/size_text.h"
+#include "ui/table_columns.h"
 
 namespace {
 
 enum Column { BackupTime, FileSize, ModificationTime, ColumnCount };
+
+constexpr std::array<ui::TableColumn, ColumnCount> columnTable{{
+    {BackupTime, QT_TRANSLATE_NOOP("CGenerationSelectModel", "Backup time"), 180},
+    {FileSize, QT_TRANSLATE_NOOP("CGenerationSelectModel", "File size"), 150, ui::rightInCell},
+    {ModificationTime, QT_TRANSLATE_NOOP("CGenerationSelectModel", "Modification time"), 180},
+}};
+static_assert(ui::areInOrder(columnTable));
+
+const ui::TableColumn& columnAt(int number) {
+    return columnTable[static_cast<std::size_t>(number)];
+}
 
 } // namespace
 
@@ -50,9 +63,7 @@ QVariant CGenerationSelectModel::data(const QModelIndex& index, int role) const 
                                           ? QStringLiteral(":/tree/selected_file")
                                           : QStringLiteral(":/tree/file"));
     case Qt::TextAlignmentRole:
-        if (index.column() != FileSize)
-            return {};
-        return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
+        return ui::alignmentOf(columnAt(index.column()));
     default:
         return {};
     }
@@ -60,18 +71,9 @@ QVariant CGenerationSelectModel::data(const QModelIndex& index, int role) const 
 
 QVariant CGenerationSelectModel::headerData(int section, Qt::Orientation orientation,
                                             int role) const {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+    if (orientation != Qt::Horizontal || section < 0 || section >= ColumnCount)
         return {};
-    switch (section) {
-    case BackupTime:
-        return tr("Backup time");
-    case FileSize:
-        return tr("File size");
-    case ModificationTime:
-        return tr("Modification time");
-    default:
-        return {};
-    }
+    return ui::headerOf(*this, columnAt(section), role);
 }
 
 const hessiancln::file_generations&

@@ -2,13 +2,22 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "models/checkable_node.h"
-#include "models/path_item.h"
 
 /// A selection in a tree with check boxes as a list of paths, and back.
 namespace models {
+
+/// One line of a selection: a path, UTF-8, its parts joined by backslashes, that a backup set holds
+/// with all below it, or that it leaves out.
+struct PathItem {
+    std::string path;
+    bool isExclusion = false;
+
+    bool operator==(const PathItem&) const = default;
+};
 
 /// For each topmost node that is wholly checked, its path, followed by the exclusions below it.
 /// Fetches the root if need be, and nothing else.

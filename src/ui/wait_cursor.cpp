@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ui/wait_cursor.h"
 
+#include <QGuiApplication>
+
 namespace ui {
 
 WaitCursor::WaitCursor(QWidget& widget)
@@ -12,6 +14,14 @@ WaitCursor::WaitCursor(QWidget& widget)
 WaitCursor::~WaitCursor() {
     if (widget_)
         widget_->setCursor(Qt::ArrowCursor);
+}
+
+OverrideCursor::OverrideCursor() {
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+}
+
+OverrideCursor::~OverrideCursor() {
+    QGuiApplication::restoreOverrideCursor();
 }
 
 } // namespace ui

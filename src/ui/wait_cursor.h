@@ -5,10 +5,11 @@
 #include <QPointer>
 #include <QWidget>
 
+/// The wait cursor, put back whichever way a block is left.
 namespace ui {
 
-/// Shows the wait cursor over a widget for as long as this object lives, and the arrow from then
-/// on, whichever way the block was left. The widget may go first.
+/// Over a widget for as long as this object lives, and the arrow from then on. The widget may go
+/// first.
 class WaitCursor {
 public:
     explicit WaitCursor(QWidget& widget);
@@ -18,6 +19,15 @@ public:
 
 private:
     QPointer<QWidget> widget_;
+};
+
+/// Over the whole program for as long as this object lives. Such objects may nest.
+class OverrideCursor {
+public:
+    OverrideCursor();
+    ~OverrideCursor();
+    OverrideCursor(const OverrideCursor&) = delete;
+    OverrideCursor& operator=(const OverrideCursor&) = delete;
 };
 
 } // namespace ui

@@ -11,7 +11,7 @@
 #include <QString>
 
 #include "api/backup_set.h"
-#include "models/path_item.h"
+#include "models/path_selection.h"
 #include "wizards/file_type_expressions.h"
 
 /// The items of a backup set: what they say, and how they are made. All of this raises what the

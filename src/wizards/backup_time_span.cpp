@@ -3,7 +3,8 @@
 #include "wizards/backup_time_span.h"
 
 #include <algorithm>
-#include <limits>
+
+#include "session/wire_time.h"
 
 namespace wizards {
 
@@ -19,8 +20,7 @@ BackupTimeSpan backupTimeSpan(const std::vector<hessiancln::backup_sessions>& se
 }
 
 std::int32_t secondsOf(const QDateTime& time) {
-    using Limits = std::numeric_limits<std::int32_t>;
-    return static_cast<std::int32_t>(std::clamp<qint64>(time.toSecsSinceEpoch(), 0, Limits::max()));
+    return std::max(session::wireTime(time), 0);
 }
 
 std::int32_t limitOf(const QDateTime& time) {

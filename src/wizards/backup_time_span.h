@@ -19,8 +19,7 @@ struct BackupTimeSpan {
 BackupTimeSpan backupTimeSpan(const std::vector<hessiancln::backup_sessions>& sessions,
                               const QDateTime& now);
 
-/// Seconds since 1970 UTC as the agent takes them. A time that they can't say becomes the nearest
-/// one that they can.
+/// Seconds since 1970 UTC as the agent takes them, from 0 on.
 std::int32_t secondsOf(const QDateTime& time);
 
 /// The same for a time up to or since when files count: never 0, which would be no limit, and let

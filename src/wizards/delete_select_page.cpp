@@ -11,7 +11,7 @@
 #include "models/backed_up_data_model.h"
 #include "session/required.h"
 #include "ui/message_box.h"
-#include "ui/override_cursor.h"
+#include "ui/wait_cursor.h"
 #include "ui_delete_select_page.h"
 #include "wizards/confirm_by_code.h"
 #include "wizards/delete_filter.h"

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <vector>
 
 #include <QString>
@@ -31,6 +32,25 @@ struct FileTypes {
     QString excludedExtensions{}; ///< separated by bars, as typed
 };
 
+/// A kind of file, its check box and its expression.
+struct FileKind {
+    bool FileTypes::*chosen;
+    QLatin1String box;          ///< object name of the check box
+    QLatin1String sign;         ///< the extension by which the kind is recognised
+    QLatin1String alternatives; ///< all its extensions, as they stand in an expression
+    bool breaksLines = false;   ///< its patterns are shown as rich text
+};
+
+/// The kinds that can be selected, in the order in which they are written.
+std::span<const FileKind> selectableKinds();
+/// The kinds that can be left out of everything. Their alternatives begin with the bar that parts
+/// them from what stands before, which may be nothing.
+std::span<const FileKind> rejectableKinds();
+
+/// What people see of a kind's extensions: "*.asf, *.avi" and so on, in lines that fit a screen, or
+/// as rich text, which breaks its lines by itself.
+QString patternsOf(const FileKind& kind);
+
 /// A filter that a set needs below each of its roots.
 struct FileTypeExpression {
     QString expression;
@@ -54,13 +74,5 @@ ReadExpression readExpression(const QString& expression);
 
 /// Sets the kinds by the `kinds` of all filters of a set, put together. The rest stays.
 void readKinds(const QString& kinds, FileTypes& types);
-
-/// What people see of a kind's extensions: "*.asf, *.avi" and so on, in lines that fit a screen.
-QString documentPatterns();
-QString videoPatterns();
-QString picturePatterns();
-QString musicPatterns();
-/// The same as rich text, which breaks its lines by itself.
-QString emailPatterns();
 
 } // namespace wizards

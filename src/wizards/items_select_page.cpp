@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "wizards/items_select_page.h"
 
+#include <algorithm>
+
 #include <QEvent>
 #include <QWizard>
 
@@ -11,7 +13,6 @@
 #include "models/select_display_delegate.h"
 #include "session/required.h"
 #include "session/text.h"
-#include "ui/override_cursor.h"
 #include "ui/plain_tool_tip.h"
 #include "ui/wait_cursor.h"
 #include "ui/wizard_frame.h"
@@ -37,9 +38,8 @@ ItemsSelectPage::ItemsSelectPage(QWidget* parent)
     validator_ = new CFileExtensionValidator(*ui_->editCustomInc, *ui_->editCustomExc, this);
     ui_->editCustomInc->setValidator(validator_);
     ui_->editCustomExc->setValidator(validator_);
-    for (QCheckBox* box : {ui_->checkDocuments, ui_->checkVideo, ui_->checkPictures,
-                           ui_->checkMusic, ui_->checkEmail})
-        connect(box, &QCheckBox::clicked, this, &ItemsSelectPage::completeChanged);
+    for (const wizards::FileKind& kind : wizards::selectableKinds())
+        connect(&boxOf(kind), &QCheckBox::clicked, this, &ItemsSelectPage::completeChanged);
     connect(ui_->treeComputer, &QTreeView::expanded, this, &ItemsSelectPage::treeExpanded);
     showPatterns();
     on_radioSpecificLocation_clicked();
@@ -48,11 +48,12 @@ ItemsSelectPage::ItemsSelectPage(QWidget* parent)
 ItemsSelectPage::~ItemsSelectPage() = default;
 
 void ItemsSelectPage::showPatterns() {
-    ui_->checkDocuments->setToolTip(wizards::documentPatterns());
-    ui_->checkVideo->setToolTip(wizards::videoPatterns());
-    ui_->checkPictures->setToolTip(wizards::picturePatterns());
-    ui_->checkMusic->setToolTip(wizards::musicPatterns());
-    ui_->checkEmail->setToolTip(wizards::emailPatterns());
+    for (const wizards::FileKind& kind : wizards::selectableKinds())
+        boxOf(kind).setToolTip(wizards::patternsOf(kind));
+}
+
+QCheckBox& ItemsSelectPage::boxOf(const wizards::FileKind& kind) const {
+    return *findChild<QCheckBox*>(kind.box);
 }
 
 void ItemsSelectPage::changeEvent(QEvent* event) {
@@ -174,13 +175,9 @@ void ItemsSelectPage::showFileTypes(const wizards::StoredItems& stored) {
         ui_->editCustomExc->setText(*stored.excludedExtensions);
     wizards::FileTypes types;
     wizards::readKinds(stored.kinds, types);
-    ui_->checkDocuments->setChecked(types.documents);
-    ui_->checkVideo->setChecked(types.video);
-    ui_->checkPictures->setChecked(types.pictures);
-    ui_->checkMusic->setChecked(types.music);
-    ui_->checkEmail->setChecked(types.email);
-    ui_->checkTempFiles->setChecked(types.temporary);
-    ui_->checkBakFiles->setChecked(types.backup);
+    for (const auto& kinds : {wizards::selectableKinds(), wizards::rejectableKinds()})
+        for (const wizards::FileKind& kind : kinds)
+            boxOf(kind).setChecked(types.*kind.chosen);
     ui_->checkCustomInc->setChecked(!ui_->editCustomInc->text().isEmpty());
     ui_->checkCustomExc->setChecked(!ui_->editCustomExc->text().isEmpty());
     ui_->checkEverything->setChecked(!anyKind() && !ui_->checkCustomInc->isChecked());
@@ -213,24 +210,21 @@ void ItemsSelectPage::chooseCustomLocation() {
 }
 
 bool ItemsSelectPage::anyKind() const {
-    return ui_->checkDocuments->isChecked() || ui_->checkVideo->isChecked() ||
-           ui_->checkPictures->isChecked() || ui_->checkMusic->isChecked() ||
-           ui_->checkEmail->isChecked();
+    const auto kinds = wizards::selectableKinds();
+    return std::any_of(kinds.begin(), kinds.end(),
+                       [this](const auto& kind) { return boxOf(kind).isChecked(); });
 }
 
 wizards::FileTypes ItemsSelectPage::fileTypes() const {
-    return {.everything = ui_->checkEverything->isChecked(),
-            .documents = ui_->checkDocuments->isChecked(),
-            .video = ui_->checkVideo->isChecked(),
-            .pictures = ui_->checkPictures->isChecked(),
-            .music = ui_->checkMusic->isChecked(),
-            .email = ui_->checkEmail->isChecked(),
-            .custom = ui_->checkCustomInc->isChecked(),
-            .customExtensions = ui_->editCustomInc->text(),
-            .temporary = ui_->checkTempFiles->isChecked(),
-            .backup = ui_->checkBakFiles->isChecked(),
-            .excluded = ui_->checkCustomExc->isChecked(),
-            .excludedExtensions = ui_->editCustomExc->text()};
+    wizards::FileTypes types{.everything = ui_->checkEverything->isChecked(),
+                             .custom = ui_->checkCustomInc->isChecked(),
+                             .customExtensions = ui_->editCustomInc->text(),
+                             .excluded = ui_->checkCustomExc->isChecked(),
+                             .excludedExtensions = ui_->editCustomExc->text()};
+    for (const auto& kinds : {wizards::selectableKinds(), wizards::rejectableKinds()})
+        for (const wizards::FileKind& kind : kinds)
+            types.*kind.chosen = boxOf(kind).isChecked();
+    return types;
 }
 
 std::vector<models::PathItem> ItemsSelectPage::paths() const {

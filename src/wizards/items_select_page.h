@@ -17,6 +17,7 @@ class CDataSourceDirOnlyModel;
 class CDataSourceModel;
 class CFileExtensionValidator;
 class CSelectDisplayDelegate;
+class QCheckBox;
 class QModelIndex;
 
 namespace Ui {
@@ -34,6 +35,7 @@ struct PathItem;
 }
 
 namespace wizards {
+struct FileKind;
 struct FileTypes;
 struct StoredItems;
 } // namespace wizards
@@ -92,6 +94,7 @@ private:
     struct Contents;
 
     void showPatterns();
+    QCheckBox& boxOf(const wizards::FileKind& kind) const;
     std::optional<Source> changedSource() const;
     Contents fetch(const Source& source) const;
     void showContents(Contents contents);

@@ -16,7 +16,7 @@
 #include "models/display_path.h"
 #include "models/generation_select_model.h"
 #include "session/required.h"
-#include "ui/override_cursor.h"
+#include "ui/wait_cursor.h"
 #include "ui_restore_select_page.h"
 #include "wizards/backup_time_span.h"
 #include "wizards/exact_time.h"

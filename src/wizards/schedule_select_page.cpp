@@ -15,6 +15,7 @@
 #include "session/connection.h"
 #include "session/required.h"
 #include "session/text.h"
+#include "session/wire_time.h"
 #include "ui/wizard_frame.h"
 #include "ui_schedule_select_page.h"
 #include "wizards/schedule_times.h"
@@ -196,7 +197,7 @@ ScheduleSelectPage::DetailPointer ScheduleSelectPage::createDetail(ScheduleManag
 }
 
 void ScheduleSelectPage::writeTimes(ScheduleDetail& detail) const {
-    detail.setStartTime(wizards::wireTimeOf(ui_->timeStart->time()));
+    detail.setStartTime(session::wireTime(ui_->timeStart->time()));
     if (ui_->checkStop->isChecked())
         detail.setEndTime(wizards::endTimeOf(stopTime()));
     else

@@ -7,6 +7,8 @@
 
 #include <QtGlobal>
 
+#include "session/wire_time.h"
+
 namespace wizards {
 
 namespace {
@@ -48,7 +50,9 @@ QTime defaultStart(const QString& clientNumber) {
 }
 
 hessiancln::time_in_day endTimeOf(const StopTime& stop) {
-    return {stop.time.hour() + hoursOfDay * stop.days, stop.time.minute(), 0};
+    hessiancln::time_in_day end = session::wireTime(stop.time);
+    end.hour += hoursOfDay * stop.days;
+    return end;
 }
 
 StopTime stopTimeOf(const hessiancln::time_in_day& end) {
@@ -58,10 +62,6 @@ StopTime stopTimeOf(const hessiancln::time_in_day& end) {
 
 QTime startTimeOf(const hessiancln::time_in_day& start) {
     return timeOfMinutes(minutesWithin(start, 1));
-}
-
-hessiancln::time_in_day wireTimeOf(const QTime& start) {
-    return endTimeOf({start, 0});
 }
 
 bool isComplete(const ScheduleChoice& choice) {

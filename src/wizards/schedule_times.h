@@ -33,8 +33,6 @@ StopTime stopTimeOf(const hessiancln::time_in_day& end);
 /// A start, as it is shown. What lies outside the day becomes its first or last minute.
 QTime startTimeOf(const hessiancln::time_in_day& start);
 
-hessiancln::time_in_day wireTimeOf(const QTime& start);
-
 /// What is chosen on the schedule page, as far as it can contradict itself.
 struct ScheduleChoice {
     bool daily = false;

@@ -14,7 +14,6 @@
 #include "session/text.h"
 #include "ui/remote_action.h"
 #include "ui_select_data_source_page.h"
-#include "wizards/computer_name.h"
 #include "wizards/enter_simple_user_psw.h"
 #include "wizards/ssh_access_text.h"
 #include "wizards/ssh_access_type.h"
@@ -35,6 +34,11 @@ namespace {
 constexpr std::int32_t browserForNewSet = 0;
 
 } // namespace
+
+bool wizards::isLocalComputer(const QString& source) {
+    const QString name = source.trimmed().section(QLatin1Char('\\'), 0, 0);
+    return name == QLatin1String("My Computer") || name == QLatin1String("Tarn-Client Computer");
+}
 
 SelectDataSourcePage::SelectDataSourcePage(QWidget* parent)
     : SelectDataSourcePage(platform::isAdministrator, parent) {}

@@ -24,6 +24,14 @@ namespace Ui {
 class SelectDataSourcePage;
 }
 
+namespace wizards {
+
+/// Whether the source that somebody typed is on the agent's own computer. Its name counts in this
+/// spelling only; what follows a backslash doesn't matter.
+bool isLocalComputer(const QString& source);
+
+} // namespace wizards
+
 /// Which computer a set backs up, and with which login. The page owns the browser of its wizard,
 /// and writes each change of the credentials to it at once: only so can the next page look into
 /// the computer. What is wrong with the credentials is shown in a box; the page stays usable.

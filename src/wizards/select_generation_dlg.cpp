@@ -3,12 +3,12 @@
 #include "wizards/select_generation_dlg.h"
 
 #include <QEvent>
-#include <QHeaderView>
 
 #include "models/generation_select_model.h"
 #include "models/picture_delegate.h"
 #include "ui/branding_resources.h"
 #include "ui/fitting_text_delegate.h"
+#include "ui/table_columns.h"
 #include "ui_select_generation_dlg.h"
 
 namespace {
@@ -42,13 +42,9 @@ SelectGenerationDlg::~SelectGenerationDlg() = default;
 
 void SelectGenerationDlg::setUpTable() {
     QTableView& table = *ui_->listGenerations;
-    table.setModel(model_.get());
+    ui::setUpTable(table, *model_);
     table.setItemDelegate(new GenerationDelegate(&table));
-    int column = 0;
-    for (const int width : {180, 150, 180})
-        table.setColumnWidth(column++, width);
     table.resizeRowsToContents();
-    table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     connect(table.selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &SelectGenerationDlg::updateEnabling);
 }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "wizards/set_name_page.h"
 
+#include <algorithm>
+
 #include <QToolTip>
 
 #include "api/client_connection.h"
@@ -9,7 +11,13 @@
 #include "session/text.h"
 #include "ui/wizard_frame.h"
 #include "ui_set_name_page.h"
-#include "wizards/set_names.h"
+
+bool wizards::isNameTaken(const QString& name,
+                          const std::vector<hessiancln::backup_set_info>& sets) {
+    return std::any_of(sets.begin(), sets.end(), [&name](const hessiancln::backup_set_info& set) {
+        return session::fromWire(set.name).compare(name, Qt::CaseInsensitive) == 0;
+    });
+}
 
 SetNamePage::SetNamePage(QWidget* parent)
     : QWizardPage(parent)

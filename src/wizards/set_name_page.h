@@ -3,6 +3,7 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
 #include <QWizardPage>
 
@@ -10,11 +11,19 @@
 
 namespace hessiancln {
 class BackupSet;
-}
+struct backup_set_info;
+} // namespace hessiancln
 
 namespace Ui {
 class SetNamePage;
 }
+
+namespace wizards {
+
+/// Whether one of the sets has the name, in whatever case.
+bool isNameTaken(const QString& name, const std::vector<hessiancln::backup_set_info>& sets);
+
+} // namespace wizards
 
 /// The name of a new set, which no other set of the agent has.
 class SetNamePage : public QWizardPage {

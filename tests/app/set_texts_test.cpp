@@ -7,7 +7,6 @@
 
 #include "app/set_card_look.h"
 #include "app/set_details_text.h"
-#include "app/wire_time.h"
 
 namespace {
 
@@ -132,15 +131,6 @@ TEST(SetCardLook, ASetThatIsOutOfSyncIsGreyAndRed) {
                   "selection-color: red; }");
         EXPECT_FALSE(look.needsEditing);
     }
-}
-
-TEST(WireTime, ATimeIsSecondsSince1970) {
-    EXPECT_EQ(app::wireTime(QDateTime({1970, 1, 2}, {0, 0, 1, 999}, Qt::UTC)), 86401);
-}
-
-TEST(WireTime, ATimeOutOfRangeBecomesTheNearest) {
-    EXPECT_EQ(app::wireTime(QDateTime({2100, 1, 1}, {0, 0}, Qt::UTC)), INT32_MAX);
-    EXPECT_EQ(app::wireTime(QDateTime({1800, 1, 1}, {0, 0}, Qt::UTC)), INT32_MIN);
 }
 
 } // namespace

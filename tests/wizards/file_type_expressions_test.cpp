@@ -274,12 +274,21 @@ TEST(ReadKinds, ExtensionsOfTheUserTurnNoKindOn) {
     EXPECT_EQ(namesOf(kindsOf(read.kinds.toUtf8().constData())), "");
 }
 
+/// The patterns of the kind whose check box is called so.
+QString patternsOf(const char* box) {
+    for (const wizards::FileKind& kind : wizards::selectableKinds())
+        if (kind.box == QLatin1String(box))
+            return wizards::patternsOf(kind);
+    ADD_FAILURE() << "No kind has the box " << box;
+    return {};
+}
+
 TEST(Patterns, NameTheExtensionsInTheirOrder) {
-    EXPECT_EQ(wizards::videoPatterns(),
+    EXPECT_EQ(patternsOf("checkVideo"),
               text("*.asf, *.avi, *.dv, *.flv, *.m1v, *.m2p, *.m2v, *.m4v, *.moov, *.mov,\n"
                    "*.mpa, *.mpe, *.mpeg, *.mpg, *.mpv, *.ogm, *.omf, *.qt, *.swf, *.vdo,\n"
                    "*.vob, *.wm, *.wmd, *.wmv, *.wmx"));
-    EXPECT_EQ(wizards::emailPatterns(),
+    EXPECT_EQ(patternsOf("checkEmail"),
               text("<html><body><p>*.MsMessageStore, *.dbx, *.eml, *.fol, *.mbx, *.mif, *.msb, "
                    "*.msf, *.msg, *.nsf, *.pst, *.rwz, *.snm</p></body></html>"));
 }
@@ -293,10 +302,10 @@ std::string extensionsIn(QString patterns) {
 }
 
 TEST(Patterns, AreThoseOfTheFilters) {
-    EXPECT_EQ(extensionsIn(wizards::documentPatterns()), documentsExpression);
-    EXPECT_EQ(extensionsIn(wizards::videoPatterns()), videoExpression);
-    EXPECT_EQ(extensionsIn(wizards::picturePatterns()), picturesExpression);
-    EXPECT_EQ(extensionsIn(wizards::musicPatterns()), musicExpression);
+    EXPECT_EQ(extensionsIn(patternsOf("checkDocuments")), documentsExpression);
+    EXPECT_EQ(extensionsIn(patternsOf("checkVideo")), videoExpression);
+    EXPECT_EQ(extensionsIn(patternsOf("checkPictures")), picturesExpression);
+    EXPECT_EQ(extensionsIn(patternsOf("checkMusic")), musicExpression);
 }
 
 } // namespace

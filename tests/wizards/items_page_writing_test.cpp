@@ -68,6 +68,8 @@ private slots:
     void eachRootHasItsFilters();
     void allFilesNeedNoFilter();
     void whatIsLeftOutOfAllFilesIsOneFilter();
+    void eachBoxWritesItsOwnKind_data();
+    void eachBoxWritesItsOwnKind();
     void musicWithExtensionsOfTheUser();
     void trailingBarsAreDroppedFromSelectedExtensionsOnly();
     void allThatAUnixAgentHasIsOneRoot();
@@ -154,6 +156,34 @@ void ItemsPageWritingTest::whatIsLeftOutOfAllFilesIsOneFilter() {
     QCOMPARE(Calls(calls.begin() + 1, calls.end() - 1),
              filterCalls("C:", R"(.*\.(|tmp|swp|bak))", false));
     QCOMPARE(itemsOf(music), (Calls{R"(+C:\Users\anna\Documents)", R"(<C: .*\.(|tmp|swp|bak))"}));
+}
+
+void ItemsPageWritingTest::eachBoxWritesItsOwnKind_data() {
+    QTest::addColumn<QString>("box");
+    QTest::addColumn<QString>("begin");
+    const auto row = [](const char* box, const char* begin) {
+        QTest::newRow(box) << QString::fromLatin1(box) << QString::fromLatin1(begin);
+    };
+    row("checkVideo", R"(>C: .*\.(asf|avi|)");
+    row("checkPictures", R"(>C: .*\.(ai|bmp|)");
+    row("checkMusic", R"(>C: .*\.(a3c|aac|)");
+    row("checkEmail", R"(>C: .*\.(MsMessageStore|dbx|)");
+    row("checkTempFiles", R"(<C: .*\.(|tmp|swp))");
+    row("checkBakFiles", R"(<C: .*\.(|bak))");
+}
+
+void ItemsPageWritingTest::eachBoxWritesItsOwnKind() {
+    QFETCH(QString, box);
+    QFETCH(QString, begin);
+    PageOfSource page;
+    page.box("checkDocuments").click();
+    if (begin.startsWith(QLatin1Char('<')))
+        page.box("checkEverything").click();
+    page.box(qPrintable(box)).click();
+    page->apply(openSet(music));
+    const Calls items = itemsOf(music);
+    QCOMPARE(items.size(), std::size_t{2});
+    QVERIFY2(QString::fromStdString(items.at(1)).startsWith(begin), items.at(1).c_str());
 }
 
 void ItemsPageWritingTest::musicWithExtensionsOfTheUser() {

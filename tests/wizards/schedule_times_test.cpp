@@ -9,6 +9,8 @@
 
 #include <QtGlobal>
 
+#include "session/wire_time.h"
+
 // Where GoogleTest looks for it: beside the type.
 inline void PrintTo(const QTime& time, std::ostream* out) {
     *out << time.toString(QStringLiteral("hh:mm:ss")).toStdString();
@@ -113,7 +115,7 @@ TEST(StopTimes, AnEndThatCannotBeShownBecomesTheNearestThatCan) {
 }
 
 TEST(StartTimes, AreTimesOfTheDay) {
-    expectTime(wizards::wireTimeOf(QTime(18, 45)), 18, 45);
+    expectTime(session::wireTime(QTime(18, 45)), 18, 45);
     EXPECT_EQ(wizards::startTimeOf({18, 45, 30}), QTime(18, 45));
 }
 

@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <gtest/gtest.h>
 
+#include "api/backup_set_records.h"
 #include "session/text.h"
-#include "wizards/computer_name.h"
 #include "wizards/credentials_kind.h"
-#include "wizards/set_names.h"
+#include "wizards/select_data_source_page.h"
+#include "wizards/set_name_page.h"
 #include "wizards/ssh_access_text.h"
 
 namespace {

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
-#include "app/wire_time.h"
+#include "session/wire_time.h"
 
 #include <algorithm>
 #include <limits>
 
-namespace app {
+namespace session {
 
 std::int32_t wireTime(const QDateTime& time) {
     using Limits = std::numeric_limits<std::int32_t>;
@@ -13,4 +13,8 @@ std::int32_t wireTime(const QDateTime& time) {
         std::clamp<qint64>(time.toSecsSinceEpoch(), Limits::min(), Limits::max()));
 }
 
-} // namespace app
+hessiancln::time_in_day wireTime(const QTime& time) {
+    return {time.hour(), time.minute(), 0};
+}
+
+} // namespace session
