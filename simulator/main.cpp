@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 #include <cerrno>
-#include <csignal>
 #include <exception>
 #include <iostream>
 #include <system_error>
 
+#include "simulator/end_request.h"
 #include "simulator/options.h"
 #include "simulator/simulator.h"
 
@@ -13,22 +13,11 @@ namespace {
 
 constexpr int badCommandLine = 2;
 
-/// Signals are taken by `sigwait` on the main thread, so every thread is to block them.
-sigset_t blockEndSignals() {
-    sigset_t signals;
-    sigemptyset(&signals);
-    sigaddset(&signals, SIGTERM);
-    sigaddset(&signals, SIGINT);
-    pthread_sigmask(SIG_BLOCK, &signals, nullptr);
-    return signals;
-}
-
 void serve(const simulator::Options& options) {
-    const sigset_t signals = blockEndSignals();
+    simulator::expectEndRequest();
     simulator::Simulator agent(options);
     std::cout << agent.baseUrl() << std::endl;
-    int received = 0;
-    sigwait(&signals, &received);
+    simulator::waitForEndRequest();
 }
 
 int run(const simulator::CommandLine& commandLine) {

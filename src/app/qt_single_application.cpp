@@ -11,6 +11,8 @@
 #include <QThread>
 #include <QtEndian>
 
+#include "platform/session_folder.h"
+
 namespace {
 
 // A message is its length in UTF-8 as 4 bytes, then the text; the answer is one byte.
@@ -30,7 +32,10 @@ bool takeLock(QLockFile& lock) {
     return lock.error() != QLockFile::LockFailedError;
 }
 
-QString inRuntimeDirectory(const QString& name) {
+QString inSession(const QString& name) {
+    const QString prefix = QString::fromStdString(platform::sessionFilePrefix());
+    if (!prefix.isEmpty())
+        return prefix + name;
     return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + QLatin1Char('/') +
            name;
 }
@@ -74,7 +79,7 @@ bool takeMessage(QLocalSocket& socket, QString& message) {
 
 QtSingleApplication::QtSingleApplication(int& argc, char** argv)
     : QApplication(argc, argv)
-    , socketName_(inRuntimeDirectory(QStringLiteral("tarn-mobile-user")))
+    , socketName_(inSession(QStringLiteral("tarn-mobile-user")))
     , lock_(socketName_ + QStringLiteral(".lock")) {
     // A lock is stale when its process is gone, however old it is.
     lock_.setStaleLockTime(0);

@@ -7,9 +7,9 @@
 #include <QLockFile>
 #include <QString>
 
-/// The application object of a program that runs once per user. The first process to start
-/// listens for messages of later ones; which is the first, a lock file in the user's runtime
-/// directory decides, so that a crash leaves nothing behind that would block the next start.
+/// The application object of a program that runs once per user and session. The first process to
+/// start listens for messages of later ones; which is the first, a lock file of the session
+/// decides, so that a crash leaves nothing behind that would block the next start.
 class QtSingleApplication : public QApplication {
     Q_OBJECT
 public:

@@ -5,13 +5,13 @@
 #include <QLocalSocket>
 #include <QProcess>
 #include <QSignalSpy>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
 #include "app/qt_single_application.h"
 #include "app/simple_gui_main_window.h"
+#include "platform/session_folder.h"
 #include "resources/pictures.h"
 #include "tests/support/gui_agent.h"
 
@@ -19,6 +19,16 @@ using support::GuiAgent;
 using namespace std::chrono_literals;
 
 namespace {
+
+/// What names the folder of the user's session, on one system or the other.
+constexpr const char* runtimeVariables[] = {"XDG_RUNTIME_DIR", "TMP"};
+
+/// The file that a client keeps for its session.
+QString sessionFile(const QString& runtimeDirectory, const QString& name) {
+    const QString prefix = QString::fromStdString(platform::sessionFilePrefix());
+    return runtimeDirectory + QLatin1Char('/') +
+           prefix.mid(prefix.lastIndexOf(QLatin1Char('/')) + 1) + name;
+}
 
 /// The real program in a process of its own, which ends with this object. Its own machine's agent
 /// is that at `agentPort`, and nobody else runs in its runtime directory but whom the test put
@@ -28,7 +38,8 @@ public:
     Client(const QString& runtimeDirectory, quint16 agentPort) {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-        environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtimeDirectory);
+        for (const char* name : runtimeVariables)
+            environment.insert(QString::fromLatin1(name), runtimeDirectory);
         environment.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(TARN_PORT_REDIRECT));
         environment.insert(QStringLiteral("TARN_TEST_AGENT_PORT"), QString::number(agentPort));
         // The redirect stands before a sanitizer's own library, which is all right here.
@@ -155,7 +166,7 @@ private slots:
         QFETCH(QByteArray, lock);
         const GuiAgent agent;
         const QTemporaryDir elsewhere;
-        QFile file(elsewhere.filePath(QStringLiteral("tarn-mobile-user.lock")));
+        QFile file(sessionFile(elsewhere.path(), QStringLiteral("tarn-mobile-user.lock")));
         QVERIFY(file.open(QIODevice::WriteOnly));
         QCOMPARE(file.write(lock), qint64(lock.size()));
         file.close();
@@ -213,15 +224,16 @@ private slots:
 
 private:
     static void connectTo(QLocalSocket& peer) {
-        peer.connectToServer(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) +
-                             QStringLiteral("/tarn-mobile-user"));
+        peer.connectToServer(sessionFile(qEnvironmentVariable("XDG_RUNTIME_DIR"),
+                                         QStringLiteral("tarn-mobile-user")));
         QVERIFY(peer.waitForConnected(5000));
     }
 };
 
 int main(int argc, char** argv) {
     const QTemporaryDir runtimeDirectory;
-    qputenv("XDG_RUNTIME_DIR", runtimeDirectory.path().toLocal8Bit());
+    for (const char* name : runtimeVariables)
+        qputenv(name, runtimeDirectory.path().toLocal8Bit());
     QtSingleApplication application(argc, argv);
     ProgramTest test;
     return QTest::qExec(&test, argc, argv);

@@ -1,26 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
-#include <cstdio>
-#include <cstdlib>
-#include <initializer_list>
-#include <string>
 #include <thread>
 
 #include <gtest/gtest.h>
 
-#include "platform/event_log.h"
 #include "platform/foreground.h"
 #include "platform/process_id.h"
 #include "platform/security_context.h"
-#include "platform/standard_streams.h"
-#include "platform/user_name.h"
-
-#ifndef _WIN32
-#include <fcntl.h>
-#include <pwd.h>
-#include <syslog.h>
-#include <unistd.h>
-#endif
 
 namespace {
 
@@ -45,61 +31,5 @@ TEST(SecurityOperations, AreThereWhereLogonIsAvailable) {
 TEST(Foreground, MayBePassedAtAnyTime) {
     EXPECT_NO_THROW(platform::allowSetForeground());
 }
-
-#ifndef _WIN32
-
-TEST(EventLog, GetsAnErrorUnderTheNameOfItsSource) {
-    ::openlog("test", LOG_PERROR, LOG_USER); // so that it can be read here too
-    ::setlogmask(LOG_MASK(LOG_ERR));
-    testing::internal::CaptureStderr();
-    platform::reportError("HessianClientAPI", "100%s of a test \xF0\x9F\x8C\xB2");
-    EXPECT_EQ(testing::internal::GetCapturedStderr(),
-              "test: HessianClientAPI: 100%s of a test \xF0\x9F\x8C\xB2\n");
-    ::closelog();
-}
-
-/// In a process of its own: fills what is left when `closed` has been closed, and tells by its exit
-/// status which place the next file gets.
-[[noreturn]] void placeOfNextFile(std::initializer_list<int> closed, bool fill) {
-    // What a test runner left open above the three would hide the places to come.
-    ::close_range(3, ~0u, 0);
-    for (const int place : closed)
-        ::close(place);
-    if (fill)
-        platform::fillStandardStreams();
-    ::_exit(::open("/dev/zero", O_RDONLY));
-}
-
-TEST(StandardStreams, AreFilledSoThatNoOtherFileTakesTheirPlace) {
-    EXPECT_EXIT(placeOfNextFile({2}, false), testing::ExitedWithCode(2), "");
-    EXPECT_EXIT(placeOfNextFile({2}, true), testing::ExitedWithCode(3), "");
-    EXPECT_EXIT(placeOfNextFile({0, 2}, true), testing::ExitedWithCode(3), "");
-    EXPECT_EXIT(placeOfNextFile({0, 1, 2}, true), testing::ExitedWithCode(3), "");
-}
-
-TEST(StandardStreams, StayWhatTheyAreWhereTheyAreOpen) {
-    EXPECT_EXIT(placeOfNextFile({}, true), testing::ExitedWithCode(3), "");
-    EXPECT_EXIT((platform::fillStandardStreams(), std::fputs("said", stderr), ::_exit(0)),
-                testing::ExitedWithCode(0), "^said$");
-}
-
-TEST(ProcessId, IsTheSystemsOwn) {
-    EXPECT_EQ(platform::processId(), static_cast<long>(::getpid()));
-    EXPECT_EQ(platform::threadId(), platform::processId()); // as on every first thread
-}
-
-TEST(UserName, IsTheAccountOfTheProcessWhateverTheEnvironmentSays) {
-    const passwd* account = ::getpwuid(::geteuid());
-    const std::string expected = account ? account->pw_name : "";
-    ::setenv("USER", "somebody-else", 1);
-    ::setenv("LOGNAME", "somebody-else", 1);
-    EXPECT_EQ(platform::currentWindowsUser(), expected);
-}
-
-TEST(SecurityOperations, AreMissingOnThisSystem) {
-    EXPECT_FALSE(platform::integratedLogonAvailable());
-}
-
-#endif
 
 } // namespace

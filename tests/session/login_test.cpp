@@ -1,14 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
-#include <pwd.h>
-#include <unistd.h>
-
 #include "api/client_connection.h"
 #include "session/integrated_logon.h"
 #include "session/text.h"
 #include "tests/session/agent_fixture.h"
 #include "tests/support/scripted_security_operations.h"
 #include "tests/support/security_operations_override.h"
+#include "tests/support/system/process.h"
 #include "transport/invoke_exception.h"
 
 namespace {
@@ -255,7 +253,7 @@ TEST_F(IntegratedLogin, GoesThroughTheRoundsAndMovesToTheStream) {
     EXPECT_THAT(agent.callTexts(), ElementsAre(askKind, stepText(9), stepText(10)));
     EXPECT_EQ(system.asked[1].input, bytesOf(std::string("answer to first\0\0\0\0\0", 20)));
     EXPECT_TRUE(session::connectedToAgent());
-    EXPECT_EQ(session::currentUser(), getpwuid(geteuid())->pw_name);
+    EXPECT_EQ(session::currentUser(), support::process::accountName());
     EXPECT_FALSE(session::getConnection()->getTarnClientInfo().empty());
 }
 

@@ -2,20 +2,20 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "tests/simulator/raw_client.h"
 
-#include <cerrno>
 #include <stdexcept>
 
-#include <netinet/in.h>
 #include <openssl/err.h>
 #include <openssl/ssl.h>
-#include <sys/socket.h>
-#include <sys/time.h>
-#include <unistd.h>
+
+#include "tests/support/system/sockets.h"
 
 namespace raw {
 namespace {
 
-constexpr int limitSeconds = 10;
+namespace sockets = support::sockets;
+using namespace std::chrono_literals;
+
+constexpr auto limit = 10s;
 
 void need(bool worked, const char* what) {
     if (!worked)
@@ -32,7 +32,7 @@ std::string bigEndian(std::uint64_t value, int bytes) {
 } // namespace
 
 struct Connection::Parts {
-    int socket = -1;
+    sockets::Socket socket = -1;
     SSL_CTX* context = nullptr;
     SSL* ssl = nullptr;
 
@@ -40,18 +40,14 @@ struct Connection::Parts {
         SSL_free(ssl);
         SSL_CTX_free(context);
         if (socket >= 0)
-            ::close(socket);
-    }
-
-    void limitWaits(timeval limit) const {
-        setsockopt(socket, SOL_SOCKET, SO_RCVTIMEO, &limit, sizeof limit);
+            sockets::close(socket);
     }
 
     /// 0 if the other side has closed.
     std::size_t read(char* into, std::size_t count) {
         if (!ssl) {
-            const ssize_t got = ::recv(socket, into, count, 0);
-            need(got >= 0 || errno == ECONNRESET, "nothing came in time");
+            const std::ptrdiff_t got = sockets::receive(socket, into, count);
+            need(got >= 0 || sockets::wasReset(), "nothing came in time");
             return got > 0 ? static_cast<std::size_t>(got) : 0;
         }
         ERR_clear_error();
@@ -65,19 +61,14 @@ struct Connection::Parts {
 
 Connection::Connection(std::uint16_t port, bool tls)
     : parts_(std::make_unique<Parts>()) {
-    parts_->socket = ::socket(AF_INET, SOCK_STREAM, 0);
-    parts_->limitWaits({limitSeconds, 0});
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_port = htons(port);
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    const auto* generic = reinterpret_cast<const sockaddr*>(&address);
-    need(::connect(parts_->socket, generic, sizeof address) == 0, "no connection");
+    parts_->socket = sockets::connectToLoopback(port);
+    need(parts_->socket >= 0, "no connection");
+    sockets::limitReads(parts_->socket, limit);
     if (!tls)
         return;
     parts_->context = SSL_CTX_new(TLS_client_method());
     parts_->ssl = SSL_new(parts_->context);
-    SSL_set_fd(parts_->ssl, parts_->socket);
+    SSL_set_fd(parts_->ssl, static_cast<int>(parts_->socket));
     need(SSL_connect(parts_->ssl) == 1, "no TLS");
 }
 
@@ -87,7 +78,7 @@ void Connection::send(std::string_view bytes) {
     while (!bytes.empty()) {
         const auto sent = parts_->ssl
                               ? SSL_write(parts_->ssl, bytes.data(), static_cast<int>(bytes.size()))
-                              : ::send(parts_->socket, bytes.data(), bytes.size(), MSG_NOSIGNAL);
+                              : sockets::send(parts_->socket, bytes.data(), bytes.size());
         need(sent > 0, "the bytes could not be sent");
         bytes.remove_prefix(static_cast<std::size_t>(sent));
     }
@@ -113,12 +104,12 @@ std::string Connection::receiveRest() {
 
 bool Connection::silentFor(int milliseconds) {
     // What TLS itself has to say is no answer, so that poll alone can't tell.
-    parts_->limitWaits({0, milliseconds * 1000});
+    sockets::limitReads(parts_->socket, std::chrono::milliseconds(milliseconds));
     char byte = 0;
     const auto got =
-        parts_->ssl ? SSL_read(parts_->ssl, &byte, 1) : ::recv(parts_->socket, &byte, 1, 0);
-    const bool timedOut = got < 0 && (errno == EAGAIN || errno == EWOULDBLOCK);
-    parts_->limitWaits({limitSeconds, 0});
+        parts_->ssl ? SSL_read(parts_->ssl, &byte, 1) : sockets::receive(parts_->socket, &byte, 1);
+    const bool timedOut = got < 0 && sockets::wasTimeout();
+    sockets::limitReads(parts_->socket, limit);
     return timedOut;
 }
 

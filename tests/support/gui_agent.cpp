@@ -4,11 +4,13 @@
 
 #include "session/connection.h"
 #include "tests/support/gui_port_redirect.h"
+#include "tests/support/security_operations_override.h"
 
 namespace support {
 
 GuiAgent::GuiAgent(simulator::Options options)
     : Simulator(std::move(options)) {
+    leaveOutSystemSecurity();
     redirectLocalAgent(port());
 }
 

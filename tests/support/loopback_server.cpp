@@ -4,24 +4,14 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
-#include <csignal>
-#include <cstring>
 #include <stdexcept>
-#include <system_error>
 #include <utility>
 
-#include <arpa/inet.h>
 #include <gtest/gtest.h>
-#include <netinet/in.h>
-#include <netinet/tcp.h>
 #include <openssl/err.h>
 #include <openssl/evp.h>
 #include <openssl/ssl.h>
 #include <openssl/x509.h>
-#include <sys/socket.h>
-#include <sys/time.h>
-#include <unistd.h>
 
 #include "tests/support/bytes.h"
 
@@ -29,7 +19,7 @@
 namespace support {
 namespace {
 
-constexpr int patience = 20; // seconds
+constexpr std::chrono::seconds patience(20);
 
 [[noreturn]] void fail(const std::string& what) {
     throw std::runtime_error("peer: " + what);
@@ -89,24 +79,6 @@ SSL_CTX* makeContext() {
     return context;
 }
 
-/// `port` may be 0, and is then the one that the system has picked.
-int listenOnLoopback(std::uint16_t& port) {
-    const int listener = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    address.sin_port = htons(port);
-    const int on = 1;
-    ::setsockopt(listener, SOL_SOCKET, SO_REUSEADDR, &on, sizeof on);
-    socklen_t size = sizeof address;
-    auto* any = reinterpret_cast<sockaddr*>(&address);
-    if (listener < 0 || ::bind(listener, any, size) != 0 || ::listen(listener, 64) != 0 ||
-        ::getsockname(listener, any, &size) != 0)
-        throw std::system_error(errno, std::generic_category(), "no listener");
-    port = ntohs(address.sin_port);
-    return listener;
-}
-
 } // namespace
 
 std::string responseFrame(std::uint32_t id, std::string_view message) {
@@ -115,25 +87,23 @@ std::string responseFrame(std::uint32_t id, std::string_view message) {
     return "@RSP" + covered + bigEndian(crc32(covered), 4);
 }
 
-Peer::Peer(int socket, ssl_ctx_st* context)
+Peer::Peer(sockets::Socket socket, ssl_ctx_st* context)
     : socket_(socket)
     , context_(context) {
-    const timeval limit{patience, 0};
-    const int on = 1;
-    ::setsockopt(socket_, SOL_SOCKET, SO_RCVTIMEO, &limit, sizeof limit);
-    ::setsockopt(socket_, SOL_SOCKET, SO_SNDTIMEO, &limit, sizeof limit);
-    ::setsockopt(socket_, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
+    sockets::limitReads(socket_, patience);
+    sockets::limitWrites(socket_, patience);
+    sockets::sendAtOnce(socket_);
 }
 
 Peer::~Peer() {
     SSL_free(tls_);
-    ::close(socket_);
+    sockets::close(socket_);
 }
 
 Peer& Peer::open() {
     if (context_) {
         tls_ = SSL_new(context_);
-        SSL_set_fd(tls_, socket_);
+        SSL_set_fd(tls_, static_cast<int>(socket_));
         if (SSL_accept(tls_) != 1)
             fail("the handshake failed");
     }
@@ -142,10 +112,10 @@ Peer& Peer::open() {
 
 std::size_t Peer::receiveSome(char* buffer, std::size_t size) {
     if (!tls_) {
-        const ssize_t got = ::recv(socket_, buffer, size, 0);
-        if (got < 0 && errno != ECONNRESET)
-            fail(std::string("nothing received: ") + std::strerror(errno));
-        return static_cast<std::size_t>(std::max<ssize_t>(got, 0));
+        const std::ptrdiff_t got = sockets::receive(socket_, buffer, size);
+        if (got < 0 && !sockets::wasReset())
+            fail("nothing received: " + sockets::lastFailure());
+        return static_cast<std::size_t>(std::max<std::ptrdiff_t>(got, 0));
     }
     std::size_t got = 0;
     if (SSL_read_ex(tls_, buffer, size, &got) == 1)
@@ -153,7 +123,7 @@ std::size_t Peer::receiveSome(char* buffer, std::size_t size) {
     // This client never says goodbye, so the end of the socket is the end of the stream.
     const int cause = SSL_get_error(tls_, 0);
     const bool end = cause == SSL_ERROR_ZERO_RETURN ||
-                     (cause == SSL_ERROR_SYSCALL && errno == ECONNRESET) ||
+                     (cause == SSL_ERROR_SYSCALL && sockets::wasReset()) ||
                      ERR_GET_REASON(ERR_peek_error()) == SSL_R_UNEXPECTED_EOF_WHILE_READING;
     ERR_clear_error();
     if (!end)
@@ -222,9 +192,9 @@ Peer& Peer::send(std::string_view bytes) {
             if (SSL_write_ex(tls_, bytes.data(), bytes.size(), &sent) != 1)
                 fail("nothing sent on TLS");
         } else {
-            const ssize_t got = ::send(socket_, bytes.data(), bytes.size(), MSG_NOSIGNAL);
+            const std::ptrdiff_t got = sockets::send(socket_, bytes.data(), bytes.size());
             if (got < 0)
-                fail(std::string("nothing sent: ") + std::strerror(errno));
+                fail("nothing sent: " + sockets::lastFailure());
             sent = static_cast<std::size_t>(got);
         }
         bytes.remove_prefix(sent);
@@ -239,7 +209,7 @@ Peer& Peer::sendByteByByte(std::string_view bytes) {
 }
 
 void Peer::close() {
-    ::shutdown(socket_, SHUT_RDWR);
+    sockets::shutdown(socket_);
 }
 
 void Peer::closePolitely() {
@@ -249,16 +219,11 @@ void Peer::closePolitely() {
 }
 
 void Peer::reset() {
-    // A close with unread bytes or a linger time of zero is a reset; the descriptor stays ours.
-    const linger none{1, 0};
-    ::setsockopt(socket_, SOL_SOCKET, SO_LINGER, &none, sizeof none);
-    const int placeholder = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    ::dup2(placeholder, socket_);
-    ::close(placeholder);
+    sockets::reset(socket_);
 }
 
 void Peer::interrupt() {
-    ::shutdown(socket_, SHUT_RDWR);
+    sockets::shutdown(socket_);
 }
 
 LoopbackServer::LoopbackServer(Mode mode, std::vector<Script> scripts, std::uint16_t port)
@@ -267,7 +232,7 @@ LoopbackServer::LoopbackServer(Mode mode, std::vector<Script> scripts, std::uint
     , port_(port) {
     static SSL_CTX* const context = makeContext();
     context_ = context;
-    listener_ = listenOnLoopback(port_);
+    listener_ = sockets::listenOnLoopback(port_);
     acceptor_ = std::thread([this] { acceptAll(); });
 }
 
@@ -287,7 +252,7 @@ std::size_t LoopbackServer::connections() {
 
 bool LoopbackServer::waitForEnded(std::size_t count) {
     std::unique_lock lock(mutex_);
-    return changed_.wait_for(lock, std::chrono::seconds(patience), [&] { return ended_ >= count; });
+    return changed_.wait_for(lock, patience, [&] { return ended_ >= count; });
 }
 
 void LoopbackServer::tolerateFailures() {
@@ -303,21 +268,22 @@ void LoopbackServer::stop() {
         for (const Connection& connection : connections_)
             connection.peer->interrupt();
     }
-    ::shutdown(listener_, SHUT_RDWR);
+    // What wakes it on every system is a connection, which it doesn't serve any more.
+    sockets::close(sockets::connectToLoopback(port_));
     acceptor_.join();
     for (Connection& connection : connections_)
         connection.thread.join();
     connections_.clear();
-    ::close(listener_);
+    sockets::close(listener_);
 }
 
 void LoopbackServer::acceptAll() {
     for (;;) {
-        const int socket = ::accept4(listener_, nullptr, nullptr, SOCK_CLOEXEC);
+        const sockets::Socket socket = sockets::accept(listener_);
         const std::lock_guard lock(mutex_);
         if (socket < 0 || stopping_) {
             if (socket >= 0)
-                ::close(socket);
+                sockets::close(socket);
             return;
         }
         const Script& script = scripts_[std::min(connections_.size(), scripts_.size() - 1)];
@@ -331,10 +297,7 @@ void LoopbackServer::acceptAll() {
 void LoopbackServer::play(Peer& peer, const Script& script) {
     // A write to a client that has gone must not end the program. Only here: in the client's own
     // threads it must not happen.
-    sigset_t brokenPipe;
-    sigemptyset(&brokenPipe);
-    sigaddset(&brokenPipe, SIGPIPE);
-    pthread_sigmask(SIG_BLOCK, &brokenPipe, nullptr);
+    sockets::blockBrokenPipe();
 
     std::string failure;
     try {
@@ -356,7 +319,7 @@ void PrintTo(LoopbackServer::Mode mode, std::ostream* out) {
 
 std::uint16_t closedPort() {
     std::uint16_t port = 0;
-    ::close(listenOnLoopback(port));
+    sockets::close(sockets::listenOnLoopback(port));
     return port;
 }
 

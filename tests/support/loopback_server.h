@@ -13,6 +13,8 @@
 #include <thread>
 #include <vector>
 
+#include "tests/support/system/sockets.h"
+
 struct ssl_ctx_st;
 struct ssl_st;
 
@@ -32,7 +34,7 @@ std::string responseFrame(std::uint32_t id, std::string_view message);
 /// side doesn't play along within 20 seconds, and that fails the test.
 class Peer {
 public:
-    Peer(int socket, ssl_ctx_st* context);
+    Peer(sockets::Socket socket, ssl_ctx_st* context);
     Peer(const Peer&) = delete;
     Peer& operator=(const Peer&) = delete;
     ~Peer();
@@ -68,7 +70,7 @@ public:
 private:
     std::size_t receiveSome(char* buffer, std::size_t size);
 
-    int socket_;
+    sockets::Socket socket_;
     ssl_st* tls_ = nullptr;
     ssl_ctx_st* context_;
 };
@@ -114,7 +116,7 @@ private:
     Mode mode_;
     std::vector<Script> scripts_;
     ssl_ctx_st* context_ = nullptr;
-    int listener_ = -1;
+    sockets::Socket listener_ = -1;
     std::uint16_t port_ = 0;
     std::thread acceptor_;
 

@@ -17,4 +17,7 @@ public:
     ~SecurityOperationsOverride();
 };
 
+/// For a program that never overrides them: being called is what makes it link this.
+void leaveOutSystemSecurity();
+
 } // namespace support

@@ -9,7 +9,8 @@
 #include <vector>
 
 #include <gtest/gtest.h>
-#include <unistd.h>
+
+#include "tests/support/system/process.h"
 
 namespace support {
 
@@ -19,7 +20,7 @@ public:
     TemporaryFile() {
         static int count = 0;
         path_ = std::filesystem::path(testing::TempDir()) /
-                ("tarn_test_" + std::to_string(::getpid()) + "_" + std::to_string(++count));
+                ("tarn_test_" + std::to_string(process::id()) + "_" + std::to_string(++count));
         std::filesystem::remove(path_);
     }
     TemporaryFile(const TemporaryFile&) = delete;

@@ -3,9 +3,10 @@
 #pragma once
 
 #include <cstdlib>
-#include <ctime>
 #include <optional>
 #include <string>
+
+#include "tests/support/system/process.h"
 
 namespace support {
 
@@ -16,17 +17,18 @@ public:
     explicit TimeZone(const char* rules) {
         if (const char* before = std::getenv("TZ"))
             before_ = before;
-        ::setenv("TZ", rules, 1);
-        ::tzset();
+        set(rules);
     }
-    ~TimeZone() {
-        before_ ? ::setenv("TZ", before_->c_str(), 1) : ::unsetenv("TZ");
-        ::tzset();
-    }
+    ~TimeZone() { set(before_); }
     TimeZone(const TimeZone&) = delete;
     TimeZone& operator=(const TimeZone&) = delete;
 
 private:
+    static void set(const std::optional<std::string>& rules) {
+        process::setEnvironment("TZ", rules);
+        process::readTimeZone();
+    }
+
     std::optional<std::string> before_;
 };
 

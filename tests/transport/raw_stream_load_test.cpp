@@ -1,14 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 // Much of everything: many calls, much data.
-#include <fstream>
 #include <string>
 #include <thread>
 #include <vector>
 
-#include <unistd.h>
-
 #include "tests/support/bytes.h"
+#include "tests/support/system/process.h"
 #include "tests/transport/raw_stream_fixture.h"
 #include "transport/raw_stream_dispatcher.h"
 
@@ -20,18 +18,11 @@ using support::LoopbackServer;
 using support::Peer;
 using support::RequestFrame;
 using support::responseFrame;
+using support::process::residentSize;
 
 class RawStreamLoad : public RawStream {};
 
 TARN_ON_PLAIN_AND_TLS(RawStreamLoad);
-
-/// Bytes of memory that the process has touched.
-std::size_t residentSize() {
-    std::size_t total = 0;
-    std::size_t resident = 0;
-    std::ifstream("/proc/self/statm") >> total >> resident;
-    return resident * static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
-}
 
 TEST_P(RawStreamLoad, CarriesAHundredThousandCallsInARow) {
     constexpr int calls = 100'000;

@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+
+namespace platform {
+
+/// Where the programs of one user and one session on the desktop find each other: the beginning of
+/// a file's name, in UTF-8. Empty on systems where the desktop has a folder for that.
+std::string sessionFilePrefix();
+
+} // namespace platform

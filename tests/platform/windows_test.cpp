@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include <string>
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include "platform/administrators.h"
+#include "platform/event_log.h"
+#include "platform/process_id.h"
+#include "platform/session_folder.h"
+#include "platform/user_name.h"
+#include "platform/windows/wide_text.h"
+#include "tests/support/system/process.h"
+
+namespace {
+
+using support::process::setEnvironment;
+
+TEST(WideText, CarriesWhatNoCodePageHolds) {
+    const std::string utf8 = "J\xC3\xBCrgen \xCE\xA9mega \xF0\x9F\x8C\xB2";
+    EXPECT_EQ(platform::toWide(utf8), L"J\x00FCrgen \x03A9mega \xD83C\xDF32");
+    EXPECT_EQ(platform::toUtf8(L"J\x00FCrgen \x03A9mega \xD83C\xDF32"), utf8);
+}
+
+TEST(WideText, PutsAMarkInPlaceOfWhatIsNoUtf8) {
+    EXPECT_EQ(platform::toWide("a\xFF"), L"a\xFFFD");
+}
+
+TEST(WideText, OfNothingIsNothing) {
+    EXPECT_EQ(platform::toWide(""), L"");
+    EXPECT_EQ(platform::toUtf8(L""), "");
+}
+
+TEST(ProcessId, IsTheSystemsOwn) {
+    EXPECT_EQ(platform::processId(), static_cast<long>(GetCurrentProcessId()));
+    EXPECT_EQ(platform::threadId(), static_cast<long>(GetCurrentThreadId()));
+}
+
+TEST(UserName, IsTheAccountOfTheProcessWhateverTheEnvironmentSays) {
+    const std::string expected = support::process::accountName();
+    ASSERT_FALSE(expected.empty());
+    setEnvironment("USERNAME", "somebody-else");
+    EXPECT_EQ(platform::currentWindowsUser(), expected);
+}
+
+TEST(EventLog, TakesAnErrorOfASourceThatNobodyRegistered) {
+    EXPECT_NO_THROW(platform::reportError("HessianClientAPI", "100%s of a test \xF0\x9F\x8C\xB2"));
+}
+
+TEST(Administrators, HoldNoStranger) {
+    EXPECT_FALSE(platform::isAdministrator("no such account \xF0\x9F\x8C\xB2"));
+}
+
+TEST(Administrators, HoldNoEmptyNameAndNoneWithAZeroInside) {
+    EXPECT_FALSE(platform::isAdministrator(""));
+    EXPECT_FALSE(platform::isAdministrator(std::string("Administrator\0x", 15)));
+}
+
+TEST(SessionFilePrefix, NamesTheFolderAndTheSession) {
+    wchar_t folder[MAX_PATH + 1];
+    ASSERT_GT(GetTempPathW(MAX_PATH + 1, folder), 0u);
+    DWORD session = 0;
+    ASSERT_TRUE(ProcessIdToSessionId(GetCurrentProcessId(), &session));
+    const std::string prefix = platform::sessionFilePrefix();
+    EXPECT_TRUE(prefix.ends_with("/session-" + std::to_string(session) + '-')) << prefix;
+    EXPECT_EQ(prefix.find('\\'), std::string::npos) << prefix;
+}
+
+} // namespace

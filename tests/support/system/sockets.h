@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+/// The system's own TCP sockets on 127.0.0.1, so that a test shares nothing with the transport.
+namespace support::sockets {
+
+/// Owned by whom it is given to, who calls `close`.
+using Socket = std::intptr_t;
+
+/// `port` may be 0, and is then the one that the system has picked. Raises `std::system_error`.
+Socket listenOnLoopback(std::uint16_t& port);
+
+/// The next connection; negative if there is none to come.
+Socket accept(Socket listener);
+
+/// Negative if nobody listens.
+Socket connectToLoopback(std::uint16_t port);
+
+/// How long a read may wait before it fails.
+void limitReads(Socket socket, std::chrono::milliseconds limit);
+void limitWrites(Socket socket, std::chrono::milliseconds limit);
+void sendAtOnce(Socket socket);
+
+/// 0 at the end of the stream, negative on a failure.
+std::ptrdiff_t receive(Socket socket, char* into, std::size_t size);
+/// Negative on a failure. A peer that has gone raises no signal.
+std::ptrdiff_t send(Socket socket, const char* from, std::size_t size);
+
+/// What the last failure of this thread was.
+bool wasReset();
+bool wasTimeout();
+std::string lastFailure();
+
+/// Ends both directions; a read that another thread waits in comes back.
+void shutdown(Socket socket);
+/// Closes so that the other side gets a reset. `socket` stays open, and leads nowhere.
+void reset(Socket& socket);
+void close(Socket socket);
+
+/// Keeps the signal of a broken pipe from this thread, where there is one.
+void blockBrokenPipe();
+
+} // namespace support::sockets
