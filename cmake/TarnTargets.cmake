@@ -29,7 +29,12 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
     target_compile_options(tarn_options INTERFACE -Wno-unused-lambda-capture -Wno-shadow)
 endif()
 find_program(TARN_MOLD mold)
-if(TARN_MOLD)
+if(WIN32)
+    # Windows 10, the first one with UTF-8 in the narrow interfaces.
+    target_compile_definitions(tarn_options INTERFACE
+        _WIN32_WINNT=0x0A00 NOMINMAX WIN32_LEAN_AND_MEAN _POSIX_THREAD_SAFE_FUNCTIONS)
+    target_link_libraries(tarn_options INTERFACE ws2_32 mswsock)
+elseif(TARN_MOLD)
     target_link_options(tarn_options INTERFACE -fuse-ld=mold)
 endif()
 if(TARN_SANITIZE)
@@ -99,7 +104,8 @@ endfunction()
 #
 # LABELS are of unit, wire, gui, slow. With the word QTEST the program is one QTest class and
 # one test of ctest; without it, it is GoogleTest, and each TEST is a test of ctest. Under a
-# sanitizer, where a process takes long to start, the whole program is one test of ctest there too.
+# sanitizer, where a process takes long to start, the whole program is one test of ctest there too;
+# so it is on Windows, where starting one takes longer than most tests.
 # The headers that all tests of a kind read are precompiled once: see tarn_qt_test and
 # tarn_google_test.
 function(tarn_test name)
@@ -130,7 +136,7 @@ function(tarn_test name)
 
     target_link_libraries(${name} PRIVATE tarn_google_test)
     target_precompile_headers(${name} REUSE_FROM tarn_google_test)
-    if(TARN_SANITIZE)
+    if(TARN_SANITIZE OR WIN32)
         add_test(NAME ${name} COMMAND ${name})
         set_tests_properties(${name} PROPERTIES LABELS "${arg_LABELS}" TIMEOUT 300)
     else()
