@@ -24,27 +24,24 @@ struct Tables {
         }
     }
 
-    /// Activities with these ids, the youngest first.
-    void run(std::initializer_list<std::int32_t> ids) {
-        std::vector<running_activity_info> activities;
-        for (const std::int32_t id : ids) {
-            running_activity_info activity;
-            activity.activity_id = id;
-            activity.start_time = 1'000 - static_cast<std::int32_t>(activities.size());
-            activities.push_back(activity);
+    /// Records with these ids, the youngest first.
+    template <class R>
+    static std::vector<R> records(std::initializer_list<std::int32_t> ids, std::int32_t R::*id) {
+        std::vector<R> all;
+        for (const std::int32_t number : ids) {
+            R record;
+            record.*id = number;
+            record.start_time = 1'000 - static_cast<std::int32_t>(all.size());
+            all.push_back(record);
         }
-        tables.running().setActivities(std::move(activities));
+        return all;
     }
 
+    void run(std::initializer_list<std::int32_t> ids) {
+        tables.running().setActivities(records(ids, &running_activity_info::activity_id));
+    }
     void log(std::initializer_list<std::int32_t> ids) {
-        std::vector<activity_log_info> entries;
-        for (const std::int32_t id : ids) {
-            activity_log_info entry;
-            entry.id = id;
-            entry.start_time = 1'000 - static_cast<std::int32_t>(entries.size());
-            entries.push_back(entry);
-        }
-        tables.log().setRecords(std::move(entries));
+        tables.log().setRecords(records(ids, &activity_log_info::id));
     }
 
     static void select(QTableView& view, std::initializer_list<int> rows) {

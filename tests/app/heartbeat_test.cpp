@@ -1,5 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
+#include <atomic>
+#include <optional>
+
 #include <QEvent>
 #include <QtTest>
 
@@ -58,17 +61,27 @@ private:
     QMap<int, int> counts_;
 };
 
-app::Heartbeat::Sleep sleepUntilInterrupted(SteppedSeconds& seconds,
-                                            std::atomic<bool>& interrupted) {
-    return [&seconds, &interrupted] {
+/// A heartbeat in the middle of a second.
+struct SleepingHeartbeat {
+    SleepingHeartbeat() {
+        heartbeat->start();
+        seconds.waitUntilAsleep();
+    }
+
+    void sleep() {
         try {
             seconds.sleep();
         } catch (const boost::thread_interrupted&) {
             interrupted = true;
             throw;
         }
-    };
-}
+    }
+
+    Receiver receiver;
+    SteppedSeconds seconds;
+    std::atomic<bool> interrupted = false;
+    std::optional<app::Heartbeat> heartbeat{std::in_place, receiver, [this] { sleep(); }};
+};
 
 } // namespace
 
@@ -90,27 +103,16 @@ private slots:
     }
 
     void stopEndsTheThreadInTheMiddleOfASecond() {
-        Receiver receiver;
-        SteppedSeconds seconds;
-        std::atomic<bool> interrupted = false;
-        app::Heartbeat heartbeat(receiver, sleepUntilInterrupted(seconds, interrupted));
-        heartbeat.start();
-        seconds.waitUntilAsleep();
-        QVERIFY(!interrupted);
-        heartbeat.stop();
-        QVERIFY(interrupted);
+        SleepingHeartbeat sleeping;
+        QVERIFY(!sleeping.interrupted);
+        sleeping.heartbeat->stop();
+        QVERIFY(sleeping.interrupted);
     }
 
     void goingEndsTheThreadToo() {
-        Receiver receiver;
-        SteppedSeconds seconds;
-        std::atomic<bool> interrupted = false;
-        {
-            app::Heartbeat heartbeat(receiver, sleepUntilInterrupted(seconds, interrupted));
-            heartbeat.start();
-            seconds.waitUntilAsleep();
-        }
-        QVERIFY(interrupted);
+        SleepingHeartbeat sleeping;
+        sleeping.heartbeat.reset();
+        QVERIFY(sleeping.interrupted);
     }
 
     void stopMayComeFirstOrTwice() {
