@@ -5,6 +5,7 @@
 #include <iostream>
 #include <system_error>
 
+#include "base/product.h"
 #include "simulator/end_request.h"
 #include "simulator/options.h"
 #include "simulator/simulator.h"
@@ -25,7 +26,7 @@ int run(const simulator::CommandLine& commandLine) {
     if (commandLine.action == Action::Help)
         std::cout << simulator::helpText();
     else if (commandLine.action == Action::Version)
-        std::cout << "tarn-agent-simulator " << TARN_VERSION << '\n';
+        std::cout << "tarn-agent-simulator " << product::version << '\n';
     else
         serve(commandLine.options);
     return 0;

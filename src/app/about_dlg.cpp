@@ -4,6 +4,7 @@
 
 #include <QEvent>
 
+#include "base/product.h"
 #include "session/process_values.h"
 #include "ui/branding_resources.h"
 #include "ui/table_columns.h"
@@ -33,8 +34,10 @@ void AboutDlg::setTexts() {
     const QString name = tr("%1").arg(QStringLiteral("Tarn-Mobile User"));
     setWindowTitle(name);
     ui_->labelName->setText(name);
+    const QString release = tr("Release %1").arg(QLatin1String(product::version));
     ui_->labelVersion->setText(tr("Version %1").arg(QStringLiteral("14.2.0.0")) +
-                               QLatin1Char('\n') + QStringLiteral(TARN_COPYRIGHT));
+                               QLatin1Char('\n') + release + QStringLiteral(". ") +
+                               QStringLiteral(TARN_COPYRIGHT));
 }
 
 void AboutDlg::setUpInformation() {

@@ -3,6 +3,7 @@
 #include "app/qt_single_application.h"
 #include "app/simple_gui_main_window.h"
 #include "app/start_up.h"
+#include "base/product.h"
 #include "platform/foreground.h"
 #include "platform/standard_streams.h"
 #include "resources/pictures.h"
@@ -34,6 +35,7 @@ int runWindow(QtSingleApplication& application) {
 int main(int argc, char** argv) {
     prepareApplication();
     QtSingleApplication application(argc, argv);
+    QGuiApplication::setDesktopFileName(QLatin1String(product::applicationId));
     resources::initPictures();
     app::applyStyleSheet(application);
     if (application.sendMessage(QString(), answerTime))

@@ -5,6 +5,7 @@
 #include <QUrl>
 
 #include "app/about_dlg.h"
+#include "app/help.h"
 #include "app/simple_gui_main_window.h"
 #include "config/ad_account_dlg.h"
 #include "config/admin_flow.h"
@@ -12,6 +13,7 @@
 #include "config/recovery_dlg.h"
 #include "config/register_dlg.h"
 #include "config/tfa_users_viewer.h"
+#include "session/process_values.h"
 #include "ui/branding_resources.h"
 
 namespace {
@@ -60,7 +62,7 @@ void SimpleGUIMainWindow::on_actionLogo_triggered() {
 }
 
 void SimpleGUIMainWindow::on_actionHelp_triggered() {
-    const QString url = QStringLiteral(TARN_HELP_URL);
-    if (!QDesktopServices::openUrl(QUrl(url)))
-        showStatus(tr("Failed to open the help file %1.").arg(url));
+    const QUrl url = app::helpUrl(session::g_language);
+    if (!app::openGuide(url))
+        showStatus(tr("Failed to open the help file %1.").arg(url.toDisplayString()));
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "config/tfa_users_viewer.h"
 
+#include <QDir>
 #include <QEvent>
 #include <QFile>
 #include <QFileDialog>
@@ -87,7 +88,8 @@ void TFAUsersViewer::on_btnDelete_clicked() {
 }
 
 void TFAUsersViewer::on_btnImport_clicked() {
-    QFileDialog dialog(this, tr("Please choose a .CSV file"), {}, tr("CSV Files (*.csv)"));
+    QFileDialog dialog(this, tr("Please choose a .CSV file"), QDir::homePath(),
+                       tr("CSV Files (*.csv)"));
     dialog.setFileMode(QFileDialog::ExistingFile);
     ui::setStandardButtonPictures(dialog);
     if (dialog.exec() != QDialog::Accepted)

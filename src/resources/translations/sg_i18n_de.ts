@@ -103,6 +103,10 @@
         <translation>%1</translation>
     </message>
     <message>
+        <source>Release %1</source>
+        <translation>Release %1</translation>
+    </message>
+    <message>
         <source>Version %1</source>
         <translation>Version %1</translation>
     </message>

@@ -1,0 +1,12 @@
+# SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+# SPDX-License-Identifier: Apache-2.0
+
+# Copies the pictures that the page HTML shows from the folder PICTURES to places beside the page.
+file(READ ${HTML} page)
+cmake_path(GET HTML PARENT_PATH folder)
+string(REGEX MATCHALL "src=\"[^\"]+[.]png\"" sources "${page}")
+list(REMOVE_DUPLICATES sources)
+foreach(source IN LISTS sources)
+    string(REGEX REPLACE "src=\"(.+)\"" "\\1" picture "${source}")
+    configure_file(${PICTURES}/${picture} ${folder}/${picture} COPYONLY)
+endforeach()
