@@ -17,8 +17,12 @@ namespace {
 
 using M = ActivityLogModel;
 using R = hessiancln::activity_log_info;
-using app::LabelKey;
-using app::RecordColumn;
+using models::Cell;
+using models::CellLabel;
+using models::CellNumber;
+using models::CellTime;
+using models::LabelKey;
+using models::RecordColumn;
 
 bool hasEnded(const R& record) {
     return record.end_time >= 1;
@@ -44,35 +48,52 @@ constexpr LabelKey<R> typeKey{
     [](const R& record) { return static_cast<std::int32_t>(record.type); },
     [](const R& record) { return ui::activityTypeLabel(record.type); }};
 
+Cell startCell(const R& record) {
+    return CellTime{record.start_time, QLocale::ShortFormat};
+}
+
+Cell endCell(const R& record) {
+    return hasEnded(record) ? Cell(CellTime{record.end_time, QLocale::ShortFormat}) : Cell();
+}
+
+Cell durationCell(const R& record) {
+    return hasEnded(record) ? Cell(CellLabel{secondsOf(record)}) : Cell();
+}
+
 constexpr std::array<RecordColumn<R>, M::columns> columnTable{{
     {{M::type, QT_TRANSLATE_NOOP("ActivityLogModel", "Type"), 150},
      [](const R& record) { return ui::activityTypeLabel(record.type); },
      typeKey,
-     [](const R& record) { return ui::activityTypeIcon(record.type); }},
+     [](const R& record) { return ui::activityTypeIcon(record.type); },
+     [](const R& record) -> Cell { return CellLabel{static_cast<std::int32_t>(record.type)}; }},
     {{M::description, QT_TRANSLATE_NOOP("ActivityLogModel", "Description"), 280},
      [](const R& record) { return session::fromWire(record.description); },
-     &R::description},
+     &R::description, nullptr, [](const R& record) -> Cell { return record.description; }},
     {{M::errors, QT_TRANSLATE_NOOP("ActivityLogModel", "Errors"), 60, Qt::AlignCenter},
      [](const R& record) { return ui::numberText(record.errors); },
-     [](const R& record) -> std::int64_t { return record.errors; }},
+     [](const R& record) -> std::int64_t { return record.errors; }, nullptr,
+     [](const R& record) -> Cell { return CellNumber{record.errors}; }},
     {{M::warnings, QT_TRANSLATE_NOOP("ActivityLogModel", "Warnings"), 80, Qt::AlignCenter},
      [](const R& record) { return ui::numberText(record.warnings); },
-     [](const R& record) -> std::int64_t { return record.warnings; }},
+     [](const R& record) -> std::int64_t { return record.warnings; }, nullptr,
+     [](const R& record) -> Cell { return CellNumber{record.warnings}; }},
     {{M::start, QT_TRANSLATE_NOOP("ActivityLogModel", "Start"), 140},
      startText,
-     [](const R& record) -> std::int64_t { return record.start_time; }},
+     [](const R& record) -> std::int64_t { return record.start_time; }, nullptr, startCell},
     {{M::end, QT_TRANSLATE_NOOP("ActivityLogModel", "End"), 140},
      endText,
-     [](const R& record) -> std::int64_t { return record.end_time; }},
+     [](const R& record) -> std::int64_t { return record.end_time; }, nullptr, endCell},
     {{M::duration, QT_TRANSLATE_NOOP("ActivityLogModel", "Duration"), 120},
      durationText,
-     secondsOf},
+     secondsOf, nullptr, durationCell},
     {{M::files, QT_TRANSLATE_NOOP("ActivityLogModel", "Files"), 60, ui::rightInCell},
      [](const R& record) { return ui::numberText(record.file_count); },
-     [](const R& record) -> std::int64_t { return record.file_count; }},
+     [](const R& record) -> std::int64_t { return record.file_count; }, nullptr,
+     [](const R& record) -> Cell { return CellNumber{record.file_count}; }},
     {{M::dataSize, QT_TRANSLATE_NOOP("ActivityLogModel", "Data size"), 100, ui::rightInCell},
      [](const R& record) { return ui::numberText(record.data_size); },
-     [](const R& record) { return record.data_size; }},
+     [](const R& record) { return record.data_size; }, nullptr,
+     [](const R& record) -> Cell { return CellNumber{record.data_size}; }},
 }};
 static_assert(ui::areInOrder(columnTable));
 

@@ -3,10 +3,10 @@
 #pragma once
 
 #include "api/activity_records.h"
-#include "app/record_table_model.h"
+#include "models/record_table_model.h"
 
 /// The activities of a time span that the agent keeps in its log.
-class ActivityLogModel : public app::RecordTableModel<hessiancln::activity_log_info> {
+class ActivityLogModel : public models::RecordTableModel<hessiancln::activity_log_info> {
     Q_OBJECT
 public:
     enum Column {

@@ -49,7 +49,7 @@ void ActivityTables::setUpRunning() {
     QTableView& table = widgets_.running;
     ui::setUpTable(table, running_);
     table.sortByColumn(RunningActivitiesModel::startTime, Qt::DescendingOrder);
-    keepSortArrow(table, running_);
+    models::keepSortArrow(table, running_);
     table.setItemDelegateForColumn(RunningActivitiesModel::progress,
                                    new CActivityProgressItemDelegate(running_, &table));
 }

@@ -14,8 +14,12 @@ namespace {
 
 using M = EventLogModel;
 using R = hessiancln::event_log_info;
-using app::LabelKey;
-using app::RecordColumn;
+using models::Cell;
+using models::CellLabel;
+using models::CellNumber;
+using models::CellTime;
+using models::LabelKey;
+using models::RecordColumn;
 
 struct Severity {
     const char* label;
@@ -78,29 +82,41 @@ constexpr LabelKey<R> typeKey{
 constexpr LabelKey<R> categoryKey{
     [](const R& record) { return static_cast<std::int32_t>(record.category); }, categoryLabel};
 
+Cell numberCell(const R& record) {
+    // Texts in hexadecimal are few, and the same come again.
+    return record.event_id <= 0xffffff ? Cell(CellNumber{record.event_id})
+                                       : Cell(CellLabel{record.event_id});
+}
+
 constexpr std::array<RecordColumn<R>, M::columns> columnTable{{
-    {{M::type, QT_TRANSLATE_NOOP("EventLogModel", "Type"), 60}, typeLabel, typeKey, typeIcon},
+    {{M::type, QT_TRANSLATE_NOOP("EventLogModel", "Type"), 60}, typeLabel, typeKey, typeIcon,
+     [](const R& record) -> Cell { return CellLabel{static_cast<std::int32_t>(record.type)}; }},
     {{M::time, QT_TRANSLATE_NOOP("EventLogModel", "Time"), 220},
      [](const R& record) { return ui::timeText(record.when, QLocale::LongFormat); },
-     [](const R& record) -> std::int64_t { return record.when; }},
+     [](const R& record) -> std::int64_t { return record.when; }, nullptr,
+     [](const R& record) -> Cell {
+         return CellTime{record.when, QLocale::LongFormat};
+     }},
     {{M::user, QT_TRANSLATE_NOOP("EventLogModel", "User"), 80},
      [](const R& record) { return session::fromWire(record.user); },
-     &R::user},
+     &R::user, nullptr, [](const R& record) -> Cell { return record.user; }},
     {{M::category, QT_TRANSLATE_NOOP("EventLogModel", "Category"), 100},
      categoryLabel,
-     categoryKey},
+     categoryKey, nullptr,
+     [](const R& record) -> Cell { return CellLabel{static_cast<std::int32_t>(record.category)}; }},
     {{M::eventNumber, QT_TRANSLATE_NOOP("EventLogModel", "Event #"), 80, ui::rightInCell},
      eventNumberText,
-     [](const R& record) -> std::int64_t { return record.event_id; }},
+     [](const R& record) -> std::int64_t { return record.event_id; }, nullptr, numberCell},
     {{M::activity, QT_TRANSLATE_NOOP("EventLogModel", "Activity"), 80, ui::rightInCell},
      [](const R& record) { return ui::numberText(record.activity_id); },
-     [](const R& record) -> std::int64_t { return record.activity_id; }},
+     [](const R& record) -> std::int64_t { return record.activity_id; }, nullptr,
+     [](const R& record) -> Cell { return CellNumber{record.activity_id}; }},
     {{M::detail, QT_TRANSLATE_NOOP("EventLogModel", "Detail"), 80},
      [](const R& record) { return session::fromWire(record.extra_info); },
-     &R::extra_info},
+     &R::extra_info, nullptr, [](const R& record) -> Cell { return record.extra_info; }},
     {{M::description, QT_TRANSLATE_NOOP("EventLogModel", "Description"), 1500},
      [](const R& record) { return session::fromWire(record.description); },
-     &R::description},
+     &R::description, nullptr, [](const R& record) -> Cell { return record.description; }},
 }};
 static_assert(ui::areInOrder(columnTable));
 

@@ -3,10 +3,10 @@
 #pragma once
 
 #include "api/event_records.h"
-#include "app/record_table_model.h"
+#include "models/record_table_model.h"
 
 /// The agent's event log, for a time span or for one activity.
-class EventLogModel : public app::RecordTableModel<hessiancln::event_log_info> {
+class EventLogModel : public models::RecordTableModel<hessiancln::event_log_info> {
     Q_OBJECT
 public:
     enum Column { type, time, user, category, eventNumber, activity, detail, description, columns };

@@ -17,8 +17,8 @@ namespace {
 
 using M = RunningActivitiesModel;
 using R = hessiancln::running_activity_info;
-using app::LabelKey;
-using app::RecordColumn;
+using models::LabelKey;
+using models::RecordColumn;
 
 QString typeLabel(const R& record) {
     return ui::activityTypeLabel(record.type);

@@ -5,13 +5,13 @@
 #include <functional>
 
 #include "api/activity_records.h"
-#include "app/record_table_model.h"
 #include "app/running_activity_changes.h"
+#include "models/record_table_model.h"
 
 Q_DECLARE_METATYPE(hessiancln::running_activity_info)
 
 /// What the agent is doing now. Tells what has begun and what has ended between two refreshes.
-class RunningActivitiesModel : public app::RecordTableModel<hessiancln::running_activity_info> {
+class RunningActivitiesModel : public models::RecordTableModel<hessiancln::running_activity_info> {
     Q_OBJECT
 public:
     enum Column { type, startTime, userName, progress, description, columns };

@@ -13,7 +13,7 @@ namespace {
 using M = TarnClientInfoModel;
 using R = hessiancln::tarn_client_info;
 
-constexpr std::array<app::RecordColumn<R>, M::columns> columnTable{{
+constexpr std::array<models::RecordColumn<R>, M::columns> columnTable{{
     {{M::item, QT_TRANSLATE_NOOP("TarnClientInfoModel", "Item"), 140, ui::leftInCell},
      [](const R& record) { return session::fromWire(record.name); }},
     {{M::value, QT_TRANSLATE_NOOP("TarnClientInfoModel", "Value"), 270, ui::leftInCell},

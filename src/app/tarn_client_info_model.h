@@ -3,10 +3,10 @@
 #pragma once
 
 #include "api/tarn_client_info.h"
-#include "app/record_table_model.h"
+#include "models/record_table_model.h"
 
 /// What the agent tells about itself, as names and values in its order.
-class TarnClientInfoModel : public app::RecordTableModel<hessiancln::tarn_client_info> {
+class TarnClientInfoModel : public models::RecordTableModel<hessiancln::tarn_client_info> {
     Q_OBJECT
 public:
     enum Column { item, value, columns };

@@ -338,7 +338,7 @@ void TableModelsTest::theProgressColumnDoesNotSort() {
     QTableView view;
     view.setModel(&model);
     view.setSortingEnabled(true);
-    app::keepSortArrow(view, model);
+    models::keepSortArrow(view, model);
     view.sortByColumn(RunningActivitiesModel::startTime, Qt::DescendingOrder);
     model.setActivities({running(1, 10), running(2, 20)});
     view.sortByColumn(RunningActivitiesModel::progress, Qt::AscendingOrder);

@@ -30,7 +30,7 @@ const std::map<std::string, std::set<std::string>> allowed = [] {
     };
     std::set<std::string> below{"base", "platform", "hessian", "transport", "api"};
     for (const char* folder :
-         {"resources", "session", "ui", "models", "config", "wizards", "app"}) {
+         {"resources", "session", "ui", "models", "config", "wizards", "insight", "app"}) {
         table[folder] = below;
         below.insert(folder);
     }

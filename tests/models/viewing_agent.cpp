@@ -24,18 +24,26 @@ std::string ViewingAgent::takeCalls() {
 }
 
 std::string ViewingAgent::sendRequest(const std::string&, const std::string& request) {
-    constexpr std::string_view start("c\x01\0m\0\x0bgetSubItems", 17);
+    constexpr std::string_view items("c\x01\0m\0\x0bgetSubItems", 17);
+    constexpr std::string_view versions("c\x01\0m\0\x12getItemGenerations", 24);
     hessianser::Cursor in(request);
-    if (!in.startsWith(start))
+    const bool ofItems = in.startsWith(items);
+    if (!ofItems && !in.startsWith(versions))
         throw std::logic_error("no such method");
-    in.skip(start.size());
+    in.skip(ofItems ? items.size() : versions.size());
     const auto id = hessianser::readValue<std::int64_t>(in);
-    calls_ += (calls_.empty() ? "" : " ") + std::to_string(id);
-    const auto found = items.find(id);
-    if (found == items.end())
+    return ofItems ? reply(this->items, id, "") : reply(generations, id, "g");
+}
+
+template <class Value>
+std::string ViewingAgent::reply(const std::map<std::int64_t, Value>& values, std::int64_t id,
+                                const char* mark) {
+    calls_ += (calls_.empty() ? "" : " ") + std::string(mark) + std::to_string(id);
+    const auto found = values.find(id);
+    if (found == values.end())
         throw hessiancln::invoke_exception("There is no item ") << id;
-    std::string reply("r\x01\0", 3);
-    hessianser::writeValue(found->second, reply);
-    hessianser::writeEnd(reply);
-    return reply;
+    std::string written("r\x01\0", 3);
+    hessianser::writeValue(found->second, written);
+    hessianser::writeEnd(written);
+    return written;
 }

@@ -25,13 +25,20 @@ public:
     view(const boost::shared_ptr<ViewingAgent>& agent);
 
     std::map<std::int64_t, Items> items; ///< by the id of what holds them
+    /// Of files, by their ids.
+    std::map<std::int64_t, std::vector<hessiancln::file_generations>> generations;
 
-    /// The ids that were asked for since the last time that they were taken, as "-1 1 2".
+    /// The ids that were asked for since the last time that they were taken, as "-1 1 2"; those of
+    /// files whose generations were asked for with a "g" in front.
     std::string takeCalls();
 
     std::string sendRequest(const std::string& url, const std::string& request) override;
 
 private:
+    template <class Value>
+    std::string reply(const std::map<std::int64_t, Value>& values, std::int64_t id,
+                      const char* mark);
+
     std::string calls_;
 };
 

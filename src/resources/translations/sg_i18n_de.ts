@@ -2043,6 +2043,222 @@ Möchten Sie den Sicherungssatz entfernen?</translation>
     </message>
 </context>
 <context>
+    <name>Insight</name>
+    <message>
+        <source>1 error</source>
+        <translation>1 Fehler</translation>
+    </message>
+    <message>
+        <source>%1 errors</source>
+        <translation>%1 Fehler</translation>
+    </message>
+    <message>
+        <source>1 warning</source>
+        <translation>1 Warnung</translation>
+    </message>
+    <message>
+        <source>%1 warnings</source>
+        <translation>%1 Warnungen</translation>
+    </message>
+    <message>
+        <source>The last backup ended with %1, so some files may not be stored as they are now. Look at its events, mend the cause and back up again.</source>
+        <translation>Die letzte Sicherung endete mit %1, daher sind einige Dateien vielleicht nicht auf dem jetzigen Stand gespeichert. Sehen Sie sich die Ereignisse an, beheben Sie die Ursache und sichern Sie erneut.</translation>
+    </message>
+    <message>
+        <source>The last backup did not succeed. Look at the events, mend the cause and back up again.</source>
+        <translation>Die letzte Sicherung ist nicht gelungen. Sehen Sie sich die Ereignisse an, beheben Sie die Ursache und sichern Sie erneut.</translation>
+    </message>
+    <message>
+        <source>The last scheduled backup did not run, and the %1 hours in which the agent makes up for it are over. Back up now, and check whether the computer is on at the scheduled time.</source>
+        <translation>Die letzte geplante Sicherung ist ausgefallen, und die %1 Stunden, in denen der Agent sie nachholt, sind vorbei. Sichern Sie jetzt, und prüfen Sie, ob der Computer zur geplanten Zeit eingeschaltet ist.</translation>
+    </message>
+    <message>
+        <source>The last good backup is %1 old, which is more than two intervals of the schedule. Back up now, and check whether the computer is on at the scheduled time.</source>
+        <translation>Die letzte gute Sicherung ist %1 alt, also älter als zwei Abstände des Zeitplans. Sichern Sie jetzt, und prüfen Sie, ob der Computer zur geplanten Zeit eingeschaltet ist.</translation>
+    </message>
+    <message>
+        <source>The last backup succeeded. The set has no schedule: back it up when its data has changed.</source>
+        <translation>Die letzte Sicherung ist gelungen. Der Satz hat keinen Zeitplan: Sichern Sie ihn, wenn sich seine Daten geändert haben.</translation>
+    </message>
+    <message>
+        <source>The last backup succeeded. The schedule has not been read yet, so nothing says whether a backup is overdue.</source>
+        <translation>Die letzte Sicherung ist gelungen. Der Zeitplan wurde noch nicht gelesen, daher ist nicht bekannt, ob eine Sicherung überfällig ist.</translation>
+    </message>
+    <message>
+        <source>The last backup succeeded, and the next one follows by schedule.</source>
+        <translation>Die letzte Sicherung ist gelungen, und die nächste folgt nach Zeitplan.</translation>
+    </message>
+    <message>
+        <source>No backup of this set has succeeded yet, so nothing can be restored. Look at the events, mend the cause and back up again.</source>
+        <translation>Noch ist keine Sicherung dieses Satzes gelungen, daher kann nichts wiederhergestellt werden. Sehen Sie sich die Ereignisse an, beheben Sie die Ursache und sichern Sie erneut.</translation>
+    </message>
+    <message>
+        <source>Nothing of this set is stored yet, so nothing can be restored. Back up now.</source>
+        <translation>Von diesem Satz ist noch nichts gespeichert, daher kann nichts wiederhergestellt werden. Sichern Sie jetzt.</translation>
+    </message>
+    <message>
+        <source>The agent and the storage server disagree on what is stored, and until they agree the set is not backed up. Synchronize it.</source>
+        <translation>Agent und Speicherserver sind sich nicht einig, was gespeichert ist, und bis dahin wird der Satz nicht gesichert. Synchronisieren Sie ihn.</translation>
+    </message>
+    <message>
+        <source>This set was recovered and has no items, so nothing new is backed up. Edit its items, schedule and retention.</source>
+        <translation>Dieser Satz wurde gerettet und hat keine Elemente, daher wird nichts Neues gesichert. Bearbeiten Sie seine Elemente, seinen Zeitplan und seine Aufbewahrung.</translation>
+    </message>
+    <message>
+        <source>%1/s</source>
+        <comment>a size in one second</comment>
+        <translation>%1/s</translation>
+    </message>
+    <message>
+        <source>%1 files/s</source>
+        <translation>%1 Dateien/s</translation>
+    </message>
+    <message>
+        <source>Never backed up</source>
+        <translation>Nie gesichert</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Overdue</source>
+        <translation>Überfällig</translation>
+    </message>
+    <message>
+        <source>Not in sync</source>
+        <translation>Nicht synchron</translation>
+    </message>
+    <message>
+        <source>Recovered</source>
+        <translation>Gerettet</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>Läuft</translation>
+    </message>
+    <message>
+        <source>Safe</source>
+        <translation>Sicher</translation>
+    </message>
+    <message>
+        <source>1 day</source>
+        <translation>1 Tag</translation>
+    </message>
+    <message>
+        <source>%1 days</source>
+        <translation>%1 Tage</translation>
+    </message>
+    <message>
+        <source>1 hour</source>
+        <translation>1 Stunde</translation>
+    </message>
+    <message>
+        <source>%1 hours</source>
+        <translation>%1 Stunden</translation>
+    </message>
+    <message>
+        <source>1 minute</source>
+        <translation>1 Minute</translation>
+    </message>
+    <message>
+        <source>%1 minutes</source>
+        <translation>%1 Minuten</translation>
+    </message>
+    <message>
+        <source>less than a minute</source>
+        <translation>weniger als eine Minute</translation>
+    </message>
+    <message>
+        <source>just now</source>
+        <translation>gerade eben</translation>
+    </message>
+    <message>
+        <source>1 day ago</source>
+        <translation>vor 1 Tag</translation>
+    </message>
+    <message>
+        <source>%1 days ago</source>
+        <translation>vor %1 Tagen</translation>
+    </message>
+    <message>
+        <source>1 hour ago</source>
+        <translation>vor 1 Stunde</translation>
+    </message>
+    <message>
+        <source>%1 hours ago</source>
+        <translation>vor %1 Stunden</translation>
+    </message>
+    <message>
+        <source>1 minute ago</source>
+        <translation>vor 1 Minute</translation>
+    </message>
+    <message>
+        <source>%1 minutes ago</source>
+        <translation>vor %1 Minuten</translation>
+    </message>
+    <message>
+        <source>no errors</source>
+        <translation>ohne Fehler</translation>
+    </message>
+    <message>
+        <source>The agent is working on this set.</source>
+        <translation>Der Agent arbeitet an diesem Satz.</translation>
+    </message>
+    <message>
+        <source>%1 Until it is done: %2</source>
+        <translation>%1 Bis dahin: %2</translation>
+    </message>
+    <message>
+        <source>No backup sets</source>
+        <translation>Keine Sicherungssätze</translation>
+    </message>
+    <message>
+        <source>The backup set needs attention</source>
+        <translation>Der Sicherungssatz braucht Aufmerksamkeit</translation>
+    </message>
+    <message>
+        <source>1 of %1 sets needs attention</source>
+        <translation>1 von %1 Sätzen braucht Aufmerksamkeit</translation>
+    </message>
+    <message>
+        <source>%1 of %2 sets need attention</source>
+        <translation>%1 von %2 Sätzen brauchen Aufmerksamkeit</translation>
+    </message>
+    <message>
+        <source>1 set, no failure</source>
+        <translation>1 Satz, kein Fehlschlag</translation>
+    </message>
+    <message>
+        <source>%1 sets, no failures</source>
+        <translation>%1 Sätze, keine Fehlschläge</translation>
+    </message>
+    <message>
+        <source>The backup set is safe</source>
+        <translation>Der Sicherungssatz ist sicher</translation>
+    </message>
+    <message>
+        <source>All %1 sets are safe</source>
+        <translation>Alle %1 Sätze sind sicher</translation>
+    </message>
+    <message>
+        <source>no progress for %1 min</source>
+        <translation>seit %1 min kein Fortschritt</translation>
+    </message>
+    <message>
+        <source>%1, %2 left</source>
+        <translation>%1, noch %2</translation>
+    </message>
+    <message>
+        <source>%1 ended with %2</source>
+        <translation>%1 endete: %2</translation>
+    </message>
+    <message>
+        <source>%1 of &apos;%2&apos; ended with %3</source>
+        <translation>%1 von „%2“ endete: %3</translation>
+    </message>
+</context>
+<context>
     <name>ItemsSelectPage</name>
     <message>
         <source>Select Items</source>
@@ -2131,6 +2347,25 @@ Möchten Sie den Sicherungssatz entfernen?</translation>
     <message>
         <source>Items to back up</source>
         <translation>Zu sichernde Elemente</translation>
+    </message>
+</context>
+<context>
+    <name>LogKeywords</name>
+    <message>
+        <source>set</source>
+        <translation>satz</translation>
+    </message>
+    <message>
+        <source>type</source>
+        <translation>typ</translation>
+    </message>
+    <message>
+        <source>errors</source>
+        <translation>fehler</translation>
+    </message>
+    <message>
+        <source>warnings</source>
+        <translation>warnungen</translation>
     </message>
 </context>
 <context>
@@ -2667,6 +2902,81 @@ Möchten Sie die Datenbank wirklich aus der Cloud retten?</translation>
     <message>
         <source>Hide files removed on or before</source>
         <translation>Dateien ausblenden, entfernt bis</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreSummary</name>
+    <message>
+        <source>As it was: %1</source>
+        <translation>Stand: %1</translation>
+    </message>
+    <message>
+        <source>As it was: at the last backup</source>
+        <translation>Stand: letzte Sicherung</translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation>1 Datei</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 Dateien</translation>
+    </message>
+    <message>
+        <source>1 folder</source>
+        <translation>1 Ordner</translation>
+    </message>
+    <message>
+        <source>%1 folders</source>
+        <translation>%1 Ordner</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nichts</translation>
+    </message>
+    <message>
+        <source>What: the whole set, %1</source>
+        <translation>Was: der ganze Satz, %1</translation>
+    </message>
+    <message>
+        <source>What: at least %1 (folders that were not opened are not counted through)</source>
+        <translation>Was: mindestens %1 (nicht geöffnete Ordner sind nicht durchgezählt)</translation>
+    </message>
+    <message>
+        <source>What: %1</source>
+        <translation>Was: %1</translation>
+    </message>
+    <message>
+        <source>Size: %1</source>
+        <translation>Größe: %1</translation>
+    </message>
+    <message>
+        <source>Size: at least %1</source>
+        <translation>Größe: mindestens %1</translation>
+    </message>
+    <message>
+        <source>Size: not known before the restore</source>
+        <translation>Größe: vor der Wiederherstellung nicht bekannt</translation>
+    </message>
+    <message>
+        <source>Where to: the original location</source>
+        <translation>Wohin: an den ursprünglichen Ort</translation>
+    </message>
+    <message>
+        <source>Where to: %1</source>
+        <translation>Wohin: %1</translation>
+    </message>
+    <message>
+        <source>Where to: %1 on %2</source>
+        <translation>Wohin: %1 auf %2</translation>
+    </message>
+    <message>
+        <source>Files that are there: the agent does not say whether it replaces them</source>
+        <translation>Vorhandene Dateien: Der Agent sagt nicht, ob er sie ersetzt</translation>
+    </message>
+    <message>
+        <source>Files that are there: kept, as the restore makes a directory of its own</source>
+        <translation>Vorhandene Dateien: bleiben, da ein eigenes Verzeichnis entsteht</translation>
     </message>
 </context>
 <context>

@@ -3,17 +3,21 @@
 #pragma once
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
 #include <span>
 #include <utility>
 #include <vector>
 
 #include <QIcon>
 
-#include "app/record_order.h"
-#include "app/sorted_table_model.h"
+#include "models/record_order.h"
+#include "models/sorted_table_model.h"
+#include "models/table_cell.h"
 #include "ui/table_columns.h"
 
-namespace app {
+namespace models {
 
 /// A column, and how a record is shown in it.
 template <class R>
@@ -21,10 +25,18 @@ struct RecordColumn : ui::TableColumn {
     QString (*text)(const R&) = nullptr;
     SortKey<R> key{};
     QIcon (*icon)(const R&) = nullptr;
+    Cell (*cell)(const R&) = nullptr; ///< for models that are searched or exported
 };
 
-/// A read-only table over a list of records. A refill keeps the rows that stay, so that a view
-/// keeps its selection by row and its place. Texts are made when they are shown.
+/// Which records are shown: their places in the list, ascending. A list of the same version has the
+/// same records in the same order.
+template <class R>
+using RecordFilter =
+    std::function<std::vector<std::uint32_t>(const std::vector<R>&, std::uint64_t version)>;
+
+/// A read-only table over a list of records, or over those of them that a filter lets through. A
+/// refill keeps the rows that stay, so that a view keeps its selection by row and its place. Texts
+/// are made when they are shown.
 template <class R>
 class RecordTableModel : public SortedTableModel {
 public:
@@ -37,11 +49,25 @@ public:
     void setRecords(std::vector<R> records);
     virtual void clear() { setRecords({}); }
 
-    R at(int row) const { return records_.at(static_cast<std::size_t>(row)); }
+    /// Shows what `filter` lets through, now and after each change of the list; none shows all.
+    /// The views start over, without a selection.
+    void setFilter(RecordFilter<R> filter);
+
+    /// The record that a row shows.
+    R at(int row) const { return records_.at(recordOf(row)); }
+    /// Its place among all of them.
+    std::size_t recordOf(int row) const {
+        const auto place = static_cast<std::size_t>(row);
+        return filter_ ? shown_.at(place) : place;
+    }
+    /// The row that shows the record at this place; -1 if the filter holds it back.
+    int rowOf(std::size_t record) const;
+    /// All, shown or not.
     const std::vector<R>& records() const { return records_; }
+    std::span<const RecordColumn<R>> recordColumns() const { return columns_; }
 
     int rowCount(const QModelIndex& parent = {}) const override {
-        return parent.isValid() ? 0 : static_cast<int>(records_.size());
+        return parent.isValid() ? 0 : static_cast<int>(filter_ ? shown_.size() : records_.size());
     }
     int columnCount(const QModelIndex& parent = {}) const override {
         return parent.isValid() ? 0 : static_cast<int>(columns_.size());
@@ -58,9 +84,15 @@ protected:
 
 private:
     void signalAllChanged();
+    std::vector<std::uint32_t> shownOf(const std::vector<R>& records) const {
+        return filter_ ? filter_(records, version_) : std::vector<std::uint32_t>();
+    }
 
     std::span<const RecordColumn<R>> columns_;
     std::vector<R> records_;
+    RecordFilter<R> filter_;
+    std::vector<std::uint32_t> shown_; ///< if there is a filter
+    std::uint64_t version_ = 0;        ///< of the list
 };
 
 template <class R>
@@ -68,13 +100,16 @@ void RecordTableModel<R>::setRecords(std::vector<R> records) {
     // Before the views look, so that they never see the order of arrival.
     if (sortColumn_ >= 0)
         sortRecords(records, columns_[static_cast<std::size_t>(sortColumn_)].key, sortOrder_);
+    ++version_;
+    std::vector<std::uint32_t> shown = shownOf(records);
     const int before = rowCount();
-    const int after = static_cast<int>(records.size());
+    const int after = static_cast<int>(filter_ ? shown.size() : records.size());
     if (after > before)
         beginInsertRows({}, before, after - 1);
     else if (after < before)
         beginRemoveRows({}, after, before - 1);
     records_ = std::move(records);
+    shown_ = std::move(shown);
     if (after > before)
         endInsertRows();
     else if (after < before)
@@ -90,16 +125,35 @@ void RecordTableModel<R>::sort(int column, Qt::SortOrder order) {
     if (std::holds_alternative<std::monostate>(key))
         return;
     sortRecords(records_, key, order);
+    ++version_;
+    shown_ = shownOf(records_);
     sortColumn_ = column;
     sortOrder_ = order;
     signalAllChanged();
 }
 
 template <class R>
+void RecordTableModel<R>::setFilter(RecordFilter<R> filter) {
+    beginResetModel();
+    filter_ = std::move(filter);
+    shown_ = shownOf(records_);
+    endResetModel();
+}
+
+template <class R>
+int RecordTableModel<R>::rowOf(std::size_t record) const {
+    if (!filter_)
+        return record < records_.size() ? static_cast<int>(record) : -1;
+    const auto found = std::lower_bound(shown_.begin(), shown_.end(), record);
+    return found != shown_.end() && *found == record ? static_cast<int>(found - shown_.begin())
+                                                     : -1;
+}
+
+template <class R>
 QVariant RecordTableModel<R>::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
         return {};
-    const R& record = records_[static_cast<std::size_t>(index.row())];
+    const R& record = records_[recordOf(index.row())];
     const RecordColumn<R>& column = columns_[static_cast<std::size_t>(index.column())];
     if (role == Qt::DisplayRole)
         return column.text(record);
@@ -119,8 +173,8 @@ QVariant RecordTableModel<R>::headerData(int section, Qt::Orientation orientatio
 
 template <class R>
 void RecordTableModel<R>::signalAllChanged() {
-    if (!records_.empty())
+    if (rowCount() > 0)
         emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
 }
 
-} // namespace app
+} // namespace models

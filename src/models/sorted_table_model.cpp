@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
-#include "app/sorted_table_model.h"
+#include "models/sorted_table_model.h"
 
 #include <QHeaderView>
 #include <QSignalBlocker>
 #include <QTableView>
 
-namespace app {
+namespace models {
 
 void keepSortArrow(QTableView& view, const SortedTableModel& model) {
     QHeaderView* header = view.horizontalHeader();
@@ -20,4 +20,4 @@ void keepSortArrow(QTableView& view, const SortedTableModel& model) {
     QObject::connect(header, &QHeaderView::sortIndicatorChanged, &model, restore);
 }
 
-} // namespace app
+} // namespace models

@@ -6,7 +6,7 @@
 
 class QTableView;
 
-namespace app {
+namespace models {
 
 /// A table that knows by which of its columns it is sorted.
 class SortedTableModel : public QAbstractTableModel {
@@ -26,4 +26,4 @@ protected:
 /// a column that the model doesn't sort by. The view shows the model, sorting is switched on.
 void keepSortArrow(QTableView& view, const SortedTableModel& model);
 
-} // namespace app
+} // namespace models

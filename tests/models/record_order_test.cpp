@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <gmock/gmock.h>
 
-#include "app/record_order.h"
+#include "models/record_order.h"
 
 namespace {
 
@@ -15,20 +15,20 @@ struct Record {
     char mark = ' '; ///< tells records with equal keys apart
 };
 
-using Key = app::SortKey<Record>;
+using Key = models::SortKey<Record>;
 
 const Key byNumber = [](const Record& record) { return record.number; };
 const Key byText = &Record::text;
 const Key byLabel =
-    app::LabelKey<Record>{[](const Record& record) { return record.kind; },
-                          [](const Record& record) {
-                              const char* labels[] = {"beta", "Zeta", "alpha", "beta"};
-                              return QString::fromLatin1(labels[record.kind]);
-                          }};
+    models::LabelKey<Record>{[](const Record& record) { return record.kind; },
+                             [](const Record& record) {
+                                 const char* labels[] = {"beta", "Zeta", "alpha", "beta"};
+                                 return QString::fromLatin1(labels[record.kind]);
+                             }};
 
 std::string order(std::vector<Record> records, const Key& key,
                   Qt::SortOrder order = Qt::AscendingOrder) {
-    app::sortRecords(records, key, order);
+    models::sortRecords(records, key, order);
     std::string marks;
     for (const Record& record : records)
         marks += record.mark;
@@ -75,7 +75,7 @@ TEST(RecordOrder, AnEmptyListStaysEmpty) {
 TEST(RecordOrder, RecordsMoveWhole) {
     const std::string longText(100, 'x');
     std::vector<Record> records{{2, longText, 1, 'a'}, {1, "short", 2, 'b'}};
-    app::sortRecords(records, byNumber, Qt::AscendingOrder);
+    models::sortRecords(records, byNumber, Qt::AscendingOrder);
     EXPECT_EQ(records[0].text, "short");
     EXPECT_EQ(records[1].text, longText);
     EXPECT_EQ(records[1].kind, 1);

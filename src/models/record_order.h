@@ -16,7 +16,7 @@
 
 /// Sorting a list of records by a key. The keys are taken once and sorted beside the numbers of
 /// their records, and then each record moves once: records are wide, keys are narrow.
-namespace app {
+namespace models {
 
 template <class R>
 using NumberKey = std::int64_t (*)(const R&);
@@ -116,4 +116,4 @@ void sortRecords(std::vector<R>& records, const SortKey<R>& key, Qt::SortOrder o
     }
 }
 
-} // namespace app
+} // namespace models

@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "insight/log_query.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+#include "session/text.h"
+
+namespace insight {
+
+namespace {
+
+/// Separated by spaces that don't stand in quotes. Quotes are kept out; one that isn't closed ends
+/// with the text.
+QStringList tokensOf(const QString& text) {
+    QStringList tokens;
+    QString token;
+    bool quoted = false;
+    for (const QChar c : text) {
+        if (c == QLatin1Char('"')) {
+            quoted = !quoted;
+        } else if (c.isSpace() && !quoted) {
+            tokens.append(token);
+            token.clear();
+        } else {
+            token.append(c);
+        }
+    }
+    tokens.append(token);
+    tokens.removeAll(QString());
+    return tokens;
+}
+
+bool isKeyword(const QString& token, QLatin1String english, const QString& translated) {
+    return token.compare(english, Qt::CaseInsensitive) == 0 ||
+           token.compare(translated, Qt::CaseInsensitive) == 0;
+}
+
+/// Puts what follows the keyword and a colon into `terms`; false if the token is another one.
+bool takeTerm(const QString& token, QLatin1String english, const QString& translated,
+              std::vector<std::string>& terms) {
+    const int colon = token.indexOf(QLatin1Char(':'));
+    if (colon < 1 || !isKeyword(token.left(colon), english, translated))
+        return false;
+    // While it is being typed there is nothing behind the colon yet.
+    if (const QString term = token.mid(colon + 1); !term.isEmpty())
+        terms.push_back(folded(term));
+    return true;
+}
+
+} // namespace
+
+bool LogQuery::isEmpty() const {
+    return words.empty() && sets.empty() && types.empty() && !withErrors && !withWarnings;
+}
+
+LogKeywords LogKeywords::translated() {
+    const auto word = [](const char* text) {
+        return QCoreApplication::translate("LogKeywords", text);
+    };
+    return {word(QT_TRANSLATE_NOOP("LogKeywords", "set")),
+            word(QT_TRANSLATE_NOOP("LogKeywords", "type")),
+            word(QT_TRANSLATE_NOOP("LogKeywords", "errors")),
+            word(QT_TRANSLATE_NOOP("LogKeywords", "warnings"))};
+}
+
+LogQuery parseLogQuery(const QString& text, const LogKeywords& keywords) {
+    LogQuery query;
+    for (const QString& token : tokensOf(text)) {
+        if (isKeyword(token, QLatin1String("errors"), keywords.errors))
+            query.withErrors = true;
+        else if (isKeyword(token, QLatin1String("warnings"), keywords.warnings))
+            query.withWarnings = true;
+        else if (!takeTerm(token, QLatin1String("set"), keywords.set, query.sets) &&
+                 !takeTerm(token, QLatin1String("type"), keywords.type, query.types))
+            query.words.push_back(folded(token));
+    }
+    return query;
+}
+
+std::string folded(const QString& text) {
+    return session::toWire(text.toCaseFolded());
+}
+
+} // namespace insight

@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "insight/planned_runs.h"
+
+#include <algorithm>
+
+#include <QDateTime>
+
+namespace insight {
+
+namespace {
+
+constexpr double secondsADay = 86'400;
+/// What is shorter couldn't be seen, nor hit with a mouse.
+constexpr double shortestPart = 1.0 / 72;
+
+std::vector<PlannedRun> runsOf(const ScheduledSet& set, std::int64_t from, std::int64_t until,
+                               const QTimeZone& zone) {
+    std::vector<PlannedRun> runs;
+    for (const PlannedStart& start : startsBetween(*set.plan, from, until, zone)) {
+        std::int64_t end = start.start + std::max<std::int64_t>(set.duration, 1);
+        if (start.stop && *start.stop > start.start)
+            end = std::min(end, *start.stop);
+        runs.push_back({set.setId, set.name, start.start, end, false});
+    }
+    return runs;
+}
+
+/// `runs` stand by their starts.
+void markOverlaps(std::vector<PlannedRun>& runs) {
+    for (std::size_t i = 0; i < runs.size(); ++i)
+        for (std::size_t j = i + 1; j < runs.size() && runs[j].start < runs[i].end; ++j)
+            if (runs[i].setId != runs[j].setId)
+                runs[i].overlaps = runs[j].overlaps = true;
+}
+
+double partOfDay(const QDateTime& time) {
+    return time.time().msecsSinceStartOfDay() / 1000.0 / secondsADay;
+}
+
+/// The first lane that is free from `begin` on; lanes end where their last part does.
+int takeLane(std::vector<double>& ends, double begin, double end) {
+    const auto free = std::ranges::find_if(ends, [begin](double last) { return last <= begin; });
+    const auto lane = static_cast<int>(free - ends.begin());
+    if (free == ends.end())
+        ends.push_back(end);
+    else
+        *free = end;
+    return lane;
+}
+
+} // namespace
+
+std::vector<PlannedRun> plannedRuns(const std::vector<ScheduledSet>& sets, std::int64_t from,
+                                    std::int64_t until, const QTimeZone& zone) {
+    std::vector<PlannedRun> runs;
+    for (const ScheduledSet& set : sets) {
+        const auto more = runsOf(set, from, until, zone);
+        runs.insert(runs.end(), more.begin(), more.end());
+    }
+    std::ranges::stable_sort(runs, {}, &PlannedRun::start);
+    markOverlaps(runs);
+    return runs;
+}
+
+std::vector<DayPart> dayParts(const std::vector<PlannedRun>& runs, std::int64_t from, int days,
+                              const QTimeZone& zone, std::vector<int>& lanes) {
+    const QDate first = QDateTime::fromSecsSinceEpoch(from, zone).date();
+    std::vector<std::vector<double>> ends(static_cast<std::size_t>(days));
+    std::vector<DayPart> parts;
+    for (std::size_t i = 0; i < runs.size(); ++i) {
+        const QDateTime start = QDateTime::fromSecsSinceEpoch(runs[i].start, zone);
+        const QDateTime end = QDateTime::fromSecsSinceEpoch(runs[i].end, zone);
+        const auto firstDay = static_cast<int>(first.daysTo(start.date()));
+        const auto lastDay = static_cast<int>(first.daysTo(end.date()));
+        for (int day = std::max(firstDay, 0); day <= lastDay && day < days; ++day) {
+            DayPart part{i, day, day == firstDay ? partOfDay(start) : 0,
+                         day == lastDay ? partOfDay(end) : 1, 0};
+            if (day > firstDay && part.end <= 0)
+                continue;
+            part.end = std::clamp(part.end, std::min(part.begin + shortestPart, 1.0), 1.0);
+            part.lane = takeLane(ends[static_cast<std::size_t>(day)], part.begin, part.end);
+            parts.push_back(part);
+        }
+    }
+    lanes.clear();
+    for (const auto& day : ends)
+        lanes.push_back(static_cast<int>(day.size()));
+    return parts;
+}
+
+} // namespace insight
