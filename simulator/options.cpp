@@ -129,7 +129,10 @@ A backup agent to show and to test the client with. It listens on 127.0.0.1 only
                        shares (whose names collide), failing (folders that
                        can't be read), many-files (100,000 in one folder),
                        deep (60 folders, one in the other), or storages, with
-                       a set of each of these
+                       a set of each of these; or, to look after, overdue,
+                       failed, stalled (a backup that stands still),
+                       overlapping (schedules of all kinds) or many-folders
+                       (1,000 with 100,000 files)
   --client-type NUMBER
                        the agent's kind, in place of the scenario's: 8 and 9
                        are mobile, 14 is a notebook

@@ -55,6 +55,8 @@ double Activity::progress(Milliseconds now) const {
 }
 
 double Activity::share(Milliseconds now) const {
+    if (plan_.standsAt >= 0)
+        return plan_.standsAt;
     return std::max(0.0, (progress(now) - scanned) / (1 - scanned));
 }
 

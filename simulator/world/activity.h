@@ -25,6 +25,7 @@ struct ActivityPlan {
     std::int32_t files = 0;
     std::int64_t bytes = 0;
     Milliseconds duration = 0; ///< at speed 1
+    double standsAt = -1;      ///< the share of the data at which it stands still; below 0 it moves
     std::vector<std::string> directories;
     std::int32_t errors = 0;
     std::int32_t warnings = 0;

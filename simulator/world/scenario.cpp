@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "simulator/world/described_set.h"
+#include "simulator/world/health_scenarios.h"
 #include "simulator/world/history.h"
 #include "simulator/world/names.h"
 #include "simulator/world/plans.h"
@@ -27,7 +29,7 @@ constexpr Milliseconds quarterOfAnHour = Milliseconds{15} * 60 * 1000;
 constexpr std::int64_t mebibyte = 1 << 20;
 constexpr std::int64_t gibibyte = 1 << 30;
 
-constexpr std::array<std::pair<std::string_view, Scenario>, 14> names{{
+constexpr std::array<std::pair<std::string_view, Scenario>, 19> names{{
     {"default", Scenario::Default},
     {"empty", Scenario::Empty},
     {"central", Scenario::Central},
@@ -42,43 +44,12 @@ constexpr std::array<std::pair<std::string_view, Scenario>, 14> names{{
     {"many-files", Scenario::ManyFiles},
     {"deep", Scenario::Deep},
     {"storages", Scenario::Storages},
+    {"overdue", Scenario::Overdue},
+    {"failed", Scenario::Failed},
+    {"stalled", Scenario::Stalled},
+    {"overlapping", Scenario::Overlapping},
+    {"many-folders", Scenario::ManyFolders},
 }};
-
-/// What a set starts with; the rest follows.
-struct SetDescription {
-    std::string name;
-    std::vector<std::string> folders;
-    std::int64_t size;
-    std::int32_t files;
-};
-
-/// A set of the agent's own computer.
-BackupSetState describedSet(const World& world, const SetDescription& described) {
-    BackupSetState set;
-    const std::string& computer = world.network.local()->name;
-    set.source = computer;
-    set.ofWindows = world.system == ClientOSType::Windows;
-    set.credentials.kind = world.network.local()->kind;
-    auto& info = set.info;
-    info.computer = world.computer;
-    info.name = described.name;
-    info.is_active = true;
-    info.in_sync = true;
-    info.has_items = !described.folders.empty();
-    info.owner_id = 1;
-    info.owner_name = "anna";
-    info.retention_rule_id = plans::standardRetention;
-    info.schedule_id = plans::everyEvening;
-    info.online_data_size = described.size;
-    info.online_file_count = described.files;
-    info.tarnsys_compressed_size = described.size * 58 / 100;
-    set.credentials.usingClientAccount = true;
-    set.leastGenerations = described.folders.empty() ? -1 : 1;
-    set.mostGenerations = described.folders.empty() ? 0 : 30;
-    for (const std::string& folder : described.folders)
-        set.items.push_back({ItemState::Kind::Inclusion, computer, folder});
-    return set;
-}
 
 ItemState excluded(const BackupSetState& set, const std::string& folder) {
     return {ItemState::Kind::Exclusion, set.source, folder};
@@ -339,6 +310,13 @@ void populate(World& world, Scenario scenario, std::optional<std::int32_t> osTyp
         return populateStored(world, {Storage::Deep});
     case Scenario::Storages:
         return populateStored(world, {allStorages.begin(), allStorages.end()});
+    case Scenario::Overdue:
+    case Scenario::Failed:
+    case Scenario::Stalled:
+    case Scenario::Overlapping:
+    case Scenario::ManyFolders:
+        describeAgent(world, false, false);
+        return populateForHealth(world, scenario);
     }
 }
 

@@ -28,6 +28,12 @@ enum class Scenario {
     ManyFiles,
     Deep,
     Storages, ///< one set of each of them
+    // What people have to look after.
+    Overdue,     ///< backups that are too old or were missed, and old ones that nobody scheduled
+    Failed,      ///< backups that ended with errors or never succeeded
+    Stalled,     ///< a backup that doesn't get on, and one that does
+    Overlapping, ///< schedules of all kinds, some of them at the same time
+    ManyFolders, ///< a set with 100,000 files in 1,000 folders
 };
 
 /// All of them, by the names of the command line: "default", "first-run" and so on.

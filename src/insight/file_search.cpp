@@ -21,14 +21,13 @@ constexpr int mostFailures = 50;
 
 QRegularExpression wholeName(const QString& pattern) {
     QString expression;
-    for (const QChar c : pattern) {
+    for (const QChar c : pattern)
         if (c == QLatin1Char('*'))
             expression += QStringLiteral(".*");
         else if (c == QLatin1Char('?'))
             expression += QLatin1Char('.');
         else
             expression += QRegularExpression::escape(QString(c));
-    }
     return QRegularExpression(QRegularExpression::anchoredPattern(expression),
                               QRegularExpression::CaseInsensitiveOption |
                                   QRegularExpression::DotMatchesEverythingOption |

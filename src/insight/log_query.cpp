@@ -67,7 +67,7 @@ LogKeywords LogKeywords::translated() {
 
 LogQuery parseLogQuery(const QString& text, const LogKeywords& keywords) {
     LogQuery query;
-    for (const QString& token : tokensOf(text)) {
+    for (const QString& token : tokensOf(text))
         if (isKeyword(token, QLatin1String("errors"), keywords.errors))
             query.withErrors = true;
         else if (isKeyword(token, QLatin1String("warnings"), keywords.warnings))
@@ -75,7 +75,6 @@ LogQuery parseLogQuery(const QString& text, const LogKeywords& keywords) {
         else if (!takeTerm(token, QLatin1String("set"), keywords.set, query.sets) &&
                  !takeTerm(token, QLatin1String("type"), keywords.type, query.types))
             query.words.push_back(folded(token));
-    }
     return query;
 }
 

@@ -62,13 +62,25 @@ TEST(Options, TakesWhatIsInPlaceOfTheScenario) {
 
 TEST(Options, KnowsEachScenario) {
     const std::vector<std::pair<std::string, Scenario>> scenarios{
-        {"default", Scenario::Default},    {"empty", Scenario::Empty},
-        {"central", Scenario::Central},    {"notebook", Scenario::Notebook},
-        {"first-run", Scenario::FirstRun}, {"unix", Scenario::Unix},
-        {"large", Scenario::Large},        {"generations", Scenario::Generations},
-        {"groups", Scenario::Groups},      {"shares", Scenario::Shares},
-        {"failing", Scenario::Failing},    {"many-files", Scenario::ManyFiles},
-        {"deep", Scenario::Deep},          {"storages", Scenario::Storages}};
+        {"default", Scenario::Default},
+        {"empty", Scenario::Empty},
+        {"central", Scenario::Central},
+        {"notebook", Scenario::Notebook},
+        {"first-run", Scenario::FirstRun},
+        {"unix", Scenario::Unix},
+        {"large", Scenario::Large},
+        {"generations", Scenario::Generations},
+        {"groups", Scenario::Groups},
+        {"shares", Scenario::Shares},
+        {"failing", Scenario::Failing},
+        {"many-files", Scenario::ManyFiles},
+        {"deep", Scenario::Deep},
+        {"storages", Scenario::Storages},
+        {"overdue", Scenario::Overdue},
+        {"failed", Scenario::Failed},
+        {"stalled", Scenario::Stalled},
+        {"overlapping", Scenario::Overlapping},
+        {"many-folders", Scenario::ManyFolders}};
     EXPECT_EQ(simulator::allScenarios().size(), scenarios.size());
     for (const auto& [name, scenario] : scenarios)
         EXPECT_EQ(parseCommandLine({"--scenario", name}).options.scenario, scenario) << name;
