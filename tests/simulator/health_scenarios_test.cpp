@@ -61,11 +61,11 @@ TEST_F(HealthScenarios, AStalledBackupStandsStillAndTheOtherMoves) {
         return std::int64_t{-1};
     };
     at(Scenario::Stalled, [&](World& world) {
-        now_ += 100'000'000;
+        now_ += 600'000;
         const auto stalled = done(world, simulator::health::stalled);
         const auto moving = done(world, simulator::health::moving);
         EXPECT_GT(stalled, 0);
-        now_ += 100'000'000;
+        now_ += 600'000;
         EXPECT_EQ(done(world, simulator::health::stalled), stalled);
         EXPECT_GT(done(world, simulator::health::moving), moving);
     });
