@@ -27,17 +27,26 @@ std::vector<int> selectedRows(const QTableView& table) {
 
 } // namespace
 
-ActivityTables::ActivityTables(const Widgets& widgets)
-    : widgets_(widgets) {
-    setUpSpan();
+ActivityTables::ActivityTables(const Widgets& widgets, Today today)
+    : widgets_(widgets)
+    , today_(std::move(today)) {
+    showSpan();
     setUpLog();
     setUpRunning();
 }
 
-void ActivityTables::setUpSpan() {
-    const LogSpan span = yesterdayAndToday(QDate::currentDate());
-    widgets_.from.setDateTime(span.from);
-    widgets_.to.setDateTime(span.to);
+void ActivityTables::showSpan() {
+    span_ = yesterdayAndToday(today_());
+    widgets_.from.setDateTime(span_.from);
+    widgets_.to.setDateTime(span_.to);
+    // What the fields make of it: they may show no seconds.
+    span_ = {widgets_.from.dateTime(), widgets_.to.dateTime()};
+}
+
+void ActivityTables::followTheDay() {
+    if (widgets_.from.dateTime() == span_.from && widgets_.to.dateTime() == span_.to &&
+        span_.to.date() != today_())
+        showSpan();
 }
 
 void ActivityTables::setUpLog() {
@@ -55,6 +64,7 @@ void ActivityTables::setUpRunning() {
 }
 
 void ActivityTables::refresh() {
+    followTheDay();
     log_.refresh(session::wireTime(widgets_.from.dateTime()),
                  session::wireTime(widgets_.to.dateTime()));
     running_.refresh();

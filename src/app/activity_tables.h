@@ -3,10 +3,12 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <vector>
 
 #include "app/activity_log_model.h"
+#include "app/log_span.h"
 #include "app/running_activities_model.h"
 
 class QDateTimeEdit;
@@ -23,8 +25,10 @@ public:
         QDateTimeEdit& from;
         QDateTimeEdit& to;
     };
-    /// The widgets have to outlive this. The span becomes yesterday and today.
-    explicit ActivityTables(const Widgets& widgets);
+    using Today = std::function<QDate()>;
+    /// The widgets have to outlive this. The span is yesterday and today, and moves on with the
+    /// day for as long as the user hasn't chosen another one.
+    explicit ActivityTables(const Widgets& widgets, Today today = QDate::currentDate);
 
     RunningActivitiesModel& running() { return running_; }
     const RunningActivitiesModel& running() const { return running_; }
@@ -41,11 +45,14 @@ public:
     std::optional<hessiancln::activity_log_info> selectedLogEntry() const;
 
 private:
-    void setUpSpan();
+    void showSpan();
+    void followTheDay();
     void setUpLog();
     void setUpRunning();
 
     Widgets widgets_;
+    Today today_;
+    LogSpan span_; ///< that was shown last without the user
     ActivityLogModel log_;
     RunningActivitiesModel running_;
 };

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "app/backup_set_list.h"
 
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QKeyEvent>
 #include <QScopedValueRollback>
 #include <QTableView>
 
@@ -32,12 +35,15 @@ BackupSetList::BackupSetList(QTableView& view, Source source, BackupSetViewItem:
     view_.setModel(&rows_);
     connect(view_.selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &BackupSetList::followSelection);
+    view_.installEventFilter(this);
 }
 
 bool BackupSetList::rebuild() {
     if (const BackupSetViewItem* card = selectedCard(); card && card->editingName())
         return false;
+    known_ = false;
     auto sets = source_();
+    known_ = true;
     std::erase_if(sets, holdsOtherThanFiles);
     std::int32_t idToSelect = selectedId();
     const QScopedValueRollback<bool> rebuilding(rebuilding_, true);
@@ -60,6 +66,7 @@ void BackupSetList::clear() {
     abandonEditing();
     view_.clearSelection();
     setCount(0);
+    known_ = false;
 }
 
 void BackupSetList::setCount(int count) {
@@ -101,6 +108,43 @@ void BackupSetList::select(int row) {
     view_.selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect |
                                                        QItemSelectionModel::Rows);
     view_.scrollTo(index);
+}
+
+bool BackupSetList::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress && keyPressed(static_cast<QKeyEvent&>(*event)))
+        return true;
+    if (event->type() == QEvent::ContextMenu &&
+        static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Keyboard) {
+        if (BackupSetViewItem* card = selectedCard())
+            showContextMenu(*card);
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+bool BackupSetList::keyPressed(const QKeyEvent& key) {
+    BackupSetViewItem* card = selectedCard();
+    if (!card)
+        return false;
+    if (key.key() == Qt::Key_F2) {
+        card->startEditingSetName();
+        return true;
+    }
+    // Not every platform makes a context menu event of it.
+    if (key.key() == Qt::Key_F10 && key.modifiers() == Qt::ShiftModifier) {
+        showContextMenu(*card);
+        return true;
+    }
+    return false;
+}
+
+void BackupSetList::showContextMenu(BackupSetViewItem& card) {
+    // The platform may send the event and the key.
+    if (QApplication::activePopupWidget())
+        return;
+    const QPoint place = card.rect().center();
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, place, card.mapToGlobal(place));
+    emit contextMenuNeedsDisplay(&card, &event);
 }
 
 void BackupSetList::abandonEditing() {

@@ -12,13 +12,15 @@
 
 #include "app/backup_set_view_item.h"
 
+class QKeyEvent;
 class QTableView;
 
 namespace app {
 
 /// The cards of the agent's file sets in a table view: a row each, in the agent's order. Sets of
 /// anything else aren't listed. A row keeps its card from one rebuild to the next, and the
-/// selection stays with its set.
+/// selection stays with its set. F2 renames the selected set; the menu key and Shift+F10 ask for
+/// its context menu.
 class BackupSetList : public QObject {
     Q_OBJECT
 public:
@@ -35,6 +37,8 @@ public:
     bool rebuild();
     void clear();
     int count() const { return rows_.rowCount(); }
+    /// Whether the agent has none, as opposed to a list that couldn't be read.
+    bool isKnownToBeEmpty() const { return known_ && count() == 0; }
 
     /// The card of the first selected row, or null. It may go with the next rebuild.
     BackupSetViewItem* selectedCard() const;
@@ -44,12 +48,16 @@ public:
     /// Forgets what was typed into a card's name.
     void abandonEditing();
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 signals:
     /// The user selected something else. Not sent for what a rebuild selects.
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected);
     void contextMenuNeedsDisplay(BackupSetViewItem* source, QContextMenuEvent* event);
 
 private:
+    bool keyPressed(const QKeyEvent& key);
+    void showContextMenu(BackupSetViewItem& card);
     void setCount(int count);
     void addCard(int row);
     BackupSetViewItem* cardAt(int row) const;
@@ -63,6 +71,7 @@ private:
     BackupSetViewItem::Rename rename_;
     QStringListModel rows_; ///< a row for each card, which shows everything itself
     std::int32_t pendingId_;
+    bool known_ = false; ///< what the agent has
     bool rebuilding_ = false;
 };
 

@@ -35,6 +35,8 @@ public:
 
     void setSelected(bool selected);
 
+    /// Opens the editor of the name, unless the sets are managed centrally.
+    void startEditingSetName();
     /// Whether the name is being edited, or is just being sent to the agent.
     bool editingName() const { return editingName_; }
 
@@ -58,7 +60,6 @@ private:
     void render();
     void applyLook(const app::SetCardLook& look);
     void showToolTip();
-    void startEditingSetName();
     void hideNameEditor();
     void sendName(const QString& name);
     QLineEdit& nameEditor();

@@ -13,6 +13,7 @@
 #include "app/open_backup_set.h"
 #include "app/simple_gui_main_window.h"
 #include "app/tray_presence.h"
+#include "session/connection.h"
 #include "session/process_values.h"
 #include "session/text.h"
 #include "ui/error_box.h"
@@ -69,6 +70,18 @@ void SimpleGUIMainWindow::start(StartOnSet* begin, const hessiancln::backup_set_
     // Kept for as long as the activity is spoken of.
     const auto activity = begin(set.id);
     RefreshActivityLogs();
+    showStarted(set, status);
+}
+
+void SimpleGUIMainWindow::follow(const hessiancln::backup_set_info& set, const QString& status) {
+    refreshAll();
+    // Where the refresh met a failure, that is the news.
+    if (session::connectedToAgent() && refreshFailure_.isEmpty())
+        showStarted(set, status);
+}
+
+void SimpleGUIMainWindow::showStarted(const hessiancln::backup_set_info& set,
+                                      const QString& status) {
     showStatus(status.arg(ui::timeText(QDateTime::currentSecsSinceEpoch(), QLocale::LongFormat),
                           session::fromWire(set.name)));
 }
@@ -82,8 +95,13 @@ void SimpleGUIMainWindow::editSelectedSet(EditSet* edit) {
 
 void SimpleGUIMainWindow::OnNewBackupSet() {
     ui::remoteAction(*this, tr("New Backup Set Error"), ui::Cursor::arrow, [this] {
-        if (const auto id = wizards::createBackupSet(*this))
-            selectSetOnceListed(*id);
+        if (const auto set = wizards::createBackupSet(*this)) {
+            selectSetOnceListed(set->id);
+            showStatus(
+                tr("%1: Backup set '%2' created")
+                    .arg(ui::timeText(QDateTime::currentSecsSinceEpoch(), QLocale::LongFormat),
+                         set->name));
+        }
     });
 }
 
@@ -102,7 +120,7 @@ void SimpleGUIMainWindow::OnSync() {
 void SimpleGUIMainWindow::OnRestore() {
     commandSelectedSet(tr("Error"), ui::Cursor::arrow, [this](const auto& set) {
         if (const auto activity = wizards::restoreFromSet(*this, app::openBackupSet(set.id)))
-            refreshAll();
+            follow(set, tr("%1: Restore started for '%2'"));
     });
 }
 
@@ -111,7 +129,7 @@ void SimpleGUIMainWindow::OnDelete() {
         if (!mayDelete(set))
             return;
         if (const auto activity = wizards::deleteFromSet(*this, app::openBackupSet(set.id)))
-            refreshAll();
+            follow(set, tr("%1: Deletion started for '%2'"));
     });
 }
 

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 // A session of the main window: how it begins, what the window learns in it, and how it ends.
+#include <utility>
+
 #include <QCoreApplication>
 #include <QDateTime>
 
@@ -56,6 +58,7 @@ void SimpleGUIMainWindow::showSession(const QString& server, const QString& user
 }
 
 void SimpleGUIMainWindow::showStatus(const QString& text) {
+    status_ = text;
     ui_->statusbar->showMessage(text);
     // What comes next may be a call that blocks.
     ui_->statusbar->repaint();
@@ -97,7 +100,7 @@ void SimpleGUIMainWindow::openInitialConfiguration() {
 }
 
 void SimpleGUIMainWindow::offerNewBackupSet() {
-    if (session::connectedToAgent() && sets_->count() == 0 && !session::g_isCentrallyManaged)
+    if (session::connectedToAgent() && sets_->isKnownToBeEmpty() && !session::g_isCentrallyManaged)
         OnNewBackupSet();
 }
 
@@ -116,12 +119,17 @@ void SimpleGUIMainWindow::refreshAll() {
         sets_->clear();
         return;
     }
+    const QString before = std::exchange(refreshFailure_, {});
     try {
         RefreshTarnClientInfo();
         RefreshActivityLogs();
         refreshBackupSets();
+        // A failure that is over isn't news any more.
+        if (!before.isEmpty() && status_ == before)
+            showStatus({});
     } catch (const std::exception& error) {
-        showStatus(ui::errorText(error));
+        refreshFailure_ = ui::errorText(error);
+        showStatus(refreshFailure_);
         activities_->clear();
     }
 }

@@ -74,6 +74,8 @@ void SimpleGUIMainWindow::setUpActivities() {
                                      *ui_->dateTimeFrom, *ui_->dateTimeTo});
     connect(ui_->tableCurrentActivities->selectionModel(), &QItemSelectionModel::selectionChanged,
             this, &SimpleGUIMainWindow::OnRunningActivitySelectionChanged);
+    connect(ui_->tableActivityLog, &QTableView::doubleClicked, this,
+            &SimpleGUIMainWindow::ShowEventLog);
     connect(&activities_->running(), &RunningActivitiesModel::activityChangeDetected, this,
             &SimpleGUIMainWindow::activityChangeDetected);
 }
@@ -157,6 +159,12 @@ void SimpleGUIMainWindow::updateEnabling() {
 bool SimpleGUIMainWindow::event(QEvent* event) {
     if (event->type() == heartbeatEventType()) {
         refreshAll();
+        return true;
+    }
+    // Leaving a menu would empty the status bar for good.
+    if (event->type() == QEvent::StatusTip &&
+        static_cast<QStatusTipEvent*>(event)->tip().isEmpty()) {
+        ui_->statusbar->showMessage(status_);
         return true;
     }
     return QMainWindow::event(event);

@@ -151,6 +151,9 @@ private:
     /// Starts an activity; `status` gets the time and the name of the set.
     using StartOnSet = boost::shared_ptr<hessiancln::GenericActivity>(std::int32_t setId);
     void start(StartOnSet* begin, const hessiancln::backup_set_info& set, const QString& status);
+    /// Shows what the agent has after a wizard started an activity, and then `status`.
+    void follow(const hessiancln::backup_set_info& set, const QString& status);
+    void showStarted(const hessiancln::backup_set_info& set, const QString& status);
     /// Edits the selected set, and shows its details again if the edit was finished.
     using EditSet = bool(QWidget& parent, const boost::shared_ptr<hessiancln::BackupSet>& set);
     void editSelectedSet(EditSet* edit);
@@ -161,4 +164,6 @@ private:
     std::unique_ptr<app::SetDetailsPanel> details_;
     std::unique_ptr<app::TrayPresence> tray_;
     app::Heartbeat heartbeat_;
+    QString status_;         ///< of the status bar, which shows the tip of a menu in its place
+    QString refreshFailure_; ///< of the last refresh; empty if that came through
 };

@@ -4,6 +4,7 @@
 
 #include <memory>
 
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QLabel>
 #include <QMessageBox>
@@ -19,6 +20,10 @@ namespace {
 constexpr int mostCharacters = 2000;
 constexpr int mostLines = 20;
 constexpr QSize textSize(480, 240);
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(ErrorBox)
+};
 
 bool isLong(const QString& text) {
     return text.size() > mostCharacters || text.count(QLatin1Char('\n')) >= mostLines;
@@ -41,7 +46,8 @@ void letTextScroll(QMessageBox& box) {
 } // namespace
 
 QString errorText(const std::exception& error) {
-    return session::fromWire(error.what());
+    const QString text = session::fromWire(error.what());
+    return text.trimmed().isEmpty() ? Texts::tr("The agent gave no reason.") : text;
 }
 
 void showError(QWidget* parent, const QString& title, const QString& text) {

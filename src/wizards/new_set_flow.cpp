@@ -36,7 +36,7 @@ public:
     NewSetWizard(QWidget& parent, const SetFeatures& features);
 
     bool run();
-    std::int32_t createSet();
+    NewSet createSet();
 
 private:
     boost::shared_ptr<hessiancln::BackupSet> createEmptySet();
@@ -81,7 +81,7 @@ boost::shared_ptr<hessiancln::BackupSet> NewSetWizard::createEmptySet() {
     return session::required(browser->createBackupSet(session::toWire(source_->computerName())));
 }
 
-std::int32_t NewSetWizard::createSet() {
+NewSet NewSetWizard::createSet() {
     const auto set = createEmptySet();
     name_->apply(set);
     items_->apply(set);
@@ -90,12 +90,12 @@ std::int32_t NewSetWizard::createSet() {
     schedule_->apply(set);
     retention_->apply(set);
     syncRetentionTask(*set);
-    return set->getID();
+    return {set->getID(), name_->name()};
 }
 
 } // namespace
 
-std::optional<std::int32_t> createBackupSet(QWidget& parent) {
+std::optional<NewSet> createBackupSet(QWidget& parent) {
     NewSetWizard wizard(parent, readSetFeatures());
     if (!wizard.run() || !confirmByCode(parent))
         return std::nullopt;

@@ -38,6 +38,8 @@ public:
     bool isComplete() const override;
     /// Asks the agent for the names that are taken. A failure ends the wizard and goes to the one
     /// who runs it.
+    /// What is typed, without blanks around it.
+    QString name() const;
     bool validatePage() override;
 
 public slots:
@@ -47,7 +49,5 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    QString name() const;
-
     std::unique_ptr<Ui::SetNamePage> ui_;
 };

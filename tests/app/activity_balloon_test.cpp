@@ -63,3 +63,26 @@ TEST(ActivityBalloon, TellsWhatHasBegunBeforeWhatHasEnded) {
     EXPECT_EQ(text, QStringLiteral("Started - Backup - a\nStarted - Restore - b\n"
                                    "Completed - Delete - Documents %1\n"));
 }
+
+TEST(ActivityBalloon, ShowsTenActivitiesAtMost) {
+    QList<running_activity_info> ten;
+    for (int i = 0; i < 10; ++i)
+        ten << activity(ActivityType::Backup, 0, "a");
+    EXPECT_EQ(app::activityBalloonText(ten, {}, nameOf),
+              QStringLiteral("Started - Backup - a\n").repeated(10));
+}
+
+TEST(ActivityBalloon, CountsTheRestWithoutAskingForItsNames) {
+    QList<running_activity_info> six;
+    for (int i = 0; i < 6; ++i)
+        six << activity(ActivityType::Backup, 7, "a");
+    int asked = 0;
+    const QString text = app::activityBalloonText(six, six, [&](std::int32_t set) {
+        ++asked;
+        return nameOf(set);
+    });
+    EXPECT_EQ(text, QStringLiteral("Started - Backup - Documents %1\n").repeated(6) +
+                        QStringLiteral("Completed - Backup - Documents %1\n").repeated(3) +
+                        QStringLiteral("and 3 more\n"));
+    EXPECT_EQ(asked, 9);
+}

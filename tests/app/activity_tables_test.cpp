@@ -44,6 +44,9 @@ struct Tables {
         tables.log().setRecords(records(ids, &activity_log_info::id));
     }
 
+    /// There is no session to ask for rows.
+    void refreshWithoutAgent() { QVERIFY_EXCEPTION_THROWN(tables.refresh(), std::exception); }
+
     static void select(QTableView& view, std::initializer_list<int> rows) {
         view.clearSelection();
         for (const int row : rows)
@@ -55,7 +58,8 @@ struct Tables {
     QTableView logView;
     QDateTimeEdit from;
     QDateTimeEdit to;
-    app::ActivityTables tables{{runningView, logView, from, to}};
+    QDate today = QDate(2026, 11, 21);
+    app::ActivityTables tables{{runningView, logView, from, to}, [this] { return today; }};
 };
 
 } // namespace
@@ -66,12 +70,39 @@ private slots:
     void initTestCase() { resources::initPictures(); }
 
     void theLogBeginsWithYesterdayAndToday() {
-        const QDate before = QDate::currentDate();
         const Tables shown;
-        if (QDate::currentDate() != before)
-            QSKIP("Midnight has come in between");
-        QCOMPARE(shown.from.dateTime(), QDateTime(before.addDays(-1), QTime(0, 0)));
-        QCOMPARE(shown.to.dateTime(), QDateTime(before, QTime(23, 59, 59, 999)));
+        QCOMPARE(shown.from.dateTime(), QDateTime(QDate(2026, 11, 20), QTime(0, 0)));
+        QCOMPARE(shown.to.dateTime(), QDateTime(QDate(2026, 11, 21), QTime(23, 59, 59, 999)));
+    }
+
+    void theSpanMovesOnWithTheDay() {
+        Tables shown;
+        shown.today = QDate(2026, 11, 23);
+        shown.refreshWithoutAgent();
+        QCOMPARE(shown.from.dateTime(), QDateTime(QDate(2026, 11, 22), QTime(0, 0)));
+        QCOMPARE(shown.to.dateTime(), QDateTime(QDate(2026, 11, 23), QTime(23, 59, 59, 999)));
+        shown.today = QDate(2026, 11, 24);
+        shown.refreshWithoutAgent();
+        QCOMPARE(shown.from.date(), QDate(2026, 11, 23));
+    }
+
+    void aSpanOfTheUserStays_data() {
+        QTest::addColumn<bool>("from");
+        QTest::newRow("from") << true;
+        QTest::newRow("to") << false;
+    }
+
+    void aSpanOfTheUserStays() {
+        QFETCH(bool, from);
+        Tables shown;
+        QDateTimeEdit& field = from ? shown.from : shown.to;
+        field.setDateTime(field.dateTime().addSecs(-60));
+        const QDateTime first = shown.from.dateTime();
+        const QDateTime last = shown.to.dateTime();
+        shown.today = QDate(2026, 11, 23);
+        shown.refreshWithoutAgent();
+        QCOMPARE(shown.from.dateTime(), first);
+        QCOMPARE(shown.to.dateTime(), last);
     }
 
     void theYoungestComeFirst() {

@@ -2,16 +2,19 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <stdexcept>
 
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScopedValueRollback>
 #include <QSignalSpy>
 #include <QTableView>
 #include <QtTest>
 
 #include "app/backup_set_list.h"
 #include "resources/pictures.h"
+#include "session/process_values.h"
 #include "tests/support/gui_modal_driver.h"
 
 using hessiancln::backup_set_info;
@@ -155,6 +158,81 @@ private slots:
         shown.list.selectOnceListed(8);
         QVERIFY(shown.list.rebuild());
         QTRY_VERIFY(shown.view.viewport()->rect().contains(shown.card(7).geometry()));
+    }
+
+    void onlyAListThatWasReadIsKnownToBeEmpty() {
+        QTableView view;
+        bool fails = true;
+        app::BackupSetList list(view, [&fails]() -> std::vector<backup_set_info> {
+            if (fails)
+                throw std::runtime_error("Out of order.");
+            return {};
+        });
+        QVERIFY(!list.isKnownToBeEmpty());
+        QVERIFY_EXCEPTION_THROWN(list.rebuild(), std::runtime_error);
+        QVERIFY(!list.isKnownToBeEmpty());
+        fails = false;
+        QVERIFY(list.rebuild());
+        QVERIFY(list.isKnownToBeEmpty());
+        list.clear();
+        QVERIFY(!list.isKnownToBeEmpty());
+    }
+
+    void keysAskForTheContextMenu_data() {
+        QTest::addColumn<bool>("byEvent");
+        QTest::newRow("menu key") << true;
+        QTest::newRow("Shift+F10") << false;
+    }
+
+    void keysAskForTheContextMenu() {
+        QFETCH(bool, byEvent);
+        ShownList shown;
+        QList<std::int32_t> askedFor;
+        connect(
+            &shown.list, &app::BackupSetList::contextMenuNeedsDisplay, &shown.list,
+            [&](BackupSetViewItem* card, QContextMenuEvent* event) {
+                askedFor << card->record().id;
+                QVERIFY(
+                    QRect(card->mapToGlobal({0, 0}), card->size()).contains(event->globalPos()));
+            });
+        const auto press = [&] {
+            QContextMenuEvent event(QContextMenuEvent::Keyboard, {});
+            if (byEvent)
+                QApplication::sendEvent(&shown.view, &event);
+            else
+                QTest::keyClick(&shown.view, Qt::Key_F10, Qt::ShiftModifier);
+        };
+        shown.rebuildWith({1, 2});
+        press();
+        QCOMPARE(askedFor, QList<std::int32_t>());
+        shown.view.selectRow(1);
+        press();
+        QCOMPARE(askedFor, QList<std::int32_t>{2});
+    }
+
+    void f2RenamesTheSelectedSet() {
+        ShownList shown;
+        shown.rebuildWith({1, 2});
+        QTest::keyClick(&shown.view, Qt::Key_F2);
+        shown.view.selectRow(1);
+        QTest::keyClick(&shown.view, Qt::Key_F2);
+        auto& editor = child<QLineEdit>(shown.card(1), "nameEditor");
+        QVERIFY(editor.hasFocus());
+        QTest::keyClicks(&editor, QStringLiteral("Photos"));
+        QTest::keyClick(&editor, Qt::Key_Return);
+        QCOMPARE(shown.renames, QStringList{QStringLiteral("2=Photos")});
+        // Back on the list, with the keys that move in it.
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+        QCOMPARE(shown.selectedId(), 1);
+    }
+
+    void f2RenamesNothingUnderCentralManagement() {
+        ShownList shown;
+        shown.rebuildWith({1});
+        shown.view.selectRow(0);
+        const QScopedValueRollback<bool> managed(session::g_isCentrallyManaged, true);
+        QTest::keyClick(&shown.view, Qt::Key_F2);
+        QVERIFY(!shown.card(0).editingName());
     }
 
     void aFailureLeavesTheListAsItWas() {

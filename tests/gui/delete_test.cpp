@@ -158,6 +158,8 @@ void DeleteTest::aSetWithoutFilesIsRemoved() {
                                      (plans ? scheduleGone + ruleGone : bare) + setGone +
                                      refreshed),
              QString());
+    QVERIFY2(test_.driver->status().contains(q(": Deletion started for '")),
+             qPrintable(test_.driver->status()));
     test_.agent->withWorld([](World& world) {
         for (const auto& schedule : world.schedules.all())
             QVERIFY(schedule->name != "schedule_for_set_8");

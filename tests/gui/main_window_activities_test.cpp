@@ -129,6 +129,7 @@ private slots:
     void startsTheDailyAdmin();
     void theEventLogOpensOnYesterdayAndToday();
     void theEventLogOpensOnTheSelectedActivity();
+    void aDoubleClickOpensTheEventsOfARow();
     void anActivityWithoutIdOpensTheEventLogOnItsTimes();
     void theAboutBoxOpens();
     void anAboutBoxThatCantAskIsTold();
@@ -420,6 +421,22 @@ void MainWindowActivitiesTest::theEventLogOpensOnTheSelectedActivity() {
         child<QPushButton>(viewer, "buttonClose").click();
     });
     window().ShowEventLog();
+    QVERIFY(modals.done());
+    QCOMPARE(agent_->callTexts().front(),
+             "ClientConnection.event_log(0, 0, " + number(activity.id) + ")");
+}
+
+void MainWindowActivitiesTest::aDoubleClickOpensTheEventsOfARow() {
+    auto& log = table("tableActivityLog");
+    const auto activity = static_cast<ActivityLogModel*>(log.model())->at(1);
+    ModalDriver modals;
+    modals.expect(QStringLiteral("events"), isDialog<EventLogViewer>, [&](QWidget& viewer) {
+        QCOMPARE(child<QSpinBox>(viewer, "spinActivityID").value(), activity.id);
+        child<QPushButton>(viewer, "buttonClose").click();
+    });
+    const QPoint place = log.visualRect(log.model()->index(1, 1)).center();
+    QTest::mouseClick(log.viewport(), Qt::LeftButton, {}, place);
+    QTest::mouseDClick(log.viewport(), Qt::LeftButton, {}, place);
     QVERIFY(modals.done());
     QCOMPARE(agent_->callTexts().front(),
              "ClientConnection.event_log(0, 0, " + number(activity.id) + ")");

@@ -184,6 +184,8 @@ void MainWindowFaultsTest::theListAloneIsForgiven() {
     driver_->beat();
     QVERIFY(driver_->rows("tableActivityLog") > 0);
     QCOMPARE(driver_->rows("tableCurrentActivities"), 1);
+    // What is over is no news.
+    QCOMPARE(driver_->status(), QString());
 }
 
 void MainWindowFaultsTest::theDetailsShowABox_data() {

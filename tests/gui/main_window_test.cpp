@@ -145,6 +145,29 @@ private slots:
         QCOMPARE(sets(), cardsOf(agent));
     }
 
+    void aListThatCantBeReadOffersNoFirstSet() {
+        GuiAgent agent;
+        agent.inject("backup_sets_info", simulator::Fault{"Out of order."});
+        support::ModalDriver modals;
+        window().doLogin(true);
+        QVERIFY(modals.done());
+        QVERIFY(session::connectedToAgent());
+        QCOMPARE(sets(), QStringList());
+        QCOMPARE(status(), QStringLiteral("Out of order."));
+    }
+
+    void theStatusComesBackAfterAMenu() {
+        const GuiAgent agent;
+        window().doLogin(true);
+        const QString before = status();
+        QVERIFY(!before.isEmpty());
+        auto& menu = child<QMenu>(window(), "menu_Backup_Set");
+        menu.popup(window().mapToGlobal({0, 0}));
+        menu.setActiveAction(menu.actions().first());
+        menu.close();
+        QCOMPARE(status(), before);
+    }
+
     void asksNobodyWhenTheFirstLoginWorked() {
         const GuiAgent agent;
         ModalDriver modals;

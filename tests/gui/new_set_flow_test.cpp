@@ -151,6 +151,8 @@ void NewSetFlowTest::aNewSetIsSelectedByTheNextHeartbeat() {
     test_.expectWizard();
     test_.run("OnNewBackupSet");
     QCOMPARE(test_.driver->selectedRow(), 0);
+    QVERIFY2(test_.driver->status().endsWith(q(": Backup set 'New one' created")),
+             qPrintable(test_.driver->status()));
     test_.quiet->letPass = true;
     test_.driver->beat();
     const int last = test_.driver->cards().size() - 1;

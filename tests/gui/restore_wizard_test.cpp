@@ -167,6 +167,9 @@ void RestoreWizardTest::toAnotherDirectory() {
                                      directoryWanted + restoredToDirectory("6", 1, mapping, 1) +
                                      refreshedAfterRestore),
              QString());
+    QVERIFY2(
+        test_.driver->status().endsWith(q(": Restore started for 'Kundenprojekte Müller & Söhne'")),
+        qPrintable(test_.driver->status()));
     QVERIFY2(QRegularExpression(q("^restore_\\d{4}_[^_]+_\\d\\d_\\d\\d-\\d\\d-\\d\\d$"))
                  .match(name_)
                  .hasMatch(),

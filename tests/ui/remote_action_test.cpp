@@ -52,6 +52,23 @@ private slots:
         QCOMPARE(window.cursor().shape(), Qt::ArrowCursor);
     }
 
+    void saysThatThereWasNoReason_data() {
+        QTest::addColumn<QByteArray>("reason");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("blank") << QByteArray(" \n");
+    }
+
+    void saysThatThereWasNoReason() {
+        QFETCH(QByteArray, reason);
+        QWidget window;
+        window.show();
+        ModalDriver modals;
+        modals.expectErrorBox(QStringLiteral("Error"), QStringLiteral("The agent gave no reason."));
+        QVERIFY(!ui::remoteAction(window, QStringLiteral("Error"), ui::Cursor::wait,
+                                  [&] { throw std::runtime_error(reason.constData()); }));
+        QVERIFY(modals.done());
+    }
+
     void theReturnKeySaysNoToWhatNothingBringsBack_data() {
         QTest::addColumn<bool>("yes");
         QTest::newRow("Return") << false;

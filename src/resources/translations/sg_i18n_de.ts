@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>ErrorBox</name>
+    <message>
+        <source>The agent gave no reason.</source>
+        <translation>Der Agent hat keinen Grund genannt.</translation>
+    </message>
+</context>
+<context>
     <name>ADAccountDlg</name>
     <message>
         <source>Modify LDAP User Account</source>
@@ -3722,6 +3729,22 @@ Bitte wählen Sie einen anderen Namen.</translation>
     <message>
         <source>Error</source>
         <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>%1: Backup set &apos;%2&apos; created</source>
+        <translation>%1: Sicherungssatz „%2“ angelegt</translation>
+    </message>
+    <message>
+        <source>%1: Restore started for &apos;%2&apos;</source>
+        <translation>%1: Wiederherstellung für „%2“ gestartet</translation>
+    </message>
+    <message>
+        <source>%1: Deletion started for &apos;%2&apos;</source>
+        <translation>%1: Löschung für „%2“ gestartet</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
     </message>
     <message>
         <source>%1: On-demand backup started for &apos;%2&apos;</source>
