@@ -2,13 +2,27 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ui/table_columns.h"
 
+#include <algorithm>
+
 #include <QCoreApplication>
 #include <QHeaderView>
+#include <QStyle>
 #include <QTableView>
 
 #include "ui/fitting_text_delegate.h"
 
 namespace ui {
+
+namespace {
+
+/// The width of a column in which its title isn't cut, whatever the language.
+int withRoomForTitle(const QHeaderView& header, int column, int width) {
+    const QString title = header.model()->headerData(column, Qt::Horizontal).toString();
+    const int margins = 2 * header.style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, &header);
+    return std::max(width, header.fontMetrics().horizontalAdvance(title) + margins);
+}
+
+} // namespace
 
 QVariant headerOf(const QAbstractItemModel& model, const TableColumn& column, int role) {
     if (role == Qt::DisplayRole)
@@ -27,7 +41,8 @@ void setUpTable(QTableView& table, QAbstractItemModel& model) {
     for (int column = 0; column < model.columnCount(); ++column)
         if (const QVariant width = model.headerData(column, Qt::Horizontal, columnWidthRole);
             width.isValid())
-            table.setColumnWidth(column, width.toInt());
+            table.setColumnWidth(
+                column, withRoomForTitle(*table.horizontalHeader(), column, width.toInt()));
     table.setItemDelegate(new FittingTextDelegate(&table));
     // In the middle of its column, the header of a wide one would be out of sight.
     table.horizontalHeader()->setDefaultAlignment(leftInCell);

@@ -46,8 +46,8 @@ QVariant headerOf(const QAbstractItemModel& model, const TableColumn& column, in
 /// What `Qt::TextAlignmentRole` means for the cells of a column.
 QVariant alignmentOf(const TableColumn& column);
 
-/// Shows a model as all tables of the program are shown: each column as wide as the header says,
-/// titles at the left, and texts that are too wide by `FittingTextDelegate`.
+/// Shows a model as all tables of the program are shown: each column as wide as the header says
+/// or as its title wants, titles at the left, and texts that are too wide by `FittingTextDelegate`.
 void setUpTable(QTableView& table, QAbstractItemModel& model);
 
 } // namespace ui

@@ -63,6 +63,7 @@ void Album::take(QWidget& shown, const char* screen) {
         QCoreApplication::processEvents();
     boxTexts_ << textsOf(shown);
     titles_[name] = shown.windowTitle();
+    seenTexts_[name] = tour::seenTexts(shown);
     for (const QString& defect : defectsOf(shown))
         defects_ << name + QStringLiteral(": ") + defect;
     // What comes late has come then, and is on the picture.

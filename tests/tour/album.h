@@ -8,6 +8,8 @@
 #include <QMap>
 #include <QStringList>
 
+#include "tests/tour/seen_texts.h"
+
 class QWidget;
 
 namespace tour {
@@ -31,6 +33,8 @@ public:
     const QStringList& boxTexts() const { return boxTexts_; }
     /// What stands in the title bar of each screen that has one, which no picture shows.
     const QMap<QString, QString>& titles() const { return titles_; }
+    /// What a user reads on each screen.
+    const QMap<QString, QList<SeenText>>& seenTexts() const { return seenTexts_; }
     /// What is wrong with the looks, with the screen in front.
     const QStringList& defects() const { return defects_; }
 
@@ -40,6 +44,7 @@ private:
     QStringList taken_;
     QStringList boxTexts_;
     QMap<QString, QString> titles_;
+    QMap<QString, QList<SeenText>> seenTexts_;
     QStringList defects_;
 };
 

@@ -8,12 +8,14 @@
 #include <QComboBox>
 #include <QFileDialog>
 #include <QGroupBox>
+#include <QHeaderView>
 #include <QKeySequence>
 #include <QLabel>
 #include <QMap>
 #include <QStyle>
 #include <QStyleOptionComboBox>
 #include <QStyleOptionGroupBox>
+#include <QTabBar>
 #include <QToolButton>
 
 namespace tour {
@@ -52,6 +54,24 @@ bool isCut(const QAbstractButton& button) {
     return text.width() + icon > button.width();
 }
 
+/// Whether there are more tabs than have room.
+bool isCut(const QTabBar& tabs) {
+    return tabs.count() > 0 && !tabs.rect().contains(tabs.tabRect(tabs.count() - 1));
+}
+
+/// The title of the first column that is too narrow for it; empty if there is none.
+QString cutTitle(const QHeaderView& header) {
+    for (int section = 0; section < header.count(); ++section) {
+        const QString title = header.model()->headerData(section, header.orientation()).toString();
+        const int margins =
+            2 * header.style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, &header);
+        if (!header.isSectionHidden(section) &&
+            header.fontMetrics().horizontalAdvance(title) + margins > header.sectionSize(section))
+            return title;
+    }
+    return {};
+}
+
 /// The text of a widget that is too small for it; empty if all of it is seen.
 QString cutText(const QWidget& widget) {
     if (const auto* label = qobject_cast<const QLabel*>(&widget))
@@ -60,6 +80,10 @@ QString cutText(const QWidget& widget) {
         return isCut(*combo) ? combo->currentText() : QString();
     if (const auto* group = qobject_cast<const QGroupBox*>(&widget))
         return isCut(*group) ? group->title() : QString();
+    if (const auto* tabs = qobject_cast<const QTabBar*>(&widget))
+        return isCut(*tabs) ? tabs->tabText(tabs->count() - 1) : QString();
+    if (const auto* header = qobject_cast<const QHeaderView*>(&widget))
+        return header->model() ? cutTitle(*header) : QString();
     // Those of a tool bar choose between their text and their icon.
     if (qobject_cast<const QToolButton*>(&widget))
         return {};
@@ -74,6 +98,9 @@ bool isTextOfAUser(const QWidget& widget) {
     if (qobject_cast<const QFileDialog*>(widget.parentWidget()) &&
         widget.objectName() == QLatin1String("lookInCombo"))
         return true;
+    // A file dialog of Qt chooses the widths of its columns.
+    if (qobject_cast<const QHeaderView*>(&widget))
+        return widget.window()->inherits("QFileDialog");
     for (const QWidget* at = widget.parentWidget(); at; at = at->parentWidget())
         if (qobject_cast<const QAbstractItemView*>(at))
             return true;

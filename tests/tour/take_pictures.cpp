@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 // Takes a picture of every screen of the program, or writes the page that shows them all:
-//   take_pictures <folder> [<translation file>]
+//   take_pictures <folder> [<translation file>|pseudo]
 //   take_pictures --index <folder of the English ones> <folder of the German ones> >docs/tour.md
 // The looks are those of the display; see tools/pictures.
 #include <cstdio>
@@ -15,6 +15,7 @@
 #include "resources/pictures.h"
 #include "tests/tour/album.h"
 #include "tests/tour/catalogue.h"
+#include "tests/tour/pseudo_language.h"
 #include "tests/tour/stories.h"
 
 namespace {
@@ -75,14 +76,18 @@ int main(int argc, char** argv) {
     resources::initPictures();
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() < 2) {
-        std::fputs("Usage: take_pictures <folder> [<translation file>]\n"
+        std::fputs("Usage: take_pictures <folder> [<translation file>|pseudo]\n"
                    "       take_pictures --index <English folder> <German folder>\n",
                    stderr);
         return 2;
     }
     QTranslator german;
     QString refusal = QStringLiteral("The storage server can't be reached.");
-    if (arguments.size() > 2) {
+    tour::PseudoLanguage pseudo;
+    if (arguments.size() > 2 && arguments.at(2) == QLatin1String("pseudo")) {
+        QCoreApplication::installTranslator(&pseudo);
+        refusal = tour::PseudoLanguage::textOf(refusal);
+    } else if (arguments.size() > 2) {
         const QString none = QLatin1String("");
         if (!german.load(arguments.at(2), none, none, none))
             qFatal("Can't read %s", qPrintable(arguments.at(2)));

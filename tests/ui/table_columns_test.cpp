@@ -47,6 +47,15 @@ public:
     }
 };
 
+/// Takes many words for one.
+class LongWinded : public QTranslator {
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char*, const char* source, const char*, int) const override {
+        return QString::fromUtf8(source).repeated(20);
+    }
+};
+
 } // namespace
 
 class TableColumnsTest : public QObject {
@@ -86,6 +95,17 @@ private slots:
         QCOMPARE(table.columnWidth(note), usual);
         QVERIFY(qobject_cast<ui::FittingTextDelegate*>(table.itemDelegate()));
         QCOMPARE(table.horizontalHeader()->defaultAlignment(), Qt::AlignLeft | Qt::AlignVCenter);
+    }
+
+    void aTitleThatNeedsMoreWidthGetsIt() {
+        LongWinded translator;
+        QVERIFY(QCoreApplication::installTranslator(&translator));
+        Model model;
+        QTableView table;
+        ui::setUpTable(table, model);
+        const QString title = QStringLiteral("Size").repeated(20);
+        QVERIFY(table.columnWidth(size) >
+                table.horizontalHeader()->fontMetrics().horizontalAdvance(title));
     }
 };
 
