@@ -13,8 +13,8 @@ using hessiancln::ClientOSType;
 using session::fromWire;
 using session::toWire;
 
-constexpr auto Windows = ClientOSType::Windows;
-constexpr auto Unix = static_cast<ClientOSType>(1);
+constexpr auto onWindows = ClientOSType::Windows;
+constexpr auto onUnix = static_cast<ClientOSType>(1);
 
 std::string folder(const char* treePath, ClientOSType system) {
     return toWire(wizards::folderOfTreePath(fromWire(treePath), system));
@@ -30,41 +30,41 @@ std::string stored(const char* folder) {
 
 TEST(LocalPath, AFolderOfWindowsIsItsTreePath) {
     for (const char* path : {"", "D:", R"(D:\Copies)", R"(D:\\two/ways\)", R"(\server\share)"}) {
-        EXPECT_EQ(folder(path, Windows), path);
-        EXPECT_EQ(treePath(path, Windows), path);
+        EXPECT_EQ(folder(path, onWindows), path);
+        EXPECT_EQ(treePath(path, onWindows), path);
     }
 }
 
 TEST(LocalPath, AFolderOfUnixHasOneSlashForEachRunOfSeparators) {
-    EXPECT_EQ(folder("", Unix), "");
-    EXPECT_EQ(folder("/", Unix), "/");
-    EXPECT_EQ(folder(R"(/\srv)", Unix), "/srv");
-    EXPECT_EQ(folder(R"(/\srv\storage)", Unix), "/srv/storage");
-    EXPECT_EQ(folder(R"(a\/\/b\\c)", Unix), "a/b/c");
-    EXPECT_EQ(folder(R"(/\srv\)", Unix), "/srv/");
-    EXPECT_EQ(folder("/\\Müller\\€", Unix), "/Müller/€");
+    EXPECT_EQ(folder("", onUnix), "");
+    EXPECT_EQ(folder("/", onUnix), "/");
+    EXPECT_EQ(folder(R"(/\srv)", onUnix), "/srv");
+    EXPECT_EQ(folder(R"(/\srv\storage)", onUnix), "/srv/storage");
+    EXPECT_EQ(folder(R"(a\/\/b\\c)", onUnix), "a/b/c");
+    EXPECT_EQ(folder(R"(/\srv\)", onUnix), "/srv/");
+    EXPECT_EQ(folder("/\\Müller\\€", onUnix), "/Müller/€");
 }
 
 TEST(LocalPath, ATreePathOfUnixBeginsWithTheRoot) {
-    EXPECT_EQ(treePath("", Unix), "/\\");
-    EXPECT_EQ(treePath("/", Unix), "/\\");
-    EXPECT_EQ(treePath("/srv", Unix), R"(/\srv)");
-    EXPECT_EQ(treePath("srv", Unix), R"(/\srv)");
-    EXPECT_EQ(treePath("/srv/storage", Unix), R"(/\srv\storage)");
-    EXPECT_EQ(treePath("//srv///storage", Unix), R"(/\srv\storage)");
-    EXPECT_EQ(treePath(R"(\/srv\/storage)", Unix), R"(/\srv\storage)");
-    EXPECT_EQ(treePath("/srv/storage/", Unix), "/\\srv\\storage\\");
+    EXPECT_EQ(treePath("", onUnix), "/\\");
+    EXPECT_EQ(treePath("/", onUnix), "/\\");
+    EXPECT_EQ(treePath("/srv", onUnix), R"(/\srv)");
+    EXPECT_EQ(treePath("srv", onUnix), R"(/\srv)");
+    EXPECT_EQ(treePath("/srv/storage", onUnix), R"(/\srv\storage)");
+    EXPECT_EQ(treePath("//srv///storage", onUnix), R"(/\srv\storage)");
+    EXPECT_EQ(treePath(R"(\/srv\/storage)", onUnix), R"(/\srv\storage)");
+    EXPECT_EQ(treePath("/srv/storage/", onUnix), "/\\srv\\storage\\");
 }
 
 TEST(LocalPath, ThereAndBackAFolderOfUnixStaysWhatItIs) {
     for (const char* path : {"/", "/srv", "/srv/storage", "/home/zoë/Büro"})
-        EXPECT_EQ(toWire(wizards::folderOfTreePath(wizards::treePathOfFolder(fromWire(path), Unix),
-                                                   Unix)),
+        EXPECT_EQ(toWire(wizards::folderOfTreePath(
+                      wizards::treePathOfFolder(fromWire(path), onUnix), onUnix)),
                   path);
 }
 
 TEST(LocalPath, EverySystemButWindowsTellsNamesApartByCase) {
-    EXPECT_EQ(wizards::caseSensitivityOf(Windows), Qt::CaseInsensitive);
+    EXPECT_EQ(wizards::caseSensitivityOf(onWindows), Qt::CaseInsensitive);
     for (const int code : {1, 2, 3})
         EXPECT_EQ(wizards::caseSensitivityOf(static_cast<ClientOSType>(code)), Qt::CaseSensitive);
 }
