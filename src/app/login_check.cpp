@@ -58,7 +58,6 @@ void LoginCheck::addDomains(const QStringList& domains) {
     comboDomain_->addItems(domains);
     comboDomain_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     ui_->formLayout->insertRow(0, labelDomain_, comboDomain_);
-    setTabOrder(comboDomain_, ui_->lineEditUserName);
     retranslateDomains();
 }
 

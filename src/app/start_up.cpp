@@ -80,8 +80,6 @@ void showAtOnce(QWidget& window) {
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
         QThread::msleep(timeBetweenLooks);
     }
-    // Appearing may have asked for another layout.
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 void logInAtStart(SimpleGUIMainWindow& window) {

@@ -6,6 +6,7 @@
 #include "resources/pictures.h"
 #include "simulator/world/world.h"
 #include "tests/config/dialog_steps.h"
+#include "tests/support/gui_form_texts.h"
 
 using namespace steps;
 using hessiancln::DayOfWeekCode;
@@ -96,7 +97,7 @@ void ConfigurationDialogsTest::theAccountIsReadAndSaved() {
     expectAccount([this](QWidget& dialog) {
         QCOMPARE(dialog.windowTitle(), q("Modify LDAP User Account"));
         QCOMPARE(dialog.parentWidget(), &test_.driver->window());
-        QVERIFY(!dialog.windowIcon().isNull());
+        support::compareWindowIcon(dialog);
         QCOMPARE(text(dialog, "editDomain"), q("OFFICE"));
         QCOMPARE(text(dialog, "editUser"), q("backup"));
         QCOMPARE(text(dialog, "editPassword"), q("correct horse"));

@@ -238,7 +238,7 @@ void DialogFormsTest::theAdminTimes() {
         QCOMPARE(wizard.currentPage()->title(), q("Admin Configuration"));
         QCOMPARE(wizard.currentPage()->subTitle(),
                  q("Tarn-Client daily/weekly admin configuration "));
-        QVERIFY(!wizard.windowIcon().isNull());
+        support::compareWindowIcon(wizard);
         QCOMPARE(wizard.pixmap(QWizard::WatermarkPixmap).toImage(),
                  QPixmap(q(":/images/wizard_retention")).toImage());
         QCOMPARE(wizard.button(QWizard::FinishButton)->text(), q("&Finish"));

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "session/process_values.h"
 #include "tests/config/registration_fixture.h"
+#include "tests/support/gui_form_texts.h"
 
 using namespace steps;
 using simulator::World;
@@ -62,7 +63,7 @@ void FirstRunTest::theFirstRunIsSaved() {
     expectDialog([this](QWidget& dialog) {
         QCOMPARE(dialog.windowTitle(), q("Initial Tarn-Client Configuration"));
         QCOMPARE(dialog.parentWidget(), &test_.driver->window());
-        QVERIFY(!dialog.windowIcon().isNull());
+        support::compareWindowIcon(dialog);
         for (const char* group : {"grpPrivateKey", "grpAccountKey", "grpUserInfo"})
             QVERIFY2(isEnabled(dialog, group), group);
         for (const char* combo : {"cmbCountry", "cmbEmployees", "cmbIndustry"})

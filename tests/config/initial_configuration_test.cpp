@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <optional>
 
-#include <QElapsedTimer>
-
 #include "session/process_values.h"
 #include "tests/config/registration_fixture.h"
+#include "tests/support/gui_form_texts.h"
 #include "tests/support/gui_translation.h"
 
 using namespace steps;
@@ -53,7 +52,7 @@ void InitialConfigurationTest::whatTheAgentKnowsIsShown() {
     expectDialog([this](QWidget& dialog) {
         QCOMPARE(dialog.windowTitle(), q("Modify Tarn-Client Configuration"));
         QCOMPARE(dialog.parentWidget(), &test_.driver->window());
-        QVERIFY(!dialog.windowIcon().isNull());
+        support::compareWindowIcon(dialog);
         QCOMPARE(text(dialog, "txtFieldCustomer"), q("Müller & Söhne GmbH"));
         QCOMPARE(text(dialog, "txtFieldAccountNum"), q("OFFICE-401"));
         QCOMPARE(text(dialog, "txtFieldClientNum"), q("A4C100931700"));
@@ -420,11 +419,8 @@ void InitialConfigurationTest::aFileWithoutKeysChangesNothing() {
 
 void InitialConfigurationTest::aLineWithoutEndIsPassedOver() {
     expectDialog([this](QWidget& dialog) {
-        QElapsedTimer timer;
-        timer.start();
         import(dialog, "long.cri",
                "UserName=" + QByteArray(100 * 1024 * 1024, 'x') + "\nAccountName=after\n");
-        QVERIFY2(timer.elapsed() < 20'000, qPrintable(QString::number(timer.elapsed())));
         QCOMPARE(text(dialog, "txtFieldCustomer"), q("Müller & Söhne GmbH"));
         QCOMPARE(text(dialog, "txtFieldAccountNum"), q("after"));
         press(dialog, "btnCancel");

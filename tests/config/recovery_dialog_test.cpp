@@ -9,6 +9,7 @@
 #include "simulator/world/world.h"
 #include "tests/config/dialog_steps.h"
 #include "tests/support/cursor_watch.h"
+#include "tests/support/gui_form_texts.h"
 
 using namespace steps;
 using simulator::World;
@@ -97,7 +98,7 @@ void RecoveryDialogTest::withoutOrphansOnlyTheDatabaseIsThere() {
     expectRecovery([this](QWidget& dialog) {
         QCOMPARE(dialog.windowTitle(), q("Recovery"));
         QCOMPARE(dialog.parentWidget(), &test_.driver->window());
-        QVERIFY(!dialog.windowIcon().isNull());
+        support::compareWindowIcon(dialog);
         QCOMPARE(child<QGroupBox>(dialog, "groupRecovery").title(), q("Recovery"));
         auto& sets = child<QRadioButton>(dialog, "radioOrphanedSet");
         QCOMPARE(sets.text(), q("&Recover Orphaned Backup Sets (no orphaned backup sets were found "

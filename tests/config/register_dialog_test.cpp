@@ -4,6 +4,7 @@
 #include "resources/pictures.h"
 #include "simulator/world/world.h"
 #include "tests/config/dialog_steps.h"
+#include "tests/support/gui_form_texts.h"
 
 using namespace steps;
 using simulator::World;
@@ -51,7 +52,7 @@ void RegisterDialogTest::theNumbersAreShown() {
     expectRegister([this](QWidget& dialog) {
         QCOMPARE(dialog.windowTitle(), q("Re-Register"));
         QCOMPARE(dialog.parentWidget(), &test_.driver->window());
-        QVERIFY(!dialog.windowIcon().isNull());
+        support::compareWindowIcon(dialog);
         QCOMPARE(label(dialog, "txtCustomerName"), q("Müller & Söhne GmbH"));
         QCOMPARE(label(dialog, "txtAccountNum"), q("OFFICE-401"));
         QCOMPARE(label(dialog, "txtClientNum"), q("A4C100931700"));

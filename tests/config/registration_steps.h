@@ -8,6 +8,7 @@
 #include <QListWidget>
 
 #include "tests/config/dialog_steps.h"
+#include "tests/support/gui_form_texts.h"
 
 /// What the tests of the registration's dialog do in front of it, and the calls that it makes.
 namespace steps {
@@ -94,7 +95,7 @@ inline void expectCriFile(support::ModalDriver& modals, const QString& path, boo
         QCOMPARE(chooser.windowTitle(), q("Please choose CRI file"));
         QCOMPARE(chooser.nameFilters(), QStringList(q("CRI Files (*.cri)")));
         QVERIFY(chooser.testOption(QFileDialog::DontUseNativeDialog));
-        QVERIFY(!chooser.windowIcon().isNull());
+        support::compareWindowIcon(chooser);
         auto& name = support::child<QLineEdit>(chooser, "fileNameEdit");
         QCOMPARE(name.text(), QString());
         name.setText(path);

@@ -11,6 +11,7 @@
 
 #include "resources/pictures.h"
 #include "tests/gui/delete_wizard_steps.h"
+#include "tests/support/gui_form_texts.h"
 
 using namespace gui;
 using simulator::World;
@@ -84,7 +85,7 @@ void DeleteWizardTest::theWizardIsFramed() {
         auto& wizard = static_cast<QWizard&>(widget);
         QCOMPARE(wizard.parentWidget(), &test_.driver->window());
         QCOMPARE(wizard.windowTitle(), q("Delete from backup set"));
-        QVERIFY(!wizard.windowIcon().isNull());
+        support::compareWindowIcon(wizard);
         QCOMPARE(wizard.pixmap(QWizard::WatermarkPixmap).toImage(),
                  QPixmap(q(":/images/wizard_delete.png")).toImage());
         QCOMPARE(wizard.maximumSize(), QSize(65536, 65536));

@@ -12,6 +12,7 @@
 #include "simulator/world/world.h"
 #include "tests/gui/edit_wizard_calls.h"
 #include "tests/support/cursor_watch.h"
+#include "tests/support/gui_form_texts.h"
 #include "tests/support/gui_wizard.h"
 #include "wizards/retention_task.h"
 
@@ -112,7 +113,7 @@ void EditWizardsTest::aWizardIsFramed() {
         auto& wizard = static_cast<QWizard&>(widget);
         QCOMPARE(wizard.parentWidget(), &test_.driver->window());
         QCOMPARE(wizard.windowTitle(), title);
-        QVERIFY(!wizard.windowIcon().isNull());
+        support::compareWindowIcon(wizard);
         QCOMPARE(wizard.pixmap(QWizard::WatermarkPixmap).toImage(), QPixmap(picture).toImage());
         QCOMPARE(wizard.maximumSize() == QSize(65536, 65536), anySize);
         if (anySize) // it turns to a page, which makes it write the texts anew

@@ -20,6 +20,7 @@
 #include "session/text.h"
 #include "simulator/world/world.h"
 #include "tests/support/gui_agent.h"
+#include "tests/support/gui_form_texts.h"
 #include "tests/support/gui_modal_driver.h"
 #include "tests/support/gui_translation.h"
 #include "tests/support/scripted_security_operations.h"
@@ -92,7 +93,7 @@ private slots:
     void looksAsItShould() {
         LoginCheck dialog;
         QCOMPARE(dialog.windowTitle(), QStringLiteral("Login"));
-        QVERIFY(!dialog.windowIcon().isNull());
+        support::compareWindowIcon(dialog);
         QCOMPARE(dialog.size(), QSize(294, 180));
         QCOMPARE(dialog.minimumHeight(), 180);
         QCOMPARE(dialog.maximumHeight(), 180);

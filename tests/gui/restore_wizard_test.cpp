@@ -18,6 +18,7 @@
 #include "simulator/world/world.h"
 #include "tests/gui/restore_wizard_calls.h"
 #include "tests/gui/restore_wizard_steps.h"
+#include "tests/support/gui_form_texts.h"
 #include "tests/support/gui_wizard.h"
 #include "wizards/enter_simple_user_psw.h"
 #include "wizards/restore_directory_destination.h"
@@ -122,7 +123,7 @@ void RestoreWizardTest::theWizardIsFramed() {
         auto& wizard = static_cast<QWizard&>(widget);
         QCOMPARE(wizard.parentWidget(), &test_.driver->window());
         QCOMPARE(wizard.windowTitle(), q("Restore Data"));
-        QVERIFY(!wizard.windowIcon().isNull());
+        support::compareWindowIcon(wizard);
         QCOMPARE(wizard.pixmap(QWizard::WatermarkPixmap).toImage(),
                  QPixmap(q(":/images/wizard_restore.png")).toImage());
         QCOMPARE(wizard.maximumSize(), QSize(65536, 65536));

@@ -48,6 +48,21 @@ inline void compareIcon(QWidget& form, const char* name, const char* resource) {
     QVERIFY(!button.icon().pixmap(16).isNull());
 }
 
+/// The window shows the icon of the program, and by itself: that of its parent is another here.
+inline void compareWindowIcon(QWidget& window) {
+    const auto picture = [](const QIcon& icon) { return icon.pixmap(64).toImage(); };
+    const QImage expected = picture(QIcon(QStringLiteral(":/icons/tarn_mobile_icon")));
+    QVERIFY(!expected.isNull());
+    QWidget* parent = window.parentWidget();
+    const QIcon before = parent ? parent->windowIcon() : QIcon();
+    if (parent)
+        parent->setWindowIcon(QIcon(QStringLiteral(":/icons/help.png")));
+    const QImage shown = picture(window.windowIcon());
+    if (parent)
+        parent->setWindowIcon(before);
+    QCOMPARE(shown, expected);
+}
+
 /// The label of each field, which its mnemonic leads to.
 inline void compareBuddies(QWidget& form, std::initializer_list<FormText> fields) {
     for (const auto& [label, field] : fields) {
