@@ -12,6 +12,7 @@
 
 #include "api/bind_proxies.h"
 #include "api/remote_object.h"
+#include "base/secret.h"
 #include "hessian/value.h"
 
 namespace hessiancln {
@@ -31,10 +32,13 @@ void readEmptyReply(hessianser::Cursor& in);
 
 template <class Result, hessianser::Value... Arguments>
 Result RemoteObject::call(std::string_view method, const Arguments&... arguments) {
+    // Passwords and keys travel both ways.
     std::string request =
         detail::startRequest(method, (hessianser::sizeOfValue(arguments) + ... + 0u));
+    const base::WipedAtEnd requestGuard(request);
     (hessianser::writeValue(arguments, request), ...);
-    const std::string response = sendFinished(request);
+    std::string response = sendFinished(request);
+    const base::WipedAtEnd responseGuard(response);
 
     hessianser::Cursor in(response);
     detail::readReplyHead(in);

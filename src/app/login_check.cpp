@@ -99,7 +99,7 @@ void LoginCheck::changeEvent(QEvent* event) {
 void LoginCheck::on_chkSSPILogin_clicked(bool checked) {
     ui_->groupLoginInfo->setEnabled(!checked);
     ui_->lineEditUserName->setText(currentUserName());
-    ui_->lineEditPassword->clear();
+    ui_->lineEditPassword->wipe();
     if (comboDomain_)
         comboDomain_->setCurrentIndex(0);
 }
@@ -127,7 +127,7 @@ void LoginCheck::OnLogin() {
             session::connectToAgent(address, "", "", 0);
         else
             session::connectToAgent(address, session::toWire(user()),
-                                    session::toWire(ui_->lineEditPassword->text()), passwordLogin);
+                                    ui_->lineEditPassword->secret().text(), passwordLogin);
         done(loggedIn);
     });
 }

@@ -5,9 +5,8 @@
 #include <QEvent>
 
 #include "api/client_connection.h"
+#include "base/secret.h"
 #include "config/ad_account.h"
-#include "config/wipe.h"
-#include "config/wipe_field.h"
 #include "session/connection.h"
 #include "session/required.h"
 #include "session/text.h"
@@ -34,15 +33,14 @@ void ADAccountDlg::read() {
     ui::remoteAction(*this, tr("LDAP User Validation Error"), ui::Cursor::wait, [this] {
         const auto manager = session::required(session::getConnection()->getConfigurationManager());
         hessiancln::ad_user_info account = manager->getADUserInfo();
-        const config::WipedAtEnd guard(account.password);
+        const base::WipedAtEnd guard(account.password);
         const auto name = config::adAccountNameOf(account.username);
         if (!name)
             return;
         ui_->editDomain->setText(name->domain);
         ui_->editUser->setText(name->user);
-        const QString password = session::fromWire(account.password);
-        config::fill(*ui_->editPassword, password);
-        config::fill(*ui_->editConfirm, password);
+        ui_->editPassword->setSecret(account.password);
+        ui_->editConfirm->setSecret(account.password);
     });
 }
 
@@ -61,8 +59,8 @@ bool ADAccountDlg::send(bool save) {
     return ui::remoteAction(*this, tr("LDAP User Validation Error"), ui::Cursor::wait, [&] {
         const auto manager = session::required(session::getConnection()->getConfigurationManager());
         hessiancln::ad_user_info account{config::adUsernameOf(typed.name),
-                                         config::secretToWire(typed.password), save};
-        const config::WipedAtEnd guard(account.password);
+                                         ui_->editPassword->secret().text(), save};
+        const base::WipedAtEnd guard(account.password);
         manager->setADUserInfo(account);
     });
 }
@@ -93,8 +91,8 @@ void ADAccountDlg::done(int result) {
 }
 
 void ADAccountDlg::forgetPasswords() {
-    config::wipe(*ui_->editConfirm);
-    config::wipe(*ui_->editPassword);
+    ui_->editConfirm->wipe();
+    ui_->editPassword->wipe();
 }
 
 void ADAccountDlg::changeEvent(QEvent* event) {

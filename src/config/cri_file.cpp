@@ -2,17 +2,23 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "config/cri_file.h"
 
+#include <algorithm>
 #include <limits>
+#include <string>
+#include <string_view>
 
 #include <QIODevice>
+#include <QScopeGuard>
 
 #include "api/key_encryption_type.h"
-#include "config/wipe.h"
+#include "session/secret_text.h"
 #include "session/text.h"
 
 namespace config {
 
 namespace {
+
+constexpr auto longestLine = static_cast<std::size_t>(longestCriLine) - 1; // with its end
 
 struct NamedKey {
     QLatin1String name;
@@ -30,20 +36,11 @@ const NamedKey keys[] = {
     {QLatin1String("AccEncKey"), CriKey::accountKey},
 };
 
-/// Reads up to the end of the line that a read has broken off.
-void skipRest(QIODevice& file) {
-    for (bool inLine = true; inLine;) {
-        QByteArray part = file.readLine(longestCriLine);
-        inLine = !part.isEmpty() && !part.endsWith('\n');
-        wipe(part);
-    }
-}
-
-void takeLine(const QByteArray& bytes, const std::function<void(const CriEntry&)>& take) {
-    QString line = session::fromWire({bytes.constData(), static_cast<std::size_t>(bytes.size())});
-    const WipedAtEnd lineGuard(line);
+void takeLine(const std::string& bytes, const std::function<void(const CriEntry&)>& take) {
+    QString line = session::fromWire(bytes);
+    const auto lineGuard = qScopeGuard([&line] { session::wipe(line); });
     if (auto entry = criEntryOf(line)) {
-        const WipedAtEnd valueGuard(entry->value);
+        const auto valueGuard = qScopeGuard([&entry] { session::wipe(entry->value); });
         take(*entry);
     }
 }
@@ -62,21 +59,37 @@ std::optional<CriEntry> criEntryOf(const QString& line) {
 }
 
 void readCri(QIODevice& file, const std::function<void(const CriEntry&)>& take) {
-    for (;;) {
-        QByteArray line = file.readLine(longestCriLine);
-        const WipedAtEnd guard(line);
-        if (line.isEmpty())
-            return;
-        // A read keeps a byte for its own end.
-        const bool brokenOff = !line.endsWith('\n') && line.size() >= longestCriLine - 1;
-        if (brokenOff) {
-            skipRest(file);
-            continue;
+    // Read through memory of our own, which neither grows nor goes without being wiped.
+    std::string block(4096, '\0');
+    const base::WipedAtEnd blockGuard(block);
+    std::string line;
+    line.reserve(longestLine);
+    const base::WipedAtEnd lineGuard(line);
+    bool tooLong = false;
+
+    const auto endLine = [&] {
+        if (!tooLong)
+            takeLine(line, take);
+        base::wipe(line);
+        tooLong = false;
+    };
+    for (qint64 size = 1; size > 0;) {
+        size = file.read(block.data(), static_cast<qint64>(block.size()));
+        std::string_view rest(block.data(), static_cast<std::size_t>(std::max<qint64>(size, 0)));
+        while (!rest.empty()) {
+            const std::string_view part = rest.substr(0, rest.find('\n'));
+            if (line.size() + part.size() < longestLine)
+                line += part;
+            else
+                tooLong = true;
+            rest.remove_prefix(part.size());
+            if (!rest.empty()) {
+                rest.remove_prefix(1);
+                endLine();
+            }
         }
-        if (line.endsWith('\n'))
-            line.chop(1);
-        takeLine(line, take);
     }
+    endLine();
 }
 
 QString keyTypeOfCri(const QString& number) {

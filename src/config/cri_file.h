@@ -35,8 +35,8 @@ inline constexpr qint64 longestCriLine = qint64(64) * 1024;
 /// What a line says; none if it has no "=" or its key is unknown.
 std::optional<CriEntry> criEntryOf(const QString& line);
 
-/// Hands over what the lines say, in their order. `file` is open for reading, as text. What was
-/// read is wiped.
+/// Hands over what the lines say, in their order. `file` is open for reading, as text, and
+/// unbuffered if none of it is to stay in memory: what this function has read is wiped.
 void readCri(QIODevice& file, const std::function<void(const CriEntry&)>& take);
 
 /// The name of the cipher that the number of such a file stands for: one more than on the wire.

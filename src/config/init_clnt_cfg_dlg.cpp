@@ -13,11 +13,10 @@
 #include "config/cri_file.h"
 #include "config/registration_entries.h"
 #include "config/system_address_list.h"
-#include "config/wipe.h"
-#include "config/wipe_field.h"
 #include "session/connection.h"
 #include "session/process_values.h"
 #include "session/required.h"
+#include "session/secret_text.h"
 #include "session/text.h"
 #include "ui/branding_resources.h"
 #include "ui/error_box.h"
@@ -92,8 +91,8 @@ void InitClntCfgDlg::addCodes() {
 void InitClntCfgDlg::read() {
     const auto manager = configuration();
     hessiancln::tarnc_reg_info info = manager->getTarnCRegistrationInfo();
-    const config::WipedAtEnd privateGuard(info.private_key);
-    const config::WipedAtEnd accountGuard(info.account_key);
+    const base::WipedAtEnd privateGuard(info.private_key);
+    const base::WipedAtEnd accountGuard(info.account_key);
     showRegistration(info);
     if (const auto customer = manager->getUserInfoConfiguration())
         showUserInfo(customer->getUserInfo());
@@ -108,11 +107,11 @@ void InitClntCfgDlg::showRegistration(hessiancln::tarnc_reg_info& info) {
     setAddresses(info.tarnsys_ip_addr);
     // The types first, as a change of theirs empties the keys.
     choose(*ui_->cmbPrivateKeyType, nameOf(info.private_key_enc));
-    setPrivateKey(session::fromWire(info.private_key));
+    setPrivateKey(info.private_key);
     ui_->grpPrivateKey->setEnabled(initial_);
     const QString accountType = nameOf(info.account_key_enc);
     choose(*ui_->cmbAccountKeyType, accountType);
-    setAccountKey(session::fromWire(info.account_key));
+    setAccountKey(info.account_key);
     ui_->grpAccountKey->setEnabled(initial_ || info.account_key.empty() ||
                                    accountType == QStringLiteral("NONE"));
     ui_->chkForwardKey->setChecked(info.escrow_enc_key);
@@ -141,7 +140,8 @@ QString InitClntCfgDlg::chooseCriFile() {
 
 void InitClntCfgDlg::on_btnBrowse_clicked() {
     QFile file(chooseCriFile());
-    if (file.fileName().isEmpty() || !file.open(QIODevice::ReadOnly | QIODevice::Text))
+    if (file.fileName().isEmpty() ||
+        !file.open(QIODevice::ReadOnly | QIODevice::Text | QIODevice::Unbuffered))
         return;
     ui::remoteAction(*this, tr("Configuration Error"), ui::Cursor::wait, [this, &file] {
         config::readCri(file, [this](const config::CriEntry& entry) { take(entry); });
@@ -162,11 +162,11 @@ void InitClntCfgDlg::take(const config::CriEntry& entry) {
     case CriKey::privateKeyType:
         return choose(*ui_->cmbPrivateKeyType, config::keyTypeOfCri(entry.value));
     case CriKey::privateKey:
-        return setPrivateKey(entry.value);
+        return setPrivateKey(session::secretToWire(entry.value).text());
     case CriKey::accountKeyType:
         return choose(*ui_->cmbAccountKeyType, config::keyTypeOfCri(entry.value));
     case CriKey::accountKey:
-        return setAccountKey(entry.value);
+        return setAccountKey(session::secretToWire(entry.value).text());
     }
 }
 
@@ -182,14 +182,14 @@ void InitClntCfgDlg::setAddresses(const std::string& text) {
     ui_->listBoxAddress->addItems(config::systemAddressesOf(text));
 }
 
-void InitClntCfgDlg::setPrivateKey(const QString& key) {
-    config::fill(*ui_->txtFieldPrivateKey, key);
-    config::fill(*ui_->txtFieldPrivateKeyConfirm, key);
+void InitClntCfgDlg::setPrivateKey(const std::string& key) {
+    ui_->txtFieldPrivateKey->setSecret(key);
+    ui_->txtFieldPrivateKeyConfirm->setSecret(key);
 }
 
-void InitClntCfgDlg::setAccountKey(const QString& key) {
-    config::fill(*ui_->txtFieldAccountKey, key);
-    config::fill(*ui_->txtFieldAccountKeyConfirm, key);
+void InitClntCfgDlg::setAccountKey(const std::string& key) {
+    ui_->txtFieldAccountKey->setSecret(key);
+    ui_->txtFieldAccountKeyConfirm->setSecret(key);
 }
 
 void InitClntCfgDlg::on_btnAdd_clicked() {
@@ -214,13 +214,13 @@ void InitClntCfgDlg::on_btnRemove_clicked() {
 }
 
 void InitClntCfgDlg::on_cmbPrivateKeyType_currentIndexChanged(int) {
-    config::wipe(*ui_->txtFieldPrivateKeyConfirm);
-    config::wipe(*ui_->txtFieldPrivateKey);
+    ui_->txtFieldPrivateKeyConfirm->wipe();
+    ui_->txtFieldPrivateKey->wipe();
 }
 
 void InitClntCfgDlg::on_cmbAccountKeyType_currentIndexChanged(int) {
-    config::wipe(*ui_->txtFieldAccountKeyConfirm);
-    config::wipe(*ui_->txtFieldAccountKey);
+    ui_->txtFieldAccountKeyConfirm->wipe();
+    ui_->txtFieldAccountKey->wipe();
 }
 
 config::RegistrationEntries InitClntCfgDlg::entries() const {
@@ -247,8 +247,8 @@ hessiancln::tarnc_reg_info InitClntCfgDlg::registration() const {
     info.client_num = session::toWire(ui_->txtFieldClientNum->text());
     info.private_key_enc = chosenType(*ui_->cmbPrivateKeyType);
     info.account_key_enc = chosenType(*ui_->cmbAccountKeyType);
-    info.private_key = config::secretToWire(ui_->txtFieldPrivateKey->text());
-    info.account_key = config::secretToWire(ui_->txtFieldAccountKey->text());
+    info.private_key = ui_->txtFieldPrivateKey->secret().text();
+    info.account_key = ui_->txtFieldAccountKey->secret().text();
     info.tarnsys_ip_addr = config::systemAddressesText(addresses());
     info.escrow_enc_key = ui_->chkForwardKey->isChecked();
     return info;
@@ -265,8 +265,8 @@ void InitClntCfgDlg::write() {
         field->setText(field->text().trimmed().toUpper());
     const auto manager = configuration();
     hessiancln::tarnc_reg_info info = registration();
-    const config::WipedAtEnd privateGuard(info.private_key);
-    const config::WipedAtEnd accountGuard(info.account_key);
+    const base::WipedAtEnd privateGuard(info.private_key);
+    const base::WipedAtEnd accountGuard(info.account_key);
     manager->setTarnCRegistrationInfo(info);
     if (ui_->grpUserInfo->isEnabled())
         if (const auto customer = manager->getUserInfoConfiguration())
@@ -301,10 +301,9 @@ void InitClntCfgDlg::done(int result) {
 }
 
 void InitClntCfgDlg::forgetKeys() {
-    // The copies first: the last one that goes is overwritten.
-    for (QLineEdit* field : {ui_->txtFieldPrivateKeyConfirm, ui_->txtFieldPrivateKey,
-                             ui_->txtFieldAccountKeyConfirm, ui_->txtFieldAccountKey})
-        config::wipe(*field);
+    for (ui::SecretField* field : {ui_->txtFieldPrivateKeyConfirm, ui_->txtFieldPrivateKey,
+                                   ui_->txtFieldAccountKeyConfirm, ui_->txtFieldAccountKey})
+        field->wipe();
 }
 
 void InitClntCfgDlg::changeEvent(QEvent* event) {

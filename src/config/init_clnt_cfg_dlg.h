@@ -61,8 +61,8 @@ private:
 
     QStringList addresses() const;
     void setAddresses(const std::string& text);
-    void setPrivateKey(const QString& key);
-    void setAccountKey(const QString& key);
+    void setPrivateKey(const std::string& key);
+    void setAccountKey(const std::string& key);
     void forgetKeys();
 
     config::RegistrationEntries entries() const;

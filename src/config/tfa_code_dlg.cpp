@@ -38,9 +38,10 @@ void TFACodeDlg::on_btnResend_clicked() {
 }
 
 void TFACodeDlg::on_btnValidate_clicked() {
-    const std::string code = session::toWire(ui_->editCode->text());
+    const base::Secret code = ui_->editCode->secret();
     const bool valid = ui::remoteAction(*this, tr("Error"), ui::Cursor::wait, [&] {
-        session::required(session::getConnection()->getTFAManager())->validateCode(code, purpose_);
+        session::required(session::getConnection()->getTFAManager())
+            ->validateCode(code.text(), purpose_);
     });
     if (valid)
         accept();

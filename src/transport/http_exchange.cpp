@@ -3,13 +3,16 @@
 #include "transport/http_exchange.h"
 
 #include <optional>
+#include <sstream>
 #include <utility>
 
 #include <boost/asio/ssl/error.hpp>
 #include <boost/beast/core/flat_buffer.hpp>
+#include <boost/beast/http/empty_body.hpp>
 #include <boost/beast/http/read.hpp>
 #include <boost/beast/http/write.hpp>
 
+#include "base/secret.h"
 #include "transport/invoke_exception.h"
 #include "transport/plain_file_logger.h"
 
@@ -38,6 +41,18 @@ std::string reasonAsSent(const http::fields& fields) {
         static auto reason() { return &Opened::get_reason_impl; }
     };
     return std::string((fields.*Opened::reason())());
+}
+
+std::string requestHead(const std::string& host, std::uint32_t port, const std::string& path,
+                        std::size_t bodySize) {
+    http::request<http::empty_body> request(http::verb::post, path, 11);
+    request.set(http::field::host, host + ":" + std::to_string(port));
+    request.set(http::field::user_agent, "NorvelHessianCln/1.0");
+    request.content_length(bodySize);
+    std::ostringstream head;
+    head.exceptions(std::ios::badbit); // what it has no memory for would be left out in silence
+    head << request.base();
+    return head.str();
 }
 
 } // namespace
@@ -71,10 +86,12 @@ void HttpExchange::connect(const std::string& host, std::uint32_t port) {
 
 std::string HttpExchange::post(const std::string& host, std::uint32_t port, const std::string& path,
                                const std::string& body) {
-    Request request(http::verb::post, path, 11, body);
-    request.set(http::field::host, host + ":" + std::to_string(port));
-    request.set(http::field::user_agent, "NorvelHessianCln/1.0");
-    request.prepare_payload();
+    // All of it in one buffer: the body may hold a password, and TLS would put several buffers
+    // together on the stack.
+    std::string request = requestHead(host, port, path, body.size());
+    request.reserve(request.size() + body.size());
+    request += body;
+    const base::WipedAtEnd guard(request);
 
     ResponseParser parser;
     parser.body_limit(limits_.largestContent);
@@ -93,10 +110,10 @@ std::string HttpExchange::post(const std::string& host, std::uint32_t port, cons
 }
 
 template <class Stream>
-void HttpExchange::exchange(Stream& stream, const Request& request, ResponseParser& parser) {
+void HttpExchange::exchange(Stream& stream, const std::string& request, ResponseParser& parser) {
     // A server may refuse a request before it has read the whole of it, so a failed write doesn't
     // yet mean that there is no answer.
-    const ErrorCode sent = send(stream, request);
+    const ErrorCode sent = send(request);
     const ErrorCode received = receive(stream, parser);
     if (received && sent)
         throw failure("Failed to send the HTTP request", sent);
@@ -104,15 +121,14 @@ void HttpExchange::exchange(Stream& stream, const Request& request, ResponsePars
         throw failure("Failed to receive the HTTP response", received);
 }
 
-template <class Stream>
-ErrorCode HttpExchange::send(Stream& stream, const Request& request) {
+ErrorCode HttpExchange::send(const std::string& request) {
     std::size_t sent = 0;
     const ErrorCode error = await([&](auto completion) {
-        http::async_write(stream, request,
-                          [&sent, completion](const ErrorCode& result, std::size_t size) {
-                              sent = size;
-                              completion(result);
-                          });
+        connection_.asyncWrite(asio::buffer(request),
+                               [&sent, completion](const ErrorCode& result, std::size_t size) {
+                                   sent = size;
+                                   completion(result);
+                               });
     });
     auto& logger = pion::PlainFileLogger::instance();
     if (logger.admits(pion::PlainFileLogger::debug)) {

@@ -35,13 +35,11 @@ public:
                      const std::string& body);
 
 private:
-    using Request = boost::beast::http::request<boost::beast::http::string_body>;
     using ResponseParser = boost::beast::http::response_parser<boost::beast::http::string_body>;
 
     template <class Stream>
-    void exchange(Stream& stream, const Request& request, ResponseParser& parser);
-    template <class Stream>
-    ErrorCode send(Stream& stream, const Request& request);
+    void exchange(Stream& stream, const std::string& request, ResponseParser& parser);
+    ErrorCode send(const std::string& request);
     template <class Stream>
     ErrorCode receive(Stream& stream, ResponseParser& parser);
 

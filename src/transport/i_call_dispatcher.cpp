@@ -11,6 +11,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/secret.h"
 #include "transport/call_failure.h"
 
 namespace hessiancln {
@@ -24,7 +25,7 @@ constexpr std::size_t pendingLimit = 16;
 
 struct PendingCall {
     std::string url;
-    std::string request;
+    base::Secret request;
     ICallDispatcher::Handler onSuccess;
     ICallDispatcher::Handler onFailure;
 };
@@ -97,7 +98,8 @@ std::optional<PendingCall> ICallDispatcher::WorkerPool::take() {
 
 void ICallDispatcher::WorkerPool::carryOut(const PendingCall& call) {
     try {
-        call.onSuccess(dispatcher_.sendRequest(call.url, call.request));
+        const base::Secret reply(dispatcher_.sendRequest(call.url, call.request.text()));
+        call.onSuccess(reply.text());
     } catch (const std::exception& failure) {
         call.onFailure(failure.what());
     }
@@ -133,7 +135,9 @@ void ICallDispatcher::stopWorkers() {
 
 void ICallDispatcher::asyncSendRequest(const std::string& url, const std::string& request,
                                        Handler onSuccess, Handler onFailure) {
-    asCall([&] { pool_->queue({url, request, std::move(onSuccess), std::move(onFailure)}); });
+    asCall([&] {
+        pool_->queue({url, base::Secret(request), std::move(onSuccess), std::move(onFailure)});
+    });
 }
 
 void ICallDispatcher::stopConnections() {}

@@ -162,7 +162,7 @@ CSingleStreamDispatcherConnection::newCall(const std::string& url, const std::st
     Calls call;
     call.push_back(std::make_unique<Call>());
     call.front()->url = url;
-    call.front()->request = request;
+    call.front()->request = base::Secret(request);
     return call;
 }
 

@@ -19,6 +19,7 @@
 #include <boost/enable_shared_from_this.hpp>
 #include <boost/shared_ptr.hpp>
 
+#include "base/secret.h"
 #include "transport/call_failure.h"
 #include "transport/connection_key.h"
 #include "transport/frame.h"
@@ -74,7 +75,7 @@ public:
 private:
     struct Call {
         std::string url;
-        std::string request;
+        base::Secret request;
         std::function<void(std::string&)> succeed; ///< may take the reply out of its argument
         Handler fail;
         bool asynchronous = false;
@@ -100,7 +101,7 @@ private:
     CallPtr takeSubmitted();
     void enqueue(CallPtr& call);
     void enqueueAsyncSendRequest(CallPtr& call);
-    std::string prepareRequest(const Call& call);
+    base::Secret prepareRequest(const Call& call);
     void startWriting(bool writeCompleted);
     void readResponseHeader();
     void readResponseHeaderComplete(const ErrorCode& error);
@@ -129,7 +130,7 @@ private:
     std::mutex writeMutex_; ///< guards the next two; may be taken with the state mutex held
     std::condition_variable writeCondition_;
     std::size_t writeCount_ = 0; ///< calls not yet written, in the queue or on their way into it
-    std::list<std::string> writeQueue_;
+    std::list<base::Secret> writeQueue_;
 
     // Only the connection's own thread touches what follows.
     std::uint32_t nextRequestId_;

@@ -82,7 +82,7 @@ void CSingleStreamDispatcherConnection::enqueueAsyncSendRequest(CallPtr& call) {
 
 void CSingleStreamDispatcherConnection::enqueue(CallPtr& call) {
     // Nothing asks for memory between the two places where the call becomes known.
-    std::list<std::string> frame;
+    std::list<base::Secret> frame;
     frame.push_back(prepareRequest(*call));
     waiting_[nextRequestId_] = std::move(call);
     bool idle = false;
@@ -95,10 +95,10 @@ void CSingleStreamDispatcherConnection::enqueue(CallPtr& call) {
         startWriting(false);
 }
 
-std::string CSingleStreamDispatcherConnection::prepareRequest(const Call& call) {
+base::Secret CSingleStreamDispatcherConnection::prepareRequest(const Call& call) {
     trace_.step("CSingleStreamDispatcherConnection::prepareRequest ENTER");
     ++nextRequestId_;
-    std::string frame = requestFrame(nextRequestId_, call.url, call.request);
+    base::Secret frame(requestFrame(nextRequestId_, call.url, call.request.text()));
     trace_.step("CSingleStreamDispatcherConnection::prepareRequest LEAVE");
     return frame;
 }
@@ -107,7 +107,7 @@ void CSingleStreamDispatcherConnection::startWriting(bool writeCompleted) {
     trace_.step("CSingleStreamDispatcherConnection::startWriting ENTER");
     if (writeCompleted)
         forgetUnwritten();
-    const std::string* frame = nullptr;
+    const base::Secret* frame = nullptr;
     {
         const std::lock_guard lock(writeMutex_);
         if (writeCompleted)
@@ -116,13 +116,14 @@ void CSingleStreamDispatcherConnection::startWriting(bool writeCompleted) {
             frame = &writeQueue_.front();
     }
     if (frame) {
-        connection_->asyncWrite(asio::buffer(*frame), [this](const ErrorCode& error, std::size_t) {
-            guarded([&] {
-                if (error)
-                    connection_->shutDown(); // the read that is under way ends the stream
-                startWriting(true);
+        connection_->asyncWrite(
+            asio::buffer(frame->text()), [this](const ErrorCode& error, std::size_t) {
+                guarded([&] {
+                    if (error)
+                        connection_->shutDown(); // the read that is under way ends the stream
+                    startWriting(true);
+                });
             });
-        });
     }
     trace_.step("CSingleStreamDispatcherConnection::startWriting LEAVE");
 }
@@ -190,6 +191,7 @@ void CSingleStreamDispatcherConnection::takeReply() {
         found->second->succeed(data_);
         waiting_.erase(found);
     }
+    base::wipe(data_); // unless a caller has taken it
     readResponseHeader();
 }
 

@@ -21,7 +21,7 @@ std::string describe(const ErrorCode& error) {
 
 asio::ssl::context makeTlsContext() {
     asio::ssl::context context(asio::ssl::context::sslv23);
-    context.set_options(asio::ssl::context::no_compression);
+    context.set_options(asio::ssl::context::no_compression | SSL_OP_CLEANSE_PLAINTEXT);
     return context;
 }
 

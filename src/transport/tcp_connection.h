@@ -20,7 +20,8 @@ namespace hessiancln {
 
 using ErrorCode = boost::system::error_code;
 
-/// A context that negotiates the version, compresses nothing and verifies nobody.
+/// A context that negotiates the version, compresses nothing, verifies nobody, and wipes what it
+/// has decrypted once that was read.
 boost::asio::ssl::context makeTlsContext();
 
 /// One TCP connection, plain or with TLS. Runs on one thread.

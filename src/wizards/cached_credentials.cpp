@@ -12,40 +12,40 @@ using Windows = hessiancln::Win32FS_Generic_BackupSetCredentials;
 using Unix = hessiancln::UnixFS_Generic_BackupSetCredentials;
 using SSH = hessiancln::UnixFS_SSH_BackupSetCredentials;
 
-void CachedCredentials::remember(const std::string& newUser, const std::string& newPassword) {
+void CachedCredentials::remember(const std::string& newUser, const base::Secret& newPassword) {
     hasPassword = true;
     user = newUser;
     password = newPassword;
     hasKeyFile = false;
 }
 
-void CachedCredentials::setPassword(const std::string& newUser, const std::string& newPassword,
+void CachedCredentials::setPassword(const std::string& newUser, const base::Secret& newPassword,
                                     Windows& credentials) {
     remember(newUser, newPassword);
-    credentials.setCredentials(user, password);
+    credentials.setCredentials(user, password.text());
 }
 
-void CachedCredentials::setPassword(const std::string& newUser, const std::string& newPassword,
+void CachedCredentials::setPassword(const std::string& newUser, const base::Secret& newPassword,
                                     Unix& credentials) {
     remember(newUser, newPassword);
-    credentials.setCredentials(user, password);
+    credentials.setCredentials(user, password.text());
 }
 
 void CachedCredentials::setKeyFile(const std::string& newUser, const std::string& file,
-                                   const std::string& newPassphrase, SSH& credentials) {
+                                   const base::Secret& newPassphrase, SSH& credentials) {
     hasKeyFile = true;
     keyUser = newUser;
     keyFile = file;
     passphrase = newPassphrase;
-    credentials.setCredentialsViaKeyFile(keyUser, keyFile, passphrase);
+    credentials.setCredentialsViaKeyFile(keyUser, keyFile, passphrase.text());
 }
 
-void CachedCredentials::setSudo(const std::string& newUser, const std::string& newPassword,
+void CachedCredentials::setSudo(const std::string& newUser, const base::Secret& newPassword,
                                 SSH& credentials) {
     hasSudo = true;
     sudoUser = newUser;
     sudoPassword = newPassword;
-    credentials.setSudoAs(sudoUser, sudoPassword);
+    credentials.setSudoAs(sudoUser, sudoPassword.text());
 }
 
 void CachedCredentials::setSSHAccess(hessiancln::SSHAccessType type,
@@ -63,14 +63,14 @@ void CachedCredentials::applyTo(
     switch (credentialsKind(credentials->types())) {
     case CredentialsKind::Windows:
         if (hasPassword)
-            checkedCast<Windows>(credentials)->setCredentials(user, password);
+            checkedCast<Windows>(credentials)->setCredentials(user, password.text());
         break;
     case CredentialsKind::SSH:
         applyToSSH(*checkedCast<SSH>(credentials));
         break;
     case CredentialsKind::Unix:
         if (hasPassword)
-            checkedCast<Unix>(credentials)->setCredentials(user, password);
+            checkedCast<Unix>(credentials)->setCredentials(user, password.text());
         break;
     case CredentialsKind::Other:
         break;
@@ -79,11 +79,11 @@ void CachedCredentials::applyTo(
 
 void CachedCredentials::applyToSSH(SSH& credentials) const {
     if (hasKeyFile)
-        credentials.setCredentialsViaKeyFile(keyUser, keyFile, passphrase);
+        credentials.setCredentialsViaKeyFile(keyUser, keyFile, passphrase.text());
     else if (hasPassword)
-        credentials.setCredentials(user, password);
+        credentials.setCredentials(user, password.text());
     if (hasSudo)
-        credentials.setSudoAs(sudoUser, sudoPassword);
+        credentials.setSudoAs(sudoUser, sudoPassword.text());
     if (hasSSHAccess)
         credentials.setSSHAccessType(sshAccessType, sshInterpreterPath);
 }

@@ -5,22 +5,23 @@
 #include <string>
 
 #include "api/backup_set_credentials.h"
+#include "base/secret.h"
 
 namespace wizards {
 
 /// The credentials that the user has typed in a wizard, passwords included: an agent doesn't give
-/// them back. Text is UTF-8. A setter remembers its values and sends them at once, so that they
-/// are remembered even if sending raises an exception.
+/// them back. Text is UTF-8. Secrets are wiped when they go. A setter remembers its values and
+/// sends them at once, so that they are remembered even if sending raises an exception.
 class CachedCredentials {
 public:
-    void setPassword(const std::string& newUser, const std::string& newPassword,
+    void setPassword(const std::string& newUser, const base::Secret& newPassword,
                      hessiancln::Win32FS_Generic_BackupSetCredentials& credentials);
-    void setPassword(const std::string& newUser, const std::string& newPassword,
+    void setPassword(const std::string& newUser, const base::Secret& newPassword,
                      hessiancln::UnixFS_Generic_BackupSetCredentials& credentials);
     void setKeyFile(const std::string& newUser, const std::string& file,
-                    const std::string& newPassphrase,
+                    const base::Secret& newPassphrase,
                     hessiancln::UnixFS_SSH_BackupSetCredentials& credentials);
-    void setSudo(const std::string& newUser, const std::string& newPassword,
+    void setSudo(const std::string& newUser, const base::Secret& newPassword,
                  hessiancln::UnixFS_SSH_BackupSetCredentials& credentials);
     void setSSHAccess(hessiancln::SSHAccessType type, const std::string& interpreterPath,
                       hessiancln::UnixFS_SSH_BackupSetCredentials& credentials);
@@ -30,19 +31,19 @@ public:
     void applyTo(const boost::shared_ptr<hessiancln::BackupSetCredentials>& credentials) const;
 
 private:
-    void remember(const std::string& newUser, const std::string& newPassword);
+    void remember(const std::string& newUser, const base::Secret& newPassword);
     void applyToSSH(hessiancln::UnixFS_SSH_BackupSetCredentials& credentials) const;
 
     bool hasPassword = false;
     std::string user;
-    std::string password;
+    base::Secret password;
     bool hasKeyFile = false;
     std::string keyUser;
     std::string keyFile;
-    std::string passphrase;
+    base::Secret passphrase;
     bool hasSudo = false;
     std::string sudoUser;
-    std::string sudoPassword;
+    base::Secret sudoPassword;
     bool hasSSHAccess = false;
     hessiancln::SSHAccessType sshAccessType =
         hessianser::reservedValue<hessiancln::SSHAccessType>();

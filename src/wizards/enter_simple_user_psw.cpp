@@ -4,7 +4,6 @@
 
 #include <QEvent>
 
-#include "config/wipe_field.h"
 #include "ui_enter_simple_user_psw.h"
 #include "wizards/user_name_validator.h"
 
@@ -23,16 +22,14 @@ CEnterSimpleUserPsw::CEnterSimpleUserPsw(const QString& user, QWidget* parent)
     connect(ui_->btnCancel, &QPushButton::clicked, this, &CEnterSimpleUserPsw::reject);
 }
 
-CEnterSimpleUserPsw::~CEnterSimpleUserPsw() {
-    config::wipe(*ui_->editPassword);
-}
+CEnterSimpleUserPsw::~CEnterSimpleUserPsw() = default;
 
 QString CEnterSimpleUserPsw::user() const {
     return ui_->editUserName->text();
 }
 
-QString CEnterSimpleUserPsw::password() const {
-    return ui_->editPassword->text();
+base::Secret CEnterSimpleUserPsw::password() const {
+    return ui_->editPassword->secret();
 }
 
 void CEnterSimpleUserPsw::PasswordChanged() {

@@ -6,6 +6,8 @@
 
 #include <QDialog>
 
+#include "base/secret.h"
+
 namespace Ui {
 class CEnterSimpleUserPsw;
 }
@@ -19,7 +21,7 @@ public:
     ~CEnterSimpleUserPsw() override;
 
     QString user() const;
-    QString password() const;
+    base::Secret password() const;
 
 public slots:
     void PasswordChanged();

@@ -354,7 +354,7 @@ void SelectDataSourcePage::askForPassword(const Credentials& credentials) {
     CEnterSimpleUserPsw dialog(fromWire(login->getUserName()), window());
     if (dialog.exec() != QDialog::Accepted)
         return;
-    cache_.setPassword(toWire(dialog.user()), toWire(dialog.password()), *login);
+    cache_.setPassword(toWire(dialog.user()), dialog.password(), *login);
     browser_->setCurrentCredentials(credentials);
     ui_->editConnectAs->setText(dialog.user());
 }
@@ -365,10 +365,10 @@ void SelectDataSourcePage::askForSSHLogin(const Credentials& credentials) {
     if (dialog.exec() != QDialog::Accepted)
         return;
     if (dialog.usesPassword())
-        cache_.setPassword(toWire(dialog.user()), toWire(dialog.password()), *login);
+        cache_.setPassword(toWire(dialog.user()), dialog.password(), *login);
     else
         cache_.setKeyFile(toWire(dialog.identityUser()), toWire(dialog.identityFile()),
-                          toWire(dialog.passphrase()), *login);
+                          dialog.passphrase(), *login);
     browser_->setCurrentCredentials(credentials);
     showSSHLogin(*login);
 }
@@ -382,7 +382,7 @@ void SelectDataSourcePage::OnSelectSudo() {
         if (dialog.noSudo())
             cache_.setSudo({}, {}, *login);
         else
-            cache_.setSudo(toWire(dialog.user()), toWire(dialog.password()), *login);
+            cache_.setSudo(toWire(dialog.user()), dialog.password(), *login);
         refresh();
     });
 }

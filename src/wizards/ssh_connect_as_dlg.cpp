@@ -4,7 +4,6 @@
 
 #include <QEvent>
 
-#include "config/wipe_field.h"
 #include "ui_ssh_connect_as_dlg.h"
 
 CSSHConnectAsDlg::CSSHConnectAsDlg(const QString& user, QWidget* parent)
@@ -28,10 +27,7 @@ CSSHConnectAsDlg::CSSHConnectAsDlg(const QString& user, QWidget* parent)
     UpdateFieldVisibility();
 }
 
-CSSHConnectAsDlg::~CSSHConnectAsDlg() {
-    config::wipe(*ui_->editPassPhrase);
-    config::wipe(*ui_->editPassword);
-}
+CSSHConnectAsDlg::~CSSHConnectAsDlg() = default;
 
 void CSSHConnectAsDlg::mirrorFields() {
     const auto mirror = [this](QLineEdit* one, QLineEdit* other) {
@@ -39,7 +35,13 @@ void CSSHConnectAsDlg::mirrorFields() {
         connect(other, &QLineEdit::textEdited, one, &QLineEdit::setText);
     };
     mirror(ui_->editUserName, ui_->editIdentityUser);
-    mirror(ui_->editPassword, ui_->editPassPhrase);
+    // No text is shared between the two, as each wipes only what is its own.
+    const auto mirrorSecret = [](ui::SecretField* one, ui::SecretField* other) {
+        connect(one, &QLineEdit::textEdited, other,
+                [one, other] { other->setSecret(one->secret().text()); });
+    };
+    mirrorSecret(ui_->editPassword, ui_->editPassPhrase);
+    mirrorSecret(ui_->editPassPhrase, ui_->editPassword);
 }
 
 bool CSSHConnectAsDlg::usesPassword() const {
@@ -50,8 +52,8 @@ QString CSSHConnectAsDlg::user() const {
     return ui_->editUserName->text();
 }
 
-QString CSSHConnectAsDlg::password() const {
-    return ui_->editPassword->text();
+base::Secret CSSHConnectAsDlg::password() const {
+    return ui_->editPassword->secret();
 }
 
 QString CSSHConnectAsDlg::identityUser() const {
@@ -62,8 +64,8 @@ QString CSSHConnectAsDlg::identityFile() const {
     return ui_->editIdentity->text();
 }
 
-QString CSSHConnectAsDlg::passphrase() const {
-    return ui_->editPassPhrase->text();
+base::Secret CSSHConnectAsDlg::passphrase() const {
+    return ui_->editPassPhrase->secret();
 }
 
 void CSSHConnectAsDlg::UpdateFieldVisibility() {

@@ -6,6 +6,8 @@
 
 #include <QDialog>
 
+#include "base/secret.h"
+
 namespace Ui {
 class CSSHConnectAsDlg;
 }
@@ -22,11 +24,11 @@ public:
     /// With a password, not with an identity file.
     bool usesPassword() const;
     QString user() const;
-    QString password() const;
+    base::Secret password() const;
     QString identityUser() const;
     /// The path of the identity file on the agent's computer.
     QString identityFile() const;
-    QString passphrase() const;
+    base::Secret passphrase() const;
 
 public slots:
     void UpdateFieldVisibility();

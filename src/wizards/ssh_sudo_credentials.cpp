@@ -4,7 +4,6 @@
 
 #include <QEvent>
 
-#include "config/wipe_field.h"
 #include "ui_ssh_sudo_credentials.h"
 
 CSSHSudoCredentials::CSSHSudoCredentials(const QString& user, QWidget* parent)
@@ -21,16 +20,14 @@ CSSHSudoCredentials::CSSHSudoCredentials(const QString& user, QWidget* parent)
     connect(ui_->btnNoSudo, &QPushButton::clicked, this, &CSSHSudoCredentials::NoSuDoClicked);
 }
 
-CSSHSudoCredentials::~CSSHSudoCredentials() {
-    config::wipe(*ui_->editPassword);
-}
+CSSHSudoCredentials::~CSSHSudoCredentials() = default;
 
 QString CSSHSudoCredentials::user() const {
     return ui_->editUserName->text();
 }
 
-QString CSSHSudoCredentials::password() const {
-    return ui_->editPassword->text();
+base::Secret CSSHSudoCredentials::password() const {
+    return ui_->editPassword->secret();
 }
 
 void CSSHSudoCredentials::PasswordEdited() {

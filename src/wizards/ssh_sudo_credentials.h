@@ -6,6 +6,8 @@
 
 #include <QDialog>
 
+#include "base/secret.h"
+
 namespace Ui {
 class CSSHSudoCredentials;
 }
@@ -21,7 +23,7 @@ public:
     /// The dialog was accepted with nobody to become; the fields don't count then.
     bool noSudo() const { return noSudo_; }
     QString user() const;
-    QString password() const;
+    base::Secret password() const;
 
 public slots:
     void PasswordEdited();

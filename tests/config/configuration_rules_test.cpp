@@ -8,7 +8,6 @@
 #include "config/admin_times.h"
 #include "config/chosen_file.h"
 #include "config/system_address_list.h"
-#include "config/wipe.h"
 
 using hessiancln::DayOfWeekCode;
 using hessiancln::time_in_day;
@@ -145,36 +144,4 @@ TEST(ChosenFile, EndsInItsSuffixInAnyCase) {
     EXPECT_EQ(first({q("/a/users.txt"), upper, lower}), upper);
     EXPECT_EQ(first({}), QString());
     EXPECT_EQ(first({q("/a.csv/users"), q("/a/users.csv.bak"), q("csv")}), QString());
-}
-
-TEST(Wipe, OverwritesBeforeItLetsGo) {
-    std::string text = "a key that is longer than what a string keeps inside of it";
-    const char* const memory = text.data();
-    const std::size_t size = text.size();
-    config::wipe(text);
-    EXPECT_TRUE(text.empty());
-    ASSERT_EQ(text.data(), memory);
-    EXPECT_EQ(std::string(memory, size), std::string(size, '\0'));
-}
-
-TEST(Wipe, LeavesWhatIsSharedToTheOthers) {
-    QString text = q("key");
-    const QString other = text;
-    config::wipe(text);
-    EXPECT_TRUE(text.isEmpty());
-    EXPECT_EQ(other, q("key"));
-    QString constant = QStringLiteral("key");
-    config::wipe(constant);
-    EXPECT_TRUE(constant.isEmpty());
-    QByteArray bytes("key");
-    const QByteArray same = bytes;
-    config::wipe(bytes);
-    EXPECT_TRUE(bytes.isEmpty());
-    EXPECT_EQ(same, QByteArray("key"));
-}
-
-TEST(SecretToWire, IsUtf8) {
-    EXPECT_EQ(config::secretToWire(q(" Schlüssel ")), " Schl\xC3\xBCssel ");
-    EXPECT_EQ(config::secretToWire(QString()), "");
-    EXPECT_EQ(config::secretToWire(QString(2, QChar())), std::string(2, '\0'));
 }

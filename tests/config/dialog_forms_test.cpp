@@ -9,11 +9,10 @@
 #include "config/ad_account_dlg.h"
 #include "config/recovery_dlg.h"
 #include "config/register_dlg.h"
-#include "config/wipe_field.h"
-#include "tests/config/memory_scan.h"
 #include "tests/config/registration_fixture.h"
 #include "tests/support/gui_form_texts.h"
 #include "tests/support/gui_told_text.h"
+#include "ui/secret_field.h"
 
 using namespace steps;
 using simulator::World;
@@ -28,12 +27,6 @@ namespace {
 
 QStringList words(const char* text) {
     return q(text).split(QLatin1Char(';'));
-}
-
-/// A key that ends in the secret. Memory that is given back is used again from its beginning, and
-/// the sooner the smaller it is.
-std::string longKey(const std::string& secret) {
-    return std::string(4000, '.') + secret;
 }
 
 /// Keeps what is written to the log while it lives.
@@ -77,10 +70,6 @@ private slots:
     void keysAreNeverTold();
     void passwordsAreNeverTold();
     void fieldsAreFilledAndWipedWithoutAWord();
-    void keysLeaveTheMemory_data();
-    void keysLeaveTheMemory();
-    void keysOfAFileLeaveTheMemory();
-    void keysThatWereReadInVainLeaveTheMemory();
 
 private:
     /// Opens the dialog that the slot leads to, has a look, and closes it.
@@ -386,85 +375,20 @@ void DialogFormsTest::fieldsAreFilledAndWipedWithoutAWord() {
     // Nobody listens in a test, but whoever did would have been replaced meanwhile.
     const QAccessible::UpdateHandler telling = [](QAccessibleEvent*) {};
     QAccessible::installUpdateHandler(telling);
-    QLineEdit field;
+    ui::SecretField field;
     QVector<QAccessible::UpdateHandler> heard;
     connect(&field, &QLineEdit::textChanged, this, [&heard] {
         heard << QAccessible::installUpdateHandler(nullptr);
         QAccessible::installUpdateHandler(heard.last());
     });
-    config::fill(field, q("a key"));
+    field.setSecret("a key");
     QCOMPARE(field.text(), q("a key"));
-    config::wipe(field);
+    field.wipe();
     QCOMPARE(field.text(), QString());
     QCOMPARE(heard.size(), 2);
     for (const auto handler : qAsConst(heard))
         QVERIFY(handler && handler != telling);
     QVERIFY(QAccessible::installUpdateHandler(nullptr) == telling);
-}
-
-void DialogFormsTest::keysLeaveTheMemory_data() {
-    QTest::addColumn<QString>("slot");
-    QTest::addColumn<QString>("end");
-    const QString registration = q("on_actionRegistration_Info_triggered");
-    QTest::newRow("registration, cancelled") << registration << q("btnCancel");
-    QTest::newRow("registration, saved") << registration << q("btnSave");
-    QTest::newRow("registration, with another key from a file") << registration << q("a.cri");
-    QTest::newRow("account") << q("on_actionLDAP_Account_triggered") << q("btnCancel");
-    QTest::newRow("account, sent") << q("on_actionLDAP_Account_triggered") << q("btnValidate");
-}
-
-void DialogFormsTest::keysLeaveTheMemory() {
-    if (!memory_scan::isPossible())
-        QSKIP("the memory of the process can't be read");
-    QFETCH(QString, slot);
-    QFETCH(QString, end);
-    const std::string secret = memory_scan::randomSecret();
-    change([&secret](World& world) {
-        world.registration.private_key = longKey(secret);
-        world.configuration.directoryAccount.password = longKey(secret);
-    });
-    modals().expect(slot, isDialog<QDialog>, [&](QWidget& dialog) {
-        const bool account = qobject_cast<ADAccountDlg*>(&dialog) != nullptr;
-        auto& field = child<QLineEdit>(dialog, account ? "editPassword" : "txtFieldPrivateKey");
-        QTRY_VERIFY(!field.text().isEmpty());
-        QVERIFY(memory_scan::holds(secret));
-        if (end == q("btnSave"))
-            expectSaved();
-        if (end == q("btnValidate"))
-            expectNews(modals(), "LDAP User Validation",
-                       "LDAP User Information is validated successfully.");
-        const bool file = end == q("a.cri");
-        if (file)
-            import(dialog, "a.cri", "PrivateEncKey=another key\n");
-        press(dialog, file ? "btnCancel" : qPrintable(end));
-    });
-    test_.run(qPrintable(slot));
-    QVERIFY(!memory_scan::holds(secret));
-}
-
-void DialogFormsTest::keysOfAFileLeaveTheMemory() {
-    if (!memory_scan::isPossible())
-        QSKIP("the memory of the process can't be read");
-    const std::string secret = memory_scan::randomSecret();
-    expectDialog([&](QWidget& dialog) {
-        import(dialog, "a.cri", QByteArray::fromStdString("AccEncKey=" + longKey(secret) + "\n"));
-        QVERIFY(memory_scan::holds(secret));
-        expectSaved();
-        press(dialog, "btnSave");
-    });
-    modify();
-    QVERIFY(!memory_scan::holds(secret));
-}
-
-void DialogFormsTest::keysThatWereReadInVainLeaveTheMemory() {
-    if (!memory_scan::isPossible())
-        QSKIP("the memory of the process can't be read");
-    const std::string secret = memory_scan::randomSecret();
-    change([&secret](World& world) { world.registration.private_key = longKey(secret); });
-    failAfter(*test_.agent, 0, "getUserInfo");
-    modals().expectErrorBox(q("Configuration Error"), q("Out of order."));
-    test_.run("on_actionRegistration_Info_triggered");
-    QVERIFY(!memory_scan::holds(secret));
 }
 
 QTEST_MAIN(DialogFormsTest)

@@ -31,16 +31,16 @@ class CachedCredentialsTest : public ProxyTest {
 protected:
     void rememberPassword() {
         agent->expect("windows", password, done);
-        cache.setPassword("anna", "sesame",
+        cache.setPassword("anna", base::Secret("sesame"),
                           *proxyAt<Win32FS_Generic_BackupSetCredentials>("windows"));
     }
     void rememberKeyFile() {
         agent->expect("ssh", keyFile, done);
-        cache.setKeyFile("root", "/etc/id", "satz", *ssh);
+        cache.setKeyFile("root", "/etc/id", base::Secret("satz"), *ssh);
     }
     void rememberSudo() {
         agent->expect("ssh", sudo, done);
-        cache.setSudo("backup", "geheim", *ssh);
+        cache.setSudo("backup", base::Secret("geheim"), *ssh);
     }
     void rememberAccess() {
         agent->expect("ssh", access, done);
@@ -69,9 +69,10 @@ TEST_F(CachedCredentialsTest, AsLongAsNothingWasTypedNothingIsSent) {
 TEST_F(CachedCredentialsTest, EachSetterSendsAtOnce) {
     rememberPassword();
     agent->expect("unix", password, done);
-    cache.setPassword("anna", "sesame", *proxyAt<UnixFS_Generic_BackupSetCredentials>("unix"));
+    cache.setPassword("anna", base::Secret("sesame"),
+                      *proxyAt<UnixFS_Generic_BackupSetCredentials>("unix"));
     agent->expect("ssh", password, done);
-    cache.setPassword("anna", "sesame", *ssh);
+    cache.setPassword("anna", base::Secret("sesame"), *ssh);
     rememberKeyFile();
     rememberSudo();
     rememberAccess();
@@ -133,7 +134,7 @@ TEST_F(CachedCredentialsTest, AKeyFileIsOfNoUseElsewhere) {
 
 TEST_F(CachedCredentialsTest, NobodyToBecomeIsRememberedToo) {
     agent->expect("ssh", "c 01 00 m 00 09 'setSudoAs' S 00 00 S 00 00 z", done);
-    cache.setSudo("", "", *ssh);
+    cache.setSudo("", {}, *ssh);
     expectTypes(sshTypes, 2);
     expect("c 01 00 m 00 09 'setSudoAs' S 00 00 S 00 00 z", done);
     apply();
@@ -148,7 +149,7 @@ TEST_F(CachedCredentialsTest, AnUnknownClassTakesNothing) {
 
 TEST_F(CachedCredentialsTest, WhatTheAgentRefusedIsRemembered) {
     agent->expect("windows", password, "r 01 00 f S 00 07 'message' S 00 02 'no' z z");
-    EXPECT_THROW(cache.setPassword("anna", "sesame",
+    EXPECT_THROW(cache.setPassword("anna", base::Secret("sesame"),
                                    *proxyAt<Win32FS_Generic_BackupSetCredentials>("windows")),
                  invoke_exception);
     expectTypes(windowsTypes, 2);

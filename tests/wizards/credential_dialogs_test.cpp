@@ -83,7 +83,7 @@ void CredentialDialogsTest::theSimpleDialogAsksForUserAndPassword() {
     type(dialog, "editPassword", QStringLiteral("x"));
     QVERIFY(canBeConfirmed(dialog));
     QCOMPARE(dialog.user(), QStringLiteral("bernd"));
-    QCOMPARE(dialog.password(), QStringLiteral("x"));
+    QCOMPARE(dialog.password().text(), std::string("x"));
 }
 
 void CredentialDialogsTest::aUserNameIsChecked_data() {
@@ -189,7 +189,7 @@ void CredentialDialogsTest::theSudoDialogAsksForAUser() {
     QCOMPARE(child<QPushButton>(dialog, "btnCancel").text(), QStringLiteral("&Cancel"));
     QCOMPARE(child<QPushButton>(dialog, "btnNoSudo").text(), QStringLiteral("&No SUDO"));
     QCOMPARE(dialog.user(), QStringLiteral("root"));
-    QCOMPARE(dialog.password(), QStringLiteral("********"));
+    QCOMPARE(dialog.password().text(), std::string("********"));
     QCOMPARE(child<QLineEdit>(dialog, "editPassword").echoMode(), QLineEdit::Password);
     QVERIFY(!canBeConfirmed(dialog));
     type(dialog, "editUserName", QStringLiteral("backup"));
@@ -205,7 +205,7 @@ void CredentialDialogsTest::theSudoDialogAsksForAUser() {
 void CredentialDialogsTest::theSudoDialogStartsEmptyWithoutAUser() {
     CSSHSudoCredentials dialog({});
     QCOMPARE(dialog.user(), QString());
-    QCOMPARE(dialog.password(), QString());
+    QCOMPARE(dialog.password().text(), std::string());
     QVERIFY(!canBeConfirmed(dialog));
 }
 

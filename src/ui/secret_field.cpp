@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "ui/secret_field.h"
+
+#include <algorithm>
+
+#include <QAccessible>
+#include <QSignalBlocker>
+
+#include "session/secret_text.h"
+#include "session/text.h"
+
+namespace ui {
+
+namespace {
+
+/// Keeps all announcements back while it lives.
+class Silence {
+public:
+    Silence()
+        : previous_(QAccessible::installUpdateHandler([](QAccessibleEvent*) {})) {}
+    Silence(const Silence&) = delete;
+    Silence& operator=(const Silence&) = delete;
+    ~Silence() { QAccessible::installUpdateHandler(previous_); }
+
+private:
+    QAccessible::UpdateHandler previous_;
+};
+
+} // namespace
+
+SecretField::SecretField(QWidget* parent)
+    : QLineEdit(parent) {
+    replace(QString());
+}
+
+SecretField::~SecretField() {
+    blockSignals(true); // who listens may be half gone
+    wipe();
+}
+
+base::Secret SecretField::secret() const {
+    return session::secretToWire(text());
+}
+
+void SecretField::setSecret(const std::string& utf8) {
+    replace(session::fromWire(utf8));
+}
+
+void SecretField::wipe() {
+    replace(QString());
+}
+
+void SecretField::replace(const QString& fresh) {
+    QString held = text();
+    QString shown = displayText(); // another copy, unless it is hidden
+    const bool changes = held != fresh;
+    const Silence silence;
+    {
+        const QSignalBlocker quiet(this);
+        // Emptying a field drops the notes of its edits but keeps their memory, so that the next
+        // ones are written over them.
+        setText(QString());
+        insert(QString(std::min(roomForEdits, maxLength()), QLatin1Char(' ')));
+        setText(fresh);
+    }
+    // The field has let go of them, so that they are ours alone.
+    session::wipe(held);
+    session::wipe(shown);
+    if (changes)
+        emit textChanged(text());
+}
+
+} // namespace ui

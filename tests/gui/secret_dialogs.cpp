@@ -1,0 +1,264 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+
+// The client's half of secrets_test: a process that opens one dialog, types a secret into it that
+// it never holds as a whole itself, closes it, and waits to be looked at.
+//
+//     secret_dialogs DIALOG AGENT-PORT SEED [FILE]
+//
+// It says "typed" and "closed" on its output, and waits for a line after each.
+#include <cstdlib>
+#include <iostream>
+#include <memory>
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+#include <QWizard>
+
+#include "app/login_check.h"
+#include "config/ad_account_dlg.h"
+#include "config/init_clnt_cfg_dlg.h"
+#include "config/tfa_code_dlg.h"
+#include "resources/pictures.h"
+#include "session/connection.h"
+#include "tests/support/derived_secret.h"
+#include "wizards/enter_simple_user_psw.h"
+#include "wizards/select_data_source_page.h"
+#include "wizards/ssh_connect_as_dlg.h"
+#include "wizards/ssh_sudo_credentials.h"
+
+namespace {
+
+std::uint32_t seed = 0;
+
+void say(const char* word) {
+    std::cout << word << std::endl;
+    std::string line;
+    std::getline(std::cin, line);
+}
+
+[[noreturn]] void giveUp(const QString& why) {
+    std::cout << qPrintable(why) << std::endl;
+    std::_Exit(1);
+}
+
+template <class Widget>
+Widget& child(QWidget& parent, const char* name) {
+    auto* found = parent.findChild<Widget*>(QString::fromLatin1(name));
+    if (!found)
+        giveUp(QStringLiteral("no such widget: ") + QString::fromLatin1(name));
+    return *found;
+}
+
+/// Key by key, over whatever stands there.
+void typeSecret(QWidget& dialog, const char* name) {
+    auto& field = child<QLineEdit>(dialog, name);
+    field.setFocus();
+    field.selectAll();
+    for (int place = 0; place < support::derivedSecretLength; ++place) {
+        const QString text(QLatin1Char(support::derivedCharacter(seed, place)));
+        QKeyEvent key(QEvent::KeyPress, 0, Qt::NoModifier, text);
+        QApplication::sendEvent(&field, &key);
+    }
+}
+
+void press(QWidget& dialog, const char* name) {
+    child<QPushButton>(dialog, name).click();
+}
+
+/// Acts once on the next modal window of that class.
+template <class Dialog, class Act>
+void whenOpen(Act act) {
+    auto* timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, act] {
+        if (auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget())) {
+            timer->deleteLater();
+            timer->stop();
+            act(*dialog);
+        }
+    });
+    timer->start(5);
+}
+
+/// Confirms each message that comes. One about a failure ends the program.
+void confirmMessages() {
+    auto* timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (box && box->icon() == QMessageBox::Critical)
+            giveUp(box->text());
+        if (box)
+            box->accept();
+    });
+    timer->start(5);
+}
+
+void logIn(const QString& address) {
+    session::connectToAgent(address.toStdString(), "demo", "demo", 1);
+}
+
+void login(const QString& address) {
+    LoginCheck dialog;
+    dialog.show();
+    child<QLineEdit>(dialog, "lineEditUserName").setText(QStringLiteral("demo:") + address);
+    typeSecret(dialog, "lineEditPassword");
+    say("typed");
+    dialog.OnLogin();
+    if (!session::connectedToAgent())
+        giveUp(QStringLiteral("not logged in"));
+}
+
+/// Fills the fields, and ends the dialog with that button.
+template <class Dialog>
+auto fillAndPress(std::initializer_list<const char*> fields, const char* button) {
+    return [fields = std::vector<const char*>(fields), button](Dialog& dialog) {
+        for (const char* field : fields)
+            typeSecret(dialog, field);
+        say("typed");
+        press(dialog, button);
+    };
+}
+
+/// A dialog of the page of the data source, whose login the agent then tries.
+template <class Dialog>
+void credentials(void (SelectDataSourcePage::*open)(), const std::function<void(Dialog&)>& act) {
+    QWizard wizard;
+    auto page = std::make_unique<SelectDataSourcePage>([](const std::string&) { return true; });
+    SelectDataSourcePage& source = *page;
+    wizard.addPage(page.release());
+    wizard.show();
+    whenOpen<Dialog>(act);
+    (source.*open)();
+    if (!source.validatePage())
+        giveUp(QStringLiteral("the agent refuses the login"));
+}
+
+void sshPassword() {
+    credentials<CSSHConnectAsDlg>(&SelectDataSourcePage::OnSelectConnectAs,
+                                  fillAndPress<CSSHConnectAsDlg>({"editPassword"}, "btnOK"));
+}
+
+void sshIdentity() {
+    credentials<CSSHConnectAsDlg>(
+        &SelectDataSourcePage::OnSelectConnectAs, [](CSSHConnectAsDlg& dialog) {
+            dialog.findChild<QAbstractButton*>(QStringLiteral("radioIdentity"))->click();
+            child<QLineEdit>(dialog, "editIdentity").setText(QStringLiteral("/home/anna/.ssh/id"));
+            typeSecret(dialog, "editPassPhrase");
+            say("typed");
+            press(dialog, "btnOK");
+        });
+}
+
+void sudo() {
+    credentials<CSSHSudoCredentials>(
+        &SelectDataSourcePage::OnSelectSudo, [](CSSHSudoCredentials& dialog) {
+            child<QLineEdit>(dialog, "editUserName").setText(QStringLiteral("backup"));
+            typeSecret(dialog, "editPassword");
+            say("typed");
+            press(dialog, "btnOK");
+        });
+}
+
+void simple() {
+    credentials<CEnterSimpleUserPsw>(&SelectDataSourcePage::OnSelectConnectAs,
+                                     fillAndPress<CEnterSimpleUserPsw>({"editPassword"}, "btnOK"));
+}
+
+/// Waits until the dialog has asked the agent for what it shows.
+void waitForText(QLineEdit& field) {
+    while (field.text().isEmpty())
+        QApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+}
+
+void account(bool typed) {
+    ADAccountDlg dialog;
+    dialog.show();
+    waitForText(child<QLineEdit>(dialog, "editUser"));
+    if (typed)
+        for (const char* field : {"editPassword", "editConfirm"})
+            typeSecret(dialog, field);
+    say("typed");
+    press(dialog, typed ? "btnSave" : "btnCancel");
+}
+
+void registration(bool typed) {
+    InitClntCfgDlg dialog(true);
+    dialog.show();
+    if (typed)
+        for (const char* field : {"txtFieldPrivateKey", "txtFieldPrivateKeyConfirm"})
+            typeSecret(dialog, field);
+    say("typed");
+    press(dialog, typed ? "btnSave" : "btnCancel");
+}
+
+void registrationFile(const QString& path) {
+    InitClntCfgDlg dialog(true);
+    dialog.show();
+    whenOpen<QFileDialog>([path](QFileDialog& chooser) {
+        child<QLineEdit>(chooser, "fileNameEdit").setText(path);
+        static_cast<QDialog&>(chooser).accept();
+    });
+    press(dialog, "btnBrowse");
+    say("typed");
+    press(dialog, "btnSave");
+}
+
+void code() {
+    TFACodeDlg dialog(2, nullptr);
+    dialog.show();
+    waitForText(child<QLineEdit>(dialog, "editEmail"));
+    typeSecret(dialog, "editCode");
+    say("typed");
+    press(dialog, "btnValidate");
+    if (dialog.result() != QDialog::Accepted)
+        giveUp(QStringLiteral("the agent refuses the code"));
+}
+
+void open(const QString& dialog, const QString& address, const QString& file) {
+    if (dialog == QStringLiteral("login"))
+        return login(address);
+    logIn(address);
+    if (dialog == QStringLiteral("simple"))
+        simple();
+    else if (dialog == QStringLiteral("sshPassword"))
+        sshPassword();
+    else if (dialog == QStringLiteral("sshIdentity"))
+        sshIdentity();
+    else if (dialog == QStringLiteral("sudo"))
+        sudo();
+    else if (dialog.startsWith(QStringLiteral("account")))
+        account(dialog == QStringLiteral("accountTyped"));
+    else if (dialog == QStringLiteral("registrationFile"))
+        registrationFile(file);
+    else if (dialog.startsWith(QStringLiteral("registration")))
+        registration(dialog == QStringLiteral("registrationTyped"));
+    else if (dialog == QStringLiteral("code"))
+        code();
+    else
+        giveUp(QStringLiteral("no such dialog"));
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    QApplication application(argc, argv);
+    const QStringList arguments = QApplication::arguments();
+    if (arguments.size() < 4)
+        return 2;
+    resources::initPictures();
+    seed = arguments[3].toUInt();
+    confirmMessages();
+    try {
+        open(arguments[1], QStringLiteral("127.0.0.1:") + arguments[2], arguments.value(4));
+    } catch (const std::exception& failure) {
+        giveUp(QString::fromUtf8(failure.what()));
+    }
+    QApplication::processEvents();
+    say("closed");
+    session::disconnectFromAgent();
+}
