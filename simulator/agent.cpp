@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "simulator/call_head.h"
+#include "simulator/logon/accept_logons.h"
 #include "simulator/remote/entry_point.h"
 
 namespace simulator {
@@ -44,6 +45,12 @@ std::string asLine(std::string text) {
     return text;
 }
 
+Options withAcceptor(Options options) {
+    if (options.acceptLogon)
+        options.integratedLogon = acceptLogons(*options.acceptLogon);
+    return options;
+}
+
 void furnish(World& world, const Options& options) {
     world.clientType = options.clientType.value_or(world.clientType);
     for (const std::int32_t tool : options.disabledTools)
@@ -65,7 +72,7 @@ struct Agent::Step {
 };
 
 Agent::Agent(Options options)
-    : options_(std::move(options))
+    : options_(withAcceptor(std::move(options)))
     , world_(options_.clock, options_.speed, options_.seed) {
     populate(world_, options_.scenario, options_.osType);
     furnish(world_, options_);

@@ -20,7 +20,8 @@ namespace simulator {
 /// lock guards everything, so that a test may look at any time.
 class Agent final : public wire::Exchange {
 public:
-    /// Raises `std::runtime_error` if the log file can't be written.
+    /// Raises `std::runtime_error` if the log file can't be written, or the keys to accept logons
+    /// with can't be had.
     explicit Agent(Options options);
 
     wire::Answer answer(const wire::CallMessage& call) override;

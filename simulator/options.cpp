@@ -78,14 +78,16 @@ void applyValue(Options& options, const std::string& option, const std::string& 
         options.speed = number<double>(option, value, 1 / fastest, fastest);
     else if (option == "--log")
         options.logFile = value;
+    else if (option == "--accept-logon")
+        options.acceptLogon = value;
     else if (!applyToWorld(options, option, value))
         throw BadOption("there is no option '" + option + "'");
 }
 
 bool takesValue(std::string_view option) {
     for (const std::string_view known :
-         {"--port", "--scenario", "--user", "--password", "--domain", "--speed", "--log",
-          "--client-type", "--os-type", "--without-tool", "--two-factor"})
+         {"--port", "--scenario", "--user", "--password", "--domain", "--accept-logon", "--speed",
+          "--log", "--client-type", "--os-type", "--without-tool", "--two-factor"})
         if (option == known)
             return true;
     return false;
@@ -145,6 +147,9 @@ A backup agent to show and to test the client with. It listens on 127.0.0.1 only
   --password TEXT      with which password (default demo)
   --domain NAME        a domain that the user may belong to; may be repeated
   --no-guest           refuse a login with an empty user name
+  --accept-logon KEYTAB
+                       accept integrated logons by Kerberos, with the keys in
+                       this file; '' takes those that the environment names
   --speed FACTOR       let activities run this much faster (default 1)
   --log FILE           write a line for each call
   --plain              no TLS

@@ -42,8 +42,11 @@ struct Options {
 
     Clock clock = systemClock();
     std::uint64_t seed = 1;
-    /// Plays the agent's part of an integrated logon; without it each one is refused.
+    /// Plays the agent's part of an integrated logon; without it each one is refused. It may raise
+    /// a `Refusal`.
     std::function<LogonStep(const std::string& token)> integratedLogon{};
+    /// Accepts integrated logons for real, with this key table; that of the environment if empty.
+    std::optional<std::string> acceptLogon{};
     /// Keep the call log for tests. It grows without end.
     bool recordCalls = true;
 };

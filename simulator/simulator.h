@@ -30,7 +30,7 @@ class World;
 class Simulator {
 public:
     /// Raises `std::system_error` if the port can't be had, `std::runtime_error` if the log file
-    /// can't be written.
+    /// can't be written, or the keys to accept logons with can't be had.
     explicit Simulator(Options options = {});
 
     /// Stops, whatever clients are doing.

@@ -35,7 +35,7 @@ const std::map<std::string, std::set<std::string>> allowed = [] {
         below.insert(folder);
     }
     table["resources"] = {};
-    table["simulator"] = {"base", "hessian", "api"};
+    table["simulator"] = {"base", "hessian", "platform", "api"};
     return table;
 }();
 

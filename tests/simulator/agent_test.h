@@ -36,6 +36,27 @@ protected:
                raw::text(password) + raw::int32(flag);
     }
 
+    /// Of a step of an integrated logon with the agent that is called `base`.
+    static std::string logonArguments(const std::string& token, const std::string& base) {
+        std::string framed;
+        for (int shift = 0; shift < 32; shift += 8)
+            framed += static_cast<char>(token.size() >> shift & 0xFF);
+        return logonArgumentsWith(framed + token, base);
+    }
+    std::string logonArguments(const std::string& token) const {
+        return logonArguments(token, agent_->baseUrl());
+    }
+
+    /// The same, whatever stands for the framed token.
+    static std::string logonArgumentsWith(const std::string& framed, const std::string& base) {
+        return raw::text(base) + raw::text("13.0.0.0") + "B" +
+               static_cast<char>(framed.size() >> 8) + static_cast<char>(framed.size() & 0xFF) +
+               framed;
+    }
+    std::string logonArgumentsWith(const std::string& framed) const {
+        return logonArgumentsWith(framed, agent_->baseUrl());
+    }
+
     std::string post(std::string_view message) {
         return raw::exchange(agent_->port(), tls(), raw::post(agent_->port(), "/api", message));
     }

@@ -131,14 +131,9 @@ TEST_F(Login, HandsOutUrlsUnderTheNameThatTheClientUses) {
                 HasSubstr(base + "/api/ClientConnection/1"));
 }
 
-std::string sspiArguments(const std::string& base, const std::string& framed) {
-    return raw::text(base) + raw::text("13.0.0.0") + "B\0"s + static_cast<char>(framed.size()) +
-           framed;
-}
-
 TEST_F(Login, RefusesIntegratedLogonUnlessScripted) {
     start();
-    expectRefused(post(raw::call("sspi_login", sspiArguments(agent_->baseUrl(), "\2\0\0\0ab"s))),
+    expectRefused(post(raw::call("sspi_login", logonArguments("ab"))),
                   "Integrated logon isn't available on this agent.");
 }
 
@@ -156,10 +151,9 @@ TEST_F(Login, CarriesTheTokensOfAnIntegratedLogon) {
                           raw::text("domain") + raw::text("OFFICE") + raw::text("conn") + conn +
                           "z");
     };
-    EXPECT_EQ(post(raw::call("sspi_login", sspiArguments(agent_->baseUrl(), "\1\0\0\0a"s))),
-              answer("N"));
+    EXPECT_EQ(post(raw::call("sspi_login", logonArguments("a"))), answer("N"));
     EXPECT_EQ(received, "a");
-    EXPECT_EQ(post(raw::call("sspi_login", sspiArguments(agent_->baseUrl(), "\2\0\0\0ab"s))),
+    EXPECT_EQ(post(raw::call("sspi_login", logonArguments("ab"))),
               answer(raw::remote("com.norvel.api.ClientConnection",
                                  agent_->baseUrl() + "/api/ClientConnection/1")));
     EXPECT_THAT(agent_->liveObjects(), SizeIs(1));
@@ -167,14 +161,13 @@ TEST_F(Login, CarriesTheTokensOfAnIntegratedLogon) {
 
 TEST_F(Login, RefusesATokenShorterThanItsLength) {
     start();
-    expectViolation(post(raw::call("sspi_login", sspiArguments(agent_->baseUrl(), "\3\0\0\0ab"s))),
+    expectViolation(post(raw::call("sspi_login", logonArgumentsWith("\3\0\0\0ab"s))),
                     "announces 3 of 2 bytes");
 }
 
 TEST_F(Login, RefusesATokenWithoutALength) {
     start();
-    expectViolation(post(raw::call("sspi_login", sspiArguments(agent_->baseUrl(), "ab"))),
-                    "no length");
+    expectViolation(post(raw::call("sspi_login", logonArgumentsWith("ab"))), "no length");
 }
 
 } // namespace

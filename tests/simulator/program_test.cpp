@@ -1,101 +1,26 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
-#include <cerrno>
 #include <csignal>
 #include <fstream>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
-#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <poll.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include "tests/simulator/raw_client.h"
+#include "tests/support/child_process.h"
 
 using namespace std::string_literals;
 using ::testing::HasSubstr;
 
 namespace {
 
-constexpr int limitMilliseconds = 20'000;
-
 /// The program, started and watched by its own id.
-class Program {
-public:
-    explicit Program(std::vector<std::string> arguments) {
-        int out[2];
-        if (::pipe2(out, O_CLOEXEC) != 0)
-            throw std::runtime_error("no pipe");
-        id_ = ::fork();
-        if (id_ == 0) {
-            ::dup2(out[1], STDOUT_FILENO);
-            ::dup2(out[1], STDERR_FILENO);
-            arguments.insert(arguments.begin(), SIMULATOR_PROGRAM);
-            std::vector<char*> raw;
-            for (std::string& argument : arguments)
-                raw.push_back(argument.data());
-            raw.push_back(nullptr);
-            ::execv(SIMULATOR_PROGRAM, raw.data());
-            ::_exit(127);
-        }
-        ::close(out[1]);
-        output_ = out[0];
-    }
-
-    ~Program() {
-        if (id_ > 0) {
-            ::kill(id_, SIGKILL);
-            ::waitpid(id_, nullptr, 0);
-        }
-        ::close(output_);
-    }
-
-    std::string line() {
-        std::string text;
-        while (!text.ends_with('\n')) {
-            char byte = 0;
-            if (!readable() || ::read(output_, &byte, 1) != 1)
-                throw std::runtime_error("no whole line: " + text);
-            text += byte;
-        }
-        return text;
-    }
-
-    std::string rest() {
-        std::string text;
-        char part[4096];
-        while (readable()) {
-            const ssize_t got = ::read(output_, part, sizeof part);
-            if (got <= 0)
-                return text;
-            text.append(part, static_cast<std::size_t>(got));
-        }
-        throw std::runtime_error("the program doesn't end");
-    }
-
-    void signal(int number) { ::kill(id_, number); }
-
-    /// The exit status, when it has closed its output; 1000 and more for a signal.
-    int status() {
-        rest();
-        int status = 0;
-        ::waitpid(id_, &status, 0);
-        id_ = -1;
-        return WIFEXITED(status) ? WEXITSTATUS(status) : 1000 + WTERMSIG(status);
-    }
-
-private:
-    bool readable() {
-        pollfd waiting{output_, POLLIN, 0};
-        return ::poll(&waiting, 1, limitMilliseconds) == 1;
-    }
-
-    pid_t id_ = -1;
-    int output_ = -1;
+struct Program : support::ChildProcess {
+    explicit Program(std::vector<std::string> arguments)
+        : ChildProcess(SIMULATOR_PROGRAM, std::move(arguments)) {}
 };
 
 std::uint16_t portOf(const std::string& line) {

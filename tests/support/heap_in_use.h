@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstddef>
+
+namespace support {
+
+/// The bytes that all threads of this process have allocated and not given back. None under a
+/// sanitizer, which allocates in its own way and finds leaks itself.
+std::size_t heapInUse();
+
+} // namespace support

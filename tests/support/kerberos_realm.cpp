@@ -1,0 +1,185 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "tests/support/kerberos_realm.h"
+
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <fstream>
+#include <stdexcept>
+#include <thread>
+
+#include <arpa/inet.h>
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace support {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* service = "OstrandBakSvc/localhost";
+constexpr const char* password = "correct horse";
+
+/// A socket of 127.0.0.1.
+class LoopbackSocket {
+public:
+    LoopbackSocket()
+        : socket_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {}
+    LoopbackSocket(const LoopbackSocket&) = delete;
+    LoopbackSocket& operator=(const LoopbackSocket&) = delete;
+    ~LoopbackSocket() { ::close(socket_); }
+
+    std::uint16_t freePort() const {
+        sockaddr_in address = at(0);
+        socklen_t size = sizeof address;
+        if (::bind(socket_, reinterpret_cast<sockaddr*>(&address), size) != 0 ||
+            ::getsockname(socket_, reinterpret_cast<sockaddr*>(&address), &size) != 0)
+            throw std::runtime_error("no free port");
+        return ntohs(address.sin_port);
+    }
+
+    bool reaches(std::uint16_t port) const {
+        const sockaddr_in address = at(port);
+        return ::connect(socket_, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
+    }
+
+private:
+    static sockaddr_in at(std::uint16_t port) {
+        sockaddr_in address{};
+        address.sin_family = AF_INET;
+        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        address.sin_port = htons(port);
+        return address;
+    }
+
+    int socket_;
+};
+
+fs::path temporaryFolder() {
+    std::string path = (fs::temp_directory_path() / "tarn-realm-XXXXXX").string();
+    if (!::mkdtemp(path.data()))
+        throw std::runtime_error("no temporary folder");
+    return path;
+}
+
+void writeFile(const std::string& path, const std::string& text) {
+    std::ofstream(path) << text;
+}
+
+} // namespace
+
+KerberosRealm::KerberosRealm()
+    : folder_(temporaryFolder()) {
+    setVariable("KRB5_CONFIG", file("krb5.conf"));
+    setVariable("KRB5_KDC_PROFILE", file("kdc.conf"));
+    setVariable("KRB5CCNAME", "FILE:" + file("tickets"));
+    setVariable("KRB5_KTNAME", "FILE:" + file("no.keytab"));
+    setVariable("KRB5_CLIENT_KTNAME", "FILE:" + file("no.keytab"));
+    setVariable("KRB5RCACHENAME", "file2:" + file("replays"));
+    writeConfiguration(0);
+    runProgram("/usr/sbin/kdb5_util", {"-r", name, "create", "-s", "-P", "master"});
+    administer(std::string("addprinc -randkey ") + service);
+    administer("ktadd -k " + keyTable() + " " + service);
+    addUser(user);
+    startKdc();
+}
+
+KerberosRealm::~KerberosRealm() {
+    kdc_.reset();
+    for (const auto& [variable, value] : former_)
+        if (value)
+            ::setenv(variable.c_str(), value->c_str(), 1);
+        else
+            ::unsetenv(variable.c_str());
+    std::error_code ignored;
+    fs::remove_all(folder_, ignored);
+}
+
+void KerberosRealm::setVariable(const std::string& variable, const std::string& value) {
+    const char* former = std::getenv(variable.c_str());
+    former_[variable] = former ? std::optional<std::string>(former) : std::nullopt;
+    ::setenv(variable.c_str(), value.c_str(), 1);
+}
+
+void KerberosRealm::writeConfiguration(std::uint16_t port) {
+    const std::string address = "127.0.0.1:" + std::to_string(port);
+    writeFile(file("krb5.conf"), std::string("[libdefaults]\n"
+                                             "    default_realm = ") +
+                                     name +
+                                     "\n"
+                                     "    dns_lookup_kdc = false\n"
+                                     "    dns_lookup_realm = false\n"
+                                     "    dns_canonicalize_hostname = false\n"
+                                     "    rdns = false\n"
+                                     "[realms]\n    " +
+                                     name + " = {\n        kdc = " + address + "\n    }\n");
+    writeFile(file("kdc.conf"), std::string("[realms]\n    ") + name + " = {\n" +
+                                    "        database_name = " + file("principals") +
+                                    "\n"
+                                    "        key_stash_file = " +
+                                    file("stash") +
+                                    "\n"
+                                    "        kdc_listen = " +
+                                    address +
+                                    "\n"
+                                    "        kdc_tcp_listen = " +
+                                    address +
+                                    "\n    }\n"
+                                    "[logging]\n    kdc = FILE:" +
+                                    file("kdc.log") + "\n");
+}
+
+void KerberosRealm::startKdc() {
+    using namespace std::chrono_literals;
+    constexpr int attempts = 5;
+    std::string said;
+    for (int i = 0; i < attempts; ++i) {
+        // Until it listens, another program may take the port.
+        const std::uint16_t port = LoopbackSocket().freePort();
+        writeConfiguration(port);
+        kdc_ = std::make_unique<ChildProcess>("/usr/sbin/krb5kdc", std::vector<std::string>{"-n"});
+        const auto deadline = std::chrono::steady_clock::now() + 10s;
+        while (kdc_->runs() && std::chrono::steady_clock::now() < deadline) {
+            if (LoopbackSocket().reaches(port))
+                return;
+            std::this_thread::sleep_for(5ms);
+        }
+        kdc_->signal(SIGKILL);
+        said = kdc_->rest();
+    }
+    throw std::runtime_error("krb5kdc doesn't start: " + said);
+}
+
+void KerberosRealm::administer(const std::string& query) {
+    runProgram("/usr/sbin/kadmin.local", {"-r", name, "-q", query});
+}
+
+std::string KerberosRealm::wrongKeyTable() {
+    const std::string wrong = file("wrong.keytab");
+    // The same version of the key, so that it is taken for the right one.
+    runProgram("/usr/bin/ktutil", {},
+               std::string("addent -password -p ") + service + "@" + name +
+                   " -k 2 -e aes256-cts-hmac-sha1-96\nguess\nwkt " + wrong + "\nquit\n");
+    return wrong;
+}
+
+void KerberosRealm::addUser(const std::string& userName) {
+    administer(std::string("addprinc -pw \"") + password + "\" " + userName);
+}
+
+void KerberosRealm::getTicket(const std::string& userName) {
+    runProgram("/usr/bin/kinit", {"-l", "10h", userName}, std::string(password) + "\n");
+}
+
+void KerberosRealm::getServiceTicket() {
+    runProgram("/usr/bin/kvno", {service});
+}
+
+void KerberosRealm::destroyTicket() {
+    fs::remove(file("tickets"));
+}
+
+} // namespace support

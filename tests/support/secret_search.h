@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace support {
+
+/// Whether `text` holds any 12 bytes in a row of `secret`, be it as they are, in hexadecimal digits
+/// or in Base64. The secret is at least 12 bytes long.
+bool revealsPartOf(std::string_view secret, std::string_view text);
+
+} // namespace support
