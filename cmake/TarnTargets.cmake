@@ -113,6 +113,8 @@ function(tarn_test name)
     tarn_program(${name} SOURCES ${arg_SOURCES} LINK ${arg_LINK})
     # Tests may include the doubles in tests/support and the simulator beside the product.
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
+    # Whatever Kerberos ticket the developer has, the tests have none.
+    set(environment KRB5CCNAME=FILE:${PROJECT_BINARY_DIR}/no-ticket)
     if(arg_QTEST)
         target_link_libraries(${name} PRIVATE tarn_qt_test)
         target_precompile_headers(${name} REUSE_FROM tarn_qt_test)
@@ -122,7 +124,7 @@ function(tarn_test name)
         add_test(NAME ${name} COMMAND ${name} -silent)
         # A test that hangs shows where, before its time is over.
         math(EXPR patience "${arg_TIMEOUT} * 1000 * 2 / 3")
-        set(environment QT_QPA_PLATFORM=offscreen QTEST_FUNCTION_TIMEOUT=${patience})
+        list(APPEND environment QT_QPA_PLATFORM=offscreen QTEST_FUNCTION_TIMEOUT=${patience})
         if(TARN_SANITIZE MATCHES "address")
             # To find the callers beyond Qt too, which has no frame pointers, run the program with
             # ASAN_OPTIONS=fast_unwind_on_malloc=0: that takes eight times as long.
@@ -138,11 +140,12 @@ function(tarn_test name)
     target_precompile_headers(${name} REUSE_FROM tarn_google_test)
     if(TARN_SANITIZE OR WIN32)
         add_test(NAME ${name} COMMAND ${name})
-        set_tests_properties(${name} PROPERTIES LABELS "${arg_LABELS}" TIMEOUT 300)
+        set_tests_properties(${name} PROPERTIES
+            LABELS "${arg_LABELS}" TIMEOUT 300 ENVIRONMENT "${environment}")
     else()
         gtest_discover_tests(${name}
             TEST_PREFIX ${name}. DISCOVERY_TIMEOUT 60
-            PROPERTIES TIMEOUT ${arg_TIMEOUT})
+            PROPERTIES TIMEOUT ${arg_TIMEOUT} ENVIRONMENT "${environment}")
         _tarn_label(${name} "${arg_LABELS}")
     endif()
 endfunction()

@@ -7,7 +7,7 @@
 #include <string>
 
 /// What integrated logon needs of the operating system: a client-side security context of the
-/// "Negotiate" package for the user of this process.
+/// "Negotiate" package (SPNEGO, RFC 4178) for the user of this process.
 namespace platform {
 
 /// Result of a security operation. A negative one is a failure.
@@ -18,8 +18,7 @@ inline constexpr SecurityStatus securityContinueNeeded = 0x90312;
 inline constexpr SecurityStatus securityCompleteNeeded = 0x90313;
 inline constexpr SecurityStatus securityCompleteAndContinue = 0x90314;
 
-/// A handle of the security interface. Both words zero: nothing is held. Nobody frees one; it
-/// ends with the process.
+/// A handle of the security interface. Both words zero: nothing is held.
 struct SecurityHandle {
     std::uint64_t lower = 0;
     std::uint64_t upper = 0;
@@ -31,6 +30,10 @@ struct SecurityHandle {
 class SecurityOperations {
 public:
     virtual ~SecurityOperations() = default;
+
+    /// Whether the user of this process can be logged on now. On Linux that takes a valid Kerberos
+    /// ticket.
+    virtual bool available() { return true; }
 
     /// The largest token of the "Negotiate" package, in bytes.
     virtual SecurityStatus queryMaxTokenSize(std::uint32_t& maxTokenSize) = 0;
@@ -49,13 +52,16 @@ public:
     /// Completes the token that the last round wrote.
     virtual SecurityStatus completeToken(SecurityHandle& context,
                                          std::span<std::uint8_t> token) = 0;
+
+    /// Ends a logon: gives back what the handles hold, and clears them. Does nothing where handles
+    /// end with the process.
+    virtual void release(SecurityHandle& credentials, SecurityHandle& context) {
+        static_cast<void>(credentials);
+        static_cast<void>(context);
+    }
 };
 
-/// The operations of this system, or null where there is no such interface. Lives as long as the
-/// process.
+/// The operations of this system. Lives as long as the process.
 SecurityOperations* securityOperations();
-
-/// Whether this system can log on its current user without a password.
-bool integratedLogonAvailable();
 
 } // namespace platform

@@ -21,7 +21,8 @@ const char* const targetName = "OstrandBakSvc/localhost";
 } // namespace
 
 bool integratedLogonAvailable() {
-    return platform::securityOperations() != nullptr;
+    SecurityOperations* const operations = platform::securityOperations();
+    return operations && operations->available();
 }
 
 bool performIntegratedLogon(boost::shared_ptr<ClientConnection>& connectionOut,

@@ -18,7 +18,7 @@ namespace session {
 
 using platform::currentWindowsUser;
 
-/// Whether this system offers integrated logon.
+/// Whether this system can log on its current user now.
 bool integratedLogonAvailable();
 
 /// Carries tokens between this system and the agent until the security context is complete. `url`

@@ -11,6 +11,10 @@ using platform::SecurityStatus;
 SspiClientContext::SspiClientContext(platform::SecurityOperations& operations)
     : operations_(operations) {}
 
+SspiClientContext::~SspiClientContext() {
+    operations_.release(credentials_, context_);
+}
+
 bool SspiClientContext::runRound(const std::string& targetName) {
     if (!credentials_.held() && !acquireCredentials())
         return false;

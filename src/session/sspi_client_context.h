@@ -16,6 +16,9 @@ class SspiClientContext {
 public:
     /// `operations` has to outlive this object.
     explicit SspiClientContext(platform::SecurityOperations& operations);
+    SspiClientContext(const SspiClientContext&) = delete;
+    SspiClientContext& operator=(const SspiClientContext&) = delete;
+    ~SspiClientContext();
 
     /// Runs one round. False when an operation failed; `failedOperation` may then name it.
     bool runRound(const std::string& targetName);

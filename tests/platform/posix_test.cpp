@@ -13,7 +13,6 @@
 
 #include "platform/event_log.h"
 #include "platform/process_id.h"
-#include "platform/security_context.h"
 #include "platform/standard_streams.h"
 #include "platform/user_name.h"
 
@@ -65,10 +64,6 @@ TEST(UserName, IsTheAccountOfTheProcessWhateverTheEnvironmentSays) {
     ::setenv("USER", "somebody-else", 1);
     ::setenv("LOGNAME", "somebody-else", 1);
     EXPECT_EQ(platform::currentWindowsUser(), expected);
-}
-
-TEST(SecurityOperations, AreMissingOnThisSystem) {
-    EXPECT_FALSE(platform::integratedLogonAvailable());
 }
 
 } // namespace

@@ -241,7 +241,6 @@ TEST(IntegratedLogonOffer, FollowsTheOperationsInUse) {
         const support::SecurityOperationsOverride nowhere(nullptr);
         EXPECT_FALSE(session::integratedLogonAvailable());
     }
-    EXPECT_FALSE(session::integratedLogonAvailable());
 }
 
 } // namespace

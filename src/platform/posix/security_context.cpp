@@ -2,14 +2,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "platform/security_context.h"
 
+#include "platform/posix/spnego_operations.h"
+
 namespace platform {
 
 SecurityOperations* securityOperations() {
-    return nullptr;
-}
-
-bool integratedLogonAvailable() {
-    return false;
+    return &spnegoOperations();
 }
 
 } // namespace platform

@@ -98,8 +98,4 @@ SecurityOperations* securityOperations() {
     return &operations;
 }
 
-bool integratedLogonAvailable() {
-    return true;
-}
-
 } // namespace platform

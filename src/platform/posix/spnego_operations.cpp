@@ -1,0 +1,161 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "platform/posix/spnego_operations.h"
+
+#include <algorithm>
+#include <bit>
+
+#include <gssapi/gssapi_ext.h>
+#include <gssapi/gssapi_krb5.h>
+
+#include "platform/posix/der_token.h"
+#include "platform/posix/gss_handles.h"
+
+namespace platform {
+
+namespace {
+
+// Kerberos carries what a domain says of its user; this is twice what such tickets grow to.
+constexpr std::uint32_t largestToken = 128u << 10;
+
+// The numbers that the interface has for these failures on the system that it comes from.
+constexpr auto internalError = static_cast<SecurityStatus>(0x80090304);
+constexpr auto invalidToken = static_cast<SecurityStatus>(0x80090308);
+constexpr auto noCredentials = static_cast<SecurityStatus>(0x8009030E);
+constexpr auto bufferTooSmall = static_cast<SecurityStatus>(0x80090321);
+
+// GSSAPI takes its identifiers as writable, though it only reads them.
+char spnegoBytes[] = "\x2b\x06\x01\x05\x05\x02";
+gss_OID_desc spnego = {6, spnegoBytes};
+
+SecurityStatus statusOf(OM_uint32 major) {
+    switch (GSS_ERROR(major)) {
+    case 0:
+        return major & GSS_S_CONTINUE_NEEDED ? securityContinueNeeded : securityOk;
+    case GSS_S_NO_CRED:
+    case GSS_S_DEFECTIVE_CREDENTIAL:
+    case GSS_S_CREDENTIALS_EXPIRED:
+        return noCredentials;
+    case GSS_S_DEFECTIVE_TOKEN:
+    case GSS_S_BAD_SIG:
+        return invalidToken;
+    default:
+        return internalError;
+    }
+}
+
+template <class Handle>
+SecurityHandle toHandle(Handle handle) {
+    return {std::bit_cast<std::uintptr_t>(handle), 0};
+}
+
+template <class Handle>
+Handle fromHandle(const SecurityHandle& handle) {
+    return std::bit_cast<Handle>(static_cast<std::uintptr_t>(handle.lower));
+}
+
+/// Kerberos within SPNEGO, and nothing else: other mechanisms would go by the password. Fails
+/// without a ticket that is valid now.
+OM_uint32 acquire(gss::Credentials& acquired) {
+    OM_uint32 minor = 0;
+    gss_OID_set_desc negotiation{1, &spnego};
+    gss::Credentials credentials;
+    OM_uint32 major = gss_acquire_cred(&minor, GSS_C_NO_NAME, GSS_C_INDEFINITE, &negotiation,
+                                       GSS_C_INITIATE, credentials.place(), nullptr, nullptr);
+    if (GSS_ERROR(major))
+        return major;
+    gss_OID_set_desc kerberos{1, gss_mech_krb5};
+    major = gss_set_neg_mechs(&minor, credentials.get(), &kerberos);
+    if (GSS_ERROR(major))
+        return major;
+    OM_uint32 lifetime = 0;
+    major = gss_inquire_cred(&minor, credentials.get(), nullptr, &lifetime, nullptr, nullptr);
+    if (!GSS_ERROR(major) && lifetime == 0)
+        return GSS_S_CREDENTIALS_EXPIRED;
+    acquired = std::move(credentials);
+    return major;
+}
+
+/// As the name of a principal, which no name service gets to change.
+OM_uint32 importName(std::string text, gss::Name& name) {
+    OM_uint32 minor = 0;
+    gss_buffer_desc bytes{text.size(), text.data()};
+    return gss_import_name(&minor, &bytes, GSS_KRB5_NT_PRINCIPAL_NAME, name.place());
+}
+
+class SpnegoOperations final : public SecurityOperations {
+public:
+    bool available() override {
+        gss::Credentials credentials;
+        return !GSS_ERROR(acquire(credentials));
+    }
+
+    SecurityStatus queryMaxTokenSize(std::uint32_t& maxTokenSize) override {
+        maxTokenSize = largestToken;
+        return securityOk;
+    }
+
+    SecurityStatus acquireCredentials(SecurityHandle& credentials) override {
+        gss::Credentials acquired;
+        const OM_uint32 major = acquire(acquired);
+        if (!GSS_ERROR(major))
+            credentials = toHandle(acquired.take());
+        return statusOf(major);
+    }
+
+    SecurityStatus initializeContext(SecurityHandle& credentials, SecurityHandle& context,
+                                     const std::string& targetName, std::span<std::uint8_t> input,
+                                     std::span<std::uint8_t> output,
+                                     std::uint32_t& outputSize) override {
+        if (input.empty())
+            releaseContext(context);
+        gss::Name target;
+        OM_uint32 minor = 0;
+        OM_uint32 major = importName(targetName, target);
+        if (GSS_ERROR(major))
+            return statusOf(major);
+        const auto token = derToken(input);
+        gss_buffer_desc received{token.size(), token.data()};
+        gss::Buffer sent;
+        auto held = fromHandle<gss_ctx_id_t>(context);
+        major = gss_init_sec_context(&minor, fromHandle<gss_cred_id_t>(credentials), &held,
+                                     target.get(), &spnego, GSS_C_CONF_FLAG, 0,
+                                     GSS_C_NO_CHANNEL_BINDINGS, &received, nullptr, sent.place(),
+                                     nullptr, nullptr);
+        // A failure may have given it back.
+        context = toHandle(held);
+        if (GSS_ERROR(major))
+            return statusOf(major);
+        if (sent.bytes().size() > output.size())
+            return bufferTooSmall;
+        std::ranges::copy(sent.bytes(), output.begin());
+        outputSize = static_cast<std::uint32_t>(sent.bytes().size());
+        return statusOf(major);
+    }
+
+    /// GSSAPI writes complete tokens only, so no round asks for it.
+    SecurityStatus completeToken(SecurityHandle&, std::span<std::uint8_t>) override {
+        return securityOk;
+    }
+
+    void release(SecurityHandle& credentials, SecurityHandle& context) override {
+        releaseContext(context);
+        const gss::Credentials ended(fromHandle<gss_cred_id_t>(credentials));
+        credentials = {};
+    }
+
+private:
+    static void releaseContext(SecurityHandle& context) {
+        const gss::Context ended(fromHandle<gss_ctx_id_t>(context));
+        context = {};
+    }
+};
+
+} // namespace
+
+SecurityOperations& spnegoOperations() {
+    static SpnegoOperations operations;
+    return operations;
+}
+
+} // namespace platform

@@ -1,0 +1,293 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "app/login_check.h"
+#include "app/start_up.h"
+#include "platform/posix/spnego_operations.h"
+#include "session/connection.h"
+#include "session/integrated_logon.h"
+#include "session/text.h"
+#include "tests/support/child_process.h"
+#include "tests/support/clock_offset.h"
+#include "tests/support/gui_main_window.h"
+#include "tests/support/gui_modal_driver.h"
+#include "tests/support/kerberos_realm.h"
+#include "tests/support/security_operations_override.h"
+
+using support::child;
+using support::ClockOffset;
+using support::GuiAgent;
+using support::MainWindowDriver;
+using support::ModalDriver;
+using namespace std::chrono_literals;
+
+namespace {
+
+const char* const check = "chkSSPILogin";
+
+QString currentUser() {
+    return session::fromWire(session::currentWindowsUser());
+}
+
+simulator::Options accepting(const std::string& keyTable) {
+    simulator::Options options;
+    options.guest = false;
+    options.acceptLogon = keyTable;
+    return options;
+}
+
+void press(QWidget& dialog, const char* button) {
+    QTest::mouseClick(&child<QPushButton>(dialog, button), Qt::LeftButton);
+}
+
+/// How often the agent was asked to let somebody in by that method.
+int count(const simulator::Simulator& agent, const std::string& method) {
+    int found = 0;
+    for (const auto& call : agent.callLog())
+        found += call.method == method;
+    return found;
+}
+
+} // namespace
+
+/// Logging on with a Kerberos ticket, in front of the real windows.
+class KerberosLoginTest : public QObject {
+    Q_OBJECT
+private slots:
+    void init() { realm_ = std::make_unique<support::KerberosRealm>(); }
+    void cleanup() {
+        support::resetSession();
+        realm_.reset();
+    }
+
+    void fillsTheWindowAtTheStartWithoutAQuestion() {
+        realm_->getTicket();
+        const GuiAgent agent(accepting(realm_->keyTable()));
+        MainWindowDriver driver;
+        ModalDriver modals; // any dialog fails the test
+        app::logInAtStart(driver.window());
+        QVERIFY(modals.done());
+        QVERIFY(session::connectedToAgent());
+        expectTheSessionOf(driver, currentUser());
+        QVERIFY(!driver.cards().isEmpty());
+        QCOMPARE(count(agent, "sspi_login"), 1);
+        QCOMPARE(count(agent, "login"), 0);
+        QCOMPARE(count(agent, "getAvailableDomains"), 0);
+    }
+
+    void fillsTheWindowOfTheRealProgram() {
+        realm_->getTicket();
+        const GuiAgent agent(accepting(realm_->keyTable()));
+        const QTemporaryDir elsewhere;
+        qputenv("XDG_RUNTIME_DIR", elsewhere.path().toLocal8Bit());
+        qputenv("TARN_TEST_AGENT_PORT", QByteArray::number(agent.port()));
+        qputenv("LD_PRELOAD", TARN_PORT_REDIRECT);
+        const support::ChildProcess client(TARN_PROGRAM, {});
+        qunsetenv("LD_PRELOAD");
+        QVERIFY(agent.waitForCall("backup_sets_info", 1, 20s));
+        QCOMPARE(count(agent, "sspi_login"), 1);
+        // Those of a login with a password, and of the dialog that asks for it.
+        QCOMPARE(count(agent, "login"), 0);
+        QCOMPARE(count(agent, "getAvailableDomains"), 0);
+        QCOMPARE(agent.violations(), std::vector<std::string>{});
+    }
+
+    void asksAtTheStartWithoutATicket() {
+        const GuiAgent agent(accepting(realm_->keyTable()));
+        MainWindowDriver driver;
+        ModalDriver modals;
+        modals.expect(QStringLiteral("the login dialog"), support::isDialog<LoginCheck>,
+                      [&](QWidget& dialog) {
+                          QVERIFY(child<QCheckBox>(dialog, check).isHidden());
+                          QVERIFY(!child<QCheckBox>(dialog, check).isChecked());
+                          QVERIFY(child<QGroupBox>(dialog, "groupLoginInfo").isEnabled());
+                          QCOMPARE(driver.status(),
+                                   QStringLiteral("A user name is needed to log in."));
+                          press(dialog, "buttonQuit");
+                      });
+        app::logInAtStart(driver.window());
+        QVERIFY(modals.done());
+        QVERIFY(!session::connectedToAgent());
+        QCOMPARE(count(agent, "sspi_login"), 0);
+    }
+
+    void asksAtTheStartWhenTheKdcIsAway() {
+        realm_->getTicket();
+        realm_->stopKdc();
+        const GuiAgent agent(accepting(realm_->keyTable()));
+        MainWindowDriver driver;
+        ModalDriver modals;
+        modals.expect(QStringLiteral("the login dialog"), support::isDialog<LoginCheck>,
+                      [&](QWidget& dialog) {
+                          QVERIFY(!child<QCheckBox>(dialog, check).isHidden());
+                          // A logon that ended in this system shows nothing else.
+                          expectTheSessionOf(driver, currentUser());
+                          press(dialog, "buttonQuit");
+                      });
+        app::logInAtStart(driver.window());
+        QVERIFY(modals.done());
+        QVERIFY(!session::connectedToAgent());
+        QVERIFY(!driver.isEnabled("actionLogout"));
+        QCOMPARE(count(agent, "sspi_login"), 0);
+    }
+
+    void saysWhyTheAgentRefusesAtTheStart() {
+        realm_->getTicket();
+        const GuiAgent agent(accepting(realm_->wrongKeyTable()));
+        MainWindowDriver driver;
+        ModalDriver modals;
+        modals.expect(QStringLiteral("the login dialog"), support::isDialog<LoginCheck>,
+                      [&](QWidget& dialog) {
+                          QCOMPARE(driver.status(), wrongKey());
+                          press(dialog, "buttonQuit");
+                      });
+        app::logInAtStart(driver.window());
+        QVERIFY(modals.done());
+    }
+
+    void theDialogLogsOnWhileTheBoxIsChecked() {
+        realm_->getTicket();
+        GuiAgent agent(accepting(realm_->keyTable()));
+        MainWindowDriver driver;
+        ModalDriver modals;
+        modals.expect(QStringLiteral("the login dialog"), support::isDialog<LoginCheck>,
+                      [](QWidget& dialog) {
+                          QVERIFY(!child<QCheckBox>(dialog, check).isHidden());
+                          QVERIFY(child<QCheckBox>(dialog, check).isChecked());
+                          QVERIFY(!child<QGroupBox>(dialog, "groupLoginInfo").isEnabled());
+                          press(dialog, "buttonLogin");
+                      });
+        driver.window().OnConnect();
+        QVERIFY(modals.done());
+        QVERIFY(session::connectedToAgent());
+        expectTheSessionOf(driver, currentUser());
+        QCOMPARE(session::fromWire(session::currentUser()), currentUser());
+        QCOMPARE(count(agent, "sspi_login"), 1);
+    }
+
+    void theDialogTakesAPasswordWhileTheBoxIsNotChecked() {
+        realm_->getTicket();
+        GuiAgent agent(accepting(realm_->keyTable()));
+        MainWindowDriver driver;
+        ModalDriver modals;
+        modals.expect(
+            QStringLiteral("the login dialog"), support::isDialog<LoginCheck>, [](QWidget& dialog) {
+                child<QCheckBox>(dialog, check).click();
+                QVERIFY(child<QGroupBox>(dialog, "groupLoginInfo").isEnabled());
+                child<QLineEdit>(dialog, "lineEditUserName").setText(QStringLiteral("demo"));
+                child<QLineEdit>(dialog, "lineEditPassword").setText(QStringLiteral("demo"));
+                press(dialog, "buttonLogin");
+            });
+        driver.window().OnConnect();
+        QVERIFY(modals.done());
+        QVERIFY(session::connectedToAgent());
+        expectTheSessionOf(driver, QStringLiteral("demo"));
+        QCOMPARE(count(agent, "sspi_login"), 0);
+        QCOMPARE(count(agent, "login"), 1);
+    }
+
+    void checkingTheBoxAgainForgetsTheAddress() {
+        realm_->getTicket();
+        GuiAgent agent(accepting(realm_->keyTable()));
+        LoginCheck dialog;
+        auto& box = child<QCheckBox>(dialog, check);
+        box.click();
+        child<QLineEdit>(dialog, "lineEditUserName").setText(QStringLiteral("anna:10.0.0.7"));
+        QCOMPARE(dialog.host(), QStringLiteral("10.0.0.7"));
+        box.click();
+        QCOMPARE(dialog.host(), QStringLiteral("127.0.0.1"));
+        press(dialog, "buttonLogin");
+        QVERIFY(session::connectedToAgent());
+        QCOMPARE(count(agent, "sspi_login"), 1);
+    }
+
+    void theDialogSaysWhyTheAgentRefuses() {
+        realm_->getTicket();
+        const GuiAgent agent(accepting(realm_->wrongKeyTable()));
+        expectRefusal(wrongKey());
+    }
+
+    void theDialogSaysThatTheClockIsWrong() {
+        realm_->getTicket();
+        realm_->getServiceTicket();
+        const GuiAgent agent(accepting(realm_->keyTable()));
+        const ClockOffset wrong(1h);
+        expectRefusal(QStringLiteral("Unspecified GSS failure.  Minor code may provide more "
+                                     "information: Clock skew too great"));
+    }
+
+    void theDialogSaysThatTheLogonEndedHalfWay() {
+        realm_->getTicket();
+        simulator::Options options;
+        options.integratedLogon = [](const std::string&) { return simulator::LogonStep{}; };
+        GuiAgent agent(options);
+        agent.inject("sspi_login", simulator::Delay{0ms});
+        agent.inject("sspi_login", simulator::Fault{"The account is locked."});
+        expectRefusal(QStringLiteral("The account is locked."));
+        QCOMPARE(count(agent, "sspi_login"), 2);
+    }
+
+    void theBoxIsThereWhileTheTicketIsValid() {
+        const auto isOffered = [] {
+            LoginCheck dialog;
+            return !child<QCheckBox>(dialog, check).isHidden();
+        };
+        QVERIFY(!isOffered());
+        realm_->getTicket();
+        QVERIFY(isOffered());
+        {
+            const ClockOffset later(11h);
+            QVERIFY(!isOffered());
+        }
+        realm_->destroyTicket();
+        QVERIFY(!isOffered());
+    }
+
+    void takesTheTicketOfAUserWithLettersBeyondAscii() {
+        realm_->addUser("Jörg-Žofie");
+        realm_->getTicket("Jörg-Žofie");
+        GuiAgent agent(accepting(realm_->keyTable()));
+        MainWindowDriver driver;
+        ModalDriver modals;
+        app::logInAtStart(driver.window());
+        QVERIFY(modals.done());
+        QVERIFY(session::connectedToAgent());
+    }
+
+private:
+    static QString wrongKey() {
+        return QStringLiteral("Unspecified GSS failure.  Minor code may provide more information: "
+                              "Request ticket server OstrandBakSvc/localhost@TARN.TEST kvno 2 "
+                              "enctype aes256-cts found in keytab but cannot decrypt ticket");
+    }
+
+    static void expectTheSessionOf(MainWindowDriver& driver, const QString& user) {
+        QCOMPARE(driver.status(), QStringLiteral("Logged in to '127.0.0.1' as '%1'").arg(user));
+        QCOMPARE(driver.window().windowTitle(),
+                 QStringLiteral("Ostrand Backup - %1@127.0.0.1").arg(user));
+    }
+
+    static void expectRefusal(const QString& text) {
+        LoginCheck dialog;
+        dialog.show();
+        ModalDriver modals;
+        modals.expectErrorBox(QStringLiteral("Login Failed"), text);
+        press(dialog, "buttonLogin");
+        QVERIFY(modals.done());
+        QVERIFY(dialog.isVisible());
+        QVERIFY(child<QCheckBox>(dialog, check).isChecked());
+        QVERIFY(!session::connectedToAgent());
+    }
+
+    std::unique_ptr<support::KerberosRealm> realm_;
+    const support::SecurityOperationsOverride inUse_{&platform::spnegoOperations()};
+};
+
+QTEST_MAIN(KerberosLoginTest)
+#include "kerberos_login_test.moc"
