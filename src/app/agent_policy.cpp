@@ -16,13 +16,13 @@ namespace {
 
 using hessiancln::tarn_client_info;
 
-// The names under which an English and a German agent tell who makes the policy. The value is
-// English under both.
+// The names of the row that says who makes the policy, from an English and a German agent. The
+// value is English under both.
 constexpr std::string_view policyNames[] = {"Centrally Managed Backup Policy",
                                             "Zentral-verwaltete Backup-Politik"};
 constexpr std::string_view yes = "Yes";
 
-bool tellsPolicy(const tarn_client_info& info) {
+bool namesPolicy(const tarn_client_info& info) {
     return std::find(std::begin(policyNames), std::end(policyNames), info.name) !=
            std::end(policyNames);
 }
@@ -32,7 +32,7 @@ bool tellsPolicy(const tarn_client_info& info) {
 void readAgentPolicy() {
     const auto connection = session::getConnection();
     const auto rows = connection->getTarnClientInfo();
-    const auto policy = std::find_if(rows.begin(), rows.end(), tellsPolicy);
+    const auto policy = std::find_if(rows.begin(), rows.end(), namesPolicy);
     if (policy != rows.end())
         session::g_isCentrallyManaged = policy->value == yes;
     session::g_is2FAEnabled = session::required(connection->getTFAManager())->is2FAEnabled();

@@ -14,7 +14,7 @@ class QWidget;
 
 namespace app {
 
-/// The panel beside the list, which tells how the selected set is backed up.
+/// The panel beside the list, which shows how the selected set is backed up.
 class SetDetailsPanel {
     Q_DECLARE_TR_FUNCTIONS(SimpleGUIMainWindow)
 public:

@@ -44,7 +44,7 @@ struct running_activity_info;
 /// set, the tables of activities, the presence in the tray and the heartbeat. None of them knows
 /// another one; the window connects them.
 ///
-/// Upon each heartbeat it asks the agent for everything anew. That is the only way in which it
+/// Upon each heartbeat it asks the agent for everything again. That is the only way in which it
 /// learns anything. Heartbeats arrive in the event loop of an open dialog too, so nothing here may
 /// hold on to a card or a row over one.
 ///

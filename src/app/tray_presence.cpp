@@ -19,7 +19,7 @@ QString productName() {
 }
 
 void letTheWindowHide() {
-    // A dialog over the hidden window is the last one that is seen, and its end is none.
+    // A dialog over the hidden window is the last visible one, and closing it must not quit.
     QGuiApplication::setQuitOnLastWindowClosed(false);
     // At a log-out Qt would close the window, which only hides, and take that for a no to the end
     // of the user's session.

@@ -45,7 +45,7 @@ public:
     /// window.
     void announce(const QList<hessiancln::running_activity_info>& appeared,
                   const QList<hessiancln::running_activity_info>& disappeared);
-    /// A balloon that tells where the window has gone, until `endReminder`.
+    /// A balloon that says where the window has gone, until `endReminder`.
     void remind();
     void endReminder() { showReminder_ = false; }
 

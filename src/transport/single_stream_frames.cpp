@@ -54,7 +54,7 @@ void CSingleStreamDispatcherConnection::enqueueSubmitted() {
                 enqueue(call);
         } catch (const std::bad_alloc&) {
             if (!call)
-                throw; // its frame stands in the queue
+                throw; // its frame is in the queue
             forgetUnwritten();
             call->fail(std::string(outOfMemory));
         } catch (const std::exception& failure) {

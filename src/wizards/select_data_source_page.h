@@ -26,7 +26,7 @@ class SelectDataSourcePage;
 
 namespace wizards {
 
-/// Whether the source that somebody typed is on the agent's own computer. Its name counts in this
+/// Whether the source that was typed is on the agent's own computer. Its name counts in this
 /// spelling only; what follows a backslash doesn't matter.
 bool isLocalComputer(const QString& source);
 

@@ -36,10 +36,10 @@ public:
     void apply(const boost::shared_ptr<hessiancln::BackupSet>& set);
 
     bool isComplete() const override;
-    /// Asks the agent for the names that are taken. A failure ends the wizard and goes to the one
-    /// who runs it.
     /// What is typed, without blanks around it.
     QString name() const;
+    /// Asks the agent for the names that are taken. A failure ends the wizard and goes to the one
+    /// who runs it.
     bool validatePage() override;
 
 public slots:

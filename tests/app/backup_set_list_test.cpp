@@ -114,7 +114,7 @@ private slots:
         QCOMPARE(shown.ids(), (QList<int>{7, 8, 9}));
     }
 
-    void theUsersSelectionIsMarkedAndTold() {
+    void theUsersSelectionIsMarkedAndReported() {
         ShownList shown;
         shown.rebuildWith({1, 2, 3});
         shown.view.selectRow(1);

@@ -87,7 +87,7 @@ private slots:
         QVERIFY(!shown.presence.actionShow().isEnabled());
     }
 
-    void remindsUntilToldNotTo() {
+    void remindsUntilDismissed() {
         ShownWindow shown;
         shown.presence.remind();
         QCOMPARE(shown.icon->balloons, reminder);

@@ -55,7 +55,7 @@ Widget& child(QWidget& parent, const char* name) {
     return *found;
 }
 
-/// Key by key, over whatever stands there.
+/// Key by key, over whatever the field holds.
 void typeSecret(QWidget& dialog, const char* name) {
     auto& field = child<QLineEdit>(dialog, name);
     field.setFocus();

@@ -28,8 +28,8 @@ TEST(EventLog, GetsAnErrorUnderTheNameOfItsSource) {
     ::closelog();
 }
 
-/// In a process of its own: fills what is left when `closed` has been closed, and tells by its exit
-/// status which place the next file gets.
+/// In a process of its own: fills what is left when `closed` has been closed. The exit status is
+/// the place that the next file gets.
 [[noreturn]] void placeOfNextFile(std::initializer_list<int> closed, bool fill) {
     // What a test runner left open above the three would hide the places to come.
     ::close_range(3, ~0u, 0);
