@@ -149,7 +149,13 @@ void populateManyFolders(World& world) {
     const auto fill = [&](StoredNode& folder, const std::string& mark) {
         for (std::size_t i = 0; i < filesEach; ++i) {
             StoredNode file{"Letter " + mark + "-" + std::to_string(i) + ".odt",
-                            SelectableItemType::File, true, false, {}, 0, {}, {}};
+                            SelectableItemType::File,
+                            true,
+                            false,
+                            {},
+                            0,
+                            {},
+                            {}};
             file.generations = {{time - 9'000, time, 20'480, 9'120}};
             folder.children.push_back(std::make_shared<StoredNode>(std::move(file)));
         }

@@ -68,7 +68,8 @@ private:
 };
 
 template <class R>
-void RowIndex::build(const std::vector<R>& records, std::span<const models::RecordColumn<R>> columns,
+void RowIndex::build(const std::vector<R>& records,
+                     std::span<const models::RecordColumn<R>> columns,
                      RowTraits (*traitsOf)(const R&)) {
     CellText cellText;
     std::vector<std::unordered_map<std::int64_t, std::string>> labels(columns.size());

@@ -65,18 +65,32 @@ QString typeText(const Line& line) {
 }
 
 constexpr std::array<models::RecordColumn<Line>, 5> columns{{
-    {{0, "Type"}, typeText, {}, nullptr,
+    {{0, "Type"},
+     typeText,
+     {},
+     nullptr,
      [](const Line& line) -> Cell { return CellLabel{line.type}; }},
-    {{1, "Text"}, [](const Line& line) { return session::fromWire(line.text); }, {}, nullptr,
+    {{1, "Text"},
+     [](const Line& line) { return session::fromWire(line.text); },
+     {},
+     nullptr,
      [](const Line& line) -> Cell { return line.text; }},
-    {{2, "Number"}, [](const Line& line) { return ui::numberText(line.number); }, {}, nullptr,
+    {{2, "Number"},
+     [](const Line& line) { return ui::numberText(line.number); },
+     {},
+     nullptr,
      [](const Line& line) -> Cell { return CellNumber{line.number}; }},
-    {{3, "Time"}, [](const Line& line) { return ui::timeText(line.time, QLocale::ShortFormat); },
-     {}, nullptr,
+    {{3, "Time"},
+     [](const Line& line) { return ui::timeText(line.time, QLocale::ShortFormat); },
+     {},
+     nullptr,
      [](const Line& line) -> Cell {
          return CellTime{line.time, QLocale::ShortFormat};
      }},
-    {{4, "None"}, [](const Line&) { return QString(); }, {}, nullptr,
+    {{4, "None"},
+     [](const Line&) { return QString(); },
+     {},
+     nullptr,
      [](const Line&) { return Cell(); }},
 }};
 
