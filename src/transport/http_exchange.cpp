@@ -140,7 +140,8 @@ ErrorCode HttpExchange::send(const std::string& request) {
 
 template <class Stream>
 ErrorCode HttpExchange::receive(Stream& stream, ResponseParser& parser) {
-    boost::beast::flat_buffer buffer;
+    // The reply may hold a key, which the parser copies out of this.
+    boost::beast::basic_flat_buffer<base::WipingAllocator<char>> buffer;
     ErrorCode error;
     while (!error && !parser.is_done()) {
         error = await([&](auto completion) {
