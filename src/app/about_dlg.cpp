@@ -34,10 +34,10 @@ void AboutDlg::setTexts() {
     const QString name = tr("%1").arg(QStringLiteral("Tarn-Mobile User"));
     setWindowTitle(name);
     ui_->labelName->setText(name);
-    const QString release = tr("Release %1").arg(QLatin1String(product::version));
-    ui_->labelVersion->setText(tr("Version %1").arg(QStringLiteral("14.2.0.0")) +
-                               QLatin1Char('\n') + release + QStringLiteral(". ") +
-                               QStringLiteral(TARN_COPYRIGHT));
+    const QStringList lines{tr("Version %1").arg(QStringLiteral("14.2.0.0")),
+                            tr("Release %1").arg(QLatin1String(product::version)),
+                            QStringLiteral(TARN_COPYRIGHT)};
+    ui_->labelVersion->setText(lines.join(QLatin1Char('\n')));
 }
 
 void AboutDlg::setUpInformation() {

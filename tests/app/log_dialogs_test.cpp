@@ -282,7 +282,7 @@ void LogDialogsTest::theAboutBoxWithoutASession() {
     QCOMPARE(name.font().weight(), 75);
     auto& version = child<QLabel>(about, "labelVersion");
     QVERIFY(version.text().startsWith(QLatin1String("Version 14.2.0.0\n")));
-    QVERIFY(version.text().contains(QLatin1String("Release " TARN_RELEASE ". Copyright")));
+    QVERIFY(version.text().contains(QLatin1String("\nRelease " TARN_RELEASE "\nCopyright")));
     QCOMPARE(version.font().pointSize(), 10);
     QCOMPARE(child<QLabel>(about, "labelIcon").pixmap(Qt::ReturnByValue).width(), 64);
     QVERIFY(!child<QGroupBox>(about, "groupInfo").isVisible());
