@@ -19,6 +19,7 @@ const std::vector<Chapter>& catalogue() {
          "src/app/login_check.ui",
          {{"login", "With the domains that the agent knows"},
           {"login-without-domains", "Without domains"},
+          {"login-current-user", "Without a password"},
           {"box-login", "The agent refuses"}}},
         {"Main window",
          "SimpleGUIMainWindow",

@@ -18,6 +18,8 @@
 #include "app/login_check.h"
 #include "app/start_up.h"
 #include "simulator/world/world.h"
+#include "tests/support/scripted_security_operations.h"
+#include "tests/support/security_operations_override.h"
 #include "tests/tour/photographer.h"
 #include "tests/tour/stories.h"
 
@@ -41,6 +43,17 @@ void takeLogin(Album& album) {
         photographer.expect<LoginCheck>([&](LoginCheck& login) {
             type(login, "lineEditUserName", "anna:10.0.0.7");
             photographer.take(login, "login-without-domains");
+        });
+        photographer.run("OnConnect");
+    }
+    {
+        support::ScriptedSecurityOperations security;
+        const support::SecurityOperationsOverride inUse(&security);
+        Photographer photographer(album);
+        photographer.expect<LoginCheck>([&](LoginCheck& login) {
+            // Not the account of whoever takes the picture.
+            type(login, "lineEditUserName", "anna");
+            photographer.take(login, "login-current-user");
         });
         photographer.run("OnConnect");
     }
