@@ -124,49 +124,62 @@ auto fillAndPress(std::initializer_list<const char*> fields, const char* button)
     };
 }
 
-/// A dialog of the page of the data source, whose login the agent then tries.
-template <class Dialog>
-void credentials(void (SelectDataSourcePage::*open)(), const std::function<void(Dialog&)>& act) {
+/// Enters a login on the page of the data source, which the agent then tries.
+void tryLogin(const std::function<void(SelectDataSourcePage&)>& enter) {
     QWizard wizard;
     auto page = std::make_unique<SelectDataSourcePage>([](const std::string&) { return true; });
     SelectDataSourcePage& source = *page;
     wizard.addPage(page.release());
     wizard.show();
-    whenOpen<Dialog>(act);
-    (source.*open)();
+    enter(source);
     if (!source.validatePage())
         giveUp(QStringLiteral("the agent refuses the login"));
 }
 
+/// With what is entered in the dialog "Connect As".
+template <class Dialog>
+void connectAs(const std::function<void(Dialog&)>& act) {
+    tryLogin([&](SelectDataSourcePage& source) {
+        whenOpen<Dialog>(act);
+        source.OnSelectConnectAs();
+    });
+}
+
 void sshPassword() {
-    credentials<CSSHConnectAsDlg>(&SelectDataSourcePage::OnSelectConnectAs,
-                                  fillAndPress<CSSHConnectAsDlg>({"editPassword"}, "btnOK"));
+    connectAs<CSSHConnectAsDlg>(fillAndPress<CSSHConnectAsDlg>({"editPassword"}, "btnOK"));
 }
 
 void sshIdentity() {
-    credentials<CSSHConnectAsDlg>(
-        &SelectDataSourcePage::OnSelectConnectAs, [](CSSHConnectAsDlg& dialog) {
-            dialog.findChild<QAbstractButton*>(QStringLiteral("radioIdentity"))->click();
-            child<QLineEdit>(dialog, "editIdentity").setText(QStringLiteral("/home/anna/.ssh/id"));
-            typeSecret(dialog, "editPassPhrase");
-            say("typed");
-            press(dialog, "btnOK");
-        });
+    connectAs<CSSHConnectAsDlg>([](CSSHConnectAsDlg& dialog) {
+        dialog.findChild<QAbstractButton*>(QStringLiteral("radioIdentity"))->click();
+        child<QLineEdit>(dialog, "editIdentity").setText(QStringLiteral("/home/anna/.ssh/id"));
+        typeSecret(dialog, "editPassPhrase");
+        say("typed");
+        press(dialog, "btnOK");
+    });
 }
 
+/// The agent asks for it only behind a login of its own.
 void sudo() {
-    credentials<CSSHSudoCredentials>(
-        &SelectDataSourcePage::OnSelectSudo, [](CSSHSudoCredentials& dialog) {
+    tryLogin([](SelectDataSourcePage& source) {
+        whenOpen<CSSHConnectAsDlg>([](CSSHConnectAsDlg& dialog) {
+            child<QLineEdit>(dialog, "editUserName").setText(QStringLiteral("demo"));
+            child<QLineEdit>(dialog, "editPassword").setText(QStringLiteral("demo"));
+            press(dialog, "btnOK");
+        });
+        source.OnSelectConnectAs();
+        whenOpen<CSSHSudoCredentials>([](CSSHSudoCredentials& dialog) {
             child<QLineEdit>(dialog, "editUserName").setText(QStringLiteral("backup"));
             typeSecret(dialog, "editPassword");
             say("typed");
             press(dialog, "btnOK");
         });
+        source.OnSelectSudo();
+    });
 }
 
 void simple() {
-    credentials<CEnterSimpleUserPsw>(&SelectDataSourcePage::OnSelectConnectAs,
-                                     fillAndPress<CEnterSimpleUserPsw>({"editPassword"}, "btnOK"));
+    connectAs<CEnterSimpleUserPsw>(fillAndPress<CEnterSimpleUserPsw>({"editPassword"}, "btnOK"));
 }
 
 /// Waits until the dialog has asked the agent for what it shows.

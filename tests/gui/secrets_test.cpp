@@ -108,6 +108,7 @@ void SecretsTest::prepare(const QString& dialog, const std::string& secret, Worl
         computer.users = {{"demo", secret}, {"", secret}};
     } else if (dialog == QStringLiteral("sudo")) {
         computer.kind = LoginKind::Ssh;
+        computer.users = {{"demo", "demo"}, {"backup", secret}};
     } else if (dialog.startsWith(QStringLiteral("ssh"))) {
         computer.kind = LoginKind::Ssh;
         computer.users = {{"demo", secret}, {"", secret}};
