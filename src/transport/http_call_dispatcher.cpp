@@ -2,14 +2,50 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "transport/http_call_dispatcher.h"
 
+#include <memory>
+#include <thread>
 #include <utility>
 
 #include "transport/call_failure.h"
+#include "transport/call_passage.h"
 #include "transport/http_exchange.h"
 #include "transport/parse_url.h"
+#include "transport/pending_reply.h"
 #include "transport/tracer.h"
 
 namespace hessiancln {
+
+namespace {
+
+struct Target {
+    bool useTls = false;
+    std::string host;
+    std::string path;
+    std::uint32_t port = 0;
+};
+
+std::string carry(HttpExchange& exchange, const Target& target, const std::string& request) {
+    exchange.connect(target.host, target.port);
+    return exchange.post(target.host, target.port, target.path, request);
+}
+
+/// The thread of the call is left behind when the caller gives up. It then owns all that it needs.
+std::string carryBeside(const std::shared_ptr<HttpExchange>& exchange, const Target& target,
+                        const std::string& request) {
+    const auto reply =
+        std::make_shared<PendingReply>([exchange](const std::string&) { exchange->abandon(); });
+    std::thread([=] {
+        try {
+            std::string body = carry(*exchange, target, request);
+            reply->succeed(body);
+        } catch (...) {
+            reply->fail(std::current_exception());
+        }
+    }).detach();
+    return reply->wait();
+}
+
+} // namespace
 
 CHttpCallDispatcher::CHttpCallDispatcher(std::uint32_t traceLevel, std::string traceFile,
                                          HttpLimits limits)
@@ -28,16 +64,14 @@ std::string CHttpCallDispatcher::exchange(const std::string& url, const std::str
     const Tracer trace(traceLevel(), traceFile());
     trace.step("CHttpCallDispatcher::sendRequest ENTER");
 
-    bool useTls = false;
-    std::string host;
-    std::string path;
-    std::uint32_t port = 0;
-    parseUrl(url, useTls, host, path, port);
-    trace.detail("parseURL: ", host, " port: ", port);
+    const CallPassage passage;
+    Target target;
+    parseUrl(url, target.useTls, target.host, target.path, target.port);
+    trace.detail("parseURL: ", target.host, " port: ", target.port);
 
-    HttpExchange exchange(useTls, limits_, trace);
-    exchange.connect(host, port);
-    std::string reply = exchange.post(host, port, path, request);
+    const auto exchange = std::make_shared<HttpExchange>(target.useTls, limits_, trace);
+    std::string reply = CallPassage::hook() ? carryBeside(exchange, target, request)
+                                            : carry(*exchange, target, request);
 
     trace.step("CHttpCallDispatcher::sendRequest LEAVE");
     return reply;

@@ -18,8 +18,8 @@ struct HttpLimits {
     std::uint64_t largestContent = 0x40000000;
 };
 
-/// Carries each call as one HTTP or HTTPS POST on a connection of its own, on the thread of the
-/// caller.
+/// Carries each call as one HTTP or HTTPS POST on a connection of its own: on the thread of the
+/// caller, or on one beside it where the caller has a hook to wait with.
 class CHttpCallDispatcher final : public ICallDispatcher {
 public:
     CHttpCallDispatcher(std::uint32_t traceLevel, std::string traceFile, HttpLimits limits = {});

@@ -6,6 +6,7 @@
 #include <sstream>
 #include <utility>
 
+#include <boost/asio/post.hpp>
 #include <boost/asio/ssl/error.hpp>
 #include <boost/beast/core/flat_buffer.hpp>
 #include <boost/beast/http/empty_body.hpp>
@@ -57,10 +58,10 @@ std::string requestHead(const std::string& host, std::uint32_t port, const std::
 
 } // namespace
 
-HttpExchange::HttpExchange(bool useTls, const HttpLimits& limits, const Tracer& trace)
+HttpExchange::HttpExchange(bool useTls, const HttpLimits& limits, Tracer trace)
     : context_(tracedTlsContext(trace))
     , limits_(limits)
-    , trace_(trace)
+    , trace_(std::move(trace))
     , timer_(io_)
     , connection_(io_, context_, useTls) {}
 
@@ -159,7 +160,14 @@ ErrorCode HttpExchange::receive(Stream& stream, ResponseParser& parser) {
     return error;
 }
 
+void HttpExchange::abandon() {
+    abandoned_ = true;
+    asio::post(io_, [this] { connection_.close(); });
+}
+
 ErrorCode HttpExchange::await(const std::function<void(TcpConnection::Completion)>& start) {
+    if (abandoned_)
+        return asio::error::operation_aborted;
     std::optional<ErrorCode> result;
     bool timedOut = false;
     bool timerDone = false;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <atomic>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -19,12 +20,12 @@
 
 namespace hessiancln {
 
-/// One request and its answer on a connection of their own, all on the calling thread. Only the
-/// dispatcher includes this header.
+/// One request and its answer on a connection of their own, all on one thread. Only the dispatcher
+/// includes this header.
 class HttpExchange {
 public:
-    /// `trace` must outlive this object. Raises `boost::system::system_error`.
-    HttpExchange(bool useTls, const HttpLimits& limits, const Tracer& trace);
+    /// Raises `boost::system::system_error`.
+    HttpExchange(bool useTls, const HttpLimits& limits, Tracer trace);
 
     /// Raises `invoke_exception`.
     void connect(const std::string& host, std::uint32_t port);
@@ -33,6 +34,10 @@ public:
     /// `invoke_exception` unless the answer is whole and its status 200.
     std::string post(const std::string& host, std::uint32_t port, const std::string& path,
                      const std::string& body);
+
+    /// Closes the connection from another thread, and has nothing sent any more. What is under way
+    /// then raises, though a resolution of a name only when it ends by itself.
+    void abandon();
 
 private:
     using ResponseParser = boost::beast::http::response_parser<boost::beast::http::string_body>;
@@ -50,7 +55,8 @@ private:
     boost::asio::io_context io_{1};
     boost::asio::ssl::context context_;
     HttpLimits limits_;
-    const Tracer& trace_;
+    const Tracer trace_;
+    std::atomic<bool> abandoned_ = false;
     boost::asio::steady_timer timer_;
     TcpConnection connection_;
 };

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "transport/call_failure.h"
+#include "transport/call_passage.h"
 #include "transport/parse_url.h"
 #include "transport/single_stream_connection.h"
 #include "transport/tracer.h"
@@ -93,6 +94,7 @@ std::string CRawStreamDispacher::sendRequest(const std::string& url, const std::
 std::string CRawStreamDispacher::send(const std::string& url, const std::string& request) {
     const Tracer trace(traceLevel(), traceFile());
     trace.step("CRawStreamDispacher::sendRequest ENTER");
+    const CallPassage passage;
     const ConnectionKey key = endpointOf(url);
     std::string response;
     if (reuseConnections_)

@@ -19,42 +19,6 @@ constexpr std::size_t unwrittenLimit = 16;
 
 } // namespace
 
-/// Where the caller of a blocking call sleeps. The stream holds a share in it, since it may find
-/// the reply when the caller has left with an exception.
-struct CSingleStreamDispatcherConnection::PendingReply {
-    void succeed(std::string& reply) {
-        {
-            const std::lock_guard lock(mutex);
-            response.swap(reply);
-            done = true;
-        }
-        condition.notify_one();
-    }
-
-    void fail(const std::string& text) {
-        {
-            const std::lock_guard lock(mutex);
-            try {
-                failure = text;
-            } catch (const std::bad_alloc&) {
-                failure = outOfMemory;
-            }
-        }
-        condition.notify_one();
-    }
-
-    void wait() {
-        std::unique_lock lock(mutex);
-        condition.wait(lock, [this] { return done || failure; });
-    }
-
-    std::mutex mutex;
-    std::condition_variable condition;
-    bool done = false;
-    std::optional<std::string> failure;
-    std::string response;
-};
-
 boost::shared_ptr<CSingleStreamDispatcherConnection>
 CSingleStreamDispatcherConnection::start(const ConnectionKey& key, std::uint32_t traceLevel,
                                          const std::string& traceFile,
@@ -91,7 +55,8 @@ void CSingleStreamDispatcherConnection::SendRequest(const std::string& url,
     if (std::this_thread::get_id() == streamThread_)
         throw invoke_exception("A handler can't wait for a reply on its own connection");
 
-    const auto reply = std::make_shared<PendingReply>();
+    const auto reply =
+        std::make_shared<PendingReply>([this](const std::string& text) { giveUp(text); });
     Calls call = newCall(url, request);
     call.front()->succeed = [reply](std::string& body) { reply->succeed(body); };
     call.front()->fail = [reply](const std::string& text) { reply->fail(text); };
@@ -99,16 +64,14 @@ void CSingleStreamDispatcherConnection::SendRequest(const std::string& url,
         const std::lock_guard lock(writeMutex_);
         ++writeCount_;
     }
-    if (submit(call))
-        reply->wait();
-    else
-        reply->failure = errorText();
-
-    if (!reply->done) {
+    if (!submit(call))
+        reply->fail(errorText());
+    try {
+        response = reply->wait();
+    } catch (const invoke_exception&) {
         trace_.step("CSingleStreamDispatcherConnection::SendRequest EXCEPTION");
-        throw invoke_exception(*reply->failure);
+        throw;
     }
-    response.swap(reply->response);
     trace_.step("CSingleStreamDispatcherConnection::SendRequest LEAVE");
 }
 
@@ -154,6 +117,12 @@ void CSingleStreamDispatcherConnection::WaitForStop() {
     if (traceFailure)
         std::rethrow_exception(traceFailure);
     trace_.step("CSingleStreamDispatcherConnection::WaitForStop LEAVE");
+}
+
+/// For a caller who doesn't wait any longer. The connection ends on its own thread.
+void CSingleStreamDispatcherConnection::giveUp(const std::string& text) {
+    givenUp_ = true;
+    asio::post(io_, [this, text] { terminate(text); });
 }
 
 /// A call on its own, in a list already, so that it changes hands without asking for memory.
@@ -220,12 +189,15 @@ bool CSingleStreamDispatcherConnection::connect() {
         return false;
     trace_.detail("connecting: ", key_.host, " port: ", key_.port);
 
-    ErrorCode error;
-    std::optional<ErrorCode> result;
-    const auto endpoints = connection_->resolve(key_.host, key_.port, error);
-    if (error)
-        result = error;
-    else
+    TcpConnection::Endpoints endpoints;
+    std::optional<ErrorCode> result = await([&](auto done) {
+        connection_->asyncResolve(key_.host, key_.port, shared_from_this(),
+                                  [&endpoints, done](const ErrorCode& error, const auto& found) {
+                                      endpoints = found;
+                                      done(error);
+                                  });
+    });
+    if (result && !*result)
         result = await([&](auto done) { connection_->asyncConnect(endpoints, done); });
     if (result && *result) {
         trace_.detail("connect: ", result->value(), " msg: ", result->message());
@@ -305,11 +277,12 @@ void CSingleStreamDispatcherConnection::terminate(std::string_view cause) {
         writeCondition_.notify_all();
     }
 
-    // A stream that was up keeps its socket, which marks it as one not to be replaced.
+    // A stream that was up keeps its socket, which marks it as one not to be replaced. So does one
+    // that was given up before: the calls that still come for it must not begin another wait.
     if (streaming_) {
         connection_->shutDown();
     } else {
-        open_ = false;
+        open_ = givenUp_.load();
         if (connection_)
             connection_->close();
     }

@@ -25,6 +25,7 @@
 #include "transport/frame.h"
 #include "transport/i_call_dispatcher.h"
 #include "transport/invoke_exception.h"
+#include "transport/pending_reply.h"
 #include "transport/tcp_connection.h"
 #include "transport/tracer.h"
 
@@ -66,7 +67,8 @@ public:
     /// Ends the stream in whatever state it is, and its thread. Not for handlers.
     void WaitForStop();
 
-    /// False once the socket is closed: the connection never came up, or has ended.
+    /// False once the socket is closed: the connection never came up, or has ended. One that its
+    /// caller gave up counts as open, since it isn't to be replaced.
     bool isOpen() const { return open_; }
 
     /// True once the stream is dead: no call gets through any more.
@@ -82,9 +84,9 @@ private:
     };
     using CallPtr = std::unique_ptr<Call>;
     using Calls = std::list<CallPtr>;
-    struct PendingReply;
 
     // Any thread
+    void giveUp(const std::string& text);
     static Calls newCall(const std::string& url, const std::string& request);
     bool submit(Calls& call);
     void forgetUnwritten();
@@ -120,6 +122,7 @@ private:
     std::thread thread_;
     std::atomic<std::thread::id> streamThread_;
     std::atomic<bool> open_ = true;
+    std::atomic<bool> givenUp_ = false;
 
     std::mutex stateMutex_; ///< guards the next four
     std::atomic<bool> terminated_ = false;

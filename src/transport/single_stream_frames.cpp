@@ -112,7 +112,7 @@ void CSingleStreamDispatcherConnection::startWriting(bool writeCompleted) {
         const std::lock_guard lock(writeMutex_);
         if (writeCompleted)
             writeQueue_.pop_front();
-        if (!writeQueue_.empty())
+        if (!writeQueue_.empty() && !givenUp_)
             frame = &writeQueue_.front();
     }
     if (frame) {

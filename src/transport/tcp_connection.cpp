@@ -3,8 +3,10 @@
 #include "transport/tcp_connection.h"
 
 #include <limits>
+#include <thread>
 
 #include <boost/asio/connect.hpp>
+#include <boost/asio/post.hpp>
 
 namespace hessiancln {
 
@@ -15,6 +17,12 @@ namespace {
 /// As in "111 (Connection refused)".
 std::string describe(const ErrorCode& error) {
     return std::to_string(error.value()) + " (" + error.message() + ")";
+}
+
+bool isNumeric(const std::string& host) {
+    ErrorCode error;
+    asio::ip::make_address(host, error);
+    return !error;
 }
 
 } // namespace
@@ -38,9 +46,27 @@ TcpConnection::Endpoints TcpConnection::resolve(const std::string& host, std::ui
         error = asio::error::service_not_found;
         return {};
     }
-    asio::ip::tcp::resolver resolver(stream_.get_executor());
+    asio::io_context io;
+    asio::ip::tcp::resolver resolver(io);
     return resolver.resolve(host, std::to_string(port), asio::ip::resolver_base::numeric_service,
                             error);
+}
+
+void TcpConnection::asyncResolve(const std::string& host, std::uint32_t port,
+                                 const boost::shared_ptr<void>& owner, Resolved completion) {
+    const auto resolveAndTell = [host, port, completion = std::move(completion),
+                                 executor = stream_.get_executor()] {
+        ErrorCode error;
+        const Endpoints endpoints = resolve(host, port, error);
+        asio::post(executor, [=] { completion(error, endpoints); });
+    };
+    if (isNumeric(host)) {
+        resolveAndTell();
+        return;
+    }
+    // The system offers no way to end a resolution. The thread is left behind then, with its share
+    // in the owner, and what it posts is never run.
+    std::thread([owner, resolveAndTell] { resolveAndTell(); }).detach();
 }
 
 void TcpConnection::asyncConnect(const Endpoints& endpoints, Completion completion) {

@@ -13,6 +13,7 @@
 #include <boost/asio/ssl/context.hpp>
 #include <boost/asio/ssl/stream.hpp>
 #include <boost/asio/write.hpp>
+#include <boost/shared_ptr.hpp>
 
 /// What both transports share of the network. Only sources of this folder and their tests include
 /// this header, so that Asio stays in here.
@@ -31,6 +32,7 @@ public:
     using TlsStream = boost::asio::ssl::stream<Socket>;
     using Endpoints = boost::asio::ip::tcp::resolver::results_type;
     using Completion = std::function<void(const ErrorCode&)>;
+    using Resolved = std::function<void(const ErrorCode&, const Endpoints&)>;
     using FinishedHandler = std::function<void()>;
 
     /// `finished`, which may be empty, is called by `finish`. Raises a standard exception if the
@@ -43,7 +45,12 @@ public:
     TlsStream& tlsStream() { return stream_; }
 
     /// Blocks for as long as the system's resolver does.
-    Endpoints resolve(const std::string& host, std::uint32_t port, ErrorCode& error);
+    static Endpoints resolve(const std::string& host, std::uint32_t port, ErrorCode& error);
+
+    /// Resolves a name on a thread of its own, which nobody has to wait for, and a number at once.
+    /// `owner` is what the context and this object live in.
+    void asyncResolve(const std::string& host, std::uint32_t port,
+                      const boost::shared_ptr<void>& owner, Resolved completion);
 
     void asyncConnect(const Endpoints& endpoints, Completion completion);
     void asyncHandshake(Completion completion);

@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "transport/pending_reply.h"
+
+#include <utility>
+
+#include "transport/call_failure.h"
+
+namespace hessiancln {
+
+PendingReply::PendingReply(GiveUp giveUp)
+    : giveUp_(std::move(giveUp)) {}
+
+/// False, and without effect, if the call has finished before.
+template <class Result>
+bool PendingReply::finish(Result setResult) {
+    {
+        const std::lock_guard lock(mutex_);
+        if (finished_)
+            return false;
+        setResult();
+        finished_ = true;
+        if (wake_)
+            wake_();
+    }
+    condition_.notify_one();
+    return true;
+}
+
+void PendingReply::succeed(std::string& reply) {
+    finish([&] { reply_.swap(reply); });
+}
+
+bool PendingReply::fail(const std::string& text) {
+    return finish([&] {
+        try {
+            failureText_ = text;
+        } catch (const std::bad_alloc&) {
+            failureText_ = outOfMemory;
+        }
+    });
+}
+
+bool PendingReply::fail(std::exception_ptr failure) {
+    return finish([&] { failure_ = std::move(failure); });
+}
+
+std::string PendingReply::wait() {
+    std::unique_lock lock(mutex_);
+    const auto done = [this] { return finished_; };
+    if (WaitHook* hook = CallPassage::hook()) {
+        if (!condition_.wait_for(lock, hook->patience(), done)) {
+            lock.unlock();
+            hook->wait(*this);
+            lock.lock();
+        }
+    }
+    condition_.wait(lock, done);
+    if (failure_)
+        std::rethrow_exception(std::exchange(failure_, nullptr));
+    if (failureText_)
+        throw invoke_exception(*failureText_);
+    return std::move(reply_);
+}
+
+bool PendingReply::finished() const {
+    const std::lock_guard lock(mutex_);
+    return finished_;
+}
+
+void PendingReply::onFinish(std::function<void()> wake) {
+    const std::lock_guard lock(mutex_);
+    wake_ = std::move(wake);
+    if (finished_ && wake_)
+        wake_();
+}
+
+void PendingReply::giveUp(const std::string& text) {
+    if (!fail(text))
+        return;
+    try {
+        giveUp_(text);
+    } catch (const std::bad_alloc&) {
+        // The caller goes nevertheless, and the connection stays as silent as it was.
+    }
+}
+
+} // namespace hessiancln
