@@ -100,9 +100,9 @@ std::vector<std::string> Simulator::liveObjects() const {
     return parts_->agent.objects().held();
 }
 
-void Simulator::inject(std::string method, Injection injection, Times times) {
+void Simulator::inject(std::string method, Injection injection, Times times, std::size_t after) {
     const std::lock_guard guard(parts_->agent.lock());
-    parts_->agent.injections().add(std::move(method), std::move(injection), times);
+    parts_->agent.injections().add(std::move(method), std::move(injection), times, after);
 }
 
 void Simulator::clearInjections() {

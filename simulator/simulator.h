@@ -69,8 +69,10 @@ public:
     std::vector<std::string> liveObjects() const;
 
     /// For the next call of `method` ("getName", "BackupSet.getName", or "*" for any), or for
-    /// each one. Injections for the same method meet its calls in the order given.
-    void inject(std::string method, Injection injection, Times times = Times::Once);
+    /// each one, once so many of them as `after` says have passed. Injections for the same method
+    /// meet its calls in the order given.
+    void inject(std::string method, Injection injection, Times times = Times::Once,
+                std::size_t after = 0);
     void clearInjections();
     /// How many injections have not met their call, or apply until cleared.
     std::size_t waitingInjections() const;

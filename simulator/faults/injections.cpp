@@ -28,16 +28,21 @@ bool fits(const Injection& injection, wire::Channel channel) {
 
 } // namespace
 
-void Injections::add(std::string method, Injection injection, Times times) {
-    waiting_.push_back({std::move(method), std::move(injection), times});
+void Injections::add(std::string method, Injection injection, Times times, std::size_t after) {
+    waiting_.push_back({std::move(method), std::move(injection), times, after});
 }
 
 std::optional<Injection> Injections::take(std::string_view className, std::string_view method,
                                           wire::Channel channel) {
     const std::string full = std::string(className) + "." + std::string(method);
-    const auto found = std::find_if(waiting_.begin(), waiting_.end(), [&](const Waiting& one) {
+    const auto found = std::find_if(waiting_.begin(), waiting_.end(), [&](Waiting& one) {
         const bool named = one.method == method || one.method == full || one.method == "*";
-        return named && fits(one.injection, channel);
+        if (!named || !fits(one.injection, channel))
+            return false;
+        if (one.after == 0)
+            return true;
+        --one.after;
+        return false;
     });
     if (found == waiting_.end())
         return std::nullopt;

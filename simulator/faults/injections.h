@@ -88,8 +88,9 @@ enum class Times { Once, UntilCleared };
 /// The injections that wait for their calls.
 class Injections {
 public:
-    /// `method` is "getName", "BackupSet.getName", or "*" for any.
-    void add(std::string method, Injection injection, Times times);
+    /// `method` is "getName", "BackupSet.getName", or "*" for any. The first calls that fit pass:
+    /// so many as `after` says.
+    void add(std::string method, Injection injection, Times times, std::size_t after = 0);
     void clear() { waiting_.clear(); }
 
     /// How many have not met their call yet, or apply until cleared.
@@ -104,6 +105,7 @@ private:
         std::string method;
         Injection injection;
         Times times;
+        std::size_t after;
     };
     std::vector<Waiting> waiting_;
 };

@@ -70,6 +70,14 @@ TEST_F(Injecting, UntilCleared) {
     EXPECT_EQ(call("getTarnClientInfo"), plain_);
 }
 
+TEST_F(Injecting, AfterSomeCalls) {
+    agent_->inject("*", Fault{"no", "X", false}, Times::Once, 2);
+    EXPECT_EQ(call("getTarnClientInfo"), plain_);
+    EXPECT_EQ(call("getTarnClientInfo"), plain_);
+    EXPECT_EQ(call("getTarnClientInfo"), raw::fault("X", "no"));
+    EXPECT_EQ(call("getTarnClientInfo"), plain_);
+}
+
 TEST_F(Injecting, InTheOrderGivenAndForItsMethodOnly) {
     agent_->inject("getTarnClientInfo", Fault{"first", "X", false});
     agent_->inject("*", Fault{"second", "X", false});
