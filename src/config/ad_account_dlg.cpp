@@ -12,6 +12,7 @@
 #include "session/text.h"
 #include "ui/branding_resources.h"
 #include "ui/error_box.h"
+#include "ui/later.h"
 #include "ui/message_box.h"
 #include "ui/remote_action.h"
 #include "ui_ad_account_dlg.h"
@@ -22,7 +23,7 @@ ADAccountDlg::ADAccountDlg(QWidget* parent)
     ui_->setupUi(this);
     setWindowIcon(ui::g_branding.applicationIcon());
     // Once the dialog is on the screen: a failure's box then stands before it.
-    QMetaObject::invokeMethod(this, &ADAccountDlg::read, Qt::QueuedConnection);
+    ui::later(*this, [this] { read(); });
 }
 
 ADAccountDlg::~ADAccountDlg() {

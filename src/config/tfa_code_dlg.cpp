@@ -9,6 +9,7 @@
 #include "session/required.h"
 #include "session/text.h"
 #include "ui/branding_resources.h"
+#include "ui/later.h"
 #include "ui/remote_action.h"
 #include "ui_tfa_code_dlg.h"
 
@@ -23,7 +24,7 @@ TFACodeDlg::TFACodeDlg(int purpose, QWidget* parent)
     setWindowIcon(ui::g_branding.applicationIcon());
     connect(ui_->btnCancel, &QPushButton::clicked, this, &TFACodeDlg::reject);
     // Once the dialog is on the screen: a failure's box then stands before it.
-    QMetaObject::invokeMethod(this, &TFACodeDlg::on_btnResend_clicked, Qt::QueuedConnection);
+    ui::later(*this, [this] { on_btnResend_clicked(); });
 }
 
 TFACodeDlg::~TFACodeDlg() = default;

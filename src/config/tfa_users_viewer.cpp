@@ -15,6 +15,7 @@
 #include "session/connection.h"
 #include "session/required.h"
 #include "ui/branding_resources.h"
+#include "ui/later.h"
 #include "ui/message_box.h"
 #include "ui/remote_action.h"
 #include "ui/standard_buttons.h"
@@ -36,7 +37,7 @@ TFAUsersViewer::TFAUsersViewer(QWidget* parent)
     setUpTable();
     connect(ui_->btnClose, &QPushButton::clicked, this, &TFAUsersViewer::reject);
     // Once the dialog is on the screen: a failure's box then stands before it.
-    QMetaObject::invokeMethod(this, &TFAUsersViewer::read, Qt::QueuedConnection);
+    ui::later(*this, [this] { read(); });
 }
 
 TFAUsersViewer::~TFAUsersViewer() = default;

@@ -14,6 +14,7 @@
 #include "models/item_pixmap.h"
 #include "session/text.h"
 #include "ui/error_box.h"
+#include "ui/later.h"
 
 using models::CheckableNode;
 using models::CheckState;
@@ -90,7 +91,7 @@ void CBackedUpDataModel::fetch(models::LazyNode& node) const {
         announceFetched(node);
         auto* model = const_cast<CBackedUpDataModel*>(this);
         const auto tell = [model, text = ui::errorText(error)] { emit model->fetchFailed(text); };
-        QMetaObject::invokeMethod(model, tell, Qt::QueuedConnection);
+        ui::later(*model, tell);
     }
 }
 

@@ -4,11 +4,42 @@
 
 #include <utility>
 
+#include "transport/call_passage.h"
+#include "ui/later.h"
+
 namespace models {
+
+namespace {
+
+/// The root of a tree that shows nothing.
+class NoRows : public LazyNode {
+public:
+    const std::string& name() const override { return name_; }
+    bool isLeaf() const override { return true; }
+
+private:
+    Children askForChildren() override { return {}; }
+
+    std::string name_;
+};
+
+} // namespace
 
 LazyTreeModel::LazyTreeModel(std::unique_ptr<LazyNode> root, QObject* parent)
     : QAbstractItemModel(parent)
     , root_(std::move(root)) {}
+
+LazyTreeModel::~LazyTreeModel() {
+    // The nodes release what they hold of the agent. While one of those calls is waited for, views
+    // must not find nodes that are half gone.
+    beginResetModel();
+    const auto doomed = std::exchange(root_, std::make_unique<NoRows>());
+    endResetModel();
+}
+
+QVariant LazyTreeModel::data(const QModelIndex&, int) const {
+    return {};
+}
 
 QModelIndex LazyTreeModel::index(int row, int column, const QModelIndex& parent) const {
     LazyNode& node = nodeAt(parent);
@@ -62,8 +93,23 @@ QModelIndex LazyTreeModel::indexOf(const LazyNode& node) const {
 void LazyTreeModel::fetch(LazyNode& node) const {
     if (node.isFetched())
         return;
+    if (hessiancln::CallPassage::underWay()) {
+        offerAgainLater();
+        return;
+    }
     node.fetch();
     announceFetched(node);
+}
+
+void LazyTreeModel::offerAgainLater() const {
+    if (std::exchange(offersAgain_, true))
+        return;
+    auto* model = const_cast<LazyTreeModel*>(this);
+    ui::later(*model, [model] {
+        model->offersAgain_ = false;
+        emit model->layoutAboutToBeChanged();
+        emit model->layoutChanged();
+    });
 }
 
 void LazyTreeModel::announceFetched(LazyNode& node) const {
@@ -74,7 +120,7 @@ void LazyTreeModel::announceFetched(LazyNode& node) const {
         const QModelIndex index = model->indexOf(node);
         emit model->dataChanged(index, index);
     };
-    QMetaObject::invokeMethod(model, announce, Qt::QueuedConnection);
+    ui::later(*model, announce);
 }
 
 } // namespace models

@@ -15,6 +15,10 @@ namespace models {
 class LazyTreeModel : public QAbstractItemModel {
     Q_OBJECT
 public:
+    ~LazyTreeModel() override;
+
+    /// Nothing: of a model that is on its way out, a view may still ask.
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
     QModelIndex parent(const QModelIndex& index) const override;
     using QObject::parent;
@@ -35,7 +39,8 @@ protected:
     /// Invalid for the root.
     QModelIndex indexOf(const LazyNode& node) const;
 
-    /// Has the node fetch its children, if it hasn't yet.
+    /// Has the node fetch its children, if it hasn't yet. While another call is waited for, it
+    /// stays as it is, and views are asked to look again afterwards.
     virtual void fetch(LazyNode& node) const;
 
     /// Tells views that a node was fetched, and with that may have changed its look. Not at once,
@@ -43,7 +48,10 @@ protected:
     void announceFetched(LazyNode& node) const;
 
 private:
+    void offerAgainLater() const;
+
     std::unique_ptr<LazyNode> root_;
+    mutable bool offersAgain_ = false;
 };
 
 } // namespace models

@@ -9,6 +9,7 @@
 #include <QWizard>
 
 #include "ui/branding_resources.h"
+#include "ui/later.h"
 
 Q_DECLARE_METATYPE(std::exception_ptr)
 
@@ -83,7 +84,7 @@ void failWizard(QWizard* wizard, const std::exception_ptr& failure) {
         std::rethrow_exception(failure);
     wizard->setProperty(failureProperty, QVariant::fromValue(failure));
     // Later, as the wizard may be in the middle of turning to another page.
-    QMetaObject::invokeMethod(wizard, &QDialog::reject, Qt::QueuedConnection);
+    later(*wizard, [wizard] { wizard->reject(); });
 }
 
 } // namespace ui
