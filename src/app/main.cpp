@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
+#include "app/call_gate.h"
 #include "app/qt_single_application.h"
 #include "app/simple_gui_main_window.h"
 #include "app/start_up.h"
@@ -21,11 +22,14 @@ void prepareApplication() {
 }
 
 int runWindow(QtSingleApplication& application) {
+    app::CallGate gate;
     SimpleGUIMainWindow window;
+    window.keepAliveBy(gate);
     app::showAtOnce(window);
     QObject::connect(&application, &QtSingleApplication::messageReceived, &window,
                      &SimpleGUIMainWindow::showMainWindow);
     const int status = app::runLoggedIn(window);
+    gate.leaveSilentAgents();
     session::disconnectFromAgent();
     return status;
 }

@@ -11,6 +11,7 @@
 #include "app/activity_tables.h"
 #include "app/agent_policy.h"
 #include "app/backup_set_list.h"
+#include "app/connection_display.h"
 #include "app/initial_configuration.h"
 #include "app/login_check.h"
 #include "app/set_details_panel.h"
@@ -55,6 +56,8 @@ bool SimpleGUIMainWindow::doLogin(bool automatic) {
 void SimpleGUIMainWindow::showSession(const QString& server, const QString& user) {
     showStatus(tr("Logged in to '%1' as '%2'").arg(server, user));
     setWindowTitle(tr("Ostrand Backup - %1@%2").arg(user, server));
+    if (session::connectedToAgent())
+        connection_->begin(server, user);
 }
 
 void SimpleGUIMainWindow::showStatus(const QString& text) {
@@ -70,6 +73,7 @@ void SimpleGUIMainWindow::OnConnect() {
 
 void SimpleGUIMainWindow::OnDisconnect() {
     session::disconnectFromAgent();
+    connection_->end();
     setWindowTitle(tr("Ostrand Backup"));
     showStatus(tr("Current connection terminated"));
     updateEnabling();
@@ -84,8 +88,13 @@ void SimpleGUIMainWindow::checkInitialConfiguration() {
         return;
     const bool known =
         ui::remoteAction(*this, tr("Configuration Error"), ui::Cursor::arrow, [this] {
-            if (app::asksForInitialConfiguration(*session::getConnection()))
-                openInitialConfiguration();
+            try {
+                if (app::asksForInitialConfiguration(*session::getConnection()))
+                    openInitialConfiguration();
+            } catch (const std::exception& error) {
+                connection_->end(ui::errorText(error));
+                throw;
+            }
         });
     if (!known)
         OnDisconnect();
@@ -151,6 +160,7 @@ void SimpleGUIMainWindow::refresh(const std::function<void()>& read) {
     } catch (const std::exception& error) {
         showStatus(ui::errorText(error));
         activities_->clear();
+        connection_->end(ui::errorText(error));
         OnDisconnect();
     }
 }
@@ -158,6 +168,7 @@ void SimpleGUIMainWindow::refresh(const std::function<void()>& read) {
 void SimpleGUIMainWindow::refreshBackupSets() {
     if (!sets_->rebuild())
         return;
+    connection_->listed(sets_->count());
     // Last, when all rows are what they will be: an error box lets the next heartbeat in.
     showSetDetails();
     updateEnabling();

@@ -10,6 +10,8 @@
 
 #include "app/activity_tables.h"
 #include "app/backup_set_list.h"
+#include "app/call_gate.h"
+#include "app/connection_display.h"
 #include "app/enable_state.h"
 #include "app/set_details_panel.h"
 #include "app/tray_presence.h"
@@ -44,6 +46,7 @@ SimpleGUIMainWindow::SimpleGUIMainWindow(QWidget* parent, std::unique_ptr<app::T
     setUpToolBars();
     setUpActivities();
     setUpBackupSets();
+    setUpConnection();
     setUpGeometry();
     updateEnabling();
     heartbeat_.start();
@@ -92,6 +95,12 @@ void SimpleGUIMainWindow::setUpBackupSets() {
                                      *ui_->valItems, *ui_->valSchedule, *ui_->valRetention});
 }
 
+void SimpleGUIMainWindow::setUpConnection() {
+    connection_ = new app::ConnectionDisplay(*ui_->statusbar, *ui_->backupSetsView);
+    connect(connection_, &app::ConnectionDisplay::connectWanted, this,
+            &SimpleGUIMainWindow::OnConnect);
+}
+
 void SimpleGUIMainWindow::setUpGeometry() {
     resize(windowWidth, height());
     if (const QScreen* screen = QGuiApplication::primaryScreen())
@@ -109,6 +118,13 @@ void SimpleGUIMainWindow::setUpTray(std::unique_ptr<app::TrayIcon> icon) {
             &SimpleGUIMainWindow::sysTrayActivated);
     connect(&tray_->icon(), &QSystemTrayIcon::messageClicked, this,
             &SimpleGUIMainWindow::sysTrayMessageClicked);
+}
+
+void SimpleGUIMainWindow::keepAliveBy(app::CallGate& gate) {
+    gate.holdBack(heartbeatEventType());
+    gate.admit(*ui_->actionQuit);
+    gate.admit(tray_->actionShow());
+    gate.admit(tray_->actionHide());
 }
 
 app::EnableInputs SimpleGUIMainWindow::enableInputs() const {

@@ -24,6 +24,8 @@ class SimpleGUIMainWindow;
 namespace app {
 class ActivityTables;
 class BackupSetList;
+class CallGate;
+class ConnectionDisplay;
 class SetDetailsPanel;
 class TrayPresence;
 struct EnableInputs;
@@ -79,6 +81,9 @@ public:
     /// Selects the set with this id as soon as the agent lists it.
     void selectSetOnceListed(std::int32_t setId);
 
+    /// Says which of the window's events and actions may go on while a call is waited for.
+    void keepAliveBy(app::CallGate& gate);
+
     /// The type of the event that makes the window refresh itself.
     int heartbeatEventType() const { return heartbeat_.eventType(); }
 
@@ -132,6 +137,7 @@ private:
     void setUpActivities();
     void setUpBackupSets();
     void setUpGeometry();
+    void setUpConnection();
     void setUpTray(std::unique_ptr<app::TrayIcon> icon);
 
     app::EnableInputs enableInputs() const;
@@ -163,6 +169,7 @@ private:
     std::unique_ptr<app::BackupSetList> sets_;
     std::unique_ptr<app::SetDetailsPanel> details_;
     std::unique_ptr<app::TrayPresence> tray_;
+    app::ConnectionDisplay* connection_ = nullptr; ///< belongs to the status bar
     app::Heartbeat heartbeat_;
     QString status_;         ///< of the status bar, which shows the tip of a menu in its place
     QString refreshFailure_; ///< of the last refresh; empty if that came through

@@ -6,6 +6,7 @@
 #include <thread>
 #include <utility>
 
+#include "base/secret.h"
 #include "transport/call_failure.h"
 #include "transport/call_passage.h"
 #include "transport/http_exchange.h"
@@ -34,9 +35,10 @@ std::string carryBeside(const std::shared_ptr<HttpExchange>& exchange, const Tar
                         const std::string& request) {
     const auto reply =
         std::make_shared<PendingReply>([exchange](const std::string&) { exchange->abandon(); });
-    std::thread([=] {
+    std::thread([exchange, target, reply, kept = base::Secret(request)] {
         try {
-            std::string body = carry(*exchange, target, request);
+            std::string body = carry(*exchange, target, kept.text());
+            const base::WipedAtEnd guard(body); // unless the caller has taken it
             reply->succeed(body);
         } catch (...) {
             reply->fail(std::current_exception());

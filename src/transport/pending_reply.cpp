@@ -4,12 +4,17 @@
 
 #include <utility>
 
+#include "base/secret.h"
 #include "transport/call_failure.h"
 
 namespace hessiancln {
 
 PendingReply::PendingReply(GiveUp giveUp)
     : giveUp_(std::move(giveUp)) {}
+
+PendingReply::~PendingReply() {
+    base::wipe(reply_);
+}
 
 /// False, and without effect, if the call has finished before.
 template <class Result>

@@ -21,6 +21,8 @@ public:
     using GiveUp = std::function<void(const std::string& text)>;
 
     explicit PendingReply(GiveUp giveUp);
+    /// Wipes a reply that nobody has taken.
+    ~PendingReply();
 
     /// Any thread. The first of these counts; the others do nothing, and `fail` is then false. The
     /// reply is taken out of its argument.

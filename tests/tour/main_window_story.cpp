@@ -14,10 +14,12 @@
 
 #include "app/about_dlg.h"
 #include "app/backup_set_view_item.h"
+#include "app/call_gate.h"
 #include "app/event_log_viewer.h"
 #include "app/login_check.h"
 #include "app/start_up.h"
 #include "simulator/world/world.h"
+#include "tests/support/gui_wait.h"
 #include "tests/support/scripted_security_operations.h"
 #include "tests/support/security_operations_override.h"
 #include "tests/tour/photographer.h"
@@ -168,6 +170,32 @@ void takeFailures(Photographer& photographer, const QString& refusal) {
     photographer.run("OnDelete", "delete-question");
 }
 
+/// An agent that falls silent, and what is left of the session then.
+void takeSilence(Album& album) {
+    app::CallGate gate;
+    Photographer photographer(album);
+    photographer.window().keepAliveBy(gate);
+    photographer.logIn();
+    photographer.selectSet(documents);
+    photographer.agent().inject("getTarnClientInfo", simulator::Silence{});
+    const support::InTheWait user([&] {
+        if (!support::waitingPanel())
+            return;
+        photographer.take(photographer.window(), "main-window-waiting");
+        support::clickDisconnect();
+    });
+    photographer.window().refreshAll();
+    photographer.take(photographer.window(), "main-window-lost");
+    photographer.logIn();
+    photographer.selectSet(documents);
+    photographer.expect<QWizard>([&](QWizard& wizard) {
+        photographer.refuse("getTarnClientInfo");
+        photographer.window().refreshAll();
+        photographer.take(wizard, "wizard-session-ended");
+    });
+    photographer.run("on_btnSchedule_clicked");
+}
+
 } // namespace
 
 void takeStart(Album& album) {
@@ -196,6 +224,7 @@ void takeMainWindow(Album& album) {
         photographer.selectSet(documents);
         photographer.take(photographer.window(), "main-window-central");
     }
+    takeSilence(album);
     Photographer photographer(album);
     photographer.logIn();
     photographer.take(photographer.window(), "main-window-sets");

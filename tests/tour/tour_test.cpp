@@ -116,6 +116,7 @@ const char* const agentsWords[] = {
 const char* const sameInAllLanguages[] = {"Tarn-Mobile User",
                                           "Norvel Inc",
                                           "Unknown user name or bad password.",
+                                          "No API connection exists",
                                           "The authentication code is wrong.",
                                           "Translation error",
                                           "Failed to load translation data from sg_i18n_xx"};

@@ -62,6 +62,14 @@ void leave(AwaitedCall& call) {
     call.giveUp(goodbye);
 }
 
+/// A busy machine may take long until a call has come to the server.
+ScriptedHook::Work leaveAfter(Signal& asked) {
+    return [&asked](AwaitedCall& call) {
+        EXPECT_TRUE(asked.wait());
+        leave(call);
+    };
+}
+
 struct Endpoint {
     bool stream = false;
     Mode mode = Mode::plain;
@@ -154,11 +162,13 @@ TEST_P(CallWait, AReplyThatDripsIsOneWait) {
 }
 
 TEST_P(CallWait, GivingUpASilentServerFailsTheCallAndClosesTheConnection) {
-    LoopbackServer server(GetParam().mode, [](Peer& peer) {
+    Signal asked;
+    LoopbackServer server(GetParam().mode, [&](Peer& peer) {
         GetParam().receiveCall(peer);
+        asked.raise();
         peer.expectClose();
     });
-    ScriptedHook hook(leave);
+    ScriptedHook hook(leaveAfter(asked));
     const WaitHookInstallation installed(hook);
     const auto dispatcher = GetParam().dispatcher();
     EXPECT_EQ(failureOf(*dispatcher, server.url()), goodbye);
@@ -166,22 +176,28 @@ TEST_P(CallWait, GivingUpASilentServerFailsTheCallAndClosesTheConnection) {
 }
 
 TEST_P(CallWait, GivingUpWithinAReplyFailsTheCall) {
-    LoopbackServer server(GetParam().mode, [](Peer& peer) {
+    Signal asked;
+    LoopbackServer server(GetParam().mode, [&](Peer& peer) {
         GetParam().receiveCall(peer);
-        peer.send(GetParam().reply().substr(0, 10)).expectClose();
+        peer.send(GetParam().reply().substr(0, 10));
+        asked.raise();
+        peer.expectClose();
     });
-    ScriptedHook hook(leave);
+    ScriptedHook hook(leaveAfter(asked));
     const WaitHookInstallation installed(hook);
     EXPECT_EQ(failure(server.url()), goodbye);
     EXPECT_TRUE(server.waitForEnded(1));
 }
 
 TEST_P(CallWait, GivingUpAnAnnouncedReplyThatNeverComesFailsTheCall) {
-    LoopbackServer server(GetParam().mode, [](Peer& peer) {
+    Signal asked;
+    LoopbackServer server(GetParam().mode, [&](Peer& peer) {
         GetParam().receiveCall(peer);
-        peer.send(GetParam().hugeHead() + "so far").expectClose();
+        peer.send(GetParam().hugeHead() + "so far");
+        asked.raise();
+        peer.expectClose();
     });
-    ScriptedHook hook(leave);
+    ScriptedHook hook(leaveAfter(asked));
     const WaitHookInstallation installed(hook);
     EXPECT_EQ(failure(server.url()), goodbye);
     EXPECT_TRUE(server.waitForEnded(1));
@@ -283,11 +299,13 @@ TEST_P(CallWait, AConnectionThatDoesntComeUpCanBeGivenUp) {
 TEST_P(CallWait, AHandshakeThatStopsCanBeGivenUp) {
     if (GetParam().mode == Mode::plain)
         GTEST_SKIP() << "there is no handshake";
-    LoopbackServer server(Mode::tls, [](Peer& peer) {
+    Signal asked;
+    LoopbackServer server(Mode::tls, [&](Peer& peer) {
         peer.receive(5);
+        asked.raise();
         peer.receiveUntilClose();
     });
-    ScriptedHook hook(leave);
+    ScriptedHook hook(leaveAfter(asked));
     const WaitHookInstallation installed(hook);
     EXPECT_EQ(failure(server.url()), goodbye);
     EXPECT_TRUE(server.waitForEnded(1));
@@ -298,11 +316,13 @@ class StreamWait : public RawStream {};
 TARN_ON_PLAIN_AND_TLS(StreamWait);
 
 TEST_P(StreamWait, AfterAGivenUpCallTheOthersFailAtOnceAndSendNothing) {
-    LoopbackServer server(GetParam(), [](Peer& peer) {
+    Signal asked;
+    LoopbackServer server(GetParam(), [&](Peer& peer) {
         peer.open().receiveFrame();
+        asked.raise();
         peer.expectClose();
     });
-    ScriptedHook hook(leave);
+    ScriptedHook hook(leaveAfter(asked));
     const WaitHookInstallation installed(hook);
     CRawStreamDispacher dispatcher(0, "", true);
     EXPECT_EQ(failureOf(dispatcher, server.url()), goodbye);

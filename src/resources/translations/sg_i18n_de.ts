@@ -508,6 +508,41 @@ rechts neu einrichten.</translation>
     </message>
 </context>
 <context>
+    <name>ConnectionTexts</name>
+    <message>
+        <source>Connected to %1</source>
+        <translation>Verbunden mit %1</translation>
+    </message>
+    <message>
+        <source>Lost at %1: %2</source>
+        <translation>Verloren um %1: %2</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>Nicht verbunden</translation>
+    </message>
+    <message>
+        <source>Connected to %1 as %2</source>
+        <translation>Verbunden mit %1 als %2</translation>
+    </message>
+    <message>
+        <source>The connection to %1 was lost at %2:</source>
+        <translation>Die Verbindung zu %1 ging verloren: %2</translation>
+    </message>
+    <message>
+        <source>Not connected to an agent</source>
+        <translation>Mit keinem Agenten verbunden</translation>
+    </message>
+    <message>
+        <source>The session has ended: %1</source>
+        <translation>Die Sitzung ist beendet: %1</translation>
+    </message>
+    <message>
+        <source>The session has ended.</source>
+        <translation>Die Sitzung ist beendet.</translation>
+    </message>
+</context>
+<context>
     <name>DeleteSelectPage</name>
     <message>
         <source>Delete Items</source>
@@ -4054,6 +4089,21 @@ Klicken Sie hier, um diesen Hinweis nicht mehr zu sehen.</translation>
     </message>
 </context>
 <context>
+    <name>WaitingPanel</name>
+    <message>
+        <source>Stops waiting and leaves the agent (Esc)</source>
+        <translation>Beendet das Warten und verlässt den Agenten (Esc)</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Trennen</translation>
+    </message>
+    <message>
+        <source>The agent hasn&apos;t answered for %1 s.</source>
+        <translation>Der Agent antwortet seit %1 s nicht.</translation>
+    </message>
+</context>
+<context>
     <name>WizardButtonText</name>
     <message>
         <source>&amp;Back</source>
@@ -4161,6 +4211,27 @@ Klicken Sie hier, um diesen Hinweis nicht mehr zu sehen.</translation>
     <message>
         <source>Unknown activity type</source>
         <translation>Unbekannte Aktivität</translation>
+    </message>
+</context>
+<context>
+    <name>app::CallGate</name>
+    <message>
+        <source>Disconnected, as the agent hadn&apos;t answered for %1 s.</source>
+        <translation>Getrennt, da der Agent %1 s lang nicht geantwortet hat.</translation>
+    </message>
+</context>
+<context>
+    <name>app::ConnectionField</name>
+    <message>
+        <source>Click to connect.</source>
+        <translation>Zum Verbinden klicken.</translation>
+    </message>
+</context>
+<context>
+    <name>app::SessionEndedNotice</name>
+    <message>
+        <source>Connect</source>
+        <translation>Verbinden</translation>
     </message>
 </context>
 <context>

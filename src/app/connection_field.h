@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QToolButton>
+
+#include "app/connection_state.h"
+
+namespace app {
+
+/// The field of the status bar that shows the state of the connection: in a few words, with a
+/// picture, and whole in its tool tip and for screen readers. A click or Return asks for a
+/// connection where there is none.
+class ConnectionField : public QToolButton {
+    Q_OBJECT
+public:
+    explicit ConnectionField(QWidget* parent = nullptr);
+
+    void show(const ConnectionState& state);
+
+signals:
+    void connectWanted();
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void setTexts();
+
+    ConnectionState state_;
+};
+
+} // namespace app

@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "app/waiting_panel.h"
+
+#include <algorithm>
+
+#include <QAccessible>
+#include <QEvent>
+#include <QStyle>
+
+#include "ui_waiting_panel.h"
+
+namespace {
+
+constexpr int usualWidth = 340;
+constexpr int gap = 8; ///< to the sides of a small window
+
+} // namespace
+
+WaitingPanel::WaitingPanel()
+    : ui_(std::make_unique<Ui::WaitingPanel>()) {
+    ui_->setupUi(this);
+    const int size = style()->pixelMetric(QStyle::PM_LargeIconSize);
+    ui_->labelPicture->setPixmap(
+        style()->standardIcon(QStyle::SP_MessageBoxInformation).pixmap(size));
+    connect(ui_->buttonDisconnect, &QPushButton::clicked, this, &WaitingPanel::disconnectClicked);
+    hide();
+}
+
+WaitingPanel::~WaitingPanel() = default;
+
+void WaitingPanel::showOver(QWidget* host, std::chrono::seconds elapsed) {
+    elapsed_ = elapsed;
+    if (host != host_)
+        setHost(host);
+    if (!host_)
+        return;
+    setText();
+    const bool wasVisible = isVisible();
+    // Only what is shown knows its fonts.
+    show();
+    place();
+    if (wasVisible)
+        return;
+    raise();
+    QAccessibleEvent alert(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+void WaitingPanel::setHost(QWidget* host) {
+    if (host_)
+        host_->removeEventFilter(this);
+    host_ = host;
+    setParent(host);
+    if (host)
+        host->installEventFilter(this);
+}
+
+void WaitingPanel::setText() {
+    const QString text = tr("The agent hasn't answered for %1 s.").arg(elapsed_.count());
+    ui_->labelWaiting->setText(text);
+    setAccessibleName(text);
+}
+
+void WaitingPanel::place() {
+    const int wide = std::min(usualWidth, host_->width() - 2 * gap);
+    const int high = std::max(heightForWidth(wide), minimumSizeHint().height());
+    const QRect place(QPoint(), QSize(wide, high));
+    setGeometry(place.translated(host_->rect().center() - place.center()));
+}
+
+bool WaitingPanel::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == host_ && event->type() == QEvent::Resize)
+        place();
+    return QFrame::eventFilter(watched, event);
+}
+
+void WaitingPanel::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange) {
+        ui_->retranslateUi(this);
+        setText();
+    }
+    QFrame::changeEvent(event);
+}

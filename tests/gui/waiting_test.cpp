@@ -1,0 +1,545 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+// The window while the agent doesn't answer.
+#include <csignal>
+#include <memory>
+
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPointer>
+#include <QProcess>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <QWindow>
+
+#include "app/call_gate.h"
+#include "app/login_check.h"
+#include "resources/pictures.h"
+#include "session/connection.h"
+#include "tests/support/gui_agent.h"
+#include "tests/support/gui_main_window.h"
+#include "tests/support/gui_modal_driver.h"
+#include "tests/support/gui_port_redirect.h"
+#include "tests/support/gui_translation.h"
+#include "tests/support/gui_wait.h"
+#include "tests/support/held_names.h"
+#include "ui/later.h"
+
+using namespace std::chrono_literals;
+using support::child;
+using support::clickDisconnect;
+using support::GuiAgent;
+using support::InTheWait;
+using support::isDialog;
+using support::leftAgent;
+using support::MainWindowDriver;
+using support::methodsOf;
+using support::ModalDriver;
+using support::waitingPanel;
+using support::waitingText;
+using Calls = std::vector<std::string>;
+
+namespace {
+
+const QString kWaiting = QStringLiteral("The agent hasn't answered for N s.");
+const app::CallGate::Times kQuick{20ms, 60ms};
+
+/// Counts what a widget paints.
+class Paints : public QObject {
+public:
+    explicit Paints(QWidget& widget) { widget.installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override {
+        count += event->type() == QEvent::Paint;
+        return false;
+    }
+    int count = 0;
+};
+
+/// Clicks as the desktop would report it.
+void clickOnWindow(QWidget& window, QWidget& target) {
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {},
+                      target.mapTo(&window, target.rect().center()));
+}
+
+} // namespace
+
+class WaitingTest : public QObject {
+    Q_OBJECT
+private slots:
+    void initTestCase() { resources::initPictures(); }
+    void init() {
+        agent_ = std::make_unique<GuiAgent>();
+        gate_ = std::make_unique<app::CallGate>(kQuick);
+        driver_ = std::make_unique<MainWindowDriver>();
+        driver_->window().keepAliveBy(*gate_);
+        driver_->logIn(*agent_);
+    }
+    void cleanup() {
+        QVERIFY(!waitingPanel());
+        driver_.reset();
+        gate_.reset();
+        QCOMPARE(agent_->violations(), Calls{});
+        agent_.reset();
+    }
+
+    void aSilentAgentIsLeftByTheButton();
+    void aSilentAgentIsLeftByEscape();
+    void thePanelGoesWhenTheAnswerComes();
+    void aShorterWaitPaintsAndShowsNoPanel();
+    void thePanelCountsTheSeconds();
+    void thePanelStaysInTheMiddle();
+    void thePanelSpeaksGerman();
+    void inputDoesNothing();
+    void whatWasPressedBeforeIsReleasedAfterwards();
+    void keysDoNothing();
+    void theWindowCantBeClosed();
+    void heartbeatsAreMadeUpForOnce();
+    void postedWorkWaits();
+    void timersWait();
+    void deletionsWait();
+    void quitWorks_data();
+    void quitWorks();
+    void menusTriggerNothingButQuit();
+    void aHiddenWindowShowsThePanelOnceItIsShown();
+    void thePanelLiesOverTheDialogInFront();
+    void aNameThatIsntResolvedIsLeft();
+    void nobodyIsAskedOnceTheProgramEnds();
+    void anAgentThatIsSuspendedAnswersOnceItGoesOn();
+
+private:
+    void beSilent(const char* method = "getTarnClientInfo") {
+        agent_->inject(method, simulator::Silence{});
+    }
+    /// Ends each wait as soon as the panel is there.
+    std::unique_ptr<InTheWait> leaveAtOnce() {
+        return std::make_unique<InTheWait>([] {
+            if (waitingPanel())
+                clickDisconnect();
+        });
+    }
+
+    std::unique_ptr<GuiAgent> agent_;
+    std::unique_ptr<app::CallGate> gate_;
+    std::unique_ptr<MainWindowDriver> driver_;
+};
+
+void WaitingTest::aSilentAgentIsLeftByTheButton() {
+    beSilent();
+    QString text;
+    const InTheWait user([&] {
+        if (!waitingPanel())
+            return;
+        text = waitingText();
+        clickDisconnect();
+    });
+    driver_->beat();
+    QCOMPARE(text, kWaiting);
+    QVERIFY(!session::connectedToAgent());
+    QCOMPARE(driver_->status(), QStringLiteral("No API connection exists"));
+    QCOMPARE(methodsOf(*agent_), Calls{"getTarnClientInfo"});
+    driver_->logIn(*agent_);
+    QVERIFY(session::connectedToAgent());
+}
+
+void WaitingTest::aSilentAgentIsLeftByEscape() {
+    beSilent();
+    const InTheWait user([&] {
+        // Not before the user can see what it would do.
+        QTest::keyClick(driver_->window().windowHandle(), Qt::Key_Escape);
+        if (!waitingPanel())
+            QVERIFY(session::g_connection);
+    });
+    driver_->beat();
+    QVERIFY(!session::connectedToAgent());
+    QCOMPARE(methodsOf(*agent_), Calls{"getTarnClientInfo"});
+}
+
+void WaitingTest::thePanelGoesWhenTheAnswerComes() {
+    agent_->inject("getTarnClientInfo", simulator::Delay{300ms});
+    bool shown = false;
+    const InTheWait user([&] { shown = shown || waitingPanel(); });
+    driver_->beat();
+    QVERIFY(shown);
+    QVERIFY(!waitingPanel());
+    QVERIFY(session::connectedToAgent());
+    QVERIFY(driver_->rows("tableActivityLog") > 0);
+}
+
+void WaitingTest::aShorterWaitPaintsAndShowsNoPanel() {
+    driver_.reset();
+    gate_.reset();
+    gate_ = std::make_unique<app::CallGate>(app::CallGate::Times{20ms, 20s});
+    driver_ = std::make_unique<MainWindowDriver>();
+    driver_->window().keepAliveBy(*gate_);
+    driver_->logIn(*agent_);
+    agent_->inject("getTarnClientInfo", simulator::Delay{200ms});
+    Paints paints(driver_->window());
+    bool shown = false;
+    const InTheWait user([&] {
+        shown = shown || waitingPanel();
+        driver_->window().update();
+    });
+    driver_->beat();
+    QVERIFY(!shown);
+    QVERIFY2(paints.count >= 2, qPrintable(QString::number(paints.count)));
+    QVERIFY(session::connectedToAgent());
+}
+
+void WaitingTest::thePanelCountsTheSeconds() {
+    beSilent();
+    QStringList texts;
+    const InTheWait user([&] {
+        QWidget* panel = waitingPanel();
+        if (!panel)
+            return;
+        const QString text = child<QLabel>(*panel, "labelWaiting").text();
+        if (texts.isEmpty() || texts.last() != text)
+            texts << text;
+        if (texts.size() == 3)
+            clickDisconnect();
+    });
+    driver_->beat();
+    QCOMPARE(texts, (QStringList{QStringLiteral("The agent hasn't answered for 0 s."),
+                                 QStringLiteral("The agent hasn't answered for 1 s."),
+                                 QStringLiteral("The agent hasn't answered for 2 s.")}));
+}
+
+void WaitingTest::thePanelStaysInTheMiddle() {
+    beSilent();
+    bool grown = false;
+    const InTheWait user([&] {
+        QWidget* panel = waitingPanel();
+        if (!panel)
+            return;
+        QWidget& window = driver_->window();
+        if (!grown) {
+            grown = true;
+            window.resize(window.size() + QSize(100, 60));
+            return;
+        }
+        const QPoint off = panel->geometry().center() - window.rect().center();
+        QVERIFY2(off.manhattanLength() <= 2, qPrintable(QString::number(off.manhattanLength())));
+        clickDisconnect();
+    });
+    driver_->beat();
+    QVERIFY(grown);
+}
+
+void WaitingTest::thePanelSpeaksGerman() {
+    const support::Translation german(QStringLiteral("de"));
+    beSilent();
+    QString text;
+    const InTheWait user([&] {
+        if (!waitingPanel())
+            return;
+        text = waitingText();
+        clickDisconnect();
+    });
+    driver_->beat();
+    QCOMPARE(text, QStringLiteral("Der Agent antwortet seit N s nicht."));
+}
+
+void WaitingTest::inputDoesNothing() {
+    beSilent();
+    auto& window = driver_->window();
+    driver_->sets().selectRow(0);
+    agent_->clearCallLog();
+    int rounds = 0;
+    const InTheWait user([&] {
+        if (!waitingPanel())
+            return;
+        for (QWidget* tool : window.findChildren<QToolButton*>())
+            if (tool->isVisible() && tool->isEnabled())
+                clickOnWindow(window, *tool);
+        clickOnWindow(window, *driver_->sets().viewport());
+        QTest::mouseClick(
+            driver_->sets().viewport(), Qt::LeftButton, {},
+            driver_->sets().visualRect(driver_->sets().model()->index(1, 0)).center());
+        QCOMPARE(driver_->selectedRow(), 0);
+        if (++rounds == 3)
+            clickDisconnect();
+    });
+    driver_->beat();
+    QCOMPARE(rounds, 3);
+    QCOMPARE(methodsOf(*agent_), Calls{"getTarnClientInfo"});
+    QVERIFY(!QApplication::activeModalWidget());
+}
+
+void WaitingTest::whatWasPressedBeforeIsReleasedAfterwards() {
+    agent_->inject("getTarnClientInfo", simulator::Delay{300ms});
+    auto& window = driver_->window();
+    QPushButton button(QStringLiteral("Held"), &window);
+    button.setGeometry(20, 200, 100, 40);
+    button.show();
+    int clicks = 0;
+    connect(&button, &QPushButton::clicked, &button, [&] { ++clicks; });
+    const QPoint place = button.mapTo(&window, button.rect().center());
+    QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, place);
+    QVERIFY(button.isDown());
+    bool released = false;
+    const InTheWait user([&] {
+        if (!waitingPanel() || released)
+            return;
+        released = true;
+        QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, place);
+        QCOMPARE(clicks, 0);
+    });
+    driver_->beat();
+    QVERIFY(released);
+    QTRY_COMPARE(clicks, 1);
+    QVERIFY(!button.isDown());
+}
+
+void WaitingTest::keysDoNothing() {
+    agent_->inject("getTarnClientInfo", simulator::Delay{300ms});
+    auto& window = driver_->window();
+    QLineEdit field(&window);
+    field.show();
+    field.setFocus();
+    QTRY_VERIFY(field.hasFocus());
+    const InTheWait user([&] {
+        if (waitingPanel())
+            QTest::keyClick(window.windowHandle(), Qt::Key_X);
+    });
+    driver_->beat();
+    QCOMPARE(field.text(), QString());
+    QTest::keyClick(window.windowHandle(), Qt::Key_Y, {});
+    QCOMPARE(field.text(), QStringLiteral("y"));
+}
+
+void WaitingTest::theWindowCantBeClosed() {
+    agent_->inject("getTarnClientInfo", simulator::Delay{300ms});
+    bool closed = false;
+    const InTheWait user([&] {
+        if (!waitingPanel())
+            return;
+        QCloseEvent close;
+        QSpontaneKeyEvent::setSpontaneous(&close);
+        QCoreApplication::instance()->notify(driver_->window().windowHandle(), &close);
+        closed = true;
+        QVERIFY(!close.isAccepted());
+    });
+    driver_->beat();
+    QVERIFY(closed);
+    QVERIFY(driver_->window().isVisible());
+}
+
+void WaitingTest::heartbeatsAreMadeUpForOnce() {
+    agent_->inject("getTarnClientInfo", simulator::Delay{300ms});
+    int posted = 0;
+    const InTheWait user([&] {
+        if (++posted <= 5)
+            driver_->postBeat();
+        QVERIFY(methodsOf(*agent_).size() <= 1);
+    });
+    driver_->beat();
+    QVERIFY(posted >= 2);
+    agent_->clearCallLog();
+    QVERIFY(QTest::qWaitFor([&] { return !methodsOf(*agent_).empty(); }));
+    QCoreApplication::processEvents();
+    const auto calls = methodsOf(*agent_);
+    QCOMPARE(std::count(calls.begin(), calls.end(), "getTarnClientInfo"), std::ptrdiff_t(1));
+}
+
+void WaitingTest::postedWorkWaits() {
+    agent_->inject("getTarnClientInfo", simulator::Delay{200ms});
+    bool inWait = true;
+    int runs = 0;
+    QObject context;
+    const auto work = [&] {
+        ++runs;
+        inWait = hessiancln::CallPassage::underWay();
+    };
+    ui::later(context, work);
+    driver_->beat();
+    QCOMPARE(runs, 0);
+    QTRY_COMPARE(runs, 1);
+    QVERIFY(!inWait);
+}
+
+void WaitingTest::timersWait() {
+    agent_->inject("getTarnClientInfo", simulator::Delay{200ms});
+    int fired = 0;
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, &timer, [&] { ++fired; });
+    timer.start(10);
+    QTimer::singleShot(30, &timer, [&] { ++fired; });
+    driver_->beat();
+    QCOMPARE(fired, 0);
+    QTRY_VERIFY(fired > 1);
+}
+
+void WaitingTest::deletionsWait() {
+    agent_->inject("getTarnClientInfo", simulator::Delay{200ms});
+    QPointer<QObject> doomed = new QObject;
+    bool asked = false;
+    const InTheWait user([&] {
+        if (std::exchange(asked, true))
+            return;
+        doomed->deleteLater();
+        QCoreApplication::sendPostedEvents(doomed, QEvent::DeferredDelete);
+        QVERIFY(doomed);
+    });
+    driver_->beat();
+    QVERIFY(asked);
+    QVERIFY(doomed);
+    QTRY_VERIFY(!doomed);
+}
+
+void WaitingTest::quitWorks_data() {
+    QTest::addColumn<bool>("withPanel");
+    QTest::newRow("before the panel") << false;
+    QTest::newRow("under the panel") << true;
+}
+
+void WaitingTest::quitWorks() {
+    QFETCH(bool, withPanel);
+    beSilent();
+    bool quit = false;
+    const InTheWait user([&] {
+        if (quit || withPanel != (waitingPanel() != nullptr))
+            return;
+        quit = true;
+        driver_->trigger("actionQuit");
+    });
+    driver_->postBeat();
+    QCOMPARE(QCoreApplication::exec(), 0);
+    QVERIFY(quit);
+    QCOMPARE(methodsOf(*agent_), Calls{"getTarnClientInfo"});
+}
+
+void WaitingTest::menusTriggerNothingButQuit() {
+    beSilent();
+    auto& window = driver_->window();
+    auto& menu = child<QMenu>(window, "menu_Application");
+    const auto click = [&](const char* action) {
+        const QRect row = menu.actionGeometry(&child<QAction>(window, action));
+        QTest::mouseClick(menu.windowHandle(), Qt::LeftButton, {}, row.center());
+    };
+    int step = 0;
+    const InTheWait user([&] {
+        if (!waitingPanel())
+            return;
+        if (step == 0) {
+            const QMenuBar& bar = *window.menuBar();
+            QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {},
+                              bar.actionGeometry(menu.menuAction()).center() + bar.pos());
+        } else if (step == 1) {
+            QVERIFY(menu.isVisible());
+            click("actionLogout");
+            QVERIFY(session::g_connection);
+        } else if (step == 2) {
+            QTest::keyClick(menu.windowHandle(), Qt::Key_D);
+            QVERIFY(session::g_connection);
+            if (!menu.isVisible())
+                menu.popup(window.mapToGlobal(QPoint()));
+            click("actionQuit");
+        }
+        ++step;
+    });
+    driver_->postBeat();
+    QCOMPARE(QCoreApplication::exec(), 0);
+    QCOMPARE(step, 3);
+    QCOMPARE(methodsOf(*agent_), Calls{"getTarnClientInfo"});
+}
+
+void WaitingTest::aHiddenWindowShowsThePanelOnceItIsShown() {
+    beSilent();
+    driver_->window().hideMainWindow();
+    int rounds = 0;
+    const InTheWait user([&] {
+        if (waitingPanel()) {
+            clickDisconnect();
+        } else if (++rounds == 20) {
+            emit driver_->tray().activated(QSystemTrayIcon::Trigger);
+            QVERIFY(driver_->window().isVisible());
+        } else {
+            driver_->postBeat(); // keeps the loop going
+        }
+    });
+    driver_->beat();
+    QVERIFY(rounds >= 20);
+    QVERIFY(!session::connectedToAgent());
+}
+
+void WaitingTest::thePanelLiesOverTheDialogInFront() {
+    driver_->window().OnDisconnect();
+    agent_->inject("getTarnClientType", simulator::Silence{});
+    QWidget* host = nullptr;
+    ModalDriver modals;
+    modals.expect(QStringLiteral("login"), isDialog<LoginCheck>, [&](QWidget& dialog) {
+        child<QLineEdit>(dialog, "lineEditUserName").setText(QStringLiteral("demo"));
+        child<QLineEdit>(dialog, "lineEditPassword").setText(QStringLiteral("demo"));
+        QTest::mouseClick(&child<QPushButton>(dialog, "buttonLogin"), Qt::LeftButton);
+        QVERIFY(dialog.isVisible());
+        QTest::mouseClick(&child<QPushButton>(dialog, "buttonQuit"), Qt::LeftButton);
+    });
+    QString said;
+    modals.expect(QStringLiteral("box"), isDialog<QMessageBox>, [&](QWidget& box) {
+        said = static_cast<QMessageBox&>(box).text();
+        QTest::mouseClick(static_cast<QMessageBox&>(box).button(QMessageBox::Ok), Qt::LeftButton);
+    });
+    const InTheWait user([&] {
+        if (QWidget* panel = waitingPanel()) {
+            host = panel->parentWidget();
+            QVERIFY(host->rect().contains(panel->geometry()));
+            QCOMPARE(host->metaObject()->className(), "LoginCheck");
+            clickDisconnect();
+        }
+    });
+    driver_->window().OnConnect();
+    QVERIFY(modals.done());
+    QVERIFY(host);
+    QVERIFY2(said.startsWith(leftAgent), qPrintable(said));
+}
+
+void WaitingTest::aNameThatIsntResolvedIsLeft() {
+    driver_->window().OnDisconnect();
+    support::HeldNames names;
+    const auto user = leaveAtOnce();
+    QVERIFY_EXCEPTION_THROWN(session::connectToAgent("agent.held", "demo", "demo", 1),
+                             std::exception);
+    QVERIFY(!session::connectedToAgent());
+}
+
+void WaitingTest::nobodyIsAskedOnceTheProgramEnds() {
+    gate_->leaveSilentAgents();
+    beSilent("logout");
+    const InTheWait user([] { QVERIFY2(!waitingPanel(), "nobody is there to be asked"); });
+    session::disconnectFromAgent();
+    QVERIFY(!session::connectedToAgent());
+    QCOMPARE(methodsOf(*agent_).back(), std::string("logout"));
+}
+
+void WaitingTest::anAgentThatIsSuspendedAnswersOnceItGoesOn() {
+    driver_->window().OnDisconnect();
+    QProcess agent;
+    agent.start(QStringLiteral(TARN_SIMULATOR), QStringList());
+    QVERIFY(agent.waitForReadyRead(20'000));
+    const QString url = QString::fromLatin1(agent.readLine()).trimmed();
+    support::redirectLocalAgent(url.section(QLatin1Char(':'), -1).toUShort());
+    QVERIFY(driver_->window().doLogin(true));
+    QVERIFY(session::connectedToAgent());
+    const auto id = static_cast<pid_t>(agent.processId());
+    QCOMPARE(::kill(id, SIGSTOP), 0);
+    int rounds = 0;
+    const InTheWait user([&] {
+        if (waitingPanel() && ++rounds == 1)
+            ::kill(id, SIGCONT);
+    });
+    driver_->beat();
+    QVERIFY(rounds > 0);
+    QVERIFY(session::connectedToAgent());
+    driver_->window().OnDisconnect();
+    agent.terminate();
+    QVERIFY(agent.waitForFinished());
+}
+
+QTEST_MAIN(WaitingTest)
+#include "waiting_test.moc"
