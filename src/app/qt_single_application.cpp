@@ -81,8 +81,7 @@ QtSingleApplication::QtSingleApplication(int& argc, char** argv)
     : QApplication(argc, argv)
     , socketName_(inSession(QStringLiteral("tarn-mobile-user")))
     , lock_(socketName_ + QStringLiteral(".lock")) {
-    // A lock is stale when its process is gone, however old it is.
-    lock_.setStaleLockTime(0);
+    // However old the lock is, the system doesn't let go of it while its process lives.
     first_ = takeLock(lock_);
     if (first_)
         listen();
