@@ -53,7 +53,6 @@ std::optional<Injection> Injections::take(std::string_view className, std::strin
 }
 
 std::optional<wire::Answer> answerInstead(const Injection& injection) {
-    const auto none = std::optional<wire::Answer>();
     return std::visit(Overloaded{[](const Fault& fault) {
                                      wire::Answer answer;
                                      answer.message = faultReply(fault);
@@ -74,7 +73,7 @@ std::optional<wire::Answer> answerInstead(const Injection& injection) {
                                      answer.message = reply.bytes;
                                      return std::optional(answer);
                                  },
-                                 [&none](const auto&) { return none; }},
+                                 [](const auto&) { return std::optional<wire::Answer>(); }},
                       injection);
 }
 

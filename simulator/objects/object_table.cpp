@@ -52,6 +52,7 @@ std::vector<std::string> ObjectTable::held() const {
             numbered.emplace_back(entry.number, entry.object->label() + " " + url);
     std::sort(numbered.begin(), numbered.end());
     std::vector<std::string> texts;
+    texts.reserve(numbered.size());
     for (auto& [number, text] : numbered)
         texts.push_back(std::move(text));
     return texts;

@@ -19,7 +19,6 @@ using hessiancln::ActivityCompletion;
 using hessiancln::ActivityType;
 using hessiancln::ScheduleDetailType;
 using hessiancln::SelectableItemType;
-using hessiancln::time_in_day;
 
 constexpr std::int32_t hour = 3'600;
 constexpr std::int32_t day = 24 * hour;

@@ -2,9 +2,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "app/activity_balloon.h"
 
-#include <span>
-#include <vector>
-
 #include <QCoreApplication>
 
 #include "session/text.h"
@@ -17,7 +14,7 @@ using hessiancln::running_activity_info;
 
 namespace {
 
-constexpr std::size_t mostLines = 10;
+constexpr int mostLines = 10;
 
 class Texts {
     Q_DECLARE_TR_FUNCTIONS(SimpleGUIMainWindow)
@@ -36,19 +33,8 @@ QString objectOf(const running_activity_info& activity, const SetNames& nameOf) 
     return description.isEmpty() ? QString() : Texts::object(description);
 }
 
-struct Line {
-    QString head;
-    const running_activity_info& activity;
-};
-
-std::vector<Line> linesOf(const QList<running_activity_info>& appeared,
-                          const QList<running_activity_info>& disappeared) {
-    std::vector<Line> lines;
-    for (const auto& activity : appeared)
-        lines.push_back({Texts::started(), activity});
-    for (const auto& activity : disappeared)
-        lines.push_back({Texts::completed(), activity});
-    return lines;
+QString lineOf(const QString& head, const running_activity_info& activity, const SetNames& nameOf) {
+    return head + ui::activityTypeLabel(activity.type) + objectOf(activity, nameOf);
 }
 
 } // namespace
@@ -56,14 +42,18 @@ std::vector<Line> linesOf(const QList<running_activity_info>& appeared,
 QString activityBalloonText(const QList<running_activity_info>& appeared,
                             const QList<running_activity_info>& disappeared,
                             const SetNames& nameOf) {
-    const std::vector<Line> lines = linesOf(appeared, disappeared);
-    const std::size_t shown = lines.size() > mostLines ? mostLines - 1 : lines.size();
+    QStringList lines;
+    for (const auto& activity : appeared)
+        lines << lineOf(Texts::started(), activity, nameOf);
+    for (const auto& activity : disappeared)
+        lines << lineOf(Texts::completed(), activity, nameOf);
+    if (lines.size() > mostLines) {
+        const int more = lines.size() - mostLines + 1;
+        lines = lines.mid(0, mostLines - 1) << Texts::more(more);
+    }
     QString text;
-    for (const Line& line : std::span(lines).first(shown))
-        text += line.head + ui::activityTypeLabel(line.activity.type) +
-                objectOf(line.activity, nameOf) + QLatin1Char('\n');
-    if (shown < lines.size())
-        text += Texts::more(static_cast<int>(lines.size() - shown)) + QLatin1Char('\n');
+    for (const QString& line : lines)
+        text += line + QLatin1Char('\n');
     return text;
 }
 

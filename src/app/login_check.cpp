@@ -122,6 +122,7 @@ QString LoginCheck::user() const {
 
 void LoginCheck::OnLogin() {
     ui::remoteAction(*this, tr("Login Failed"), ui::Cursor::wait, [this] {
+        session::checkPort(agentAddress());
         const std::string address = session::toWire(agentAddress());
         if (ui_->chkSSPILogin->isChecked())
             session::connectToAgent(address, "", "", 0);

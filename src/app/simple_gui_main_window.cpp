@@ -177,13 +177,11 @@ bool SimpleGUIMainWindow::event(QEvent* event) {
         refreshAll();
         return true;
     }
-    // Leaving a menu would empty the status bar for good.
-    if (event->type() == QEvent::StatusTip &&
-        static_cast<QStatusTipEvent*>(event)->tip().isEmpty()) {
+    const bool handled = QMainWindow::event(event);
+    // Leaving a menu empties the status bar.
+    if (event->type() == QEvent::StatusTip && static_cast<QStatusTipEvent*>(event)->tip().isEmpty())
         ui_->statusbar->showMessage(status_);
-        return true;
-    }
-    return QMainWindow::event(event);
+    return handled;
 }
 
 bool SimpleGUIMainWindow::eventFilter(QObject* watched, QEvent* event) {

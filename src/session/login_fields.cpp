@@ -2,7 +2,22 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "session/login_fields.h"
 
+#include <stdexcept>
+
+#include "session/text.h"
+
 namespace session {
+
+namespace {
+
+QString withoutScheme(const QString& agentAddress) {
+    for (const QLatin1String scheme : {QLatin1String("http://"), QLatin1String("https://")})
+        if (agentAddress.startsWith(scheme))
+            return agentAddress.mid(scheme.size());
+    return agentAddress;
+}
+
+} // namespace
 
 QString agentAddressOf(const QString& userText) {
     const int colon = userText.indexOf(QLatin1Char(':'));
@@ -15,11 +30,18 @@ QString agentAddressOf(const QString& userText) {
     return address;
 }
 
+void checkPort(const QString& agentAddress) {
+    const QString authority = withoutScheme(agentAddress).section(QLatin1Char('/'), 0, 0);
+    const int colon = authority.indexOf(QLatin1Char(':'));
+    bool isNumber = false;
+    const qlonglong port = authority.mid(colon + 1).toLongLong(&isNumber);
+    constexpr qlonglong largest = 65535;
+    if (colon >= 0 && isNumber && (port < 1 || port > largest))
+        throw std::invalid_argument("Invalid port component in host '" + toWire(authority) + "'");
+}
+
 QString hostForDisplay(const QString& agentAddress) {
-    QString host = agentAddress;
-    for (const QLatin1String scheme : {QLatin1String("http://"), QLatin1String("https://")})
-        if (agentAddress.startsWith(scheme))
-            host = agentAddress.mid(scheme.size());
+    const QString host = withoutScheme(agentAddress);
     const int colon = host.lastIndexOf(QLatin1Char(':'));
     return colon >= 1 ? host.left(colon) : host;
 }

@@ -14,6 +14,10 @@ namespace session {
 /// machine if the text has no address.
 QString agentAddressOf(const QString& userText);
 
+/// Raises `std::invalid_argument` if the address has a port that no host has: one outside 1 to
+/// 65535.
+void checkPort(const QString& agentAddress);
+
 /// The host to show for `agentAddress`, without scheme and port.
 QString hostForDisplay(const QString& agentAddress);
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "transport/parse_url.h"
 
-#include <cstdint>
+#include <algorithm>
 #include <cstdlib>
 #include <limits>
 #include <string_view>
@@ -18,11 +18,11 @@ bool startsWith(std::string_view text, std::string_view start) {
     return compareIgnoringCase(text.substr(0, start.size()), start) == 0;
 }
 
-/// 0 for what is no port: no number at all, or one outside 1 to 65535.
+/// A number too large stays too large, so that it can't fold into a port that exists.
 std::uint32_t portNumber(const char* digits) {
-    constexpr long long largest = std::numeric_limits<std::uint16_t>::max();
     const long long number = std::strtoll(digits, nullptr, 10);
-    return number < 1 || number > largest ? 0 : static_cast<std::uint32_t>(number);
+    return static_cast<std::uint32_t>(std::clamp<long long>(number, std::numeric_limits<int>::min(),
+                                                            std::numeric_limits<int>::max()));
 }
 
 } // namespace

@@ -45,6 +45,8 @@ CSingleStreamDispatcherConnection::~CSingleStreamDispatcherConnection() {
     // A connection that nobody stopped ends on its own thread, with the last reference.
     if (thread_.joinable())
         thread_.detach();
+    // What a reply that failed in the middle has left.
+    base::wipe(data_);
 }
 
 void CSingleStreamDispatcherConnection::SendRequest(const std::string& url,

@@ -15,9 +15,12 @@ namespace ui {
 
 namespace {
 
-/// The width of a column in which its title isn't cut, whatever the language.
+/// The width of a column, which is meant for its English title; one in another language isn't cut.
 int withRoomForTitle(const QHeaderView& header, int column, int width) {
-    const QString title = header.model()->headerData(column, Qt::Horizontal).toString();
+    const QAbstractItemModel& model = *header.model();
+    const QString title = model.headerData(column, Qt::Horizontal).toString();
+    if (title == model.headerData(column, Qt::Horizontal, columnEnglishTitleRole).toString())
+        return width;
     const int margins = 2 * header.style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, &header);
     return std::max(width, header.fontMetrics().horizontalAdvance(title) + margins);
 }
@@ -29,6 +32,8 @@ QVariant headerOf(const QAbstractItemModel& model, const TableColumn& column, in
         return QCoreApplication::translate(model.metaObject()->className(), column.title);
     if (role == columnWidthRole && column.width > 0)
         return column.width;
+    if (role == columnEnglishTitleRole)
+        return QString::fromUtf8(column.title);
     return {};
 }
 

@@ -40,6 +40,8 @@ constexpr bool areInOrder(const Columns& columns) {
 
 /// The role under which a model's header gives the width of a column.
 inline constexpr int columnWidthRole = Qt::UserRole;
+/// The role under which it gives the title in English.
+inline constexpr int columnEnglishTitleRole = Qt::UserRole + 1;
 
 /// What the header of `model` says about a column.
 QVariant headerOf(const QAbstractItemModel& model, const TableColumn& column, int role);

@@ -266,8 +266,11 @@ bool SelectDataSourcePage::takeTypedComputer() {
         const std::string name = browser_->expandToFullPath(toWire(computerName()));
         ui_->editComputerName->setText(fromWire(name));
     });
-    if (!expanded)
+    if (!expanded) {
+        // The user has seen why; Next goes on with the name as it is.
+        ui_->editComputerName->setModified(false);
         return false;
+    }
     ui_->treeNetworkDiscovery->clearSelection();
     refresh();
     setComplete(true);

@@ -62,6 +62,27 @@ TEST(AgentAddress, NeedsNoUserBeforeIt) {
     EXPECT_EQ(address(":backup.lan"), "backup.lan");
 }
 
+std::string portProblem(const char* agentAddress) {
+    try {
+        session::checkPort(fromWire(agentAddress));
+        return {};
+    } catch (const std::invalid_argument& problem) {
+        return problem.what();
+    }
+}
+
+TEST(AgentPort, IsOneThatAHostMayHave) {
+    for (const char* address : {"a:1", "a:65535", "a", "", "http://a", "https://a:4411/x:99999"})
+        EXPECT_EQ(portProblem(address), "") << address;
+}
+
+TEST(AgentPort, OutsideItsRangeIsRefused) {
+    EXPECT_EQ(portProblem("a:0"), "Invalid port component in host 'a:0'");
+    EXPECT_EQ(portProblem("https://a:65536"), "Invalid port component in host 'a:65536'");
+    EXPECT_EQ(portProblem("a:-5"), "Invalid port component in host 'a:-5'");
+    EXPECT_EQ(portProblem("a:4294971707/"), "Invalid port component in host 'a:4294971707'");
+}
+
 TEST(HostForDisplay, LosesThePort) {
     EXPECT_EQ(host("127.0.0.1:4411"), "127.0.0.1");
     EXPECT_EQ(host("backup.lan:99"), "backup.lan");

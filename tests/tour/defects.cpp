@@ -18,6 +18,8 @@
 #include <QTabBar>
 #include <QToolButton>
 
+#include "ui/table_columns.h"
+
 namespace tour {
 
 namespace {
@@ -59,13 +61,16 @@ bool isCut(const QTabBar& tabs) {
     return tabs.count() > 0 && !tabs.rect().contains(tabs.tabRect(tabs.count() - 1));
 }
 
-/// The title of the first column that is too narrow for it; empty if there is none.
+/// The title of the first column that is too narrow for it; empty if there is none. English titles
+/// have the widths that they were given.
 QString cutTitle(const QHeaderView& header) {
     for (int section = 0; section < header.count(); ++section) {
         const QString title = header.model()->headerData(section, header.orientation()).toString();
         const int margins =
             2 * header.style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, &header);
-        if (!header.isSectionHidden(section) &&
+        const QVariant english =
+            header.model()->headerData(section, header.orientation(), ui::columnEnglishTitleRole);
+        if (title != english.toString() && !header.isSectionHidden(section) &&
             header.fontMetrics().horizontalAdvance(title) + margins > header.sectionSize(section))
             return title;
     }

@@ -97,6 +97,17 @@ private slots:
         QCOMPARE(table.horizontalHeader()->defaultAlignment(), Qt::AlignLeft | Qt::AlignVCenter);
     }
 
+    void anEnglishTitleKeepsTheWidthThatItWasGiven() {
+        Model model;
+        QTableView table;
+        QFont large = table.horizontalHeader()->font();
+        large.setPointSize(60);
+        table.horizontalHeader()->setMinimumSectionSize(10);
+        table.horizontalHeader()->setFont(large);
+        ui::setUpTable(table, model);
+        QCOMPARE(table.columnWidth(size), 70);
+    }
+
     void aTitleThatNeedsMoreWidthGetsIt() {
         LongWinded translator;
         QVERIFY(QCoreApplication::installTranslator(&translator));
