@@ -36,6 +36,7 @@ SessionEndedNotice::SessionEndedNotice(QAbstractItemView& list)
     layout->setSpacing(12);
     layout->addWidget(&label_);
     layout->addWidget(&button_, 0, Qt::AlignHCenter);
+    setTabOrder(&list, &button_);
     list.installEventFilter(this);
     setTexts();
     hide();

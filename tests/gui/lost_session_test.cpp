@@ -28,7 +28,7 @@ using support::ModalDriver;
 
 namespace {
 
-const QString kFault = QStringLiteral("Out of order.");
+const QString faultText = QStringLiteral("Out of order.");
 
 QString q(const char* text) {
     return QString::fromUtf8(text);
@@ -70,7 +70,7 @@ private:
     }
     QWidget& notice() { return child<QWidget>(driver_->window(), "sessionEndedNotice"); }
     void lose() {
-        agent_->inject("getTarnClientInfo", simulator::Fault{kFault.toStdString()});
+        agent_->inject("getTarnClientInfo", simulator::Fault{faultText.toStdString()});
         driver_->beat();
         QVERIFY(!session::connectedToAgent());
     }
@@ -109,10 +109,10 @@ void LostSessionTest::theFirstErrorStaysInTheField() {
     QVERIFY2(field().text() == text.arg(before) || field().text() == text.arg(after),
              qPrintable(field().text()));
     QVERIFY(field().accessibleName().startsWith(q("The connection to 127.0.0.1 was lost at ")));
-    QVERIFY(field().accessibleName().endsWith(kFault));
+    QVERIFY(field().accessibleName().endsWith(faultText));
     driver_->beat();
     driver_->beat();
-    QVERIFY(field().text().endsWith(kFault));
+    QVERIFY(field().text().endsWith(faultText));
 }
 
 void LostSessionTest::aLongErrorIsCutInTheField() {
@@ -137,11 +137,11 @@ void LostSessionTest::theUsersOwnDisconnectIsNoLoss() {
 }
 
 void LostSessionTest::aFailedConfigurationIsACauseToo() {
-    agent_->inject("getUserInfo", simulator::Fault{kFault.toStdString()});
-    modals_.expectErrorBox(q("Configuration Error"), kFault);
+    agent_->inject("getUserInfo", simulator::Fault{faultText.toStdString()});
+    modals_.expectErrorBox(q("Configuration Error"), faultText);
     driver_->window().doLogin(true);
     QVERIFY(modals_.done());
-    QVERIFY(field().text().endsWith(kFault));
+    QVERIFY(field().text().endsWith(faultText));
     QCOMPARE(driver_->status(), q("Current connection terminated"));
 }
 
@@ -174,7 +174,7 @@ void LostSessionTest::theFieldOpensConnect() {
         QTest::mouseClick(&field(), Qt::LeftButton);
     QVERIFY(modals_.done());
     QCOMPARE(logins_, before + 1);
-    QVERIFY2(field().text().endsWith(kFault), "a cancelled login isn't a new session");
+    QVERIFY2(field().text().endsWith(faultText), "a cancelled login isn't a new session");
 }
 
 void LostSessionTest::aConnectedFieldOpensNothing() {
@@ -200,11 +200,11 @@ void LostSessionTest::theEmptyListSaysWhyAndConnects() {
 }
 
 void LostSessionTest::aListThatWasAlwaysEmptySaysNothing() {
-    agent_->inject("getTarnClientInfo", simulator::Fault{kFault.toStdString()});
+    agent_->inject("getTarnClientInfo", simulator::Fault{faultText.toStdString()});
     driver_->window().doLogin(true);
     QVERIFY(!session::connectedToAgent());
     QVERIFY(!notice().isVisible());
-    QVERIFY(field().text().endsWith(kFault));
+    QVERIFY(field().text().endsWith(faultText));
 }
 
 void LostSessionTest::anOpenDialogSaysSoAtItsTop_data() {

@@ -271,9 +271,9 @@ private slots:
             widget = widget->nextInFocusChain();
         } while (widget->objectName() != QLatin1String("backupSetsView"));
         QCOMPARE(names,
-                 words("backupSetsView btnItems btnSchedule btnRetention tabWidget "
+                 words("backupSetsView buttonConnect btnItems btnSchedule btnRetention tabWidget "
                        "tableCurrentActivities buttonStop dateTimeFrom dateTimeTo buttonEventLog "
-                       "tableActivityLog"));
+                       "tableActivityLog connectionField"));
     }
 
     void opensInTheTextsOfATranslation() {

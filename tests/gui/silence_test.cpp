@@ -30,7 +30,7 @@ using support::MainWindowDriver;
 
 namespace {
 
-const app::CallGate::Times kQuick{5ms, 10ms};
+const app::CallGate::Times quickTimes{5ms, 10ms};
 
 /// What the user and the agent have seen of a flow.
 struct Outcome {
@@ -178,7 +178,7 @@ Outcome SilenceTest::run(const QString& slot, const simulator::Injection* inject
                          std::size_t at) {
     Outcome outcome;
     GuiAgent agent;
-    app::CallGate gate(kQuick);
+    app::CallGate gate(quickTimes);
     MainWindowDriver driver;
     driver.window().keepAliveBy(gate);
     const support::NoHeartbeats quiet(driver.window());

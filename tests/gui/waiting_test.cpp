@@ -47,8 +47,8 @@ using Calls = std::vector<std::string>;
 
 namespace {
 
-const QString kWaiting = QStringLiteral("The agent hasn't answered for N s.");
-const app::CallGate::Times kQuick{20ms, 60ms};
+const QString firstText = QStringLiteral("The agent hasn't answered for N s.");
+const app::CallGate::Times quickTimes{20ms, 60ms};
 
 /// Counts what a widget paints.
 class Paints : public QObject {
@@ -75,7 +75,7 @@ private slots:
     void initTestCase() { resources::initPictures(); }
     void init() {
         agent_ = std::make_unique<GuiAgent>();
-        gate_ = std::make_unique<app::CallGate>(kQuick);
+        gate_ = std::make_unique<app::CallGate>(quickTimes);
         driver_ = std::make_unique<MainWindowDriver>();
         driver_->window().keepAliveBy(*gate_);
         driver_->logIn(*agent_);
@@ -139,7 +139,7 @@ void WaitingTest::aSilentAgentIsLeftByTheButton() {
         clickDisconnect();
     });
     driver_->beat();
-    QCOMPARE(text, kWaiting);
+    QCOMPARE(text, firstText);
     QVERIFY(!session::connectedToAgent());
     QCOMPARE(driver_->status(), QStringLiteral("No API connection exists"));
     QCOMPARE(methodsOf(*agent_), Calls{"getTarnClientInfo"});
