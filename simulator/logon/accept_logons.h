@@ -13,7 +13,7 @@ namespace simulator {
 /// SPNEGO or bare Kerberos, with the keys of `keyTable`; those of the environment if that is empty.
 /// What it refuses is a `Refusal` with the system's own text.
 ///
-/// Nothing on the wire tells whose token it is, so there is one logon at a time: a token that
+/// Nothing on the wire says whose token it is, so there is one logon at a time: a token that
 /// begins another one ends what was left half-way.
 ///
 /// Raises `std::runtime_error` if the keys can't be had, or if the system has no such mechanism.

@@ -48,7 +48,7 @@ void ConnectionField::show(const ConnectionState& state) {
 void ConnectionField::setTexts() {
     const bool connected = state_.kind == Kind::connected;
     setIcon(pictureOf(state_.kind));
-    // Somebody else's text may hold what a button takes for its mnemonic.
+    // The text may come from the agent and hold what a button takes for its mnemonic.
     const QString text = fontMetrics().elidedText(shortText(state_), Qt::ElideRight, widest);
     setText(QString(text).replace(QLatin1Char('&'), QLatin1String("&&")));
     QString whole = wholeText(state_);

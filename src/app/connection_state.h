@@ -7,7 +7,7 @@
 
 namespace app {
 
-/// What the user is told of the connection. Whether there is one, the session knows.
+/// What the user sees of the connection. Whether there is one, the session knows.
 struct ConnectionState {
     enum class Kind { notConnected, connected, lost };
 

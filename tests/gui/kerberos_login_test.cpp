@@ -46,7 +46,7 @@ void press(QWidget& dialog, const char* button) {
     QTest::mouseClick(&child<QPushButton>(dialog, button), Qt::LeftButton);
 }
 
-/// How often the agent was asked to let somebody in by that method.
+/// How often the agent was asked for a login by that method.
 int count(const simulator::Simulator& agent, const std::string& method) {
     int found = 0;
     for (const auto& call : agent.callLog())

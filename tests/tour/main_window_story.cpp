@@ -53,7 +53,7 @@ void takeLogin(Album& album) {
         const support::SecurityOperationsOverride inUse(&security);
         Photographer photographer(album);
         photographer.expect<LoginCheck>([&](LoginCheck& login) {
-            // Not the account of whoever takes the picture.
+            // Not the account that takes the picture.
             type(login, "lineEditUserName", "anna");
             photographer.take(login, "login-current-user");
         });

@@ -34,7 +34,7 @@ public:
     int blocksWithSecret() const { return findings; }
 };
 
-// Each block stands behind its size.
+// Each block follows its size.
 constexpr std::size_t headSize = alignof(std::max_align_t);
 
 } // namespace
