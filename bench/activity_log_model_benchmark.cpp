@@ -61,8 +61,8 @@ void itemModelRefresh(benchmark::State& state) {
     state.counters["bytes_per_row"] = model.clear() / rowCount;
 }
 
-BENCHMARK(itemModelRefresh)->UseManualTime()->Unit(benchmark::millisecond);
-BENCHMARK(modelRefresh)->UseManualTime()->Unit(benchmark::millisecond);
+BENCHMARK(itemModelRefresh)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(modelRefresh)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 } // namespace
 

@@ -73,8 +73,8 @@ void checksumTable(benchmark::State& state) {
     measure(state, byTable);
 }
 
-BENCHMARK(checksumOfFrames)->Unit(benchmark::millisecond);
-BENCHMARK(checksumZlib)->Unit(benchmark::millisecond);
-BENCHMARK(checksumTable)->Unit(benchmark::millisecond);
+BENCHMARK(checksumOfFrames)->Unit(benchmark::kMillisecond);
+BENCHMARK(checksumZlib)->Unit(benchmark::kMillisecond);
+BENCHMARK(checksumTable)->Unit(benchmark::kMillisecond);
 
 } // namespace

@@ -93,14 +93,14 @@ void copyBytes(benchmark::State& state) {
     }
 }
 
-BENCHMARK(copyBytes)->Unit(benchmark::millisecond);
-BENCHMARK(decodeInOrder)->Unit(benchmark::millisecond);
-BENCHMARK(decodeInReverse)->Unit(benchmark::millisecond);
-BENCHMARK(decodeMsgpack)->Unit(benchmark::millisecond);
-BENCHMARK(decodeProtobuf)->Unit(benchmark::millisecond);
-BENCHMARK(encodeReserved)->Unit(benchmark::millisecond);
-BENCHMARK(encodeProtobuf)->Unit(benchmark::millisecond);
-BENCHMARK(sizePass)->Unit(benchmark::millisecond);
+BENCHMARK(copyBytes)->Unit(benchmark::kMillisecond);
+BENCHMARK(decodeInOrder)->Unit(benchmark::kMillisecond);
+BENCHMARK(decodeInReverse)->Unit(benchmark::kMillisecond);
+BENCHMARK(decodeMsgpack)->Unit(benchmark::kMillisecond);
+BENCHMARK(decodeProtobuf)->Unit(benchmark::kMillisecond);
+BENCHMARK(encodeReserved)->Unit(benchmark::kMillisecond);
+BENCHMARK(encodeProtobuf)->Unit(benchmark::kMillisecond);
+BENCHMARK(sizePass)->Unit(benchmark::kMillisecond);
 
 } // namespace
 

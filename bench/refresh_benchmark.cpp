@@ -122,7 +122,7 @@ void parts(benchmark::State& state) {
     const auto window = largeWindow();
     const auto add = [&](const char* part, double time) {
         auto& counter = state.counters[part];
-        counter.flags = benchmark::Counter::avgIterations;
+        counter.flags = benchmark::Counter::kAvgIterations;
         counter.value += time * 1e3;
     };
     for (auto round : state) {
@@ -186,17 +186,17 @@ void growthLarge(benchmark::State& state) {
     measureGrowth(state, *largeWindow(), 5);
 }
 
-BENCHMARK(itemModelRefresh)->UseManualTime()->Unit(benchmark::millisecond);
-BENCHMARK(windowRefresh)->UseManualTime()->Unit(benchmark::millisecond);
-BENCHMARK(windowFirstRefresh)->UseManualTime()->Iterations(1)->Unit(benchmark::millisecond);
-BENCHMARK(parts)->UseManualTime()->Unit(benchmark::millisecond);
-BENCHMARK(cards)->Iterations(1)->Repetitions(2)->Unit(benchmark::millisecond);
-BENCHMARK(growth)->UseManualTime()->Iterations(1000)->Repetitions(3)->Unit(benchmark::millisecond);
+BENCHMARK(itemModelRefresh)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(windowRefresh)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(windowFirstRefresh)->UseManualTime()->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(parts)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(cards)->Iterations(1)->Repetitions(2)->Unit(benchmark::kMillisecond);
+BENCHMARK(growth)->UseManualTime()->Iterations(1000)->Repetitions(3)->Unit(benchmark::kMillisecond);
 BENCHMARK(growthLarge)
     ->UseManualTime()
     ->Iterations(20)
     ->Repetitions(3)
-    ->Unit(benchmark::millisecond);
+    ->Unit(benchmark::kMillisecond);
 
 } // namespace
 

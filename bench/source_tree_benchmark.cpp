@@ -223,13 +223,13 @@ void checkItems(benchmark::State& state) {
     countCalls(state, 0);
 }
 
-BENCHMARK(sortByKeys)->UseManualTime()->Unit(benchmark::millisecond);
-BENCHMARK(sortByComparing)->UseManualTime()->Unit(benchmark::millisecond);
-BENCHMARK(openTree)->UseManualTime()->Unit(benchmark::millisecond);
-BENCHMARK(openItems)->UseManualTime()->Unit(benchmark::millisecond);
-BENCHMARK(checkTree)->UseManualTime()->Unit(benchmark::millisecond);
-BENCHMARK(checkFolders)->UseManualTime()->Unit(benchmark::millisecond);
-BENCHMARK(checkItems)->UseManualTime()->Unit(benchmark::millisecond);
+BENCHMARK(sortByKeys)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(sortByComparing)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(openTree)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(openItems)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(checkTree)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(checkFolders)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(checkItems)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 } // namespace
 

@@ -261,12 +261,12 @@ void keepExpansionOfItems(benchmark::State& state) {
     tree.setModel(nullptr);
 }
 
-BENCHMARK(typeFilter)->UseManualTime()->Unit(benchmark::millisecond);
-BENCHMARK(typeFilterOfQt)->UseManualTime()->Unit(benchmark::millisecond);
-BENCHMARK(walkSelection)->UseManualTime()->Unit(benchmark::millisecond);
-BENCHMARK(walkItems)->UseManualTime()->Unit(benchmark::millisecond);
-BENCHMARK(keepExpansion)->UseManualTime()->Unit(benchmark::millisecond);
-BENCHMARK(keepExpansionOfItems)->UseManualTime()->Unit(benchmark::millisecond);
+BENCHMARK(typeFilter)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(typeFilterOfQt)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(walkSelection)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(walkItems)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(keepExpansion)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(keepExpansionOfItems)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 } // namespace
 

@@ -133,12 +133,12 @@ void largeReplyBareStream(benchmark::State& state) {
     });
 }
 
-BENCHMARK(callBareStream)->UseRealTime()->Unit(benchmark::microsecond);
-BENCHMARK(callRawStream)->UseRealTime()->Unit(benchmark::microsecond);
+BENCHMARK(callBareStream)->UseRealTime()->Unit(benchmark::kMicrosecond);
+BENCHMARK(callRawStream)->UseRealTime()->Unit(benchmark::kMicrosecond);
 BENCHMARK(callRawStreamWithHook)->UseRealTime()->Unit(benchmark::kMicrosecond);
-BENCHMARK(callGrpc)->UseRealTime()->Unit(benchmark::microsecond);
-BENCHMARK(largeReplyBareStream)->UseManualTime()->Unit(benchmark::millisecond);
-BENCHMARK(largeReplyRawStream)->UseManualTime()->Unit(benchmark::millisecond);
+BENCHMARK(callGrpc)->UseRealTime()->Unit(benchmark::kMicrosecond);
+BENCHMARK(largeReplyBareStream)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(largeReplyRawStream)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 } // namespace
 
