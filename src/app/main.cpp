@@ -25,7 +25,10 @@ int runWindow(QtSingleApplication& application) {
     app::CallGate gate;
     SimpleGUIMainWindow window;
     window.keepAliveBy(gate);
-    app::showAtOnce(window);
+    if (app::startsInTray(QCoreApplication::arguments()))
+        window.hideMainWindow();
+    else
+        app::showAtOnce(window);
     QObject::connect(&application, &QtSingleApplication::messageReceived, &window,
                      &SimpleGUIMainWindow::showMainWindow);
     const int status = app::runLoggedIn(window);

@@ -49,6 +49,10 @@ QString languageOf(const QStringList& arguments) {
     return code == QLatin1String("en") ? QString() : code;
 }
 
+bool startsInTray(const QStringList& arguments, bool trayAvailable) {
+    return trayAvailable && arguments.contains(QStringLiteral("--tray"));
+}
+
 void installTranslation(QApplication& application, const QString& language) {
     if (language.isEmpty())
         return;

@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <QSystemTrayIcon>
 
 class QApplication;
 class QWidget;
@@ -19,6 +20,11 @@ void prepareToolkit();
 /// The language code behind the first "--lang". Empty for the built-in English: when there is no
 /// such option, when nothing follows it, and for the code "en".
 QString languageOf(const QStringList& arguments);
+
+/// Whether the window is to stay hidden at first: there is a tray to show it from, and one of the
+/// arguments is "--tray", as in a start by the desktop at log-on.
+bool startsInTray(const QStringList& arguments,
+                  bool trayAvailable = QSystemTrayIcon::isSystemTrayAvailable());
 
 /// Installs the translation file for `language` from the current directory, for the rest of the
 /// process. An error box tells when there is none, and the texts stay English.

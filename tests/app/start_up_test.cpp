@@ -50,6 +50,17 @@ private slots:
         directory_.reset();
     }
 
+    void startsInTheTrayOnlyIfAskedAndThereIsOne() {
+        const QString program = QStringLiteral("tarn-mobile-user");
+        const QString option = QStringLiteral("--tray");
+        QVERIFY(app::startsInTray({program, option}, true));
+        QVERIFY(app::startsInTray({program, QStringLiteral("--lang"), QStringLiteral("de"), option},
+                                  true));
+        QVERIFY(!app::startsInTray({program, option}, false));
+        QVERIFY(!app::startsInTray({program}, true));
+        QVERIFY(!app::startsInTray({program, QStringLiteral("--tray=1")}, true));
+    }
+
     void findsTheLanguage_data() {
         QTest::addColumn<QStringList>("arguments");
         QTest::addColumn<QString>("language");

@@ -1,0 +1,257 @@
+; SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+; SPDX-License-Identifier: Apache-2.0
+;
+; The installer. tools/windows/installer gives VERSION, PROGRAM_FOLDER, FILE_LIST, ICON, LICENSE and
+; OUTPUT.
+
+Target amd64-unicode
+Unicode true
+SetCompressor /SOLID lzma
+ManifestDPIAware true
+
+!define NAME "Tarn-Mobile User"
+!define PROGRAM "tarn-mobile-user.exe"
+!define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Tarn-Mobile User"
+!define EVENT_SOURCE "SYSTEM\CurrentControlSet\Services\EventLog\Application\HessianClientAPI"
+
+; For all users where the person may, else for this user alone; asked for where both are possible.
+!define MULTIUSER_EXECUTIONLEVEL Highest
+!define MULTIUSER_MUI
+!define MULTIUSER_USE_PROGRAMFILES64
+!define MULTIUSER_INSTALLMODE_COMMANDLINE
+!define MULTIUSER_INSTALLMODE_INSTDIR "${NAME}"
+!define MULTIUSER_INSTALLMODE_INSTDIR_REGISTRY_KEY "${UNINSTALL_KEY}"
+!define MULTIUSER_INSTALLMODE_INSTDIR_REGISTRY_VALUENAME InstallLocation
+!define MULTIUSER_INSTALLMODE_DEFAULT_REGISTRY_KEY "${UNINSTALL_KEY}"
+!define MULTIUSER_INSTALLMODE_DEFAULT_REGISTRY_VALUENAME InstallLocation
+
+!include MUI2.nsh
+!include MultiUser.nsh
+!include FileFunc.nsh
+!include LogicLib.nsh
+!include Sections.nsh
+!include WinMessages.nsh
+; The macros InstallFiles and RemoveFiles.
+!include "${FILE_LIST}"
+
+Name "${NAME} ${VERSION}"
+OutFile "${OUTPUT}"
+BrandingText "${NAME} ${VERSION}"
+VIProductVersion "${VERSION}.0"
+VIAddVersionKey ProductName "${NAME}"
+VIAddVersionKey ProductVersion "${VERSION}"
+VIAddVersionKey FileVersion "${VERSION}"
+VIAddVersionKey FileDescription "${NAME} Setup"
+VIAddVersionKey CompanyName "The Tarn-Mobile User authors"
+VIAddVersionKey LegalCopyright "Copyright 2026 The Tarn-Mobile User authors"
+
+!define MUI_ICON "${ICON}"
+!define MUI_UNICON "${ICON}"
+!define MUI_ABORTWARNING
+!define MUI_FINISHPAGE_RUN
+!define MUI_FINISHPAGE_RUN_FUNCTION StartProgram
+
+!insertmacro MUI_PAGE_WELCOME
+!insertmacro MUI_PAGE_LICENSE "${LICENSE}"
+!insertmacro MULTIUSER_PAGE_INSTALLMODE
+!insertmacro MUI_PAGE_COMPONENTS
+!insertmacro MUI_PAGE_DIRECTORY
+!insertmacro MUI_PAGE_INSTFILES
+!insertmacro MUI_PAGE_FINISH
+!insertmacro MUI_UNPAGE_CONFIRM
+!insertmacro MUI_UNPAGE_INSTFILES
+
+!insertmacro MUI_LANGUAGE English
+!insertmacro MUI_LANGUAGE German
+
+LangString DesktopIcon ${LANG_ENGLISH} "Desktop icon"
+LangString DesktopIcon ${LANG_GERMAN} "Symbol auf dem Desktop"
+LangString StartAtLogOn ${LANG_ENGLISH} "Start at log-on"
+LangString StartAtLogOn ${LANG_GERMAN} "Start bei der Anmeldung"
+LangString AboutProgram ${LANG_ENGLISH} "The program, its user guide and its entry in the Start menu."
+LangString AboutProgram ${LANG_GERMAN} "Das Programm, sein Handbuch und sein Eintrag im Startmenü."
+LangString AboutDesktopIcon ${LANG_ENGLISH} "A shortcut on the desktop."
+LangString AboutDesktopIcon ${LANG_GERMAN} "Eine Verknüpfung auf dem Desktop."
+LangString AboutStartAtLogOn ${LANG_ENGLISH} "Starts the program in the notification area when you log on to Windows."
+LangString AboutStartAtLogOn ${LANG_GERMAN} "Startet das Programm im Infobereich, wenn Sie sich bei Windows anmelden."
+LangString IsRunning ${LANG_ENGLISH} "${NAME} is running and has to be closed. Close it now?"
+LangString IsRunning ${LANG_GERMAN} "${NAME} läuft und muss beendet werden. Jetzt beenden?"
+LangString StillRuns ${LANG_ENGLISH} "${NAME} is still running. Quit it from its icon in the notification area, then try again."
+LangString StillRuns ${LANG_GERMAN} "${NAME} läuft noch. Beenden Sie es über sein Symbol im Infobereich und versuchen Sie es erneut."
+LangString OnlyFrom10 ${LANG_ENGLISH} "${NAME} needs Windows 10 or later."
+LangString OnlyFrom10 ${LANG_GERMAN} "${NAME} benötigt Windows 10 oder neuer."
+; How the program is called so that it speaks the language of the installer.
+LangString ProgramOptions ${LANG_ENGLISH} "--lang en"
+LangString ProgramOptions ${LANG_GERMAN} "--lang de"
+
+; Asks every running program of this folder to end, the way the end of a session does, and waits
+; for it. $R0 is the number of those that still run.
+!macro CloseFunctions un
+Function ${un}EachRunning ; $R9: what to do with a window: 0 count, 1 ask to end
+    StrCpy $R0 0
+    StrCpy $0 0
+    ${Do}
+        System::Call 'user32::FindWindowExW(p 0, p r0, p 0, p 0) p .r0'
+        ${If} $0 = 0
+            ${Break}
+        ${EndIf}
+        System::Call 'user32::GetWindowThreadProcessId(p r0, *i .r1)'
+        System::Call 'kernel32::OpenProcess(i 0x1000, i 0, i r1) p .r2'
+        ${If} $2 <> 0
+            StrCpy $3 ${NSIS_MAX_STRLEN}
+            StrCpy $4 ""
+            System::Call 'kernel32::QueryFullProcessImageNameW(p r2, i 0, w .r4, *i r3)'
+            System::Call 'kernel32::CloseHandle(p r2)'
+            ${If} $4 == "$INSTDIR\${PROGRAM}"
+                IntOp $R0 $R0 + 1
+                ${If} $R9 = 1
+                    ; ENDSESSION_CLOSEAPP
+                    System::Call 'user32::SendMessageTimeoutW(p r0, i ${WM_QUERYENDSESSION}, p 0, p 1, i 2, i 5000, *p .r5)'
+                    System::Call 'user32::PostMessageW(p r0, i ${WM_ENDSESSION}, p 1, p 1)'
+                ${EndIf}
+            ${EndIf}
+        ${EndIf}
+    ${Loop}
+FunctionEnd
+
+Function ${un}CloseProgram
+    StrCpy $R9 0
+    Call ${un}EachRunning
+    ${If} $R0 = 0
+        Return
+    ${EndIf}
+    MessageBox MB_OKCANCEL|MB_ICONEXCLAMATION $(IsRunning) /SD IDOK IDOK ask
+    Abort
+    ask:
+    StrCpy $R9 1
+    Call ${un}EachRunning
+    StrCpy $R9 0
+    StrCpy $R8 0
+    ${For} $R8 1 60
+        Sleep 250
+        Call ${un}EachRunning
+        ${If} $R0 = 0
+            Return
+        ${EndIf}
+    ${Next}
+    MessageBox MB_RETRYCANCEL|MB_ICONSTOP $(StillRuns) /SD IDCANCEL IDRETRY ask
+    SetErrorLevel 2
+    Quit
+FunctionEnd
+!macroend
+!insertmacro CloseFunctions ""
+!insertmacro CloseFunctions "un."
+
+; The shortcut starts in the program's folder, where its translations and branding are.
+!macro Shortcut path options
+    CreateShortcut "${path}" "$INSTDIR\${PROGRAM}" "${options}" "$INSTDIR\${PROGRAM}" 0
+!macroend
+
+Section "!${NAME}" WithProgram
+    SectionIn RO
+    Call CloseProgram
+    SetOutPath "$INSTDIR"
+    ; What an older version has and this one hasn't would stay.
+    ${If} ${FileExists} "$INSTDIR\uninstall.exe"
+        ExecWait '"$INSTDIR\uninstall.exe" /S /Upgrade /$MultiUser.InstallMode _?=$INSTDIR'
+    ${EndIf}
+    !insertmacro InstallFiles
+    SetOutPath "$INSTDIR"
+    WriteUninstaller "$INSTDIR\uninstall.exe"
+    !insertmacro Shortcut "$SMPROGRAMS\${NAME}.lnk" "$(ProgramOptions)"
+
+    WriteRegStr SHCTX "${UNINSTALL_KEY}" DisplayName "${NAME}"
+    WriteRegStr SHCTX "${UNINSTALL_KEY}" DisplayVersion "${VERSION}"
+    WriteRegStr SHCTX "${UNINSTALL_KEY}" DisplayIcon "$INSTDIR\${PROGRAM}"
+    WriteRegStr SHCTX "${UNINSTALL_KEY}" Publisher "The Tarn-Mobile User authors"
+    WriteRegStr SHCTX "${UNINSTALL_KEY}" InstallLocation "$INSTDIR"
+    WriteRegStr SHCTX "${UNINSTALL_KEY}" UninstallString '"$INSTDIR\uninstall.exe" /$MultiUser.InstallMode'
+    WriteRegStr SHCTX "${UNINSTALL_KEY}" QuietUninstallString '"$INSTDIR\uninstall.exe" /$MultiUser.InstallMode /S'
+    WriteRegDWORD SHCTX "${UNINSTALL_KEY}" NoModify 1
+    WriteRegDWORD SHCTX "${UNINSTALL_KEY}" NoRepair 1
+    ${GetSize} "$INSTDIR" "/S=0K" $0 $1 $2
+    WriteRegDWORD SHCTX "${UNINSTALL_KEY}" EstimatedSize $0
+
+    ; Only an administrator can name a source of the event log.
+    ${If} $MultiUser.InstallMode == AllUsers
+        WriteRegExpandStr HKLM "${EVENT_SOURCE}" EventMessageFile "$INSTDIR\${PROGRAM}"
+        WriteRegDWORD HKLM "${EVENT_SOURCE}" TypesSupported 1
+    ${EndIf}
+SectionEnd
+
+Section /o $(DesktopIcon) WithDesktopIcon
+    !insertmacro Shortcut "$DESKTOP\${NAME}.lnk" "$(ProgramOptions)"
+SectionEnd
+
+Section /o $(StartAtLogOn) WithStartAtLogOn
+    !insertmacro Shortcut "$SMSTARTUP\${NAME}.lnk" "$(ProgramOptions) --tray"
+SectionEnd
+
+!insertmacro MUI_FUNCTION_DESCRIPTION_BEGIN
+    !insertmacro MUI_DESCRIPTION_TEXT ${WithProgram} $(AboutProgram)
+    !insertmacro MUI_DESCRIPTION_TEXT ${WithDesktopIcon} $(AboutDesktopIcon)
+    !insertmacro MUI_DESCRIPTION_TEXT ${WithStartAtLogOn} $(AboutStartAtLogOn)
+!insertmacro MUI_FUNCTION_DESCRIPTION_END
+
+; Chooses a section if the command line says so, or if an earlier installation has what it makes.
+!macro Choose section option made
+    ClearErrors
+    ${GetOptions} $0 "${option}" $1
+    ${IfNot} ${Errors}
+    ${OrIf} ${FileExists} "${made}"
+        !insertmacro SelectSection ${section}
+    ${EndIf}
+!macroend
+
+Function .onInit
+    ${IfNot} ${AtLeastWin10}
+        MessageBox MB_OK|MB_ICONSTOP $(OnlyFrom10) /SD IDOK
+        SetErrorLevel 3
+        Quit
+    ${EndIf}
+    SetRegView 64
+    !insertmacro MULTIUSER_INIT
+    ${GetParameters} $0
+    ClearErrors
+    ${GetOptions} $0 "/LANG=" $1
+    ${IfNot} ${Errors}
+        ${If} $1 == de
+            StrCpy $LANGUAGE ${LANG_GERMAN}
+        ${Else}
+            StrCpy $LANGUAGE ${LANG_ENGLISH}
+        ${EndIf}
+    ${EndIf}
+    !insertmacro Choose ${WithDesktopIcon} "/DESKTOPICON" "$DESKTOP\${NAME}.lnk"
+    !insertmacro Choose ${WithStartAtLogOn} "/STARTATLOGON" "$SMSTARTUP\${NAME}.lnk"
+FunctionEnd
+
+Function StartProgram
+    SetOutPath "$INSTDIR"
+    ; Through the desktop, so that it has the person's rights even if the installer has more.
+    Exec '"$WINDIR\explorer.exe" "$SMPROGRAMS\${NAME}.lnk"'
+FunctionEnd
+
+Function un.onInit
+    SetRegView 64
+    !insertmacro MULTIUSER_UNINIT
+FunctionEnd
+
+Section Uninstall
+    Call un.CloseProgram
+    !insertmacro RemoveFiles
+    Delete "$INSTDIR\uninstall.exe"
+    RMDir "$INSTDIR"
+    ${GetParameters} $0
+    ClearErrors
+    ${GetOptions} $0 "/Upgrade" $1
+    ; Shortcuts stay over an upgrade, with where the person has put them.
+    ${If} ${Errors}
+        Delete "$SMPROGRAMS\${NAME}.lnk"
+        Delete "$DESKTOP\${NAME}.lnk"
+        Delete "$SMSTARTUP\${NAME}.lnk"
+        DeleteRegKey SHCTX "${UNINSTALL_KEY}"
+        ${If} $MultiUser.InstallMode == AllUsers
+            DeleteRegKey HKLM "${EVENT_SOURCE}"
+        ${EndIf}
+    ${EndIf}
+SectionEnd

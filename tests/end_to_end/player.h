@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <deque>
+#include <functional>
+
+#include <QDeadlineTimer>
+#include <QObject>
+#include <QString>
+#include <QTimer>
+
+class QWidget;
+
+namespace end_to_end {
+
+/// Plays a user in a program that knows nothing of it: step after step waits until what it needs
+/// is there, then acts. A step that waits for too long ends the program with status 3.
+class Player : public QObject {
+    Q_OBJECT
+public:
+    /// True when the step could be done.
+    using Step = std::function<bool()>;
+
+    explicit Player(QString pictures);
+
+    void then(const QString& name, Step step);
+    /// Begins with the event loop.
+    void play();
+
+    /// Saves what the widget shows as a picture of that name.
+    void take(QWidget& widget, const QString& name) const;
+
+private:
+    void tick();
+
+    struct Named {
+        QString name;
+        Step step;
+    };
+
+    QString pictures_;
+    std::deque<Named> steps_;
+    QDeadlineTimer deadline_;
+    QTimer timer_;
+};
+
+} // namespace end_to_end
