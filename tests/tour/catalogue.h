@@ -15,10 +15,9 @@ struct Screen {
 /// A window, a page or a dialog in its states, with the boxes that it may open.
 struct Chapter {
     const char* title;
-    /// The class of which one is on each of the pictures, or is behind it. Empty if no form of ours
-    /// is.
+    /// The class that each picture shows, or that is behind it. Empty for a screen without a form.
     const char* className;
-    const char* file; ///< where it stands in the code: the form, if it has one
+    const char* file; ///< its source: the form, if it has one
     std::vector<Screen> screens;
 };
 

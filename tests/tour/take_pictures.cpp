@@ -50,12 +50,22 @@ void writeScreen(const tour::Screen& screen, const Titles& english, const Titles
     std::printf("| ![](tour/en/%s.png) | ![](tour/de/%s.png) |\n\n", screen.name, screen.name);
 }
 
+void writeTableOfScreens() {
+    std::puts("## Screens\n\n| Screen | Class | Form |\n|---|---|---|");
+    for (const tour::Chapter& chapter : tour::catalogue())
+        if (*chapter.className)
+            std::printf("| %s | `%s` | [%s](../%s) |\n", chapter.title, chapter.className,
+                        chapter.file, chapter.file);
+    std::puts("");
+}
+
 void writeIndex(const Titles& english, const Titles& german) {
     std::puts(
         "# Every screen\n\n"
-        "All windows, pages, dialogs and boxes, in English and in German. Above a picture stands "
-        "the title\nof its window. This page and its pictures are made by `tools/pictures`; the "
-        "balloons of the\ntray are the desktop's.\n");
+        "All windows, pages, dialogs and boxes, in English and in German. The title of each window "
+        "is above its\npicture. `tools/pictures` generates this page and its pictures. The desktop "
+        "draws the balloons of the\ntray, so they are not shown here.\n");
+    writeTableOfScreens();
     for (const tour::Chapter& chapter : tour::catalogue()) {
         std::printf("## %s\n\nIn [%s](../%s)\n\n", chapter.title, chapter.file, chapter.file);
         for (const tour::Screen& screen : chapter.screens)
