@@ -121,38 +121,38 @@ CommandLine parseCommandLine(const std::vector<std::string>& arguments) {
 std::string_view helpText() {
     return R"(Usage: tarn-agent-simulator [option...]
 
-A backup agent to show and to test the client with. It listens on 127.0.0.1 only.
+A simulated backup agent for demonstrations and tests. It listens on 127.0.0.1 only.
 
-  --port PORT          listen on this port; 0 takes a free one (default 4411)
-  --scenario NAME      what the agent holds: default, empty, central, notebook,
+  --port PORT          listen on this port; 0 picks a free one (default 4411)
+  --scenario NAME      the agent's data: default, empty, central, notebook,
                        first-run, unix or large; or, to restore and to delete,
-                       generations (files of two years, some of them gone),
-                       groups (entries that can't be chosen themselves),
-                       shares (whose names collide), failing (folders that
-                       can't be read), many-files (100,000 in one folder),
-                       deep (60 folders, one in the other), or storages, with
-                       a set of each of these; or, to look after, overdue,
-                       failed, stalled (a backup that stands still),
-                       overlapping (schedules of all kinds) or many-folders
-                       (1,000 with 100,000 files)
+                       generations (files from two years, some since removed),
+                       groups (that can't be selected themselves), shares
+                       (with colliding names), failing (unreadable folders),
+                       many-files (100,000 in one folder), deep (60 nested
+                       folders) or storages (a set for each of these); or, to
+                       monitor, overdue, failed, stalled (a backup without
+                       progress), overlapping (schedules of every kind) or
+                       many-folders (1,000 with 100,000 files)
   --client-type NUMBER
-                       the agent's kind, in place of the scenario's: 8 and 9
-                       are mobile, 14 is a notebook
-  --os-type NUMBER     its system, likewise: 0 is Windows, 1 and 2 are Unix
+                       the agent's type, instead of the scenario's: 8 and 9
+                       are mobile, 14 is notebook
+  --os-type NUMBER     its operating system, instead of the scenario's: 0 is
+                       Windows, 1 and 2 are Unix
   --without-tool NUMBER
-                       switch a tool off; may be repeated. Without 8 sets
+                       disable a tool; can be repeated. Without tool 8, sets
                        can't use local storage
-  --two-factor CODE    switch two-factor authentication on, with this code
-  --user NAME          who may log in (default demo)
-  --password TEXT      with which password (default demo)
-  --domain NAME        a domain that the user may belong to; may be repeated
+  --two-factor CODE    enable two-factor authentication, with this code
+  --user NAME          the user who can log in (default demo)
+  --password TEXT      the user's password (default demo)
+  --domain NAME        a domain accepted for the user; can be repeated
   --no-guest           refuse a login with an empty user name
   --accept-logon KEYTAB
-                       accept integrated logons by Kerberos, with the keys in
-                       this file; '' takes those that the environment names
-  --speed FACTOR       let activities run this much faster (default 1)
-  --log FILE           write a line for each call
-  --plain              no TLS
+                       accept integrated Kerberos logons, with the keys in
+                       this file; '' uses the keys that the environment sets
+  --speed FACTOR       run activities faster by this factor (default 1)
+  --log FILE           write one line per call to this file
+  --plain              accept connections without TLS
   --help               show this text
   --version            show the version
 )";
