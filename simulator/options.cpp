@@ -21,7 +21,7 @@ Number number(const std::string& option, const std::string& text, Number least, 
     return value;
 }
 
-/// Hands out the arguments one after the other.
+/// Iterates over the arguments.
 class Arguments {
 public:
     explicit Arguments(const std::vector<std::string>& all)
@@ -47,7 +47,7 @@ Scenario scenario(const std::string& name) {
     return *found;
 }
 
-/// False if there is no such option.
+/// Returns false if there is no such option.
 bool applyToWorld(Options& options, const std::string& option, const std::string& value) {
     constexpr std::int32_t greatest = 99;
     if (option == "--client-type")
@@ -119,40 +119,42 @@ CommandLine parseCommandLine(const std::vector<std::string>& arguments) {
 }
 
 std::string_view helpText() {
-    return R"(Usage: tarn-agent-simulator [option...]
+    return R"(Usage: tarn-agent-simulator [OPTION]...
 
-A simulated backup agent for demonstrations and tests. It listens on 127.0.0.1 only.
+A simulated backup agent for testing and demonstrating the client. It listens
+on 127.0.0.1 only.
 
   --port PORT          listen on this port; 0 picks a free one (default 4411)
-  --scenario NAME      the agent's data: default, empty, central, notebook,
-                       first-run, unix or large; or, to restore and to delete,
-                       generations (files from two years, some since removed),
-                       groups (that can't be selected themselves), shares
-                       (with colliding names), failing (unreadable folders),
-                       many-files (100,000 in one folder), deep (60 nested
-                       folders) or storages (a set for each of these); or, to
-                       monitor, overdue, failed, stalled (a backup without
-                       progress), overlapping (schedules of every kind) or
-                       many-folders (1,000 with 100,000 files)
+  --scenario NAME      content of the agent: default, empty, central, notebook,
+                       first-run, unix or large; for restoring and deleting,
+                       generations (files of two years, some since removed),
+                       groups (entries that can't be selected themselves),
+                       shares (with colliding names), failing (with unreadable
+                       folders), many-files (100,000 in one folder), deep (60
+                       nested folders) or storages (one set of each of these);
+                       for problems to solve, overdue, failed, stalled (a
+                       backup that makes no progress), overlapping (schedules
+                       of all kinds) or many-folders (100,000 files in 1,000
+                       folders)
   --client-type NUMBER
-                       the agent's type, instead of the scenario's: 8 and 9
-                       are mobile, 14 is notebook
-  --os-type NUMBER     its operating system, instead of the scenario's: 0 is
+                       kind of agent, instead of the scenario's: 8 and 9 are
+                       mobile, 14 is a notebook
+  --os-type NUMBER     operating system, instead of the scenario's: 0 is
                        Windows, 1 and 2 are Unix
   --without-tool NUMBER
-                       disable a tool; can be repeated. Without tool 8, sets
+                       turn off a tool; can be repeated. Without tool 8, sets
                        can't use local storage
-  --two-factor CODE    enable two-factor authentication, with this code
-  --user NAME          the user who can log in (default demo)
-  --password TEXT      the user's password (default demo)
-  --domain NAME        a domain accepted for the user; can be repeated
-  --no-guest           refuse a login with an empty user name
+  --two-factor CODE    turn on two-factor authentication with this code
+  --user NAME          user who can log in (default demo)
+  --password TEXT      password of the user (default demo)
+  --domain NAME        domain offered for login; can be repeated
+  --no-guest           refuse logins with an empty user name
   --accept-logon KEYTAB
-                       accept integrated Kerberos logons, with the keys in
-                       this file; '' uses the keys that the environment sets
-  --speed FACTOR       run activities faster by this factor (default 1)
-  --log FILE           write one line per call to this file
-  --plain              accept connections without TLS
+                       accept integrated logons by Kerberos with the keys in
+                       this file; '' uses the key table of the environment
+  --speed FACTOR       run activities this much faster (default 1)
+  --log FILE           write a line for each call
+  --plain              don't use TLS
   --help               show this text
   --version            show the version
 )";
