@@ -62,6 +62,23 @@ bool BackupSetList::rebuild() {
     return true;
 }
 
+std::vector<hessiancln::backup_set_info> BackupSetList::records() const {
+    std::vector<hessiancln::backup_set_info> records;
+    records.reserve(static_cast<std::size_t>(count()));
+    for (int row = 0; row < count(); ++row)
+        records.push_back(cardAt(row)->record());
+    return records;
+}
+
+bool BackupSetList::selectSet(std::int32_t setId) {
+    for (int row = 0; row < count(); ++row)
+        if (cardAt(row)->record().id == setId) {
+            select(row);
+            return true;
+        }
+    return false;
+}
+
 void BackupSetList::clear() {
     abandonEditing();
     view_.clearSelection();

@@ -39,9 +39,13 @@ public:
     int count() const { return rows_.rowCount(); }
     /// Whether the agent has none, as opposed to a list that couldn't be read.
     bool isKnownToBeEmpty() const { return known_ && count() == 0; }
+    /// What the cards show, in their order.
+    std::vector<hessiancln::backup_set_info> records() const;
 
     /// The card of the first selected row, or null. It may go with the next rebuild.
     BackupSetViewItem* selectedCard() const;
+    /// Selects the set with this id. False if none is listed.
+    bool selectSet(std::int32_t setId);
     /// Selects the set with this id as soon as a rebuild finds it.
     void selectOnceListed(std::int32_t setId) { pendingId_ = setId; }
 

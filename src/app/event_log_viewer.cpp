@@ -37,6 +37,8 @@ void EventLogViewer::setUpTable() {
     table.setItemDelegateForColumn(EventLogModel::time,
                                    new ui::FittingTextDelegate(&table, Qt::ElideMiddle));
     table.sortByColumn(EventLogModel::time, Qt::DescendingOrder);
+    ui_->searchEvents->attach(
+        table, std::make_unique<insight::SearchedRecords<hessiancln::event_log_info>>(model_));
 }
 
 void EventLogViewer::showFor(const QDateTime& from, const QDateTime& to, std::int32_t activityId) {

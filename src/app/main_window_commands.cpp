@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 // The main window's slots that act on sets and activities, and those of its icon in the tray.
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QDateTime>
 #include <QMenu>
@@ -9,10 +10,12 @@
 #include "app/activity_tables.h"
 #include "app/backup_set_list.h"
 #include "app/event_log_viewer.h"
+#include "app/insight_windows.h"
 #include "app/log_span.h"
 #include "app/open_backup_set.h"
 #include "app/simple_gui_main_window.h"
 #include "app/tray_presence.h"
+#include "insight/restore_summary_box.h"
 #include "session/connection.h"
 #include "session/process_values.h"
 #include "session/text.h"
@@ -119,9 +122,25 @@ void SimpleGUIMainWindow::OnSync() {
 
 void SimpleGUIMainWindow::OnRestore() {
     commandSelectedSet(tr("Error"), ui::Cursor::arrow, [this](const auto& set) {
-        if (const auto activity = wizards::restoreFromSet(*this, app::openBackupSet(set.id)))
+        if (const auto activity = wizards::restoreFromSet(*this, app::openBackupSet(set.id),
+                                                          insight::addRestoreSummary))
             follow(set, tr("%1: Restore started for '%2'"));
     });
+}
+
+void SimpleGUIMainWindow::restoreFile(std::int32_t setId, const QStringList& path,
+                                      std::optional<std::int32_t> upTo) {
+    ui::remoteAction(*this, tr("Error"), ui::Cursor::arrow, [&] {
+        if (const auto activity = wizards::restoreFromSet(*this, app::openBackupSet(setId),
+                                                          insight::addRestoreSummary,
+                                                          wizards::RestoreFile{path, upTo}))
+            refreshAll();
+    });
+}
+
+void SimpleGUIMainWindow::commandSet(std::int32_t setId, void (SimpleGUIMainWindow::*command)()) {
+    if (sets_->selectSet(setId))
+        (this->*command)();
 }
 
 void SimpleGUIMainWindow::OnDelete() {
@@ -146,7 +165,10 @@ void SimpleGUIMainWindow::on_btnRetention_clicked() {
 }
 
 void SimpleGUIMainWindow::on_btnSchedule_clicked() {
+    const BackupSetViewItem* card = selectedSetItem();
+    const std::int32_t set = card ? card->record().id : -1;
     editSelectedSet(wizards::editSchedule);
+    insight_->scheduleChanged(set);
 }
 
 void SimpleGUIMainWindow::OnBackupSetSelectionChanged(const QItemSelection&,
@@ -181,8 +203,13 @@ void SimpleGUIMainWindow::OnStopActivity() {
 }
 
 void SimpleGUIMainWindow::ShowEventLog() {
+    showEventsOf(activities_->selectedLogEntry());
+}
+
+void SimpleGUIMainWindow::showEventsOf(
+    const std::optional<hessiancln::activity_log_info>& activity) {
     EventLogViewer viewer(this);
-    filter(viewer, activities_->selectedLogEntry());
+    filter(viewer, activity);
     viewer.exec();
 }
 
@@ -190,6 +217,14 @@ void SimpleGUIMainWindow::activityChangeDetected(
     const QList<hessiancln::running_activity_info>& appeared,
     const QList<hessiancln::running_activity_info>& disappeared) {
     tray_->announce(appeared, disappeared);
+    insight_->watchEnds(disappeared);
+}
+
+void SimpleGUIMainWindow::announceEnd(const hessiancln::activity_log_info& ended,
+                                      const QString& text) {
+    if (ended.type == hessiancln::ActivityType::Restore)
+        showStatus(text);
+    tray_->announceEnd(ended, text);
 }
 
 void SimpleGUIMainWindow::showMainWindow() {
@@ -207,4 +242,9 @@ void SimpleGUIMainWindow::sysTrayActivated(QSystemTrayIcon::ActivationReason rea
 
 void SimpleGUIMainWindow::sysTrayMessageClicked() {
     tray_->endReminder();
+    // Over a dialog there is no room for another one.
+    if (tray_->lastNews() && session::connectedToAgent() && !QApplication::activeModalWidget()) {
+        showMainWindow();
+        showEventsOf(tray_->lastNews());
+    }
 }

@@ -13,6 +13,7 @@
 #include "app/backup_set_list.h"
 #include "app/connection_display.h"
 #include "app/initial_configuration.h"
+#include "app/insight_windows.h"
 #include "app/login_check.h"
 #include "app/set_details_panel.h"
 #include "app/simple_gui_main_window.h"
@@ -126,6 +127,7 @@ void SimpleGUIMainWindow::refreshAll() {
     if (!session::connectedToAgent()) {
         activities_->clear();
         sets_->clear();
+        insight_->clear();
         return;
     }
     const QString before = std::exchange(refreshFailure_, {});
@@ -148,7 +150,10 @@ void SimpleGUIMainWindow::RefreshTarnClientInfo() {
 }
 
 void SimpleGUIMainWindow::RefreshActivityLogs() {
-    refresh([this] { activities_->refresh(); });
+    refresh([this] {
+        activities_->refresh();
+        insight_->takeActivities(activities_->log().records(), activities_->running().records());
+    });
 }
 
 void SimpleGUIMainWindow::refresh(const std::function<void()>& read) {
@@ -169,6 +174,7 @@ void SimpleGUIMainWindow::refreshBackupSets() {
     if (!sets_->rebuild())
         return;
     connection_->listed(sets_->count());
+    insight_->takeSets(sets_->records());
     // Last, when all rows are what they will be: an error box lets the next heartbeat in.
     showSetDetails();
     updateEnabling();

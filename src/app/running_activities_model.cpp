@@ -8,6 +8,7 @@
 
 #include "api/client_connection.h"
 #include "app/running_activity_progress.h"
+#include "insight/insight_texts.h"
 #include "session/connection.h"
 #include "session/text.h"
 #include "ui/activity_type_text.h"
@@ -80,6 +81,7 @@ void RunningActivitiesModel::refresh() {
 
 void RunningActivitiesModel::setActivities(std::vector<R> activities) {
     reportChanges(activities);
+    pace_.observe(activities, clock_());
     setRecords(std::move(activities));
 }
 
@@ -97,12 +99,27 @@ void RunningActivitiesModel::reportChanges(const std::vector<R>& activities) {
 void RunningActivitiesModel::clear() {
     RecordTableModel::clear();
     knownIds_.clear();
+    pace_ = {};
     skipComparison_ = true;
 }
 
 bool RunningActivitiesModel::hasActivityOnSet(std::int32_t setId) const {
     return std::any_of(records().begin(), records().end(),
                        [setId](const R& record) { return record.set_id == setId; });
+}
+
+QVariant RunningActivitiesModel::data(const QModelIndex& index, int role) const {
+    const QVariant value = RecordTableModel::data(index, role);
+    if (index.column() != progress || (role != Qt::ToolTipRole && role != Qt::AccessibleTextRole) ||
+        !checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
+        return value;
+    const auto pace = pace_.of(at(index.row()).activity_id);
+    const QString text = pace ? insight::paceText(*pace) : QString();
+    if (text.isEmpty())
+        return value;
+    if (role == Qt::ToolTipRole)
+        return QString(value.toString() + QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped()));
+    return QString(index.data().toString() + QStringLiteral(", ") + text);
 }
 
 QVariant RunningActivitiesModel::rowData(const R& record, int role) const {

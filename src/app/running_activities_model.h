@@ -6,6 +6,7 @@
 
 #include "api/activity_records.h"
 #include "app/running_activity_changes.h"
+#include "insight/activity_pace.h"
 #include "models/record_table_model.h"
 
 Q_DECLARE_METATYPE(hessiancln::running_activity_info)
@@ -34,6 +35,9 @@ public:
 
     bool hasActivityOnSet(std::int32_t setId) const;
 
+    /// The progress also says how fast it is.
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+
 signals:
     /// At least one of the lists has an entry. Sent while the rows are still the old ones.
     void activityChangeDetected(QList<hessiancln::running_activity_info> appeared,
@@ -46,6 +50,7 @@ private:
     void reportChanges(const std::vector<hessiancln::running_activity_info>& activities);
 
     Clock clock_;
+    insight::ActivityPace pace_;
     app::ActivityIds knownIds_;
     bool skipComparison_ = true;
 };

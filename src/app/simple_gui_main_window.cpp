@@ -13,6 +13,7 @@
 #include "app/call_gate.h"
 #include "app/connection_display.h"
 #include "app/enable_state.h"
+#include "app/insight_windows.h"
 #include "app/set_details_panel.h"
 #include "app/tray_presence.h"
 #include "session/process_values.h"
@@ -47,6 +48,7 @@ SimpleGUIMainWindow::SimpleGUIMainWindow(QWidget* parent, std::unique_ptr<app::T
     setUpActivities();
     setUpBackupSets();
     setUpConnection();
+    setUpInsight();
     setUpGeometry();
     updateEnabling();
     heartbeat_.start();
@@ -99,6 +101,40 @@ void SimpleGUIMainWindow::setUpConnection() {
     connection_ = new app::ConnectionDisplay(*ui_->statusbar, *ui_->backupSetsView);
     connect(connection_, &app::ConnectionDisplay::connectWanted, this,
             &SimpleGUIMainWindow::OnConnect);
+}
+
+void SimpleGUIMainWindow::setUpInsight() {
+    ui_->searchActivityLog->attach(
+        *ui_->tableActivityLog,
+        std::make_unique<insight::SearchedRecords<hessiancln::activity_log_info>>(
+            activities_->log()));
+    insight_ = std::make_unique<app::InsightWindows>(
+        *this, *ui_->statusbar, *ui_->searchActivityLog, [this](const insight::HealthRow& row) {
+            app::EnableInputs in = enableInputs();
+            in.setSelected = true;
+            in.setInSync = row.facts.info.in_sync;
+            in.setHasItems = row.facts.info.has_items;
+            in.setCreatedByPolicy = row.facts.info.is_created_by_policy;
+            in.activityRunsOnSet = row.facts.isRunning;
+            const app::EnableState on = app::enableState(in);
+            return BackupHealthWindow::Allowed{on.actionBackupNow, on.actionSynchronize};
+        });
+    connect(ui_->actionBackup_Health, &QAction::triggered, insight_.get(),
+            &app::InsightWindows::openHealth);
+    connect(ui_->actionFind_File, &QAction::triggered, this, [this] {
+        const BackupSetViewItem* card = selectedSetItem();
+        insight_->openFindFile(card ? card->record().id : -1);
+    });
+    connect(insight_.get(), &app::InsightWindows::backupRequested, this,
+            [this](std::int32_t set) { commandSet(set, &SimpleGUIMainWindow::OnBackupNow); });
+    connect(insight_.get(), &app::InsightWindows::syncRequested, this,
+            [this](std::int32_t set) { commandSet(set, &SimpleGUIMainWindow::OnSync); });
+    connect(insight_.get(), &app::InsightWindows::eventsRequested, this,
+            &SimpleGUIMainWindow::showEventsOf);
+    connect(insight_.get(), &app::InsightWindows::restoreRequested, this,
+            &SimpleGUIMainWindow::restoreFile);
+    connect(insight_.get(), &app::InsightWindows::activityEnded, this,
+            &SimpleGUIMainWindow::announceEnd);
 }
 
 void SimpleGUIMainWindow::setUpGeometry() {
@@ -167,6 +203,7 @@ void SimpleGUIMainWindow::updateEnabling() {
     ui_->btnSchedule->setEnabled(on.btnSchedule);
     ui_->btnRetention->setEnabled(on.btnRetention);
     ui_->actionTFASettings->setEnabled(on.actionTFASettings);
+    ui_->actionFind_File->setEnabled(in.connected);
 
     if (!in.connected)
         refreshAll();
@@ -201,6 +238,7 @@ void SimpleGUIMainWindow::changeEvent(QEvent* event) {
         setWindowTitle(title);
         ui_->actionLogo->setToolTip(ui::g_branding.description());
         tray_->setTexts();
+        insight_->setTexts();
     }
     QMainWindow::changeEvent(event);
 }

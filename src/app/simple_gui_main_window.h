@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include <QItemSelection>
 #include <QMainWindow>
@@ -26,6 +27,7 @@ class ActivityTables;
 class BackupSetList;
 class CallGate;
 class ConnectionDisplay;
+class InsightWindows;
 class SetDetailsPanel;
 class TrayPresence;
 struct EnableInputs;
@@ -34,6 +36,7 @@ struct EnableInputs;
 namespace hessiancln {
 class BackupSet;
 class GenericActivity;
+struct activity_log_info;
 struct backup_set_info;
 struct running_activity_info;
 } // namespace hessiancln
@@ -43,8 +46,8 @@ struct running_activity_info;
 /// asks the session.
 ///
 /// What has a state of its own is a class beside it: the list of cards, the details of the selected
-/// set, the tables of activities, the presence in the tray and the heartbeat. None of them knows
-/// another one; the window connects them.
+/// set, the tables of activities, the presence in the tray, the health of sets and the heartbeat.
+/// None of them knows another one; the window connects them.
 ///
 /// Upon each heartbeat it asks the agent for everything again. That is the only way in which it
 /// learns anything. Heartbeats arrive in the event loop of an open dialog too, so nothing here may
@@ -136,6 +139,7 @@ private:
     void setUpToolBars();
     void setUpActivities();
     void setUpBackupSets();
+    void setUpInsight();
     void setUpGeometry();
     void setUpConnection();
     void setUpTray(std::unique_ptr<app::TrayIcon> icon);
@@ -144,6 +148,12 @@ private:
     void showSession(const QString& server, const QString& user);
     void showStatus(const QString& text);
     void openInitialConfiguration();
+
+    /// Selects the set and runs a command on it, as a user does.
+    void commandSet(std::int32_t setId, void (SimpleGUIMainWindow::*command)());
+    void restoreFile(std::int32_t setId, const QStringList& path, std::optional<std::int32_t> upTo);
+    void showEventsOf(const std::optional<hessiancln::activity_log_info>& activity);
+    void announceEnd(const hessiancln::activity_log_info& ended, const QString& text);
 
     /// Reads something in the session, or ends the session if that fails.
     void refresh(const std::function<void()>& read);
@@ -170,6 +180,7 @@ private:
     std::unique_ptr<app::SetDetailsPanel> details_;
     std::unique_ptr<app::TrayPresence> tray_;
     app::ConnectionDisplay* connection_ = nullptr; ///< belongs to the status bar
+    std::unique_ptr<app::InsightWindows> insight_;
     app::Heartbeat heartbeat_;
     QString status_;         ///< of the status bar, which shows the tip of a menu in its place
     QString refreshFailure_; ///< of the last refresh; empty if that came through

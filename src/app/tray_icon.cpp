@@ -18,4 +18,8 @@ void TrayIcon::showBalloon(const QString& title, const QString& text) {
     showMessage(title, text, QSystemTrayIcon::Information, balloonTime);
 }
 
+void TrayIcon::showWarning(const QString& title, const QString& text) {
+    showMessage(title, text, QSystemTrayIcon::Warning, balloonTime);
+}
+
 } // namespace app

@@ -16,6 +16,8 @@ public:
     virtual bool isAvailable() const;
     /// Shows a message beside the icon for 10 seconds.
     virtual void showBalloon(const QString& title, const QString& text);
+    /// The same about something that went wrong.
+    virtual void showWarning(const QString& title, const QString& text);
 };
 
 } // namespace app

@@ -92,17 +92,34 @@ void TrayPresence::hideWindow() {
 
 void TrayPresence::announce(const QList<hessiancln::running_activity_info>& appeared,
                             const QList<hessiancln::running_activity_info>& disappeared) {
-    if (window_.isVisible() && window_.isActiveWindow())
+    if (isUserLooking())
         return;
+    lastNews_.reset();
     icon_->showBalloon(tr("Ostrand Backup Activity"),
                        activityBalloonText(appeared, disappeared, nameOf_));
 }
 
+bool TrayPresence::isUserLooking() const {
+    return window_.isVisible() && window_.isActiveWindow();
+}
+
+void TrayPresence::announceEnd(const hessiancln::activity_log_info& ended, const QString& text) {
+    if (isUserLooking())
+        return;
+    lastNews_ = ended;
+    if (ended.errors >= 1)
+        icon_->showWarning(tr("Ostrand Backup Activity"), text);
+    else
+        icon_->showBalloon(tr("Ostrand Backup Activity"), text);
+}
+
 void TrayPresence::remind() {
-    if (showReminder_)
-        icon_->showBalloon(tr("%1 is still running!").arg(productName()),
-                           tr("You can click the icon to show the window.\n\nClick here to not "
-                              "show this reminder again."));
+    if (!showReminder_)
+        return;
+    lastNews_.reset();
+    icon_->showBalloon(tr("%1 is still running!").arg(productName()),
+                       tr("You can click the icon to show the window.\n\nClick here to not "
+                          "show this reminder again."));
 }
 
 } // namespace app

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include <QAction>
 #include <QCoreApplication>
@@ -45,12 +46,18 @@ public:
     /// window.
     void announce(const QList<hessiancln::running_activity_info>& appeared,
                   const QList<hessiancln::running_activity_info>& disappeared);
+    /// A balloon about how an activity ended, as a warning if it had errors, unless the user is
+    /// looking at the window.
+    void announceEnd(const hessiancln::activity_log_info& ended, const QString& text);
+    /// What the last balloon was about, if it was about an end.
+    const std::optional<hessiancln::activity_log_info>& lastNews() const { return lastNews_; }
     /// A balloon that says where the window has gone, until `endReminder`.
     void remind();
     void endReminder() { showReminder_ = false; }
 
 private:
     void setUpMenu(QAction& quit);
+    bool isUserLooking() const;
 
     QWidget& window_;
     std::unique_ptr<TrayIcon> icon_;
@@ -59,6 +66,7 @@ private:
     QAction& actionHide_;
     QMenu& menu_;
     bool showReminder_ = true;
+    std::optional<hessiancln::activity_log_info> lastNews_;
 };
 
 } // namespace app

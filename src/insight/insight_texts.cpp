@@ -192,6 +192,13 @@ QString summaryText(const HealthCount& count) {
                            : Texts::tr("All %1 sets are safe").arg(count.sets);
 }
 
+QString summaryIcon(const HealthCount& count) {
+    if (count.attention > 0)
+        return QStringLiteral(":/icons/event_warning.png");
+    return count.unsettled > 0 || count.sets == 0 ? QStringLiteral(":/icons/event_info.png")
+                                                  : stateIcon(HealthState::Safe);
+}
+
 QString paceText(const Pace& pace) {
     if (pace.idleFor >= minute)
         return Texts::tr("no progress for %1 min").arg(pace.idleFor / minute);

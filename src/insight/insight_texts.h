@@ -34,6 +34,9 @@ QString helpText(const SetFacts& facts, const SetHealth& health, const HealthClo
 /// One line on all sets, as in "2 of 7 sets need attention".
 QString summaryText(const HealthCount& count);
 
+/// The name of the picture beside it, as a resource.
+QString summaryIcon(const HealthCount& count);
+
 /// How an activity gets on, as in "3.20 MB/s, 4 minutes left"; empty if nothing is known yet.
 QString paceText(const Pace& pace);
 

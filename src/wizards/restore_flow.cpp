@@ -28,6 +28,7 @@ class RestoreWizard {
 public:
     RestoreWizard(QWidget& parent, const Set& set);
 
+    RestorePages pages(const hessiancln::backup_set_status& status);
     bool run();
     Activity restore();
 
@@ -35,6 +36,8 @@ private:
     QWizard wizard_;
     RestoreSelectPage* items_; ///< owned by the wizard, like all pages
     RestoreLocationPage* location_;
+    SelectDataSourcePage* source_;
+    RestoreDirectoryDestination* directory_;
 };
 
 RestoreWizard::RestoreWizard(QWidget& parent, const Set& set)
@@ -43,12 +46,16 @@ RestoreWizard::RestoreWizard(QWidget& parent, const Set& set)
     wizard_.addPage(items_ = new RestoreSelectPage(set, &wizard_));
     location_ = new RestoreLocationPage(set, &wizard_);
     const int locationId = wizard_.addPage(location_);
-    auto* source = new SelectDataSourcePage(&wizard_);
-    location_->setDataSourcePageId(wizard_.addPage(source));
-    auto* directory = new RestoreDirectoryDestination(&wizard_);
-    location_->setDirectoryPageId(wizard_.addPage(directory));
-    source->initForRestore(set);
-    directory->setLocationPageId(locationId);
+    source_ = new SelectDataSourcePage(&wizard_);
+    location_->setDataSourcePageId(wizard_.addPage(source_));
+    directory_ = new RestoreDirectoryDestination(&wizard_);
+    location_->setDirectoryPageId(wizard_.addPage(directory_));
+    source_->initForRestore(set);
+    directory_->setLocationPageId(locationId);
+}
+
+RestorePages RestoreWizard::pages(const hessiancln::backup_set_status& status) {
+    return {wizard_, *items_, *location_, *source_, *directory_, status};
 }
 
 bool RestoreWizard::run() {
@@ -63,13 +70,21 @@ Activity RestoreWizard::restore() {
 
 } // namespace
 
-std::optional<Activity> restoreFromSet(QWidget& parent, const Set& set) {
-    if (set->getCurrentStatus().on_line_file_count == 0) {
+std::optional<Activity> restoreFromSet(QWidget& parent, const Set& set,
+                                       const std::function<void(const RestorePages&)>& prepare,
+                                       const std::optional<RestoreFile>& file) {
+    const auto status = set->getCurrentStatus();
+    if (status.on_line_file_count == 0) {
         ui::showInformation(&parent, Texts::tr("No data backed up"),
                             Texts::tr("The selected backup set has no backed up data."));
         return std::nullopt;
     }
     RestoreWizard wizard(parent, set);
+    const RestorePages pages = wizard.pages(status);
+    if (prepare)
+        prepare(pages);
+    if (file)
+        pages.items.tick(file->path, file->upTo);
     if (!wizard.run())
         return std::nullopt;
     return wizard.restore();

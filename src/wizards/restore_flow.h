@@ -2,11 +2,22 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <cstdint>
+#include <functional>
 #include <optional>
+
+#include <QStringList>
 
 #include <boost/shared_ptr.hpp>
 
+#include "api/backup_set_records.h"
+
 class QWidget;
+class QWizard;
+class RestoreDirectoryDestination;
+class RestoreLocationPage;
+class RestoreSelectPage;
+class SelectDataSourcePage;
 
 namespace hessiancln {
 class BackupSet;
@@ -15,10 +26,28 @@ class GenericActivity;
 
 namespace wizards {
 
+/// A restore wizard that is about to be shown. All of it lives as long as the wizard.
+struct RestorePages {
+    QWizard& wizard;
+    RestoreSelectPage& items;
+    RestoreLocationPage& location;
+    SelectDataSourcePage& source;
+    RestoreDirectoryDestination& directory;
+    hessiancln::backup_set_status status; ///< of the set
+};
+
+/// A file to begin with: ticked, and as it was at a time (seconds since 1970 UTC) or last.
+struct RestoreFile {
+    QStringList path; ///< from the top of the set
+    std::optional<std::int32_t> upTo;
+};
+
 /// Lets the user restore from a set in front of `parent`. Nothing if the user gave up or the set
 /// holds nothing; else what the agent does now, to be kept until it is shown, and null if there is
-/// nothing to do. Raises what the calls raise.
+/// nothing to do. `prepare` may add to the pages first. Raises what the calls raise.
 std::optional<boost::shared_ptr<hessiancln::GenericActivity>>
-restoreFromSet(QWidget& parent, const boost::shared_ptr<hessiancln::BackupSet>& set);
+restoreFromSet(QWidget& parent, const boost::shared_ptr<hessiancln::BackupSet>& set,
+               const std::function<void(const RestorePages&)>& prepare = {},
+               const std::optional<RestoreFile>& file = {});
 
 } // namespace wizards

@@ -78,6 +78,12 @@ RestoreDirectoryDestination* RestoreLocationPage::directoryPage() const {
                     : nullptr;
 }
 
+RestoreLocationPage::Target RestoreLocationPage::target() const {
+    if (ui_->radioOriginal->isChecked())
+        return Target::original;
+    return ui_->radioAlternateDir->isChecked() ? Target::otherDirectory : Target::otherComputer;
+}
+
 bool RestoreLocationPage::isComplete() const {
     return ui_->cmbRestoreReason->currentIndex() >= 0;
 }

@@ -44,6 +44,9 @@ public:
     boost::shared_ptr<hessiancln::GenericActivity>
     start(hessiancln::RestoreActivityInitiator& initiator) const;
 
+    enum class Target { original, otherDirectory, otherComputer };
+    Target target() const;
+
     bool isComplete() const override;
     int nextId() const override;
 

@@ -12,6 +12,7 @@
 #include "api/backup_set.h"
 #include "models/backed_up_data_model.h"
 #include "models/backed_up_node.h"
+#include "models/backedup_data_dir_only_model.h"
 #include "models/backedup_data_file_filter_model.h"
 #include "models/display_path.h"
 #include "models/generation_select_model.h"
@@ -166,6 +167,7 @@ void RestoreSelectPage::updateDataModel() {
     auto view = required(set_->prepare_restore(from, to, removed));
     showContents(view);
     view_ = std::move(view);
+    sizes_.clear();
     connect(ui_->listSelection->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &RestoreSelectPage::fileListSelectionChanged);
     fileListSelectionChanged();
@@ -195,7 +197,8 @@ void RestoreSelectPage::showFileGenerations() {
 }
 
 void RestoreSelectPage::letChooseGeneration(std::int64_t file, const QStringList& path) {
-    SelectGenerationDlg dialog(view_->getItemGenerations(file), window());
+    const auto generations = view_->getItemGenerations(file);
+    SelectGenerationDlg dialog(generations, window());
     const Span present = span();
     dialog.generations().selectNewestInRange(present.from, present.to);
     const bool accepted = dialog.exec() == QDialog::Accepted;
@@ -208,8 +211,54 @@ void RestoreSelectPage::letChooseGeneration(std::int64_t file, const QStringList
     if (!folders.isEmpty())
         ui_->treeSelection->scrollTo(folders.first(), QAbstractItemView::PositionAtCenter);
     const QModelIndex found = fileAt(model(), path);
-    if (found.isValid())
-        model().setData(found, true, Qt::CheckStateRole);
+    if (!found.isValid())
+        return;
+    for (const auto& generation : generations)
+        if (generation.backup_time == *chosen)
+            sizes_[model().nodeOf(found).item().id] = generation.data_size;
+    model().setData(found, true, Qt::CheckStateRole);
+}
+
+bool RestoreSelectPage::tick(const QStringList& path, std::optional<std::int32_t> upTo) {
+    if (upTo)
+        limitTo(*upTo);
+    if (path.isEmpty())
+        return false;
+    const QModelIndex found = fileAt(model(), path);
+    if (!found.isValid())
+        return false;
+    const QModelIndex folder = folders().mapFromSource(found.parent());
+    ui_->treeSelection->selectionModel()->setCurrentIndex(folder,
+                                                          QItemSelectionModel::ClearAndSelect);
+    ui_->treeSelection->scrollTo(folder, QAbstractItemView::PositionAtCenter);
+    model().setData(found, true, Qt::CheckStateRole);
+    const QModelIndex row = files().mapFromSource(found);
+    ui_->listSelection->setCurrentIndex(row);
+    ui_->listSelection->scrollTo(row);
+    return true;
+}
+
+void RestoreSelectPage::limitTo(std::int32_t upTo) {
+    {
+        const QScopedValueRollback<bool> suspended(suspended_, true);
+        switchFilterOn();
+        ui_->checkTo->setChecked(true);
+        moveTo(*ui_->dateTo, upTo);
+    }
+    updateDataModel();
+}
+
+BackedUpNode& RestoreSelectPage::root() const {
+    return model().nodeOf({});
+}
+
+bool RestoreSelectPage::isWholeSet() const {
+    return !ui_->checkFilter->isChecked() && model().allSelected();
+}
+
+std::optional<std::int64_t> RestoreSelectPage::knownSize(std::int64_t file) const {
+    const auto found = sizes_.find(file);
+    return found == sizes_.end() ? std::nullopt : std::optional(found->second);
 }
 
 bool RestoreSelectPage::narrowTo(std::int32_t chosen, const CGenerationSelectModel& generations) {

@@ -135,7 +135,8 @@ private slots:
         for (const QAction* menu : window_->menuBar()->actions())
             titles << menu->text();
         QCOMPARE(titles, (QStringList{QStringLiteral("&Application"), QStringLiteral("&Backup Set"),
-                                      QStringLiteral("&Configuration"), QStringLiteral("&Help")}));
+                                      QStringLiteral("&Configuration"), QStringLiteral("&View"),
+                                      QStringLiteral("&Help")}));
         QCOMPARE(entries(child<QWidget>(*window_, "menu_Application")),
                  words("actionLogin actionLogout - actionQuit"));
         QCOMPARE(entries(child<QWidget>(*window_, "menu_Backup_Set")),
@@ -144,6 +145,8 @@ private slots:
         QCOMPARE(entries(child<QWidget>(*window_, "menu_Configuration")),
                  words("actionLDAP_Account actionAdmin action_Recovery actionRegister "
                        "actionRegistration_Info actionTFASettings"));
+        QCOMPARE(entries(child<QWidget>(*window_, "menu_View")),
+                 words("actionBackup_Health actionFind_File"));
         QCOMPARE(entries(child<QWidget>(*window_, "menu_Help")), words("actionHelp action_About"));
     }
 
@@ -273,7 +276,8 @@ private slots:
         QCOMPARE(names,
                  words("backupSetsView buttonConnect btnItems btnSchedule btnRetention tabWidget "
                        "tableCurrentActivities buttonStop dateTimeFrom dateTimeTo buttonEventLog "
-                       "tableActivityLog connectionField"));
+                       "editSearch comboSeverity buttonExport tableActivityLog healthField "
+                       "connectionField"));
     }
 
     void opensInTheTextsOfATranslation() {

@@ -28,8 +28,12 @@ public:
     void showBalloon(const QString& title, const QString& text) override {
         balloons.append({title, text});
     }
+    void showWarning(const QString& title, const QString& text) override {
+        warnings.append({title, text});
+    }
 
     QList<QPair<QString, QString>> balloons; ///< title and text
+    QList<QPair<QString, QString>> warnings;
 
 private:
     bool available_;

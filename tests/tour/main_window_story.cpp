@@ -80,6 +80,7 @@ void takeMenus(Photographer& photographer) {
     const std::pair<const char*, const char*> menus[]{{"menu_Application", "menu-application"},
                                                       {"menu_Backup_Set", "menu-backup-set"},
                                                       {"menu_Configuration", "menu-configuration"},
+                                                      {"menu_View", "menu-view"},
                                                       {"menu_Help", "menu-help"},
                                                       {"menuTray", "menu-tray"}};
     for (const auto& [menu, screen] : menus)

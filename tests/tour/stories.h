@@ -11,6 +11,7 @@ void takeStart(Album& album);
 void takeMainWindow(Album& album);
 void takeWizards(Album& album);
 void takeConfiguration(Album& album);
+void takeInsight(Album& album);
 
 /// The whole catalogue.
 inline void takeAll(Album& album) {
@@ -18,6 +19,7 @@ inline void takeAll(Album& album) {
     takeMainWindow(album);
     takeWizards(album);
     takeConfiguration(album);
+    takeInsight(album);
 }
 
 } // namespace tour

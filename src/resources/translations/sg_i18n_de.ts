@@ -249,6 +249,166 @@
     </message>
 </context>
 <context>
+    <name>BackupHealthModel</name>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Nie</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>time and age</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>time and outcome</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Not scheduled</source>
+        <translation>Nicht geplant</translation>
+    </message>
+    <message>
+        <source>Not known</source>
+        <translation>Nicht bekannt</translation>
+    </message>
+    <message>
+        <source>Not read yet</source>
+        <translation>Noch nicht gelesen</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>%1 (policy)</source>
+        <translation>%1 (Richtlinie)</translation>
+    </message>
+    <message>
+        <source>Backup set</source>
+        <translation>Sicherungssatz</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Last good backup</source>
+        <translation>Letzte gute Sicherung</translation>
+    </message>
+    <message>
+        <source>Last attempt</source>
+        <translation>Letzter Versuch</translation>
+    </message>
+    <message>
+        <source>Next run</source>
+        <translation>Nächster Lauf</translation>
+    </message>
+    <message>
+        <source>Stored size</source>
+        <translation>Gespeichert</translation>
+    </message>
+    <message>
+        <source>Generations</source>
+        <translation>Generationen</translation>
+    </message>
+    <message>
+        <source>Made by</source>
+        <translation>Erstellt von</translation>
+    </message>
+</context>
+<context>
+    <name>BackupHealthWindow</name>
+    <message>
+        <source>Backup Health</source>
+        <translation>Zustand der Sicherungen</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Zusammenfassung</translation>
+    </message>
+    <message>
+        <source>Backup Se&amp;ts</source>
+        <translation>Sicherungssä&amp;tze</translation>
+    </message>
+    <message>
+        <source>Backup sets, worst first</source>
+        <translation>Sicherungssätze, die schlechtesten zuerst</translation>
+    </message>
+    <message>
+        <source>What It Means</source>
+        <translation>Was es bedeutet</translation>
+    </message>
+    <message>
+        <source>Why the set is in this state</source>
+        <translation>Warum der Satz in diesem Zustand ist</translation>
+    </message>
+    <message>
+        <source>&amp;Backup</source>
+        <translation>&amp;Sichern</translation>
+    </message>
+    <message>
+        <source>&amp;Synchronize</source>
+        <translation>S&amp;ynchronisieren</translation>
+    </message>
+    <message>
+        <source>Show &amp;Events</source>
+        <translation>&amp;Ereignisse anzeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Next Runs</source>
+        <translation>&amp;Nächste Läufe</translation>
+    </message>
+    <message>
+        <source>Backups of the coming 14 days</source>
+        <translation>Sicherungen der nächsten 14 Tage</translation>
+    </message>
+    <message>
+        <source>&amp;Week:</source>
+        <translation>&amp;Woche:</translation>
+    </message>
+    <message>
+        <source>Week that is shown</source>
+        <translation>Gezeigte Woche</translation>
+    </message>
+    <message>
+        <source>Backups of the week</source>
+        <translation>Sicherungen der Woche</translation>
+    </message>
+    <message>
+        <source>Sets read</source>
+        <translation>Gelesene Sätze</translation>
+    </message>
+    <message>
+        <source>%v of %m sets read</source>
+        <translation>%v von %m Sätzen gelesen</translation>
+    </message>
+    <message>
+        <source>Cance&amp;l</source>
+        <translation>A&amp;bbrechen</translation>
+    </message>
+    <message>
+        <source>What could not be read</source>
+        <translation>Was nicht gelesen werden konnte</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>The coming 7 days</source>
+        <translation>Die nächsten 7 Tage</translation>
+    </message>
+    <message>
+        <source>The 7 days after them</source>
+        <translation>Die 7 Tage danach</translation>
+    </message>
+</context>
+<context>
     <name>BackupSetViewItem</name>
     <message>
         <source>Backup of: %1</source>
@@ -771,6 +931,128 @@ Möchten Sie den Sicherungssatz entfernen?</translation>
     <message>
         <source>Error</source>
         <translation>Fehler</translation>
+    </message>
+</context>
+<context>
+    <name>FindFileWindow</name>
+    <message>
+        <source>Find File</source>
+        <translation>Datei suchen</translation>
+    </message>
+    <message>
+        <source>File &amp;name:</source>
+        <translation>Datei&amp;name:</translation>
+    </message>
+    <message>
+        <source>File name or pattern</source>
+        <translation>Dateiname oder Muster</translation>
+    </message>
+    <message>
+        <source>part of a name, or a pattern such as *.docx</source>
+        <translation>Teil eines Namens oder ein Muster wie *.docx</translation>
+    </message>
+    <message>
+        <source>&amp;In:</source>
+        <translation>&amp;In:</translation>
+    </message>
+    <message>
+        <source>Backup set to search</source>
+        <translation>Zu durchsuchender Sicherungssatz</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Suchen</translation>
+    </message>
+    <message>
+        <source>Cance&amp;l</source>
+        <translation>A&amp;bbrechen</translation>
+    </message>
+    <message>
+        <source>Files found</source>
+        <translation>Gefundene Dateien</translation>
+    </message>
+    <message>
+        <source>Progress of the search</source>
+        <translation>Fortschritt der Suche</translation>
+    </message>
+    <message>
+        <source>&amp;Generations</source>
+        <translation>&amp;Generationen</translation>
+    </message>
+    <message>
+        <source>&amp;Restore...</source>
+        <translation>&amp;Wiederherstellen...</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>All backup sets</source>
+        <translation>Alle Sicherungssätze</translation>
+    </message>
+    <message>
+        <source>Type a part of a name, or a pattern with * and ?.</source>
+        <translation>Geben Sie einen Teil eines Namens oder ein Muster mit * und ? ein.</translation>
+    </message>
+    <message>
+        <source>Searching</source>
+        <translation>Suche läuft</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Abgebrochen</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>%1: %2 files found in %3 folders</source>
+        <translation>%1: %2 Dateien in %3 Ordnern gefunden</translation>
+    </message>
+    <message>
+        <source>%1, %2 could not be read (%3)</source>
+        <translation>%1, %2 konnten nicht gelesen werden (%3)</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>The file is no longer stored.</source>
+        <translation>Die Datei ist nicht mehr gespeichert.</translation>
+    </message>
+</context>
+<context>
+    <name>FoundFilesModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Backup set</source>
+        <translation>Sicherungssatz</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Modified</source>
+        <translation>Geändert</translation>
+    </message>
+    <message>
+        <source>Backed up</source>
+        <translation>Gesichert</translation>
+    </message>
+    <message>
+        <source>Generations</source>
+        <translation>Generationen</translation>
     </message>
 </context>
 <context>
@@ -2411,6 +2693,77 @@ Möchten Sie den Sicherungssatz entfernen?</translation>
     </message>
 </context>
 <context>
+    <name>LogSearchBar</name>
+    <message>
+        <source>Sea&amp;rch:</source>
+        <translation>S&amp;uche:</translation>
+    </message>
+    <message>
+        <source>Search in the log</source>
+        <translation>Im Protokoll suchen</translation>
+    </message>
+    <message>
+        <source>Words in any column; set:name, type:name, errors and warnings narrow further</source>
+        <translation>Wörter in irgendeiner Spalte; satz:Name, typ:Name, fehler und warnungen grenzen weiter ein</translation>
+    </message>
+    <message>
+        <source>words, set:name, type:name, errors</source>
+        <translation>Wörter, satz:Name, typ:Name, fehler</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>Schweregrad</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Warnings and errors</source>
+        <translation>Warnungen und Fehler</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Rows shown and hidden</source>
+        <translation>Gezeigte und verborgene Zeilen</translation>
+    </message>
+    <message>
+        <source>E&amp;xport...</source>
+        <translation>E&amp;xportieren...</translation>
+    </message>
+    <message>
+        <source>%1 rows</source>
+        <translation>%1 Zeilen</translation>
+    </message>
+    <message>
+        <source>%1 shown, %2 hidden</source>
+        <translation>%1 gezeigt, %2 verborgen</translation>
+    </message>
+    <message>
+        <source>Export Log</source>
+        <translation>Protokoll exportieren</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; cannot be written: %2</source>
+        <translation>Die Datei „%1“ kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>Severit&amp;y:</source>
+        <translation>Sch&amp;weregrad:</translation>
+    </message>
+    <message>
+        <source>CSV Files (*.csv)</source>
+        <translation>CSV-Dateien (*.csv)</translation>
+    </message>
+</context>
+<context>
     <name>LoginCheck</name>
     <message>
         <source>Login</source>
@@ -2459,6 +2812,29 @@ Möchten Sie den Sicherungssatz entfernen?</translation>
     <message>
         <source>Login Failed</source>
         <translation>Anmeldung fehlgeschlagen</translation>
+    </message>
+</context>
+<context>
+    <name>NextRunsModel</name>
+    <message>
+        <source>with another set</source>
+        <translation>mit anderem Satz</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Beginn</translation>
+    </message>
+    <message>
+        <source>Backup set</source>
+        <translation>Sicherungssatz</translation>
+    </message>
+    <message>
+        <source>Likely end</source>
+        <translation>Ende etwa</translation>
+    </message>
+    <message>
+        <source>Overlap</source>
+        <translation>Überschneidung</translation>
     </message>
 </context>
 <context>
@@ -3019,6 +3395,17 @@ Möchten Sie die Datenbank wirklich aus der Cloud retten?</translation>
     <message>
         <source>Files that are there: kept, as the restore makes a directory of its own</source>
         <translation>Vorhandene Dateien: bleiben, da ein eigenes Verzeichnis entsteht</translation>
+    </message>
+</context>
+<context>
+    <name>RestoreSummaryBox</name>
+    <message>
+        <source>Summary</source>
+        <translation>Zusammenfassung</translation>
+    </message>
+    <message>
+        <source>Summary of the restore</source>
+        <translation>Zusammenfassung der Wiederherstellung</translation>
     </message>
 </context>
 <context>
@@ -3905,6 +4292,18 @@ Klicken Sie hier, um diesen Hinweis nicht mehr zu sehen.</translation>
         <source>The selected backup set has no backed up data.</source>
         <translation>Der gewählte Sicherungssatz hat keine gesicherten Daten.</translation>
     </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>Ansich&amp;t</translation>
+    </message>
+    <message>
+        <source>Backup &amp;Health</source>
+        <translation>&amp;Zustand der Sicherungen</translation>
+    </message>
+    <message>
+        <source>&amp;Find File</source>
+        <translation>&amp;Datei suchen</translation>
+    </message>
 </context>
 <context>
     <name>StoredItemsPage</name>
@@ -4104,6 +4503,15 @@ Klicken Sie hier, um diesen Hinweis nicht mehr zu sehen.</translation>
     </message>
 </context>
 <context>
+    <name>WeekPicture</name>
+    <message>
+        <source>%1
+%2 to %3</source>
+        <translation>%1
+%2 bis %3</translation>
+    </message>
+</context>
+<context>
     <name>WizardButtonText</name>
     <message>
         <source>&amp;Back</source>
@@ -4232,6 +4640,25 @@ Klicken Sie hier, um diesen Hinweis nicht mehr zu sehen.</translation>
     <message>
         <source>Connect</source>
         <translation>Verbinden</translation>
+    </message>
+</context>
+<context>
+    <name>app::HealthField</name>
+    <message>
+        <source>Not connected</source>
+        <translation>Nicht verbunden</translation>
+    </message>
+    <message>
+        <source>Backup health: %1</source>
+        <translation>Zustand der Sicherungen: %1</translation>
+    </message>
+    <message>
+        <source>Click to read the schedules, and to see whether a backup is overdue</source>
+        <translation>Klicken, um die Zeitpläne zu lesen und zu sehen, ob eine Sicherung überfällig ist</translation>
+    </message>
+    <message>
+        <source>Click to see the health of each backup set</source>
+        <translation>Klicken, um den Zustand jedes Sicherungssatzes zu sehen</translation>
     </message>
 </context>
 <context>

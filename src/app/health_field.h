@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QToolButton>
+
+#include "insight/set_health.h"
+
+namespace app {
+
+/// One line on the health of all sets, for the status bar; a click asks for more.
+class HealthField : public QToolButton {
+    Q_OBJECT
+public:
+    explicit HealthField(QWidget* parent = nullptr);
+
+    void showCount(const insight::HealthCount& count);
+    /// There is no session.
+    void showNothing();
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void setTexts();
+
+    insight::HealthCount count_;
+    bool isKnown_ = false;
+};
+
+} // namespace app

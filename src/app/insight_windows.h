@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include <QList>
+#include <QObject>
+#include <QStringList>
+
+#include "api/activity_records.h"
+#include "insight/backup_health_window.h"
+#include "insight/end_watch.h"
+#include "insight/find_file_window.h"
+#include "insight/health_monitor.h"
+#include "insight/log_search_bar.h"
+
+class QStatusBar;
+
+namespace app {
+
+class HealthField;
+
+/// What answers the questions of people about their data: the field in the status bar and the
+/// windows for the health of sets and for the search for files, and the news of how activities
+/// ended. The windows are made when they are first opened.
+class InsightWindows : public QObject {
+    Q_OBJECT
+public:
+    /// The window, its status bar and the search in its log have to outlive this.
+    InsightWindows(QWidget& window, QStatusBar& statusBar, LogSearchBar& logSearch,
+                   BackupHealthWindow::AllowedOf allowedOf);
+    ~InsightWindows() override;
+
+    /// What each heartbeat brings, the activities first.
+    void takeActivities(const std::vector<hessiancln::activity_log_info>& log,
+                        const std::vector<hessiancln::running_activity_info>& running);
+    void takeSets(std::vector<hessiancln::backup_set_info> sets);
+    /// The session has ended.
+    void clear();
+    void scheduleChanged(std::int32_t setId) { monitor_.scheduleChanged(setId); }
+    /// These are no longer running, and their rows in the log are waited for.
+    void watchEnds(const QList<hessiancln::running_activity_info>& disappeared);
+
+    void openHealth();
+    /// With this set chosen; -1 for all.
+    void openFindFile(std::int32_t setId);
+
+    /// Sets all texts in the language of now.
+    void setTexts();
+
+signals:
+    void backupRequested(std::int32_t setId);
+    void syncRequested(std::int32_t setId);
+    /// Those of the activity, or without one those of the last days.
+    void eventsRequested(const std::optional<hessiancln::activity_log_info>& activity);
+    void restoreRequested(std::int32_t setId, const QStringList& path,
+                          std::optional<std::int32_t> upTo);
+    /// An activity that is news has ended; the text says how.
+    void activityEnded(const hessiancln::activity_log_info& ended, const QString& text);
+
+private:
+    void showCount();
+    void makeHealthWindow();
+    void makeFindFileWindow();
+    QString nameOf(const hessiancln::activity_log_info& ended) const;
+
+    QWidget& window_;
+    LogSearchBar& logSearch_;
+    BackupHealthWindow::AllowedOf allowedOf_;
+    HealthField& field_; ///< owned by the status bar
+    insight::HealthMonitor monitor_;
+    insight::EndWatch ends_;
+    bool isConnected_ = false;
+    std::unique_ptr<BackupHealthWindow> health_;
+    std::unique_ptr<FindFileWindow> findFile_;
+};
+
+} // namespace app

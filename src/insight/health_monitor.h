@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+#include <QObject>
+#include <QString>
+
+#include "api/activity_records.h"
+#include "insight/health_reader.h"
+#include "insight/planned_runs.h"
+#include "insight/row_index.h"
+#include "insight/slices.h"
+
+namespace insight {
+
+/// A set and how it is.
+struct HealthRow {
+    SetFacts facts;
+    SetHealth health;
+    std::int32_t leastGenerations = -1; ///< of an item; -1 if that isn't known, or without items
+    std::int32_t mostGenerations = 0;
+    bool isRead = false;                   ///< all there is was asked for
+    std::int64_t judgedAt = 0;             ///< seconds since 1970 UTC
+    std::shared_ptr<const KnownPlan> plan; ///< what the facts point to
+};
+
+/// Knows how all sets are. It is fed with what the window asks for anyway, and asks the agent for
+/// the rest, in slices, only while it is watched.
+class HealthMonitor : public QObject {
+    Q_OBJECT
+public:
+    /// Gives seconds since 1970 UTC.
+    using Clock = std::function<std::int64_t()>;
+
+    HealthMonitor(HealthReader::Connect connect, Clock clock, QObject* parent = nullptr);
+
+    /// What each heartbeat brings.
+    void takeSets(std::vector<hessiancln::backup_set_info> sets);
+    void takeActivities(const std::vector<hessiancln::activity_log_info>& log,
+                        const std::vector<hessiancln::running_activity_info>& running);
+    /// The session has ended: nothing is known.
+    void clear();
+
+    /// From now on reads what is missing, and what is new of a set that changes.
+    void watch();
+    /// No longer. What is under way is given up.
+    void unwatch();
+    /// Gives up what is under way; a set that changes is still read.
+    void cancelReading();
+    /// The schedule of the set was edited.
+    void scheduleChanged(std::int32_t setId);
+
+    bool isReading() const { return slices_.isRunning(); }
+    /// Sets that were read in this go, and all of it.
+    int readSets() const { return total_ - static_cast<int>(reader_.left()); }
+    int setsToRead() const { return total_; }
+
+    /// Worst first.
+    const std::vector<HealthRow>& rows() const { return rows_; }
+    HealthCount count() const;
+    HealthClock healthClock() const;
+    /// The runs of the coming 14 days.
+    std::vector<PlannedRun> nextRuns() const;
+    SetNames names() const;
+
+signals:
+    void changed();
+    /// Some sets were read, or the reading has ended.
+    void progressed();
+    /// A set couldn't be read; the others go on.
+    void failed(const QString& text);
+
+private:
+    bool step();
+    void read(const std::vector<hessiancln::backup_set_info>& sets);
+    void judgeAll();
+    SetFacts factsOf(const hessiancln::backup_set_info& info, HealthRow& row) const;
+
+    HealthReader reader_;
+    Clock clock_;
+    Slices slices_;
+    int total_ = 0;
+    bool isWatched_ = false;
+    std::vector<hessiancln::backup_set_info> sets_;
+    std::map<std::int32_t, BackupAttempt> loggedAttempts_; ///< the newest backup of each set
+    std::set<std::int32_t> running_;
+    std::vector<HealthRow> rows_;
+};
+
+} // namespace insight

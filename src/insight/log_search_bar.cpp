@@ -1,0 +1,140 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "insight/log_search_bar.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+#include <vector>
+
+#include <QDir>
+#include <QEvent>
+#include <QFileDialog>
+#include <QKeyEvent>
+#include <QSaveFile>
+#include <QTableView>
+
+#include "insight/copy_rows.h"
+#include "ui/error_box.h"
+#include "ui/locale_text.h"
+#include "ui/standard_buttons.h"
+#include "ui_log_search_bar.h"
+
+namespace {
+
+constexpr std::array severities{insight::Severity::info, insight::Severity::warning,
+                                insight::Severity::error};
+
+/// The records that are selected, whose rows another filter moves.
+std::vector<std::size_t> selectedRecords(const QTableView& table, const insight::SearchedLog& log) {
+    std::vector<std::size_t> records;
+    for (const QModelIndex& index : table.selectionModel()->selectedRows())
+        records.push_back(log.recordOf(index.row()));
+    return records;
+}
+
+void selectRecords(QTableView& table, const insight::SearchedLog& log,
+                   const std::vector<std::size_t>& records) {
+    QItemSelection rows;
+    for (const std::size_t record : records)
+        if (const int row = log.rowOf(record); row >= 0)
+            rows.select(table.model()->index(row, 0), table.model()->index(row, 0));
+    if (rows.isEmpty())
+        return;
+    table.selectionModel()->setCurrentIndex(rows.indexes().first(), QItemSelectionModel::NoUpdate);
+    table.selectionModel()->select(rows,
+                                   QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    table.scrollTo(rows.indexes().first());
+}
+
+} // namespace
+
+LogSearchBar::LogSearchBar(QWidget* parent)
+    : QWidget(parent)
+    , ui_(std::make_unique<Ui::LogSearchBar>()) {
+    ui_->setupUi(this);
+    connect(ui_->editSearch, &QLineEdit::textChanged, this, &LogSearchBar::applyFilter);
+    connect(ui_->comboSeverity, qOverload<int>(&QComboBox::currentIndexChanged), this,
+            &LogSearchBar::applyFilter);
+    connect(ui_->buttonExport, &QPushButton::clicked, this, &LogSearchBar::exportRows);
+}
+
+LogSearchBar::~LogSearchBar() = default;
+
+void LogSearchBar::attach(QTableView& table, std::unique_ptr<insight::SearchedLog> log) {
+    table_ = &table;
+    log_ = std::move(log);
+    insight::copyRows(table);
+    const QAbstractItemModel* model = &log_->model();
+    connect(model, &QAbstractItemModel::modelReset, this, &LogSearchBar::showCount);
+    connect(model, &QAbstractItemModel::rowsInserted, this, &LogSearchBar::showCount);
+    connect(model, &QAbstractItemModel::rowsRemoved, this, &LogSearchBar::showCount);
+    connect(model, &QAbstractItemModel::dataChanged, this, &LogSearchBar::showCount);
+    showCount();
+}
+
+void LogSearchBar::setSetNames(insight::SetNames names) {
+    if (names == names_)
+        return;
+    names_ = std::move(names);
+    if (ui_->editSearch->text().contains(QLatin1Char(':')))
+        applyFilter();
+}
+
+void LogSearchBar::applyFilter() {
+    if (!log_)
+        return;
+    const insight::LogFilter filter{
+        insight::parseLogQuery(ui_->editSearch->text(), insight::LogKeywords::translated()),
+        severities.at(static_cast<std::size_t>(std::max(ui_->comboSeverity->currentIndex(), 0)))};
+    const auto selected = selectedRecords(*table_, *log_);
+    log_->setFilter(filter, names_);
+    selectRecords(*table_, *log_, selected);
+}
+
+void LogSearchBar::showCount() {
+    const int shown = log_->shownRows();
+    const int all = log_->allRows();
+    ui_->labelCount->setText(
+        shown == all
+            ? tr("%1 rows").arg(ui::numberText(all))
+            : tr("%1 shown, %2 hidden").arg(ui::numberText(shown), ui::numberText(all - shown)));
+}
+
+void LogSearchBar::exportRows() {
+    if (!log_)
+        return;
+    QFileDialog dialog(window(), tr("Export Log"), QDir::homePath(), tr("CSV Files (*.csv)"));
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("csv"));
+    dialog.selectFile(QStringLiteral("log.csv"));
+    ui::setStandardButtonPictures(dialog);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return;
+    const QString name = dialog.selectedFiles().first();
+    const QByteArray rows = log_->csv();
+    QSaveFile file(name);
+    if (!file.open(QIODevice::WriteOnly) || file.write(rows) != rows.size() || !file.commit())
+        ui::showError(window(), tr("Error"),
+                      tr("The file '%1' cannot be written: %2").arg(name, file.errorString()));
+}
+
+void LogSearchBar::keyPressEvent(QKeyEvent* event) {
+    // In a dialog the key would press the default button.
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        event->accept();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void LogSearchBar::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange) {
+        const int severity = ui_->comboSeverity->currentIndex();
+        ui_->retranslateUi(this);
+        ui_->comboSeverity->setCurrentIndex(severity);
+        if (log_)
+            showCount();
+    }
+    QWidget::changeEvent(event);
+}

@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "insight/restore_summary_box.h"
+
+#include <QBoxLayout>
+#include <QEvent>
+#include <QGroupBox>
+#include <QWizard>
+
+#include "insight/restore_summary.h"
+#include "models/backed_up_node.h"
+#include "ui_restore_summary_box.h"
+#include "wizards/restore_directory_destination.h"
+#include "wizards/restore_flow.h"
+#include "wizards/restore_location_page.h"
+#include "wizards/restore_select_page.h"
+#include "wizards/select_data_source_page.h"
+
+namespace insight {
+
+namespace {
+
+using wizards::RestorePages;
+
+RestoreTarget targetOf(const RestoreLocationPage& page) {
+    switch (page.target()) {
+    case RestoreLocationPage::Target::original:
+        return RestoreTarget::original;
+    case RestoreLocationPage::Target::otherDirectory:
+        return RestoreTarget::otherDirectory;
+    case RestoreLocationPage::Target::otherComputer:
+        break;
+    }
+    return RestoreTarget::otherComputer;
+}
+
+RestoreSummary summaryOf(const RestorePages& pages) {
+    RestoreSummary summary;
+    if (const auto upTo = pages.items.upTo(); upTo != 0)
+        summary.upTo = upTo;
+    summary.isWholeSet = pages.items.isWholeSet();
+    if (summary.isWholeSet)
+        summary.chosen = {pages.status.on_line_file_count, 0, false, pages.status.on_line_data_size,
+                          0};
+    else
+        summary.chosen = chosenItems(
+            pages.items.root(), [&pages](std::int64_t id) { return pages.items.knownSize(id); });
+    summary.target = targetOf(pages.location);
+    summary.computer = pages.source.computerName();
+    summary.directory = pages.directory.destinationPath();
+    return summary;
+}
+
+class RestoreSummaryBox : public QGroupBox {
+public:
+    RestoreSummaryBox(const RestorePages& pages, QWizardPage& page)
+        : QGroupBox(&page)
+        , pages_(pages)
+        , page_(page) {
+        ui_.setupUi(this);
+        // Above the space at the end of the page, where there is one.
+        auto* layout = static_cast<QBoxLayout*>(page.layout());
+        const int last = layout->count() - 1;
+        layout->insertWidget(layout->itemAt(last)->spacerItem() ? last : last + 1, this);
+        connect(&pages.wizard, &QWizard::currentIdChanged, this, &RestoreSummaryBox::refresh);
+        connect(&page, &QWizardPage::completeChanged, this, &RestoreSummaryBox::refresh);
+        refresh();
+    }
+
+protected:
+    void changeEvent(QEvent* event) override {
+        if (event->type() == QEvent::LanguageChange) {
+            ui_.retranslateUi(this);
+            refresh();
+        }
+        QGroupBox::changeEvent(event);
+    }
+
+private:
+    void refresh() {
+        if (pages_.wizard.currentPage() != &page_)
+            return;
+        const bool isLast = &page_ == static_cast<QWizardPage*>(&pages_.directory) ||
+                            pages_.location.target() == RestoreLocationPage::Target::original;
+        setVisible(isLast);
+        if (isLast)
+            ui_.labelSummary->setText(summaryLines(summaryOf(pages_)).join(QLatin1Char('\n')));
+    }
+
+    const RestorePages pages_;
+    QWizardPage& page_;
+    Ui::RestoreSummaryBox ui_;
+};
+
+} // namespace
+
+void addRestoreSummary(const RestorePages& pages) {
+    for (QWizardPage* page :
+         {static_cast<QWizardPage*>(&pages.location), static_cast<QWizardPage*>(&pages.directory)})
+        new RestoreSummaryBox(pages, *page); // the page owns it
+}
+
+} // namespace insight

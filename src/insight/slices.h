@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <functional>
+
+#include <QObject>
+#include <QTimer>
+
+namespace insight {
+
+/// Does long work of the GUI thread in slices, between which the window answers: a few steps at a
+/// time, and after a slow one no other. A step makes at most one or two calls to the agent.
+class Slices : public QObject {
+    Q_OBJECT
+public:
+    /// `step` does the next piece and returns whether there is more to do. What it raises is for
+    /// it to catch.
+    explicit Slices(std::function<bool()> step, QObject* parent = nullptr);
+
+    void start();
+    void stop();
+    bool isRunning() const { return timer_.isActive(); }
+
+signals:
+    /// After each slice.
+    void progressed();
+    /// When a step had nothing left to do; not after `stop`.
+    void finished();
+
+private:
+    void doSlice();
+
+    std::function<bool()> step_;
+    QTimer timer_;
+};
+
+} // namespace insight

@@ -1,0 +1,238 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+
+// What the main window says about the safety of data, beyond what its tables show.
+
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableView>
+#include <QTest>
+#include <QToolButton>
+#include <QTreeView>
+#include <QWizard>
+
+#include "app/event_log_viewer.h"
+#include "insight/backup_health_window.h"
+#include "insight/find_file_window.h"
+#include "resources/pictures.h"
+#include "simulator/world/health_scenarios.h"
+#include "simulator/world/world.h"
+#include "tests/support/gui_main_window.h"
+#include "tests/support/gui_modal_driver.h"
+#include "tests/support/gui_wizard.h"
+
+using simulator::Scenario;
+using simulator::World;
+using support::child;
+using support::GuiAgent;
+using support::isDialog;
+using support::MainWindowDriver;
+using support::methodsOf;
+using support::ModalDriver;
+
+namespace {
+
+simulator::Options optionsOf(Scenario scenario) {
+    simulator::Options options;
+    options.scenario = scenario;
+    return options;
+}
+
+/// An activity that ends at once, with so many errors.
+void runOnce(World& world, hessiancln::ActivityType type, std::int32_t errors) {
+    simulator::ActivityPlan plan = world.backupOf(world.sets().front(), "anna");
+    plan.type = type;
+    plan.errors = errors;
+    plan.warnings = 0;
+    plan.duration = 1'500;
+    world.start(std::move(plan));
+}
+
+/// Until the agent has nothing to do.
+void waitForEnd(GuiAgent& agent) {
+    QTRY_VERIFY([&] {
+        bool running = true;
+        agent.withWorld([&](World& world) {
+            world.advance();
+            running = !world.running().empty();
+        });
+        return !running;
+    }());
+}
+
+} // namespace
+
+class MainWindowInsightTest : public QObject {
+    Q_OBJECT
+private slots:
+    void initTestCase() { resources::initPictures(); }
+
+    void theFieldSaysHowTheSetsAre() {
+        GuiAgent agent(optionsOf(Scenario::Failed));
+        MainWindowDriver driver;
+        auto& field = child<QToolButton>(driver.window(), "healthField");
+        QCOMPARE(field.text(), QStringLiteral("Not connected"));
+        driver.logIn(agent);
+        QCOMPARE(field.text(), QStringLiteral("3 of 5 sets need attention"));
+        driver.window().OnDisconnect();
+        QCOMPARE(field.text(), QStringLiteral("Not connected"));
+    }
+
+    void aHeartbeatMakesNoFurtherCall() {
+        GuiAgent agent(optionsOf(Scenario::Failed));
+        MainWindowDriver driver;
+        driver.logIn(agent);
+        agent.clearCallLog();
+        driver.beat();
+        const std::vector<std::string> expected{"getTarnClientInfo",  "getTFAManager",
+                                                "is2FAEnabled",       "activity_log",
+                                                "running_activities", "backup_sets_info"};
+        QCOMPARE(methodsOf(agent), expected);
+    }
+
+    void theFieldOpensTheWindowWhoseButtonBacksUp() {
+        GuiAgent agent(optionsOf(Scenario::Failed));
+        MainWindowDriver driver;
+        driver.logIn(agent);
+        QTest::mouseClick(&child<QToolButton>(driver.window(), "healthField"), Qt::LeftButton);
+        auto* health = driver.window().findChild<BackupHealthWindow*>();
+        QVERIFY(health && health->isVisible());
+        auto& table = child<QTableView>(*health, "tableSets");
+        QCOMPARE(table.model()->index(0, 0).data().toString(), QStringLiteral("Music"));
+        agent.clearCallLog();
+        QTest::mouseClick(&child<QPushButton>(*health, "buttonBackup"), Qt::LeftButton);
+        const auto methods = methodsOf(agent);
+        QVERIFY(std::count(methods.begin(), methods.end(), "start_backup") == 1);
+        QVERIFY(driver.status().contains(QStringLiteral("On-demand backup started for 'Music'")));
+    }
+
+    void theSearchLineFiltersTheLog() {
+        GuiAgent agent(optionsOf(Scenario::Failed));
+        MainWindowDriver driver;
+        driver.logIn(agent);
+        const int all = driver.rows("tableActivityLog");
+        QVERIFY(all >= 5);
+        auto& line = child<QLineEdit>(driver.window(), "editSearch");
+        auto& count = child<QLabel>(driver.window(), "labelCount");
+        line.setText(QStringLiteral("errors"));
+        QCOMPARE(driver.rows("tableActivityLog"), 2);
+        QCOMPARE(count.text(), QStringLiteral("2 shown, %1 hidden").arg(all - 2));
+        // A heartbeat brings all rows again, and the filter stays.
+        driver.beat();
+        QCOMPARE(driver.rows("tableActivityLog"), 2);
+        line.setText(QStringLiteral("set:\"ended with errors\""));
+        QCOMPARE(driver.rows("tableActivityLog"), 1);
+        line.clear();
+        child<QComboBox>(driver.window(), "comboSeverity").setCurrentIndex(1);
+        QCOMPARE(driver.rows("tableActivityLog"), 3);
+        child<QComboBox>(driver.window(), "comboSeverity").setCurrentIndex(0);
+        QCOMPARE(driver.rows("tableActivityLog"), all);
+        QCOMPARE(count.text(), QStringLiteral("%1 rows").arg(all));
+    }
+
+    void aSelectedRowStaysSelectedUnderAFilter() {
+        GuiAgent agent(optionsOf(Scenario::Failed));
+        MainWindowDriver driver;
+        driver.logIn(agent);
+        auto& table = child<QTableView>(driver.window(), "tableActivityLog");
+        const int last = table.model()->rowCount() - 1;
+        table.selectRow(last);
+        const QString name = table.model()->index(last, 1).data().toString();
+        child<QLineEdit>(driver.window(), "editSearch").setText(name);
+        const auto rows = table.selectionModel()->selectedRows(1);
+        QCOMPARE(rows.size(), 1);
+        QCOMPARE(rows.first().data().toString(), name);
+    }
+
+    void anEndWithErrorsIsAWarningWhoseClickShowsTheEvents() {
+        GuiAgent agent(optionsOf(Scenario::Failed));
+        MainWindowDriver driver;
+        driver.logIn(agent);
+        driver.window().hide();
+        agent.withWorld([](World& world) { runOnce(world, hessiancln::ActivityType::Backup, 3); });
+        driver.beat();
+        driver.beat();
+        waitForEnd(agent);
+        driver.beat();
+        QCOMPARE(driver.tray().warnings.size(), 1);
+        QCOMPARE(driver.tray().warnings.first().second,
+                 QStringLiteral("Backup of 'Documents' ended with 3 errors"));
+        driver.beat();
+        QCOMPARE(driver.tray().warnings.size(), 1);
+
+        ModalDriver modals;
+        modals.expect(QStringLiteral("events"), isDialog<EventLogViewer>, [](QWidget& dialog) {
+            QVERIFY(child<QTableView>(dialog, "tableEvents").model()->rowCount() >= 3);
+            child<QPushButton>(dialog, "buttonClose").click();
+        });
+        driver.window().sysTrayMessageClicked();
+        QVERIFY(modals.done());
+    }
+
+    void theEndOfARestoreStandsInTheStatusBar() {
+        GuiAgent agent(optionsOf(Scenario::Failed));
+        MainWindowDriver driver;
+        driver.logIn(agent);
+        driver.window().hide();
+        agent.withWorld([](World& world) { runOnce(world, hessiancln::ActivityType::Restore, 0); });
+        driver.beat();
+        driver.beat();
+        waitForEnd(agent);
+        driver.beat();
+        QCOMPARE(driver.status(), QStringLiteral("Restore of 'Documents' ended with no errors"));
+        QCOMPARE(driver.tray().warnings.size(), 0);
+        QCOMPARE(driver.tray().balloons.last().second, driver.status());
+    }
+
+    void theProgressSaysWhenNothingMoves() {
+        GuiAgent agent(optionsOf(Scenario::Stalled));
+        MainWindowDriver driver;
+        driver.logIn(agent);
+        driver.beat();
+        auto& table = child<QTableView>(driver.window(), "tableCurrentActivities");
+        const QString tip = table.model()->index(0, 3).data(Qt::ToolTipRole).toString();
+        QVERIFY(tip.startsWith(QStringLiteral("<html><h3>Backup</h3>")));
+        // Any other cell says what it has always said.
+        QVERIFY(table.model()
+                    ->index(0, 0)
+                    .data(Qt::ToolTipRole)
+                    .toString()
+                    .endsWith(QStringLiteral("</html>")));
+    }
+
+    void aFoundFileIsRestoredTicked() {
+        GuiAgent agent(optionsOf(Scenario::Generations));
+        MainWindowDriver driver;
+        driver.logIn(agent);
+        driver.trigger("actionFind_File");
+        auto* find = driver.window().findChild<FindFileWindow*>();
+        QVERIFY(find && find->isVisible());
+        child<QLineEdit>(*find, "editName").setText(QStringLiteral("diary"));
+        child<QPushButton>(*find, "buttonFind").click();
+        QTRY_VERIFY(!find->isSearching());
+        child<QTableView>(*find, "tableFound").selectRow(0);
+
+        ModalDriver modals;
+        modals.expect(QStringLiteral("restore"), isDialog<QWizard>, [](QWidget& dialog) {
+            auto& wizard = static_cast<QWizard&>(dialog);
+            const auto& tree = child<QTreeView>(dialog, "treeSelection");
+            QCOMPARE(tree.currentIndex().data().toString(), QStringLiteral("ann"));
+            QVERIFY(wizard.currentPage()->isComplete());
+            wizard.next();
+            auto& box = child<QGroupBox>(*wizard.currentPage(), "RestoreSummaryBox");
+            QVERIFY(box.isVisible());
+            const QString summary = child<QLabel>(box, "labelSummary").text();
+            QVERIFY2(summary.contains(QStringLiteral("What: 1 file")), qPrintable(summary));
+            QVERIFY(summary.contains(QStringLiteral("the original location")));
+            wizard.reject();
+        });
+        child<QPushButton>(*find, "buttonRestore").click();
+        QVERIFY(modals.done());
+    }
+};
+
+QTEST_MAIN(MainWindowInsightTest)
+#include "main_window_insight_test.moc"

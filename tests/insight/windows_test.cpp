@@ -1,0 +1,389 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+
+// The windows over a simulated agent: what they ask it, and what they show.
+
+#include <optional>
+
+#include <QAbstractItemModelTester>
+#include <QClipboard>
+#include <QMimeData>
+#include <QtTest>
+
+#include "api/client_connection.h"
+#include "insight/backup_health_window.h"
+#include "insight/find_file_window.h"
+#include "insight/week_picture.h"
+#include "resources/pictures.h"
+#include "session/connection.h"
+#include "simulator/world/health_scenarios.h"
+#include "simulator/world/world.h"
+#include "tests/support/gui_agent.h"
+#include "tests/support/gui_modal_driver.h"
+#include "ui/branding_resources.h"
+#include "wizards/select_generation_dlg.h"
+
+Q_DECLARE_METATYPE(std::optional<std::int32_t>)
+
+namespace {
+
+using simulator::Scenario;
+using support::child;
+
+constexpr int patience = 60'000;
+
+/// An agent that the client is logged in to.
+struct Session {
+    explicit Session(Scenario scenario)
+        : agent([scenario] {
+            simulator::Options options;
+            options.scenario = scenario;
+            return options;
+        }()) {
+        session::connectToAgent("127.0.0.1:4411", "", "", 0);
+        agent.clearCallLog();
+    }
+    ~Session() { support::resetSession(); }
+
+    std::vector<std::string> methods() const {
+        std::vector<std::string> list;
+        for (const auto& call : agent.callLog())
+            if (call.method != "Release")
+                list.push_back(call.method);
+        return list;
+    }
+
+    /// References to views that the client holds.
+    int views() const {
+        const auto held = agent.liveObjects();
+        return static_cast<int>(std::count_if(held.begin(), held.end(), [](const auto& object) {
+            return object.rfind("BackupSetRestoreView ", 0) == 0;
+        }));
+    }
+
+    support::GuiAgent agent;
+};
+
+/// The monitor as the main window feeds it.
+class Fed {
+public:
+    Fed()
+        : monitor(session::getConnection, [] { return QDateTime::currentSecsSinceEpoch(); }) {
+        beat();
+    }
+    void beat() {
+        const auto connection = session::getConnection();
+        monitor.takeActivities(connection->activity_log(0, 0), connection->running_activities());
+        monitor.takeSets(connection->backup_sets_info());
+    }
+
+    insight::HealthMonitor monitor;
+};
+
+BackupHealthWindow::Allowed everything(const insight::HealthRow&) {
+    return {true, true};
+}
+
+QString cell(const QTableView& table, int row, int column) {
+    return table.model()->index(row, column).data().toString();
+}
+
+QStringList column(const QTableView& table, int number) {
+    QStringList texts;
+    for (int row = 0; row < table.model()->rowCount(); ++row)
+        texts.append(cell(table, row, number));
+    return texts;
+}
+
+QString name(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
+}
+
+} // namespace
+
+class InsightWindowsTest : public QObject {
+    Q_OBJECT
+private slots:
+    void initTestCase() {
+        resources::initPictures();
+        ui::g_branding.load();
+        qRegisterMetaType<std::int32_t>("std::int32_t");
+        qRegisterMetaType<std::optional<std::int32_t>>("std::optional<std::int32_t>");
+    }
+
+    void setsStandWorstFirst();
+    void schedulesAreReadOnceAndAgainWhenASetChanges();
+    void readingCanBeCancelled();
+    void theButtonsNameTheSet();
+    void failedBackupsAreExplained();
+    void nextRunsShowOverlaps();
+    void aFileIsFoundInAThousandFolders();
+    void aSearchIsCancelledAtOnce();
+    void aGenerationLeadsToItsRestore();
+    void rowsAreCopied();
+    void aFilterHoldsRecordsBack();
+};
+
+void InsightWindowsTest::setsStandWorstFirst() {
+    Session session(Scenario::Overdue);
+    Fed fed;
+    // Before anything was read, nobody knows that a backup is overdue.
+    QCOMPARE(fed.monitor.count(), (insight::HealthCount{5, 0, 4}));
+    BackupHealthWindow window(fed.monitor, everything);
+    window.show();
+    QTRY_VERIFY_WITH_TIMEOUT(!fed.monitor.isReading(), patience);
+    QCOMPARE(fed.monitor.count(), (insight::HealthCount{5, 2, 0}));
+    const auto& table = child<QTableView>(window, "tableSets");
+    QStringList worst = column(table, BackupHealthModel::name).mid(0, 2);
+    worst.sort();
+    QCOMPARE(worst, QStringList({name(simulator::health::missed), name(simulator::health::old)}));
+    QCOMPARE(column(table, BackupHealthModel::state).mid(0, 3),
+             QStringList(
+                 {QStringLiteral("Overdue"), QStringLiteral("Overdue"), QStringLiteral("Safe")}));
+    QCOMPARE(child<QLabel>(window, "labelSummary").text(),
+             QStringLiteral("2 of 5 sets need attention"));
+    QVERIFY(child<QLabel>(window, "labelHelp").text().contains(QStringLiteral("scheduled time")));
+}
+
+void InsightWindowsTest::schedulesAreReadOnceAndAgainWhenASetChanges() {
+    Session session(Scenario::Overdue);
+    Fed fed;
+    session.agent.clearCallLog();
+    BackupHealthWindow window(fed.monitor, everything);
+    window.show();
+    QTRY_VERIFY_WITH_TIMEOUT(!fed.monitor.isReading(), patience);
+    auto methods = session.methods();
+    // Three sets share a schedule.
+    QCOMPARE(std::count(methods.begin(), methods.end(), "getSchedule"), 2);
+    QCOMPARE(std::count(methods.begin(), methods.end(), "getAdvancedConfigNumber"), 1);
+    QCOMPARE(std::count(methods.begin(), methods.end(), "getLastActivityOfType"), 5);
+    QCOMPARE(std::count(methods.begin(), methods.end(), "getOverview"), 5);
+    fed.beat();
+    session.agent.clearCallLog();
+    QCoreApplication::processEvents();
+    QVERIFY(!fed.monitor.isReading());
+    QCOMPARE(session.methods(), std::vector<std::string>());
+
+    session.agent.withWorld([](simulator::World& world) {
+        world.setNamed(std::string(simulator::health::old))->info.last_backup += 60;
+    });
+    fed.beat();
+    session.agent.clearCallLog();
+    QTRY_VERIFY_WITH_TIMEOUT(!fed.monitor.isReading(), patience);
+    methods = session.methods();
+    QCOMPARE(methods.front(), std::string("backup_set"));
+    QCOMPARE(std::count(methods.begin(), methods.end(), "backup_set"), 1);
+    QCOMPARE(std::count(methods.begin(), methods.end(), "getSchedule"), 1);
+}
+
+void InsightWindowsTest::readingCanBeCancelled() {
+    Session session(Scenario::Large);
+    insight::HealthMonitor monitor(session::getConnection,
+                                   [] { return QDateTime::currentSecsSinceEpoch(); });
+    monitor.takeSets(session::getConnection()->backup_sets_info());
+    BackupHealthWindow window(monitor, everything);
+    window.show();
+    QTRY_VERIFY_WITH_TIMEOUT(monitor.readSets() > 0, patience);
+    QVERIFY(child<QProgressBar>(window, "progressReading").isVisible());
+    QTest::mouseClick(&child<QPushButton>(window, "buttonCancel"), Qt::LeftButton);
+    QVERIFY(!monitor.isReading());
+    QVERIFY(!child<QProgressBar>(window, "progressReading").isVisible());
+    session.agent.clearCallLog();
+    QTest::qWait(50);
+    QCOMPARE(session.methods(), std::vector<std::string>());
+}
+
+void InsightWindowsTest::theButtonsNameTheSet() {
+    Session session(Scenario::Failed);
+    Fed fed;
+    BackupHealthWindow window(fed.monitor, [](const insight::HealthRow& row) {
+        return BackupHealthWindow::Allowed{row.facts.info.has_items, !row.facts.info.in_sync};
+    });
+    window.show();
+    QSignalSpy backup(&window, &BackupHealthWindow::backupRequested);
+    QSignalSpy sync(&window, &BackupHealthWindow::syncRequested);
+    const std::int32_t id = fed.monitor.rows().front().facts.info.id;
+    QTest::mouseClick(&child<QPushButton>(window, "buttonBackup"), Qt::LeftButton);
+    QCOMPARE(backup.size(), 1);
+    QCOMPARE(backup[0][0].value<std::int32_t>(), id);
+    QVERIFY(!child<QPushButton>(window, "buttonSync").isEnabled());
+    QCOMPARE(sync.size(), 0);
+}
+
+void InsightWindowsTest::failedBackupsAreExplained() {
+    Session session(Scenario::Failed);
+    Fed fed;
+    BackupHealthWindow window(fed.monitor, everything);
+    window.show();
+    QTRY_VERIFY_WITH_TIMEOUT(!fed.monitor.isReading(), patience);
+    auto& table = child<QTableView>(window, "tableSets");
+    QCOMPARE(
+        column(table, BackupHealthModel::state),
+        QStringList({QStringLiteral("Never backed up"), QStringLiteral("Failed"),
+                     QStringLiteral("Failed"), QStringLiteral("Safe"), QStringLiteral("Safe")}));
+    const int row =
+        column(table, BackupHealthModel::name).indexOf(name(simulator::health::withErrors));
+    QVERIFY(cell(table, row, BackupHealthModel::lastAttempt)
+                .endsWith(QStringLiteral("3 errors, 1 warning")));
+    table.selectRow(row);
+    QVERIFY(child<QLabel>(window, "labelHelp").text().contains(QStringLiteral("3 errors")));
+    // The set keeps its selection when the list is made again.
+    fed.beat();
+    QCOMPARE(table.selectionModel()->selectedRows().first().row(), row);
+}
+
+void InsightWindowsTest::nextRunsShowOverlaps() {
+    Session session(Scenario::Overlapping);
+    Fed fed;
+    BackupHealthWindow window(fed.monitor, everything);
+    window.show();
+    QTRY_VERIFY_WITH_TIMEOUT(!fed.monitor.isReading(), patience);
+    const auto& runs = child<QTableView>(window, "tableRuns");
+    const QStringList sets = column(runs, NextRunsModel::set);
+    // Every evening, six times on workdays, and three times on two nights of the week.
+    QCOMPARE(sets.count(QStringLiteral("Pictures and Videos")), 14);
+    QVERIFY(sets.count(QStringLiteral("Mail archive")) >= 54);
+    QVERIFY(sets.count(QStringLiteral("Night shift")) >= 10);
+    for (int row = 0; row < sets.size(); ++row) {
+        const bool overlaps = !cell(runs, row, NextRunsModel::overlap).isEmpty();
+        // Backups take ten minutes here, and only these two are closer.
+        if (sets[row] == QLatin1String("Mail archive"))
+            QVERIFY(!overlaps);
+    }
+    child<QTabWidget>(window, "tabHealth").setCurrentIndex(1);
+    auto& picture = child<WeekPicture>(window, "pictureWeek");
+    const QImage first = picture.grab().toImage();
+    child<QComboBox>(window, "comboWeek").setCurrentIndex(1);
+    QVERIFY(picture.grab().toImage() != first);
+}
+
+void InsightWindowsTest::aFileIsFoundInAThousandFolders() {
+    Session session(Scenario::ManyFolders);
+    FindFileWindow window(session::getConnection);
+    window.setSetNames({{1, "Archive"}});
+    window.show();
+    QVERIFY(!child<QPushButton>(window, "buttonFind").isEnabled());
+    child<QLineEdit>(window, "editName").setText(QStringLiteral("needle*.odt"));
+    QTest::mouseClick(&child<QPushButton>(window, "buttonFind"), Qt::LeftButton);
+    QTRY_VERIFY_WITH_TIMEOUT(!window.isSearching(), patience);
+    const auto& table = child<QTableView>(window, "tableFound");
+    QCOMPARE(column(table, FoundFilesModel::name), QStringList(name(simulator::health::needle)));
+    QCOMPARE(cell(table, 0, FoundFilesModel::folder),
+             QStringLiteral("D:\\Archive\\Year 2019\\Case 98"));
+    QCOMPARE(cell(table, 0, FoundFilesModel::generations), QStringLiteral("1"));
+    QCOMPARE(cell(table, 0, FoundFilesModel::set), QStringLiteral("Archive"));
+    const auto methods = session.methods();
+    QCOMPARE(std::count(methods.begin(), methods.end(), "prepare_restore"), 1);
+    // The top, the drive, the set's folder, and what is in it.
+    QCOMPARE(std::count(methods.begin(), methods.end(), "getSubItems"),
+             static_cast<std::ptrdiff_t>(simulator::health::folders + 3));
+    QCOMPARE(session.views(), 0);
+}
+
+void InsightWindowsTest::aSearchIsCancelledAtOnce() {
+    Session session(Scenario::ManyFolders);
+    FindFileWindow window(session::getConnection);
+    window.setSetNames({{1, "Archive"}});
+    window.show();
+    child<QLineEdit>(window, "editName").setText(QStringLiteral("letter"));
+    QTest::mouseClick(&child<QPushButton>(window, "buttonFind"), Qt::LeftButton);
+    QTRY_VERIFY_WITH_TIMEOUT(child<QTableView>(window, "tableFound").model()->rowCount() > 0,
+                             patience);
+    QVERIFY(window.isSearching());
+    QTest::mouseClick(&child<QPushButton>(window, "buttonCancel"), Qt::LeftButton);
+    QVERIFY(!window.isSearching());
+    QVERIFY(child<QLabel>(window, "labelProgress").text().startsWith(QStringLiteral("Cancelled")));
+    QTRY_COMPARE(session.views(), 0);
+    session.agent.clearCallLog();
+    QTest::qWait(50);
+    QCOMPARE(session.methods(), std::vector<std::string>());
+}
+
+void InsightWindowsTest::aGenerationLeadsToItsRestore() {
+    Session session(Scenario::Generations);
+    FindFileWindow window(session::getConnection);
+    window.setSetNames({{1, "Two years of generations"}});
+    window.show();
+    QSignalSpy restore(&window, &FindFileWindow::restoreRequested);
+    child<QLineEdit>(window, "editName").setText(QStringLiteral("diary"));
+    QTest::mouseClick(&child<QPushButton>(window, "buttonFind"), Qt::LeftButton);
+    QTRY_VERIFY_WITH_TIMEOUT(!window.isSearching(), patience);
+    auto& table = child<QTableView>(window, "tableFound");
+    QCOMPARE(table.model()->rowCount(), 1);
+    table.selectRow(0);
+    const QStringList path{QStringLiteral("C:"), QStringLiteral("Users"), QStringLiteral("ann"),
+                           QStringLiteral("Diary.odt")};
+    QTest::mouseClick(&child<QPushButton>(window, "buttonRestore"), Qt::LeftButton);
+    QCOMPARE(restore.size(), 1);
+    QCOMPARE(restore[0][1].toStringList(), path);
+
+    support::ModalDriver modals;
+    modals.expect(QStringLiteral("generations"), support::isDialog<SelectGenerationDlg>,
+                  [](QWidget& dialog) {
+                      child<QTableView>(dialog, "listGenerations").selectRow(2);
+                      child<QPushButton>(dialog, "buttonSelect").click();
+                  });
+    QTest::mouseClick(&child<QPushButton>(window, "buttonGenerations"), Qt::LeftButton);
+    QVERIFY(modals.done());
+    QCOMPARE(restore.size(), 2);
+    QCOMPARE(restore[1][1].toStringList(), path);
+    QVERIFY(restore[1][2].value<std::optional<std::int32_t>>());
+    QCOMPARE(session.views(), 0);
+}
+
+void InsightWindowsTest::rowsAreCopied() {
+    Session session(Scenario::Failed);
+    Fed fed;
+    BackupHealthWindow window(fed.monitor, everything);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    auto& table = child<QTableView>(window, "tableSets");
+    table.selectRow(0);
+    table.setFocus();
+    QGuiApplication::clipboard()->clear();
+    QTest::keyClick(&table, Qt::Key_C, Qt::ControlModifier);
+    QVERIFY(QGuiApplication::clipboard()->text().contains(QStringLiteral("\tNever backed up\t")));
+    QVERIFY(QGuiApplication::clipboard()->mimeData()->hasHtml());
+}
+
+void InsightWindowsTest::aFilterHoldsRecordsBack() {
+    BackupHealthModel model;
+    const QAbstractItemModelTester tester(&model,
+                                          QAbstractItemModelTester::FailureReportingMode::QtTest);
+    const auto fill = [&model](std::initializer_list<std::int32_t> ids) {
+        std::vector<insight::HealthRow> rows;
+        for (const std::int32_t id : ids) {
+            rows.emplace_back();
+            rows.back().facts.info.id = id;
+        }
+        model.setRecords(std::move(rows));
+    };
+    fill({1, 2, 3, 4});
+    std::vector<std::uint64_t> versions;
+    model.setFilter([&versions](const auto& rows, std::uint64_t version) {
+        versions.push_back(version);
+        std::vector<std::uint32_t> even;
+        for (std::uint32_t i = 0; i < rows.size(); ++i)
+            if (rows[i].facts.info.id % 2 == 0)
+                even.push_back(i);
+        return even;
+    });
+    QCOMPARE(model.rowCount(), 2);
+    QCOMPARE(model.at(1).facts.info.id, 4);
+    QCOMPARE(model.recordOf(1), std::size_t{3});
+    QCOMPARE(model.rowOf(3), 1);
+    QCOMPARE(model.rowOf(0), -1);
+    QCOMPARE(model.records().size(), std::size_t{4});
+    fill({2, 4, 6, 7, 8});
+    QCOMPARE(model.rowCount(), 4);
+    fill({1});
+    QCOMPARE(model.rowCount(), 0);
+    QCOMPARE(versions.size(), std::size_t{3});
+    QVERIFY(versions[0] != versions[1] && versions[1] != versions[2]);
+    model.setFilter({});
+    QCOMPARE(model.rowCount(), 1);
+    QCOMPARE(model.rowOf(0), 0);
+}
+
+QTEST_MAIN(InsightWindowsTest)
+#include "windows_test.moc"
