@@ -4,7 +4,6 @@
 
 #include <QBoxLayout>
 #include <QEvent>
-#include <QGroupBox>
 #include <QWizard>
 
 #include "insight/restore_summary.h"
@@ -51,47 +50,6 @@ RestoreSummary summaryOf(const RestorePages& pages) {
     return summary;
 }
 
-class RestoreSummaryBox : public QGroupBox {
-public:
-    RestoreSummaryBox(const RestorePages& pages, QWizardPage& page)
-        : QGroupBox(&page)
-        , pages_(pages)
-        , page_(page) {
-        ui_.setupUi(this);
-        // Above the space at the end of the page, where there is one.
-        auto* layout = static_cast<QBoxLayout*>(page.layout());
-        const int last = layout->count() - 1;
-        layout->insertWidget(layout->itemAt(last)->spacerItem() ? last : last + 1, this);
-        connect(&pages.wizard, &QWizard::currentIdChanged, this, &RestoreSummaryBox::refresh);
-        connect(&page, &QWizardPage::completeChanged, this, &RestoreSummaryBox::refresh);
-        refresh();
-    }
-
-protected:
-    void changeEvent(QEvent* event) override {
-        if (event->type() == QEvent::LanguageChange) {
-            ui_.retranslateUi(this);
-            refresh();
-        }
-        QGroupBox::changeEvent(event);
-    }
-
-private:
-    void refresh() {
-        if (pages_.wizard.currentPage() != &page_)
-            return;
-        const bool isLast = &page_ == static_cast<QWizardPage*>(&pages_.directory) ||
-                            pages_.location.target() == RestoreLocationPage::Target::original;
-        setVisible(isLast);
-        if (isLast)
-            ui_.labelSummary->setText(summaryLines(summaryOf(pages_)).join(QLatin1Char('\n')));
-    }
-
-    const RestorePages pages_;
-    QWizardPage& page_;
-    Ui::RestoreSummaryBox ui_;
-};
-
 } // namespace
 
 void addRestoreSummary(const RestorePages& pages) {
@@ -101,3 +59,39 @@ void addRestoreSummary(const RestorePages& pages) {
 }
 
 } // namespace insight
+
+RestoreSummaryBox::RestoreSummaryBox(const wizards::RestorePages& pages, QWizardPage& page)
+    : QGroupBox(&page)
+    , pages_(std::make_unique<wizards::RestorePages>(pages))
+    , page_(page)
+    , ui_(std::make_unique<Ui::RestoreSummaryBox>()) {
+    ui_->setupUi(this);
+    // Above the space at the end of the page, where there is one.
+    auto* layout = static_cast<QBoxLayout*>(page.layout());
+    const int last = layout->count() - 1;
+    layout->insertWidget(layout->itemAt(last)->spacerItem() ? last : last + 1, this);
+    connect(&pages.wizard, &QWizard::currentIdChanged, this, &RestoreSummaryBox::refresh);
+    connect(&page, &QWizardPage::completeChanged, this, &RestoreSummaryBox::refresh);
+    refresh();
+}
+
+RestoreSummaryBox::~RestoreSummaryBox() = default;
+
+void RestoreSummaryBox::refresh() {
+    if (pages_->wizard.currentPage() != &page_)
+        return;
+    const bool isLast = &page_ == static_cast<QWizardPage*>(&pages_->directory) ||
+                        pages_->location.target() == RestoreLocationPage::Target::original;
+    setVisible(isLast);
+    if (isLast)
+        ui_->labelSummary->setText(
+            insight::summaryLines(insight::summaryOf(*pages_)).join(QLatin1Char('\n')));
+}
+
+void RestoreSummaryBox::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange) {
+        ui_->retranslateUi(this);
+        refresh();
+    }
+    QGroupBox::changeEvent(event);
+}

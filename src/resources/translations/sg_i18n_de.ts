@@ -2,13 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
-    <name>ErrorBox</name>
-    <message>
-        <source>The agent gave no reason.</source>
-        <translation>Der Agent hat keinen Grund genannt.</translation>
-    </message>
-</context>
-<context>
     <name>ADAccountDlg</name>
     <message>
         <source>Modify LDAP User Account</source>
@@ -781,6 +774,13 @@ rechts neu einrichten.</translation>
 Would you like to remove the backup set?</source>
         <translation>Sie haben alle Daten zum Löschen ausgewählt.
 Möchten Sie den Sicherungssatz entfernen?</translation>
+    </message>
+</context>
+<context>
+    <name>ErrorBox</name>
+    <message>
+        <source>The agent gave no reason.</source>
+        <translation>Der Agent hat keinen Grund genannt.</translation>
     </message>
 </context>
 <context>
