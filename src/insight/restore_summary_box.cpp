@@ -66,6 +66,9 @@ RestoreSummaryBox::RestoreSummaryBox(const wizards::RestorePages& pages, QWizard
     , page_(page)
     , ui_(std::make_unique<Ui::RestoreSummaryBox>()) {
     ui_->setupUi(this);
+    // A wizard takes its height from its pages before the texts are there: five lines, one of them
+    // wrapped.
+    ui_->labelSummary->setMinimumHeight(6 * fontMetrics().lineSpacing());
     // Above the space at the end of the page, where there is one.
     auto* layout = static_cast<QBoxLayout*>(page.layout());
     const int last = layout->count() - 1;
