@@ -12,11 +12,11 @@ namespace simulator {
 /// What tests look for in the scenarios about the health of sets.
 namespace health {
 
-inline constexpr std::string_view missed = "Missed last night";     ///< since then, 5 hours passed
-inline constexpr std::string_view old = "Three days old";           ///< of a daily schedule
-inline constexpr std::string_view lastMonth = "Monthly";            ///< backed up an hour ago
-inline constexpr std::string_view unscheduled = "By hand";          ///< 400 days old
-inline constexpr std::string_view withErrors = "Ended with errors"; ///< 3 errors, 1 warning
+inline constexpr std::string_view missed = "Missed last night"; ///< since then, 5 hours passed
+inline constexpr std::string_view old = "Three days old";       ///< of a daily schedule
+inline constexpr std::string_view lastMonth = "Accounts of the month"; ///< backed up an hour ago
+inline constexpr std::string_view unscheduled = "By hand";             ///< 400 days old
+inline constexpr std::string_view withErrors = "Ended with errors";    ///< 3 errors, 1 warning
 inline constexpr std::string_view unsuccessful = "No success";
 inline constexpr std::string_view withWarnings = "Ended with warnings";
 inline constexpr std::string_view stalled = "Stalled"; ///< at 40 percent of 8 GB

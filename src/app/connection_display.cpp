@@ -27,6 +27,7 @@ void ConnectionDisplay::begin(const QString& server, const QString& user) {
     anyListed_ = false;
     field_.show(state_);
     notice_.showEnd(state_);
+    SessionEndedLine::removeFromOpenWindows();
 }
 
 void ConnectionDisplay::listed(int sets) {

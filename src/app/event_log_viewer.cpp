@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "app/event_log_viewer.h"
 
+#include <utility>
+
 #include <QDateTime>
 #include <QEvent>
 #include <QSignalBlocker>
@@ -54,6 +56,10 @@ void EventLogViewer::showFor(const QDateTime& from, const QDateTime& to, std::in
     }
     updateEnabling();
     refreshData();
+}
+
+void EventLogViewer::setNamesByActivity(insight::SetNames names) {
+    ui_->searchEvents->setSetNames(std::move(names));
 }
 
 void EventLogViewer::refreshData() {

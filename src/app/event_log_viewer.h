@@ -7,6 +7,7 @@
 #include <QDialog>
 
 #include "app/event_log_model.h"
+#include "insight/row_index.h"
 
 class QDateTime;
 
@@ -24,6 +25,10 @@ public:
 
     /// Sets the filter: the activity, or with id 0 the times. Asks the agent once.
     void showFor(const QDateTime& from, const QDateTime& to, std::int32_t activityId);
+
+    /// The names of the sets that activities were for, by the ids of the activities, for the
+    /// search.
+    void setNamesByActivity(insight::SetNames names);
 
     EventLogModel& model() { return model_; }
 

@@ -75,6 +75,22 @@ void InsightWindows::watchEnds(const QList<hessiancln::running_activity_info>& d
         ends_.gone(activity.activity_id);
 }
 
+insight::SetNames InsightWindows::namesByActivity(
+    const std::vector<hessiancln::activity_log_info>& log,
+    const std::vector<hessiancln::running_activity_info>& running) const {
+    const insight::SetNames sets = monitor_.names();
+    insight::SetNames names;
+    const auto add = [&](std::int32_t activityId, std::int32_t setId) {
+        if (const auto found = sets.find(setId); found != sets.end())
+            names.emplace(activityId, found->second);
+    };
+    for (const auto& activity : log)
+        add(activity.id, activity.set_id);
+    for (const auto& activity : running)
+        add(activity.activity_id, activity.set_id);
+    return names;
+}
+
 QString InsightWindows::nameOf(const hessiancln::activity_log_info& ended) const {
     const insight::SetNames names = monitor_.names();
     const auto found = names.find(ended.set_id);

@@ -45,6 +45,11 @@ public:
     /// These are no longer running, and their rows in the log are waited for.
     void watchEnds(const QList<hessiancln::running_activity_info>& disappeared);
 
+    /// The names of the sets that the activities were for, by the ids of the activities.
+    insight::SetNames
+    namesByActivity(const std::vector<hessiancln::activity_log_info>& log,
+                    const std::vector<hessiancln::running_activity_info>& running) const;
+
     void openHealth();
     /// With this set chosen; -1 for all.
     void openFindFile(std::int32_t setId);

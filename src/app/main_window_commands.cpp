@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 // The main window's slots that act on sets and activities, and those of its icon in the tray.
+#include <algorithm>
+
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QDateTime>
@@ -14,6 +16,7 @@
 #include "app/log_span.h"
 #include "app/open_backup_set.h"
 #include "app/simple_gui_main_window.h"
+#include "app/status_link.h"
 #include "app/tray_presence.h"
 #include "insight/restore_summary_box.h"
 #include "session/connection.h"
@@ -131,10 +134,14 @@ void SimpleGUIMainWindow::OnRestore() {
 void SimpleGUIMainWindow::restoreFile(std::int32_t setId, const QStringList& path,
                                       std::optional<std::int32_t> upTo) {
     ui::remoteAction(*this, tr("Error"), ui::Cursor::arrow, [&] {
+        const auto sets = sets_->records();
+        const auto listed = std::ranges::find(sets, setId, &hessiancln::backup_set_info::id);
+        // A copy: the list changes while the wizard is open.
+        const auto set = listed == sets.end() ? hessiancln::backup_set_info() : *listed;
         if (const auto activity = wizards::restoreFromSet(*this, app::openBackupSet(setId),
                                                           insight::addRestoreSummary,
                                                           wizards::RestoreFile{path, upTo}))
-            refreshAll();
+            follow(set, tr("%1: Restore started for '%2'"));
     });
 }
 
@@ -209,6 +216,8 @@ void SimpleGUIMainWindow::ShowEventLog() {
 void SimpleGUIMainWindow::showEventsOf(
     const std::optional<hessiancln::activity_log_info>& activity) {
     EventLogViewer viewer(this);
+    viewer.setNamesByActivity(
+        insight_->namesByActivity(activities_->log().records(), activities_->running().records()));
     filter(viewer, activity);
     viewer.exec();
 }
@@ -222,8 +231,10 @@ void SimpleGUIMainWindow::activityChangeDetected(
 
 void SimpleGUIMainWindow::announceEnd(const hessiancln::activity_log_info& ended,
                                       const QString& text) {
-    if (ended.type == hessiancln::ActivityType::Restore)
+    if (ended.type == hessiancln::ActivityType::Restore) {
         showStatus(text);
+        statusLink_->offer(text, [this, ended] { showEventsOf(ended); });
+    }
     tray_->announceEnd(ended, text);
 }
 

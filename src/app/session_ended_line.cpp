@@ -47,6 +47,17 @@ void SessionEndedLine::showInOpenDialogs(const QString& text) {
     }
 }
 
+void SessionEndedLine::removeFromOpenWindows() {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->isModal())
+            continue;
+        auto* line = window->findChild<SessionEndedLine*>(QString(), Qt::FindDirectChildrenOnly);
+        if (line)
+            line->makeRoom(0);
+        delete line;
+    }
+}
+
 SessionEndedLine::SessionEndedLine(QDialog& dialog)
     : QFrame(&dialog)
     , dialog_(dialog)
@@ -82,7 +93,10 @@ void SessionEndedLine::setText(const QString& text) {
 
 /// Once, for the width that the dialog has; a text that would need more lines later is cut.
 void SessionEndedLine::makeRoom() {
-    const int needed = heightForWidth(dialog_.width());
+    makeRoom(heightForWidth(dialog_.width()));
+}
+
+void SessionEndedLine::makeRoom(int needed) {
     const int more = needed - room_;
     room_ = needed;
     QWidget& content = contentOf(dialog_);

@@ -18,6 +18,10 @@ public:
     /// has. Boxes that only say something get none.
     static void showInOpenDialogs(const QString& text);
 
+    /// A new session has begun: takes the line from windows that go on with it, as those that
+    /// aren't modal do.
+    static void removeFromOpenWindows();
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -25,6 +29,7 @@ private:
 
     void setText(const QString& text);
     void makeRoom();
+    void makeRoom(int needed);
     void place();
 
     QDialog& dialog_;

@@ -15,6 +15,7 @@
 #include "app/enable_state.h"
 #include "app/insight_windows.h"
 #include "app/set_details_panel.h"
+#include "app/status_link.h"
 #include "app/tray_presence.h"
 #include "session/process_values.h"
 #include "ui/branding_resources.h"
@@ -47,8 +48,8 @@ SimpleGUIMainWindow::SimpleGUIMainWindow(QWidget* parent, std::unique_ptr<app::T
     setUpToolBars();
     setUpActivities();
     setUpBackupSets();
-    setUpConnection();
     setUpInsight();
+    setUpConnection();
     setUpGeometry();
     updateEnabling();
     heartbeat_.start();
@@ -119,6 +120,7 @@ void SimpleGUIMainWindow::setUpInsight() {
             const app::EnableState on = app::enableState(in);
             return BackupHealthWindow::Allowed{on.actionBackupNow, on.actionSynchronize};
         });
+    statusLink_ = new app::StatusLink(*ui_->statusbar);
     connect(ui_->actionBackup_Health, &QAction::triggered, insight_.get(),
             &app::InsightWindows::openHealth);
     connect(ui_->actionFind_File, &QAction::triggered, this, [this] {

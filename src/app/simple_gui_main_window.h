@@ -29,6 +29,7 @@ class CallGate;
 class ConnectionDisplay;
 class InsightWindows;
 class SetDetailsPanel;
+class StatusLink;
 class TrayPresence;
 struct EnableInputs;
 } // namespace app
@@ -181,6 +182,7 @@ private:
     std::unique_ptr<app::TrayPresence> tray_;
     app::ConnectionDisplay* connection_ = nullptr; ///< belongs to the status bar
     std::unique_ptr<app::InsightWindows> insight_;
+    app::StatusLink* statusLink_ = nullptr; ///< belongs to the status bar
     app::Heartbeat heartbeat_;
     QString status_;         ///< of the status bar, which shows the tip of a menu in its place
     QString refreshFailure_; ///< of the last refresh; empty if that came through

@@ -6,6 +6,8 @@
 #include <utility>
 
 #include <QEvent>
+#include <QKeyEvent>
+#include <QShortcut>
 
 #include "api/client_connection.h"
 #include "insight/copy_rows.h"
@@ -80,6 +82,11 @@ void FindFileWindow::setUpTable() {
     QObject::connect(table.selectionModel(), &QItemSelectionModel::selectionChanged, this,
                      &FindFileWindow::updateEnabling);
     QObject::connect(&table, &QTableView::doubleClicked, this, &FindFileWindow::showGenerations);
+    // The default button would look for files again.
+    for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto* shortcut = new QShortcut(key, &table, nullptr, nullptr, Qt::WidgetShortcut);
+        QObject::connect(shortcut, &QShortcut::activated, this, &FindFileWindow::showGenerations);
+    }
 }
 
 void FindFileWindow::setSetNames(const insight::SetNames& names) {
@@ -208,6 +215,22 @@ void FindFileWindow::restore() {
         emit restoreRequested(file->setId,
                               search_->folderOf(*file) + QStringList(session::fromWire(file->name)),
                               std::nullopt);
+}
+
+/// Escape ends the search, and without one closes the window.
+void FindFileWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && isSearching())
+        cancel();
+    else
+        QDialog::keyPressEvent(event);
+}
+
+void FindFileWindow::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    if (event->spontaneous())
+        return;
+    ui_->editName->setFocus();
+    ui_->editName->selectAll();
 }
 
 void FindFileWindow::hideEvent(QHideEvent* event) {

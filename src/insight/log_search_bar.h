@@ -27,7 +27,8 @@ public:
     /// selected rows be copied.
     void attach(QTableView& table, std::unique_ptr<insight::SearchedLog> log);
 
-    /// What "set:" looks in; the search is done again if they have changed.
+    /// What "set:" looks in, by the keys that the rows have; the search is done again if they have
+    /// changed.
     void setSetNames(insight::SetNames names);
 
 protected:

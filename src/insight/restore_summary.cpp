@@ -40,9 +40,7 @@ QString itemsLine(const RestoreSummary& summary) {
     if (summary.isWholeSet)
         return Texts::tr("What: the whole set, %1").arg(items);
     return summary.chosen.hasUnopened
-               ? Texts::tr("What: at least %1 (folders that were not opened are not counted "
-                           "through)")
-                     .arg(items)
+               ? Texts::tr("What: at least %1, as not all folders were opened").arg(items)
                : Texts::tr("What: %1").arg(items);
 }
 

@@ -21,6 +21,9 @@ namespace {
 
 using wizards::RestorePages;
 
+/// At least so many have room beside each other.
+constexpr int charsOfLine = 60;
+
 RestoreTarget targetOf(const RestoreLocationPage& page) {
     switch (page.target()) {
     case RestoreLocationPage::Target::original:
@@ -66,9 +69,7 @@ RestoreSummaryBox::RestoreSummaryBox(const wizards::RestorePages& pages, QWizard
     , page_(page)
     , ui_(std::make_unique<Ui::RestoreSummaryBox>()) {
     ui_->setupUi(this);
-    // A wizard takes its height from its pages before the texts are there: five lines, one of them
-    // wrapped.
-    ui_->labelSummary->setMinimumHeight(6 * fontMetrics().lineSpacing());
+    reserveRoom();
     // Above the space at the end of the page, where there is one.
     auto* layout = static_cast<QBoxLayout*>(page.layout());
     const int last = layout->count() - 1;
@@ -79,6 +80,15 @@ RestoreSummaryBox::RestoreSummaryBox(const wizards::RestorePages& pages, QWizard
 }
 
 RestoreSummaryBox::~RestoreSummaryBox() = default;
+
+/// A wizard takes its height from its pages before the texts are there, and doesn't grow for them.
+void RestoreSummaryBox::reserveRoom() {
+    insight::RestoreSummary longest;
+    longest.chosen = {9'999'999, 999'999, true, 0, 1};
+    ui_->labelSummary->setText(insight::summaryLines(longest).join(QLatin1Char('\n')));
+    ui_->labelSummary->setMinimumHeight(
+        ui_->labelSummary->heightForWidth(insight::charsOfLine * fontMetrics().averageCharWidth()));
+}
 
 void RestoreSummaryBox::refresh() {
     if (pages_->wizard.currentPage() != &page_)
@@ -94,6 +104,7 @@ void RestoreSummaryBox::refresh() {
 void RestoreSummaryBox::changeEvent(QEvent* event) {
     if (event->type() == QEvent::LanguageChange) {
         ui_->retranslateUi(this);
+        reserveRoom();
         refresh();
     }
     QGroupBox::changeEvent(event);

@@ -28,6 +28,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    void reserveRoom();
     void refresh();
 
     std::unique_ptr<wizards::RestorePages> pages_;

@@ -44,7 +44,7 @@ bool RowIndex::isMatch(std::size_t place, const LogFilter& filter,
     if (row.traits.severity < filter.least || (filter.query.withErrors && !row.traits.hasErrors) ||
         (filter.query.withWarnings && !row.traits.hasWarnings))
         return false;
-    if (sets && !std::ranges::binary_search(*sets, row.traits.setId))
+    if (sets && !std::ranges::binary_search(*sets, row.traits.setKey))
         return false;
     const std::size_t end = place + 1 < rows_.size() ? rows_[place + 1].begin : texts_.size();
     const std::string_view all(texts_);

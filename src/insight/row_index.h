@@ -30,13 +30,14 @@ struct LogFilter {
     friend bool operator==(const LogFilter&, const LogFilter&) = default;
 };
 
-/// The names of backup sets by their ids, in UTF-8.
+/// The names of backup sets in UTF-8, by what a row knows its set by: the id of the set, or that of
+/// an activity.
 using SetNames = std::map<std::int32_t, std::string>;
 
 /// What a log row is beside its columns.
 struct RowTraits {
     Severity severity = Severity::info;
-    std::int32_t setId = 0;
+    std::int32_t setKey = 0; ///< of its set among the names
     bool hasErrors = false;
     bool hasWarnings = false;
 };

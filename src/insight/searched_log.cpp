@@ -16,7 +16,7 @@ RowTraits traitsOf(const hessiancln::event_log_info& row) {
     const Severity severity = row.type == EventLogType::Error     ? Severity::error
                               : row.type == EventLogType::Warning ? Severity::warning
                                                                   : Severity::info;
-    return {severity, 0, severity == Severity::error, severity == Severity::warning};
+    return {severity, row.activity_id, severity == Severity::error, severity == Severity::warning};
 }
 
 } // namespace insight

@@ -3,6 +3,7 @@
 #include "insight/week_picture.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 #include <QDateTime>
@@ -35,7 +36,20 @@ void WeekPicture::showRuns(std::vector<insight::PlannedRun> runs, std::int64_t f
     runs_ = std::move(runs);
     from_ = from;
     parts_ = insight::dayParts(runs_, from_, days, QTimeZone::systemTimeZone(), lanes_);
+    setAccessibleDescription(spokenText());
     update();
+}
+
+QString WeekPicture::spokenText() const {
+    std::set<std::size_t> shown;
+    for (const insight::DayPart& part : parts_)
+        shown.insert(part.run);
+    const auto overlapping =
+        std::ranges::count_if(shown, [this](std::size_t run) { return runs_[run].overlaps; });
+    return tr("Runs in these 7 days: %1. At the same time as another: %2. The list has each of "
+              "them.")
+        .arg(ui::numberText(static_cast<qint64>(shown.size())),
+             ui::numberText(static_cast<qint64>(overlapping)));
 }
 
 QSize WeekPicture::minimumSizeHint() const {

@@ -27,6 +27,7 @@ protected:
     bool event(QEvent* event) override;
 
 private:
+    QString spokenText() const;
     QRectF bodyOfDay(int day) const;
     QRectF barOf(const insight::DayPart& part) const;
     void paintDays(QPainter& painter) const;

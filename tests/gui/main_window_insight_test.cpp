@@ -3,11 +3,16 @@
 
 // What the main window says about the safety of data, beyond what its tables show.
 
+#include <set>
+
+#include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSpinBox>
+#include <QStatusBar>
 #include <QTableView>
 #include <QTest>
 #include <QToolButton>
@@ -23,6 +28,7 @@
 #include "tests/support/gui_main_window.h"
 #include "tests/support/gui_modal_driver.h"
 #include "tests/support/gui_wizard.h"
+#include "wizards/select_generation_dlg.h"
 
 using simulator::Scenario;
 using simulator::World;
@@ -187,6 +193,103 @@ private slots:
         QCOMPARE(driver.tray().balloons.last().second, driver.status());
     }
 
+    void aClickOnThatLineShowsItsEvents() {
+        GuiAgent agent(optionsOf(Scenario::Failed));
+        MainWindowDriver driver;
+        driver.logIn(agent);
+        auto& bar = *driver.window().statusBar();
+        auto& button = child<QToolButton>(driver.window(), "buttonStatusEvents");
+        // Nothing to show: a click on any other text does nothing.
+        QVERIFY(!button.isVisible());
+        QTest::mouseClick(&bar, Qt::LeftButton, {}, {5, bar.height() / 2});
+
+        std::int32_t id = 0;
+        agent.withWorld([&](World& world) {
+            runOnce(world, hessiancln::ActivityType::Restore, 2);
+            id = world.running().front().activity_id;
+        });
+        driver.beat();
+        driver.beat();
+        waitForEnd(agent);
+        driver.beat();
+        QCOMPARE(driver.status(), QStringLiteral("Restore of 'Documents' ended with 2 errors"));
+        QVERIFY(button.isVisible());
+        ModalDriver modals;
+        const auto expectEvents = [&] {
+            modals.expect(QStringLiteral("events"), isDialog<EventLogViewer>, [&](QWidget& dialog) {
+                QVERIFY(child<QCheckBox>(dialog, "checkActivityID").isChecked());
+                QCOMPARE(child<QSpinBox>(dialog, "spinActivityID").value(), id);
+                child<QPushButton>(dialog, "buttonClose").click();
+            });
+        };
+        expectEvents();
+        QTest::mouseClick(&bar, Qt::LeftButton, {}, {5, bar.height() / 2});
+        QVERIFY(modals.done());
+        expectEvents();
+        button.setFocus();
+        QTest::keyClick(&button, Qt::Key_Space);
+        QVERIFY(modals.done());
+        // Another text takes its place.
+        driver.window().OnDisconnect();
+        QVERIFY(!button.isVisible());
+    }
+
+    void eventsAreSearchedByTheSetOfTheirActivity() {
+        GuiAgent agent(optionsOf(Scenario::Failed));
+        MainWindowDriver driver;
+        driver.logIn(agent);
+        ModalDriver modals;
+        modals.expect(QStringLiteral("events"), isDialog<EventLogViewer>, [&](QWidget& dialog) {
+            const auto& events = *child<QTableView>(dialog, "tableEvents").model();
+            const int all = events.rowCount();
+            auto& line = child<QLineEdit>(dialog, "editSearch");
+            line.setText(QStringLiteral("set:\"ended with errors\""));
+            QVERIFY(events.rowCount() > 0 && events.rowCount() < all);
+            std::set<int> activities;
+            for (int row = 0; row < events.rowCount(); ++row)
+                activities.insert(static_cast<EventLogViewer&>(dialog).model().at(row).activity_id);
+            QCOMPARE(activities.size(), std::size_t{1});
+            line.setText(QStringLiteral("set:nobody"));
+            QCOMPARE(events.rowCount(), 0);
+            child<QPushButton>(dialog, "buttonClose").click();
+        });
+        driver.window().ShowEventLog();
+        QVERIFY(modals.done());
+    }
+
+    void allOfItWorksByKeyboard() {
+        GuiAgent agent(optionsOf(Scenario::Generations));
+        MainWindowDriver driver;
+        driver.logIn(agent);
+        auto& window = driver.window();
+        QTest::keyClick(&window, Qt::Key_H, Qt::ControlModifier);
+        auto* health = window.findChild<BackupHealthWindow*>();
+        QVERIFY(health && health->isVisible());
+        QTest::keyClick(health, Qt::Key_Escape);
+        QVERIFY(!health->isVisible());
+
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QTest::keyClick(&window, Qt::Key_F, Qt::ControlModifier);
+        auto* find = window.findChild<FindFileWindow*>();
+        QVERIFY(find && QTest::qWaitForWindowActive(find));
+        QCOMPARE(find->focusWidget()->objectName(), QStringLiteral("editName"));
+        QTest::keyClicks(find->focusWidget(), QStringLiteral("diary"));
+        QTest::keyClick(find->focusWidget(), Qt::Key_Return);
+        QTRY_VERIFY(!find->isSearching());
+        auto& table = child<QTableView>(*find, "tableFound");
+        QCOMPARE(table.model()->rowCount(), 1);
+        table.setFocus();
+        QTest::keyClick(&table, Qt::Key_Down);
+        ModalDriver modals;
+        modals.expect(QStringLiteral("generations"), isDialog<SelectGenerationDlg>,
+                      [](QWidget& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+        QTest::keyClick(&table, Qt::Key_Return);
+        QVERIFY(modals.done());
+        QVERIFY(!find->isSearching());
+        QTest::keyClick(find, Qt::Key_Escape);
+        QVERIFY(!find->isVisible());
+    }
+
     void theProgressSaysWhenNothingMoves() {
         GuiAgent agent(optionsOf(Scenario::Stalled));
         MainWindowDriver driver;
@@ -227,10 +330,14 @@ private slots:
             const QString summary = child<QLabel>(box, "labelSummary").text();
             QVERIFY2(summary.contains(QStringLiteral("What: 1 file")), qPrintable(summary));
             QVERIFY(summary.contains(QStringLiteral("the original location")));
-            wizard.reject();
+            child<QComboBox>(*wizard.currentPage(), "cmbRestoreReason").setCurrentIndex(1);
+            wizard.button(QWizard::FinishButton)->click();
         });
         child<QPushButton>(*find, "buttonRestore").click();
         QVERIFY(modals.done());
+        QVERIFY2(driver.status().endsWith(
+                     QStringLiteral("Restore started for 'Two years of generations'")),
+                 qPrintable(driver.status()));
     }
 };
 

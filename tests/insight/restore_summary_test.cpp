@@ -92,8 +92,7 @@ TEST(RestoreSummary, SaysWhatIsNotKnown) {
     summary.directory = QStringLiteral("D:/back/restore_1/");
     EXPECT_THAT(lines(summary),
                 ElementsAre("As it was: 11/14/23 10:13 PM",
-                            "What: at least 1 file, 3 folders (folders that were not opened are "
-                            "not counted through)",
+                            "What: at least 1 file, 3 folders, as not all folders were opened",
                             "Size: at least 2.00 KB", "Where to: D:/back/restore_1/",
                             "Files that are there: kept, as the restore makes a directory of its "
                             "own"));

@@ -253,6 +253,13 @@ void InsightWindowsTest::nextRunsShowOverlaps() {
     child<QTabWidget>(window, "tabHealth").setCurrentIndex(1);
     auto& picture = child<WeekPicture>(window, "pictureWeek");
     const QImage first = picture.grab().toImage();
+    const int inAWeek = QRegularExpression(QStringLiteral("7 days: (\\d+)\\."))
+                            .match(picture.accessibleDescription())
+                            .captured(1)
+                            .toInt();
+    // Every evening, and six times on each of five workdays.
+    QVERIFY2(inAWeek > 7 + 5 * 6 && inAWeek < sets.size(),
+             qPrintable(picture.accessibleDescription()));
     child<QComboBox>(window, "comboWeek").setCurrentIndex(1);
     QVERIFY(picture.grab().toImage() != first);
 }

@@ -107,9 +107,9 @@ const char* const givenTwice[] = {
 
 /// What shows names, numbers and dates of the agent.
 const char* const agentsWords[] = {
-    "BackupSetViewItem",      "cmbAccountKeyType", "cmbPrivateKeyType", "comboDomain",
-    "comboSpecificLocations", "labelSetName",      "lookInCombo",       "txtAccountNum",
-    "txtClientNum",           "valLastBackup"};
+    "BackupSetViewItem", "cmbAccountKeyType",      "cmbPrivateKeyType", "comboDomain",
+    "comboSet",          "comboSpecificLocations", "labelSetName",      "lookInCombo",
+    "txtAccountNum",     "txtClientNum",           "valLastBackup"};
 
 /// Texts that are the same in all languages: the names of the program and of its maker, what the
 /// agent answers, and that there is no translation, for which there can't be one.

@@ -3357,8 +3357,8 @@ Möchten Sie die Datenbank wirklich aus der Cloud retten?</translation>
         <translation>Was: der ganze Satz, %1</translation>
     </message>
     <message>
-        <source>What: at least %1 (folders that were not opened are not counted through)</source>
-        <translation>Was: mindestens %1 (nicht geöffnete Ordner sind nicht durchgezählt)</translation>
+        <source>What: at least %1, as not all folders were opened</source>
+        <translation>Was: mindestens %1, da nicht alle Ordner geöffnet wurden</translation>
     </message>
     <message>
         <source>What: %1</source>
@@ -4510,6 +4510,10 @@ Klicken Sie hier, um diesen Hinweis nicht mehr zu sehen.</translation>
         <translation>%1
 %2 bis %3</translation>
     </message>
+    <message>
+        <source>Runs in these 7 days: %1. At the same time as another: %2. The list has each of them.</source>
+        <translation>Läufe in diesen 7 Tagen: %1. Gleichzeitig mit einem anderen: %2. Die Liste nennt jeden von ihnen.</translation>
+    </message>
 </context>
 <context>
     <name>WizardButtonText</name>
@@ -4633,6 +4637,21 @@ Klicken Sie hier, um diesen Hinweis nicht mehr zu sehen.</translation>
     <message>
         <source>Click to connect.</source>
         <translation>Zum Verbinden klicken.</translation>
+    </message>
+</context>
+<context>
+    <name>app::StatusLink</name>
+    <message>
+        <source>Events</source>
+        <translation>Ereignisse</translation>
+    </message>
+    <message>
+        <source>Shows the events of what the status bar reports</source>
+        <translation>Zeigt die Ereignisse zu dem, was die Statusleiste meldet</translation>
+    </message>
+    <message>
+        <source>Events of what the status bar reports</source>
+        <translation>Ereignisse zu dem, was die Statusleiste meldet</translation>
     </message>
 </context>
 <context>
