@@ -127,7 +127,7 @@ void populateOverlapping(World& world) {
     const auto monthly = ScheduleDetailType::Monthly;
     const std::pair<std::string, Detail> described[] = {
         {"Documents", {weekly, 31, {20, 0, 0}, {{30, 0, 0}}, 0, backup}},
-        {"Pictures and Videos", {weekly, everyDay, {20, 10, 0}, {{30, 0, 0}}, 0, backup}},
+        {"Pictures and Videos", {weekly, everyDay, {20, 5, 0}, {{30, 0, 0}}, 0, backup}},
         {"Mail archive", {weekly, 31, {8, 0, 0}, {{18, 0, 0}}, 2, backup}},
         {"Night shift", {weekly, 96, {22, 0, 0}, {{28, 0, 0}}, 3, backup}},
         {"Accounts", {monthly, 28, {3, 0, 0}, {}, 0, backup}},

@@ -31,7 +31,7 @@ InsightWindows::InsightWindows(QWidget& window, QStatusBar& statusBar, LogSearch
     , allowedOf_(std::move(allowedOf))
     , field_(*new HealthField(&statusBar))
     , monitor_(session::getConnection, [] { return QDateTime::currentSecsSinceEpoch(); }) {
-    statusBar.insertPermanentWidget(0, &field_);
+    statusBar.addPermanentWidget(&field_);
     connect(&field_, &HealthField::clicked, this, &InsightWindows::openHealth);
     connect(&monitor_, &insight::HealthMonitor::changed, this, &InsightWindows::showCount);
 }

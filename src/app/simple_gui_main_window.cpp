@@ -109,6 +109,7 @@ void SimpleGUIMainWindow::setUpInsight() {
         *ui_->tableActivityLog,
         std::make_unique<insight::SearchedRecords<hessiancln::activity_log_info>>(
             activities_->log()));
+    statusLink_ = new app::StatusLink(*ui_->statusbar);
     insight_ = std::make_unique<app::InsightWindows>(
         *this, *ui_->statusbar, *ui_->searchActivityLog, [this](const insight::HealthRow& row) {
             app::EnableInputs in = enableInputs();
@@ -120,7 +121,6 @@ void SimpleGUIMainWindow::setUpInsight() {
             const app::EnableState on = app::enableState(in);
             return BackupHealthWindow::Allowed{on.actionBackupNow, on.actionSynchronize};
         });
-    statusLink_ = new app::StatusLink(*ui_->statusbar);
     connect(ui_->actionBackup_Health, &QAction::triggered, insight_.get(),
             &app::InsightWindows::openHealth);
     connect(ui_->actionFind_File, &QAction::triggered, this, [this] {

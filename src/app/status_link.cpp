@@ -21,7 +21,7 @@ StatusLink::StatusLink(QStatusBar& bar)
     button_.setAutoRaise(true);
     button_.setFocusPolicy(Qt::TabFocus);
     setTexts();
-    bar.insertPermanentWidget(0, &button_);
+    bar.addPermanentWidget(&button_);
     bar.installEventFilter(this);
     connect(&bar, &QStatusBar::messageChanged, this, &StatusLink::showOrHide);
     connect(&button_, &QToolButton::clicked, this, &StatusLink::follow);

@@ -67,7 +67,7 @@ FindFileWindow::FindFileWindow(Connect connect, QWidget* parent)
     QObject::connect(ui_->buttonRestore, &QPushButton::clicked, this, &FindFileWindow::restore);
     QObject::connect(ui_->buttonClose, &QPushButton::clicked, this, &FindFileWindow::accept);
     QObject::connect(&slices_, &insight::Slices::progressed, this, &FindFileWindow::showProgress);
-    QObject::connect(&slices_, &insight::Slices::finished, this, &FindFileWindow::showProgress);
+    QObject::connect(&slices_, &insight::Slices::finished, this, &FindFileWindow::end);
     showProgress();
 }
 
@@ -149,7 +149,14 @@ void FindFileWindow::cancel() {
     slices_.stop();
     search_->cancel();
     cancelled_ = true;
+    end();
+}
+
+void FindFileWindow::end() {
     showProgress();
+    // For the keyboard, which leads to a row without selecting it.
+    if (!selectedFile() && found_.rowCount() > 0)
+        ui_->tableFound->selectRow(0);
 }
 
 void FindFileWindow::showProgress() {

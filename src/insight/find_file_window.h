@@ -55,6 +55,7 @@ private:
     void find();
     void cancel();
     bool step();
+    void end();
     void showProgress();
     void updateEnabling();
     void fillSets();

@@ -19,8 +19,8 @@ namespace {
 using M = FoundFilesModel;
 
 constexpr std::array<ui::TableColumn, M::columns> columnTable{{
-    {M::name, QT_TRANSLATE_NOOP("FoundFilesModel", "Name"), 220},
-    {M::folder, QT_TRANSLATE_NOOP("FoundFilesModel", "Folder"), 280},
+    {M::name, QT_TRANSLATE_NOOP("FoundFilesModel", "Name"), 190},
+    {M::folder, QT_TRANSLATE_NOOP("FoundFilesModel", "Folder"), 220},
     {M::set, QT_TRANSLATE_NOOP("FoundFilesModel", "Backup set"), 130},
     {M::size, QT_TRANSLATE_NOOP("FoundFilesModel", "Size"), 80, ui::rightInCell},
     {M::modified, QT_TRANSLATE_NOOP("FoundFilesModel", "Modified"), 120},

@@ -82,18 +82,18 @@ QString storedText(const HealthRow& row) {
 }
 
 constexpr std::array<RecordColumn<HealthRow>, H::columns> healthColumns{{
-    {{H::name, QT_TRANSLATE_NOOP("BackupHealthModel", "Backup set"), 190},
+    {{H::name, QT_TRANSLATE_NOOP("BackupHealthModel", "Backup set"), 160},
      [](const HealthRow& row) { return session::fromWire(row.facts.info.name); }},
-    {{H::state, QT_TRANSLATE_NOOP("BackupHealthModel", "State"), 130}, stateText, {}, stateIcon},
-    {{H::lastGood, QT_TRANSLATE_NOOP("BackupHealthModel", "Last good backup"), 210}, lastGoodText},
-    {{H::lastAttempt, QT_TRANSLATE_NOOP("BackupHealthModel", "Last attempt"), 200},
+    {{H::state, QT_TRANSLATE_NOOP("BackupHealthModel", "State"), 120}, stateText, {}, stateIcon},
+    {{H::lastGood, QT_TRANSLATE_NOOP("BackupHealthModel", "Last good backup"), 205}, lastGoodText},
+    {{H::lastAttempt, QT_TRANSLATE_NOOP("BackupHealthModel", "Last attempt"), 176},
      lastAttemptText},
-    {{H::nextRun, QT_TRANSLATE_NOOP("BackupHealthModel", "Next run"), 120}, nextRunText},
-    {{H::storedSize, QT_TRANSLATE_NOOP("BackupHealthModel", "Stored size"), 90, ui::rightInCell},
+    {{H::nextRun, QT_TRANSLATE_NOOP("BackupHealthModel", "Next run"), 110}, nextRunText},
+    {{H::storedSize, QT_TRANSLATE_NOOP("BackupHealthModel", "Stored size"), 80, ui::rightInCell},
      storedText},
-    {{H::generations, QT_TRANSLATE_NOOP("BackupHealthModel", "Generations"), 90, ui::rightInCell},
+    {{H::generations, QT_TRANSLATE_NOOP("BackupHealthModel", "Generations"), 85, ui::rightInCell},
      generationsText},
-    {{H::owner, QT_TRANSLATE_NOOP("BackupHealthModel", "Made by"), 110}, ownerText},
+    {{H::owner, QT_TRANSLATE_NOOP("BackupHealthModel", "Made by"), 80}, ownerText},
 }};
 static_assert(ui::areInOrder(healthColumns));
 
@@ -106,13 +106,13 @@ QIcon overlapIcon(const PlannedRun& run) {
 }
 
 constexpr std::array<RecordColumn<PlannedRun>, N::columns> runColumns{{
-    {{N::start, QT_TRANSLATE_NOOP("NextRunsModel", "Start"), 120},
+    {{N::start, QT_TRANSLATE_NOOP("NextRunsModel", "Start"), 110},
      [](const PlannedRun& run) { return shortTime(run.start); }},
-    {{N::set, QT_TRANSLATE_NOOP("NextRunsModel", "Backup set"), 140},
+    {{N::set, QT_TRANSLATE_NOOP("NextRunsModel", "Backup set"), 125},
      [](const PlannedRun& run) { return session::fromWire(run.name); }},
-    {{N::end, QT_TRANSLATE_NOOP("NextRunsModel", "Likely end"), 120},
+    {{N::end, QT_TRANSLATE_NOOP("NextRunsModel", "Likely end"), 110},
      [](const PlannedRun& run) { return shortTime(run.end); }},
-    {{N::overlap, QT_TRANSLATE_NOOP("NextRunsModel", "Overlap"), 120},
+    {{N::overlap, QT_TRANSLATE_NOOP("NextRunsModel", "Overlap"), 130},
      overlapText,
      {},
      overlapIcon},

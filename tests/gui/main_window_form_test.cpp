@@ -276,8 +276,8 @@ private slots:
         QCOMPARE(names,
                  words("backupSetsView buttonConnect btnItems btnSchedule btnRetention tabWidget "
                        "tableCurrentActivities buttonStop dateTimeFrom dateTimeTo buttonEventLog "
-                       "editSearch comboSeverity buttonExport tableActivityLog healthField "
-                       "connectionField"));
+                       "editSearch comboSeverity buttonExport tableActivityLog "
+                       "buttonStatusEvents healthField connectionField"));
     }
 
     void opensInTheTextsOfATranslation() {

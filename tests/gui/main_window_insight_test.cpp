@@ -279,7 +279,8 @@ private slots:
         auto& table = child<QTableView>(*find, "tableFound");
         QCOMPARE(table.model()->rowCount(), 1);
         table.setFocus();
-        QTest::keyClick(&table, Qt::Key_Down);
+        QCOMPARE(table.selectionModel()->selectedRows().size(), 1);
+        QVERIFY(table.hasFocus());
         ModalDriver modals;
         modals.expect(QStringLiteral("generations"), isDialog<SelectGenerationDlg>,
                       [](QWidget& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
