@@ -86,7 +86,7 @@ constexpr std::array<RecordColumn<HealthRow>, H::columns> healthColumns{{
      [](const HealthRow& row) { return session::fromWire(row.facts.info.name); }},
     {{H::state, QT_TRANSLATE_NOOP("BackupHealthModel", "State"), 120}, stateText, {}, stateIcon},
     {{H::lastGood, QT_TRANSLATE_NOOP("BackupHealthModel", "Last good backup"), 205}, lastGoodText},
-    {{H::lastAttempt, QT_TRANSLATE_NOOP("BackupHealthModel", "Last attempt"), 176},
+    {{H::lastAttempt, QT_TRANSLATE_NOOP("BackupHealthModel", "Last attempt"), 190},
      lastAttemptText},
     {{H::nextRun, QT_TRANSLATE_NOOP("BackupHealthModel", "Next run"), 110}, nextRunText},
     {{H::storedSize, QT_TRANSLATE_NOOP("BackupHealthModel", "Stored size"), 80, ui::rightInCell},

@@ -22,6 +22,9 @@ HealthReason overdueReason(const SetFacts& facts, const HealthClock& clock) {
         return HealthReason::none;
     if (clock.now - facts.info.last_successful_backup > 2 * *facts.interval)
         return HealthReason::isTooOld;
+    // What works on the set may be the backup in question.
+    if (facts.isRunning)
+        return HealthReason::none;
     // A start that the agent may still make up for isn't missed.
     const std::int64_t patience = std::int64_t{std::max(clock.missedHours, 0)} * 3600;
     const auto missed = lastStart(*facts.plan, clock.now - patience - 1, clock.zone);

@@ -119,6 +119,7 @@ private slots:
     void columnsOutOfRangeDoNotSort();
     void rowsOfRunningActivities();
     void theToolTipOfARunningActivity();
+    void theProgressSaysHowFastAndHowLong();
     void everyOtherColumnOfRunningActivitiesSorts();
     void theProgressColumnDoesNotSort();
     void theFirstListAfterAClearIsNotCompared();
@@ -309,6 +310,32 @@ void TableModelsTest::theToolTipOfARunningActivity() {
              head + QStringLiteral("<tr><td><b>Status:</b></td> <td>Sending &lt;a&gt;</<td></tr>"
                                    "<tr><td><b>Directory:</b></td><td>C:\\R&amp;D</<td></tr>"
                                    "</table></html>"));
+}
+
+void TableModelsTest::theProgressSaysHowFastAndHowLong() {
+    std::int64_t now = 86400;
+    RunningActivitiesModel model(nullptr, [&now] { return now; });
+    running_activity_info info = running(1, 86400);
+    constexpr std::int64_t mebibyte = 1 << 20;
+    const auto pass = [&](std::int64_t seconds, std::int64_t done, std::int64_t left) {
+        now += seconds;
+        info.size_processed = done * mebibyte;
+        info.size_left = left * mebibyte;
+        model.setActivities({info});
+    };
+    const auto spoken = [&model] { return text(model, 0, 3, Qt::AccessibleTextRole); };
+    const auto tip = [&model](int column) { return text(model, 0, column, Qt::ToolTipRole); };
+    pass(0, 0, 600);
+    const QString plain = tip(3);
+    pass(30, 60, 540);
+    QCOMPARE(spoken(), text(model, 0, 3) + QStringLiteral(", 2.00 MB/s, 4 minutes left"));
+    QCOMPARE(tip(3), plain + QStringLiteral("<p>2.00 MB/s, 4 minutes left</p>"));
+    QCOMPARE(tip(1), plain);
+    pass(240, 60, 540);
+    QCOMPARE(spoken(), text(model, 0, 3) + QStringLiteral(", no progress for 4 min"));
+    // The totals go.
+    pass(30, 120, 0);
+    QVERIFY2(spoken().endsWith(QStringLiteral("/s")), qPrintable(spoken()));
 }
 
 void TableModelsTest::everyOtherColumnOfRunningActivitiesSorts() {

@@ -37,12 +37,6 @@ namespace {
 
 constexpr int patience = 60'000;
 
-simulator::Options optionsOf(simulator::Scenario scenario) {
-    simulator::Options options;
-    options.scenario = scenario;
-    return options;
-}
-
 } // namespace
 
 class InsightSessionTest : public QObject {
@@ -51,7 +45,8 @@ private slots:
     void initTestCase() {
         resources::initPictures();
         // One for all: it takes a while to fill its folders.
-        agent_ = std::make_unique<GuiAgent>(optionsOf(simulator::Scenario::ManyFolders));
+        agent_ = std::make_unique<GuiAgent>(
+            simulator::Options{.scenario = simulator::Scenario::ManyFolders});
     }
     void init() {
         gate_ = std::make_unique<app::CallGate>(app::CallGate::Times{20ms, 60ms});

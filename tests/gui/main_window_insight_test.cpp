@@ -6,14 +6,21 @@
 #include <set>
 
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
+#include <QFile>
+#include <QFileDialog>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSpinBox>
 #include <QStatusBar>
+#include <QTabWidget>
 #include <QTableView>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QToolButton>
 #include <QTreeView>
@@ -40,12 +47,6 @@ using support::methodsOf;
 using support::ModalDriver;
 
 namespace {
-
-simulator::Options optionsOf(Scenario scenario) {
-    simulator::Options options;
-    options.scenario = scenario;
-    return options;
-}
 
 /// An activity that ends at once, with so many errors.
 void runOnce(World& world, hessiancln::ActivityType type, std::int32_t errors) {
@@ -77,7 +78,7 @@ private slots:
     void initTestCase() { resources::initPictures(); }
 
     void theFieldSaysHowTheSetsAre() {
-        GuiAgent agent(optionsOf(Scenario::Failed));
+        GuiAgent agent({.scenario = Scenario::Failed});
         MainWindowDriver driver;
         auto& field = child<QToolButton>(driver.window(), "healthField");
         QCOMPARE(field.text(), QStringLiteral("Not connected"));
@@ -88,7 +89,7 @@ private slots:
     }
 
     void aHeartbeatMakesNoFurtherCall() {
-        GuiAgent agent(optionsOf(Scenario::Failed));
+        GuiAgent agent({.scenario = Scenario::Failed});
         MainWindowDriver driver;
         driver.logIn(agent);
         agent.clearCallLog();
@@ -100,7 +101,7 @@ private slots:
     }
 
     void theFieldOpensTheWindowWhoseButtonBacksUp() {
-        GuiAgent agent(optionsOf(Scenario::Failed));
+        GuiAgent agent({.scenario = Scenario::Failed});
         MainWindowDriver driver;
         driver.logIn(agent);
         QTest::mouseClick(&child<QToolButton>(driver.window(), "healthField"), Qt::LeftButton);
@@ -116,7 +117,7 @@ private slots:
     }
 
     void theSearchLineFiltersTheLog() {
-        GuiAgent agent(optionsOf(Scenario::Failed));
+        GuiAgent agent({.scenario = Scenario::Failed});
         MainWindowDriver driver;
         driver.logIn(agent);
         const int all = driver.rows("tableActivityLog");
@@ -140,7 +141,7 @@ private slots:
     }
 
     void aSelectedRowStaysSelectedUnderAFilter() {
-        GuiAgent agent(optionsOf(Scenario::Failed));
+        GuiAgent agent({.scenario = Scenario::Failed});
         MainWindowDriver driver;
         driver.logIn(agent);
         auto& table = child<QTableView>(driver.window(), "tableActivityLog");
@@ -154,7 +155,7 @@ private slots:
     }
 
     void anEndWithErrorsIsAWarningWhoseClickShowsTheEvents() {
-        GuiAgent agent(optionsOf(Scenario::Failed));
+        GuiAgent agent({.scenario = Scenario::Failed});
         MainWindowDriver driver;
         driver.logIn(agent);
         driver.window().hide();
@@ -176,10 +177,81 @@ private slots:
         });
         driver.window().sysTrayMessageClicked();
         QVERIFY(modals.done());
+        // As any click on a balloon, it ends the reminder of the tray.
+        const int balloons = driver.tray().balloons.size();
+        driver.window().close();
+        QCOMPARE(driver.tray().balloons.size(), balloons);
+    }
+
+    void inTheActiveWindowTheRowAndTheFieldShowIt() {
+        GuiAgent agent({.scenario = Scenario::Failed});
+        MainWindowDriver driver;
+        driver.logIn(agent);
+        QVERIFY(driver.window().isActiveWindow());
+        agent.withWorld([](World& world) { runOnce(world, hessiancln::ActivityType::Backup, 3); });
+        driver.beat();
+        driver.beat();
+        waitForEnd(agent);
+        driver.beat();
+        QCOMPARE(driver.tray().warnings.size(), 0);
+        QCOMPARE(child<QToolButton>(driver.window(), "healthField").text(),
+                 QStringLiteral("4 of 5 sets need attention"));
+        const auto& log = *child<QTableView>(driver.window(), "tableActivityLog").model();
+        const auto newest = log.index(0, 0);
+        QCOMPARE(newest.siblingAtColumn(2).data().toString(), QStringLiteral("3"));
+        QCOMPARE(newest.data(Qt::ForegroundRole).value<QBrush>().color(), QColor(Qt::red));
+    }
+
+    void theLogIsExportedAndCopied() {
+        GuiAgent agent({.scenario = Scenario::Failed});
+        agent.withWorld([](World& world) { world.sets().front()->info.name = "=1+2"; });
+        MainWindowDriver driver;
+        driver.logIn(agent);
+        agent.withWorld([](World& world) { runOnce(world, hessiancln::ActivityType::Backup, 3); });
+        driver.beat();
+        waitForEnd(agent);
+        driver.beat();
+        auto& window = driver.window();
+        child<QTabWidget>(window, "tabWidget").setCurrentIndex(1);
+        child<QLineEdit>(window, "editSearch").setText(QStringLiteral("errors"));
+        const int shown = driver.rows("tableActivityLog");
+        QCOMPARE(shown, 3);
+
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("rows.csv"));
+        ModalDriver modals;
+        modals.expect(QStringLiteral("file"), isDialog<QFileDialog>, [&](QWidget& dialog) {
+            child<QLineEdit>(dialog, "fileNameEdit").setText(path);
+            static_cast<QDialog&>(dialog).accept();
+        });
+        child<QPushButton>(window, "buttonExport").click();
+        QVERIFY(modals.done());
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray bytes = file.readAll();
+        QVERIFY(bytes.startsWith("\xEF\xBB\xBF"
+                                 "Type,Description,Errors,"));
+        QCOMPARE(bytes.count("\r\n"), shown + 1);
+        QVERIFY2(bytes.contains("\r\nBackup,'=1+2,3,0,"), bytes.constData());
+        static const QRegularExpression isoTime(
+            QStringLiteral(",\\d{4}-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\d(Z|[+-]\\d\\d:\\d\\d),"));
+        QVERIFY2(isoTime.match(QString::fromUtf8(bytes)).hasMatch(), bytes.constData());
+
+        auto& table = child<QTableView>(window, "tableActivityLog");
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        table.selectAll();
+        table.setFocus();
+        QGuiApplication::clipboard()->setText(QString());
+        QTest::keyClick(&table, Qt::Key_C, Qt::ControlModifier);
+        const QMimeData& copied = *QGuiApplication::clipboard()->mimeData();
+        QCOMPARE(copied.text().count(QLatin1Char('\n')), shown - 1);
+        QVERIFY(copied.text().contains(QStringLiteral("Backup\t=1+2\t3\t")));
+        QVERIFY(copied.html().contains(QStringLiteral("<td>=1+2</td>")));
     }
 
     void theEndOfARestoreStandsInTheStatusBar() {
-        GuiAgent agent(optionsOf(Scenario::Failed));
+        GuiAgent agent({.scenario = Scenario::Failed});
         MainWindowDriver driver;
         driver.logIn(agent);
         driver.window().hide();
@@ -194,7 +266,7 @@ private slots:
     }
 
     void aClickOnThatLineShowsItsEvents() {
-        GuiAgent agent(optionsOf(Scenario::Failed));
+        GuiAgent agent({.scenario = Scenario::Failed});
         MainWindowDriver driver;
         driver.logIn(agent);
         auto& bar = *driver.window().statusBar();
@@ -235,7 +307,7 @@ private slots:
     }
 
     void eventsAreSearchedByTheSetOfTheirActivity() {
-        GuiAgent agent(optionsOf(Scenario::Failed));
+        GuiAgent agent({.scenario = Scenario::Failed});
         MainWindowDriver driver;
         driver.logIn(agent);
         ModalDriver modals;
@@ -258,7 +330,7 @@ private slots:
     }
 
     void allOfItWorksByKeyboard() {
-        GuiAgent agent(optionsOf(Scenario::Generations));
+        GuiAgent agent({.scenario = Scenario::Generations});
         MainWindowDriver driver;
         driver.logIn(agent);
         auto& window = driver.window();
@@ -292,7 +364,7 @@ private slots:
     }
 
     void theProgressSaysWhenNothingMoves() {
-        GuiAgent agent(optionsOf(Scenario::Stalled));
+        GuiAgent agent({.scenario = Scenario::Stalled});
         MainWindowDriver driver;
         driver.logIn(agent);
         driver.beat();
@@ -308,7 +380,7 @@ private slots:
     }
 
     void aFoundFileIsRestoredTicked() {
-        GuiAgent agent(optionsOf(Scenario::Generations));
+        GuiAgent agent({.scenario = Scenario::Generations});
         MainWindowDriver driver;
         driver.logIn(agent);
         driver.trigger("actionFind_File");

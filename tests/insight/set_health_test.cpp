@@ -108,6 +108,24 @@ TEST_F(SetHealthTest, OverdueBeyondTwoIntervals) {
     EXPECT_EQ(judged().reason, HealthReason::isTooOld);
 }
 
+TEST_F(SetHealthTest, ExactlyTwoIntervalsAreNotOverdue) {
+    const auto stateWithAge = [this](std::int64_t age) {
+        backedUpAt(now - age);
+        // So patient an agent misses no start.
+        return insight::judge(facts, {now, 100, QTimeZone::utc()}).state;
+    };
+    EXPECT_EQ(stateWithAge(2 * day), HealthState::Safe);
+    EXPECT_EQ(stateWithAge(2 * day + 1), HealthState::Overdue);
+}
+
+TEST_F(SetHealthTest, ABackupThatTakesLongMissesNoStart) {
+    now = at("2026-11-22T02:00:00Z");
+    EXPECT_EQ(judged().reason, HealthReason::missedStart);
+    facts.isRunning = true;
+    EXPECT_EQ(state(), HealthState::Running);
+    EXPECT_FALSE(insight::needsAttention(judged()));
+}
+
 TEST_F(SetHealthTest, OverdueWhenTheLastStartWasMissed) {
     backedUpAt(at("2026-11-20T20:00:00Z"));
     // The start of the 21st, and four hours to make up for it.

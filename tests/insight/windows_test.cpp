@@ -21,6 +21,7 @@
 #include "tests/support/gui_agent.h"
 #include "tests/support/gui_modal_driver.h"
 #include "ui/branding_resources.h"
+#include "ui/size_text.h"
 #include "wizards/select_generation_dlg.h"
 
 Q_DECLARE_METATYPE(std::optional<std::int32_t>)
@@ -35,11 +36,7 @@ constexpr int patience = 60'000;
 /// An agent that the client is logged in to.
 struct Session {
     explicit Session(Scenario scenario)
-        : agent([scenario] {
-            simulator::Options options;
-            options.scenario = scenario;
-            return options;
-        }()) {
+        : agent({.scenario = scenario}) {
         session::connectToAgent("127.0.0.1:4411", "", "", 0);
         agent.clearCallLog();
     }
@@ -142,6 +139,22 @@ void InsightWindowsTest::setsStandWorstFirst() {
                  {QStringLiteral("Overdue"), QStringLiteral("Overdue"), QStringLiteral("Safe")}));
     QCOMPARE(child<QLabel>(window, "labelSummary").text(),
              QStringLiteral("2 of 5 sets need attention"));
+    const int row = column(table, BackupHealthModel::name).indexOf(name(simulator::health::old));
+    QVERIFY(cell(table, row, BackupHealthModel::lastGood).endsWith(QStringLiteral("(3 days ago)")));
+    QVERIFY(
+        cell(table, row, BackupHealthModel::lastAttempt).endsWith(QStringLiteral(": no errors")));
+    QVERIFY(!cell(table, row, BackupHealthModel::nextRun).isEmpty());
+    hessiancln::backup_set_info info;
+    session.agent.withWorld([&info](simulator::World& world) {
+        info = world.setNamed(std::string(simulator::health::old))->info;
+    });
+    QCOMPARE(cell(table, row, BackupHealthModel::storedSize),
+             ui::sizeToString(static_cast<double>(info.tarnsys_compressed_size)));
+    QCOMPARE(cell(table, row, BackupHealthModel::generations), QStringLiteral("1 to 30"));
+    QCOMPARE(cell(table, row, BackupHealthModel::owner), QString::fromStdString(info.owner_name));
+    const int byHand =
+        column(table, BackupHealthModel::name).indexOf(name(simulator::health::unscheduled));
+    QCOMPARE(cell(table, byHand, BackupHealthModel::nextRun), QStringLiteral("Not scheduled"));
     QVERIFY(child<QLabel>(window, "labelHelp").text().contains(QStringLiteral("scheduled time")));
 }
 
