@@ -2,10 +2,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "app/backup_set_list.h"
 
+#include <algorithm>
+#include <utility>
+
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QTableView>
 
 #include "api/client_connection.h"
@@ -16,6 +20,9 @@ namespace app {
 namespace {
 
 constexpr std::int32_t noSet = -1;
+constexpr int noRow = -1;
+/// Above and below what is seen, so that a turn of the wheel finds them made.
+constexpr int rowsNear = 20;
 
 bool holdsOtherThanFiles(const hessiancln::backup_set_info& set) {
     return set.data_type != hessiancln::BackupDataType::FileSystem;
@@ -35,7 +42,10 @@ BackupSetList::BackupSetList(QTableView& view, Source source, BackupSetViewItem:
     view_.setModel(&rows_);
     connect(view_.selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &BackupSetList::followSelection);
+    connect(view_.verticalScrollBar(), &QScrollBar::valueChanged, this,
+            &BackupSetList::addCardsNearView);
     view_.installEventFilter(this);
+    view_.viewport()->installEventFilter(this);
 }
 
 bool BackupSetList::rebuild() {
@@ -47,16 +57,14 @@ bool BackupSetList::rebuild() {
     std::erase_if(sets, holdsOtherThanFiles);
     std::int32_t idToSelect = selectedId();
     const QScopedValueRollback<bool> rebuilding(rebuilding_, true);
-    const int count = static_cast<int>(sets.size());
-    setCount(count);
-    for (int row = 0; row < count; ++row) {
-        const auto& set = sets[static_cast<std::size_t>(row)];
-        cardAt(row)->setRecord(set);
-        if (pendingId_ == set.id) {
-            idToSelect = set.id;
+    show(std::move(sets));
+    for (int row = 0; row < count(); ++row) {
+        const std::int32_t id = rows_.set(row).id;
+        if (pendingId_ == id) {
+            idToSelect = id;
             pendingId_ = noSet;
         }
-        if (idToSelect == set.id)
+        if (idToSelect == id)
             select(row);
     }
     return true;
@@ -82,46 +90,67 @@ bool BackupSetList::selectSet(std::int32_t setId) {
 void BackupSetList::clear() {
     abandonEditing();
     view_.clearSelection();
-    setCount(0);
+    show({});
     known_ = false;
 }
 
-void BackupSetList::setCount(int count) {
-    const int before = rows_.rowCount();
-    for (int row = count; row < before; ++row)
-        cardAt(row)->abandonEditing();
-    if (count < before)
-        rows_.removeRows(count, before - count);
-    else if (count > before)
-        rows_.insertRows(before, count - before);
-    for (int row = before; row < count; ++row)
-        addCard(row);
+void BackupSetList::show(std::vector<hessiancln::backup_set_info> sets) {
+    for (int row = static_cast<int>(sets.size()); row < count(); ++row)
+        if (BackupSetViewItem* card = cardAt(row))
+            card->abandonEditing();
+    rows_.setSets(std::move(sets));
+    for (int row = 0; row < count(); ++row)
+        if (BackupSetViewItem* card = cardAt(row))
+            card->setRecord(rows_.set(row));
+    addCardsNearView();
 }
 
-void BackupSetList::addCard(int row) {
+void BackupSetList::addCardsNearView() {
+    if (count() == 0)
+        return;
+    // Behind the last row there is nothing.
+    const int last = view_.rowAt(view_.viewport()->height() - 1);
+    const int from = std::max(view_.rowAt(0), 0) - rowsNear;
+    const int to = (last < 0 ? count() - 1 : last) + rowsNear;
+    for (int row = std::max(from, 0); row <= std::min(to, count() - 1); ++row)
+        needCard(row);
+}
+
+BackupSetViewItem& BackupSetList::needCard(int row) {
+    if (BackupSetViewItem* card = cardAt(row))
+        return *card;
     auto* card = new BackupSetViewItem(&view_, rename_);
-    view_.setIndexWidget(rows_.index(row), card);
+    card->setRecord(rows_.set(row));
+    const QModelIndex index = rows_.index(row);
+    card->setSelected(view_.selectionModel()->isSelected(index));
+    view_.setIndexWidget(index, card);
     connect(card, &BackupSetViewItem::contextMenuNeedsDisplay, this,
             &BackupSetList::contextMenuNeedsDisplay);
+    return *card;
 }
 
 BackupSetViewItem* BackupSetList::cardAt(int row) const {
     return qobject_cast<BackupSetViewItem*>(view_.indexWidget(rows_.index(row)));
 }
 
-BackupSetViewItem* BackupSetList::selectedCard() const {
+int BackupSetList::selectedRow() const {
     const QModelIndexList rows = view_.selectionModel()->selectedRows();
-    return rows.isEmpty() ? nullptr : cardAt(rows.first().row());
+    return rows.isEmpty() ? noRow : rows.first().row();
+}
+
+BackupSetViewItem* BackupSetList::selectedCard() const {
+    const int row = selectedRow();
+    return row == noRow ? nullptr : cardAt(row);
 }
 
 std::int32_t BackupSetList::selectedId() const {
-    const BackupSetViewItem* card = selectedCard();
-    return card ? card->record().id : noSet;
+    const int row = selectedRow();
+    return row == noRow ? noSet : rows_.set(row).id;
 }
 
 void BackupSetList::select(int row) {
     const QModelIndex index = rows_.index(row);
-    cardAt(row)->setSelected(true);
+    needCard(row).setSelected(true);
     view_.selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect |
                                                        QItemSelectionModel::Rows);
     view_.scrollTo(index);
@@ -136,6 +165,8 @@ bool BackupSetList::eventFilter(QObject* watched, QEvent* event) {
             showContextMenu(*card);
         return true;
     }
+    if (watched == view_.viewport() && event->type() == QEvent::Resize)
+        addCardsNearView();
     return QObject::eventFilter(watched, event);
 }
 
@@ -165,14 +196,17 @@ void BackupSetList::showContextMenu(BackupSetViewItem& card) {
 }
 
 void BackupSetList::abandonEditing() {
-    for (int row = 0; row < rows_.rowCount(); ++row)
-        cardAt(row)->abandonEditing();
+    for (int row = 0; row < count(); ++row)
+        if (BackupSetViewItem* card = cardAt(row))
+            card->abandonEditing();
 }
 
 void BackupSetList::mark(const QItemSelection& rows, bool selected) {
     for (const QModelIndex& index : rows.indexes())
-        if (BackupSetViewItem* card = cardAt(index.row()))
-            card->setSelected(selected);
+        if (selected)
+            needCard(index.row()).setSelected(true);
+        else if (BackupSetViewItem* card = cardAt(index.row()))
+            card->setSelected(false);
 }
 
 void BackupSetList::followSelection(const QItemSelection& selected,

@@ -8,8 +8,8 @@
 
 #include <QItemSelection>
 #include <QObject>
-#include <QStringListModel>
 
+#include "app/backup_set_rows.h"
 #include "app/backup_set_view_item.h"
 
 class QKeyEvent;
@@ -18,9 +18,9 @@ class QTableView;
 namespace app {
 
 /// The cards of the agent's file sets in a table view: a row each, in the agent's order. Sets of
-/// anything else aren't listed. A row keeps its card from one rebuild to the next, and the
-/// selection stays with its set. F2 renames the selected set; the menu key and Shift+F10 ask for
-/// its context menu.
+/// anything else aren't listed. A row gets its card when it comes near the part of the view that is
+/// seen, and keeps it from one rebuild to the next; the selection stays with its set. F2 renames
+/// the selected set; the menu key and Shift+F10 ask for its context menu.
 class BackupSetList : public QObject {
     Q_OBJECT
 public:
@@ -62,9 +62,13 @@ signals:
 private:
     bool keyPressed(const QKeyEvent& key);
     void showContextMenu(BackupSetViewItem& card);
-    void setCount(int count);
-    void addCard(int row);
-    BackupSetViewItem* cardAt(int row) const;
+    void show(std::vector<hessiancln::backup_set_info> sets);
+    /// Makes the cards that are missing in and around the part of the view that is seen.
+    void addCardsNearView();
+    /// Makes the card if there is none yet.
+    BackupSetViewItem& needCard(int row);
+    BackupSetViewItem* cardAt(int row) const; ///< null if there is none yet
+    int selectedRow() const;                  ///< -1 if none is selected
     std::int32_t selectedId() const;
     void select(int row);
     void mark(const QItemSelection& rows, bool selected);
@@ -73,7 +77,7 @@ private:
     QTableView& view_;
     Source source_;
     BackupSetViewItem::Rename rename_;
-    QStringListModel rows_; ///< a row for each card, which shows everything itself
+    BackupSetRows rows_;
     std::int32_t pendingId_;
     bool known_ = false; ///< what the agent has
     bool rebuilding_ = false;

@@ -39,6 +39,9 @@ LoginCheck::LoginCheck(QWidget* parent)
     const QStringList domains = session::readDomainList("127.0.0.1");
     if (!domains.isEmpty())
         addDomains(domains);
+    // A form that did so would do it before the group has its fields, which a screen reader that is
+    // there would then take for empty space.
+    ui_->groupLoginInfo->setEnabled(false);
     if (!session::integratedLogonAvailable())
         withoutIntegratedLogon();
     // Last, since a disabled field doesn't take the focus.

@@ -9,6 +9,7 @@
 
 #include "session/secret_text.h"
 #include "session/text.h"
+#include "ui/masked_announcements.h"
 
 namespace ui {
 
@@ -31,6 +32,7 @@ private:
 
 SecretField::SecretField(QWidget* parent)
     : QLineEdit(parent) {
+    maskAnnouncements();
     replace(QString());
 }
 

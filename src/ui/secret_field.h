@@ -9,8 +9,8 @@
 namespace ui {
 
 /// A field for a password, a key or a code, which wipes what it held when it is emptied, filled
-/// again or goes. Qt announces to screen readers what a program does to a text, even if the field
-/// hides it; the functions of this class announce nothing.
+/// again or goes. To screen readers it announces what a user types in the characters that it shows,
+/// and nothing of what the functions of this class do.
 ///
 /// Qt notes each edit for an undo. This field gives the notes their room beforehand and writes over
 /// them, up to `roomForEdits` edits. What stays behind is named in CONTRIBUTING.md.

@@ -42,6 +42,9 @@ DeleteSelectPage::~DeleteSelectPage() = default;
 
 void DeleteSelectPage::setUpFilter() {
     using Page = DeleteSelectPage;
+    // A form that did so would do it before the group has its fields, which a screen reader that is
+    // there would then take for empty space. Each field goes with its own check box, too.
+    ui_->groupFilter->setChecked(false);
     connect(ui_->groupFilter, &QGroupBox::toggled, this, &Page::toggleFiltering);
     connect(ui_->checkFrom, &QCheckBox::toggled, this, &Page::toggleFrom);
     connect(ui_->checkTo, &QCheckBox::toggled, this, &Page::toggleTo);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <stdexcept>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QHeaderView>
@@ -62,7 +63,8 @@ struct ShownList {
     QList<int> highlighted() {
         QList<int> found;
         for (int row = 0; row < list.count(); ++row)
-            if (card(row).backgroundRole() == QPalette::Highlight)
+            if (view.indexWidget(view.model()->index(row, 0)) &&
+                card(row).backgroundRole() == QPalette::Highlight)
                 found << card(row).record().id;
         return found;
     }
@@ -112,6 +114,64 @@ private slots:
         shown.rebuildWith({7, 8, 9});
         QCOMPARE(&shown.card(0), card);
         QCOMPARE(shown.ids(), (QList<int>{7, 8, 9}));
+    }
+
+    void onlyWhatIsNearTheViewHasACard() {
+        ShownList shown;
+        for (std::int32_t id = 0; id < 500; ++id)
+            shown.sets.push_back(fileSet(id));
+        QVERIFY(shown.list.rebuild());
+        const auto cardAt = [&shown](int row) {
+            return qobject_cast<BackupSetViewItem*>(
+                shown.view.indexWidget(shown.view.model()->index(row, 0)));
+        };
+        QCOMPARE(shown.list.count(), 500);
+        QVERIFY(shown.view.findChildren<BackupSetViewItem*>().size() < 50);
+        QVERIFY(cardAt(0) && cardAt(10) && !cardAt(200));
+        QCoreApplication::processEvents(); // the view learns how far it scrolls
+        shown.view.scrollTo(shown.view.model()->index(200, 0));
+        QVERIFY(cardAt(200) && cardAt(200)->record().id == 200);
+        QVERIFY(!cardAt(400));
+        shown.view.selectRow(450);
+        QCOMPARE(shown.selectedId(), 450);
+        QCOMPARE(shown.highlighted().size(), 1);
+    }
+
+    void cardsComeWithALargerView() {
+        ShownList shown;
+        for (std::int32_t id = 0; id < 100; ++id)
+            shown.sets.push_back(fileSet(id));
+        QVERIFY(shown.list.rebuild());
+        QVERIFY(!shown.view.indexWidget(shown.view.model()->index(50, 0)));
+        shown.view.resize(500, 60 * 70);
+        QTRY_VERIFY(shown.view.indexWidget(shown.view.model()->index(50, 0)));
+    }
+
+    void rowsTellTheirSetInWords() {
+        ShownList shown;
+        shown.sets = {fileSet(1), fileSet(2), fileSet(3)};
+        for (backup_set_info& set : shown.sets)
+            set.computer = "desk";
+        shown.sets[1].in_sync = false;
+        shown.sets[2].has_items = false;
+        shown.sets[2].is_created_by_policy = true;
+        QVERIFY(shown.list.rebuild());
+        const auto* table = QAccessible::queryAccessibleInterface(&shown.view)->tableInterface();
+        const auto told = [table](int row) {
+            return const_cast<QAccessibleTableInterface*>(table)->cellAt(row, 0)->text(
+                QAccessible::Name);
+        };
+        QCOMPARE(told(0), QStringLiteral("Set 1, Backup of: desk, In sync"));
+        QCOMPARE(told(1), QStringLiteral("Set 2, Backup of: desk, Not in sync"));
+        QCOMPARE(told(2), QStringLiteral("Set 3, Backup of: desk, Recovered, needs editing, "
+                                         "Created by a policy"));
+        const QSignalSpy changes(shown.view.model(), &QAbstractItemModel::dataChanged);
+        shown.sets[1].in_sync = true;
+        QVERIFY(shown.list.rebuild());
+        QCOMPARE(changes.count(), 1);
+        QCOMPARE(told(1), QStringLiteral("Set 2, Backup of: desk, In sync"));
+        // The cards cover the rows.
+        QCOMPARE(shown.view.model()->index(0, 0).data(), QVariant());
     }
 
     void theUsersSelectionIsMarkedAndReported() {

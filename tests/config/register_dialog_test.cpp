@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
+#include <QAccessible>
+
 #include "config/register_dlg.h"
 #include "resources/pictures.h"
 #include "simulator/world/world.h"
@@ -78,6 +80,10 @@ void RegisterDialogTest::registeringAgainReplacesItsStatus() {
     expectRegister([](QWidget& dialog) {
         press(dialog, "btnRegister");
         QCOMPARE(label(dialog, "labStatus"), q("Out of order."));
+        // A screen reader says the same.
+        QCOMPARE(QAccessible::queryAccessibleInterface(&child<QLabel>(dialog, "labStatus"))
+                     ->text(QAccessible::Name),
+                 q("Out of order."));
         QVERIFY(dialog.isVisible());
         press(dialog, "btnRegister");
         QCOMPARE(label(dialog, "labStatus"),

@@ -9,6 +9,7 @@
 
 #include "tests/tour/catalogue.h"
 #include "tests/tour/defects.h"
+#include "tests/tour/reader_defects.h"
 
 namespace tour {
 
@@ -64,7 +65,7 @@ void Album::take(QWidget& shown, const char* screen) {
     boxTexts_ << textsOf(shown);
     titles_[name] = shown.windowTitle();
     seenTexts_[name] = tour::seenTexts(shown);
-    for (const QString& defect : defectsOf(shown))
+    for (const QString& defect : defectsOf(shown) + readerDefectsOf(shown))
         defects_ << name + QStringLiteral(": ") + defect;
     // What comes late has come then, and is on the picture.
     if (folder_)

@@ -7,8 +7,10 @@
 #include <QRegularExpression>
 #include <QSet>
 #include <QTest>
+#include <QXmlStreamReader>
 
 #include "resources/pictures.h"
+#include "tests/support/gui_screen_reader.h"
 #include "tests/support/gui_translation.h"
 #include "tests/tour/album.h"
 #include "tests/tour/catalogue.h"
@@ -154,6 +156,38 @@ bool isTranslated(const tour::SeenText& seen) {
            isAmong(agentsWords, seen.owner);
 }
 
+/// The widgets of a form that are switched off, by themselves or by the box in their title, and
+/// hold others.
+QStringList containersSwitchedOff(const QString& form) {
+    struct Widget {
+        QString name;
+        bool isOff = false;
+        bool holdsOthers = false;
+    };
+    QStringList found;
+    QList<Widget> open{{}};
+    QXmlStreamReader xml(form);
+    while (!xml.atEnd()) {
+        xml.readNext();
+        const bool isWidget = xml.name() == QLatin1String("widget");
+        const QString name = xml.attributes().value(q("name")).toString();
+        if (xml.isStartElement() && isWidget) {
+            open.last().holdsOthers = true;
+            open.append({name});
+        } else if (xml.isStartElement() && (name == q("enabled") || name == q("checked"))) {
+            xml.readNextStartElement();
+            open.last().isOff |= xml.readElementText() == q("false");
+        } else if (xml.isEndElement() && isWidget) {
+            const Widget widget = open.takeLast();
+            if (widget.isOff && widget.holdsOthers)
+                found << widget.name;
+        }
+    }
+    if (xml.hasError())
+        qFatal("%s", qPrintable(xml.errorString()));
+    return found;
+}
+
 void checkAllIsTaken(const tour::Album& album) {
     for (const QString& screen : album.missing())
         QTest::qFail(qPrintable(screen + q(" has no picture")), __FILE__, __LINE__);
@@ -179,11 +213,13 @@ private slots:
     void inEachLanguage();
     void inAPseudoLanguage();
     void everyFormHasAChapter();
+    void noFormDisablesWhatIsStillEmpty();
     void everyBoxIsTaken();
     void thePageListsTheFormOfEachScreen();
     void thePageShowsEveryScreen();
 
 private:
+    support::ScreenReader reader_; ///< looks at all, as early as one does
     QStringList boxTexts_;
 };
 
@@ -240,6 +276,18 @@ void TourTest::everyFormHasAChapter() {
     forms.sort();
     chapters.sort();
     QCOMPARE(chapters, forms);
+}
+
+/// A widget that is made in a disabled one says so, to a screen reader that is there, before it is
+/// what it will be.
+void TourTest::noFormDisablesWhatIsStillEmpty() {
+    QCOMPARE(containersSwitchedOff(
+                 q("<widget name='box'><property name='checked'><bool>false</bool></property>"
+                   "<widget name='field'><property name='enabled'><bool>false</bool></property>"
+                   "</widget></widget>")),
+             QStringList{q("box")});
+    for (const QString& path : sourcesEndingIn("*.ui"))
+        QCOMPARE(path + containersSwitchedOff(contentOf(path)).join(QLatin1Char(' ')), path);
 }
 
 void TourTest::everyBoxIsTaken() {

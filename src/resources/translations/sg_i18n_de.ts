@@ -425,6 +425,29 @@ rechts neu einrichten.</translation>
     </message>
 </context>
 <context>
+    <name>app::BackupSetRows</name>
+    <message>
+        <source>Backup of: %1</source>
+        <translation>Sicherung von: %1</translation>
+    </message>
+    <message>
+        <source>Not in sync</source>
+        <translation>Nicht synchron</translation>
+    </message>
+    <message>
+        <source>Recovered, needs editing</source>
+        <translation>Gerettet, muss bearbeitet werden</translation>
+    </message>
+    <message>
+        <source>In sync</source>
+        <translation>Synchron</translation>
+    </message>
+    <message>
+        <source>Created by a policy</source>
+        <translation>Durch eine Richtlinie angelegt</translation>
+    </message>
+</context>
+<context>
     <name>CComputerTreeItem</name>
     <message>
         <source>Failed to expand &apos;%1&apos;</source>
@@ -3123,10 +3146,6 @@ Möchten Sie die Datenbank wirklich aus der Cloud retten?</translation>
     <message>
         <source>&amp;Re-Register</source>
         <translation>&amp;Neu registrieren</translation>
-    </message>
-    <message>
-        <source>Status of the registration</source>
-        <translation>Stand der Registrierung</translation>
     </message>
     <message>
         <source>&amp;Close</source>

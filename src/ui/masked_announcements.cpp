@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "ui/masked_announcements.h"
+
+#include <QAccessible>
+#include <QStyle>
+
+#include "ui/secret_field.h"
+
+namespace ui {
+
+namespace {
+
+/// What was there before. Null: Qt's own way to the screen reader.
+QAccessible::UpdateHandler next = nullptr;
+
+void announceMasked(QAccessibleEvent* event);
+
+void passOn(QAccessibleEvent& event) {
+    // Qt names no way to its own announcements but to have no handler for the time.
+    QAccessible::installUpdateHandler(next);
+    QAccessible::updateAccessibility(&event);
+    QAccessible::installUpdateHandler(announceMasked);
+}
+
+const SecretField* hidingField(const QAccessibleEvent& event) {
+    const auto* field = qobject_cast<SecretField*>(event.object());
+    return field && field->echoMode() != QLineEdit::Normal ? field : nullptr;
+}
+
+/// As many of the characters in which the field shows a text as the text has; none, if it shows
+/// nothing.
+QString mask(const SecretField& field, const QString& text) {
+    if (field.echoMode() == QLineEdit::NoEcho)
+        return {};
+    const int character =
+        field.style()->styleHint(QStyle::SH_LineEdit_PasswordCharacter, nullptr, &field);
+    return QString(text.size(), QChar(character));
+}
+
+void announceMasked(QAccessibleEvent* event) {
+    const SecretField* field = hidingField(*event);
+    if (!field)
+        return passOn(*event);
+    QObject* object = event->object();
+    switch (event->type()) {
+    case QAccessible::TextInserted: {
+        const auto& told = static_cast<const QAccessibleTextInsertEvent&>(*event);
+        QAccessibleTextInsertEvent masked(object, told.changePosition(),
+                                          mask(*field, told.textInserted()));
+        masked.setCursorPosition(told.cursorPosition());
+        return passOn(masked);
+    }
+    case QAccessible::TextRemoved: {
+        const auto& told = static_cast<const QAccessibleTextRemoveEvent&>(*event);
+        QAccessibleTextRemoveEvent masked(object, told.changePosition(),
+                                          mask(*field, told.textRemoved()));
+        masked.setCursorPosition(told.cursorPosition());
+        return passOn(masked);
+    }
+    case QAccessible::TextUpdated: {
+        const auto& told = static_cast<const QAccessibleTextUpdateEvent&>(*event);
+        QAccessibleTextUpdateEvent masked(object, told.changePosition(),
+                                          mask(*field, told.textRemoved()),
+                                          mask(*field, told.textInserted()));
+        masked.setCursorPosition(told.cursorPosition());
+        return passOn(masked);
+    }
+    case QAccessible::ValueChanged: {
+        const QVariant value = static_cast<const QAccessibleValueChangeEvent&>(*event).value();
+        QAccessibleValueChangeEvent masked(object, mask(*field, value.toString()));
+        return passOn(masked);
+    }
+    default:
+        passOn(*event);
+    }
+}
+
+} // namespace
+
+void maskAnnouncements() {
+    const QAccessible::UpdateHandler before = QAccessible::installUpdateHandler(announceMasked);
+    if (before != announceMasked)
+        next = before;
+}
+
+} // namespace ui

@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include <QApplication>
+#include <QClipboard>
+#include <QtTest>
+
+#include "tests/support/gui_screen_reader.h"
+#include "ui/secret_field.h"
+
+namespace {
+
+QString q(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+/// The texts that have a letter or a digit of what the field holds.
+QStringList lettersIn(const QStringList& texts) {
+    return texts.filter(QRegularExpression(q("[a-z0-9]")));
+}
+
+struct ShownField {
+    explicit ShownField(QLineEdit& field)
+        : field(field) {
+        field.setEchoMode(QLineEdit::Password);
+        field.show();
+        if (!QTest::qWaitForWindowActive(&field))
+            qFatal("The field doesn't become active");
+        field.setFocus();
+    }
+    QLineEdit& field;
+};
+
+void editInEveryWay(QLineEdit& field) {
+    QTest::keyClicks(&field, q("secret"));
+    QTest::keyClick(&field, Qt::Key_Backspace);
+    QGuiApplication::clipboard()->setText(q("pasted"));
+    field.paste();
+    field.selectAll();
+    QTest::keyClick(&field, Qt::Key_X);
+    field.undo();
+    field.clear();
+}
+
+} // namespace
+
+class SecretFieldTest : public QObject {
+    Q_OBJECT
+private slots:
+    void aPlainFieldIsHeard() {
+        const support::ScreenReader reader;
+        QLineEdit field;
+        const ShownField shown(field);
+        editInEveryWay(field);
+        QVERIFY(lettersIn(reader.heard()).size() > 5);
+    }
+
+    void whatIsTypedIsHeardMasked() {
+        support::ScreenReader reader;
+        ui::SecretField field;
+        const ShownField shown(field);
+        QTest::keyClick(&field, Qt::Key_S);
+        QCOMPARE(reader.heard(), QStringList{field.displayText()});
+        editInEveryWay(field);
+        QCOMPARE(lettersIn(reader.heard()), QStringList());
+        QVERIFY(reader.heard().size() > 5);
+    }
+
+    void whatWasStoredIsNotHeardAsItGoes() {
+        support::ScreenReader reader;
+        ui::SecretField field;
+        const ShownField shown(field);
+        field.setSecret("stored");
+        QCOMPARE(lettersIn(reader.heard()), QStringList());
+        field.selectAll();
+        QTest::keyClick(&field, Qt::Key_N);
+        QCOMPARE(lettersIn(reader.heard()), QStringList());
+        QCOMPARE(field.text(), q("n"));
+        field.wipe();
+        QCOMPARE(lettersIn(reader.heard()), QStringList());
+    }
+
+    void otherFieldsAreHeardAsBefore() {
+        support::ScreenReader reader;
+        const ui::SecretField secret;
+        QLineEdit name;
+        const ShownField shown(name);
+        name.setEchoMode(QLineEdit::Normal);
+        reader.forget();
+        QTest::keyClick(&name, Qt::Key_A);
+        QCOMPARE(reader.heard(), QStringList{q("a")});
+    }
+};
+
+QTEST_MAIN(SecretFieldTest)
+#include "secret_field_test.moc"
