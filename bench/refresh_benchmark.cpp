@@ -62,7 +62,7 @@ void serveAgent(simulator::Scenario scenario, const bench::ServerProcess::Listen
 
 std::unique_ptr<RefreshedWindow> largeWindow() {
     auto window = std::make_unique<RefreshedWindow>(largeAgent->port());
-    if (window->logRows() != rowCount || window->cards().size() != setCount)
+    if (window->logRows() != rowCount || window->setRows() != setCount)
         throw std::runtime_error("The window doesn't show all that the agent has");
     return window;
 }

@@ -120,6 +120,11 @@ std::size_t RefreshedWindow::logRows() const {
         child<QTableView>(window_, "tableActivityLog").model()->rowCount());
 }
 
+std::size_t RefreshedWindow::setRows() const {
+    return static_cast<std::size_t>(
+        child<QTableView>(window_, "backupSetsView").model()->rowCount());
+}
+
 std::vector<BackupSetViewItem*> RefreshedWindow::cards() const {
     const auto found = window_.findChildren<BackupSetViewItem*>();
     return {found.begin(), found.end()};

@@ -45,7 +45,7 @@ public:
     explicit RefreshedWindow(std::uint16_t port);
     ~RefreshedWindow() override;
 
-    /// What the first refresh took, which has made all cards.
+    /// What the first refresh took, which has made the cards near the view.
     double firstRefresh() const { return firstRefresh_; }
 
     /// One heartbeat, until the screen shows what it brought. Raises `std::runtime_error` if it
@@ -56,6 +56,7 @@ public:
     double decodeLog();
 
     std::size_t logRows() const;
+    std::size_t setRows() const;
     std::vector<BackupSetViewItem*> cards() const;
 
     /// Makes all cards look as they don't look on the agent.

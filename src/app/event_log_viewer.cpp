@@ -10,6 +10,7 @@
 
 #include "session/wire_time.h"
 #include "ui/branding_resources.h"
+#include "ui/empty_note.h"
 #include "ui/fitting_text_delegate.h"
 #include "ui/remote_action.h"
 #include "ui/table_columns.h"
@@ -41,6 +42,7 @@ void EventLogViewer::setUpTable() {
     table.sortByColumn(EventLogModel::time, Qt::DescendingOrder);
     ui_->searchEvents->attach(
         table, std::make_unique<insight::SearchedRecords<hessiancln::event_log_info>>(model_));
+    new ui::EmptyNote(table, [] { return tr("No events match the viewing filter."); });
 }
 
 void EventLogViewer::showFor(const QDateTime& from, const QDateTime& to, std::int32_t activityId) {

@@ -59,6 +59,8 @@ void LoginCheck::addDomains(const QStringList& domains) {
     comboDomain_->setObjectName(QStringLiteral("comboDomain"));
     labelDomain_->setBuddy(comboDomain_);
     comboDomain_->addItems(domains);
+    // The dialog is as wide as its texts want, not as any domain of the agent does.
+    comboDomain_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     comboDomain_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     ui_->formLayout->insertRow(0, labelDomain_, comboDomain_);
     retranslateDomains();

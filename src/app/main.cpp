@@ -9,6 +9,7 @@
 #include "platform/standard_streams.h"
 #include "resources/pictures.h"
 #include "session/connection.h"
+#include "ui/screen_fit.h"
 
 namespace {
 
@@ -44,6 +45,7 @@ int main(int argc, char** argv) {
     QtSingleApplication application(argc, argv);
     QGuiApplication::setDesktopFileName(QLatin1String(product::applicationId));
     resources::initPictures();
+    ui::keepDialogsOnScreen(application);
     app::applyStyleSheet(application);
     if (application.sendMessage(QString(), answerTime))
         return 0;

@@ -19,6 +19,7 @@
 #include "app/tray_presence.h"
 #include "session/process_values.h"
 #include "ui/branding_resources.h"
+#include "ui/screen_fit.h"
 #include "ui_simple_gui_main_window.h"
 
 namespace {
@@ -44,6 +45,7 @@ SimpleGUIMainWindow::SimpleGUIMainWindow(QWidget* parent, std::unique_ptr<app::T
     , heartbeat_(*this) {
     ui_->setupUi(this);
     ui_->pageProperties->resize(ui_->pageProperties->layout()->sizeHint());
+    ui::letContentScroll(*ui_->pageProperties);
     setUpBranding();
     setUpToolBars();
     setUpActivities();

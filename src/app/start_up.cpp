@@ -8,6 +8,7 @@
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
+#include <QSettings>
 #include <QTextStream>
 #include <QThread>
 #include <QTimer>
@@ -18,6 +19,7 @@
 #include "app/simple_gui_main_window.h"
 #include "session/connection.h"
 #include "ui/error_box.h"
+#include "ui/screen_fit.h"
 
 namespace {
 
@@ -36,6 +38,9 @@ void prepareToolkit() {
     // 150 % is 150 %: rounded to 200 % the window doesn't fit the screen.
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    // Qt's file dialog would keep the last folders in the user's home. Nothing can be written below
+    // what is no folder.
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
     // On X11 Qt looks for OpenGL, which takes time and memory and isn't used here.
     if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION"))
         qputenv("QT_XCB_GL_INTEGRATION", "none");
@@ -78,6 +83,7 @@ void applyStyleSheet(QApplication& application) {
 }
 
 void showAtOnce(QWidget& window) {
+    ui::keepOnScreen(window);
     window.show();
     const QDeadlineTimer deadline(timeToAppear);
     while (!window.windowHandle()->isExposed() && !deadline.hasExpired()) {

@@ -14,7 +14,7 @@ class SimpleGUIMainWindow;
 namespace app {
 
 /// Sets what Qt reads while the application object is made: style, scaling by any factor, and no
-/// search for OpenGL.
+/// search for OpenGL. The toolkit's own dialogs keep no settings.
 void prepareToolkit();
 
 /// The language code behind the first "--lang". Empty for the built-in English: when there is no
@@ -33,8 +33,9 @@ void installTranslation(QApplication& application, const QString& language);
 /// Takes "tarnmobile.css" from the current directory as the style sheet, if there is one.
 void applyStyleSheet(QApplication& application);
 
-/// Shows `window` and returns when it has been painted, or after half a second where nobody lets it
-/// appear. What follows may block for as long as an agent stays silent. Input has to wait.
+/// Shows `window`, no larger than its screen, and returns when it has been painted, or after half a
+/// second where nobody lets it appear. What follows may block for as long as an agent stays silent.
+/// Input has to wait.
 void showAtOnce(QWidget& window);
 
 /// Tries the agent on this machine first, and asks the user if that gave no session. Without one

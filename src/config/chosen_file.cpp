@@ -3,14 +3,75 @@
 #include "config/chosen_file.h"
 
 #include <algorithm>
+#include <stdexcept>
+#include <string>
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QTextCodec>
+
+#include "base/secret.h"
+#include "session/text.h"
 
 namespace config {
+
+namespace {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(ChosenFile)
+};
+
+[[noreturn]] void refuse(const QString& why, const QFile& file) {
+    throw std::runtime_error(session::toWire(why.arg(file.fileName())));
+}
+
+qint64 longestLineIn(QFile& file) {
+    std::string block(4096, '\0');
+    const base::WipedAtEnd blockGuard(block);
+    qint64 longest = 0;
+    qint64 line = 0;
+    for (qint64 size = 0; (size = file.read(block.data(), static_cast<qint64>(block.size()))) > 0;)
+        for (const char byte : std::string_view(block.data(), static_cast<std::size_t>(size))) {
+            longest = std::max(longest, ++line);
+            if (byte == '\n')
+                line = 0;
+        }
+    return longest;
+}
+
+} // namespace
 
 QString firstFileEndingIn(QLatin1String ending, const QStringList& names) {
     const auto found = std::find_if(names.begin(), names.end(), [ending](const QString& name) {
         return name.endsWith(ending, Qt::CaseInsensitive);
     });
     return found == names.end() ? QString() : *found;
+}
+
+bool openChosen(QFile& file, QIODevice::OpenMode mode) {
+    // Before it is opened: that alone takes for ever for a pipe which nobody writes to.
+    const QFileInfo info(file.fileName());
+    if (info.exists() && !info.isFile())
+        refuse(Texts::tr("\"%1\" is not a regular file."), file);
+    if (!file.open(QIODevice::ReadOnly | mode))
+        return false;
+    if (file.size() > largestChosenFile)
+        refuse(Texts::tr("\"%1\" is larger than 1 MiB."), file);
+    if (longestLineIn(file) > longestLine)
+        refuse(Texts::tr("\"%1\" has a line of more than 64 KiB."), file);
+    return file.seek(0);
+}
+
+bool isUtf8(std::string_view bytes) {
+    QTextCodec::ConverterState state;
+    const QString text = QTextCodec::codecForName("UTF-8")->toUnicode(
+        bytes.data(), static_cast<int>(bytes.size()), &state);
+    return state.invalidChars == 0 && state.remainingChars == 0;
+}
+
+QString textOfLine(std::string_view bytes) {
+    return isUtf8(bytes) ? session::fromWire(bytes)
+                         : QString::fromLatin1(bytes.data(), static_cast<int>(bytes.size()));
 }
 
 } // namespace config

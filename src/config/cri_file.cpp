@@ -18,7 +18,7 @@ namespace config {
 
 namespace {
 
-constexpr auto longestLine = static_cast<std::size_t>(longestCriLine) - 1; // with its end
+constexpr auto roomForLine = static_cast<std::size_t>(longestLine) - 1; // without its end
 
 struct NamedKey {
     QLatin1String name;
@@ -36,13 +36,23 @@ const NamedKey keys[] = {
     {QLatin1String("AccEncKey"), CriKey::accountKey},
 };
 
-void takeLine(const std::string& bytes, const std::function<void(const CriEntry&)>& take) {
-    QString line = session::fromWire(bytes);
+bool isBlank(const QString& line) {
+    return std::all_of(line.begin(), line.end(), [](QChar letter) { return letter.isSpace(); });
+}
+
+void takeLine(const std::string& bytes, const std::function<bool(const CriEntry&)>& take,
+              LinesRead& lines) {
+    QString line = textOfLine(bytes);
     const auto lineGuard = qScopeGuard([&line] { session::wipe(line); });
-    if (auto entry = criEntryOf(line)) {
-        const auto valueGuard = qScopeGuard([&entry] { session::wipe(entry->value); });
-        take(*entry);
-    }
+    auto entry = criEntryOf(line);
+    const auto valueGuard = qScopeGuard([&entry] {
+        if (entry)
+            session::wipe(entry->value);
+    });
+    if (entry && take(*entry))
+        ++lines.taken;
+    else if (!isBlank(line))
+        ++lines.skipped;
 }
 
 } // namespace
@@ -58,18 +68,21 @@ std::optional<CriEntry> criEntryOf(const QString& line) {
     return std::nullopt;
 }
 
-void readCri(QIODevice& file, const std::function<void(const CriEntry&)>& take) {
+LinesRead readCri(QIODevice& file, const std::function<bool(const CriEntry&)>& take) {
+    LinesRead lines;
     // Read through memory of our own, which neither grows nor goes without being wiped.
     std::string block(4096, '\0');
     const base::WipedAtEnd blockGuard(block);
     std::string line;
-    line.reserve(longestLine);
+    line.reserve(roomForLine);
     const base::WipedAtEnd lineGuard(line);
     bool tooLong = false;
 
     const auto endLine = [&] {
-        if (!tooLong)
-            takeLine(line, take);
+        if (tooLong)
+            ++lines.skipped;
+        else
+            takeLine(line, take, lines);
         base::wipe(line);
         tooLong = false;
     };
@@ -78,7 +91,7 @@ void readCri(QIODevice& file, const std::function<void(const CriEntry&)>& take) 
         std::string_view rest(block.data(), static_cast<std::size_t>(std::max<qint64>(size, 0)));
         while (!rest.empty()) {
             const std::string_view part = rest.substr(0, rest.find('\n'));
-            if (line.size() + part.size() < longestLine)
+            if (line.size() + part.size() < roomForLine)
                 line += part;
             else
                 tooLong = true;
@@ -90,6 +103,7 @@ void readCri(QIODevice& file, const std::function<void(const CriEntry&)>& take) 
         }
     }
     endLine();
+    return lines;
 }
 
 QString keyTypeOfCri(const QString& number) {

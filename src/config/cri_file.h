@@ -7,10 +7,13 @@
 
 #include <QString>
 
+#include "config/chosen_file.h"
+
 class QIODevice;
 
 /// Customer registration files: what a service provider hands out for the registration of an
-/// agent. One line for each thing, its key and its value with a "=" between them, in UTF-8.
+/// agent. One line for each thing, its key and its value with a "=" between them, in UTF-8, or in
+/// Latin-1 where a line isn't UTF-8.
 namespace config {
 
 enum class CriKey {
@@ -29,15 +32,13 @@ struct CriEntry {
     QString value; ///< may be an encryption key
 };
 
-/// A line of so many bytes can't be meant, and is passed over.
-inline constexpr qint64 longestCriLine = qint64(64) * 1024;
-
 /// What a line says; none if it has no "=" or its key is unknown.
 std::optional<CriEntry> criEntryOf(const QString& line);
 
-/// Hands over what the lines say, in their order. `file` is open for reading, as text, and
+/// Hands over what the lines say, in their order, to `take`, which says whether it took it. A line
+/// that is longer than `longestLine` is passed over. `file` is open for reading, as text, and
 /// unbuffered if none of it is to stay in memory: what this function has read is wiped.
-void readCri(QIODevice& file, const std::function<void(const CriEntry&)>& take);
+LinesRead readCri(QIODevice& file, const std::function<bool(const CriEntry&)>& take);
 
 /// The name of the cipher that the number of such a file stands for: one more than on the wire.
 QString keyTypeOfCri(const QString& number);

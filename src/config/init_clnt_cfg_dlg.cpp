@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "config/init_clnt_cfg_dlg.h"
 
+#include <QDir>
 #include <QEvent>
 #include <QFile>
 #include <QFileDialog>
@@ -22,6 +23,7 @@
 #include "ui/error_box.h"
 #include "ui/message_box.h"
 #include "ui/remote_action.h"
+#include "ui/screen_fit.h"
 #include "ui/standard_buttons.h"
 #include "ui_init_clnt_cfg_dlg.h"
 
@@ -60,6 +62,7 @@ InitClntCfgDlg::InitClntCfgDlg(bool initial, QWidget* parent)
     , ui_(std::make_unique<Ui::InitClntCfgDlg>())
     , initial_(initial) {
     ui_->setupUi(this);
+    ui::letContentScroll(*this, ui_->layoutButtons);
     setWindowIcon(ui::g_branding.applicationIcon());
     addCodes();
     setTexts();
@@ -126,9 +129,11 @@ void InitClntCfgDlg::showUserInfo(const hessiancln::user_info& info) {
 
 QString InitClntCfgDlg::chooseCriFile() {
     const QString home = config::homeOfLogin(session::fromWire(session::currentUser()));
-    // One that isn't there would be taken for the name of a file.
-    QFileDialog dialog(this, tr("Please choose CRI file"),
-                       QFileInfo(home).isDir() ? home : QString(), tr("CRI Files (*.cri)"));
+    // One that isn't there would be taken for the name of a file, and nobody has the one without a
+    // name, as after an integrated logon.
+    const bool isHome = !session::currentUser().empty() && QFileInfo(home).isDir();
+    QFileDialog dialog(this, tr("Please choose CRI file"), isHome ? home : QDir::homePath(),
+                       tr("CRI Files (*.cri)"));
     dialog.setWindowIcon(ui::g_branding.applicationIcon());
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setFileMode(QFileDialog::ExistingFile);
@@ -140,12 +145,32 @@ QString InitClntCfgDlg::chooseCriFile() {
 
 void InitClntCfgDlg::on_btnBrowse_clicked() {
     QFile file(chooseCriFile());
-    if (file.fileName().isEmpty() ||
-        !file.open(QIODevice::ReadOnly | QIODevice::Text | QIODevice::Unbuffered))
+    if (!file.fileName().isEmpty())
+        ui::remoteAction(*this, tr("Configuration Error"), ui::Cursor::wait, [&] { read(file); });
+}
+
+void InitClntCfgDlg::read(QFile& file) {
+    if (!config::openChosen(file, QIODevice::Text | QIODevice::Unbuffered))
         return;
-    ui::remoteAction(*this, tr("Configuration Error"), ui::Cursor::wait, [this, &file] {
-        config::readCri(file, [this](const config::CriEntry& entry) { take(entry); });
+    const config::LinesRead lines = config::readCri(file, [this](const config::CriEntry& entry) {
+        const bool changes = mayChange(entry);
+        if (changes)
+            take(entry);
+        return changes;
     });
+    ui_->labImport->setText(
+        tr("Values taken: %1. Lines not taken: %2.").arg(lines.taken).arg(lines.skipped));
+}
+
+/// A key that the user can't change is none of a file's either.
+bool InitClntCfgDlg::mayChange(const config::CriEntry& entry) const {
+    using config::CriKey;
+    const CriKey key = entry.key;
+    if (key == CriKey::privateKeyType || key == CriKey::privateKey)
+        return ui_->grpPrivateKey->isEnabledTo(this);
+    if (key == CriKey::accountKeyType || key == CriKey::accountKey)
+        return ui_->grpAccountKey->isEnabledTo(this);
+    return true;
 }
 
 void InitClntCfgDlg::take(const config::CriEntry& entry) {

@@ -17,6 +17,8 @@ struct tarnc_reg_info;
 struct user_info;
 } // namespace hessiancln
 
+class QFile;
+
 namespace Ui {
 class InitClntCfgDlg;
 }
@@ -57,6 +59,8 @@ private:
     void showUserInfo(const hessiancln::user_info& info);
 
     QString chooseCriFile();
+    void read(QFile& file);
+    bool mayChange(const config::CriEntry& entry) const;
     void take(const config::CriEntry& entry);
 
     QStringList addresses() const;

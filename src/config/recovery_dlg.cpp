@@ -10,6 +10,7 @@
 #include "ui/branding_resources.h"
 #include "ui/message_box.h"
 #include "ui/remote_action.h"
+#include "ui/screen_fit.h"
 #include "ui/standard_buttons.h"
 #include "ui_recovery_dlg.h"
 
@@ -28,6 +29,7 @@ RecoveryDlg::RecoveryDlg(QWidget* parent)
     : QDialog(parent)
     , ui_(std::make_unique<Ui::RecoveryDlg>()) {
     ui_->setupUi(this);
+    ui::letContentScroll(*this, *ui_->buttonBox);
     setWindowIcon(ui::g_branding.applicationIcon());
     ui::setStandardButtonPictures(*this);
     // Behind the slots of the form, so that the work is done before the dialog closes.

@@ -96,10 +96,18 @@ void TFAUsersViewer::on_btnImport_clicked() {
     if (dialog.exec() != QDialog::Accepted)
         return;
     QFile file(config::firstFileEndingIn(QLatin1String(".csv"), dialog.selectedFiles()));
-    if (file.fileName().isEmpty() || !file.open(QIODevice::ReadOnly | QIODevice::Text))
+    if (!file.fileName().isEmpty())
+        ui::remoteAction(*this, tr("Configuration Error"), ui::Cursor::wait, [&] { read(file); });
+}
+
+void TFAUsersViewer::read(QFile& file) {
+    if (!config::openChosen(file, QIODevice::Text))
         return;
-    ui::remoteAction(*this, tr("Configuration Error"), ui::Cursor::wait,
-                     [&] { model_.insert(config::readUserEmails(file)); });
+    config::UserEmailList list = config::readUserEmails(file);
+    model_.insert(std::move(list.rows));
+    ui_->labImport->setText(
+        tr("Users taken: %1. Lines not taken: %2.").arg(list.lines.taken).arg(list.lines.skipped));
+    ui_->labImport->show();
 }
 
 void TFAUsersViewer::on_btnUpdate_clicked() {

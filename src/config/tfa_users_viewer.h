@@ -8,6 +8,8 @@
 
 #include "config/tfa_users_model.h"
 
+class QFile;
+
 namespace Ui {
 class TFAUsersViewer;
 }
@@ -35,6 +37,7 @@ private slots:
 private:
     void setUpTable();
     void read();
+    void read(QFile& file);
     int selectedRow() const;
     void updateEnabling();
 

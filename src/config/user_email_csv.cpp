@@ -36,14 +36,23 @@ std::optional<hessiancln::user_email> userEmailOf(const QString& line) {
                                   field(email + 1, rest)};
 }
 
-std::vector<hessiancln::user_email> readUserEmails(QIODevice& file) {
-    QTextStream text(&file);
-    text.setCodec("UTF-8");
-    std::vector<hessiancln::user_email> rows;
+UserEmailList readUserEmails(QIODevice& file) {
+    // A line end is no single byte in all encodings.
+    file.setTextModeEnabled(false);
+    const QByteArray bytes = file.readAll();
+    QTextStream text(bytes);
+    // The mark of another encoding goes before.
+    text.setCodec(isUtf8({bytes.constData(), static_cast<std::size_t>(bytes.size())})
+                      ? "UTF-8"
+                      : "ISO-8859-1");
+    UserEmailList list;
     for (QString line; text.readLineInto(&line);)
         if (auto row = userEmailOf(line); row && problemOf(*row).isEmpty())
-            rows.push_back(std::move(*row));
-    return rows;
+            list.rows.push_back(std::move(*row));
+        else if (!line.trimmed().isEmpty())
+            ++list.lines.skipped;
+    list.lines.taken = static_cast<int>(list.rows.size());
+    return list;
 }
 
 } // namespace config

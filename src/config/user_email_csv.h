@@ -8,8 +8,7 @@
 #include <QString>
 
 #include "api/user_email.h"
-
-class QIODevice;
+#include "config/chosen_file.h"
 
 namespace config {
 
@@ -17,9 +16,14 @@ namespace config {
 /// a vertical bar or a tab. What follows is ignored. None, if the line is shorter.
 std::optional<hessiancln::user_email> userEmailOf(const QString& line);
 
+struct UserEmailList {
+    std::vector<hessiancln::user_email> rows;
+    LinesRead lines;
+};
+
 /// The good rows of a file, in its order. Lines without a row and rows that break a rule are left
-/// out. The file is UTF-8, unless it begins with the mark of UTF-16 or UTF-32. The device is open
-/// for reading, as text.
-std::vector<hessiancln::user_email> readUserEmails(QIODevice& file);
+/// out. The file is UTF-16 or UTF-32 if it begins with the mark of that, else UTF-8, or Latin-1 if
+/// it isn't UTF-8. The device is open for reading, as text.
+UserEmailList readUserEmails(QIODevice& file);
 
 } // namespace config

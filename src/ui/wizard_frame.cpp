@@ -10,6 +10,7 @@
 
 #include "ui/branding_resources.h"
 #include "ui/later.h"
+#include "ui/screen_fit.h"
 
 Q_DECLARE_METATYPE(std::exception_ptr)
 
@@ -26,12 +27,15 @@ struct WizardButtonText {
 
 /// A picture in the size that suits the screen, which only icons find by themselves.
 QPixmap picture(const QString& resource) {
-    if (qApp->devicePixelRatio() > 1) {
-        const QPixmap large(resource + QStringLiteral("@2x"));
-        if (!large.isNull())
-            return large;
-    }
-    return QPixmap(resource);
+    const qreal ratio = qApp->devicePixelRatio();
+    QPixmap large(resource + QStringLiteral("@2x"));
+    if (ratio <= 1 || large.isNull())
+        return QPixmap(resource);
+    const QSizeF size = large.size() * ratio / large.devicePixelRatio();
+    // A label would leave out pixels.
+    large = large.scaled(size.toSize(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    large.setDevicePixelRatio(ratio);
+    return large;
 }
 
 void setButton(QWizard& wizard, QWizard::WizardButton which, const QString& text,
@@ -47,10 +51,12 @@ void frameWizard(QWizard& wizard, const QString& title, const QString& watermark
     wizard.setWindowTitle(title);
     wizard.setWindowIcon(g_branding.applicationIcon());
     wizard.setPixmap(QWizard::WatermarkPixmap, picture(watermark));
-    setButton(wizard, QWizard::BackButton, WizardButtonText::tr("&Back"),
-              QStringLiteral(":/button/back"));
-    setButton(wizard, QWizard::NextButton, WizardButtonText::tr("&Next"),
-              QStringLiteral(":/button/forward"));
+    // Where one reads from right to left, forward is to the left.
+    const bool mirrored = wizard.layoutDirection() == Qt::RightToLeft;
+    const QString left = QStringLiteral(":/button/back");
+    const QString right = QStringLiteral(":/button/forward");
+    setButton(wizard, QWizard::BackButton, WizardButtonText::tr("&Back"), mirrored ? right : left);
+    setButton(wizard, QWizard::NextButton, WizardButtonText::tr("&Next"), mirrored ? left : right);
     setButton(wizard, QWizard::FinishButton, WizardButtonText::tr("&Finish"),
               QStringLiteral(":/button/ok"));
     setButton(wizard, QWizard::CancelButton, WizardButtonText::tr("&Cancel"),
@@ -72,6 +78,7 @@ void focusFirst(const QShowEvent& event, QWidget& first) {
 }
 
 bool runWizard(QWizard& wizard) {
+    giveOneSize(wizard);
     const bool finished = wizard.exec() == QDialog::Accepted;
     const auto failure = wizard.property(failureProperty).value<std::exception_ptr>();
     if (failure)

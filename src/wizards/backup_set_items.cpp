@@ -83,6 +83,7 @@ StoredItems readItems(hessiancln::BackupSet& set,
             mark({folder, false});
             break;
         case BackupSetItemType::Exclusion:
+            ++stored.exclusions;
             mark({folder, true});
             break;
         case BackupSetItemType::RegularExpression:

@@ -21,6 +21,7 @@ namespace wizards {
 /// What a set holds, read from its items.
 struct StoredItems {
     std::set<std::string> inclusions; ///< paths, without backslashes at their ends
+    int exclusions = 0;               ///< paths that the set leaves out
     QString kinds;                    ///< for `readKinds`
     std::optional<QString> customExtensions;
     std::optional<QString> excludedExtensions;

@@ -60,14 +60,14 @@ void ItemsSelectPage::changeEvent(QEvent* event) {
     if (event->type() == QEvent::LanguageChange) {
         ui_->retranslateUi(this);
         showPatterns();
+        showExclusions();
     }
     QWizardPage::changeEvent(event);
 }
 
-/// With the tree, also while it is hidden: a wizard asks only when it comes to the page, and
-/// doesn't grow with it later.
-QSize ItemsSelectPage::minimumSizeHint() const {
-    QSize size = QWizardPage::minimumSizeHint();
+/// With the tree, also while it is hidden.
+QSize ItemsSelectPage::largestSize() const {
+    QSize size = sizeHint();
     if (ui_->treeComputer->isHidden())
         size.rheight() += ui_->treeComputer->minimumHeight() + ui_->layoutLocations->spacing();
     return size;
@@ -135,10 +135,21 @@ void ItemsSelectPage::showContents(Contents contents) {
         chooseSpecificLocation();
     else
         chooseCustomLocation();
+    exclusions_ = contents.stored ? contents.stored->exclusions : 0;
     if (contents.stored) {
         showFileTypes(*contents.stored);
         showLocation(contents.stored->inclusions);
     }
+    showExclusions();
+}
+
+/// A preset is a path alone, and takes the place of all that the set had.
+void ItemsSelectPage::showExclusions() {
+    ui_->labelExclusions->setText(
+        tr("This set leaves out %1 path(s), which can't be shown with a specific location. "
+           "Finishing the wizard removes these exclusions.")
+            .arg(exclusions_));
+    ui_->labelExclusions->setVisible(exclusions_ > 0 && ui_->radioSpecificLocation->isChecked());
 }
 
 void ItemsSelectPage::showPresets(const std::vector<hessiancln::PreDefinedBrowseItem>& presets) {
@@ -279,6 +290,7 @@ void ItemsSelectPage::showTreeOrNot(bool shown) {
     QSizePolicy policy = ui_->groupLocations->sizePolicy();
     policy.setVerticalStretch(shown ? 1 : 0);
     ui_->groupLocations->setSizePolicy(policy);
+    showExclusions();
     emit completeChanged();
 }
 

@@ -13,6 +13,8 @@
 
 #include <boost/shared_ptr.hpp>
 
+#include "ui/screen_fit.h"
+
 class CDataSourceDirOnlyModel;
 class CDataSourceModel;
 class CFileExtensionValidator;
@@ -42,7 +44,7 @@ struct StoredItems;
 
 /// What a backup set holds: which kinds of file, and from where. The agent stores no kinds of file,
 /// only paths and filters; file_type_expressions.h tells how the one becomes the other.
-class ItemsSelectPage : public QWizardPage {
+class ItemsSelectPage : public QWizardPage, public ui::GrowingPage {
     Q_OBJECT
 public:
     using Set = boost::shared_ptr<hessiancln::BackupSet>;
@@ -66,7 +68,7 @@ public:
     /// failure leaves the page as it was, ends the wizard and goes to the one who runs it.
     void initializePage() override;
     bool isComplete() const override;
-    QSize minimumSizeHint() const override;
+    QSize largestSize() const override;
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -102,6 +104,7 @@ private:
     void showTree(std::unique_ptr<CDataSourceModel> model);
     void showFileTypes(const wizards::StoredItems& stored);
     void showLocation(const std::set<std::string>& inclusions);
+    void showExclusions();
     void chooseSpecificLocation();
     void chooseCustomLocation();
     void showTreeOrNot(bool shown);
@@ -114,6 +117,7 @@ private:
     CSelectDisplayDelegate* delegate_ = nullptr; ///< owned by the page; null until it is needed
     std::unique_ptr<CDataSourceModel> model_;    ///< null until the page has been entered
     std::unique_ptr<CDataSourceDirOnlyModel> folders_; ///< likewise
+    int exclusions_ = 0;                               ///< of the set as it is stored
     bool hadSelection_ = false;                        ///< what was last said of the model
     Set set_;                                          ///< null for a new set
     Source source_;                                    ///< what the models were made for

@@ -29,6 +29,8 @@ using session::required;
 
 namespace {
 
+constexpr int marginsOfHead = 60;
+
 /// How wide the text has to be for two lines, the most that the head of a wizard shows.
 int widthOnTwoLines(const QString& text, const QFontMetrics& metrics) {
     const int three = 3 * metrics.lineSpacing() - metrics.leading();
@@ -75,12 +77,16 @@ void RestoreDirectoryDestination::changeEvent(QEvent* event) {
     QWizardPage::changeEvent(event);
 }
 
+QSize RestoreDirectoryDestination::largestSize() const {
+    return sizeHint().expandedTo(minimumSizeHint());
+}
+
 /// So wide that the head of the wizard, which stands over the picture too, can name the directory.
 QSize RestoreDirectoryDestination::minimumSizeHint() const {
     const QPixmap picture = wizard() ? wizard()->pixmap(QWizard::WatermarkPixmap) : QPixmap();
     const int beside = qRound(picture.width() / picture.devicePixelRatio());
     const QSize size = QWizardPage::minimumSizeHint();
-    const int wanted = widthOnTwoLines(subTitle(), fontMetrics()) - beside;
+    const int wanted = widthOnTwoLines(subTitle(), fontMetrics()) + marginsOfHead - beside;
     return {std::max(size.width(), wanted), size.height()};
 }
 

@@ -7,6 +7,7 @@
 #include <QWizardPage>
 
 #include "api/client_configuration_records.h"
+#include "ui/screen_fit.h"
 
 class CRestoreDestinationDirectoryOnlyModel;
 class CRestoreDestinationModel;
@@ -17,7 +18,7 @@ class RestoreDirectoryDestination;
 
 /// The directory that data is restored to. A restore makes a directory of its own in there, whose
 /// name is fixed for as long as the page lives.
-class RestoreDirectoryDestination : public QWizardPage {
+class RestoreDirectoryDestination : public QWizardPage, public ui::GrowingPage {
     Q_OBJECT
 public:
     /// Asks the agent for its kind of paths. Raises what the calls raise.
@@ -34,6 +35,7 @@ public:
     void initializePage() override;
     bool isComplete() const override;
     QSize minimumSizeHint() const override;
+    QSize largestSize() const override;
 
 public slots:
     void browseDirectoriesToggled(bool checked);

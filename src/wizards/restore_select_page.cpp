@@ -89,10 +89,9 @@ void RestoreSelectPage::changeEvent(QEvent* event) {
     QWizardPage::changeEvent(event);
 }
 
-/// With the filter, also while it is hidden: a wizard asks only when it comes to the page, and
-/// doesn't grow with it later.
-QSize RestoreSelectPage::minimumSizeHint() const {
-    QSize size = QWizardPage::minimumSizeHint();
+/// With the filter, also while it is hidden.
+QSize RestoreSelectPage::largestSize() const {
+    QSize size = sizeHint();
     if (!ui_->filterDisplay->isHidden())
         return size;
     const QSize filter = ui_->filterDisplay->minimumSizeHint();

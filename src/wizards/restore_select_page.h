@@ -11,6 +11,7 @@
 
 #include <boost/shared_ptr.hpp>
 
+#include "ui/screen_fit.h"
 #include "wizards/stored_items_page.h"
 
 class BackedUpNode;
@@ -26,7 +27,7 @@ class RestoreSelectPage;
 }
 
 /// What is to be restored of a set, and as it was when.
-class RestoreSelectPage : public StoredItemsPage {
+class RestoreSelectPage : public StoredItemsPage, public ui::GrowingPage {
     Q_OBJECT
 public:
     /// Raises what the first look at the set raises.
@@ -52,7 +53,7 @@ public:
     /// In bytes, of a file whose generation was chosen.
     std::optional<std::int64_t> knownSize(std::int64_t file) const;
 
-    QSize minimumSizeHint() const override;
+    QSize largestSize() const override;
 
 protected:
     void changeEvent(QEvent* event) override;

@@ -311,15 +311,15 @@ void SelectDataSourcePage::OnShowNetDiscoveryTree() {
     QSizePolicy policy = ui_->groupDataSource->sizePolicy();
     policy.setVerticalStretch(shown ? 1 : 0);
     ui_->groupDataSource->setSizePolicy(policy);
-    if (isVisible())
-        growToContents();
 }
 
-/// A wizard doesn't grow by itself with what a page shows in addition.
-void SelectDataSourcePage::growToContents() {
-    layout()->activate();
-    const QSize lacking = (minimumSizeHint() - size()).expandedTo(QSize(0, 0));
-    window()->resize(window()->size() + lacking);
+/// With the tree, also while it is hidden.
+QSize SelectDataSourcePage::largestSize() const {
+    QSize size = sizeHint();
+    if (ui_->treeNetworkDiscovery->isHidden())
+        size.rheight() +=
+            ui_->treeNetworkDiscovery->minimumHeight() + ui_->layoutDataSource->spacing();
+    return size;
 }
 
 void SelectDataSourcePage::on_chkUseTarnClientAccount_clicked(bool checked) {

@@ -10,6 +10,7 @@
 
 #include <boost/shared_ptr.hpp>
 
+#include "ui/screen_fit.h"
 #include "wizards/cached_credentials.h"
 #include "wizards/credentials_kind.h"
 
@@ -35,7 +36,7 @@ bool isLocalComputer(const QString& source);
 /// Which computer a set backs up, and with which login. The page owns the browser of its wizard,
 /// and writes each change of the credentials to it at once: only so can the next page look into
 /// the computer. What is wrong with the credentials is shown in a box; the page stays usable.
-class SelectDataSourcePage : public QWizardPage {
+class SelectDataSourcePage : public QWizardPage, public ui::GrowingPage {
     Q_OBJECT
 public:
     /// Whether a user of this machine, in UTF-8, is one of its administrators.
@@ -49,6 +50,8 @@ public:
     explicit SelectDataSourcePage(QWidget* parent = nullptr);
     SelectDataSourcePage(const AdministratorTest& isAdministrator, QWidget* parent = nullptr);
     ~SelectDataSourcePage() override;
+
+    QSize largestSize() const override;
 
     boost::shared_ptr<hessiancln::DataSourceBrowser> browser() const { return browser_; }
     /// Without blanks around it.
@@ -98,7 +101,6 @@ private:
     bool takeTypedComputer();
     void showPurpose();
     void giveTreeItsModel();
-    void growToContents();
     void takeNeededCredentials();
     bool showComputerOfFileSet(hessiancln::BackupSet& set);
     void setComplete(bool complete);

@@ -19,6 +19,7 @@
 #include "models/backedup_data_dir_only_model.h"
 #include "models/backedup_data_file_filter_model.h"
 #include "models/tree_state_memo.h"
+#include "ui/empty_note.h"
 #include "ui/error_box.h"
 #include "ui/remote_action.h"
 #include "wizards/backup_time_span.h"
@@ -41,6 +42,12 @@ void StoredItemsPage::setUp(const Views& views, std::initializer_list<QWidget*> 
     connect(fileFilter_, &QLineEdit::textChanged, this, &StoredItemsPage::setFileNameFilter);
     for (QWidget* field : filter)
         filterOfView_.remember(*field);
+    new ui::EmptyNote(*list_, [this] {
+        const QString pattern = fileFilter_->text();
+        return pattern.isEmpty() || pattern == QLatin1String("*")
+                   ? QString()
+                   : tr("No files of this folder match the file filter.");
+    });
 }
 
 bool StoredItemsPage::isComplete() const {

@@ -59,6 +59,7 @@ private slots:
     void anUnknownTypeShowsItsFallback();
     void runningActivitiesAreOneCall();
     void theViewerAsksForAnActivityOrForTimes();
+    void theViewerSaysThatNothingMatches();
     void aFaultLeavesTheEvents();
     void theAboutBoxShowsTheAgent();
     void aRenameReachesTheSet();
@@ -111,6 +112,19 @@ void ViewsWithAgentTest::theViewerAsksForAnActivityOrForTimes() {
     QCOMPARE(agent_->callTexts(), (Calls{"ClientConnection.event_log(0, 2000000000, 0)",
                                          "ClientConnection.event_log(0, 0, 1)",
                                          "ClientConnection.event_log(0, 2000000000, 0)"}));
+}
+
+void ViewsWithAgentTest::theViewerSaysThatNothingMatches() {
+    EventLogViewer viewer;
+    viewer.show();
+    viewer.showFor(QDateTime::fromSecsSinceEpoch(1), QDateTime::fromSecsSinceEpoch(60), 0);
+    QCOMPARE(viewer.model().rowCount(), 0);
+    const auto& note = child<QLabel>(viewer, "emptyNote");
+    QTRY_COMPARE(note.text(), QStringLiteral("No events match the viewing filter."));
+    QVERIFY(note.isVisible());
+    viewer.showFor(QDateTime::fromSecsSinceEpoch(0), QDateTime::fromSecsSinceEpoch(2'000'000'000),
+                   0);
+    QTRY_VERIFY(!note.isVisible());
 }
 
 void ViewsWithAgentTest::aFaultLeavesTheEvents() {

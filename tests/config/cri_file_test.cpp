@@ -18,6 +18,7 @@ Entries read(QByteArray bytes) {
     Entries entries;
     config::readCri(file, [&entries](const CriEntry& entry) {
         entries.emplace_back(entry.key, session::toWire(entry.value));
+        return true;
     });
     return entries;
 }
@@ -109,8 +110,19 @@ TEST(CriFile, IsUtf8) {
     EXPECT_EQ(read("\xEF\xBB\xBFUserName=a\n"), (Entries{{CriKey::customerName, "a"}}));
 }
 
-TEST(CriFile, WithOtherBytesStaysReadable) {
-    EXPECT_EQ(read("UserName=M\xFCller\n"), (Entries{{CriKey::customerName, "M\xEF\xBF\xBDller"}}));
+TEST(CriFile, IsLatin1WhereItIsNotUtf8) {
+    EXPECT_EQ(read("UserName=M\xFCller\n"), (Entries{{CriKey::customerName, "Müller"}}));
+}
+
+TEST(CriFile, CountsWhatWasTaken) {
+    QByteArray bytes("UserName=a\n\n \nNobody=b\nAccountName=c\nClientNumber=d\nUserName\n" +
+                     QByteArray(static_cast<int>(config::longestLine), 'x'));
+    QBuffer file(&bytes);
+    file.open(QIODevice::ReadOnly | QIODevice::Text);
+    const config::LinesRead lines = config::readCri(
+        file, [](const CriEntry& entry) { return entry.key != CriKey::clientNumber; });
+    EXPECT_EQ(lines.taken, 2);
+    EXPECT_EQ(lines.skipped, 4);
 }
 
 TEST(CriFile, MayBeNoTextAtAll) {
@@ -127,19 +139,20 @@ TEST(CriFile, PassesOverALineThatIsTooLong) {
     Entries entries;
     config::readCri(file, [&entries](const CriEntry& entry) {
         entries.emplace_back(entry.key, session::toWire(entry.value));
+        return true;
     });
     EXPECT_EQ(entries, (Entries{{CriKey::customerName, "a"}}));
-    EXPECT_LE(file.largestRead, config::longestCriLine);
+    EXPECT_LE(file.largestRead, config::longestLine);
 }
 
 TEST(CriFile, PassesOverALongLineOfAKnownKeyToo) {
-    const QByteArray value(static_cast<int>(config::longestCriLine), 'x');
+    const QByteArray value(static_cast<int>(config::longestLine), 'x');
     EXPECT_EQ(read("UserName=" + value + "\nAccountName=b\nUserName=" + value),
               (Entries{{CriKey::accountNumber, "b"}}));
 }
 
 TEST(CriFile, TakesALineOfTheLongestLength) {
-    const QByteArray value(static_cast<int>(config::longestCriLine) - 11, 'x');
+    const QByteArray value(static_cast<int>(config::longestLine) - 11, 'x');
     EXPECT_EQ(read("UserName=" + value + "\nAccountName=b\n"),
               (Entries{{CriKey::customerName, value.toStdString()}, {CriKey::accountNumber, "b"}}));
 }

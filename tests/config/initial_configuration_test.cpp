@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <optional>
 
+#include <QDir>
+#include <QFileDialog>
+#include <QScopedValueRollback>
+
 #include "session/process_values.h"
 #include "tests/config/registration_fixture.h"
 #include "tests/support/gui_form_texts.h"
@@ -45,7 +49,12 @@ private slots:
     void aFileThatIsNoneChangesNothing();
     void aFileWithoutKeysChangesNothing_data();
     void aFileWithoutKeysChangesNothing();
-    void aLineWithoutEndIsPassedOver();
+    void aFileThatIsTooLargeIsRefused();
+    void keysThatCantBeChangedArentAFilesEither();
+    void theChoiceBeginsAtHomeAfterAnIntegratedLogon();
+
+private:
+    void fillInAtFirst();
 };
 
 void InitialConfigurationTest::whatTheAgentKnowsIsShown() {
@@ -330,6 +339,14 @@ void InitialConfigurationTest::noDialogOpensOnAFault() {
     QVERIFY(session::connectedToAgent());
 }
 
+/// The dialog of an agent that knows no customer yet, in which everything can be changed.
+void InitialConfigurationTest::fillInAtFirst() {
+    test_.agent->clearCallLog();
+    InitClntCfgDlg dialog(true);
+    dialog.exec();
+    QVERIFY(modals().done());
+}
+
 void InitialConfigurationTest::aFileFillsTheFields() {
     expectDialog([this](QWidget& dialog) {
         import(dialog, "Ada.CRI",
@@ -348,7 +365,7 @@ void InitialConfigurationTest::aFileFillsTheFields() {
         QCOMPARE(text(dialog, "txtFieldAccountKeyConfirm"), q(" three "));
         press(dialog, "btnCancel");
     });
-    modify();
+    fillInAtFirst();
     compareCalls(registrationRead);
 }
 
@@ -363,7 +380,7 @@ void InitialConfigurationTest::aKeyAheadOfItsTypeIsLost() {
         QCOMPARE(text(dialog, "txtFieldAccountKey"), q("kept"));
         press(dialog, "btnCancel");
     });
-    modify();
+    fillInAtFirst();
 }
 
 void InitialConfigurationTest::noneIsNoTypeOfAPrivateKey() {
@@ -373,7 +390,7 @@ void InitialConfigurationTest::noneIsNoTypeOfAPrivateKey() {
         QCOMPARE(chosen(dialog, "cmbAccountKeyType"), q("NONE"));
         press(dialog, "btnCancel");
     });
-    modify();
+    fillInAtFirst();
 }
 
 void InitialConfigurationTest::aFileThatIsNoneChangesNothing() {
@@ -417,12 +434,45 @@ void InitialConfigurationTest::aFileWithoutKeysChangesNothing() {
                  sent(known + ", private_key_enc=7, account_key_enc=7"));
 }
 
-void InitialConfigurationTest::aLineWithoutEndIsPassedOver() {
+void InitialConfigurationTest::aFileThatIsTooLargeIsRefused() {
     expectDialog([this](QWidget& dialog) {
-        import(dialog, "long.cri",
-               "UserName=" + QByteArray(100 * 1024 * 1024, 'x') + "\nAccountName=after\n");
+        importInVain(dialog, "long.cri", QByteArray("AccountName=after\n").repeated(100'000),
+                     "\"%1\" is larger than 1 MiB.");
         QCOMPARE(text(dialog, "txtFieldCustomer"), q("Müller & Söhne GmbH"));
-        QCOMPARE(text(dialog, "txtFieldAccountNum"), q("after"));
+        QVERIFY(text(dialog, "txtFieldAccountNum") != q("after"));
+        press(dialog, "btnCancel");
+    });
+    modify();
+}
+
+void InitialConfigurationTest::keysThatCantBeChangedArentAFilesEither() {
+    expectDialog([this](QWidget& dialog) {
+        QVERIFY(!child<QWidget>(dialog, "grpPrivateKey").isEnabled());
+        QVERIFY(!child<QWidget>(dialog, "grpAccountKey").isEnabled());
+        const QStringList before = {
+            chosen(dialog, "cmbPrivateKeyType"), text(dialog, "txtFieldPrivateKey"),
+            chosen(dialog, "cmbAccountKeyType"), text(dialog, "txtFieldAccountKey")};
+        import(dialog, "a.cri",
+               "UserName=b\nPrivateEncType=2\nPrivateEncKey=new\nAccEncType=2\nAccEncKey=new\n");
+        QCOMPARE(text(dialog, "txtFieldCustomer"), q("b"));
+        QCOMPARE(
+            (QStringList{chosen(dialog, "cmbPrivateKeyType"), text(dialog, "txtFieldPrivateKey"),
+                         chosen(dialog, "cmbAccountKeyType"), text(dialog, "txtFieldAccountKey")}),
+            before);
+        QCOMPARE(label(dialog, "labImport"), q("Values taken: 1. Lines not taken: 4."));
+        press(dialog, "btnCancel");
+    });
+    modify();
+}
+
+void InitialConfigurationTest::theChoiceBeginsAtHomeAfterAnIntegratedLogon() {
+    const QScopedValueRollback<std::string> user(session::g_currentUser, std::string());
+    expectDialog([this](QWidget& dialog) {
+        modals().expect(q("file"), isDialog<QFileDialog>, [](QWidget& chooser) {
+            QCOMPARE(static_cast<QFileDialog&>(chooser).directory().path(), QDir::homePath());
+            static_cast<QDialog&>(chooser).reject();
+        });
+        press(dialog, "btnBrowse");
         press(dialog, "btnCancel");
     });
     modify();

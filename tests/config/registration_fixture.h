@@ -41,12 +41,22 @@ protected:
     }
     /// Presses the button for a file, and chooses one of this name and with these bytes.
     void import(QWidget& dialog, const char* name, const QByteArray& bytes, bool remove = false) {
-        const QString path = folder_.filePath(steps::q(name));
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-        file.close();
-        steps::expectCriFile(modals(), path, remove);
+        write(name, bytes);
+        steps::expectCriFile(modals(), folder_.filePath(steps::q(name)), remove);
         steps::press(dialog, "btnBrowse");
+    }
+    /// The same, with what a box then says; "%1" is the path.
+    void importInVain(QWidget& dialog, const char* name, const QByteArray& bytes,
+                      const char* refusal) {
+        write(name, bytes);
+        const QString path = folder_.filePath(steps::q(name));
+        steps::expectCriFile(modals(), path, false);
+        modals().expectErrorBox(steps::q("Configuration Error"), steps::q(refusal).arg(path));
+        steps::press(dialog, "btnBrowse");
+    }
+    void write(const char* name, const QByteArray& bytes) {
+        QFile file(folder_.filePath(steps::q(name)));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
     }
 
     support::WizardTest test_;

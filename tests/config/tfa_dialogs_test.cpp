@@ -64,6 +64,7 @@ private slots:
     void aLongFileIsImportedAtOnce();
     void aFileOfAnotherNameIsNotRead();
     void aFileThatCantBeReadIsNone();
+    void aFileThatIsTooLargeIsRefused();
     void givingUpTheImportChangesNothing();
     void forwardingSendsTheWholeList();
     void givingUpTheCodeSendsNothing();
@@ -268,6 +269,8 @@ void TFADialogsTest::aFileIsImported() {
         QCOMPARE(rows(viewer),
                  (QStringList{q("Ada;Home;ada@example.org"), q("bob;;new@example.org"),
                               q("dan;home;dan@example.org")}));
+        QCOMPARE(child<QLabel>(viewer, "labImport").text(),
+                 q("Users taken: 2. Lines not taken: 2."));
     });
     QCOMPARE(agent_->callTexts(), reading);
 }
@@ -307,6 +310,18 @@ void TFADialogsTest::aFileThatCantBeReadIsNone() {
         });
         press(viewer, "btnImport");
         QCOMPARE(rows(viewer).size(), 2);
+    });
+}
+
+void TFADialogsTest::aFileThatIsTooLargeIsRefused() {
+    const QString path = writeFile("long.csv", QByteArray(65 * 1024, 'x'));
+    withViewer([&](QWidget& viewer) {
+        expectFile(path);
+        modals_->expectErrorBox(q("Configuration Error"),
+                                q("\"%1\" has a line of more than 64 KiB.").arg(path));
+        press(viewer, "btnImport");
+        QCOMPARE(rows(viewer).size(), 2);
+        QVERIFY(child<QLabel>(viewer, "labImport").isHidden());
     });
 }
 

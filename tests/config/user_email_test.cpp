@@ -33,7 +33,7 @@ Rows texts(const std::vector<user_email>& rows) {
 std::vector<user_email> readBytes(QByteArray bytes) {
     QBuffer file(&bytes);
     file.open(QIODevice::ReadOnly | QIODevice::Text);
-    return config::readUserEmails(file);
+    return config::readUserEmails(file).rows;
 }
 
 Rows read(const QByteArray& bytes) {
@@ -183,8 +183,19 @@ TEST(UserEmailCsv, KnowsUtf16ByItsMark) {
     EXPECT_EQ(read(bytes), Rows{"ada;home;a@b.cd"});
 }
 
-TEST(UserEmailCsv, TakesBytesThatAreNoTextAsReplacements) {
-    EXPECT_EQ(read("ad\xFF,home,a@b.cd"), Rows{"ad\xEF\xBF\xBD;home;a@b.cd"});
+TEST(UserEmailCsv, IsLatin1WhereItIsNotUtf8) {
+    EXPECT_EQ(read("\xC4"
+                   "da,B\xFCro,a@b.cd"),
+              Rows{"Äda;Büro;a@b.cd"});
+}
+
+TEST(UserEmailCsv, CountsWhatWasTaken) {
+    QByteArray bytes("ada,home,a@b.cd\n\n \nbob,b@b.cd\ncy,home,c.cd\ndan,,d@b.cd\n");
+    QBuffer file(&bytes);
+    file.open(QIODevice::ReadOnly | QIODevice::Text);
+    const config::UserEmailList list = config::readUserEmails(file);
+    EXPECT_EQ(list.lines.taken, 2);
+    EXPECT_EQ(list.lines.skipped, 2);
 }
 
 // A reader that looked again and again at what it has seen would run into the time limit.

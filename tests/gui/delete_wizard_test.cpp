@@ -378,8 +378,13 @@ void DeleteWizardTest::theFileFilterIsKept() {
         QCOMPARE(filesIn(widget), QStringList{q("budget.ods")});
         switchOn(widget, "checkKeep");
         QCOMPARE(filesIn(widget), QStringList{q("budget.ods")});
+        child<QLineEdit>(widget, "editFilter").setText(q("*.none"));
+        QTRY_COMPARE(child<QLabel>(widget, "emptyNote").text(),
+                     q("No files of this folder match the file filter."));
+        QVERIFY(child<QLabel>(widget, "emptyNote").isVisible());
         child<QLineEdit>(widget, "editFilter").clear();
         QCOMPARE(filesIn(widget), (QStringList{q("budget.ods"), q("notes.txt")}));
+        QTRY_VERIFY(!child<QLabel>(widget, "emptyNote").isVisible());
         widget.close();
     });
     test_.run("OnDelete");

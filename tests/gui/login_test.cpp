@@ -121,6 +121,17 @@ private slots:
                  (QByteArrayList{"OnQuit()", "OnLogin()", "on_chkSSPILogin_clicked(bool)"}));
     }
 
+    void aLongDomainDoesNotStretchTheDialog() {
+        simulator::Options options;
+        options.domains = {std::string(150, 'W')};
+        const GuiAgent agent(options);
+        LoginCheck dialog;
+        dialog.show();
+        QVERIFY2(dialog.width() <= 500, qPrintable(QString::number(dialog.width())));
+        QCOMPARE(child<QComboBox>(dialog, "comboDomain").currentText(),
+                 QString(150, QLatin1Char('W')));
+    }
+
     void reachesItsFieldsByLabel() {
         const GuiAgent agent(inDomains());
         LoginCheck dialog;

@@ -167,7 +167,7 @@ void SecretsTest::ofAnOverlongLineNeverStayInMemory() {
     Client client({QStringLiteral("registrationFile"), QString::number(agent.port()),
                    QString::number(seed),
                    cri(QByteArray::fromStdString("PrivateEncKey=" + longLine + secret + "\n"))});
-    QCOMPARE(client.next(), QStringLiteral("typed"));
+    QVERIFY(client.next().endsWith(QStringLiteral(" has a line of more than 64 KiB.")));
     const auto left = client.findings(secret);
     QVERIFY2(left.empty(), listed(left).constData());
 }

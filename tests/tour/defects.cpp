@@ -123,6 +123,21 @@ bool sticksOut(const QWidget& widget) {
     return !mayStickOut(widget) && !widget.parentWidget()->rect().contains(widget.geometry());
 }
 
+/// The smallest screen: 1366 x 768 pixels at 150 %, with a task bar, and the frame of a window.
+constexpr QSize smallestScreen(1366 * 2 / 3, 768 * 2 / 3);
+constexpr QSize taskBarAndFrame(8, 30 + 42);
+
+QSize leastSize(const QWidget& window) {
+    return window.minimumSizeHint()
+        .boundedTo(window.maximumSize())
+        .expandedTo(window.minimumSize());
+}
+
+bool fits(const QSize& size) {
+    const QSize room = smallestScreen - taskBarAndFrame;
+    return size.width() <= room.width() && size.height() <= room.height();
+}
+
 QString textWithKey(const QWidget& widget) {
     if (const auto* label = qobject_cast<const QLabel*>(&widget))
         return label->buddy() ? label->text() : QString();
@@ -139,6 +154,9 @@ QString textWithKey(const QWidget& widget) {
 
 QStringList defectsOf(const QWidget& shown) {
     QStringList defects;
+    const QSize least = leastSize(shown);
+    if (shown.isWindow() && !fits(least))
+        defects << QStringLiteral("needs %1 x %2").arg(least.width()).arg(least.height());
     QMap<QString, QStringList> keys;
     for (const auto* widget : shown.findChildren<QWidget*>()) {
         if (!widget->isVisible() || isTextOfAUser(*widget))

@@ -17,6 +17,7 @@
 #include "tests/tour/catalogue.h"
 #include "tests/tour/pseudo_language.h"
 #include "tests/tour/stories.h"
+#include "ui/screen_fit.h"
 
 namespace {
 
@@ -83,6 +84,7 @@ int main(int argc, char** argv) {
     }
     app::prepareToolkit();
     QApplication application(argc, argv);
+    ui::keepDialogsOnScreen(application);
     resources::initPictures();
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() < 2) {

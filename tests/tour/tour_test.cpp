@@ -251,9 +251,10 @@ void TourTest::inAPseudoLanguage() {
     tour::takeAll(album);
     QCoreApplication::removeTranslator(&language);
     checkAllIsTaken(album);
-    // Its letters are those of the English texts, so that its keys are, too.
+    // Its letters are those of the English texts, so that its keys are, too. No language has as
+    // long words on the smallest screen.
     for (const QString& defect : album.defects())
-        if (!defect.contains(q(" stands for ")))
+        if (!defect.contains(q(" stands for ")) && !defect.contains(q(": needs ")))
             QTest::qFail(qPrintable(defect), __FILE__, __LINE__);
     const auto& screens = album.seenTexts();
     for (auto screen = screens.cbegin(); screen != screens.cend(); ++screen)

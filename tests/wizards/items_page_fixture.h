@@ -13,6 +13,7 @@
 #include <QTreeView>
 
 #include "tests/wizards/page_fixture.h"
+#include "ui/screen_fit.h"
 #include "wizards/items_select_page.h"
 #include "wizards/select_data_source_page.h"
 
@@ -99,6 +100,7 @@ public:
         : ItemsPageWidgets(*new ItemsSelectPage) {
         page().setDataSourcePageId(wizard.addPage(&source));
         wizard.addPage(&page());
+        ui::giveOneSize(wizard);
         wizard.show();
         wizard.next();
     }

@@ -13,6 +13,7 @@
 #include "api/client_connection.h"
 #include "session/connection.h"
 #include "simulator/world/world.h"
+#include "ui/screen_fit.h"
 
 namespace wizards_test {
 
@@ -97,6 +98,7 @@ PageDriver::PageDriver(const SelectDataSourcePage::AdministratorTest& isAdminist
 }
 
 void PageDriver::show() {
+    ui::giveOneSize(*wizard_);
     wizard_->show();
     // A field that loses the focus counts as edited.
     wizard_->button(QWizard::CancelButton)->setFocus();

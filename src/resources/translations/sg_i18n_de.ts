@@ -719,6 +719,21 @@ rechts neu einrichten.</translation>
     </message>
 </context>
 <context>
+    <name>ChosenFile</name>
+    <message>
+        <source>&quot;%1&quot; is not a regular file.</source>
+        <translation>„%1“ ist keine gewöhnliche Datei.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is larger than 1 MiB.</source>
+        <translation>„%1“ ist größer als 1 MiB.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a line of more than 64 KiB.</source>
+        <translation>„%1“ hat eine Zeile von mehr als 64 KiB.</translation>
+    </message>
+</context>
+<context>
     <name>DeleteSelectPage</name>
     <message>
         <source>Delete Items</source>
@@ -912,6 +927,10 @@ Möchten Sie den Sicherungssatz entfernen?</translation>
 <context>
     <name>EventLogViewer</name>
     <message>
+        <source>No events match the viewing filter.</source>
+        <translation>Kein Ereignis passt zum Anzeigefilter.</translation>
+    </message>
+    <message>
         <source>Event Log Viewer</source>
         <translation>Ereignisanzeige</translation>
     </message>
@@ -1080,6 +1099,10 @@ Möchten Sie den Sicherungssatz entfernen?</translation>
 </context>
 <context>
     <name>InitClntCfgDlg</name>
+    <message>
+        <source>Values taken: %1. Lines not taken: %2.</source>
+        <translation>Werte übernommen: %1. Zeilen nicht übernommen: %2.</translation>
+    </message>
     <message>
         <source>Modify Tarn-Client Configuration</source>
         <translation>Konfiguration des Tarn-Clients ändern</translation>
@@ -2607,6 +2630,10 @@ Möchten Sie den Sicherungssatz entfernen?</translation>
 </context>
 <context>
     <name>ItemsSelectPage</name>
+    <message>
+        <source>This set leaves out %1 path(s), which can&apos;t be shown with a specific location. Finishing the wizard removes these exclusions.</source>
+        <translation>Dieser Sicherungssatz lässt %1 Pfad(e) aus, die sich bei einem bestimmten Ort nicht zeigen lassen. Wenn Sie den Assistenten fertigstellen, werden diese Ausschlüsse entfernt.</translation>
+    </message>
     <message>
         <source>Select Items</source>
         <translation>Elemente wählen</translation>
@@ -4327,6 +4354,10 @@ Klicken Sie hier, um diesen Hinweis nicht mehr zu sehen.</translation>
 <context>
     <name>StoredItemsPage</name>
     <message>
+        <source>No files of this folder match the file filter.</source>
+        <translation>Keine Dateien dieses Ordners passen zum Dateifilter.</translation>
+    </message>
+    <message>
         <source>Error</source>
         <translation>Fehler</translation>
     </message>
@@ -4438,6 +4469,10 @@ Klicken Sie hier, um diesen Hinweis nicht mehr zu sehen.</translation>
 </context>
 <context>
     <name>TFAUsersViewer</name>
+    <message>
+        <source>Users taken: %1. Lines not taken: %2.</source>
+        <translation>Benutzer übernommen: %1. Zeilen nicht übernommen: %2.</translation>
+    </message>
     <message>
         <source>User Email Settimgs</source>
         <translation>E-Mail-Adressen der Benutzer</translation>

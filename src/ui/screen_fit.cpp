@@ -1,0 +1,224 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "ui/screen_fit.h"
+
+#include <algorithm>
+#include <memory>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QBoxLayout>
+#include <QDialog>
+#include <QEvent>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QWizard>
+
+namespace ui {
+
+namespace {
+
+/// Borders and title bar, which have no size before the window is on the screen.
+constexpr QSize frame(8, 42);
+
+/// Wants as much room as what it shows, or as it was given, and needs little of it.
+class ContentArea : public QScrollArea {
+public:
+    explicit ContentArea(QWidget& page)
+        : QScrollArea(&page) {
+        setFrameShape(NoFrame);
+        // It is no station on the way from field to field, and scrolls to where that leads.
+        setFocusPolicy(Qt::NoFocus);
+        auto* content = new QWidget(this);
+        content->setLayout(page.layout());
+        setWidget(content);
+        content->setAutoFillBackground(false);
+        viewport()->setAutoFillBackground(false);
+    }
+
+    bool viewportEvent(QEvent* event) override {
+        const bool handled = QScrollArea::viewportEvent(event);
+        if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize)
+            fitContent();
+        return handled;
+    }
+
+    void setWantedSize(QSize size) {
+        wanted_ = size;
+        updateGeometry();
+    }
+
+    QSize sizeHint() const override { return widget()->sizeHint().expandedTo(wanted_); }
+    QSize minimumSizeHint() const override {
+        const QSize needed = widget()->minimumSizeHint();
+        const int bar = verticalScrollBar()->sizeHint().width();
+        return {std::min(needed.width() + bar, smallest.width()),
+                std::min(needed.height(), smallest.height())};
+    }
+
+private:
+    static constexpr QSize smallest{300, 120};
+
+    /// As small as it may be before it scrolls, which the scroll area doesn't do to texts that
+    /// wrap.
+    void fitContent() {
+        const QLayout& layout = *widget()->layout();
+        const int width = std::max(viewport()->width(), layout.totalMinimumSize().width());
+        widget()->resize(width, std::max(viewport()->height(), leastHeight(layout, width)));
+    }
+    static int leastHeight(const QLayout& layout, int width) {
+        return layout.hasHeightForWidth() ? layout.minimumHeightForWidth(width)
+                                          : layout.totalMinimumSize().height();
+    }
+
+    QSize wanted_;
+};
+
+QSize roomOf(const QWidget& window) {
+    const QScreen* screen = window.screen();
+    return screen ? largestWindow(screen->availableGeometry())
+                  : QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+}
+
+/// Just before a dialog is shown, when it has its size and not yet its place.
+class AtShow : public QObject {
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Show && !event->spontaneous())
+            if (auto* dialog = qobject_cast<QDialog*>(watched); dialog && dialog->isWindow())
+                beforeShow(*dialog);
+        return false;
+    }
+
+private:
+    virtual void beforeShow(QDialog& dialog) {
+        dialog.resize(dialog.size().boundedTo(roomOf(dialog)));
+    }
+};
+
+/// A dialog with content that may scroll needs less than it wants.
+class OpensWhole : public AtShow {
+public:
+    using AtShow::AtShow;
+
+private:
+    void beforeShow(QDialog& dialog) override {
+        dialog.resize(dialog.size().expandedTo(dialog.sizeHint()).boundedTo(roomOf(dialog)));
+    }
+};
+
+/// The first time only: later it has the size that the user has given it.
+class OneSize : public AtShow {
+public:
+    OneSize(QWizard& wizard, int spare)
+        : AtShow(&wizard)
+        , wizard_(wizard)
+        , spare_(spare) {}
+
+private:
+    /// With the pages as small as they may be.
+    int leastHeight() const {
+        const QPixmap watermark = wizard_.pixmap(QWizard::WatermarkPixmap);
+        const int beside = watermark.height() / std::max(1, qRound(watermark.devicePixelRatio()));
+        const int buttons = 3 * wizard_.button(QWizard::CancelButton)->sizeHint().height();
+        return std::max(wizard_.sizeHint().height() - spare_, beside + buttons);
+    }
+
+    void beforeShow(QDialog& dialog) override {
+        if (isDone_)
+            return;
+        isDone_ = true;
+        // Beside a watermark a wizard takes for its least height what it wants, unless it is given
+        // another one.
+        dialog.setMinimumHeight(leastHeight());
+        dialog.resize(dialog.sizeHint().boundedTo(roomOf(dialog)));
+    }
+
+    QWizard& wizard_;
+    int spare_; ///< by which a page may be lower than it wants to be
+    bool isDone_ = false;
+};
+
+/// The content area of a page, which it gets if it has none.
+ContentArea& contentAreaOf(QWidget& page) {
+    for (auto* area : page.findChildren<QScrollArea*>(QString(), Qt::FindDirectChildrenOnly))
+        if (auto* own = dynamic_cast<ContentArea*>(area))
+            return *own;
+    letContentScroll(page);
+    return contentAreaOf(page);
+}
+
+} // namespace
+
+QSize largestWindow(const QRect& available) {
+    return available.size() - frame;
+}
+
+void keepOnScreen(QWidget& window) {
+    const QScreen* screen = window.screen();
+    if (!screen)
+        return;
+    const QRect room = screen->availableGeometry();
+    const QSize size = window.size().boundedTo(largestWindow(room));
+    if (size == window.size())
+        return;
+    window.resize(size);
+    window.move(room.topLeft() + QPoint((room.width() - size.width()) / 2, 0));
+}
+
+void keepDialogsOnScreen(QApplication& application) {
+    application.installEventFilter(new AtShow(&application));
+}
+
+void letContentScroll(QWidget& page, QLayout* buttons) {
+    const QMargins margins = page.layout()->contentsMargins();
+    if (buttons) {
+        page.layout()->removeItem(buttons);
+        const int spacing = buttons->spacing();
+        buttons->setParent(nullptr);
+        buttons->setSpacing(spacing);
+        buttons->setContentsMargins(margins.left(), 0, margins.right(), margins.bottom());
+    }
+    auto* area = new ContentArea(page);
+    auto* outer = new QVBoxLayout(&page);
+    outer->setContentsMargins({});
+    outer->setSpacing(0);
+    outer->addWidget(area, 1);
+    if (buttons)
+        outer->addLayout(buttons);
+    if (page.isWindow())
+        page.installEventFilter(new OpensWhole(&page));
+}
+
+void letContentScroll(QWidget& page, QWidget& buttons) {
+    page.layout()->removeWidget(&buttons);
+    auto row = std::make_unique<QHBoxLayout>();
+    row->addWidget(&buttons);
+    letContentScroll(page, row.release());
+}
+
+void giveOneSize(QWizard& wizard) {
+    QSize largest;
+    QList<ContentArea*> areas;
+    for (const int id : wizard.pageIds()) {
+        QWizardPage& page = *wizard.page(id);
+        if (!page.layout())
+            continue;
+        page.ensurePolished();
+        largest = largest.expandedTo(page.sizeHint());
+        if (const auto* growing = dynamic_cast<const GrowingPage*>(&page))
+            largest = largest.expandedTo(growing->largestSize());
+        areas << &contentAreaOf(page);
+    }
+    int least = 0;
+    for (ContentArea* area : areas) {
+        area->setWantedSize(largest);
+        least = std::max(least, area->minimumSizeHint().height());
+    }
+    wizard.installEventFilter(new OneSize(wizard, largest.height() - least));
+}
+
+} // namespace ui

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include <QApplication>
+#include <QDirIterator>
+#include <QFile>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "app/start_up.h"
+#include "resources/pictures.h"
+#include "tests/tour/album.h"
+#include "tests/tour/stories.h"
+
+/// The program keeps nothing in the user's home, whatever screens were open.
+class HomeTest : public QObject {
+    Q_OBJECT
+private slots:
+    void staysEmpty() {
+        const QString home = QDir::homePath();
+        QCOMPARE(QFile::encodeName(home), qgetenv("HOME"));
+        tour::Album album(QStringLiteral("Out of order."));
+        tour::takeAll(album);
+        QCOMPARE(album.missing(), QStringList());
+        QStringList left;
+        QDirIterator entries(home, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
+                             QDirIterator::Subdirectories);
+        while (entries.hasNext())
+            left << entries.next();
+        QCOMPARE(left, QStringList());
+    }
+};
+
+int main(int argc, char** argv) {
+    const QTemporaryDir home;
+    qputenv("HOME", QFile::encodeName(home.path()));
+    qunsetenv("XDG_CONFIG_HOME");
+    qunsetenv("XDG_DATA_HOME");
+    app::prepareToolkit();
+    QApplication application(argc, argv);
+    resources::initPictures();
+    HomeTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "home_test.moc"

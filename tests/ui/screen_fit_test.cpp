@@ -1,0 +1,136 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include <QApplication>
+#include <QDialog>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QVBoxLayout>
+#include <QWizard>
+#include <QtTest>
+
+#include "ui/screen_fit.h"
+
+namespace {
+
+/// A page that wants that much room.
+QWizardPage* newPage(int width, int height) {
+    auto* page = new QWizardPage;
+    page->setTitle(QStringLiteral("Page"));
+    page->setSubTitle(QStringLiteral("What the page is about"));
+    auto* layout = new QVBoxLayout(page);
+    auto* content = new QLabel(QStringLiteral("content"));
+    content->setMinimumSize(width, height);
+    layout->addWidget(content);
+    return page;
+}
+
+QRect placeOf(QWizard& wizard, QWizard::WizardButton which) {
+    const QWidget& button = *wizard.button(which);
+    return {button.mapTo(&wizard, {0, 0}), button.size()};
+}
+
+} // namespace
+
+class ScreenFitTest : public QObject {
+    Q_OBJECT
+private slots:
+    void initTestCase() { ui::keepDialogsOnScreen(*qApp); }
+
+    void aWindowLeavesRoomForItsFrame() {
+        const QSize room = ui::largestWindow({0, 0, 910, 480});
+        QVERIFY(room.width() < 910 && room.width() > 880);
+        QVERIFY(room.height() < 450 && room.height() > 420);
+    }
+
+    void aDialogOpensNoLargerThanTheScreen() {
+        QDialog dialog;
+        dialog.resize(5000, 5000);
+        dialog.show();
+        const QRect screen = dialog.screen()->availableGeometry();
+        QCOMPARE(dialog.size(), ui::largestWindow(screen));
+    }
+
+    void aWindowIsMadeToFitTheScreen() {
+        QWidget window;
+        window.setGeometry(100, 100, 5000, 300);
+        ui::keepOnScreen(window);
+        const QRect room = window.screen()->availableGeometry();
+        QCOMPARE(window.size(), QSize(ui::largestWindow(room).width(), 300));
+        QVERIFY(room.contains(window.pos()));
+        window.setGeometry(100, 100, 300, 300);
+        ui::keepOnScreen(window);
+        QCOMPARE(window.geometry(), QRect(100, 100, 300, 300));
+    }
+
+    void aDialogThatFitsKeepsItsSize() {
+        QDialog dialog;
+        dialog.resize(300, 200);
+        dialog.show();
+        QCOMPARE(dialog.size(), QSize(300, 200));
+    }
+
+    void contentScrollsAndTheButtonsStay() {
+        QDialog dialog;
+        auto* layout = new QVBoxLayout(&dialog);
+        auto* content = new QLabel(QStringLiteral("content"));
+        content->setMinimumSize(700, 2000);
+        layout->addWidget(content);
+        auto* buttons = new QHBoxLayout;
+        auto* button = new QPushButton(QStringLiteral("Close"));
+        buttons->addWidget(button);
+        layout->addLayout(buttons);
+        const QSize wanted = dialog.sizeHint();
+        ui::letContentScroll(dialog, buttons);
+        // It wants what it wanted before, but for the style's spaces, and needs less.
+        QVERIFY((dialog.sizeHint() - wanted).width() < 10);
+        QVERIFY(qAbs((dialog.sizeHint() - wanted).height()) < 10);
+        QVERIFY(dialog.minimumSizeHint().height() < 400);
+        dialog.show();
+        QVERIFY(dialog.rect().contains({button->mapTo(&dialog, {0, 0}), button->size()}));
+        QVERIFY(content->height() >= 2000);
+    }
+
+    void aWizardHasOneSizeAndItsButtonsStay() {
+        QWizard wizard;
+        wizard.setPixmap(QWizard::WatermarkPixmap, QPixmap(164, 314));
+        wizard.addPage(newPage(300, 100));
+        wizard.addPage(newPage(600, 400));
+        wizard.addPage(newPage(300, 50));
+        ui::giveOneSize(wizard);
+        wizard.show();
+        const QSize size = wizard.size();
+        QVERIFY2(size.width() >= 600 && size.height() >= 400, "not all pages have room");
+        const QRect next = placeOf(wizard, QWizard::NextButton);
+        wizard.next();
+        QCoreApplication::processEvents();
+        QCOMPARE(wizard.size(), size);
+        QCOMPARE(placeOf(wizard, QWizard::NextButton), next);
+        wizard.next();
+        QCoreApplication::processEvents();
+        QCOMPARE(wizard.size(), size);
+        QCOMPARE(placeOf(wizard, QWizard::CancelButton).bottom(), next.bottom());
+    }
+
+    void aWizardFitsASmallScreen() {
+        QWizard wizard;
+        wizard.setPixmap(QWizard::WatermarkPixmap, QPixmap(164, 314));
+        wizard.addPage(newPage(300, 100));
+        wizard.addPage(newPage(600, 2000));
+        ui::giveOneSize(wizard);
+        wizard.show();
+        QVERIFY(wizard.height() <=
+                ui::largestWindow(wizard.screen()->availableGeometry()).height());
+        wizard.next();
+        QVERIFY2(wizard.minimumHeight() < 420, qPrintable(QString::number(wizard.minimumHeight())));
+        wizard.resize(700, 430);
+        QCoreApplication::processEvents();
+        QCOMPARE(wizard.height(), 430);
+        QVERIFY(wizard.rect().contains(placeOf(wizard, QWizard::FinishButton)));
+    }
+};
+
+QTEST_MAIN(ScreenFitTest)
+#include "screen_fit_test.moc"
