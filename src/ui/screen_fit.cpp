@@ -58,7 +58,7 @@ public:
     }
 
 private:
-    static constexpr QSize smallest{300, 120};
+    static constexpr QSize smallest{200, 80};
 
     /// As small as it may be before it scrolls, which the scroll area doesn't do to texts that
     /// wrap.
