@@ -177,15 +177,12 @@ void letContentScroll(QWidget& page, QLayout* buttons) {
     const QMargins margins = page.layout()->contentsMargins();
     if (buttons) {
         page.layout()->removeItem(buttons);
-        const int spacing = buttons->spacing();
         buttons->setParent(nullptr);
-        buttons->setSpacing(spacing);
         buttons->setContentsMargins(margins.left(), 0, margins.right(), margins.bottom());
     }
     auto* area = new ContentArea(page);
     auto* outer = new QVBoxLayout(&page);
     outer->setContentsMargins({});
-    outer->setSpacing(0);
     outer->addWidget(area, 1);
     if (buttons)
         outer->addLayout(buttons);
