@@ -99,15 +99,21 @@ private:
     }
 };
 
-/// A dialog with content that may scroll needs less than it wants.
+/// A dialog with content that may scroll would open without a look at what that needs.
 class OpensWhole : public AtShow {
 public:
-    using AtShow::AtShow;
+    OpensWhole(QDialog& dialog, const ContentArea& area)
+        : AtShow(&dialog)
+        , area_(area) {}
 
 private:
     void beforeShow(QDialog& dialog) override {
-        dialog.resize(dialog.size().expandedTo(dialog.sizeHint()).boundedTo(roomOf(dialog)));
+        dialog.layout()->activate();
+        const QSize lacking = area_.widget()->minimumSizeHint() - area_.size();
+        dialog.resize((dialog.size() + lacking.expandedTo({0, 0})).boundedTo(roomOf(dialog)));
     }
+
+    const ContentArea& area_;
 };
 
 /// The first time only: later it has the size that the user has given it.
@@ -186,8 +192,8 @@ void letContentScroll(QWidget& page, QLayout* buttons) {
     outer->addWidget(area, 1);
     if (buttons)
         outer->addLayout(buttons);
-    if (page.isWindow())
-        page.installEventFilter(new OpensWhole(&page));
+    if (auto* dialog = qobject_cast<QDialog*>(&page))
+        dialog->installEventFilter(new OpensWhole(*dialog, *area));
 }
 
 void letContentScroll(QWidget& page, QWidget& buttons) {
