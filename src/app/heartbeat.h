@@ -28,6 +28,7 @@ public:
     /// The type of the events, which is no one else's.
     int eventType() const { return eventType_; }
 
+    /// Nothing, once it was stopped.
     void start();
     /// Ends the thread. What has been posted stays in the receiver's queue.
     void stop();

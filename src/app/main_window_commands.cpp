@@ -1,23 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
-// The main window's slots that act on sets and activities, and those of its icon in the tray.
+// The main window's slots that act on sets.
 #include <algorithm>
 
-#include <QApplication>
 #include <QContextMenuEvent>
 #include <QDateTime>
 #include <QMenu>
 
 #include "app/activity_commands.h"
-#include "app/activity_tables.h"
 #include "app/backup_set_list.h"
-#include "app/event_log_viewer.h"
 #include "app/insight_windows.h"
-#include "app/log_span.h"
 #include "app/open_backup_set.h"
 #include "app/simple_gui_main_window.h"
-#include "app/status_link.h"
-#include "app/tray_presence.h"
 #include "insight/restore_summary_box.h"
 #include "session/connection.h"
 #include "session/process_values.h"
@@ -34,19 +28,24 @@
 
 namespace {
 
-void filter(EventLogViewer& viewer, const std::optional<hessiancln::activity_log_info>& activity) {
-    if (activity) {
-        viewer.showFor(QDateTime::fromSecsSinceEpoch(activity->start_time),
-                       QDateTime::fromSecsSinceEpoch(activity->end_time), activity->id);
-    } else {
-        const app::LogSpan span = app::yesterdayAndToday(QDate::currentDate());
-        viewer.showFor(span.from, span.to, 0);
-    }
+/// The key that leads to a deletion isn't disabled with the command.
+bool refusesDeletion(const BackupSetViewItem* card) {
+    return card && session::g_isCentrallyManaged && card->record().is_created_by_policy;
 }
 
-/// The key that leads to a deletion isn't disabled with the command.
-bool mayDelete(const hessiancln::backup_set_info& set) {
-    return !session::g_isCentrallyManaged || !set.is_created_by_policy;
+/// How an activity on a set is announced: `status` gets the time and the name of the set.
+QString startedText(const QString& status, const hessiancln::backup_set_info& set) {
+    return status.arg(ui::timeText(QDateTime::currentSecsSinceEpoch(), QLocale::LongFormat),
+                      session::fromWire(set.name));
+}
+
+auto restoreFrom(QWidget& parent, const boost::shared_ptr<hessiancln::BackupSet>& set) {
+    return wizards::restoreFromSet(parent, set, insight::addRestoreSummary);
+}
+
+void editItems(QWidget& parent, const hessiancln::backup_set_info& set) {
+    const wizards::SetFeatures features = wizards::readSetFeatures();
+    wizards::editItems(parent, features, app::openBackupSet(set.id), set.has_items);
 }
 
 } // namespace
@@ -71,64 +70,69 @@ void SimpleGUIMainWindow::commandSelectedSet(const QString& errorTitle, ui::Curs
     ui::remoteAction(*this, errorTitle, cursor, [&] { command(set); });
 }
 
-void SimpleGUIMainWindow::start(StartOnSet* begin, const hessiancln::backup_set_info& set,
-                                const QString& status) {
-    // Kept for as long as the activity is spoken of.
-    const auto activity = begin(set.id);
-    RefreshActivityLogs();
-    showStarted(set, status);
+void SimpleGUIMainWindow::startOnSelectedSet(StartOnSet* begin, ui::Cursor cursor,
+                                             const QString& status) {
+    commandSelectedSet(tr("Error"), cursor, [this, begin, &status](const auto& set) {
+        // Kept for as long as the activity is spoken of.
+        const auto activity = begin(set.id);
+        RefreshActivityLogs();
+        showStatus(startedText(status, set));
+    });
 }
 
-void SimpleGUIMainWindow::follow(const hessiancln::backup_set_info& set, const QString& status) {
+void SimpleGUIMainWindow::runOnSelectedSet(RunOnSet* wizard, const QString& status) {
+    commandSelectedSet(tr("Error"), ui::Cursor::arrow, [this, wizard, &status](const auto& set) {
+        follow(wizard(*this, app::openBackupSet(set.id)), set, status);
+    });
+}
+
+void SimpleGUIMainWindow::follow(const Started& activity, const hessiancln::backup_set_info& set,
+                                 const QString& status) {
+    if (!activity)
+        return;
     refreshAll();
     // Where the refresh met a failure, that is the news.
     if (session::connectedToAgent() && refreshFailure_.isEmpty())
-        showStarted(set, status);
+        showStatus(startedText(status, set));
 }
 
-void SimpleGUIMainWindow::showStarted(const hessiancln::backup_set_info& set,
-                                      const QString& status) {
-    showStatus(status.arg(ui::timeText(QDateTime::currentSecsSinceEpoch(), QLocale::LongFormat),
-                          session::fromWire(set.name)));
-}
-
-void SimpleGUIMainWindow::editSelectedSet(EditSet* edit) {
-    commandSelectedSet(tr("Error"), ui::Cursor::arrow, [this, edit](const auto& set) {
+std::int32_t SimpleGUIMainWindow::editSelectedSet(EditSet* edit) {
+    std::int32_t id = -1;
+    commandSelectedSet(tr("Error"), ui::Cursor::arrow, [this, edit, &id](const auto& set) {
+        id = set.id;
         if (edit(*this, app::openBackupSet(set.id)))
             showSetDetails();
     });
+    return id;
+}
+
+void SimpleGUIMainWindow::createBackupSet() {
+    const auto set = wizards::createBackupSet(*this);
+    if (!set)
+        return;
+    selectSetOnceListed(set->id);
+    showStatus(
+        tr("%1: Backup set '%2' created")
+            .arg(ui::timeText(QDateTime::currentSecsSinceEpoch(), QLocale::LongFormat), set->name));
 }
 
 void SimpleGUIMainWindow::OnNewBackupSet() {
-    ui::remoteAction(*this, tr("New Backup Set Error"), ui::Cursor::arrow, [this] {
-        if (const auto set = wizards::createBackupSet(*this)) {
-            selectSetOnceListed(set->id);
-            showStatus(
-                tr("%1: Backup set '%2' created")
-                    .arg(ui::timeText(QDateTime::currentSecsSinceEpoch(), QLocale::LongFormat),
-                         set->name));
-        }
-    });
+    ui::remoteAction(*this, tr("New Backup Set Error"), ui::Cursor::arrow,
+                     [this] { createBackupSet(); });
 }
 
 void SimpleGUIMainWindow::OnBackupNow() {
-    commandSelectedSet(tr("Error"), ui::Cursor::wait, [this](const auto& set) {
-        start(app::startBackup, set, tr("%1: On-demand backup started for '%2'"));
-    });
+    startOnSelectedSet(app::startBackup, ui::Cursor::wait,
+                       tr("%1: On-demand backup started for '%2'"));
 }
 
 void SimpleGUIMainWindow::OnSync() {
-    commandSelectedSet(tr("Error"), ui::Cursor::arrow, [this](const auto& set) {
-        start(app::startSync, set, tr("%1: On-demand Synchronization started for '%2'"));
-    });
+    startOnSelectedSet(app::startSync, ui::Cursor::arrow,
+                       tr("%1: On-demand Synchronization started for '%2'"));
 }
 
 void SimpleGUIMainWindow::OnRestore() {
-    commandSelectedSet(tr("Error"), ui::Cursor::arrow, [this](const auto& set) {
-        if (const auto activity = wizards::restoreFromSet(*this, app::openBackupSet(set.id),
-                                                          insight::addRestoreSummary))
-            follow(set, tr("%1: Restore started for '%2'"));
-    });
+    runOnSelectedSet(restoreFrom, tr("%1: Restore started for '%2'"));
 }
 
 void SimpleGUIMainWindow::restoreFile(std::int32_t setId, const QStringList& path,
@@ -138,33 +142,30 @@ void SimpleGUIMainWindow::restoreFile(std::int32_t setId, const QStringList& pat
         const auto listed = std::ranges::find(sets, setId, &hessiancln::backup_set_info::id);
         // A copy: the list changes while the wizard is open.
         const auto set = listed == sets.end() ? hessiancln::backup_set_info() : *listed;
-        if (const auto activity = wizards::restoreFromSet(*this, app::openBackupSet(setId),
-                                                          insight::addRestoreSummary,
-                                                          wizards::RestoreFile{path, upTo}))
-            follow(set, tr("%1: Restore started for '%2'"));
+        follow(wizards::restoreFromSet(*this, app::openBackupSet(setId), insight::addRestoreSummary,
+                                       wizards::RestoreFile{path, upTo}),
+               set, tr("%1: Restore started for '%2'"));
     });
 }
 
-void SimpleGUIMainWindow::commandSet(std::int32_t setId, void (SimpleGUIMainWindow::*command)()) {
+void SimpleGUIMainWindow::backUpSet(std::int32_t setId) {
     if (sets_->selectSet(setId))
-        (this->*command)();
+        OnBackupNow();
+}
+
+void SimpleGUIMainWindow::syncSet(std::int32_t setId) {
+    if (sets_->selectSet(setId))
+        OnSync();
 }
 
 void SimpleGUIMainWindow::OnDelete() {
-    commandSelectedSet(tr("Error"), ui::Cursor::arrow, [this](const auto& set) {
-        if (!mayDelete(set))
-            return;
-        if (const auto activity = wizards::deleteFromSet(*this, app::openBackupSet(set.id)))
-            follow(set, tr("%1: Deletion started for '%2'"));
-    });
+    if (!refusesDeletion(selectedSetItem()))
+        runOnSelectedSet(wizards::deleteFromSet, tr("%1: Deletion started for '%2'"));
 }
 
 void SimpleGUIMainWindow::on_btnItems_clicked() {
-    commandSelectedSet(
-        tr("Editing Backup Set Items Error"), ui::Cursor::arrow, [this](const auto& set) {
-            const wizards::SetFeatures features = wizards::readSetFeatures();
-            wizards::editItems(*this, features, app::openBackupSet(set.id), set.has_items);
-        });
+    commandSelectedSet(tr("Editing Backup Set Items Error"), ui::Cursor::arrow,
+                       [this](const auto& set) { editItems(*this, set); });
 }
 
 void SimpleGUIMainWindow::on_btnRetention_clicked() {
@@ -172,10 +173,7 @@ void SimpleGUIMainWindow::on_btnRetention_clicked() {
 }
 
 void SimpleGUIMainWindow::on_btnSchedule_clicked() {
-    const BackupSetViewItem* card = selectedSetItem();
-    const std::int32_t set = card ? card->record().id : -1;
-    editSelectedSet(wizards::editSchedule);
-    insight_->scheduleChanged(set);
+    insight_->scheduleChanged(editSelectedSet(wizards::editSchedule));
 }
 
 void SimpleGUIMainWindow::OnBackupSetSelectionChanged(const QItemSelection&,
@@ -186,76 +184,5 @@ void SimpleGUIMainWindow::OnBackupSetSelectionChanged(const QItemSelection&,
 
 void SimpleGUIMainWindow::backupSetContextMenu(BackupSetViewItem*, QContextMenuEvent* event) {
     // Not run in a loop of its own: a heartbeat may take away the card that asked for it.
-    auto* menu = new QMenu(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    menu->addAction(ui_->actionBackup_Now);
-    menu->addAction(ui_->actionRestore);
-    menu->addAction(ui_->actionDeleteFromOnline);
-    menu->addSeparator();
-    menu->addAction(ui_->actionSynchronize);
-    menu->popup(event->globalPos());
-}
-
-void SimpleGUIMainWindow::OnRunningActivitySelectionChanged(const QItemSelection&,
-                                                            const QItemSelection&) {
-    ui_->buttonStop->setEnabled(activities_->anyRunningSelected());
-}
-
-void SimpleGUIMainWindow::OnStopActivity() {
-    ui::remoteAction(*this, tr("Error"), ui::Cursor::arrow, [this] {
-        for (const std::int32_t id : activities_->selectedRunning())
-            showStatus(tr("Sent a stop request to activity with id %1")
-                           .arg(ui::numberText(app::stopActivity(id))));
-    });
-}
-
-void SimpleGUIMainWindow::ShowEventLog() {
-    showEventsOf(activities_->selectedLogEntry());
-}
-
-void SimpleGUIMainWindow::showEventsOf(
-    const std::optional<hessiancln::activity_log_info>& activity) {
-    EventLogViewer viewer(this);
-    viewer.setNamesByActivity(
-        insight_->namesByActivity(activities_->log().records(), activities_->running().records()));
-    filter(viewer, activity);
-    viewer.exec();
-}
-
-void SimpleGUIMainWindow::activityChangeDetected(
-    const QList<hessiancln::running_activity_info>& appeared,
-    const QList<hessiancln::running_activity_info>& disappeared) {
-    tray_->announce(appeared, disappeared);
-    insight_->watchEnds(disappeared);
-}
-
-void SimpleGUIMainWindow::announceEnd(const hessiancln::activity_log_info& ended,
-                                      const QString& text) {
-    if (ended.type == hessiancln::ActivityType::Restore) {
-        showStatus(text);
-        statusLink_->offer(text, [this, ended] { showEventsOf(ended); });
-    }
-    tray_->announceEnd(ended, text);
-}
-
-void SimpleGUIMainWindow::showMainWindow() {
-    tray_->showWindow();
-}
-
-void SimpleGUIMainWindow::hideMainWindow() {
-    tray_->hideWindow();
-}
-
-void SimpleGUIMainWindow::sysTrayActivated(QSystemTrayIcon::ActivationReason reason) {
-    if (reason == QSystemTrayIcon::Trigger)
-        showMainWindow();
-}
-
-void SimpleGUIMainWindow::sysTrayMessageClicked() {
-    tray_->endReminder();
-    // Over a dialog there is no room for another one.
-    if (tray_->lastNews() && session::connectedToAgent() && !QApplication::activeModalWidget()) {
-        showMainWindow();
-        showEventsOf(tray_->lastNews());
-    }
+    setMenu_->popup(event->globalPos());
 }

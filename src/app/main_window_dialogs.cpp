@@ -62,7 +62,6 @@ void SimpleGUIMainWindow::on_actionLogo_triggered() {
 }
 
 void SimpleGUIMainWindow::on_actionHelp_triggered() {
-    const QUrl url = app::helpUrl(session::g_language);
-    if (!app::openGuide(url))
+    if (const QUrl url = app::helpUrl(session::g_language); !app::openGuide(url))
         showStatus(tr("Failed to open the help file %1.").arg(url.toDisplayString()));
 }

@@ -74,6 +74,10 @@ void SimpleGUIMainWindow::OnConnect() {
 
 void SimpleGUIMainWindow::OnDisconnect() {
     session::disconnectFromAgent();
+    showNoSession();
+}
+
+void SimpleGUIMainWindow::showNoSession() {
     connection_->end();
     setWindowTitle(tr("Ostrand Backup"));
     showStatus(tr("Current connection terminated"));

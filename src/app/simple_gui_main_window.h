@@ -17,6 +17,7 @@
 
 class BackupSetViewItem;
 class QContextMenuEvent;
+class QMenu;
 
 namespace Ui {
 class SimpleGUIMainWindow;
@@ -58,8 +59,11 @@ struct running_activity_info;
 class SimpleGUIMainWindow : public QMainWindow {
     Q_OBJECT
 public:
-    explicit SimpleGUIMainWindow(QWidget* parent = nullptr, std::unique_ptr<app::TrayIcon> tray =
-                                                                std::make_unique<app::TrayIcon>());
+    /// `sleep` is how a second passes between heartbeats.
+    explicit SimpleGUIMainWindow(
+        QWidget* parent = nullptr,
+        std::unique_ptr<app::TrayIcon> tray = std::make_unique<app::TrayIcon>(),
+        app::Heartbeat::Sleep sleep = app::Heartbeat::sleepOneSecond);
     /// Ends the heartbeat thread. Events that are still in the queue die with the window.
     ~SimpleGUIMainWindow() override;
 
@@ -135,6 +139,15 @@ protected:
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
+private slots:
+    // What other windows and news ask for.
+    void backUpSet(std::int32_t setId);
+    void syncSet(std::int32_t setId);
+    void restoreFile(std::int32_t setId, const QStringList& path, std::optional<std::int32_t> upTo);
+    void showEventsOf(const std::optional<hessiancln::activity_log_info>& activity);
+    void announceEnd(const hessiancln::activity_log_info& ended, const QString& text);
+    void showLastNews();
+
 private:
     void setUpBranding();
     void setUpToolBars();
@@ -147,14 +160,9 @@ private:
 
     app::EnableInputs enableInputs() const;
     void showSession(const QString& server, const QString& user);
+    void showNoSession();
     void showStatus(const QString& text);
     void openInitialConfiguration();
-
-    /// Selects the set and runs a command on it, as a user does.
-    void commandSet(std::int32_t setId, void (SimpleGUIMainWindow::*command)());
-    void restoreFile(std::int32_t setId, const QStringList& path, std::optional<std::int32_t> upTo);
-    void showEventsOf(const std::optional<hessiancln::activity_log_info>& activity);
-    void announceEnd(const hessiancln::activity_log_info& ended, const QString& text);
 
     /// Reads something in the session, or ends the session if that fails.
     void refresh(const std::function<void()>& read);
@@ -165,21 +173,29 @@ private:
     using SetCommand = std::function<void(const hessiancln::backup_set_info& set)>;
     void commandSelectedSet(const QString& errorTitle, ui::Cursor cursor,
                             const SetCommand& command);
-    /// Starts an activity; `status` gets the time and the name of the set.
+    /// Starts an activity on the selected set; `status` gets the time and the name of the set.
     using StartOnSet = boost::shared_ptr<hessiancln::GenericActivity>(std::int32_t setId);
-    void start(StartOnSet* begin, const hessiancln::backup_set_info& set, const QString& status);
-    /// Shows what the agent has after a wizard started an activity, and then `status`.
-    void follow(const hessiancln::backup_set_info& set, const QString& status);
-    void showStarted(const hessiancln::backup_set_info& set, const QString& status);
-    /// Edits the selected set, and shows its details again if the edit was finished.
+    void startOnSelectedSet(StartOnSet* begin, ui::Cursor cursor, const QString& status);
+    /// Runs a wizard on the selected set. Where it started an activity, shows what the agent has
+    /// now, and then `status`.
+    using Started = std::optional<boost::shared_ptr<hessiancln::GenericActivity>>;
+    using RunOnSet = Started(QWidget& parent, const boost::shared_ptr<hessiancln::BackupSet>& set);
+    void runOnSelectedSet(RunOnSet* wizard, const QString& status);
+    void follow(const Started& activity, const hessiancln::backup_set_info& set,
+                const QString& status);
+    /// Edits the selected set, and shows its details again if the edit was finished. The set's id;
+    /// -1 without a set.
     using EditSet = bool(QWidget& parent, const boost::shared_ptr<hessiancln::BackupSet>& set);
-    void editSelectedSet(EditSet* edit);
+    std::int32_t editSelectedSet(EditSet* edit);
+    void createBackupSet();
+    void stopSelectedActivities();
 
     std::unique_ptr<Ui::SimpleGUIMainWindow> ui_;
     std::unique_ptr<app::ActivityTables> activities_;
     std::unique_ptr<app::BackupSetList> sets_;
     std::unique_ptr<app::SetDetailsPanel> details_;
     std::unique_ptr<app::TrayPresence> tray_;
+    QMenu* setMenu_ = nullptr;                     ///< a child of the window
     app::ConnectionDisplay* connection_ = nullptr; ///< belongs to the status bar
     std::unique_ptr<app::InsightWindows> insight_;
     app::StatusLink* statusLink_ = nullptr; ///< belongs to the status bar

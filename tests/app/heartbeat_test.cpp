@@ -40,6 +40,19 @@ public:
             changed_.wait(lock);
     }
 
+    /// Lets seconds pass, for a thread that may have gone.
+    void pass(int count) {
+        const boost::lock_guard lock(mutex_);
+        passed_ += count;
+        changed_.notify_all();
+    }
+
+    /// The seconds that the thread has begun.
+    int begun() {
+        const boost::lock_guard lock(mutex_);
+        return begun_;
+    }
+
 private:
     boost::mutex mutex_;
     boost::condition_variable changed_;
@@ -115,16 +128,30 @@ private slots:
         QVERIFY(sleeping.interrupted);
     }
 
-    void stopMayComeFirstOrTwice() {
+    void stopMayComeFirst() {
         Receiver receiver;
-        app::Heartbeat heartbeat(receiver);
+        SteppedSeconds seconds;
+        app::Heartbeat heartbeat(receiver, [&seconds] { seconds.sleep(); });
+        seconds.pass(5);
         heartbeat.stop();
-        app::Heartbeat running(receiver);
-        running.start();
-        running.stop();
-        running.stop();
+        heartbeat.start(); // has nothing left to do
+        heartbeat.stop();
         QCoreApplication::processEvents();
-        QCOMPARE(receiver.count(running.eventType()), 0);
+        QCOMPARE(seconds.begun(), 0);
+        QCOMPARE(receiver.count(heartbeat.eventType()), 0);
+    }
+
+    void noBeatComesAfterTheFirstOfTwoStops() {
+        SleepingHeartbeat sleeping;
+        for (int second = 0; second < 3; ++second)
+            sleeping.seconds.pass();
+        sleeping.heartbeat->stop();
+        QVERIFY(sleeping.interrupted);
+        sleeping.seconds.pass(5);
+        sleeping.heartbeat->stop();
+        QCoreApplication::processEvents();
+        QCOMPARE(sleeping.seconds.begun(), 4);
+        QCOMPARE(sleeping.receiver.count(sleeping.heartbeat->eventType()), 0);
     }
 
     void eachHasAnEventTypeOfItsOwn() {

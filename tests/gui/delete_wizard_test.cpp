@@ -57,9 +57,7 @@ private slots:
 private:
     void protect() {
         test_.agent->withWorld([](World& world) { world.twoFactor = true; });
-        test_.quiet->letPass = true;
         test_.driver->beat();
-        test_.quiet->letPass = false;
     }
     void expectRemovalQuestion(QMessageBox::StandardButton answer);
     Calls calls() const { return support::steadyCallsOf(*test_.agent); }

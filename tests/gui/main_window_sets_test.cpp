@@ -429,8 +429,10 @@ void MainWindowSetsTest::theListMayGoUnderAnOpenContextMenu() {
     agent_->inject("getTarnClientInfo", simulator::Fault{"Out of order."});
     driver_->beat();
     QTRY_VERIFY(!card);
+    QVERIFY(menu);
+    QCOMPARE(QApplication::activePopupWidget(), menu.data());
     menu->close();
-    QTRY_VERIFY(!menu);
+    QVERIFY(!QApplication::activePopupWidget());
 }
 
 void MainWindowSetsTest::theDeleteKeyWithoutASelectionShowsTheBox() {

@@ -408,7 +408,8 @@ private slots:
 
     void beatsByItself() {
         GuiAgent agent;
-        window().doLogin(true);
+        SimpleGUIMainWindow window(nullptr, std::make_unique<support::RecordingTray>(false));
+        window.doLogin(true);
         agent.clearCallLog();
         QTRY_COMPARE_WITH_TIMEOUT(calls(agent, "backup_sets_info"), 1, 20'000);
         QTRY_COMPARE_WITH_TIMEOUT(calls(agent, "backup_sets_info"), 2, 20'000);

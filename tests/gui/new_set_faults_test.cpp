@@ -65,7 +65,6 @@ private:
 
     std::unique_ptr<GuiAgent> agent_;
     std::unique_ptr<MainWindowDriver> driver_;
-    std::unique_ptr<support::NoHeartbeats> quiet_;
     std::unique_ptr<ModalDriver> modals_;
     std::size_t setsBefore_ = 0;
     Calls heldBefore_;
@@ -76,7 +75,6 @@ void NewSetFaultsTest::initTestCase() {
     resources::initPictures();
     agent_ = std::make_unique<GuiAgent>();
     driver_ = std::make_unique<MainWindowDriver>();
-    quiet_ = std::make_unique<support::NoHeartbeats>(driver_->window());
     driver_->logIn(*agent_);
     modals_ = std::make_unique<ModalDriver>();
     setsBefore_ = setCount();
@@ -84,7 +82,6 @@ void NewSetFaultsTest::initTestCase() {
 }
 
 void NewSetFaultsTest::cleanupTestCase() {
-    quiet_.reset();
     driver_.reset();
     agent_.reset();
 }

@@ -8,6 +8,8 @@
 #include <QStatusBar>
 #include <QTableView>
 
+#include <boost/thread/thread.hpp>
+
 #include "app/backup_set_view_item.h"
 #include "session/text.h"
 #include "simulator/world/world.h"
@@ -15,10 +17,19 @@
 
 namespace support {
 
+namespace {
+
+/// A second that only the end of the thread interrupts.
+void sleepWithoutEnd() {
+    boost::this_thread::sleep_until(boost::chrono::steady_clock::time_point::max());
+}
+
+} // namespace
+
 MainWindowDriver::MainWindowDriver(bool trayAvailable) {
     auto tray = std::make_unique<RecordingTray>(trayAvailable);
     tray_ = tray.get();
-    window_ = std::make_unique<SimpleGUIMainWindow>(nullptr, std::move(tray));
+    window_ = std::make_unique<SimpleGUIMainWindow>(nullptr, std::move(tray), sleepWithoutEnd);
     window_->show();
     // A window that isn't active asks more: it wants names for its balloons. A display without a
     // window manager has no active window, which does for pictures.

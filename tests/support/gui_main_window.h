@@ -39,7 +39,8 @@ private:
     bool available_;
 };
 
-/// The main window, shown, and what a test does to it and sees of it.
+/// The main window, shown, and what a test does to it and sees of it. Its heart beats only when
+/// the test says so.
 class MainWindowDriver {
 public:
     explicit MainWindowDriver(bool trayAvailable = true);

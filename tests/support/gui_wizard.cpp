@@ -67,15 +67,6 @@ void cancelWizard(QWidget& widget, int page, const AtPage& atPage) {
         qFatal("The wizard can't be cancelled on page %d", page);
 }
 
-NoHeartbeats::NoHeartbeats(SimpleGUIMainWindow& window)
-    : type_(window.heartbeatEventType()) {
-    window.installEventFilter(this);
-}
-
-bool NoHeartbeats::eventFilter(QObject*, QEvent* event) {
-    return event->type() == type_ && !letPass;
-}
-
 void nameNewSet(QWizardPage& page) {
     if (auto* name = page.findChild<QLineEdit*>(QStringLiteral("editSetName")))
         name->setText(QStringLiteral("  New one "));
@@ -87,7 +78,6 @@ void WizardTest::start(simulator::Scenario scenario,
     if (change)
         agent->withWorld(change);
     driver = std::make_unique<MainWindowDriver>();
-    quiet = std::make_unique<NoHeartbeats>(driver->window());
     if (!modals)
         modals = std::make_unique<ModalDriver>();
     driver->logIn(*agent);
@@ -97,7 +87,6 @@ void WizardTest::end() {
     QVERIFY(modals->done());
     modals.reset();
     QCOMPARE(agent->violations(), std::vector<std::string>{});
-    quiet.reset();
     driver.reset();
     QCOMPARE(agent->liveObjects(), std::vector<std::string>{});
     agent.reset();

@@ -27,20 +27,6 @@ bool finishWizard(QWidget& wizard, const AtPage& atPage = {});
 /// Goes on by so many pages and cancels.
 void cancelWizard(QWidget& wizard, int page, const AtPage& atPage = {});
 
-/// Keeps the heartbeats of a window's own thread away from it, while it lives. Those of a test
-/// driver that are sent, not posted, are kept away as well.
-class NoHeartbeats : public QObject {
-public:
-    explicit NoHeartbeats(SimpleGUIMainWindow& window);
-
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
-    bool letPass = false;
-
-private:
-    int type_;
-};
-
 /// Types the name "  New one " on the page that wants a name.
 void nameNewSet(QWizardPage& page);
 
@@ -64,7 +50,6 @@ public:
 
     std::unique_ptr<GuiAgent> agent;
     std::unique_ptr<MainWindowDriver> driver;
-    std::unique_ptr<NoHeartbeats> quiet;
     std::unique_ptr<ModalDriver> modals; ///< from the start on, or if a test makes it before that
 };
 

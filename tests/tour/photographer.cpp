@@ -31,8 +31,7 @@ Photographer::Photographer(Album& album, simulator::Options options,
                            const std::function<void(simulator::World&)>& change)
     : album_(album)
     , passed_(std::make_shared<std::atomic<simulator::Milliseconds>>(0))
-    , agent_(ahead(std::move(options), passed_))
-    , quiet_(driver_.window()) {
+    , agent_(ahead(std::move(options), passed_)) {
     if (change)
         agent_.withWorld(change);
 }

@@ -74,7 +74,6 @@ private:
     std::shared_ptr<std::atomic<simulator::Milliseconds>> passed_; ///< in which the agent is ahead
     support::GuiAgent agent_;
     support::MainWindowDriver driver_;
-    support::NoHeartbeats quiet_;
     support::ModalDriver modals_;
 };
 
