@@ -9,6 +9,7 @@
 // It says "typed" and "closed" on its output, and waits for a line after each.
 #include <cstdlib>
 #include <iostream>
+#include <map>
 #include <memory>
 
 #include <QApplication>
@@ -42,8 +43,9 @@ void say(const char* word) {
     std::getline(std::cin, line);
 }
 
+/// Waits as well, so that the memory can be looked at.
 [[noreturn]] void giveUp(const QString& why) {
-    std::cout << qPrintable(why) << std::endl;
+    say(qPrintable(why));
     std::_Exit(1);
 }
 
@@ -160,19 +162,19 @@ void sshIdentity() {
 }
 
 /// The agent asks for it only behind a login of its own.
-void sudo() {
-    tryLogin([](SelectDataSourcePage& source) {
+void sudo(const char* button) {
+    tryLogin([button](SelectDataSourcePage& source) {
         whenOpen<CSSHConnectAsDlg>([](CSSHConnectAsDlg& dialog) {
             child<QLineEdit>(dialog, "editUserName").setText(QStringLiteral("demo"));
             child<QLineEdit>(dialog, "editPassword").setText(QStringLiteral("demo"));
             press(dialog, "btnOK");
         });
         source.OnSelectConnectAs();
-        whenOpen<CSSHSudoCredentials>([](CSSHSudoCredentials& dialog) {
+        whenOpen<CSSHSudoCredentials>([button](CSSHSudoCredentials& dialog) {
             child<QLineEdit>(dialog, "editUserName").setText(QStringLiteral("backup"));
             typeSecret(dialog, "editPassword");
             say("typed");
-            press(dialog, "btnOK");
+            press(dialog, button);
         });
         source.OnSelectSudo();
     });
@@ -188,28 +190,30 @@ void waitForText(QLineEdit& field) {
         QApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
 }
 
-void account(bool typed) {
+void account(std::initializer_list<const char*> fields, const char* button) {
     ADAccountDlg dialog;
     dialog.show();
     waitForText(child<QLineEdit>(dialog, "editUser"));
-    if (typed)
-        for (const char* field : {"editPassword", "editConfirm"})
-            typeSecret(dialog, field);
-    say("typed");
-    press(dialog, typed ? "btnSave" : "btnCancel");
+    fillAndPress<ADAccountDlg>(fields, button)(dialog);
 }
 
-void registration(bool typed) {
+void registration(std::initializer_list<const char*> fields, const char* button) {
     InitClntCfgDlg dialog(true);
     dialog.show();
-    if (typed)
-        for (const char* field : {"txtFieldPrivateKey", "txtFieldPrivateKeyConfirm"})
-            typeSecret(dialog, field);
-    say("typed");
-    press(dialog, typed ? "btnSave" : "btnCancel");
+    fillAndPress<InitClntCfgDlg>(fields, button)(dialog);
 }
 
-void registrationFile(const QString& path) {
+/// The key has come from the agent when it refuses the rest.
+void unreadRegistration() {
+    try {
+        InitClntCfgDlg dialog(true);
+    } catch (const std::exception&) {
+        return say("typed");
+    }
+    giveUp(QStringLiteral("the agent refuses nothing"));
+}
+
+void registrationFile(const QString& path, const char* button) {
     InitClntCfgDlg dialog(true);
     dialog.show();
     whenOpen<QFileDialog>([path](QFileDialog& chooser) {
@@ -217,8 +221,10 @@ void registrationFile(const QString& path) {
         static_cast<QDialog&>(chooser).accept();
     });
     press(dialog, "btnBrowse");
+    if (child<QLineEdit>(dialog, "txtFieldCustomer").text() != QStringLiteral("Read to the end"))
+        giveUp(QStringLiteral("the file isn't read to its end"));
     say("typed");
-    press(dialog, "btnSave");
+    press(dialog, button);
 }
 
 void code() {
@@ -232,28 +238,43 @@ void code() {
         giveUp(QStringLiteral("the agent refuses the code"));
 }
 
-void open(const QString& dialog, const QString& address, const QString& file) {
-    if (dialog == QStringLiteral("login"))
-        return login(address);
-    logIn(address);
-    if (dialog == QStringLiteral("simple"))
-        simple();
-    else if (dialog == QStringLiteral("sshPassword"))
-        sshPassword();
-    else if (dialog == QStringLiteral("sshIdentity"))
-        sshIdentity();
-    else if (dialog == QStringLiteral("sudo"))
-        sudo();
-    else if (dialog.startsWith(QStringLiteral("account")))
-        account(dialog == QStringLiteral("accountTyped"));
-    else if (dialog == QStringLiteral("registrationFile"))
-        registrationFile(file);
-    else if (dialog.startsWith(QStringLiteral("registration")))
-        registration(dialog == QStringLiteral("registrationTyped"));
-    else if (dialog == QStringLiteral("code"))
-        code();
-    else
+/// Runs what is known under that name, in a session.
+void open(const QString& dialog, const QString& file) {
+    const std::map<QString, std::function<void()>> dialogs = {
+        {QStringLiteral("simple"), simple},
+        {QStringLiteral("sshPassword"), sshPassword},
+        {QStringLiteral("sshIdentity"), sshIdentity},
+        {QStringLiteral("sudo"), [] { sudo("btnOK"); }},
+        {QStringLiteral("noSudo"), [] { sudo("btnNoSudo"); }},
+        {QStringLiteral("accountTyped"),
+         [] {
+             account({"editPassword", "editConfirm"}, "btnSave");
+         }},
+        {QStringLiteral("accountValidated"),
+         [] {
+             account({"editPassword", "editConfirm"}, "btnValidate");
+         }},
+        {QStringLiteral("accountShown"), [] { account({}, "btnCancel"); }},
+        {QStringLiteral("privateKeyTyped"),
+         [] {
+             registration({"txtFieldPrivateKey", "txtFieldPrivateKeyConfirm"}, "btnSave");
+         }},
+        {QStringLiteral("accountKeyTyped"),
+         [] {
+             registration({"txtFieldAccountKey", "txtFieldAccountKeyConfirm"}, "btnSave");
+         }},
+        {QStringLiteral("keysShown"), [] { registration({}, "btnCancel"); }},
+        {QStringLiteral("longKeysKept"), [] { registration({}, "btnSave"); }},
+        {QStringLiteral("keysUnread"), unreadRegistration},
+        {QStringLiteral("keyFromFile"), [&file] { registrationFile(file, "btnSave"); }},
+        {QStringLiteral("longKeyFromFile"), [&file] { registrationFile(file, "btnSave"); }},
+        {QStringLiteral("keyFromFileCancelled"), [&file] { registrationFile(file, "btnCancel"); }},
+        {QStringLiteral("keyReplacedFromFile"), [&file] { registrationFile(file, "btnCancel"); }},
+        {QStringLiteral("code"), code}};
+    const auto known = dialogs.find(dialog);
+    if (known == dialogs.end())
         giveUp(QStringLiteral("no such dialog"));
+    known->second();
 }
 
 } // namespace
@@ -267,7 +288,13 @@ int main(int argc, char* argv[]) {
     seed = arguments[3].toUInt();
     confirmMessages();
     try {
-        open(arguments[1], QStringLiteral("127.0.0.1:") + arguments[2], arguments.value(4));
+        const QString address = QStringLiteral("127.0.0.1:") + arguments[2];
+        if (arguments[1] == QStringLiteral("login")) {
+            login(address);
+        } else {
+            logIn(address);
+            open(arguments[1], arguments.value(4));
+        }
     } catch (const std::exception& failure) {
         giveUp(QString::fromUtf8(failure.what()));
     }

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
+#include <algorithm>
 #include <memory>
 #include <random>
 
@@ -58,6 +59,17 @@ QByteArray listed(const std::vector<std::string>& findings) {
     return text;
 }
 
+/// A key of 4,000 characters with the secret in its middle.
+std::string longKey(const std::string& secret) {
+    const std::string half(2000 - support::derivedSecretLength / 2, '.');
+    return half + secret + half;
+}
+
+bool wasCalled(const Simulator& agent, const char* method) {
+    return std::ranges::any_of(agent.callLog(),
+                               [method](const auto& call) { return call.method == method; });
+}
+
 } // namespace
 
 /// What is typed into a dialog as a secret, or comes into it from the agent or from a file, is
@@ -73,7 +85,8 @@ private slots:
 private:
     static void prepare(const QString& dialog, const std::string& secret, World& world);
     static void verifyArrived(const QString& dialog, const std::string& secret, Simulator& agent);
-    QString cri(const QByteArray& lines);
+    QString criFor(const QString& dialog, const std::string& secret);
+    QString cri(const std::string& key);
 
     std::random_device random_;
     QTemporaryDir folder_;
@@ -84,8 +97,11 @@ void SecretsTest::initTestCase() {
         QSKIP("the memory of a process can't be read");
 }
 
-QString SecretsTest::cri(const QByteArray& lines) {
+/// A file with that key, and a name behind it, by which the dialog shows that it has read it all.
+QString SecretsTest::cri(const std::string& key) {
     const QString path = folder_.filePath(QStringLiteral("a.cri"));
+    const auto lines =
+        QByteArray::fromStdString("PrivateEncKey=" + key + "\nUserName=Read to the end\n");
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(lines) != lines.size())
         qFatal("No file can be written");
@@ -95,8 +111,10 @@ QString SecretsTest::cri(const QByteArray& lines) {
 void SecretsTest::leaveTheMemoryWithTheirDialog_data() {
     QTest::addColumn<QString>("dialog");
     for (const char* dialog :
-         {"login", "simple", "sshPassword", "sshIdentity", "sudo", "accountTyped", "accountShown",
-          "registrationTyped", "registrationShown", "registrationFile", "code"})
+         {"login", "simple", "sshPassword", "sshIdentity", "sudo", "noSudo", "accountTyped",
+          "accountValidated", "accountShown", "privateKeyTyped", "accountKeyTyped", "keysShown",
+          "longKeysKept", "keysUnread", "keyFromFile", "longKeyFromFile", "keyFromFileCancelled",
+          "keyReplacedFromFile", "code"})
         QTest::newRow(dialog) << QString::fromLatin1(dialog);
 }
 
@@ -106,7 +124,7 @@ void SecretsTest::prepare(const QString& dialog, const std::string& secret, Worl
     if (dialog == QStringLiteral("simple")) {
         computer.kind = LoginKind::Windows;
         computer.users = {{"demo", secret}, {"", secret}};
-    } else if (dialog == QStringLiteral("sudo")) {
+    } else if (dialog == QStringLiteral("sudo") || dialog == QStringLiteral("noSudo")) {
         computer.kind = LoginKind::Ssh;
         computer.users = {{"demo", "demo"}, {"backup", secret}};
     } else if (dialog.startsWith(QStringLiteral("ssh"))) {
@@ -116,21 +134,41 @@ void SecretsTest::prepare(const QString& dialog, const std::string& secret, Worl
         computer.passphrase = secret;
     } else if (dialog == QStringLiteral("accountShown")) {
         world.configuration.directoryAccount.password = secret;
-    } else if (dialog == QStringLiteral("registrationShown")) {
+    } else if (dialog == QStringLiteral("keysShown") || dialog == QStringLiteral("keysUnread") ||
+               dialog == QStringLiteral("keyReplacedFromFile")) {
         world.registration.private_key = secret;
         world.registration.account_key = secret;
+    } else if (dialog == QStringLiteral("longKeysKept")) {
+        world.registration.private_key = longKey(secret);
+        world.registration.account_key = longKey(secret);
     }
+}
+
+/// The file that the dialog reads, if it does; the path of it.
+QString SecretsTest::criFor(const QString& dialog, const std::string& secret) {
+    if (dialog == QStringLiteral("keyReplacedFromFile"))
+        return cri("another key");
+    if (dialog == QStringLiteral("longKeyFromFile"))
+        return cri(longKey(secret));
+    return dialog.startsWith(QStringLiteral("keyFromFile")) ? cri(secret) : QString();
 }
 
 /// Where the dialog doesn't only go on when the agent has found it right.
 void SecretsTest::verifyArrived(const QString& dialog, const std::string& secret,
                                 Simulator& agent) {
+    if (dialog == QStringLiteral("accountValidated"))
+        QVERIFY(wasCalled(agent, "setADUserInfo"));
+    if (dialog == QStringLiteral("keysUnread"))
+        QVERIFY(wasCalled(agent, "getUserInfo"));
+    if (dialog.startsWith(QStringLiteral("longKey")))
+        QVERIFY(wasCalled(agent, "setTarnCRegistrationInfo"));
     agent.withWorld([&](World& world) {
         if (dialog == QStringLiteral("accountTyped"))
             QCOMPARE(world.configuration.directoryAccount.password, secret);
-        if (dialog == QStringLiteral("registrationTyped") ||
-            dialog == QStringLiteral("registrationFile"))
+        if (dialog == QStringLiteral("privateKeyTyped") || dialog == QStringLiteral("keyFromFile"))
             QCOMPARE(world.registration.private_key, secret);
+        if (dialog == QStringLiteral("accountKeyTyped"))
+            QCOMPARE(world.registration.account_key, secret);
     });
 }
 
@@ -145,13 +183,15 @@ void SecretsTest::leaveTheMemoryWithTheirDialog() {
         options.twoFactorCode = secret;
     Simulator agent(options);
     agent.withWorld([&](World& world) { prepare(dialog, secret, world); });
+    const bool fails = dialog == QStringLiteral("keysUnread");
+    if (fails)
+        agent.inject("getUserInfo", simulator::Fault{"Out of order."});
 
-    QStringList arguments{dialog, QString::number(agent.port()), QString::number(seed)};
-    if (dialog == QStringLiteral("registrationFile"))
-        arguments << cri(QByteArray::fromStdString("PrivateEncKey=" + secret + "\n"));
-    Client client(arguments);
+    Client client(
+        {dialog, QString::number(agent.port()), QString::number(seed), criFor(dialog, secret)});
     QCOMPARE(client.next(), QStringLiteral("typed"));
-    QVERIFY(!client.findings(secret).empty()); // or the search finds nothing anyway
+    // Or the search finds nothing anyway. What failed has already gone.
+    QVERIFY(client.findings(secret).empty() == fails);
     client.goOn();
     QCOMPARE(client.next(), QStringLiteral("closed"));
     verifyArrived(dialog, secret, agent);
@@ -163,10 +203,8 @@ void SecretsTest::ofAnOverlongLineNeverStayInMemory() {
     const std::uint32_t seed = random_();
     const std::string secret = support::derivedSecret(seed);
     Simulator agent;
-    const std::string longLine = std::string(70'000, '.') + secret;
-    Client client({QStringLiteral("registrationFile"), QString::number(agent.port()),
-                   QString::number(seed),
-                   cri(QByteArray::fromStdString("PrivateEncKey=" + longLine + secret + "\n"))});
+    Client client({QStringLiteral("keyFromFile"), QString::number(agent.port()),
+                   QString::number(seed), cri(std::string(70'000, '.') + secret + secret)});
     QVERIFY(client.next().endsWith(QStringLiteral(" has a line of more than 64 KiB.")));
     const auto left = client.findings(secret);
     QVERIFY2(left.empty(), listed(left).constData());
