@@ -21,7 +21,8 @@ bool fits(const Injection& injection, wire::Channel channel) {
     if (std::holds_alternative<HttpError>(injection))
         return channel == wire::Channel::Http;
     if (std::holds_alternative<WrongChecksum>(injection) ||
-        std::holds_alternative<WrongMagic>(injection))
+        std::holds_alternative<WrongMagic>(injection) ||
+        std::holds_alternative<Announcement>(injection))
         return channel == wire::Channel::Stream;
     return true;
 }
@@ -80,6 +81,8 @@ std::optional<wire::Answer> answerInstead(const Injection& injection) {
 void spoil(wire::Answer& answer, const Injection& injection) {
     const auto operate = [&answer](auto change) { answer.message = change(answer.message); };
     std::visit(Overloaded{[&](const Delay& delay) { answer.delay = delay.time; },
+                          [&](const Drip& drip) { answer.drip = drip.interval; },
+                          [&](const Announcement& reply) { answer.announced = reply.bytes; },
                           [&](const CutBefore&) { answer.cutAt = 0; },
                           [&](const CutWithin& cut) { answer.cutAt = cut.bytes; },
                           [&](const CutAfter&) { answer.cutBehind = true; },
@@ -103,7 +106,7 @@ void spoil(wire::Answer& answer, const Injection& injection) {
 }
 
 bool losesReferences(const Injection& injection) {
-    return !std::holds_alternative<Delay>(injection) &&
+    return !std::holds_alternative<Delay>(injection) && !std::holds_alternative<Drip>(injection) &&
            !std::holds_alternative<CutAfter>(injection) &&
            !std::holds_alternative<ReversedKeys>(injection) &&
            !std::holds_alternative<ListsWithTypeAndLength>(injection) &&

@@ -42,6 +42,17 @@ struct Delay {
     std::chrono::milliseconds time;
 };
 
+/// The reply comes byte by byte, with so much time between them.
+struct Drip {
+    std::chrono::milliseconds interval;
+};
+
+/// The head of a frame announces a reply of so many bytes, and nothing comes behind it. Waits for a
+/// call over the stream.
+struct Announcement {
+    std::uint64_t bytes;
+};
+
 /// The connection is closed in place of the reply.
 struct CutBefore {};
 
@@ -79,9 +90,10 @@ struct ReversedKeys {};
 /// Each list tells its type and its length.
 struct ListsWithTypeAndLength {};
 
-using Injection = std::variant<Fault, Silence, HttpError, RawReply, Delay, CutBefore, CutWithin,
-                               CutAfter, WrongChecksum, WrongMagic, UnknownKey, UnknownEnumValue,
-                               NullResult, ReversedKeys, ListsWithTypeAndLength>;
+using Injection =
+    std::variant<Fault, Silence, HttpError, RawReply, Delay, Drip, Announcement, CutBefore,
+                 CutWithin, CutAfter, WrongChecksum, WrongMagic, UnknownKey, UnknownEnumValue,
+                 NullResult, ReversedKeys, ListsWithTypeAndLength>;
 
 enum class Times { Once, UntilCleared };
 

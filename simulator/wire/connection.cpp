@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "simulator/wire/connection.h"
 
+#include <chrono>
 #include <deque>
 #include <optional>
 #include <type_traits>
@@ -75,6 +76,8 @@ private:
     struct Outgoing {
         std::string bytes;
         bool last;
+        std::chrono::milliseconds drip; ///< between two bytes, unless there is none
+        std::size_t written = 0;
     };
 
     tcp::socket& socket() {
@@ -138,6 +141,8 @@ private:
     void deliver(Answer answer, std::uint32_t id) {
         if (answer.silent)
             return;
+        if (answer.announced)
+            return sendLater(responseHead(id, *answer.announced), answer);
         std::string frame = responseFrame(id, answer.message);
         if (answer.wrongMagic)
             frame.replace(0, responseMagic.size(), "@ERR");
@@ -184,7 +189,7 @@ private:
 
     void refuse(const HttpStatus& status, const std::string& why) {
         exchange_.reportViolation(why);
-        send(httpResponse(status, why + "\n", false), true);
+        send({httpResponse(status, why + "\n", false), true, {}});
     }
 
     /// Holds the connection open until the other side gives up.
@@ -194,33 +199,49 @@ private:
         if (answer.cutAt)
             bytes.resize(std::min(*answer.cutAt, bytes.size()));
         last = last || answer.cutAt || answer.cutBehind;
-        if (answer.delay.count() == 0)
-            return send(std::move(bytes), last);
-        const auto timer = std::make_shared<asio::steady_timer>(stream_.get_executor());
-        timer->expires_after(answer.delay);
-        const auto self = this->shared_from_this();
-        timer->async_wait([self, timer, last, bytes = std::move(bytes)](error_code error) mutable {
-            if (!error)
-                self->send(std::move(bytes), last);
+        after(answer.delay, [self = this->shared_from_this(),
+                             reply = Outgoing{std::move(bytes), last, answer.drip}]() mutable {
+            self->send(std::move(reply));
         });
     }
 
-    void send(std::string bytes, bool last) {
-        outgoing_.push_back({std::move(bytes), last});
+    /// At once if there is no time to pass.
+    template <class Act>
+    void after(std::chrono::milliseconds time, Act act) {
+        if (time.count() == 0)
+            return act();
+        const auto timer = std::make_shared<asio::steady_timer>(stream_.get_executor(), time);
+        timer->async_wait([timer, act = std::move(act)](error_code error) mutable {
+            if (!error)
+                act();
+        });
+    }
+
+    void send(Outgoing next) {
+        outgoing_.push_back(std::move(next));
         if (outgoing_.size() == 1)
             writeNext();
     }
 
     void writeNext() {
-        if (outgoing_.front().bytes.empty())
+        const Outgoing& next = outgoing_.front();
+        if (next.bytes.empty())
             return cut();
+        const auto rest = asio::buffer(next.bytes) + next.written;
         const auto self = this->shared_from_this();
-        asio::async_write(stream_, asio::buffer(outgoing_.front().bytes),
-                          [self](error_code error, std::size_t) { self->written(error); });
+        asio::async_write(
+            stream_, next.drip.count() ? asio::buffer(rest, 1) : rest,
+            [self](error_code error, std::size_t size) { self->written(error, size); });
     }
 
-    void written(error_code error) {
-        if (error || outgoing_.front().last)
+    void written(error_code error, std::size_t size) {
+        if (error)
+            return cut();
+        Outgoing& sent = outgoing_.front();
+        sent.written += size;
+        if (sent.written < sent.bytes.size())
+            return after(sent.drip, [self = this->shared_from_this()] { self->writeNext(); });
+        if (sent.last)
             return cut();
         outgoing_.pop_front();
         if (!outgoing_.empty())

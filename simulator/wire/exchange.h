@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -25,6 +26,10 @@ struct CallMessage {
 struct Answer {
     std::string message;
     std::chrono::milliseconds delay{0};
+    /// Between two bytes, unless there is none.
+    std::chrono::milliseconds drip{0};
+    /// In the head of a frame, of which nothing else comes.
+    std::optional<std::uint64_t> announced;
     bool silent = false;
     /// In place of a body, over HTTP.
     std::optional<HttpStatus> status;

@@ -57,14 +57,18 @@ std::variant<Incomplete, RequestFrame> parseRequest(std::string_view bytes) {
 }
 
 std::string responseFrame(std::uint32_t id, std::string_view message) {
-    std::string frame;
-    frame.reserve(message.size() + 20);
-    frame += responseMagic;
-    append(frame, id, 4);
-    append(frame, message.size(), 8);
+    std::string frame = responseHead(id, message.size());
+    frame.reserve(frame.size() + message.size() + 4);
     frame += message;
     append(frame, checksum(std::string_view(frame).substr(responseMagic.size())), 4);
     return frame;
+}
+
+std::string responseHead(std::uint32_t id, std::uint64_t messageSize) {
+    std::string head(responseMagic);
+    append(head, id, 4);
+    append(head, messageSize, 8);
+    return head;
 }
 
 std::uint32_t checksum(std::string_view bytes) {

@@ -43,6 +43,8 @@ struct RequestFrame {
 std::variant<Incomplete, RequestFrame> parseRequest(std::string_view bytes);
 
 std::string responseFrame(std::uint32_t id, std::string_view message);
+/// What a frame begins with.
+std::string responseHead(std::uint32_t id, std::uint64_t messageSize);
 
 std::uint32_t checksum(std::string_view bytes);
 

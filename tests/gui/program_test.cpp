@@ -9,11 +9,15 @@
 #include <QTest>
 #include <QTimer>
 
+#include "app/call_gate.h"
 #include "app/qt_single_application.h"
 #include "app/simple_gui_main_window.h"
 #include "platform/session_folder.h"
 #include "resources/pictures.h"
+#include "session/connection.h"
 #include "tests/support/gui_agent.h"
+#include "tests/support/gui_main_window.h"
+#include "tests/support/gui_wait.h"
 
 using support::GuiAgent;
 using namespace std::chrono_literals;
@@ -204,6 +208,27 @@ private slots:
         });
         QTimer::singleShot(2000, &window, [] { QCoreApplication::exit(1); });
         QCOMPARE(QCoreApplication::exec(), 0);
+    }
+
+    void theEndOfTheDesktopsSessionIsFollowedDuringAWait() {
+        GuiAgent agent;
+        app::CallGate gate({20ms, 60ms});
+        support::MainWindowDriver driver;
+        driver.window().keepAliveBy(gate);
+        driver.logIn(agent);
+        agent.inject("getTarnClientInfo", simulator::Silence{});
+        bool ended = false;
+        const support::InTheWait desktop([&ended] {
+            if (std::exchange(ended, true))
+                return;
+            QEvent quit(QEvent::Quit);
+            QCoreApplication::sendEvent(&application(), &quit);
+        });
+        driver.postBeat();
+        QCOMPARE(QCoreApplication::exec(), 0);
+        QVERIFY(ended);
+        QVERIFY(!session::connectedToAgent());
+        QCOMPARE(support::methodsOf(agent), std::vector<std::string>{"getTarnClientInfo"});
     }
 
     void theFirstInstanceSendsNothing() {

@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 // The window while the agent doesn't answer.
+#include <algorithm>
 #include <csignal>
+#include <fstream>
 #include <memory>
 
 #include <QAction>
@@ -17,6 +19,9 @@
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
+
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include "app/call_gate.h"
 #include "app/login_check.h"
@@ -60,6 +65,21 @@ public:
     }
     int count = 0;
 };
+
+/// The memory of this process that is really there, in bytes; 0 under a sanitizer, which notes
+/// beside each block what may be done with it.
+std::size_t residentMemory() {
+#ifdef TARN_SANITIZED
+    return 0;
+#else
+    std::ifstream pages("/proc/self/statm");
+    std::size_t whole = 0;
+    std::size_t resident = 0;
+    if (!(pages >> whole >> resident))
+        qFatal("The system doesn't say what memory is there");
+    return resident * static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
+#endif
+}
 
 /// Clicks as the desktop would report it.
 void clickOnWindow(QWidget& window, QWidget& target) {
@@ -111,6 +131,8 @@ private slots:
     void aNameThatIsntResolvedIsLeft();
     void nobodyIsAskedOnceTheProgramEnds();
     void anAgentThatIsSuspendedAnswersOnceItGoesOn();
+    void aReplyThatDripsIsLeft();
+    void aReplyThatIsOnlyAnnouncedTakesNoMemory();
 
 private:
     void beSilent(const char* method = "getTarnClientInfo") {
@@ -124,6 +146,22 @@ private:
         });
     }
 
+    /// What the panel says when the user leaves by its button.
+    QString beatAndLeave() {
+        QString text;
+        const InTheWait user([&] {
+            if (!waitingPanel())
+                return;
+            text = waitingText();
+            clickDisconnect();
+        });
+        driver_->beat();
+        return text;
+    }
+    /// Beats until the panel is there and the window has painted more than once under it, leaves
+    /// the agent, and logs in again.
+    void leaveAnAgentUnderPaints();
+
     std::unique_ptr<GuiAgent> agent_;
     std::unique_ptr<app::CallGate> gate_;
     std::unique_ptr<MainWindowDriver> driver_;
@@ -131,15 +169,7 @@ private:
 
 void WaitingTest::aSilentAgentIsLeftByTheButton() {
     beSilent();
-    QString text;
-    const InTheWait user([&] {
-        if (!waitingPanel())
-            return;
-        text = waitingText();
-        clickDisconnect();
-    });
-    driver_->beat();
-    QCOMPARE(text, firstText);
+    QCOMPARE(beatAndLeave(), firstText);
     QVERIFY(!session::connectedToAgent());
     QCOMPARE(driver_->status(), QStringLiteral("No API connection exists"));
     QCOMPARE(methodsOf(*agent_), Calls{"getTarnClientInfo"});
@@ -234,15 +264,7 @@ void WaitingTest::thePanelStaysInTheMiddle() {
 void WaitingTest::thePanelSpeaksGerman() {
     const support::Translation german(QStringLiteral("de"));
     beSilent();
-    QString text;
-    const InTheWait user([&] {
-        if (!waitingPanel())
-            return;
-        text = waitingText();
-        clickDisconnect();
-    });
-    driver_->beat();
-    QCOMPARE(text, QStringLiteral("Der Agent antwortet seit N s nicht."));
+    QCOMPARE(beatAndLeave(), QStringLiteral("Der Agent antwortet seit N s nicht."));
 }
 
 void WaitingTest::inputDoesNothing() {
@@ -528,6 +550,10 @@ void WaitingTest::anAgentThatIsSuspendedAnswersOnceItGoesOn() {
     QVERIFY(session::connectedToAgent());
     const auto id = static_cast<pid_t>(agent.processId());
     QCOMPARE(::kill(id, SIGSTOP), 0);
+    // Until all of its threads have stopped, it may still answer.
+    int status = 0;
+    QCOMPARE(::waitpid(id, &status, WUNTRACED | __WALL), id);
+    QVERIFY(WIFSTOPPED(status));
     int rounds = 0;
     const InTheWait user([&] {
         if (waitingPanel() && ++rounds == 1)
@@ -539,6 +565,43 @@ void WaitingTest::anAgentThatIsSuspendedAnswersOnceItGoesOn() {
     driver_->window().OnDisconnect();
     agent.terminate();
     QVERIFY(agent.waitForFinished());
+}
+
+void WaitingTest::leaveAnAgentUnderPaints() {
+    Paints paints(driver_->window());
+    int underPanel = 0;
+    {
+        const InTheWait user([&] {
+            if (!waitingPanel())
+                return;
+            if (++underPanel == 1)
+                paints.count = 0;
+            driver_->window().update();
+            if (paints.count >= 3)
+                clickDisconnect();
+        });
+        driver_->beat();
+    }
+    QVERIFY(underPanel > 0);
+    QVERIFY(!session::connectedToAgent());
+    QCOMPARE(methodsOf(*agent_), Calls{"getTarnClientInfo"});
+    driver_->logIn(*agent_);
+    QVERIFY(session::connectedToAgent());
+}
+
+void WaitingTest::aReplyThatDripsIsLeft() {
+    agent_->inject("getTarnClientInfo", simulator::Drip{1s});
+    leaveAnAgentUnderPaints();
+}
+
+void WaitingTest::aReplyThatIsOnlyAnnouncedTakesNoMemory() {
+    constexpr std::uint64_t announced = 0xfffffffe; // the longest message
+    agent_->inject("getTarnClientInfo", simulator::Announcement{announced});
+    const std::size_t before = residentMemory();
+    std::size_t most = 0;
+    const InTheWait watch([&] { most = std::max(most, residentMemory()); });
+    leaveAnAgentUnderPaints();
+    QVERIFY2(most < before + 64'000'000, qPrintable(QString::number(most - before)));
 }
 
 QTEST_MAIN(WaitingTest)

@@ -163,6 +163,22 @@ TEST_F(Injecting, AWrongMagic) {
     EXPECT_EQ(stream_->receive(16), "@ERR\0\0\0\1\0\0\0\0\0\0\0\x09"s);
 }
 
+TEST_F(Injecting, AReplyThatDrips) {
+    agent_->inject("getTarnClientType", Drip{std::chrono::milliseconds(1)});
+    EXPECT_EQ(call("getTarnClientType"), raw::reply(raw::int32(8)));
+    agent_->inject("getTarnClientType", Drip{std::chrono::hours(1)});
+    send("getTarnClientType");
+    EXPECT_EQ(stream_->receive(1), "@");
+    EXPECT_TRUE(stream_->silentFor(50));
+}
+
+TEST_F(Injecting, AnAnnouncementOfAReply) {
+    agent_->inject("getTarnClientType", Announcement{0xfffffffe});
+    send("getTarnClientType");
+    EXPECT_EQ(stream_->receive(16), "@RSP\0\0\0\1\0\0\0\0\xff\xff\xff\xfe"s);
+    EXPECT_TRUE(stream_->silentFor(50));
+}
+
 TEST_F(Injecting, EffectsOfFramesWaitForTheStream) {
     agent_->inject("getTarnClientType", WrongMagic{});
     EXPECT_EQ(post(raw::call("getTarnClientType")), raw::reply(raw::int32(8)));

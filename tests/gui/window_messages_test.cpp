@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+// What Windows goes by when it says that a program doesn't respond.
+#include <atomic>
+#include <memory>
+#include <thread>
+
+#include <QTest>
+
+#include <windows.h>
+
+#include "app/call_gate.h"
+#include "resources/pictures.h"
+#include "session/connection.h"
+#include "tests/support/gui_agent.h"
+#include "tests/support/gui_main_window.h"
+#include "tests/support/gui_wait.h"
+
+using namespace std::chrono_literals;
+
+namespace {
+
+/// The time after which Windows takes a thread for hung, in milliseconds.
+constexpr UINT patience = 5000;
+
+/// A window of this thread, which asks for no display.
+class MessageWindow {
+public:
+    MessageWindow()
+        : handle_(CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr,
+                                  nullptr)) {}
+    MessageWindow(const MessageWindow&) = delete;
+    MessageWindow& operator=(const MessageWindow&) = delete;
+    ~MessageWindow() { DestroyWindow(handle_); }
+
+    HWND handle() const { return handle_; }
+
+private:
+    HWND handle_;
+};
+
+/// Sends message after message to a window, each when the one before was answered.
+class Sender {
+public:
+    Sender(HWND window, int count)
+        : thread_([this, window, count] {
+            for (int message = 0; message < count; ++message) {
+                DWORD_PTR result = 0;
+                if (SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_NORMAL, patience, &result))
+                    ++answered;
+            }
+            finished = true;
+        }) {}
+    Sender(const Sender&) = delete;
+    Sender& operator=(const Sender&) = delete;
+    ~Sender() { thread_.join(); }
+
+    std::atomic<int> answered = 0;
+    std::atomic<bool> finished = false;
+
+private:
+    std::thread thread_;
+};
+
+} // namespace
+
+class WindowMessagesTest : public QObject {
+    Q_OBJECT
+private slots:
+    void initTestCase() { resources::initPictures(); }
+
+    void areAnsweredWhileTheAgentIsSilent() {
+        support::GuiAgent agent;
+        app::CallGate gate({20ms, 60ms});
+        support::MainWindowDriver driver;
+        driver.window().keepAliveBy(gate);
+        driver.logIn(agent);
+        agent.inject("getTarnClientInfo", simulator::Silence{});
+        const MessageWindow window;
+        QVERIFY(window.handle());
+        std::unique_ptr<Sender> sender;
+        const support::InTheWait user([&] {
+            if (!sender)
+                sender = std::make_unique<Sender>(window.handle(), 20);
+            if (sender->finished && support::waitingPanel())
+                support::clickDisconnect();
+        });
+        driver.beat();
+        QVERIFY(sender);
+        QCOMPARE(int(sender->answered), 20);
+        QVERIFY(!session::connectedToAgent());
+    }
+};
+
+QTEST_MAIN(WindowMessagesTest)
+#include "window_messages_test.moc"
