@@ -8,7 +8,7 @@
 #include <chrono>
 #include <random>
 
-#include <QApplication>
+#include <QCoreApplication>
 
 #include <benchmark/benchmark.h>
 
@@ -16,7 +16,6 @@
 #include "app/activity_log_model.h"
 #include "item_model.h"
 #include "memory.h"
-#include "resources/pictures.h"
 
 namespace {
 
@@ -65,11 +64,3 @@ BENCHMARK(itemModelRefresh)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(modelRefresh)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    resources::initPictures();
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-}

@@ -6,7 +6,7 @@
 
 #include <chrono>
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QSortFilterProxyModel>
 
 #include <benchmark/benchmark.h>
@@ -15,7 +15,6 @@
 #include "app/activity_log_model.h"
 #include "insight/searched_log.h"
 #include "item_model.h"
-#include "resources/pictures.h"
 
 namespace {
 
@@ -90,11 +89,3 @@ BENCHMARK(filterProxy)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(searchLine)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    resources::initPictures();
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-}

@@ -11,7 +11,7 @@
 #include <memory>
 #include <numeric>
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QIcon>
 #include <QTreeWidget>
 
@@ -23,7 +23,6 @@
 #include "models/select_display_delegate.h"
 #include "models/small_tree_view.h"
 #include "prepared_browser.h"
-#include "resources/pictures.h"
 #include "session/text.h"
 
 namespace {
@@ -232,11 +231,3 @@ BENCHMARK(checkFolders)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(checkItems)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    resources::initPictures();
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-}

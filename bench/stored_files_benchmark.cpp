@@ -11,7 +11,7 @@
 #include <map>
 #include <memory>
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QListView>
 #include <QStandardItemModel>
 #include <QTreeView>
@@ -28,7 +28,6 @@
 #include "models/small_tree_view.h"
 #include "models/tree_state_memo.h"
 #include "prepared_browser.h"
-#include "resources/pictures.h"
 #include "transport/i_call_dispatcher.h"
 
 namespace {
@@ -269,11 +268,3 @@ BENCHMARK(keepExpansion)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(keepExpansionOfItems)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    resources::initPictures();
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-}

@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: Apache-2.0
 
 // Calls over TLS on loopback: through the raw stream, beside the same frames on a bare stream of
-// blocking Asio and beside gRPC. Each server is a process of its own, and the same one answers the
-// raw stream and the bare one. To be run on one core, servers included.
+// blocking Asio and beside gRPC; and through HTTPS, beside the same posts of blocking Beast. Each
+// server is a process of its own, and the same one answers ours and its reference. To be run on one
+// core, servers included.
 
 #include <algorithm>
 #include <chrono>
@@ -16,9 +17,11 @@
 
 #include "frame_echo.h"
 #include "grpc_echo.h"
+#include "http_echo.h"
 #include "memory.h"
 #include "server_process.h"
 #include "transport/call_passage.h"
+#include "transport/http_call_dispatcher.h"
 #include "transport/raw_stream_dispatcher.h"
 
 namespace {
@@ -30,6 +33,7 @@ const std::string message(100, 'm');
 
 std::uint16_t framePort = 0;
 std::uint16_t grpcPort = 0;
+std::uint16_t httpPort = 0;
 bench::Identity identity;
 
 std::string frameUrl(const std::string& path) {
@@ -82,6 +86,21 @@ void callBareStream(benchmark::State& state) {
 void callGrpc(benchmark::State& state) {
     bench::GrpcClient client(identity, grpcPort);
     measureCalls(state, [&] { return client.call(message) == message; });
+}
+
+void httpCall(benchmark::State& state) {
+    hessiancln::CHttpCallDispatcher dispatcher(0, "");
+    const std::string url = "https://127.0.0.1:" + std::to_string(httpPort) + "/api";
+    measureCalls(state, [&] { return dispatcher.sendRequest(url, message) == message; });
+}
+void httpCallWithHook(benchmark::State& state) {
+    UnusedHook hook;
+    const hessiancln::WaitHookInstallation installed(hook);
+    httpCall(state);
+}
+void httpCallBare(benchmark::State& state) {
+    bench::BareHttp http(httpPort);
+    measureCalls(state, [&] { return http.call("/api", message) == message; });
 }
 
 /// The peak of the memory in use since this was made.
@@ -137,6 +156,9 @@ BENCHMARK(callBareStream)->UseRealTime()->Unit(benchmark::kMicrosecond);
 BENCHMARK(callRawStream)->UseRealTime()->Unit(benchmark::kMicrosecond);
 BENCHMARK(callRawStreamWithHook)->UseRealTime()->Unit(benchmark::kMicrosecond);
 BENCHMARK(callGrpc)->UseRealTime()->Unit(benchmark::kMicrosecond);
+BENCHMARK(httpCallBare)->UseRealTime()->Unit(benchmark::kMicrosecond);
+BENCHMARK(httpCall)->UseRealTime()->Unit(benchmark::kMicrosecond);
+BENCHMARK(httpCallWithHook)->UseRealTime()->Unit(benchmark::kMicrosecond);
 BENCHMARK(largeReplyBareStream)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(largeReplyRawStream)->UseManualTime()->Unit(benchmark::kMillisecond);
 
@@ -147,7 +169,9 @@ int main(int argc, char** argv) {
     const bench::ServerProcess frames(bench::serveFrames);
     const bench::ServerProcess grpc(
         [](const auto& listening) { bench::serveGrpc(identity, listening); });
+    const bench::ServerProcess http(bench::serveHttp);
     framePort = frames.port();
+    httpPort = http.port();
     grpcPort = grpc.port();
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

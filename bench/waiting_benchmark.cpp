@@ -14,7 +14,6 @@
 #include "app/call_gate.h"
 #include "paint_watch.h"
 #include "refreshed_window.h"
-#include "resources/pictures.h"
 #include "simulator/simulator.h"
 
 namespace {
@@ -50,11 +49,3 @@ void silentAgent(benchmark::State& state) {
 BENCHMARK(silentAgent)->UseManualTime()->Iterations(1)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    resources::initPictures();
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-}
