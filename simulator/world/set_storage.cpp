@@ -17,7 +17,7 @@ std::vector<std::string> storedFolders(const BackupSetState& set) {
         while (folder.ends_with('\\'))
             folder.pop_back();
     if (folders.empty())
-        folders.push_back("C:\\Data");
+        folders.emplace_back("C:\\Data");
     return folders;
 }
 

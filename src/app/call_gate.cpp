@@ -64,6 +64,11 @@ QWidget* windowInFront() {
     return found == all.end() ? nullptr : *found;
 }
 
+/// From any thread.
+void wake(QObject& gate) {
+    QCoreApplication::postEvent(&gate, new QEvent(wakeType));
+}
+
 /// A list that has dropped down would keep all clicks from the panel. Menus let them through.
 void closeDroppedList() {
     QWidget* popup = QApplication::activePopupWidget();
@@ -103,7 +108,7 @@ void CallGate::wait(hessiancln::AwaitedCall& call) noexcept {
             if (panel_->isVisible())
                 leave();
         });
-        call.onFinish([this] { QCoreApplication::postEvent(this, new QEvent(wakeType)); });
+        call.onFinish([this] { wake(*this); });
         keepPainting(call);
         offerToLeave(call);
         call.onFinish({});

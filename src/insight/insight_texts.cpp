@@ -202,7 +202,7 @@ QString summaryIcon(const HealthCount& count) {
 QString paceText(const Pace& pace) {
     if (pace.idleFor >= minute)
         return Texts::tr("no progress for %1 min").arg(pace.idleFor / minute);
-    const QString speed = speedText(pace);
+    QString speed = speedText(pace);
     if (speed.isEmpty() || !pace.secondsLeft)
         return speed;
     return Texts::tr("%1, %2 left").arg(speed, roughDuration(*pace.secondsLeft));

@@ -14,7 +14,7 @@ using hessiancln::ScheduleDetailType;
 using hessiancln::WeeklyScheduleDetail;
 
 PlanReader::PlanReader(boost::shared_ptr<hessiancln::Schedule> schedule) {
-    calls_.push_back([this, schedule = std::move(schedule)] {
+    calls_.emplace_back([this, schedule = std::move(schedule)] {
         const auto details = schedule->getDetails();
         // The calls refer to the parts, which stay where they are from here on.
         plan_.details.resize(details.size());
@@ -33,15 +33,15 @@ void PlanReader::step() {
 }
 
 void PlanReader::askFor(const Detail& detail, PlanDetail& read) {
-    calls_.push_back([=, &read] { read.type = detail->getType(); });
-    calls_.push_back([=, &read] { read.start = detail->getStartTime(); });
-    calls_.push_back([=, this, &read] {
+    calls_.emplace_back([=, &read] { read.type = detail->getType(); });
+    calls_.emplace_back([=, &read] { read.start = detail->getStartTime(); });
+    calls_.emplace_back([=, this, &read] {
         if (detail->hasEndTime())
             calls_.push_front([=, &read] { read.end = detail->getEndTime(); });
     });
-    calls_.push_back([=, &read] { read.hourly = detail->getHourlyFrequency(); });
-    calls_.push_back([=, &read] { read.tasks = detail->getTasks(); });
-    calls_.push_back([=, this, &read] { askForDays(detail, read); });
+    calls_.emplace_back([=, &read] { read.hourly = detail->getHourlyFrequency(); });
+    calls_.emplace_back([=, &read] { read.tasks = detail->getTasks(); });
+    calls_.emplace_back([=, this, &read] { askForDays(detail, read); });
 }
 
 void PlanReader::askForDays(const Detail& detail, PlanDetail& read) {

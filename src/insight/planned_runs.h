@@ -13,10 +13,10 @@
 namespace insight {
 
 /// How long the next runs are looked ahead, in seconds: 14 days.
-inline constexpr std::int64_t lookAhead = 14 * 86'400;
+inline constexpr std::int64_t lookAhead = std::int64_t(14) * 86'400;
 
 /// A run that nothing is known of yet is taken to last that long, in seconds.
-inline constexpr std::int64_t assumedDuration = 30 * 60;
+inline constexpr std::int64_t assumedDuration = std::int64_t(30) * 60;
 
 /// A set that a schedule backs up.
 struct ScheduledSet {

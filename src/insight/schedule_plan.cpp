@@ -73,7 +73,8 @@ void addStartsOf(const PlanDetail& detail, const QDate& date, const QTimeZone& z
         return;
     // The next day has a series of its own.
     const std::int64_t last = std::min(end.value_or(secondsADay - 1), first + secondsADay - 1);
-    for (std::int64_t at = first + detail.hourly * 3600; at <= last; at += detail.hourly * 3600)
+    const std::int64_t step = std::int64_t(detail.hourly) * 3600;
+    for (std::int64_t at = first + step; at <= last; at += step)
         starts.push_back({instantOf(date, at, zone), stop});
 }
 

@@ -25,7 +25,9 @@ protected:
         else
             QMessageBox::keyPressEvent(event);
     }
-    void closeEvent(QCloseEvent* event) override { QDialog::closeEvent(event); }
+    void closeEvent(QCloseEvent* event) override {
+        QDialog::closeEvent(event); // NOLINT(bugprone-parent-virtual-call): see above
+    }
 };
 
 } // namespace
