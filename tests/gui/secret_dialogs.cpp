@@ -92,7 +92,11 @@ void confirmMessages() {
     auto* timer = new QTimer(qApp);
     QObject::connect(timer, &QTimer::timeout, timer, [] {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (box && box->icon() == QMessageBox::Critical)
+        const bool isError = box && box->icon() == QMessageBox::Critical;
+        // The one error that a test brings about: the program goes on after it.
+        if (isError && box->text().endsWith(QStringLiteral(" has a line of more than 64 KiB.")))
+            say(qPrintable(box->text()));
+        else if (isError)
             giveUp(box->text());
         if (box)
             box->accept();
