@@ -19,7 +19,7 @@
 
 namespace {
 
-constexpr std::int64_t secondsAWeek = 7 * 86400;
+constexpr std::int64_t secondsAWeek = std::int64_t{7} * 86400;
 
 } // namespace
 

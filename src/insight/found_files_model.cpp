@@ -113,7 +113,7 @@ QVariant FoundFilesModel::data(const QModelIndex& index, int role) const {
 
 QVariant FoundFilesModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation == Qt::Horizontal && section >= 0 && section < columns)
-        if (const QVariant told =
+        if (QVariant told =
                 ui::headerOf(*this, columnTable[static_cast<std::size_t>(section)], role);
             told.isValid())
             return told;

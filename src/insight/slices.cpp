@@ -10,7 +10,7 @@ namespace insight {
 
 namespace {
 
-constexpr int mostSteps = 4;
+constexpr int mostSteps = 100;
 constexpr qint64 sliceMilliseconds = 30;
 
 } // namespace

@@ -10,7 +10,8 @@
 namespace insight {
 
 /// Does long work of the GUI thread in slices, between which the window answers: a few steps at a
-/// time, and after a slow one no other. A step makes at most one or two calls to the agent.
+/// time, for 30 milliseconds at most but for the last of them. A step makes at most one or two
+/// calls to the agent.
 class Slices : public QObject {
     Q_OBJECT
 public:

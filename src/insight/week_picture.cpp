@@ -68,7 +68,7 @@ QRectF WeekPicture::bodyOfDay(int day) const {
     const int left = metrics.horizontalAdvance(hourText(24)) + 2 * gap;
     const int top = metrics.height() + 2 * gap;
     const double width = (this->width() - left - 1) / double{days};
-    return {left + day * width, double(top), width, double(height() - top - metrics.height() / 2)};
+    return {left + day * width, double(top), width, height() - top - metrics.height() / 2.0};
 }
 
 QRectF WeekPicture::barOf(const insight::DayPart& part) const {
