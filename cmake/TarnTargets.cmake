@@ -100,6 +100,15 @@ function(_tarn_moc name)
     target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_BINARY_DIR})
 endfunction()
 
+# tarn_left_out(<name> ...): tests, or files of a test as in test_simulator.program_test, that aren't
+# built for this system. The run under Wine wants a reason for each of them.
+function(tarn_left_out)
+    foreach(name IN LISTS ARGN)
+        add_test(NAME ${name} COMMAND ${name}.exe)
+        set_tests_properties(${name} PROPERTIES DISABLED TRUE)
+    endforeach()
+endfunction()
+
 # tarn_test(<name> LABELS <labels> TIMEOUT <seconds> SOURCES <files> [LINK <libraries>])
 #
 # LABELS are of unit, wire, gui, slow. With the word QTEST the program is one QTest class and

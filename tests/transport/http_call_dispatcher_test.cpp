@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
+#include "tests/support/system/sockets.h"
 #include "transport/http_call_dispatcher.h"
 
 #include <atomic>
@@ -12,7 +13,6 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/client_socket.h"
 #include "tests/support/loopback_server.h"
 #include "tests/support/signal.h"
 #include "tests/support/temporary_file.h"
@@ -273,8 +273,8 @@ TEST_P(Http, ASmallRequestLeavesAtOnce) {
     std::vector<bool> noDelay;
     LoopbackServer server(GetParam(), [&](Peer& peer) {
         peer.open().receiveUntil("ping");
-        for (const int socket : support::clientSockets(server.port()))
-            noDelay.push_back(support::hasNoDelay(socket));
+        for (const support::sockets::Socket socket : support::sockets::connectedTo(server.port()))
+            noDelay.push_back(support::sockets::hasNoDelay(socket));
         peer.send(okStart + "Content-Length: 4\r\n\r\npong");
     });
     CHttpCallDispatcher dispatcher(0, "");

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 // What a session lives on: calls that succeed, on streams that split, join and overtake.
+#include "tests/support/system/sockets.h"
 #include "transport/raw_stream_dispatcher.h"
 
 #include <atomic>
@@ -11,7 +12,6 @@
 #include <vector>
 
 #include "tests/support/bytes.h"
-#include "tests/support/client_socket.h"
 #include "tests/support/signal.h"
 #include "tests/transport/raw_stream_fixture.h"
 #include "transport/single_stream_connection.h"
@@ -124,9 +124,10 @@ TEST_P(RawStream, ASmallFrameLeavesAtOnce) {
     LoopbackServer server(GetParam(), echo(1));
     CRawStreamDispacher dispatcher(0, "", true);
     dispatcher.sendRequest(server.url(), "ping");
-    const std::vector<int> sockets = support::clientSockets(server.port());
+    const std::vector<support::sockets::Socket> sockets =
+        support::sockets::connectedTo(server.port());
     ASSERT_EQ(sockets.size(), 1u);
-    EXPECT_TRUE(support::hasNoDelay(sockets.front()));
+    EXPECT_TRUE(support::sockets::hasNoDelay(sockets.front()));
 }
 
 TEST_P(RawStream, AReplyOfLengthZeroIsAnEmptyString) {

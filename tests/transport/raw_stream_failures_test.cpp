@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "tests/support/bytes.h"
-#include "tests/support/client_socket.h"
 #include "tests/support/signal.h"
+#include "tests/support/system/sockets.h"
 #include "tests/transport/raw_stream_fixture.h"
 #include "transport/raw_stream_dispatcher.h"
 #include "transport/trace_exception.h"
@@ -142,9 +142,10 @@ TEST_P(RawStreamFailures, AWriteThatFailsWhileThePeerIsSilent) {
     });
     CRawStreamDispacher dispatcher(0, "", true);
     ASSERT_EQ(dispatcher.sendRequest(server.url(), "ping"), "pong");
-    const std::vector<int> sockets = support::clientSockets(server.port());
+    const std::vector<support::sockets::Socket> sockets =
+        support::sockets::connectedTo(server.port());
     ASSERT_EQ(sockets.size(), 1u);
-    ASSERT_EQ(::shutdown(sockets.front(), SHUT_WR), 0); // a write fails, the read goes on waiting
+    support::sockets::shutdownWrites(sockets.front()); // a write fails, the read goes on waiting
 
     auto call = std::async([&] { return failureOf(dispatcher, server.url()); });
     EXPECT_EQ(call.wait_for(std::chrono::seconds(10)), std::future_status::ready);

@@ -6,8 +6,8 @@
 #include <thread>
 #include <vector>
 
-#include "tests/support/client_socket.h"
 #include "tests/support/signal.h"
+#include "tests/support/system/sockets.h"
 #include "tests/transport/raw_stream_fixture.h"
 #include "transport/raw_stream_dispatcher.h"
 #include "transport/single_stream_connection.h"
@@ -190,7 +190,7 @@ TEST_P(RawStreamStop, TheDestructorWaitsForTheConnectionsThatNoOneJoins) {
             CRawStreamDispacher dispatcher(0, "", false);
             dispatcher.sendRequest(server.url(), "ping");
         }
-        EXPECT_TRUE(support::clientSockets(server.port()).empty());
+        EXPECT_TRUE(support::sockets::connectedTo(server.port()).empty());
     }
 }
 

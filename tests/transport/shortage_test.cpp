@@ -12,7 +12,7 @@
 
 #include "tests/support/failing_allocation.h"
 #include "tests/support/loopback_server.h"
-#include "tests/support/no_more_threads.h"
+#include "tests/support/system/no_more_threads.h"
 #include "transport/http_call_dispatcher.h"
 #include "transport/invoke_exception.h"
 #include "transport/raw_stream_dispatcher.h"
@@ -164,6 +164,8 @@ TEST_P(Shortage, OfMemoryOnTheStreamsThreadFailsTheCall) {
 }
 
 TEST_P(Shortage, OfThreadsFailsAnAsynchronousHttpCall) {
+    if (!support::NoMoreThreads::isPossible())
+        GTEST_SKIP();
     LoopbackServer server(GetParam(), answerOneByHttp);
     CHttpCallDispatcher dispatcher(0, "");
     std::promise<std::string> reply;
@@ -187,6 +189,8 @@ TEST_P(Shortage, OfThreadsFailsAnAsynchronousHttpCall) {
 }
 
 TEST_P(Shortage, OfThreadsFailsACallThatConnects) {
+    if (!support::NoMoreThreads::isPossible())
+        GTEST_SKIP();
     LoopbackServer server(GetParam(), echoFrames);
     CRawStreamDispacher dispatcher(0, "", true);
     {

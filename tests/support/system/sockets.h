@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 /// The system's own TCP sockets on 127.0.0.1, so that a test shares nothing with the transport.
 namespace support::sockets {
@@ -39,9 +40,18 @@ std::string lastFailure();
 
 /// Ends both directions; a read that another thread waits in comes back.
 void shutdown(Socket socket);
+/// Ends one direction: what is still read goes on.
+void shutdownWrites(Socket socket);
 /// Closes so that the other side gets a reset. `socket` stays open, and leads nowhere.
 void reset(Socket& socket);
 void close(Socket socket);
+
+/// The sockets of this process that are connected to this port: the client's ends, for a look at
+/// what no public function shows, and for faults that no peer can cause.
+std::vector<Socket> connectedTo(std::uint16_t port);
+
+/// Whether a small write on this socket leaves at once.
+bool hasNoDelay(Socket socket);
 
 /// Keeps the signal of a broken pipe from this thread, where there is one.
 void blockBrokenPipe();

@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <csignal>
 #include <cstring>
+#include <filesystem>
 #include <system_error>
 
 #include <netinet/in.h>
@@ -104,6 +105,10 @@ void shutdown(Socket socket) {
     ::shutdown(number(socket), SHUT_RDWR);
 }
 
+void shutdownWrites(Socket socket) {
+    ::shutdown(number(socket), SHUT_WR);
+}
+
 void reset(Socket& socket) {
     // A close with unread bytes or a linger time of zero is a reset; the descriptor stays ours.
     const linger none{1, 0};
@@ -115,6 +120,25 @@ void reset(Socket& socket) {
 
 void close(Socket socket) {
     ::close(number(socket));
+}
+
+std::vector<Socket> connectedTo(std::uint16_t port) {
+    std::vector<Socket> found;
+    for (const auto& entry : std::filesystem::directory_iterator("/proc/self/fd")) {
+        const int descriptor = std::stoi(entry.path().filename().string());
+        sockaddr_in peer{};
+        socklen_t size = sizeof peer;
+        if (::getpeername(descriptor, reinterpret_cast<sockaddr*>(&peer), &size) == 0 &&
+            peer.sin_family == AF_INET && ntohs(peer.sin_port) == port)
+            found.push_back(descriptor);
+    }
+    return found;
+}
+
+bool hasNoDelay(Socket socket) {
+    int value = 0;
+    socklen_t size = sizeof value;
+    return ::getsockopt(number(socket), IPPROTO_TCP, TCP_NODELAY, &value, &size) == 0 && value != 0;
 }
 
 void blockBrokenPipe() {

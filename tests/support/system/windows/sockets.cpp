@@ -102,6 +102,10 @@ void shutdown(Socket socket) {
     ::shutdown(handle(socket), SD_BOTH);
 }
 
+void shutdownWrites(Socket socket) {
+    ::shutdown(handle(socket), SD_SEND);
+}
+
 void reset(Socket& socket) {
     setOption(socket, SOL_SOCKET, SO_LINGER, linger{1, 0});
     ::closesocket(handle(socket));
@@ -110,6 +114,31 @@ void reset(Socket& socket) {
 
 void close(Socket socket) {
     ::closesocket(handle(socket));
+}
+
+std::vector<Socket> connectedTo(std::uint16_t port) {
+    // No list of a process's handles is public, but each is a multiple of four, and the lowest that
+    // is free.
+    constexpr SOCKET step = 4;
+    constexpr SOCKET end = 0x4000;
+    std::vector<Socket> found;
+    for (SOCKET socket = step; socket < end; socket += step) {
+        sockaddr_in peer{};
+        int size = sizeof peer;
+        if (::getpeername(socket, reinterpret_cast<sockaddr*>(&peer), &size) == 0 &&
+            peer.sin_family == AF_INET && ntohs(peer.sin_port) == port)
+            found.push_back(static_cast<Socket>(socket));
+    }
+    return found;
+}
+
+bool hasNoDelay(Socket socket) {
+    // Some systems write one byte of it, some four.
+    DWORD value = 0;
+    int size = sizeof value;
+    return ::getsockopt(handle(socket), IPPROTO_TCP, TCP_NODELAY, reinterpret_cast<char*>(&value),
+                        &size) == 0 &&
+           value != 0;
 }
 
 void blockBrokenPipe() {}
