@@ -6,6 +6,7 @@
 #include <cstdlib>
 
 #include <QDir>
+#include <QFile>
 #include <QPixmap>
 #include <QWidget>
 
@@ -59,6 +60,14 @@ void Player::take(QWidget& widget, const QString& name) const {
     const QString file = QDir(pictures_).filePath(name + QStringLiteral(".png"));
     if (!widget.grab().save(file))
         fail(file + QStringLiteral(" can't be written"));
+}
+
+void Player::note(const QString& line) const {
+    if (pictures_.isEmpty())
+        return;
+    QFile file(QDir(pictures_).filePath(QStringLiteral("notes.txt")));
+    if (!file.open(QIODevice::Append) || file.write(line.toUtf8() + '\n') < 0)
+        fail(file.fileName() + QStringLiteral(" can't be written"));
 }
 
 } // namespace end_to_end

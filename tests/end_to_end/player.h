@@ -31,6 +31,9 @@ public:
     /// Saves what the widget shows as a picture of that name.
     void take(QWidget& widget, const QString& name) const;
 
+    /// Appends a line to notes.txt among the pictures.
+    void note(const QString& line) const;
+
 private:
     void tick();
 

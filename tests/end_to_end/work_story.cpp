@@ -1,23 +1,21 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 
-// A plug-in of Qt that an unchanged client loads when QT_QPA_GENERIC_PLUGINS names it, as in
-// "tarnstory:FOLDER", with the folder for the pictures. It plays one user from the login to the
-// end.
+// The story of a user who works with the agent.
 #include <memory>
 
-#include <QAction>
-#include <QApplication>
+#include <QCheckBox>
 #include <QDialog>
-#include <QGenericPlugin>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTableView>
+#include <QTimer>
 #include <QWizard>
 
-#include "tests/end_to_end/player.h"
+#include "tests/end_to_end/screen.h"
+#include "tests/end_to_end/stories.h"
 
 namespace end_to_end {
 
@@ -25,56 +23,10 @@ namespace {
 
 constexpr int timeForPainting = 3; // looks
 
-QString q(const char* text) {
-    return QString::fromLatin1(text);
-}
-
-template <class Widget>
-Widget* topLevel() {
-    for (QWidget* widget : QApplication::topLevelWidgets())
-        if (auto* found = qobject_cast<Widget*>(widget); found && found->isVisible())
-            return found;
-    return nullptr;
-}
-
-template <class Widget>
-Widget* modal() {
-    return qobject_cast<Widget*>(QApplication::activeModalWidget());
-}
-
-int rows(const char* table) {
-    auto* window = topLevel<QMainWindow>();
-    auto* view = window ? window->findChild<QTableView*>(q(table)) : nullptr;
-    return view && view->model() ? view->model()->rowCount() : 0;
-}
-
-/// From the event loop, as what it leads to may be modal.
-bool trigger(const char* name) {
-    auto* window = topLevel<QMainWindow>();
-    auto* action = window ? window->findChild<QAction*>(q(name)) : nullptr;
-    if (!action || !action->isEnabled() || modal<QWidget>())
-        return false;
-    QTimer::singleShot(0, action, &QAction::trigger);
-    return true;
-}
-
-/// Likewise.
-bool click(QAbstractButton* button) {
-    if (!button || !button->isVisible() || !button->isEnabled())
-        return false;
-    QTimer::singleShot(0, button, &QAbstractButton::click);
-    return true;
-}
-
 bool select(int row) {
     auto* view = topLevel<QMainWindow>()->findChild<QTableView*>(q("backupSetsView"));
     view->selectRow(row);
     return true;
-}
-
-/// True when it has been asked so often, so that what appeared has been painted.
-Player::Step looks(int count) {
-    return [count]() mutable { return --count <= 0; };
 }
 
 void logIn(Player& player) {
@@ -83,6 +35,9 @@ void logIn(Player& player) {
         auto* name = dialog ? dialog->findChild<QLineEdit*>(q("lineEditUserName")) : nullptr;
         if (!name)
             return false;
+        auto* box = dialog->findChild<QCheckBox*>(q("chkSSPILogin"));
+        if (box->isVisible() && box->isChecked())
+            box->click();
         name->setText(q("demo"));
         dialog->findChild<QLineEdit*>(q("lineEditPassword"))->setText(q("demo"));
         player.take(*dialog, q("login"));
@@ -168,26 +123,16 @@ void quit(Player& player) {
     player.then(q("the quit command"), [] { return trigger("actionQuit"); });
 }
 
-class StoryPlugin : public QGenericPlugin {
-    Q_OBJECT
-    Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "story.json")
-public:
-    QObject* create(const QString&, const QString& specification) override {
-        auto player = std::make_unique<Player>(specification);
-        const auto before = std::make_shared<int>(0);
-        logIn(*player);
-        backUp(*player);
-        readAbout(*player);
-        makeSet(*player, before);
-        deleteSet(*player, before);
-        quit(*player);
-        player->play();
-        return player.release();
-    }
-};
-
 } // namespace
 
-} // namespace end_to_end
+void playWork(Player& player) {
+    const auto before = std::make_shared<int>(0);
+    logIn(player);
+    backUp(player);
+    readAbout(player);
+    makeSet(player, before);
+    deleteSet(player, before);
+    quit(player);
+}
 
-#include "story.moc"
+} // namespace end_to_end

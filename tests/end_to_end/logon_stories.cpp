@@ -1,0 +1,141 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+
+// The story of a user who is known to the system, and of one who isn't.
+#include <QCheckBox>
+#include <QDialog>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QStatusBar>
+
+#include "tests/end_to_end/screen.h"
+#include "tests/end_to_end/stories.h"
+
+namespace end_to_end {
+
+namespace {
+
+constexpr int timeForPainting = 3; // looks
+
+QDialog* loginDialog() {
+    auto* dialog = modal<QDialog>();
+    return dialog && dialog->objectName() == q("LoginCheck") ? dialog : nullptr;
+}
+
+void noteWindow(Player& player) {
+    const auto* window = topLevel<QMainWindow>();
+    player.note(q("title: ") + window->windowTitle());
+    player.note(q("status: ") + window->statusBar()->currentMessage());
+}
+
+void noteDialog(Player& player, const QDialog& dialog) {
+    const auto* box = dialog.findChild<QCheckBox*>(q("chkSSPILogin"));
+    const auto* fields = dialog.findChild<QGroupBox*>(q("groupLoginInfo"));
+    player.note(q("box: ") + q(box->isVisible() ? "there" : "not there") +
+                q(box->isChecked() ? ", checked" : ", not checked"));
+    player.note(q("name and password: ") + q(fields->isEnabled() ? "enabled" : "disabled"));
+}
+
+void seeSets(Player& player, const char* how) {
+    player.then(q("the list of sets ") + q(how), [] { return rows("backupSetsView") > 0; });
+    player.then(q("its painting"), looks(timeForPainting));
+    player.then(q("the main window"), [&player, how] {
+        player.note(q("logged in ") + q(how));
+        noteWindow(player);
+        player.take(*topLevel<QMainWindow>(),
+                    q("logged-in-") + QString(q(how)).replace(QLatin1Char(' '), QLatin1Char('-')));
+        return true;
+    });
+}
+
+void logOut(Player& player) {
+    player.then(q("the logout command"), [] { return trigger("actionLogout"); });
+    player.then(q("the end of the session"), [] { return rows("backupSetsView") == 0; });
+}
+
+void openDialog(Player& player) {
+    player.then(q("the login command"), [] { return trigger("actionLogin"); });
+}
+
+void seeDialog(Player& player, const char* picture) {
+    player.then(q("the login dialog"), [] { return loginDialog() != nullptr; });
+    player.then(q("its painting"), looks(timeForPainting));
+    player.then(q("what it shows"), [&player, picture] {
+        noteDialog(player, *loginDialog());
+        noteWindow(player);
+        player.take(*loginDialog(), q(picture));
+        return true;
+    });
+}
+
+void pressLogin(Player& player) {
+    player.then(q("the login button"),
+                [] { return click(loginDialog()->findChild<QPushButton*>(q("buttonLogin"))); });
+}
+
+void givePassword(Player& player) {
+    player.then(q("the fields"), [&player] {
+        auto* dialog = loginDialog();
+        auto* box = dialog->findChild<QCheckBox*>(q("chkSSPILogin"));
+        if (box->isVisible() && box->isChecked())
+            box->click();
+        noteDialog(player, *dialog);
+        dialog->findChild<QLineEdit*>(q("lineEditUserName"))->setText(q("demo"));
+        dialog->findChild<QLineEdit*>(q("lineEditPassword"))->setText(q("demo"));
+        return true;
+    });
+    pressLogin(player);
+}
+
+/// A box that says why, or a window without a session; then the dialog once more.
+void seeFailure(Player& player) {
+    player.then(q("what the system makes of it"), looks(timeForPainting));
+    player.then(q("what comes of it"), [&player] {
+        if (auto* box = modal<QMessageBox>()) {
+            player.note(q("refused: ") + box->windowTitle() + q(": ") + box->text());
+            player.take(*box, q("logon-refused"));
+            return click(box->buttons().constFirst());
+        }
+        if (modal<QWidget>())
+            return false;
+        player.note(q("no session"));
+        noteWindow(player);
+        return trigger("actionLogin");
+    });
+    player.then(q("the dialog again"), [] { return loginDialog() != nullptr; });
+}
+
+void quit(Player& player) {
+    player.then(q("the quit command"), [] { return trigger("actionQuit"); });
+}
+
+} // namespace
+
+void playTicket(Player& player) {
+    seeSets(player, "at the start");
+    logOut(player);
+    openDialog(player);
+    seeDialog(player, "login-with-ticket");
+    pressLogin(player);
+    seeSets(player, "by the box");
+    logOut(player);
+    openDialog(player);
+    player.then(q("the login dialog"), [] { return loginDialog() != nullptr; });
+    givePassword(player);
+    seeSets(player, "by a password");
+    quit(player);
+}
+
+void playNoTicket(Player& player) {
+    seeDialog(player, "login-without-ticket");
+    pressLogin(player);
+    seeFailure(player);
+    givePassword(player);
+    seeSets(player, "by a password");
+    quit(player);
+}
+
+} // namespace end_to_end

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+
+// A plug-in of Qt that an unchanged client loads when QT_QPA_GENERIC_PLUGINS names it with one of
+// its stories and the folder for the pictures, as in "tarnstory:FOLDER". It plays one user from the
+// start to the end.
+#include <memory>
+
+#include <QGenericPlugin>
+
+#include "tests/end_to_end/player.h"
+#include "tests/end_to_end/stories.h"
+
+namespace end_to_end {
+
+class StoryPlugin : public QGenericPlugin {
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "stories.json")
+public:
+    QObject* create(const QString& story, const QString& pictures) override {
+        auto player = std::make_unique<Player>(pictures);
+        if (story == QLatin1String("tarnticket"))
+            playTicket(*player);
+        else if (story == QLatin1String("tarnnoticket"))
+            playNoTicket(*player);
+        else
+            playWork(*player);
+        player->play();
+        return player.release();
+    }
+};
+
+} // namespace end_to_end
+
+#include "plugin.moc"
