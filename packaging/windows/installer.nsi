@@ -1,8 +1,8 @@
 ; SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 ; SPDX-License-Identifier: Apache-2.0
 ;
-; The installer. tools/windows/installer gives VERSION, PROGRAM_FOLDER, FILE_LIST, ICON, LICENSE and
-; OUTPUT.
+; The installer. tools/windows/installer gives VERSION, PROGRAM_FOLDER, FILE_LIST, ICON, LICENSE, SIGN
+; and OUTPUT.
 
 Target amd64-unicode
 Unicode true
@@ -36,6 +36,7 @@ ManifestDPIAware true
 
 Name "${NAME} ${VERSION}"
 OutFile "${OUTPUT}"
+!uninstfinalize '"${SIGN}" "%1"'
 BrandingText "${NAME} ${VERSION}"
 VIProductVersion "${VERSION}.0"
 VIAddVersionKey ProductName "${NAME}"
