@@ -109,7 +109,7 @@ bool RunningActivitiesModel::hasActivityOnSet(std::int32_t setId) const {
 }
 
 QVariant RunningActivitiesModel::data(const QModelIndex& index, int role) const {
-    const QVariant value = RecordTableModel::data(index, role);
+    QVariant value = RecordTableModel::data(index, role);
     if (index.column() != progress || (role != Qt::ToolTipRole && role != Qt::AccessibleTextRole) ||
         !checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
         return value;

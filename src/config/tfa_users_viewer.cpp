@@ -104,7 +104,7 @@ void TFAUsersViewer::read(QFile& file) {
     if (!config::openChosen(file, QIODevice::Text))
         return;
     config::UserEmailList list = config::readUserEmails(file);
-    model_.insert(std::move(list.rows));
+    model_.insert(list.rows);
     ui_->labImport->setText(
         tr("Users taken: %1. Lines not taken: %2.").arg(list.lines.taken).arg(list.lines.skipped));
     ui_->labImport->show();
