@@ -207,7 +207,8 @@ void SecretsTest::ofAnOverlongLineNeverStayInMemory() {
                    QString::number(seed), cri(std::string(70'000, '.') + secret + secret)});
     QVERIFY(client.next().endsWith(QStringLiteral(" has a line of more than 64 KiB.")));
     client.goOn();
-    QCOMPARE(client.next(), QStringLiteral("typed"));
+    // Nothing of it is taken.
+    QCOMPARE(client.next(), QStringLiteral("the file isn't read to its end"));
     const auto left = client.findings(secret);
     QVERIFY2(left.empty(), listed(left).constData());
 }
