@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 
-// What a refresh of the activity log costs under a window that shows it, sorted by its start,
-// latest first, beside Qt's own model of items, filled with the same values and sorted by a proxy.
+// The cost of refreshing the activity log under a window that shows it, sorted by start time,
+// latest first. The reference is Qt's own item model, filled with the same values and sorted by a
+// proxy.
 
 #include <algorithm>
 #include <chrono>
@@ -30,7 +31,7 @@ const bench::Rows& rows() {
     return rows;
 }
 
-/// The time until the window shows what `refresh` has brought.
+/// The time until the window shows the rows from `refresh`.
 template <class Refresh>
 void measure(benchmark::State& state, Refresh refresh) {
     for (auto round : state) {

@@ -8,18 +8,18 @@
 
 #include "api/activity_records.h"
 
-/// What the codec is measured with: rows of an agent's activity log.
+/// The codec benchmark's data: rows of an agent's activity log.
 namespace bench {
 
 using Rows = std::vector<hessiancln::activity_log_info>;
 
-/// `count` rows that differ, with a description of about 40 and a user of 12 characters.
+/// `count` different rows, with descriptions of about 40 characters and user names of 12.
 Rows sampleRows(std::size_t count);
 
-/// `rows` as the agent would send them if it wrote each record's keys from the last to the first.
+/// `rows` encoded as if the agent wrote each record's keys in reverse order.
 std::string writeInReverse(const Rows& rows);
 
-/// True if both hold the same values.
+/// True if both contain the same values.
 bool same(const Rows& a, const Rows& b);
 
 } // namespace bench

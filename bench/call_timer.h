@@ -21,8 +21,8 @@ struct TimedCall {
     Clock::time_point end;
 };
 
-/// Writes down how long each call takes that goes through it. Calls that block come from one thread
-/// only; the others aren't timed.
+/// Records how long each call through it takes. Blocking calls may come from one thread only;
+/// asynchronous ones aren't timed.
 class CallTimer final : public hessiancln::ICallDispatcher {
 public:
     explicit CallTimer(boost::shared_ptr<hessiancln::ICallDispatcher> inner);
@@ -32,7 +32,7 @@ public:
                           Handler onFailure) override;
     void stopConnections() override;
 
-    /// The calls since the last time that they were taken, in order.
+    /// The calls since the last `take`, in order.
     std::vector<TimedCall> take();
 
 private:

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The checksum of frames, beside two others that compute the same value.
+// The frame checksum compared with two other implementations that compute the same value.
 
 #include <array>
 #include <cstdint>

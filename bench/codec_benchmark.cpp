@@ -33,7 +33,7 @@ bench::Rows decode(const std::string& message) {
     return readValue<bench::Rows>(in);
 }
 
-/// A reader that is quick because it reads nothing would be no reference.
+/// Verifies the result first: a reader that reads nothing would be no reference.
 template <class Read>
 void measureReading(benchmark::State& state, const std::string& message, Read read) {
     if (!bench::same(read(message), rows()))

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The search for a file in 100,000 files of 1,000 folders, at an agent on loopback that is a
-// process of its own: when the window shows its first result, the longest time for which it doesn't
-// paint, and the memory that the results take. The reference asks for the same folders in a row and
-// shows nothing.
+// The search for a file among 100,000 files in 1,000 folders, with an agent in a separate process
+// on loopback: the time until the window shows its first result, the longest time without painting,
+// and the memory used by the results. The reference requests the same folders one after the other
+// and shows nothing.
 
 #include <chrono>
 #include <deque>
@@ -95,7 +95,7 @@ void askOnly(benchmark::State& state) {
         throw std::runtime_error("The agent doesn't hold what is looked for");
 }
 
-/// Looks for a name until the end, which takes so many files.
+/// Searches for a name until the end, which finds `expected` files.
 void find(benchmark::State& state, const QString& name, int expected) {
     const Session session;
     FindFileWindow window(session::getConnection);

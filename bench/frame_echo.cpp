@@ -30,7 +30,7 @@ uLong checksum(uLong start, const char* bytes, std::size_t size) {
     return crc32_z(start, reinterpret_cast<const Bytef*>(bytes), size);
 }
 
-/// A message and its checksum, which isn't taken anew for each reply that carries it.
+/// A message and its checksum, which isn't recomputed for each reply.
 struct Message {
     explicit Message(std::string content)
         : bytes(std::move(content))
@@ -107,7 +107,7 @@ void serveClient(tcp::socket socket, asio::ssl::context& context, const Message&
         for (;;)
             answerOne(stream, large);
     } catch (const boost::system::system_error&) {
-        // The client has gone, as each does in the end.
+        // The client has disconnected, as every client finally does.
     }
 }
 

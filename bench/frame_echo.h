@@ -13,24 +13,24 @@
 
 #include "server_process.h"
 
-/// The two ends that the transport is measured with, both of blocking Asio and as bare as can be.
+/// The two ends for the transport benchmark, both minimal code on blocking Asio.
 namespace bench {
 
-/// Bytes of the message that answers a call to an address which ends in `largeReplyPath`.
+/// Message size of the reply to a call whose address ends in `largeReplyPath`.
 inline constexpr std::size_t largeReplySize = 64 << 20;
 inline constexpr char largeReplyPath[] = "/large";
 
-/// Answers each request frame over TLS: with a large message where one is asked for, otherwise
-/// with the message of the request.
+/// Answers each request frame over TLS: with a large message if requested, otherwise with the
+/// message of the request.
 void serveFrames(const ServerProcess::Listening& listening);
 
-/// The reference: frames written and read on the calling thread. It believes in lengths and
-/// doesn't look at checksums. Raises `boost::system::system_error`.
+/// The reference: writes and reads frames on the calling thread. It trusts lengths and ignores
+/// checksums. Throws `boost::system::system_error`.
 class BareStream {
 public:
     struct Reply {
         std::size_t size = 0;
-        std::unique_ptr<char[]> bytes; ///< with the checksum behind them
+        std::unique_ptr<char[]> bytes; ///< followed by the checksum
     };
 
     /// Connects to loopback.

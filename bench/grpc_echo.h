@@ -8,25 +8,25 @@
 
 #include "server_process.h"
 
-/// The other way to call over TLS that the transport is held against.
+/// The alternative to the raw stream: calls over TLS with gRPC.
 namespace bench {
 
-/// A key and the certificate which it signed itself, both in PEM.
+/// A key and its self-signed certificate, both in PEM.
 struct Identity {
     std::string key;
     std::string certificate;
 };
 
-/// Raises `std::runtime_error`.
+/// Throws `std::runtime_error`.
 Identity makeIdentity();
 
-/// Answers each call with what it brought.
+/// Answers each call with the message it contains.
 void serveGrpc(const Identity& identity, const ServerProcess::Listening& listening);
 
-/// Calls on the calling thread. Raises `std::runtime_error`.
+/// Calls on the calling thread. Throws `std::runtime_error`.
 class GrpcClient {
 public:
-    /// Calls a server on loopback that shows the certificate of `identity`.
+    /// Connects to a server on loopback that presents the certificate of `identity`.
     GrpcClient(const Identity& identity, std::uint16_t port);
     GrpcClient(const GrpcClient&) = delete;
     GrpcClient& operator=(const GrpcClient&) = delete;

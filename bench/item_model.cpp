@@ -20,7 +20,7 @@ QStandardItem* numberItem(qint64 number) {
     return item.release();
 }
 
-/// A row for a model of items, which takes them.
+/// A row for an item model, which takes ownership.
 QList<QStandardItem*> itemsOf(const hessiancln::activity_log_info& row) {
     return {std::make_unique<QStandardItem>(ui::activityTypeIcon(row.type),
                                             ui::activityTypeLabel(row.type))

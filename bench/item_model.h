@@ -12,20 +12,20 @@
 
 namespace bench {
 
-/// A view of a log that shows `model` on the screen, sorted by the start, latest first.
+/// A visible view of a log that shows `model`, sorted by start time, latest first.
 std::unique_ptr<QTableView> shownView(QAbstractItemModel& model);
 
-/// The reference for what shows the activity log: Qt's own model of items, sorted by a proxy, under
-/// a view. Values are kept as numbers, not as texts, which favours the reference.
+/// The reference for the activity log: Qt's own item model, sorted by a proxy, under a view. Values
+/// are stored as numbers rather than texts, which favours the reference.
 class ItemModel {
 public:
     ItemModel();
 
-    /// Fills a new model with `fetched` and shows it in place of the old one. The window isn't
-    /// painted yet.
+    /// Fills a new model with `fetched` and shows it instead of the old one. The window isn't
+    /// repainted yet.
     void refresh(const Rows& fetched);
 
-    /// Lets go of all rows; gives the bytes that they took.
+    /// Removes all rows; returns the number of bytes that they occupied.
     double clear();
 
 private:

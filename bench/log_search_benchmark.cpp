@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 
-// What a key in the search line of the activity log costs under a window that shows 100,000 rows,
-// beside Qt's proxy that filters the same model by the texts of all its columns.
+// The cost of a key in the search line of the activity log under a window that shows 100,000 rows.
+// The reference is Qt's proxy, filtering the same model by the texts of all its columns.
 
 #include <chrono>
 
@@ -20,7 +20,7 @@ namespace {
 
 constexpr std::size_t rowCount = 100'000;
 
-/// As somebody types "backup 12", key by key.
+/// The texts in the search line while the user types "backup 12".
 const QStringList& typed() {
     static const QStringList texts = [] {
         const QString whole = QStringLiteral("backup 12");
@@ -32,7 +32,7 @@ const QStringList& typed() {
     return texts;
 }
 
-/// The time of the slowest key. `start` is run before each round.
+/// The time of the slowest key. `start` runs before each round.
 template <class Start, class Key>
 void measure(benchmark::State& state, Start start, Key key) {
     for (auto round : state) {
@@ -55,7 +55,7 @@ void searchLine(benchmark::State& state) {
     insight::SearchedRecords<hessiancln::activity_log_info> log(model);
     const auto view = bench::shownView(model);
     const auto keywords = insight::LogKeywords::translated();
-    // After a refresh, when the texts of the rows have to be made first.
+    // After a refresh, when the texts of the rows have to be created first.
     measure(
         state,
         [&] {

@@ -15,7 +15,7 @@ double heapInUse() {
     return static_cast<double>(info.uordblks + info.hblkhd);
 }
 
-// Looks for a line as "VmRSS:   1234 b".
+// Searches for a line like "VmRSS:   1234 kB".
 double memory(std::string_view field) {
     std::ifstream status("/proc/self/status");
     for (std::string line; std::getline(status, line);)

@@ -6,10 +6,10 @@
 
 namespace bench {
 
-/// Bytes that are in use on the heap, of all threads.
+/// Bytes in use on the heap, over all threads.
 double heapInUse();
 
-/// Bytes of memory as the system tells them for this process under a name, as "VmRSS:". Raises
+/// Bytes of memory that the system reports for this process under a name such as "VmRSS:". Throws
 /// `std::runtime_error` if it doesn't.
 double memory(std::string_view field);
 

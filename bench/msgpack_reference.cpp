@@ -58,7 +58,7 @@ public:
     bool visit_negative_integer(std::int64_t value) { return number(value); }
 
 private:
-    /// As in the codec that it is held against, the member behind the last one is tried first.
+    /// Tries the member after the last one first, as the benchmarked codec does.
     bool find(std::string_view key) {
         const std::size_t expected = (member_ + 1) % keys.size();
         member_ = expected;

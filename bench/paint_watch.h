@@ -11,7 +11,7 @@
 
 namespace bench {
 
-/// Asks a widget to paint itself every 10 milliseconds, and takes the times at which it does.
+/// Requests a repaint of a widget every 10 milliseconds, and measures the gaps between the paints.
 class PaintWatch : public QObject {
 public:
     explicit PaintWatch(QWidget& widget);
@@ -19,7 +19,7 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-    /// Milliseconds without a paint, up to now.
+    /// The longest time without a paint up to now, in milliseconds.
     double longestGap();
 
 private:

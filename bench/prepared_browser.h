@@ -13,18 +13,18 @@
 
 namespace bench {
 
-/// Names as a folder may have them, in no order; some aren't plain ASCII.
+/// Realistic names of a folder's entries, in no order; some aren't plain ASCII.
 std::vector<std::string> folderNames(std::size_t count);
 
-/// An agent within the program, with a drive "C:" that holds nothing but what is given. The replies
-/// are encoded once, so that it takes no time of its own but for a copy.
+/// An in-process agent with a drive "C:" that contains only the given names. The replies are
+/// encoded once, so that the agent itself takes only the time of a copy.
 class PreparedBrowser {
 public:
     PreparedBrowser(const std::vector<std::string>& names, bool areFolders);
 
     boost::shared_ptr<hessiancln::DataSourceBrowser> browser() const;
 
-    /// Calls so far.
+    /// The number of calls so far.
     std::size_t calls() const;
 
 private:

@@ -8,18 +8,18 @@
 
 #include "activity_rows.h"
 
-/// The formats that the codec is held against, from and into the same structures.
+/// The formats that the codec is compared with, from and into the same structures.
 namespace bench {
 
-/// An array of maps which are keyed by name.
+/// An array of maps keyed by name.
 std::string writeMsgpack(const Rows& rows);
 
-/// Raises `std::runtime_error` if the bytes aren't such an array.
+/// Throws `std::runtime_error` if the bytes aren't such an array.
 Rows readMsgpack(std::string_view bytes);
 
 Rows readProtobuf(std::string_view bytes);
 
-/// Rows that stand ready as messages, so that nothing but their encoding is measured.
+/// Rows prepared as messages, so that only their encoding is measured.
 class ProtobufRows {
 public:
     explicit ProtobufRows(const Rows& rows);
@@ -27,7 +27,7 @@ public:
     ProtobufRows& operator=(const ProtobufRows&) = delete;
     ~ProtobufRows();
 
-    /// Appends the bytes to `out`, which has room for them.
+    /// Appends the bytes to `out`, which must have the capacity for them.
     void write(std::string& out) const;
 
 private:

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 
-// What a heartbeat costs: the main window asks an agent on loopback for everything and shows it.
-// The agent is a process of its own and has 2,000 sets and 100,000 rows in its log. The reference
-// is Qt's own model of items, which only shows the same rows and asks nobody.
+// The cost of a heartbeat: the main window requests everything from an agent on loopback and shows
+// it. The agent is a separate process and has 2,000 sets and 100,000 rows in its log. The reference
+// is Qt's own item model, which shows the same rows and makes no calls.
 
 #include <algorithm>
 #include <memory>
@@ -37,7 +37,7 @@ constexpr std::size_t setCount = 2'000;
 const bench::ServerProcess* largeAgent = nullptr;
 const bench::ServerProcess* smallAgent = nullptr;
 
-/// Every second set is out of order in some way, since a plain card has little to draw.
+/// Every second set has some problem, since a plain card has little to draw.
 void addWarnings(simulator::World& world) {
     const auto& sets = world.sets();
     for (std::size_t i = 0; i < sets.size(); i += 4) {
@@ -47,7 +47,7 @@ void addWarnings(simulator::World& world) {
     }
 }
 
-/// Time stands still for the agent, so that every answer is as long as the last one.
+/// The agent's clock stands still, so that all replies have the same length.
 void serveAgent(simulator::Scenario scenario, const bench::ServerProcess::Listening& listening) {
     simulator::Options options;
     options.scenario = scenario;
@@ -105,7 +105,7 @@ void windowRefresh(benchmark::State& state) {
     state.counters["longest"] = longest * 1e3;
 }
 
-/// The one after a login, which makes the cards.
+/// The first refresh after a login, which creates the cards.
 void windowFirstRefresh(benchmark::State& state) {
     double longest = 0;
     for (auto round : state) {
@@ -116,8 +116,7 @@ void windowFirstRefresh(benchmark::State& state) {
     state.counters["longest"] = longest * 1e3;
 }
 
-/// Milliseconds of each part; beside them the agent's own work, which most of the fetching waits
-/// for.
+/// Milliseconds of each part, and of the agent's own work, which most of the fetching waits for.
 void parts(benchmark::State& state) {
     const auto window = largeWindow();
     const auto add = [&](const char* part, double time) {
@@ -143,7 +142,7 @@ void parts(benchmark::State& state) {
     }
 }
 
-/// What the cards do in a refresh that changes all of them, and in one that changes none.
+/// The work of the cards in a refresh that changes all of them, and in one that changes none.
 void cards(benchmark::State& state) {
     const auto window = largeWindow();
     bench::CardWork changed;
@@ -164,8 +163,7 @@ double residentMemory() {
     return bench::memory("VmRSS:");
 }
 
-/// KiB by which the program grows over all iterations, after as many refreshes to warm up as
-/// `warmUp` says.
+/// Memory growth of the program in KiB over all iterations, after `warmUp` refreshes.
 void measureGrowth(benchmark::State& state, RefreshedWindow& window, int warmUp) {
     for (int i = 0; i < warmUp; ++i)
         window.refresh();

@@ -82,7 +82,7 @@ RefreshedWindow::RefreshedWindow(std::uint16_t port) {
     root->setDispatcher(timer_);
     firstRefresh_ = refreshUntilShown();
     child<QTableView>(window_, "backupSetsView").selectRow(0);
-    // The first one paints what the selection has changed.
+    // The first refresh also paints the changes due to the selection.
     refreshUntilShown();
     timer_->take();
 }

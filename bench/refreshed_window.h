@@ -17,51 +17,51 @@ class BackupSetViewItem;
 
 namespace bench {
 
-/// Where the time of one refresh went, in seconds. All parts follow each other on the thread of the
-/// window, so that together they are the time for which the window doesn't answer.
+/// Time spent in the parts of one refresh, in seconds. All parts run one after the other on the
+/// window's thread, so their sum is the time for which the window doesn't respond.
 struct RefreshTimes {
     double clientInfo = 0;
-    double logFetch = 0; ///< until the whole reply is there
-    double logShow = 0;  ///< decoding, sorting, telling the views
+    double logFetch = 0; ///< until the whole reply has arrived
+    double logShow = 0;  ///< decoding, sorting, updating the views
     double running = 0;
-    double setsFetch = 0; ///< until the whole reply is there
-    double cards = 0;     ///< decoding included
+    double setsFetch = 0; ///< until the whole reply has arrived
+    double cards = 0;     ///< including decoding
     double details = 0;
     double paint = 0;
     double whole = 0;
 };
 
-/// What the cards were made to do.
+/// The work of the cards.
 struct CardWork {
     std::size_t events = 0;   ///< for a new style sheet or a new layout
-    std::size_t pictures = 0; ///< that aren't those of before
+    std::size_t pictures = 0; ///< that differ from the previous ones
 };
 
-/// The main window, shown, with a session whose whole log it shows and whose first set is selected.
-/// Heartbeats don't reach it.
+/// The visible main window with a session: it shows the session's whole log, and its first set is
+/// selected. Heartbeats don't reach it.
 class RefreshedWindow : public QObject {
 public:
-    /// `port` is an agent's, on loopback.
+    /// `port` is an agent's port on loopback.
     explicit RefreshedWindow(std::uint16_t port);
     ~RefreshedWindow() override;
 
     /// What the first refresh took, which has made the cards near the view.
     double firstRefresh() const { return firstRefresh_; }
 
-    /// One heartbeat, until the screen shows what it brought. Raises `std::runtime_error` if it
-    /// didn't go through all of its calls.
+    /// Runs one heartbeat until its result is on the screen. Throws `std::runtime_error` if it
+    /// didn't make all of its calls.
     RefreshTimes refresh();
 
-    /// The time that it takes to decode the whole log, in seconds.
+    /// The time to decode the whole log, in seconds.
     double decodeLog();
 
     std::size_t logRows() const;
     std::size_t setRows() const;
     std::vector<BackupSetViewItem*> cards() const;
 
-    /// Makes all cards look as they don't look on the agent.
+    /// Makes all cards show something other than the agent's data.
     void spoilCards();
-    /// What a refresh costs the cards.
+    /// The work of the cards in a refresh.
     CardWork workOfRefresh();
 
     bool eventFilter(QObject* watched, QEvent* event) override;

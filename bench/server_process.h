@@ -9,15 +9,15 @@
 
 namespace bench {
 
-/// A server in a child process, as an agent is one to its client: neither its threads nor its
-/// memory are counted among the client's.
+/// A server in a child process, separated from the client like a real agent: neither its threads
+/// nor its memory count as the client's.
 class ServerProcess {
 public:
-    /// Tells the port on loopback that the server listens on.
+    /// Reports the loopback port that the server listens on.
     using Listening = std::function<void(std::uint16_t)>;
 
-    /// Runs `serve`, which doesn't return, in a child, and waits until it listens. To be called
-    /// while the program has one thread only. Raises `std::runtime_error`.
+    /// Runs `serve`, which doesn't return, in a child process, and waits until it listens. Call it
+    /// while the program has only one thread. Throws `std::runtime_error`.
     explicit ServerProcess(const std::function<void(const Listening&)>& serve);
     ServerProcess(const ServerProcess&) = delete;
     ServerProcess& operator=(const ServerProcess&) = delete;
@@ -27,7 +27,7 @@ public:
 
     std::uint16_t port() const { return port_; }
 
-    /// The processor's time that the server has used, in seconds. Raises `std::runtime_error`.
+    /// The CPU time used by the server, in seconds. Throws `std::runtime_error`.
     double processorTime() const;
 
 private:

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 
-// What a folder of 100,000 entries costs in a tree with check boxes: to open it, from the call to
-// the first picture, and to check and uncheck it while it is open. The reference is Qt's own tree
-// of items with the same names, pictures and boxes, which asks nobody, and has rows of one height
-// as well.
+// The cost of a folder of 100,000 entries in a tree with check boxes: opening it, from the call to
+// the first painting, and checking and unchecking it while it is open. The reference is Qt's own
+// item tree with the same names, pictures, check boxes and uniform row heights, which makes no
+// calls.
 
 #include <algorithm>
 #include <chrono>
@@ -69,7 +69,7 @@ double secondsOf(Act act) {
     return time.count();
 }
 
-/// The time of `act` and of what is painted because of it.
+/// The time of `act` and of the repainting that it causes.
 template <class Act>
 double secondsUntilShown(Act act) {
     return secondsOf([&] {
@@ -85,7 +85,7 @@ void show(QTreeView& view) {
     QCoreApplication::processEvents();
 }
 
-/// The tree as pages show it, without its files or with them.
+/// The tree as the pages show it, with or without files.
 class SourceTree {
 public:
     SourceTree(const bench::PreparedBrowser& agent, bool withFiles)
@@ -132,7 +132,7 @@ public:
     void check(bool value) { drive_->setCheckState(0, value ? Qt::Checked : Qt::Unchecked); }
 
 private:
-    /// For a tree, which takes it.
+    /// For a tree, which takes ownership.
     static QTreeWidgetItem* itemNamed(const QString& text, const QIcon& picture) {
         auto item = std::make_unique<QTreeWidgetItem>(QStringList(text));
         item->setIcon(0, picture);
@@ -146,7 +146,7 @@ private:
     QTreeWidgetItem* drive_;
 };
 
-/// The reporter wants the same counters of each benchmark.
+/// The reporter expects the same counters from each benchmark.
 void countCalls(benchmark::State& state, std::size_t calls) {
     state.counters["calls"] = static_cast<double>(calls);
 }
@@ -186,7 +186,7 @@ void openItems(benchmark::State& state) {
     countCalls(state, 0);
 }
 
-/// Checks and unchecks by turns.
+/// Checks and unchecks alternately.
 template <class Tree>
 void measureChecks(benchmark::State& state, Tree& tree) {
     secondsUntilShown([&] { tree.open(); });

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 
-// What a large backup set costs in the wizards that restore and delete: a key typed into the filter
-// over a folder of 100,000 files, until the list shows it; the ids of a half-checked tree of
-// 100,000 nodes; and another view of 1,000 folders that stay expanded. The reference for the first
-// is the filter operation that Qt's proxy has itself, over the same files; that for the others is a
-// tree of items of Qt, which holds the same.
+// The cost of a large backup set in the restore and delete wizards: a key typed into the filter
+// over a folder of 100,000 files, until the list shows the result; the ids of a half-checked tree
+// of 100,000 nodes; and a new view of 1,000 folders that stay expanded. The reference for the first
+// is the filter of Qt's own proxy over the same files; for the others it is a Qt item tree with the
+// same content.
 
 #include <chrono>
 #include <map>
@@ -37,7 +37,7 @@ using Type = hessiancln::SelectableItemType;
 
 constexpr std::size_t entryCount = 100'000;
 
-/// An agent within the program whose replies are encoded once.
+/// An in-process agent whose replies are encoded once.
 class Agent final : public hessiancln::ICallDispatcher {
 public:
     Agent()
@@ -69,7 +69,7 @@ std::unique_ptr<CBackedUpDataModel> modelOf(const boost::shared_ptr<Agent>& agen
         boost::make_shared<hessiancln::BackupSetDataView>(agent, "view", false, 0u, std::string()));
 }
 
-/// A drive with so many files.
+/// A drive with `count` files.
 boost::shared_ptr<Agent> filledDrive(std::size_t count) {
     auto agent = boost::make_shared<Agent>();
     agent->hold(-1, {{1, "C:", Type::Drive, false, true}});
@@ -81,10 +81,10 @@ boost::shared_ptr<Agent> filledDrive(std::size_t count) {
     return agent;
 }
 
-/// Beside the time. What is left out must not make anything quick. A table has all columns in each
-/// of its rows.
+/// Reported next to the time, so that omitted work can't pass as speed. All benchmarks report all
+/// columns, as a table needs them.
 struct Told {
-    std::size_t calls = 0;   ///< of the agent in the last round
+    std::size_t calls = 0;   ///< to the agent in the last round
     std::size_t missing = 0; ///< ids that were not found
     int closed = 0;          ///< folders that did not stay open
 };
@@ -104,7 +104,7 @@ double secondsOf(Act act) {
     return time.count();
 }
 
-/// Qt's own filter, with the drives let through.
+/// Qt's own filter, which lets the drives pass.
 class ProxyOfQt : public QSortFilterProxyModel {
 public:
     explicit ProxyOfQt(CBackedUpDataModel& source) { setSourceModel(&source); }
@@ -115,7 +115,7 @@ protected:
     }
 };
 
-/// Types one pattern after the other into a list of the drive's files.
+/// Types a series of patterns into a list of the drive's files.
 template <class Proxy>
 void type(benchmark::State& state, CBackedUpDataModel& model, Proxy& files) {
     CSmallListView list;
@@ -237,7 +237,7 @@ std::unique_ptr<QStandardItemModel> modelOfItems() {
     return model;
 }
 
-/// Without an agent, and with names looked up as items find them.
+/// Without an agent; names are looked up the way item models do it.
 void keepExpansionOfItems(benchmark::State& state) {
     auto model = modelOfItems();
     QTreeView tree;

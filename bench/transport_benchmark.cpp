@@ -40,7 +40,7 @@ std::string frameUrl(const std::string& path) {
     return "https://127.0.0.1:" + std::to_string(framePort) + path;
 }
 
-/// `call` sends the message and tells whether it came back.
+/// `call` sends the message and returns whether it came back.
 template <class Call>
 void measureCalls(benchmark::State& state, Call call) {
     if (!call())
@@ -63,13 +63,13 @@ void callRawStream(benchmark::State& state) {
     const std::string url = frameUrl("/api");
     measureCalls(state, [&] { return dispatcher.sendRequest(url, message) == message; });
 }
-/// For calls that never take so long.
+/// For calls that never take long enough to need it.
 class UnusedHook final : public hessiancln::WaitHook {
     std::chrono::milliseconds patience() const override { return std::chrono::minutes(1); }
     void wait(hessiancln::AwaitedCall&) noexcept override {}
 };
 
-/// On a thread that would do more than sleep if the reply didn't come.
+/// On a thread with a wait hook, which would be called if the reply were late.
 void callRawStreamWithHook(benchmark::State& state) {
     UnusedHook hook;
     const hessiancln::WaitHookInstallation installed(hook);
@@ -116,7 +116,7 @@ private:
     double start_;
 };
 
-/// `receive` gets a large reply and gives it back, so that it lives until all is measured.
+/// `receive` returns a large reply, which lives until the measurement is complete.
 template <class Receive>
 void measureLargeReply(benchmark::State& state, Receive receive) {
     receive();

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 // The window while the agent is silent for 20 seconds in the middle of a heartbeat: the longest
-// time for which it doesn't paint, though it is asked to all the time.
+// time without painting, though updates are requested all the time.
 
 #include <chrono>
 #include <stdexcept>

@@ -1,12 +1,12 @@
 # SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 # SPDX-License-Identifier: Apache-2.0
 
-# The three kinds of target of this project. A folder's CMakeLists.txt is then its list of
-# files and what it links; warnings, sanitizers, labels and time limits stand here.
+# The three kinds of target of this project. Thus a folder's CMakeLists.txt only lists its files and
+# libraries; warnings, sanitizers, labels and time limits are here.
 
 include_guard()
 
-# What every target of ours is compiled with.
+# The compile options of all project targets.
 add_library(tarn_options INTERFACE)
 target_compile_features(tarn_options INTERFACE cxx_std_20)
 target_include_directories(tarn_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
@@ -18,19 +18,19 @@ if(TARN_WERROR)
 endif()
 target_compile_definitions(tarn_options INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_DEPRECATED_WARNINGS)
-# GCC 12 takes the two sides of "text" + std::string for overlapping, and loses the length of
-# constant text behind a precompiled header. The sanitizers watch over both.
+# GCC 12 warns of an overlap in "text" + std::string, and loses the length of constant text behind a
+# precompiled header. The sanitizers cover both.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
     target_compile_options(tarn_options INTERFACE -Wno-restrict -Wno-stringop-overread)
 endif()
-# Clang doesn't see the use of a capture in the branch that a template has dropped, and takes a
-# member that is called like a function of C for a trap.
+# Clang doesn't see a capture's use in a discarded template branch, and warns of shadowing for a
+# member with the name of a C function.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
     target_compile_options(tarn_options INTERFACE -Wno-unused-lambda-capture -Wno-shadow)
 endif()
 find_program(TARN_MOLD mold)
 if(WIN32)
-    # Windows 10, the first one with UTF-8 in the narrow interfaces.
+    # Windows 10, the first version with UTF-8 in the narrow interfaces.
     target_compile_definitions(tarn_options INTERFACE
         _WIN32_WINNT=0x0A00 NOMINMAX WIN32_LEAN_AND_MEAN _POSIX_THREAD_SAFE_FUNCTIONS)
     target_link_libraries(tarn_options INTERFACE ws2_32 mswsock)
@@ -41,7 +41,7 @@ if(TARN_SANITIZE)
     target_compile_options(tarn_options INTERFACE
         -fsanitize=${TARN_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(tarn_options INTERFACE -fsanitize=${TARN_SANITIZE})
-    # For tests that look at memory, of which a sanitizer keeps copies and notes.
+    # For tests that examine memory, of which a sanitizer keeps copies and records.
     target_compile_definitions(tarn_options INTERFACE TARN_SANITIZED)
 endif()
 
@@ -53,8 +53,8 @@ endfunction()
 # tarn_library(<name> SOURCES <files> [LINK <public>] [LINK_PRIVATE <private>]
 #              [PRECOMPILE <headers> | PRECOMPILED_BY <library>])
 #
-# PRECOMPILE names the headers, as they stand behind #include, that most of the sources read; it
-# pays from about eight sources on. PRECOMPILED_BY shares those of another library.
+# PRECOMPILE lists the headers, spelled as after #include, that most of the sources include; it pays
+# off from about eight sources on. PRECOMPILED_BY reuses those of another library.
 function(tarn_library name)
     cmake_parse_arguments(arg "" "PRECOMPILED_BY" "SOURCES;LINK;LINK_PRIVATE;PRECOMPILE" ${ARGN})
     add_library(${name} STATIC ${arg_SOURCES})
@@ -77,8 +77,8 @@ function(tarn_program name)
     _tarn_prepare(${name})
 endfunction()
 
-# Gives the labels to all tests of a GoogleTest program. They are known to ctest only, and a list
-# doesn't survive the way there among the other properties.
+# Adds the labels to all tests of a GoogleTest program. Only ctest knows these tests, and a list
+# doesn't survive being passed along with the other properties.
 function(_tarn_label name labels)
     set(script ${CMAKE_CURRENT_BINARY_DIR}/${name}_labels.cmake)
     file(WRITE ${script}
@@ -88,8 +88,8 @@ function(_tarn_label name labels)
     set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES ${script})
 endfunction()
 
-# What Qt's code generator makes of the <topic>_test.cpp of a QTest program, as <topic>_test.moc.
-# AUTOMOC would read all the headers of each program before.
+# Runs moc on the <topic>_test.cpp of a QTest program, giving <topic>_test.moc. AUTOMOC would first
+# read all the headers of each program.
 function(_tarn_moc name)
     foreach(source IN LISTS ARGN)
         if(source MATCHES "^(.*_test)[.]cpp$")
@@ -111,32 +111,31 @@ endfunction()
 
 # tarn_test(<name> LABELS <labels> TIMEOUT <seconds> SOURCES <files> [LINK <libraries>])
 #
-# LABELS are of unit, wire, gui, slow. With the word QTEST the program is one QTest class and
-# one test of ctest; without it, it is GoogleTest, and each TEST is a test of ctest. Under a
-# sanitizer, where a process takes long to start, the whole program is one test of ctest there too;
-# so it is on Windows, where starting one takes longer than most tests.
-# The headers that all tests of a kind read are precompiled once: see tarn_qt_test and
+# LABELS are of unit, wire, gui, slow. With the word QTEST the program is one QTest class and a
+# single ctest test; otherwise it uses GoogleTest, and each TEST is a ctest test. Under a sanitizer
+# and on Windows, where processes start slowly, the whole program is a single ctest test too.
+# The headers that all tests of a kind include are precompiled once: see tarn_qt_test and
 # tarn_google_test.
 function(tarn_test name)
     cmake_parse_arguments(arg "QTEST" "TIMEOUT" "LABELS;SOURCES;LINK" ${ARGN})
     tarn_program(${name} SOURCES ${arg_SOURCES} LINK ${arg_LINK})
-    # Tests may include the doubles in tests/support and the simulator beside the product.
+    # Tests may include the doubles in tests/support and the simulator next to the product.
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
-    # Whatever Kerberos ticket the developer has, the tests have none.
+    # Hides any Kerberos ticket of the developer from the tests.
     set(environment KRB5CCNAME=FILE:${PROJECT_BINARY_DIR}/no-ticket)
     if(arg_QTEST)
         target_link_libraries(${name} PRIVATE tarn_qt_test)
         target_precompile_headers(${name} REUSE_FROM tarn_qt_test)
         _tarn_moc(${name} ${arg_SOURCES})
-        # Silent is all but the failures: what the offscreen platform says that it can't do would
-        # hide them.
+        # With -silent only failures are printed: warnings about what the offscreen platform can't
+        # do would drown them.
         add_test(NAME ${name} COMMAND ${name} -silent)
-        # A test that hangs shows where, before its time is over.
+        # A hanging test is aborted before its time limit, and shows where it hangs.
         math(EXPR patience "${arg_TIMEOUT} * 1000 * 2 / 3")
         list(APPEND environment QT_QPA_PLATFORM=offscreen QTEST_FUNCTION_TIMEOUT=${patience})
         if(TARN_SANITIZE MATCHES "address")
-            # To find the callers beyond Qt too, which has no frame pointers, run the program with
-            # ASAN_OPTIONS=fast_unwind_on_malloc=0: that takes eight times as long.
+            # Qt has no frame pointers. To see the callers beyond it too, run the program with
+            # ASAN_OPTIONS=fast_unwind_on_malloc=0, which takes eight times as long.
             list(APPEND environment
                 LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/leaks_of_qt.txt:print_suppressions=0)
         endif()

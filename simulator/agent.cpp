@@ -16,10 +16,10 @@ namespace {
 
 constexpr std::string_view entryPath = "/api";
 
-// A program that runs for weeks keeps no more.
+// Limits memory in a program that runs for weeks.
 constexpr std::size_t mostViolations = 10'000;
 
-/// The URL without the entry's path; empty if it isn't the entry's.
+/// The URL without the entry point's path; empty if it isn't the URL of the entry point.
 std::string entryBase(const std::string& url) {
     const std::size_t authority = url.find("://");
     if (authority == std::string::npos || !url.ends_with(entryPath))
@@ -37,7 +37,7 @@ std::string timeText(Milliseconds time) {
     return {text, size};
 }
 
-/// One line that a terminal can show, whatever a client has put into its text.
+/// Makes a text printable on one terminal line, whatever a client sent.
 std::string asLine(std::string text) {
     std::replace_if(
         text.begin(), text.end(), [](unsigned char byte) { return byte < ' ' || byte == 0x7F; },
@@ -63,7 +63,7 @@ void furnish(World& world, const Options& options) {
 
 } // namespace
 
-/// A call on its way.
+/// A call in progress.
 struct Agent::Step {
     const wire::CallMessage& message;
     hessianser::Cursor in;

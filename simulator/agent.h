@@ -16,12 +16,12 @@
 
 namespace simulator {
 
-/// What stands behind the wire: finds the object of a call, has it run, and keeps the books. One
-/// lock guards everything, so that a test may look at any time.
+/// The agent behind the wire: finds the object of a call, runs the method, and logs it. A single
+/// lock guards everything, so that tests can look at any time.
 class Agent final : public wire::Exchange {
 public:
-    /// Raises `std::runtime_error` if the log file can't be written, or the keys to accept logons
-    /// with can't be had.
+    /// Throws `std::runtime_error` if the log file can't be written, or the keys for accepting
+    /// logons can't be loaded.
     explicit Agent(Options options);
 
     wire::Answer answer(const wire::CallMessage& call) override;
@@ -30,7 +30,7 @@ public:
 
     const Options& options() const { return options_; }
 
-    /// Everything below is to be used under this lock.
+    /// Hold this lock while using any of the members below.
     std::mutex& lock() const { return mutex_; }
     std::condition_variable& called() const { return called_; }
     std::vector<Call>& calls() { return calls_; }

@@ -8,7 +8,7 @@
 
 namespace simulator {
 
-/// The method's name, read from the head of a call. Raises `Violation` if there is none.
+/// The method name, read from the head of a call. Throws `Violation` if there is none.
 std::string readCallHead(hessianser::Cursor& in);
 
 } // namespace simulator

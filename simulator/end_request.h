@@ -4,11 +4,11 @@
 
 namespace simulator {
 
-/// What asks a program without a window to end: a signal, or the close of its console. To be
-/// called before any other thread starts.
+/// Prepares for a request to end a program without a window: a signal, or closing its console. Call
+/// before starting any other thread.
 void expectEndRequest();
 
-/// Waits until it has come.
+/// Blocks until the request arrives.
 void waitForEndRequest();
 
 } // namespace simulator

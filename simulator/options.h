@@ -25,45 +25,45 @@ struct LogonStep {
 };
 
 struct Options {
-    std::uint16_t port = 0; ///< 0 takes a free one
+    std::uint16_t port = 0; ///< 0 selects a free port
     Scenario scenario = Scenario::Default;
     std::string user = "demo";
     std::string password = "demo";
     std::vector<std::string> domains{};
-    bool guest = true;  ///< an empty user is let in
-    double speed = 1.0; ///< how fast activities progress
+    bool guest = true;  ///< accept an empty user name
+    double speed = 1.0; ///< speed of activities
     std::string logFile{};
     bool plain = false; ///< no TLS
 
-    std::optional<std::int32_t> clientType{};   ///< in place of the scenario's: 8, 9, 14 ...
+    std::optional<std::int32_t> clientType{};   ///< overrides the scenario's: 8, 9, 14 ...
     std::optional<std::int32_t> osType{};       ///< likewise: 0 for Windows, 1 or 2 for Unix
-    std::vector<std::int32_t> disabledTools{};  ///< 8 lets sets use local storage
-    std::optional<std::string> twoFactorCode{}; ///< switches two-factor authentication on
+    std::vector<std::int32_t> disabledTools{};  ///< 8 is the tool for local storage
+    std::optional<std::string> twoFactorCode{}; ///< enables two-factor authentication
 
     Clock clock = systemClock();
     std::uint64_t seed = 1;
-    /// Plays the agent's part of an integrated logon; without it each one is refused. It may raise
-    /// a `Refusal`.
+    /// Handles an integrated logon on the agent's side; without it all are refused. May throw
+    /// `Refusal`.
     std::function<LogonStep(const std::string& token)> integratedLogon{};
-    /// Accepts integrated logons for real, with this key table; that of the environment if empty.
+    /// Accepts real integrated logons with this key table, or that of the environment if empty.
     std::optional<std::string> acceptLogon{};
-    /// Keep the call log for tests. It grows without end.
+    /// Keeps the call log for tests. It grows without limit.
     bool recordCalls = true;
 };
 
-/// What a command line asks for.
+/// The parsed command line.
 struct CommandLine {
     enum class Action { Run, Help, Version } action = Action::Run;
     Options options;
 };
 
-/// A command line that makes no sense; the text says why.
+/// An invalid command line; the text explains why.
 class BadOption : public std::runtime_error {
 public:
     using runtime_error::runtime_error;
 };
 
-/// `arguments` without the program's name. Raises `BadOption`.
+/// `arguments` excludes the program's name. Throws `BadOption`.
 CommandLine parseCommandLine(const std::vector<std::string>& arguments);
 
 std::string_view helpText();

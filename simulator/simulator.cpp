@@ -11,7 +11,7 @@
 
 namespace simulator {
 
-/// The listener goes before what stands behind it.
+/// Members are ordered so that the listener is destroyed before anything it uses.
 struct Simulator::Parts {
     explicit Parts(Options options)
         : agent(std::move(options))

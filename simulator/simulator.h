@@ -19,21 +19,21 @@ namespace simulator {
 
 class World;
 
-/// An agent on a port of 127.0.0.1: strict with its clients, and full of life.
+/// An agent on a port of 127.0.0.1 that is strict with its clients.
 ///
 ///     simulator::Simulator agent({.scenario = simulator::Scenario::Central});
 ///     agent.inject("backup_sets_info", simulator::Fault{"The database is locked."});
 ///     connectToAgent(agent.address(), "demo", "demo", 1);
 ///     EXPECT_THAT(agent.violations(), IsEmpty());
 ///
-/// It listens as soon as it is made. Every method may be called from any thread.
+/// It listens from construction on. Thread-safe.
 class Simulator {
 public:
-    /// Raises `std::system_error` if the port can't be had, `std::runtime_error` if the log file
-    /// can't be written, or the keys to accept logons with can't be had.
+    /// Throws `std::system_error` if the port isn't available, `std::runtime_error` if the log file
+    /// can't be written, or the keys for accepting logons can't be loaded.
     explicit Simulator(Options options = {});
 
-    /// Stops, whatever clients are doing.
+    /// Stops, regardless of what clients are doing.
     ~Simulator();
 
     Simulator(const Simulator&) = delete;
@@ -43,41 +43,41 @@ public:
     std::string address() const; ///< "127.0.0.1:4411"
     std::string baseUrl() const; ///< "https://127.0.0.1:4411"
 
-    /// Closes the port and every connection. The world and the logs stay.
+    /// Closes the port and every connection. Keeps the world and the logs.
     void stop();
-    /// Listens again, on the same port.
+    /// Listens on the same port again.
     void restart();
-    /// Cuts every connection that is open now; new ones are welcome.
+    /// Cuts all open connections; new ones are accepted.
     void cutConnections();
 
-    /// Every call that reached an object, in order. A call that was refused is in it as well.
+    /// Every call that reached an object, in order, including refused ones.
     std::vector<Call> callLog() const;
-    /// The same as texts, as `BackupSet.setName("Documents")`.
+    /// Likewise as texts, such as `BackupSet.setName("Documents")`.
     std::vector<std::string> callTexts() const;
     void clearCallLog();
 
-    /// Waits until `method` ("setName" or "BackupSet.setName") stands at least `count` times in
-    /// the call log. False if that takes longer than `limit`.
+    /// Waits until `method` ("setName" or "BackupSet.setName") is in the call log at least `count`
+    /// times. False if that takes longer than `limit`.
     bool waitForCall(std::string_view method, std::size_t count = 1,
                      std::chrono::milliseconds limit = std::chrono::seconds(10)) const;
 
-    /// What clients did that no right client does, in order.
+    /// Client behaviour that a correct client never shows, in order.
     std::vector<std::string> violations() const;
 
-    /// The references that clients hold now, the session's root among them. At the end of a test
-    /// there is none, or something wasn't released.
+    /// The references that clients hold now, including the session's root. At the end of a test any
+    /// remaining ones are leaks.
     std::vector<std::string> liveObjects() const;
 
-    /// For the next call of `method` ("getName", "BackupSet.getName", or "*" for any), or for
-    /// each one, once so many of them as `after` says have passed. Injections for the same method
-    /// meet its calls in the order given.
+    /// Applies to the next call of `method` ("getName", "BackupSet.getName", or "*" for any), or to
+    /// each one, after skipping `after` calls. Injections for the same method apply to its calls in
+    /// the given order.
     void inject(std::string method, Injection injection, Times times = Times::Once,
                 std::size_t after = 0);
     void clearInjections();
-    /// How many injections have not met their call, or apply until cleared.
+    /// Number of injections that haven't met their call yet, or apply until cleared.
     std::size_t waitingInjections() const;
 
-    /// Looks at the world or changes it, between two calls.
+    /// Reads or changes the world between two calls.
     void withWorld(const std::function<void(World&)>& visit);
 
 private:

@@ -1,7 +1,8 @@
 # SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 # SPDX-License-Identifier: Apache-2.0
 
-# Copies the pictures that the page HTML shows from the folder PICTURES to places beside the page.
+# Copies the pictures shown by the page HTML from the folder PICTURES to the same paths next to the
+# page.
 file(READ ${HTML} page)
 cmake_path(GET HTML PARENT_PATH folder)
 string(REGEX MATCHALL "src=\"[^\"]+[.]png\"" sources "${page}")

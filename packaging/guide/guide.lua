@@ -1,8 +1,8 @@
 -- SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 -- SPDX-License-Identifier: Apache-2.0
 
--- Takes the heading of the guide as the title of its cover, its first paragraphs as an introduction,
--- and its first list as the table of contents. A list of links is what GitHub shows as contents.
+-- Uses the guide's heading as the title of its cover, its first paragraphs as an introduction, and
+-- its first list as the table of contents: on GitHub, the contents are a plain list of links.
 
 local function contents(list)
     return pandoc.Div({list}, pandoc.Attr("", {"contents"}))
@@ -25,7 +25,7 @@ function Pandoc(document)
     return document
 end
 
--- A picture that is a paragraph of its own has no caption.
+-- A picture in its own paragraph gets no caption.
 function Para(paragraph)
     if #paragraph.content == 1 and paragraph.content[1].t == "Image" then
         return pandoc.Div({pandoc.Plain(paragraph.content)}, pandoc.Attr("", {"picture"}))

@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 # SPDX-License-Identifier: Apache-2.0
-"""Sets a page as PDF: make_pdf.py PAGE PDF DATE.
+"""Converts a page to PDF: make_pdf.py PAGE PDF DATE.
 
-The PDF is the same bytes in every folder and at every time. WeasyPrint names the pictures in it after
-their addresses, so the addresses that it gets don't depend on the folder. The fonts in it bear a time:
-that of SOURCE_DATE_EPOCH, or else the date, as in 2026-11-22.
+The PDF is reproducible: it depends neither on the folder nor on the time of the build. WeasyPrint
+names the pictures after their addresses, so it gets addresses that don't depend on the folder. The
+fonts contain a time stamp: SOURCE_DATE_EPOCH if set, otherwise the date, as in 2026-11-22.
 """
 import datetime
 import os

@@ -3,9 +3,9 @@
 # SPDX-License-Identifier: Apache-2.0
 """Writes the bill of materials of a release as SPDX 2.3 JSON.
 
-components.json declares what the programs contain and link. This program holds that against the
-libraries that the linker recorded in each program and against the objects and archives that it read,
-and fails on anything undeclared, as well as on a declared library that no program takes.
+components.json declares what the programs contain and link. This script compares it with the
+libraries recorded by the linker in each program and with the objects and archives that it read. It
+fails on anything undeclared, and on a declared library that no program links.
 """
 import argparse
 import datetime
@@ -40,7 +40,7 @@ def parse_arguments():
 
 
 def shared_libraries(objdump, program):
-    """The names of the libraries that the system loads with a program."""
+    """The names of the shared libraries that a program loads."""
     dump = subprocess.run([objdump, "-p", program], check=True, capture_output=True, text=True)
     return set(SHARED.findall(dump.stdout))
 
@@ -64,7 +64,7 @@ def owner(linked, name):
 
 
 def taken_components(options, linked):
-    """For each program the components that its linker took. Ends the process on a mismatch."""
+    """The linked components of each program. Ends the process on a mismatch."""
     taken, problems = {}, []
     for program, file, inputs in options.program:
         names = shared_libraries(options.objdump, file) | linked_in(inputs, options.build)
@@ -102,7 +102,7 @@ def relation(element, kind, other):
 
 
 def created(date):
-    """The time of the build where that is fixed, or else of the release, so that builds agree."""
+    """SOURCE_DATE_EPOCH if set, otherwise the release date, so that builds are reproducible."""
     epoch = os.environ.get("SOURCE_DATE_EPOCH")
     if epoch:
         moment = datetime.datetime.fromtimestamp(int(epoch), datetime.timezone.utc)

@@ -14,7 +14,8 @@ ManifestDPIAware true
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Tarn-Mobile User"
 !define EVENT_SOURCE "SYSTEM\CurrentControlSet\Services\EventLog\Application\HessianClientAPI"
 
-; For all users where the person may, else for this user alone; asked for where both are possible.
+; For all users if the user has the rights, otherwise for this user only; a page asks if both are
+; possible.
 !define MULTIUSER_EXECUTIONLEVEL Highest
 !define MULTIUSER_MUI
 !define MULTIUSER_USE_PROGRAMFILES64
@@ -31,7 +32,7 @@ ManifestDPIAware true
 !include LogicLib.nsh
 !include Sections.nsh
 !include WinMessages.nsh
-; The macros InstallFiles and RemoveFiles.
+; Defines the macros InstallFiles and RemoveFiles.
 !include "${FILE_LIST}"
 
 Name "${NAME} ${VERSION}"
@@ -81,12 +82,12 @@ LangString StillRuns ${LANG_ENGLISH} "${NAME} is still running. Quit it from its
 LangString StillRuns ${LANG_GERMAN} "${NAME} läuft noch. Beenden Sie es über sein Symbol im Infobereich und versuchen Sie es erneut."
 LangString OnlyFrom10 ${LANG_ENGLISH} "${NAME} needs Windows 10 or later."
 LangString OnlyFrom10 ${LANG_GERMAN} "${NAME} benötigt Windows 10 oder neuer."
-; How the program is called so that it speaks the language of the installer.
+; The options that start the program in the installer's language.
 LangString ProgramOptions ${LANG_ENGLISH} "--lang en"
 LangString ProgramOptions ${LANG_GERMAN} "--lang de"
 
-; Asks every running program of this folder to end, the way the end of a session does, and waits
-; for it. $R0 is the number of those that still run.
+; Asks every running program from this folder to end, as at the end of a session, and waits for it.
+; $R0 is the number of programs still running.
 !macro CloseFunctions un
 Function ${un}EachRunning ; $R9: what to do with a window: 0 count, 1 ask to end
     StrCpy $R0 0
@@ -152,7 +153,7 @@ Section "!${NAME}" WithProgram
     SectionIn RO
     Call CloseProgram
     SetOutPath "$INSTDIR"
-    ; What an older version has and this one hasn't would stay.
+    ; Otherwise files that only the older version has would remain.
     ${If} ${FileExists} "$INSTDIR\uninstall.exe"
         ExecWait '"$INSTDIR\uninstall.exe" /S /Upgrade /$MultiUser.InstallMode _?=$INSTDIR'
     ${EndIf}
@@ -173,7 +174,7 @@ Section "!${NAME}" WithProgram
     ${GetSize} "$INSTDIR" "/S=0K" $0 $1 $2
     WriteRegDWORD SHCTX "${UNINSTALL_KEY}" EstimatedSize $0
 
-    ; Only an administrator can name a source of the event log.
+    ; Only an administrator can register an event log source.
     ${If} $MultiUser.InstallMode == AllUsers
         WriteRegExpandStr HKLM "${EVENT_SOURCE}" EventMessageFile "$INSTDIR\${PROGRAM}"
         WriteRegDWORD HKLM "${EVENT_SOURCE}" TypesSupported 1
@@ -194,7 +195,8 @@ SectionEnd
     !insertmacro MUI_DESCRIPTION_TEXT ${WithStartAtLogOn} $(AboutStartAtLogOn)
 !insertmacro MUI_FUNCTION_DESCRIPTION_END
 
-; Chooses a section if the command line says so, or if an earlier installation has what it makes.
+; Selects a section if the command line requests it, or if an earlier installation contains its
+; result.
 !macro Choose section option made
     ClearErrors
     ${GetOptions} $0 "${option}" $1
@@ -228,7 +230,7 @@ FunctionEnd
 
 Function StartProgram
     SetOutPath "$INSTDIR"
-    ; Through the desktop, so that it has the person's rights even if the installer has more.
+    ; Via the desktop shell, so that it runs with the user's rights even if the installer has more.
     Exec '"$WINDIR\explorer.exe" "$SMPROGRAMS\${NAME}.lnk"'
 FunctionEnd
 
@@ -245,7 +247,7 @@ Section Uninstall
     ${GetParameters} $0
     ClearErrors
     ${GetOptions} $0 "/Upgrade" $1
-    ; Shortcuts stay over an upgrade, with where the person has put them.
+    ; An upgrade keeps the shortcuts, wherever the user has put them.
     ${If} ${Errors}
         Delete "$SMPROGRAMS\${NAME}.lnk"
         Delete "$DESKTOP\${NAME}.lnk"

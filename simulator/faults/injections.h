@@ -13,31 +13,31 @@
 
 #include "simulator/wire/exchange.h"
 
-/// What a test can do to a call of a method. `Simulator::inject` takes each of them.
+/// What tests can do to calls of a method, as arguments of `Simulator::inject`.
 namespace simulator {
 
-/// The call isn't run; the caller gets a fault, with or without the head of a reply before it.
+/// The call isn't run; the caller gets a fault, with or without a reply head.
 struct Fault {
     std::string message;
     std::string code = "SimulatedFault";
     bool replyHead = true;
 };
 
-/// The call isn't run, and nothing ever comes back. The connection stays open.
+/// The call isn't run and never answered. The connection stays open.
 struct Silence {};
 
-/// The call isn't run; over HTTP comes this status. Waits for a call over HTTP.
+/// The call isn't run; the HTTP response has this status. Applies to a call over HTTP.
 struct HttpError {
     unsigned code;
     std::string reason;
 };
 
-/// The call isn't run; the whole reply message is these bytes.
+/// The call isn't run; these bytes are the whole reply message.
 struct RawReply {
     std::string bytes;
 };
 
-/// The reply comes so much later. Others may overtake it.
+/// The reply is delayed by this time. Other replies may overtake it.
 struct Delay {
     std::chrono::milliseconds time;
 };
@@ -56,38 +56,38 @@ struct Announcement {
 /// The connection is closed in place of the reply.
 struct CutBefore {};
 
-/// The connection is closed behind so many bytes of the frame or the HTTP response.
+/// The connection is closed after this many bytes of the frame or the HTTP response.
 struct CutWithin {
     std::size_t bytes;
 };
 
-/// The connection is closed behind the whole reply.
+/// The connection is closed after the whole reply.
 struct CutAfter {};
 
-/// Of a frame. Waits for a call over the stream.
+/// Wrong checksum of a frame. Applies to a call over the stream.
 struct WrongChecksum {};
 
-/// Of a frame. Waits for a call over the stream.
+/// Wrong magic number of a frame. Applies to a call over the stream.
 struct WrongMagic {};
 
-/// Each record in the reply, nested ones as well, ends with a member that nobody knows.
+/// Each record in the reply, including nested ones, ends with an unknown member.
 struct UnknownKey {
     std::string key = "surprise";
 };
 
-/// The int32 under this key in each record, or without a key the result itself, has this number.
+/// Sets the int32 under this key in each record, or the result itself without a key.
 struct UnknownEnumValue {
     std::string key;
     std::int32_t number = 1000;
 };
 
-/// The result is a null.
+/// The result is null.
 struct NullResult {};
 
-/// The members of each record come in reverse order.
+/// The members of each record are in reverse order.
 struct ReversedKeys {};
 
-/// Each list tells its type and its length.
+/// Each list includes its type and its length.
 struct ListsWithTypeAndLength {};
 
 using Injection =
@@ -97,18 +97,18 @@ using Injection =
 
 enum class Times { Once, UntilCleared };
 
-/// The injections that wait for their calls.
+/// The pending injections.
 class Injections {
 public:
-    /// `method` is "getName", "BackupSet.getName", or "*" for any. The first calls that fit pass:
-    /// so many as `after` says.
+    /// `method` is "getName", "BackupSet.getName", or "*" for any. The first `after` matching calls
+    /// are skipped.
     void add(std::string method, Injection injection, Times times, std::size_t after = 0);
     void clear() { waiting_.clear(); }
 
-    /// How many have not met their call yet, or apply until cleared.
+    /// Number of injections that haven't met their call yet, or apply until cleared.
     std::size_t waiting() const { return waiting_.size(); }
 
-    /// The injection for a call, the oldest one first.
+    /// The injection for a call; the oldest if several match.
     std::optional<Injection> take(std::string_view className, std::string_view method,
                                   wire::Channel channel);
 
@@ -122,16 +122,16 @@ private:
     std::vector<Waiting> waiting_;
 };
 
-/// The answer in place of running the call, if the injection asks for that.
+/// The answer if the injection replaces the call.
 std::optional<wire::Answer> answerInstead(const Injection& injection);
 
-/// Does to the answer of a call that was run what the injection asks for.
+/// Applies the injection to the answer of a call that was run.
 void spoil(wire::Answer& answer, const Injection& injection);
 
-/// Whether what the answer hands out may fail to arrive.
+/// Whether references in the answer may fail to arrive.
 bool losesReferences(const Injection& injection);
 
-/// "f", code, message, "z", behind the head of a reply if `replyHead`.
+/// "f", code, message, "z", after a reply head if `replyHead`.
 std::string faultReply(const Fault& fault);
 
 } // namespace simulator

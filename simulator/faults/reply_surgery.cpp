@@ -13,12 +13,12 @@
 namespace simulator {
 namespace {
 
-/// A value of any kind, taken apart as far as records and lists go.
+/// A value of any kind; only records and lists are decomposed.
 struct Member;
 
 struct Node {
     enum class Kind { Scalar, Record, List } kind = Kind::Scalar;
-    std::string bytes; ///< of a scalar; the type of a record
+    std::string bytes; ///< for a scalar; the type for a record
     std::vector<Member> members;
     std::vector<Node> elements;
 };
@@ -131,7 +131,7 @@ Node scalar(std::int32_t number) {
     return node;
 }
 
-/// The value of a reply; nothing for a fault and for a reply without one.
+/// The value of a reply; no value for a fault or an empty reply.
 std::optional<Node> valueOf(const std::string& reply) {
     hessianser::Cursor in(reply);
     if (hessianser::isFault(in))

@@ -6,23 +6,23 @@
 #include <string>
 #include <string_view>
 
-/// Changes to an encoded reply that need no knowledge of the method. A reply without a value, or
-/// a fault, stays as it is, except where told. Each returns the changed reply, and raises
-/// `serialize_exception` if it isn't one.
+/// Changes to an encoded reply that don't depend on the method. A fault, or a reply without a
+/// value, is left unchanged unless documented. Each function returns the changed reply, and throws
+/// `serialize_exception` if the input isn't a reply.
 namespace simulator {
 
-/// Each record gets a last member of that key.
+/// Appends a member with that key to each record.
 std::string withKey(const std::string& reply, const std::string& key);
 
-/// The int32 under `key` in each record, or without a key the value itself, becomes `number`.
+/// Sets the int32 under `key` in each record, or the value itself without a key, to `number`.
 std::string withNumber(const std::string& reply, const std::string& key, std::int32_t number);
 
-/// The value becomes a null.
+/// Replaces the value with null.
 std::string withNull(const std::string& reply);
 
 std::string withReversedKeys(const std::string& reply);
 
-/// Each list gets a type name and its length.
+/// Adds a type name and the length to each list.
 std::string withTypedLists(const std::string& reply);
 
 } // namespace simulator

@@ -21,7 +21,7 @@ std::string textOf(const gss::Buffer& buffer) {
     return {bytes.begin(), bytes.end()};
 }
 
-/// What GSSAPI says of one of its two codes; it may say it in several pieces.
+/// The text for one of GSSAPI's two status codes, which may consist of several messages.
 std::string statusText(OM_uint32 code, int kind) {
     std::string text;
     OM_uint32 more = 0;
@@ -55,7 +55,7 @@ gss::Credentials keysOf(const std::string& keyTable) {
     return keys;
 }
 
-/// Puts the name of a Kerberos principal, as in "anna@OFFICE", into user and domain.
+/// Splits the name of a Kerberos principal, such as "anna@OFFICE", into user and domain.
 void writeUser(const gss::Name& name, LogonStep& step) {
     OM_uint32 minor = 0;
     gss::Buffer buffer;
@@ -96,7 +96,7 @@ public:
     }
 
 private:
-    /// As the first token of a mechanism is framed (RFC 2743, section 3.1).
+    /// Whether it is framed like the first token of a mechanism (RFC 2743, section 3.1).
     static bool begins(std::string_view token) { return token.starts_with('\x60'); }
 
     gss::Credentials keys_;

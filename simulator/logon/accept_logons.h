@@ -9,14 +9,14 @@
 
 namespace simulator {
 
-/// The agent's part of real integrated logons: takes tokens of any mechanism that this system has,
-/// SPNEGO or bare Kerberos, with the keys of `keyTable`; those of the environment if that is empty.
-/// What it refuses is a `Refusal` with the system's own text.
+/// The agent's side of real integrated logons: accepts tokens of any mechanism on this system,
+/// SPNEGO or bare Kerberos, with the keys of `keyTable`, or of the environment if it is empty. A
+/// rejection throws `Refusal` with the system's own text.
 ///
-/// Nothing on the wire says whose token it is, so there is one logon at a time: a token that
-/// begins another one ends what was left half-way.
+/// Tokens on the wire don't identify their logon, so there is one logon at a time: the first token
+/// of another logon ends an unfinished one.
 ///
-/// Raises `std::runtime_error` if the keys can't be had, or if the system has no such mechanism.
+/// Throws `std::runtime_error` if the keys can't be loaded, or if the system has no such mechanism.
 std::function<LogonStep(const std::string& token)> acceptLogons(const std::string& keyTable);
 
 } // namespace simulator

@@ -12,21 +12,21 @@
 #include "simulator/objects/failures.h"
 #include "simulator/objects/references.h"
 
-/// Arguments of calls and results, by the C++ types of a handler. Beside the kinds of the wire
+/// Arguments and results of calls, by the C++ types of a handler. Besides the kinds of the wire,
 /// there are
 ///
 ///     std::shared_ptr<C>               an object of the remote class C, never null
 ///     Nullable<C>                      the same, or null
 ///     std::vector<std::shared_ptr<C>>  a list of them
-///     Secret                           a string that no log shows
+///     Secret                           a string that is hidden in logs
 ///     std::vector<const R*>            as a result only, records that aren't copied
 namespace simulator {
 
-/// Writes `result` at the end of a reply; what is an object is handed out.
+/// Appends `result` to a reply; objects are handed out as references.
 template <class T>
 void writeResult(const T& result, References& references, std::string& out);
 
-/// Reads one argument. Raises `Violation` or `serialize_exception` if there stands another kind.
+/// Reads one argument. Throws `Violation` or `serialize_exception` if it is of another kind.
 template <class T>
 T readArgument(hessianser::Cursor& in, References& references);
 
@@ -45,8 +45,8 @@ std::shared_ptr<C> readReference(hessianser::Cursor& in, References& references)
     return object;
 }
 
-/// A value must stand as the writer of its kind writes it: keys in their order, lists bare. It is
-/// told as a `Shown`.
+/// The bytes of a value must be exactly those of the writer of its kind: keys in order, lists
+/// without type and length. Logs show it as a `Shown`.
 template <class T, class Shown = T>
 T readCanonical(hessianser::Cursor& in) {
     const char* const begin = in.pos;

@@ -13,11 +13,11 @@
 
 #include "hessian/kinds.h"
 
-/// Arguments as people read them in a call log: `setName("Documents")`, `Stop()`,
+/// Human-readable arguments for a call log: `setName("Documents")`, `Stop()`,
 /// `setStartTime({hour=20, minute=30, second=0})`. Passwords and keys show as ***.
 namespace simulator {
 
-/// A text that no log may show.
+/// A text that must not appear in logs.
 struct Secret {
     std::string text;
 };
@@ -49,16 +49,16 @@ struct IsNullable : std::false_type {};
 template <class C>
 struct IsNullable<Nullable<C>> : std::true_type {};
 
-/// More elements than these are only counted.
+/// Elements beyond this number are only counted.
 inline constexpr std::size_t describedElements = 50;
 
 template <class T>
 std::string describe(const T& value);
 
-/// In quotes, with what would break a line escaped.
+/// In quotes, with quotes, backslashes and line breaks escaped.
 std::string inQuotes(std::string_view text);
 
-/// The key of a record's member that holds a password or an encryption key.
+/// Whether a record's member with this key holds a password or an encryption key.
 bool isSecretKey(std::string_view key);
 
 namespace detail {

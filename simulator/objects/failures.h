@@ -4,16 +4,16 @@
 
 #include <stdexcept>
 
-/// The two ways in which a call fails. Either way the caller gets the text as a fault.
+/// The two kinds of failed call. Either way the caller gets the text as a fault.
 namespace simulator {
 
-/// The call was right, and the agent says no: a wrong password, a set that has gone.
+/// A valid call that the agent rejects: a wrong password, a set that no longer exists.
 class Refusal : public std::runtime_error {
 public:
     using runtime_error::runtime_error;
 };
 
-/// No right client sends such a call. It is recorded as a violation.
+/// A call that a correct client never sends. It is recorded as a violation.
 class Violation : public std::runtime_error {
 public:
     using runtime_error::runtime_error;

@@ -7,11 +7,11 @@
 
 namespace simulator {
 
-/// A call that reached the agent, as tests compare it.
+/// A call that reached the agent, in a form that tests compare.
 struct Call {
-    std::string className; ///< the class that has the method, as "BackupSet"
+    std::string className; ///< the class that declares the method, as "BackupSet"
     std::string method;
-    std::string arguments; ///< as people read them: `3, "Documents", true`
+    std::string arguments; ///< human-readable: `3, "Documents", true`
 
     /// "BackupSet.setName("Documents")"
     std::string text() const { return className + "." + method + "(" + arguments + ")"; }

@@ -14,24 +14,24 @@
 
 namespace simulator {
 
-/// Which objects clients hold. Each hand-out has a URL of its own, so that every reference that
-/// was received is to be released once.
+/// The objects held by clients. Each hand-out has a unique URL, so every received reference must be
+/// released exactly once.
 class ObjectTable final : public References {
 public:
     std::string handOut(const std::shared_ptr<Servant>& object) override;
     std::shared_ptr<Servant> resolve(const std::string& url) override;
 
-    /// Takes the reference back. Raises `Violation` if it wasn't held.
+    /// Releases the reference. Throws `Violation` if it wasn't held.
     void release(const std::string& url);
 
-    /// True for what is held, and for what was.
+    /// True for references that are held now or were before.
     bool wasHandedOut(const std::string& url) const;
 
-    /// Begins a call, whose hand-outs may never arrive.
+    /// Starts tracking a call whose hand-outs may never arrive.
     void watch() { watchedFrom_ = last_ + 1; }
 
-    /// What was handed out since `watch` got lost on its way. It isn't missed if nobody releases
-    /// it, and may be released all the same.
+    /// Marks the hand-outs since `watch` as lost in transit. They don't have to be released, but
+    /// may be.
     void loseWatched();
 
     /// Texts such as "BackupSet(3) https://127.0.0.1:4411/api/BackupSet/17", oldest first.

@@ -12,19 +12,19 @@ namespace simulator {
 
 class Servant;
 
-/// Objects and the URLs that stand for them.
+/// Maps objects to URLs and back.
 class References {
 public:
     virtual ~References() = default;
 
-    /// A new URL for the object; a null has none and mustn't be passed.
+    /// A new URL for the object, which must not be null.
     virtual std::string handOut(const std::shared_ptr<Servant>& object) = 0;
 
-    /// Raises `Violation` if there is no such object, or no longer.
+    /// Throws `Violation` if there is no such object or it was released.
     virtual std::shared_ptr<Servant> resolve(const std::string& url) = 0;
 };
 
-/// A reference as a member of a record: a URL that was handed out, or empty for null.
+/// A reference as a member of a record: a URL that was handed out; empty for null.
 struct Handed {
     std::string url;
 };

@@ -17,9 +17,9 @@
 
 namespace simulator {
 
-/// The agent's end of a remote object.
+/// The agent's side of a remote object.
 ///
-/// A class derives from it, names itself in its constructor, and has one line for each method:
+/// A class derives from it, names itself in its constructor, and registers each method in one line:
 ///
 ///     class BackupStartParameters : public Servant {
 ///     public:
@@ -32,10 +32,10 @@ namespace simulator {
 ///         }
 ///     };
 ///
-/// `family` is needed where it is an argument of others. A narrower class derives from the wider
-/// one, and names itself as well. A handler's types say how the call is decoded; it raises
-/// `Refusal` or `Violation`, whose text becomes the fault. `types` is there for every class, and
-/// `Release` is the business of who keeps the objects.
+/// `family` is needed if objects of the class are arguments of others. A subclass derives from its
+/// base class and names itself too. A handler's types determine how the call is decoded; the
+/// handler throws `Refusal` or `Violation`, whose text becomes the fault. `types` exists for every
+/// class, and `Release` is handled by the owner of the objects.
 class Servant : public std::enable_shared_from_this<Servant> {
 public:
     explicit Servant(std::shared_ptr<Session> session)
@@ -44,26 +44,26 @@ public:
     Servant& operator=(const Servant&) = delete;
     virtual ~Servant() = default;
 
-    /// A call that was decoded as a whole, and waits to be run.
+    /// A fully decoded call, ready to run.
     struct Prepared {
-        std::string className; ///< the class that has the method
-        std::string arguments; ///< as people read them
+        std::string className; ///< the class that declares the method
+        std::string arguments; ///< human-readable
         std::function<void(std::string& reply)> run;
     };
 
-    /// Decodes the arguments up to the call's end. Raises `Violation` or `serialize_exception`.
+    /// Decodes the arguments up to the call's end. Throws `Violation` or `serialize_exception`.
     Prepared prepare(std::string_view method, hessianser::Cursor& in, References& references);
 
-    /// How logs name the object where it is an argument.
+    /// The object's name in logs when it is an argument.
     virtual std::string label() const { return className(); }
 
-    /// The class of the widest kind, as a client's method returns it.
+    /// The base class, which is the return type of a client's method.
     const std::string& className() const { return types_.front(); }
 
     const std::shared_ptr<Session>& session() const { return session_; }
 
 protected:
-    /// The methods that follow are those of this class. From the widest class to the narrowest.
+    /// Declares a class, from the base to the most derived; later `on` calls belong to it.
     void implements(std::string className) { types_.push_back(std::move(className)); }
 
     template <class Handler>
@@ -72,7 +72,7 @@ protected:
         methods_.insert_or_assign(std::move(method), std::move(entry));
     }
 
-    /// For results: this object, as its own class.
+    /// For results: this object as its own class.
     template <class Self>
     static std::shared_ptr<Self> share(Self& self) {
         return std::static_pointer_cast<Self>(self.shared_from_this());

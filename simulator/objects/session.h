@@ -6,9 +6,10 @@
 
 namespace simulator {
 
-/// What a login gives. It lives as long as an object of it.
+/// The result of a login. Lives as long as any of its objects.
 struct Session {
-    std::string baseUrl; ///< as the client calls the agent; its objects' URLs begin with it
+    std::string baseUrl; ///< the agent's URL as used by the client; prefix of the URLs of its
+                         ///< objects
     std::string user;
     bool ended = false;
 };

@@ -18,7 +18,7 @@ sigset_t endSignals() {
 
 } // namespace
 
-// They are taken by `sigwait` on the main thread, so every thread is to block them.
+// The main thread takes the signals with `sigwait`, so every thread must block them.
 void expectEndRequest() {
     const sigset_t signals = endSignals();
     pthread_sigmask(SIG_BLOCK, &signals, nullptr);

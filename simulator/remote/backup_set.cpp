@@ -186,7 +186,7 @@ void BackupSet::setItems(const std::vector<std::shared_ptr<BackupSetItem>>& item
 }
 
 std::shared_ptr<BackupSetCredentials> BackupSet::credentials() const {
-    // A copy: what becomes of it counts when it is set again.
+    // A copy: changes take effect only when it is set again.
     const auto copy = std::make_shared<CredentialsState>(set_->credentials);
     copy->ofSet = true;
     return makeCredentials(session(), world_, copy);

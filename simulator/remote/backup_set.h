@@ -15,7 +15,7 @@ class BackupSetItem;
 class RetentionRule;
 class Schedule;
 
-/// A backup set; that of a Windows computer is a `Win32FS_BackupSet` too.
+/// A backup set; for a Windows computer it is a `Win32FS_BackupSet` too.
 class BackupSet final : public Servant {
 public:
     static constexpr std::string_view family = "BackupSet";

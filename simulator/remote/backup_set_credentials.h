@@ -10,7 +10,7 @@
 
 namespace simulator {
 
-/// How the agent gets into a computer. Objects of the same state are one to a browser.
+/// How the agent accesses a computer. A browser treats objects with the same state as one.
 class BackupSetCredentials : public Servant {
 public:
     static constexpr std::string_view family = "BackupSetCredentials";
@@ -22,17 +22,17 @@ public:
     std::string label() const override;
 
 protected:
-    /// The methods by which a class that asks for a user and a password takes them.
+    /// Registers the login methods of a class with user and password.
     void offerLogin();
 
-    /// A new login in place of the old one. Raises `Refusal` if there is no user.
+    /// Replaces the login. Throws `Refusal` without a user.
     void setLogin(const std::string& user, const std::string& password, const std::string& keyFile,
                   const std::string& passphrase);
 
     State state_;
 };
 
-/// Credentials of the class that their kind asks for.
+/// Creates credentials of the class for their kind.
 std::shared_ptr<BackupSetCredentials> makeCredentials(const std::shared_ptr<Session>& opened,
                                                       const World& world,
                                                       const BackupSetCredentials::State& state);

@@ -39,7 +39,7 @@ StoredNode& BackupSetDataView::at(std::int64_t id) const {
 std::int64_t BackupSetDataView::idOf(const StoredNode::Pointer& node) {
     if (const auto known = ids_.find(node.get()); known != ids_.end())
         return known->second;
-    // The first group has the id 0, and none that of the top level.
+    // The first group has id 0; no group has the id of the top level.
     std::int64_t id = ++lastId_;
     if (node->isGroup) {
         --lastId_;
@@ -70,7 +70,7 @@ std::vector<StoredGeneration> BackupSetDataView::generations(std::int64_t id) co
         throw Violation("a folder is asked for its generations");
     if (!file.denied.empty())
         throw Refusal(file.denied);
-    // All of them, whatever the view shows, and in no order, as an agent's database has them.
+    // All of them, whatever the view shows, and unordered, as in an agent's database.
     auto list = file.generations;
     std::rotate(list.begin(), list.begin() + static_cast<std::ptrdiff_t>(list.size() / 2),
                 list.end());

@@ -16,15 +16,16 @@ namespace simulator {
 
 struct Chosen;
 
-/// What a set holds, for one choice of filter values. Each view gives ids of its own, in the order
-/// in which things are listed; they follow those of the view before only if the world wants it.
+/// The content of a set for one choice of filter values. Each view assigns its own ids in the order
+/// of listing; the world decides whether they continue those of the previous view.
 class BackupSetDataView : public Servant {
 protected:
     BackupSetDataView(std::shared_ptr<Session> opened, World& world, World::Set set,
                       const StoredFilter& filter, const std::string& className);
 
-    /// Raises `Violation` for an id that names nothing to choose, for what is chosen twice or lies
-    /// in something else that is, and if there are none. Raises `Refusal` for what has gone.
+    /// Throws `Violation` for an id that can't be selected, for an item selected twice or inside
+    /// another selected one, and for an empty selection. Throws `Refusal` for items that no longer
+    /// exist.
     Chosen chosen(const std::vector<std::int64_t>& ids) const;
 
     World& world_;

@@ -10,7 +10,7 @@
 
 namespace simulator {
 
-/// An item, within a set or on its way into one. It is a copy: a set has what it was last given.
+/// An item, in a set or not yet added to one. It is a copy; the set keeps what was last set.
 class BackupSetItem : public Servant {
 public:
     static constexpr std::string_view family = "BackupSetItem";
@@ -24,7 +24,7 @@ protected:
     ItemState state_;
 };
 
-/// An item of the class that its kind asks for.
+/// Creates an item of the class for its kind.
 std::shared_ptr<BackupSetItem> makeItem(const std::shared_ptr<Session>& opened, ItemState state);
 
 } // namespace simulator

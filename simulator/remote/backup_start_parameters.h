@@ -8,7 +8,7 @@
 
 namespace simulator {
 
-/// How a backup on demand is to run.
+/// Options of an on-demand backup.
 class BackupStartParameters final : public Servant {
 public:
     static constexpr std::string_view family = "BackupStartParameters";

@@ -38,7 +38,7 @@ time_in_day checkedRun(const time_in_day& time) {
     return time;
 }
 
-/// The numbers of AES that are only read.
+/// Whether the number is one of the AES numbers that are only read.
 bool isOldNumber(KeyEncryptionType type) {
     return type > KeyEncryptionType::DES && type < KeyEncryptionType::AES128;
 }

@@ -9,7 +9,7 @@ namespace simulator {
 
 class GenericActivity;
 
-/// What the agent knows about the customer.
+/// The agent's information about the customer.
 class UserInfoConfiguration final : public Servant {
 public:
     UserInfoConfiguration(std::shared_ptr<Session> opened, World& world);

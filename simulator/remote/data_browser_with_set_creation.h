@@ -6,7 +6,7 @@
 
 namespace simulator {
 
-/// A browser that also makes backup sets.
+/// A browser that can also create backup sets.
 class DataBrowserWithSetCreation final : public DataSourceBrowser {
 public:
     DataBrowserWithSetCreation(const std::shared_ptr<Session>& opened, World& world);

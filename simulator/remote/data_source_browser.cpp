@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::int32_t mostGenerations = 9'999;
 
-/// What a computer asks of somebody who has just come.
+/// The initial login for a computer.
 CredentialsState loginFor(const SourceComputer& computer, const std::string& user) {
     CredentialsState credentials;
     credentials.kind = computer.kind;

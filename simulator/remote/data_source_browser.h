@@ -13,17 +13,17 @@
 
 namespace simulator {
 
-/// Looks at what can be backed up, with one login at a time, and makes items of it.
+/// Browses what can be backed up, with one login at a time, and creates items from it.
 class DataSourceBrowser : public Servant {
 public:
     static constexpr std::string_view family = "DataSourceBrowser";
 
-    /// The login begins as that of the agent's own computer.
+    /// Starts with the login for the agent's own computer.
     DataSourceBrowser(const std::shared_ptr<Session>& opened, World& world);
-    /// The login begins as a set has it.
+    /// Starts with the login of a set.
     DataSourceBrowser(std::shared_ptr<Session> opened, World& world, CredentialsState current);
 
-    /// Raises `Refusal` if nobody knows the computer, or the login isn't good enough for it.
+    /// Throws `Refusal` if the computer is unknown, or the login isn't sufficient for it.
     void requireAccess(const std::string& computer) const;
 
 protected:
@@ -38,14 +38,14 @@ private:
     void offerItems();
     void offerCredentials();
 
-    /// Raises what `requireAccess` does.
+    /// Throws what `requireAccess` throws.
     std::vector<hessiancln::browse_item_info> list(const std::string& computer,
                                                    const std::string& path) const;
     std::shared_ptr<BackupSetCredentials> fresh(const std::string& computer);
     void use(const Credentials& credentials);
 
     Credentials current_;
-    std::vector<Credentials> made_; ///< that this browser has handed out
+    std::vector<Credentials> made_; ///< handed out by this browser
 };
 
 } // namespace simulator

@@ -16,7 +16,7 @@ using LoginInfo = hessiancln::basic_sspi_login_info<Handed>;
 
 constexpr std::string_view clientVersion = "13.0.0.0";
 
-/// A token stands behind its length, which is little-endian.
+/// A token follows its little-endian length.
 std::string unframed(const Binary& framed) {
     if (framed.size() < 4)
         throw Violation("the token has no length");

@@ -11,11 +11,11 @@
 
 namespace simulator {
 
-/// The object that needs no login. A session's root is another one.
+/// The object that needs no login. A session's root is a different one.
 class EntryPoint final : public Servant {
 public:
-    /// `baseUrl` is what the caller calls the agent; `references` takes the sessions that logins
-    /// open. All are to outlive the object.
+    /// `baseUrl` is the agent's URL as used by the caller; `references` holds the sessions opened
+    /// by logins. All arguments must outlive the object.
     EntryPoint(World& world, const Options& options, References& references, std::string baseUrl);
 
 private:

@@ -8,7 +8,7 @@
 
 namespace simulator {
 
-/// Keeps one generation for each repeat time.
+/// Keeps one generation per repeat time.
 class IntervalTimeRetentionOption final : public TimeRetentionOption {
 public:
     IntervalTimeRetentionOption(std::shared_ptr<Session> opened, State option)

@@ -15,19 +15,19 @@ namespace simulator {
 
 class DataSourceBrowser;
 
-/// What was chosen in a view.
+/// What was selected in a view.
 struct Chosen {
     std::vector<StoredNode::Pointer> nodes;
-    std::vector<StoredPlace> places; ///< where these stand, in the order of the storage
+    std::vector<StoredPlace> places; ///< their places, in storage order
     StoredFilter filter;
 };
 
-/// What is prepared and starts once. A set that has gone starts nothing.
+/// A prepared activity that can start once. If the set no longer exists, it can't start.
 class PreparedActivity : public Servant {
 protected:
     PreparedActivity(std::shared_ptr<Session> opened, World& world, World::Set set, Chosen chosen);
 
-    /// Raises `Violation` if it has started, `Refusal` if the set has gone.
+    /// Throws `Violation` if it has started, `Refusal` if the set no longer exists.
     void requireReady() const;
     ActivityPlan planOf(hessiancln::ActivityType type);
     std::shared_ptr<Servant> begin(ActivityPlan plan);
@@ -40,8 +40,8 @@ private:
     bool started_ = false;
 };
 
-/// A deletion that is ready to start. When its activity has ended, the data is gone and the set's
-/// figures say so. With two-factor authentication it takes a code.
+/// A deletion that is ready to start. When its activity has ended, the data is deleted and the
+/// set's figures reflect it. With two-factor authentication it requires a code.
 class DeleteActivityInitiator final : public PreparedActivity {
 public:
     DeleteActivityInitiator(std::shared_ptr<Session> opened, World& world, World::Set set,
@@ -51,7 +51,7 @@ private:
     std::shared_ptr<Servant> start();
 };
 
-/// A restore that is ready to start. What it can't read are its errors.
+/// A restore that is ready to start. Unreadable items count as its errors.
 class RestoreActivityInitiator final : public PreparedActivity {
 public:
     RestoreActivityInitiator(std::shared_ptr<Session> opened, World& world, World::Set set,

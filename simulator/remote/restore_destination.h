@@ -12,19 +12,19 @@
 
 namespace simulator {
 
-/// The shares that these places lie in, each with the path that all of its places have in common.
+/// The shares of these places, each with the common path of all of its places.
 std::vector<hessiancln::selected_shares> sharesOf(const std::vector<StoredPlace>& places);
 
-/// Raises `Violation` unless each share goes to one path of its own, and no more of a path is
-/// dropped than may be.
+/// Throws `Violation` unless each share has its own destination path, and no path drops more levels
+/// than allowed.
 void checkMappings(const std::vector<hessiancln::selected_shares>& shares,
                    const std::vector<hessiancln::share_mapping>& mappings,
                    std::int32_t truncateLevel);
 
-/// Raises `Refusal` if the path begins with no drive of the computer.
+/// Throws `Refusal` if the path doesn't begin with a drive of the computer.
 void checkDestination(const SourceComputer& computer, const std::string& path);
 
-/// Raises `Violation` unless it stands for a reason, and not for a heading over some of them.
+/// Throws `Violation` unless it is the code of a reason rather than a heading.
 void checkReason(std::int32_t code);
 
 } // namespace simulator

@@ -11,7 +11,7 @@
 
 namespace simulator {
 
-/// Which generations are kept; shared by the sets that refer to it.
+/// Defines which generations to keep; shared by the sets that refer to it.
 class RetentionRule final : public Servant {
 public:
     static constexpr std::string_view family = "RetentionRule";
@@ -19,7 +19,7 @@ public:
 
     RetentionRule(std::shared_ptr<Session> opened, World& world, State state);
 
-    /// Raises `Refusal` if the rule was removed.
+    /// Throws `Refusal` if the rule was removed.
     const State& state() const;
     std::string label() const override { return "RetentionRule(" + state_->name + ")"; }
 

@@ -7,7 +7,7 @@
 
 namespace simulator {
 
-/// Hands out, makes and removes retention rules. A new one is there at once, without a name.
+/// Lists, creates and removes retention rules. A new one exists immediately, without a name.
 class RetentionRuleManager final : public Servant {
 public:
     RetentionRuleManager(std::shared_ptr<Session> opened, World& world);

@@ -19,7 +19,7 @@ public:
 
     Schedule(std::shared_ptr<Session> opened, World& world, State state);
 
-    /// Raises `Refusal` if the schedule was removed.
+    /// Throws `Refusal` if the schedule was removed.
     const State& state() const;
     std::string label() const override { return "Schedule(" + state_->name + ")"; }
 

@@ -10,7 +10,7 @@
 
 namespace simulator {
 
-/// A part of a schedule, or on its way into one. Its schedule follows each change.
+/// A part of a schedule, or not yet added to one. Changes apply to its schedule at once.
 class ScheduleDetail : public Servant {
 public:
     static constexpr std::string_view family = "ScheduleDetail";
@@ -25,7 +25,7 @@ protected:
     State state_;
 };
 
-/// A detail of the class that its type asks for.
+/// Creates a detail of the class for its type.
 std::shared_ptr<ScheduleDetail> makeDetail(const std::shared_ptr<Session>& opened,
                                            const ScheduleDetail::State& state);
 

@@ -7,7 +7,7 @@
 
 namespace simulator {
 
-/// Hands out, makes and removes schedules. A new one is there at once, without a name.
+/// Lists, creates and removes schedules. A new one exists immediately, without a name.
 class ScheduleManager final : public Servant {
 public:
     ScheduleManager(std::shared_ptr<Session> opened, World& world);

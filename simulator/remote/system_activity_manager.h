@@ -25,13 +25,13 @@ private:
     World::Set set_;
 };
 
-/// The agent's work on itself.
+/// The agent's maintenance of itself.
 class SystemActivityManager final : public Servant {
 public:
     SystemActivityManager(std::shared_ptr<Session> opened, World& world);
 
 private:
-    /// The id of the set that is one of the agent's again.
+    /// Returns the id of the recovered set.
     std::int32_t recover(const World::Set& orphan);
 
     World& world_;

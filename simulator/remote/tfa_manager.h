@@ -7,13 +7,13 @@
 
 namespace simulator {
 
-/// Codes by mail as a second factor. A code is good once, for the mode that it was asked for.
+/// Codes by mail as a second factor. A code is valid once, for the requested mode.
 class TFAManager final : public Servant {
 public:
     TFAManager(std::shared_ptr<Session> opened, World& world);
 
 private:
-    /// Sends a code. The address that it goes to.
+    /// Sends a code and returns the address.
     std::string request(std::int32_t mode);
     void validate(const std::string& code, std::int32_t mode);
     void setEmails(const std::vector<hessiancln::user_email>& emails);

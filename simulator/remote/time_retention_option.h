@@ -10,7 +10,7 @@
 
 namespace simulator {
 
-/// How long a rule keeps something. Its rule follows each change.
+/// How long a rule keeps something. Changes apply to its rule at once.
 class TimeRetentionOption : public Servant {
 public:
     static constexpr std::string_view family = "TimeRetentionOption";
@@ -22,13 +22,13 @@ public:
     const State& state() const { return state_; }
 
 protected:
-    /// Raises `Refusal` for a span of no length.
+    /// Throws `Refusal` for an empty span.
     static const Span& checked(const Span& span);
 
     State state_;
 };
 
-/// An option of the class that it asks for.
+/// Creates an option of the class for its kind.
 std::shared_ptr<TimeRetentionOption> makeOption(const std::shared_ptr<Session>& opened,
                                                 const TimeRetentionOption::State& state);
 

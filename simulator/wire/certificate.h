@@ -6,8 +6,8 @@
 
 namespace simulator::wire {
 
-/// A server's TLS context with a fresh key and a certificate that it signed itself, both in
-/// memory only. Raises `std::runtime_error`.
+/// A server's TLS context with a new key and a self-signed certificate, both in memory only. Throws
+/// `std::runtime_error`.
 boost::asio::ssl::context selfSignedContext();
 
 } // namespace simulator::wire

@@ -92,8 +92,8 @@ private:
         return {static_cast<const char*>(data.data()), data.size()};
     }
 
-    /// Reads until there are `size` bytes, then goes on with `next`. Memory follows the bytes that
-    /// came, not those that were announced.
+    /// Reads until there are `size` bytes, then continues with `next`. Memory grows with the
+    /// received bytes, not with the announced ones.
     void readUpTo(std::size_t size, void (StreamConnection::*next)()) {
         const auto self = this->shared_from_this();
         stream_.async_read_some(buffer_.prepare(readAtOnce),
@@ -108,7 +108,7 @@ private:
                                 });
     }
 
-    /// The first bytes tell a client that posts from one that sends frames.
+    /// The first bytes distinguish a client that posts from one that sends frames.
     void sniff() {
         const std::string_view begun = received().substr(0, requestMagic.size());
         if (begun.empty() || (begun.size() < requestMagic.size() && begun.front() == '@'))
@@ -163,7 +163,7 @@ private:
         if (error == http::error::end_of_stream || error == asio::error::eof)
             return cut();
         if (error) {
-            // Other failures are the socket's own.
+            // Other failures are those of the socket.
             if (error.category() == http::make_error_code(http::error::bad_method).category())
                 refuse({400, "Bad Request"}, "neither HTTP nor a frame: " + error.message());
             return;
@@ -192,7 +192,7 @@ private:
         send({httpResponse(status, why + "\n", false), true, {}});
     }
 
-    /// Holds the connection open until the other side gives up.
+    /// Keeps the connection open until the peer gives up.
     void waitForClose() { readUpTo(received().size() + 1, &StreamConnection::waitForClose); }
 
     void sendLater(std::string bytes, const Answer& answer, bool last = false) {

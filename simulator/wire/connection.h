@@ -11,15 +11,15 @@
 
 namespace simulator::wire {
 
-/// One accepted connection. It keeps itself alive while an operation of it is under way, and is
-/// used on the I/O thread only.
+/// One accepted connection. It keeps itself alive during an operation, and is used on the I/O
+/// thread only.
 class Connection {
 public:
     virtual ~Connection() = default;
 
     virtual void start() = 0;
 
-    /// Closes the socket at once, without a word to the other side.
+    /// Closes the socket immediately, without notifying the peer.
     virtual void cut() = 0;
 };
 

@@ -15,14 +15,14 @@ namespace simulator::wire {
 
 enum class Channel { Http, Stream };
 
-/// A call message and the URL of the object that it goes to.
+/// A call message and the URL of its target object.
 struct CallMessage {
     Channel channel;
     std::string url;
     std::string_view bytes;
 };
 
-/// What goes back for a call, and what is done to it on the way.
+/// The answer to a call, and how it is sent.
 struct Answer {
     std::string message;
     std::chrono::milliseconds delay{0};
@@ -31,26 +31,26 @@ struct Answer {
     /// In the head of a frame, of which nothing else comes.
     std::optional<std::uint64_t> announced;
     bool silent = false;
-    /// In place of a body, over HTTP.
+    /// Replaces the body, over HTTP.
     std::optional<HttpStatus> status;
     bool wrongMagic = false;
     bool wrongChecksum = false;
-    /// The connection is closed behind so many bytes of the frame or of the response.
+    /// The connection is closed after this many bytes of the frame or of the response.
     std::optional<std::size_t> cutAt;
     bool cutBehind = false;
 };
 
-/// What stands behind the wire. Called on the I/O thread only.
+/// The code behind the wire. Called on the I/O thread only.
 class Exchange {
 public:
     virtual ~Exchange() = default;
 
     virtual Answer answer(const CallMessage& call) = 0;
 
-    /// Whether an object of this URL is or was there.
+    /// Whether an object with this URL exists or existed.
     virtual bool knowsObject(const std::string& url) = 0;
 
-    /// Tells of bytes that were refused before they became a call.
+    /// Reports bytes that were rejected before they became a call.
     virtual void reportViolation(const std::string& text) = 0;
 };
 

@@ -9,29 +9,30 @@
 #include <string_view>
 #include <variant>
 
-/// The frames of the long-lived stream as the agent sees them: it takes requests and gives
-/// responses. Integers are big-endian; the checksum is CRC-32 and covers all behind the magic.
+/// The frames of the long-lived stream on the agent's side: it receives requests and sends
+/// responses. Integers are big-endian; the checksum is CRC-32 and covers everything after the
+/// magic.
 namespace simulator::wire {
 
 inline constexpr std::string_view requestMagic = "@REQ";
 inline constexpr std::string_view responseMagic = "@RSP";
 
-/// The longest URL and the longest call that a client has a reason to send.
+/// The longest URL and the longest call that a client needs to send.
 inline constexpr std::uint32_t maximumUrl = 4096;
 inline constexpr std::uint64_t maximumCall = 64u << 20;
 
-/// Bytes that no right client sends. The stream can't be followed behind them.
+/// Bytes that a correct client never sends. The stream can't be parsed any further.
 class BadFrame : public std::runtime_error {
 public:
     using runtime_error::runtime_error;
 };
 
-/// There must be `size` bytes before it can be told how the frame goes on.
+/// At least `size` bytes are needed to parse the rest of the frame.
 struct Incomplete {
     std::size_t size;
 };
 
-/// A whole request. The texts point into the bytes that were parsed.
+/// A complete request. The texts point into the parsed bytes.
 struct RequestFrame {
     std::uint32_t id;
     std::string_view url;
@@ -39,7 +40,7 @@ struct RequestFrame {
     std::size_t size;
 };
 
-/// Looks at the head of `bytes`. Raises `BadFrame`.
+/// Parses the start of `bytes`. Throws `BadFrame`.
 std::variant<Incomplete, RequestFrame> parseRequest(std::string_view bytes);
 
 std::string responseFrame(std::uint32_t id, std::string_view message);

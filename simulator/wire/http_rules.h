@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-/// Which HTTP requests an agent's client may send, and what the others get.
+/// Which HTTP requests an agent's client may send, and the responses to the others.
 namespace simulator::wire {
 
 struct HttpStatus {
@@ -16,24 +16,24 @@ struct HttpStatus {
     std::string reason;
 };
 
-/// A request as far as the rules look at it.
+/// The parts of a request that the rules check.
 struct HttpRequest {
     std::string method;
     std::string target;
     std::vector<std::pair<std::string, std::string>> headers;
     std::string body;
 
-    /// Names are compared without regard to case. Null if there is none.
+    /// Names are case-insensitive. Null if there is no such header.
     const std::string* header(std::string_view name) const;
 };
 
-/// A request that is refused: the status that it gets, and what was wrong with it.
+/// A rejected request: the status to send, and the reason.
 struct Refused {
     HttpStatus status;
     std::string why;
 };
 
-/// What speaks against the request, whatever object it goes to.
+/// The reason to reject the request, whatever its target object.
 std::optional<Refused> checkRequest(const HttpRequest& request);
 
 /// The bytes of a response.

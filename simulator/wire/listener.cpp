@@ -24,7 +24,7 @@ using tcp = asio::ip::tcp;
 
 namespace {
 
-// As when the process has no descriptors left.
+// For example, if the process has run out of descriptors.
 constexpr std::chrono::milliseconds pauseBetweenFailures{20};
 
 } // namespace
@@ -65,7 +65,7 @@ struct Listener::Parts {
 
     Exchange& exchange;
     const bool tls;
-    // Behind all that its handlers may still hold when it goes.
+    // Outlives the connections that pending handlers may still hold.
     asio::ssl::context context;
     std::vector<std::weak_ptr<Connection>> connections;
     asio::io_context io{1};

@@ -9,12 +9,12 @@
 
 namespace simulator::wire {
 
-/// Listens on 127.0.0.1 and serves every connection on one thread of its own, so that nothing
-/// behind it needs to care about threads.
+/// Listens on 127.0.0.1 and serves all connections on a thread of its own, so that the code it
+/// calls needn't care about threads.
 class Listener {
 public:
-    /// Port 0 takes a free one. Raises `std::system_error` if the port can't be had. `exchange`
-    /// outlives the listener.
+    /// Port 0 selects a free one. Throws `std::system_error` if the port isn't available.
+    /// `exchange` must outlive the listener.
     Listener(std::uint16_t port, bool tls, Exchange& exchange);
 
     /// Closes every connection, in whatever state it is, and returns when the thread has ended.
@@ -25,7 +25,7 @@ public:
 
     std::uint16_t port() const;
 
-    /// Cuts every connection that is open now; new ones are welcome.
+    /// Cuts all open connections; new ones are accepted.
     void cutConnections();
 
 private:

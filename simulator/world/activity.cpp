@@ -8,7 +8,7 @@
 namespace simulator {
 namespace {
 
-// The parts of an activity's time that pass before data moves.
+// Fractions of an activity's duration before data moves.
 constexpr double connected = 0.02;
 constexpr double scanned = 0.08;
 

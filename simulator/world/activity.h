@@ -12,10 +12,10 @@
 
 namespace simulator {
 
-/// How the agent counts the ends of activities.
+/// The agent's codes for how an activity ended.
 enum class Ending { Completed = 0, WithErrors = 1, WithWarnings = 2, Stopped = 3 };
 
-/// What an activity is going to do.
+/// The planned course of an activity.
 struct ActivityPlan {
     hessiancln::ActivityType type{};
     std::string description;
@@ -25,15 +25,15 @@ struct ActivityPlan {
     std::int32_t files = 0;
     std::int64_t bytes = 0;
     Milliseconds duration = 0; ///< at speed 1
-    double standsAt = -1;      ///< the share of the data at which it stands still; below 0 it moves
+    double standsAt = -1;      ///< the share of the data at which it stalls; below 0 it doesn't
     std::vector<std::string> directories;
     std::int32_t errors = 0;
     std::int32_t warnings = 0;
-    /// Called once when it has ended, with what it did.
+    /// Called once after the end, with the results.
     std::function<void(const hessiancln::activity_log_info&)> ended;
 };
 
-/// An activity under way. All it shows follows from the time, so it needs no timer.
+/// A running activity. Its state is computed from the time, so it needs no timer.
 class Activity {
 public:
     Activity(std::int32_t id, ActivityPlan plan, Milliseconds start, double speed);
@@ -42,14 +42,14 @@ public:
     Milliseconds end() const { return end_; }
     const ActivityPlan& plan() const { return plan_; }
 
-    /// As the list of running activities has it.
+    /// Its entry in the list of running activities.
     hessiancln::running_activity_info at(Milliseconds now) const;
 
-    /// The row of the log if it ends now, before its time if `stopped`.
+    /// Its row in the log if it ends now; prematurely if `stopped`.
     hessiancln::activity_log_info outcome(Milliseconds now, bool stopped) const;
 
 private:
-    /// How much of the data is done, 0 to 1: nothing while it connects and scans.
+    /// The processed share of the data, 0 to 1: nothing while it connects and scans.
     double share(Milliseconds now) const;
     double progress(Milliseconds now) const;
     std::string status(Milliseconds now) const;

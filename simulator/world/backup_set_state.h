@@ -13,26 +13,26 @@
 
 namespace simulator {
 
-/// An item of a set: what it takes in or leaves out.
+/// An item of a set: what it includes or excludes.
 struct ItemState {
     enum class Kind { Inclusion = 0, Exclusion = 1, Regex = 2 } kind = Kind::Inclusion;
     std::string computer;
     std::string folder;
     std::int32_t generations = 9999;
-    // Of a regular expression only.
+    // For a regular expression only.
     std::string expression{};
-    bool inclusion = false; ///< it selects files
+    bool inclusion = false; ///< selects files
     bool negate = false;
     bool caseSensitive = true;
     bool matchDirectories = true;
 };
 
-/// What stands in place of an id.
+/// Used in place of an id.
 inline constexpr std::int32_t noSchedule = -1;
 inline constexpr std::int32_t noRule = 0;
 
-/// All that the agent knows of a set. The figures stand in `info`, which is what lists show; the
-/// schedule and the retention rule stand there by their ids only.
+/// Everything the agent knows about a set. The figures are in `info`, which lists show; it contains
+/// only the ids of the schedule and the retention rule.
 struct BackupSetState {
     hessiancln::backup_set_info info;
     std::int32_t leastGenerations = -1;
@@ -42,11 +42,11 @@ struct BackupSetState {
     std::string localStoragePath;
     bool usingLocalTransmissionCache = false;
     bool useVss = true;
-    /// The full name of its computer, if that isn't the one that lists show.
+    /// The full name of its computer, if it differs from the one shown in lists.
     std::string source;
     bool ofWindows = true;
     CredentialsState credentials;
-    std::shared_ptr<StoredData> stored; ///< null until somebody asks for it
+    std::shared_ptr<StoredData> stored; ///< null until first accessed
 };
 
 } // namespace simulator

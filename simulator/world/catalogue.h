@@ -11,20 +11,20 @@
 
 namespace simulator {
 
-/// Things with an id and a name of their own, which backup sets share by the id.
+/// Named objects with ids that backup sets share.
 template <class State>
 class Catalogue {
 public:
     using Pointer = std::shared_ptr<State>;
 
-    /// Gives it an id, from 1 up.
+    /// Assigns an id, starting at 1.
     Pointer add(State state) {
         state.id = ++lastId_;
         return all_.emplace_back(std::make_shared<State>(std::move(state)));
     }
     void remove(const Pointer& one) { std::erase(all_, one); }
 
-    /// In the order in which they came.
+    /// In the order of insertion.
     const std::vector<Pointer>& all() const { return all_; }
 
     bool holds(const Pointer& one) const {

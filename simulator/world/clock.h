@@ -11,10 +11,10 @@ namespace simulator {
 using Milliseconds = std::int64_t;
 using Clock = std::function<Milliseconds()>;
 
-/// The time of the machine.
+/// The system time.
 Clock systemClock();
 
-/// As times stand on the wire.
+/// The format of times on the wire.
 inline std::int32_t seconds(Milliseconds time) {
     return static_cast<std::int32_t>(time / 1000);
 }

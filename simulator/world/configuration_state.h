@@ -12,14 +12,14 @@
 
 namespace simulator {
 
-/// What is set for the whole agent, beside its registration.
+/// Settings of the whole agent, except its registration.
 struct ConfigurationState {
     hessiancln::time_in_day dailyAdmin{12, 30, 0};
     hessiancln::time_in_day weeklyAdmin{23, 15, 0};
     hessiancln::DayOfWeekCode weeklyDay = hessiancln::DayOfWeekCode::Sunday;
-    /// With which it looks people up in a directory.
+    /// For looking up users in a directory.
     hessiancln::ad_user_info directoryAccount{"OFFICE\\backup", "correct horse", true};
-    /// The statistics about the customer; otherwise there is no such object.
+    /// Whether the object with the statistics about the customer exists.
     bool keepsCustomer = true;
     std::int32_t registrations = 0; ///< with the storage server
     /// Sets that only the storage server still knows.

@@ -9,20 +9,20 @@ namespace simulator {
 
 struct SourceComputer;
 
-/// What a computer asks for before it lets the agent in.
+/// The kind of login a computer requires.
 enum class LoginKind { Windows, Unix, Ssh };
 
-/// How the agent gets into a computer. Empty texts are not set.
+/// How the agent accesses a computer. Empty texts are unset.
 struct CredentialsState {
     LoginKind kind = LoginKind::Windows;
     bool usingClientAccount = false;
-    /// The user of the session, who needs no password again on the agent's own computer.
+    /// The user of the session, who needs no password on the agent's own computer.
     bool ofSession = false;
-    /// They were read from a set, so that any browser takes them.
+    /// Read from a set, so that any browser accepts them.
     bool ofSet = false;
     std::string user;
     std::string password;
-    std::string keyFile; ///< in place of a password
+    std::string keyFile; ///< used instead of a password
     std::string passphrase;
     std::string sudoUser;
     std::string sudoPassword;
@@ -30,7 +30,7 @@ struct CredentialsState {
     std::string interpreterPath;
 };
 
-/// Tries to log in. Raises `Refusal` with the reason.
+/// Tries to log in. Throws `Refusal` with the reason.
 void logIn(const CredentialsState& credentials, const SourceComputer& computer);
 
 } // namespace simulator

@@ -12,7 +12,7 @@ namespace simulator {
 
 class World;
 
-/// What a set starts with; the rest follows.
+/// Basic data of a set, from which the rest is derived.
 struct SetDescription {
     std::string name;
     std::vector<std::string> folders;

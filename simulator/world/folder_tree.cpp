@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::size_t bulkFolderEvery = 10;
 
-/// Neighbours are far apart, and no name comes twice unless the stride divides the count.
+/// Spreads neighbours; names are unique unless the stride divides the count.
 FolderTree::Item bulkItem(std::size_t number, std::size_t count) {
     constexpr std::size_t stride = 7'919;
     constexpr std::array<std::string_view, 3> heads{"Scan ", "SCAN ", "scan "};

@@ -12,9 +12,9 @@
 
 namespace simulator {
 
-/// What stands on the drives of a computer. Paths are names joined with backslashes, and begin
-/// with a drive: "C:\Users", or "/\home" on Unix. A name stands for the same thing in any case,
-/// unless `caseMatters`.
+/// The files and folders on the drives of a computer. Paths are names joined with backslashes, and
+/// begin with a drive: "C:\Users", or "/\home" on Unix. Names are case-insensitive unless
+/// `caseMatters`.
 class FolderTree {
 public:
     using Item = hessiancln::browse_item_info;
@@ -23,18 +23,18 @@ public:
     explicit FolderTree(bool caseMatters = false)
         : caseMatters_(caseMatters) {}
 
-    /// What is missing above it comes with it: a drive, and folders.
+    /// Missing ancestors, a drive and folders, are created.
     void addFolder(std::string_view path, Type type = Type::Folder);
     void addFile(std::string_view path, std::int64_t size, Type type = Type::File);
 
-    /// From now on nobody can look into the folder; the text says why.
+    /// Makes the folder inaccessible from now on; the text is the reason.
     void deny(std::string_view path, const std::string& why);
 
-    /// The folder has so many entries more, each tenth a folder. They are in no order, and are
-    /// made only when somebody looks.
+    /// Adds this many entries to the folder, every tenth a folder. They are unordered, and are
+    /// created on first access.
     void fill(std::string_view path, std::size_t count);
 
-    /// The children of a path, or the drives if it is empty. Raises `Refusal` if there is no such
+    /// The children of a path, or the drives if it is empty. Throws `Refusal` if there is no such
     /// folder, or no access.
     std::vector<Item> list(std::string_view path) const;
 
@@ -48,7 +48,7 @@ private:
 
     bool same(std::string_view one, std::string_view other) const;
     Node& make(std::string_view path);
-    /// Where the child stands; behind all others if there is none.
+    /// The index of the child; the number of children if there is none.
     std::size_t indexOf(const Node& parent, std::string_view name) const;
     bool isFolderOfBulk(const Node& parent, std::string_view name) const;
 

@@ -39,7 +39,7 @@ struct Outcome {
     bool succeeded = true;
 };
 
-/// A backup that ended `ago` seconds before now, after ten minutes.
+/// Adds a backup that ended `ago` seconds before now and took ten minutes.
 void backedUp(World& world, const World::Set& set, std::int32_t ago, const Outcome& outcome = {}) {
     activity_log_info row;
     row.type = ActivityType::Backup;
@@ -66,7 +66,7 @@ void backedUp(World& world, const World::Set& set, std::int32_t ago, const Outco
     set->sessions.push_back({row.start_time, row.end_time, row.file_count, row.data_size, row.id});
 }
 
-/// A day's schedule that started so long ago for the last time, to the minute. In UTC.
+/// A daily schedule whose last start was `ago` seconds before now, to the minute. In UTC.
 std::int32_t addDailySchedule(World& world, const std::string& name, std::int32_t ago) {
     const std::int32_t start = (seconds(world.now()) - ago) % day;
     ScheduleState schedule;
@@ -77,7 +77,7 @@ std::int32_t addDailySchedule(World& world, const std::string& name, std::int32_
 }
 
 void populateOverdue(World& world) {
-    // The agent makes up for a missed start within four hours.
+    // The agent catches up on a missed start within four hours.
     const std::int32_t daily = addDailySchedule(world, "Five hours ago", 5 * hour);
     backedUp(world, addSet(world, health::unscheduled, noSchedule), 400 * day);
     backedUp(world, addSet(world, health::lastMonth, plans::firstOfTheMonth), hour);
@@ -143,7 +143,7 @@ void populateManyFolders(World& world) {
     set.stored = std::make_shared<StoredData>();
     StoredNode& top = set.stored->addFolder("D:\\Archive");
     constexpr std::size_t outer = 10;
-    constexpr std::size_t inner = health::folders / outer - 1; // and the outer one itself
+    constexpr std::size_t inner = health::folders / outer - 1; // minus the outer folder itself
     constexpr std::size_t filesEach = health::files / health::folders;
     const auto fill = [&](StoredNode& folder, const std::string& mark) {
         for (std::size_t i = 0; i < filesEach; ++i) {

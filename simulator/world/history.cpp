@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::int32_t secondsADay = 86'400;
 constexpr std::int32_t daysOfBulk = 730;
-constexpr int sunday = 3; // the first day of 1970 was a Thursday
+constexpr int sunday = 3; // because the first day of 1970 was a Thursday
 
 void settle(activity_log_info& row) {
     const Ending ending = row.errors     ? Ending::WithErrors
@@ -65,7 +65,7 @@ activity_log_info History::backupRow(const BackupSetState& set, std::int32_t sta
 }
 
 void History::add(const World::Set& set, activity_log_info row) {
-    // What would not have ended by now did not happen.
+    // Skip runs that wouldn't have ended by now.
     if (row.end_time >= now_)
         return;
     settle(row);

@@ -11,24 +11,24 @@
 
 namespace simulator {
 
-/// The past of a world. Runs are gathered in any order, and `write` puts them into the log with
-/// ids that ascend with time.
+/// The past of a world. Runs are collected in any order, and `write` adds them to the log with ids
+/// that ascend with time.
 class History {
 public:
     explicit History(World& world);
 
-    /// A backup of the set on each of the last `days` days, at about this hour UTC. The figures
-    /// of the set follow.
+    /// Adds a backup of the set on each of the last `days` days, at about this hour UTC. Updates
+    /// the figures of the set.
     void dailyBackups(const World::Set& set, int days, int hour);
 
-    /// The agent's own work: each night, and longer on Sundays.
+    /// The agent's own tasks: each night, and longer on Sundays.
     void adminRuns(int days);
 
     /// A single run; `endedAgo` in seconds.
     void run(const World::Set& set, hessiancln::ActivityType type, std::int32_t endedAgo,
              std::int32_t duration, std::int32_t files, std::int64_t bytes);
 
-    /// `rows` more backups, spread evenly over the sets and the last two years.
+    /// Adds `rows` backups, spread evenly over the sets and the last two years.
     void bulk(std::size_t rows);
 
     void write();
@@ -36,7 +36,7 @@ public:
 private:
     struct Past {
         hessiancln::activity_log_info row;
-        World::Set set; ///< of a backup, null otherwise
+        World::Set set; ///< set for a backup, null otherwise
     };
 
     hessiancln::activity_log_info backupRow(const BackupSetState& set, std::int32_t start);

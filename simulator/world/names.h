@@ -6,22 +6,22 @@
 #include <string_view>
 #include <vector>
 
-/// Names and the paths that they make, joined with backslashes on every system.
+/// Names and paths made of them, joined with backslashes on every system.
 namespace simulator {
 
-/// The names of a path from the top down; none if it is empty. A backslash at its end is ignored.
+/// The names of a path from the top down; empty for an empty path. Ignores a trailing backslash.
 std::vector<std::string_view> namesOf(std::string_view path);
 
 /// The last name of a path.
 std::string_view lastName(std::string_view path);
 
-/// ASCII letters only.
+/// Converts ASCII letters only.
 std::string lowerCase(std::string text);
 
-/// Whether two texts agree but for the case of ASCII letters.
+/// Whether two texts are equal, ignoring the case of ASCII letters.
 bool agreeWithoutCase(std::string_view one, std::string_view other);
 
-/// The path as its own system writes it: "/\home" is "/home".
+/// The path in the notation of its own system: "/\home" is "/home".
 std::string nativePath(std::string_view path);
 
 } // namespace simulator

@@ -12,34 +12,34 @@
 
 namespace simulator {
 
-/// The computers that the agent can reach, and the containers in which people find them.
+/// The computers that the agent can reach, and the containers they are in.
 class Network {
 public:
     using Type = hessiancln::NetItemType;
     using Computer = std::shared_ptr<SourceComputer>;
 
-    /// The agent's own computer, which also goes by the name `host`.
+    /// Sets the agent's own computer, which also has the name `host`.
     void setLocal(SourceComputer computer, const std::string& host);
-    /// Raises `Refusal` if the world has none.
+    /// Throws `Refusal` if the world has none.
     const Computer& local() const;
 
-    /// Containers are listed in the order in which they come. Those above must be there.
+    /// Containers are listed in the order of insertion. Ancestors must already exist.
     void addContainer(const std::string& path, Type type = Type::Container);
-    /// Its name is the path. It is listed below its container.
+    /// Its name is the path. It is listed in its container.
     Computer addComputer(SourceComputer computer);
-    /// From now on nobody can look into the container; the text says why.
+    /// Makes the container inaccessible from now on; the text is the reason.
     void deny(const std::string& path, const std::string& why);
 
-    /// The nodes below a container, or the topmost ones. Raises `Refusal`.
+    /// The nodes in a container, or the topmost ones. Throws `Refusal`.
     std::vector<hessiancln::net_item_info> discover(const std::string& path) const;
 
-    /// By its full name or by the last part of it. Raises `Refusal` if nobody knows it.
+    /// Finds a computer by its full name or the last part of it. Throws `Refusal` if it is unknown.
     const Computer& computer(const std::string& name) const;
 
-    /// The full name of what somebody typed; as it is if nobody knows it.
+    /// The full name for a typed one; unchanged if it is unknown.
     std::string expand(const std::string& name) const;
 
-    /// Whether both names stand for the same computer.
+    /// Whether both names refer to the same computer.
     bool same(const std::string& one, const std::string& other) const;
 
 private:

@@ -7,19 +7,19 @@
 
 namespace simulator {
 
-/// Numbers that are the same on every machine for the same seed (splitmix64).
+/// Random numbers that are the same on every machine for the same seed (splitmix64).
 class Random {
 public:
     explicit Random(std::uint64_t seed)
         : state_(seed) {}
 
-    /// From `least` to `most`, both included.
+    /// From `least` to `most`, inclusive.
     std::int64_t between(std::int64_t least, std::int64_t most) {
         return least +
                static_cast<std::int64_t>(next() % static_cast<std::uint64_t>(most - least + 1));
     }
 
-    /// True once in `count` times.
+    /// True with probability 1 / `count`.
     bool onceIn(std::int64_t count) { return between(1, count) == 1; }
 
     template <class T>

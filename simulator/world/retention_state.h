@@ -14,12 +14,12 @@ namespace simulator {
 
 /// How long a rule keeps something.
 struct RetentionOptionState {
-    bool interval = true; ///< one generation for each repeat time
+    bool interval = true; ///< one generation per repeat time
     hessiancln::retention_time_span validFor{0, hessiancln::RetentionTimeUnit::Days};
     hessiancln::retention_time_span repeat{0, hessiancln::RetentionTimeUnit::Days};
 };
 
-/// Which generations are kept.
+/// Which generations to keep.
 struct RetentionRuleState {
     std::int32_t id = 0;
     std::string name{};

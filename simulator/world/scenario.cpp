@@ -152,7 +152,7 @@ void addOddSets(World& world) {
     fresh.info.schedule_id = noSchedule;
     world.addSet(std::move(fresh));
 
-    // Out of sync, as the agent's database says nothing of it.
+    // Out of sync, because it is missing from the agent's database.
     auto orphan = describedSet(world, {"Letters before 2019", {"D:\\Letters"}, gibibyte, 5'120});
     orphan.info.in_sync = false;
     world.configuration.orphans.push_back(std::make_shared<BackupSetState>(std::move(orphan)));
@@ -176,7 +176,7 @@ void populateWindows(World& world, bool central) {
     world.keepBusy(quarterOfAnHour);
 }
 
-/// The set is of that computer, and has a login that is good there.
+/// Assigns the set to that computer, with a login that is valid there.
 void belongTo(BackupSetState& set, const SourceComputer& computer) {
     set.source = computer.name;
     set.info.computer = lastName(computer.name);

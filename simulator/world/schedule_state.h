@@ -16,9 +16,9 @@ namespace simulator {
 /// One part of a schedule.
 struct ScheduleDetailState {
     hessiancln::ScheduleDetailType type{};
-    std::int32_t days = 0; ///< a mask if it is weekly, the day of the month if it is monthly
+    std::int32_t days = 0; ///< a mask if weekly, the day of the month if monthly
     hessiancln::time_in_day start;
-    std::optional<hessiancln::time_in_day> end; ///< counted from the day of the start
+    std::optional<hessiancln::time_in_day> end; ///< relative to the day of the start
     std::int32_t hourlyFrequency = 0;
     std::int32_t tasks = 0;
 };
@@ -29,10 +29,10 @@ struct ScheduleState {
     std::string name{};
     std::vector<std::shared_ptr<ScheduleDetailState>> details{};
     bool usingNetworkDetection = false;
-    std::int32_t cpuThrottle = 100; ///< in percent
+    std::int32_t cpuThrottle = 100; ///< percent
 };
 
-/// That of the first detail; the one beyond all others if there is none.
+/// The type of the first detail; the one beyond all others if there is none.
 inline hessiancln::ScheduleDetailType typeOf(const ScheduleState& schedule) {
     return schedule.details.empty() ? hessianser::reservedValue<hessiancln::ScheduleDetailType>()
                                     : schedule.details.front()->type;

@@ -25,7 +25,7 @@ StoredAmount allOf(StoredData& data) {
     return amountOf(data.root().children, {});
 }
 
-/// As much less as there is less in storage, but nothing only if nothing is left.
+/// Reduces the figure in proportion to the storage; 0 only if nothing is left.
 template <class Number>
 Number shrunk(Number figure, Number before, Number after) {
     if (figure == before || after == 0)

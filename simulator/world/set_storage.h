@@ -7,21 +7,20 @@
 
 #include "simulator/world/backup_set_state.h"
 
-/// What a set holds in storage, and how the set's figures follow it.
+/// The storage of a set, and the set's figures derived from it.
 namespace simulator {
 
-/// It is made up when somebody first asks; the set's sessions then reach back as far as its
-/// generations.
+/// Generated on first access; the set's sessions are then extended as far back as its generations.
 StoredData& storageOf(BackupSetState& set, std::int32_t now);
 
-/// The figures are those of the storage, which must be there.
+/// Copies the figures from the storage, which must exist.
 void takeFigures(BackupSetState& set);
 
-/// A backup that ended at that time has its files in the storage, if somebody asked for it before.
+/// Adds the files of a backup that ended at that time, if the storage was accessed before.
 void storeBackup(BackupSetState& set, std::int32_t time);
 
-/// Deletes from the storage. The figures shrink as the storage does, as it may hold only a part of
-/// what they tell.
+/// Deletes from the storage. The figures shrink in proportion, because the storage may hold only a
+/// part of what they report.
 void takeOut(BackupSetState& set, const std::vector<StoredNode::Pointer>& nodes,
              const StoredFilter& filter);
 

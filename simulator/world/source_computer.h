@@ -14,11 +14,11 @@ namespace simulator {
 
 /// A computer whose data can be backed up.
 struct SourceComputer {
-    std::string name; ///< the full one: "Microsoft Windows Network\OFFICE\FILESRV"
+    std::string name; ///< full name: "Microsoft Windows Network\OFFICE\FILESRV"
     LoginKind kind = LoginKind::Windows;
-    bool local = false;                       ///< the agent's own
-    std::map<std::string, std::string> users; ///< and their passwords
-    std::string keyFile;                      ///< that an SSH server takes from each of them
+    bool local = false;                       ///< the agent's own computer
+    std::map<std::string, std::string> users; ///< with their passwords
+    std::string keyFile;                      ///< accepted from each of them by an SSH server
     std::string passphrase;
     std::vector<hessiancln::PreDefinedBrowseItem> presets;
     FolderTree folders;

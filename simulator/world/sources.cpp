@@ -70,7 +70,7 @@ SourceComputer unixAgent() {
     computer.presets = {{R"(/\home)", "Home directories"}, {R"(/\etc)", "System settings"}};
     FolderTree& folders = computer.folders;
     addHome(folders, R"(/\home\anna\)");
-    // Two names on such a system.
+    // On such a system these are different names.
     folders.addFolder(R"(/\home\anna\music)");
     folders.addFile(R"(/\etc\hosts)", 1 * kibibyte);
     folders.addFolder(R"(/\etc\ssh)");

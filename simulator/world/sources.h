@@ -9,15 +9,15 @@ namespace simulator {
 
 class World;
 
-/// The computers of every world that `addSources` has filled.
+/// The computers in every world filled by `addSources`.
 ///
-///     my computer        local, Windows or generic Unix as the agent is; with presets
+///     my computer        local, Windows or generic Unix like the agent; with presets
 ///     FILESRV, HP-8200   Windows, without presets
 ///     nas01              generic Unix, with a preset
 ///     web01.example.net  SSH, without presets
 ///
-/// On each of them "anna" and "backup" may log in with the password; so may "root" on Unix, whom
-/// others can become. A computer asks for another kind of login if its `kind` is changed:
+/// On each of them "anna" and "backup" can log in with the password; on Unix "root" can too, and
+/// others can switch to it. To make a computer require another kind of login, change its `kind`:
 ///
 ///     world.network.local()->kind = LoginKind::Ssh;
 namespace sources {
@@ -30,8 +30,8 @@ inline constexpr std::string_view webServer = R"(Unix Hosts\web01.example.net)";
 inline constexpr std::string_view keyFile = "/etc/tarn/id_ed25519"; ///< for the web server
 inline constexpr std::string_view passphrase = "open sesame";
 
-/// Containers that can't be looked into, and folders on the agent's computer: one that can't,
-/// and one that is full.
+/// Inaccessible containers, and folders on the agent's computer: an inaccessible one, and one with
+/// many entries.
 inline constexpr std::string_view brokenNetwork = R"(Microsoft Windows Network\WORKGROUP)";
 inline constexpr std::string_view closedFolder = R"(C:\System Volume Information)";
 inline constexpr std::string_view closedUnixFolder = R"(/\root)";
@@ -41,7 +41,7 @@ inline constexpr std::size_t largeCount = 100'000;
 
 } // namespace sources
 
-/// Gives the world its computers. What the agent is must be known by then.
+/// Adds the computers to the world. The kind of agent must already be set.
 void addSources(World& world);
 
 } // namespace simulator

@@ -14,12 +14,12 @@ using Times = std::vector<std::int32_t>;
 constexpr std::int32_t secondsADay = 86'400;
 constexpr auto unknownType = static_cast<Type>(9);
 
-/// One generation of a file, which changed an hour and a half before.
+/// One generation of a file that was modified an hour and a half before the backup.
 StoredGeneration version(std::int32_t time, std::int64_t size) {
     return {time - 5'400, time, size, size * 58 / 100};
 }
 
-/// Each `step`th backup has the file, from the newest one back. It grew from time to time.
+/// Every `step`th backup has the file, from the newest one back. The file grows over time.
 std::vector<StoredGeneration> versions(const Times& backups, std::size_t step, std::int64_t size) {
     std::vector<StoredGeneration> list;
     for (std::size_t i = (backups.size() - 1) % step; i < backups.size(); i += step)
@@ -36,7 +36,7 @@ void addHome(StoredData& data, const Times& backups) {
     data.addFile(below(storages::home, R"(Letters\Offer.docx)"), versions(backups, 6, 61'440));
 }
 
-/// A file that was there for the first `count` backups, and gone the day after.
+/// A file that existed for the first `count` backups and was removed the day after.
 void addRemoved(StoredData& data, std::string_view path, const Times& backups, std::size_t count) {
     const Times seen(backups.begin(), backups.begin() + static_cast<std::ptrdiff_t>(count));
     data.addFile(below(storages::home, path), versions(seen, 1, 30'720)).removed =
@@ -103,7 +103,7 @@ void addFailing(StoredData& data, const Times& backups) {
         "The generations can't be read.";
 }
 
-/// Neighbours are far apart, and no name comes twice.
+/// Spreads neighbours; names are unique.
 void addManyFiles(StoredData& data, const Times& backups) {
     constexpr std::size_t stride = 7'919;
     constexpr std::size_t removedEvery = 1'000;

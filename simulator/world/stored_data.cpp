@@ -15,7 +15,7 @@ using Type = hessiancln::SelectableItemType;
 
 constexpr std::int32_t secondsADay = 86'400;
 
-/// Visits these and all below them, in the order of the storage.
+/// Visits these nodes and everything below them, in storage order.
 void eachNode(const std::vector<StoredNode::Pointer>& nodes,
               const std::function<void(StoredNode&)>& visit) {
     std::vector<StoredNode*> waiting;
@@ -41,7 +41,7 @@ void prune(StoredNode& folder) {
     });
 }
 
-/// Looks for nodes below a folder, and remembers the way to it.
+/// Searches for nodes below a folder, and records the path to them.
 class Search {
 public:
     explicit Search(const std::vector<StoredNode::Pointer>& nodes) {
@@ -189,7 +189,7 @@ std::vector<std::int32_t> backupsOfTwoYears(std::int32_t now) {
 
 namespace {
 
-/// Versions that grow, one for each `step`th backup before `end`.
+/// Growing versions, one for every `step`th backup before `end`.
 std::vector<StoredGeneration> versions(const std::vector<std::int32_t>& backups, std::size_t step,
                                        std::size_t end, std::int64_t size) {
     std::vector<StoredGeneration> list;
@@ -212,7 +212,7 @@ void addFiles(StoredData& data, const std::string& folder,
     data.addFile(folder + "\\Letters\\2025\\Offer.docx", versions(backups, 2, all, 61'440));
     if (all < 2)
         return;
-    // Half-way through, somebody tidied up.
+    // Files removed halfway through.
     const std::size_t half = (all + 1) / 2;
     for (const char* const name : {"\\Draft.odt", "\\Letters\\Old offer.docx"})
         data.addFile(folder + name, versions(backups, 1, half, 48'200)).removed =

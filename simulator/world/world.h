@@ -29,12 +29,12 @@
 
 namespace simulator {
 
-/// Rows of a log, which may be too long to be copied. Good until the world changes.
+/// Rows of a log that may be too long to copy. Valid until the world changes.
 template <class Row>
 using Rows = std::vector<const Row*>;
 
-/// What the agent has and does, without any wire. Times follow the clock that it was given; the
-/// rest follows the seed, so that equal clocks and seeds make equal worlds.
+/// The agent's data and behaviour, independent of the wire. Times follow the given clock,
+/// everything else the seed, so that equal clocks and seeds produce equal worlds.
 class World {
 public:
     using Set = std::shared_ptr<BackupSetState>;
@@ -44,7 +44,7 @@ public:
     Milliseconds now() const { return clock_(); }
     Random& random() { return random_; }
 
-    /// Ends what has come to its end by now.
+    /// Ends the activities that are due.
     void advance();
 
     std::int32_t clientType = 8;
@@ -57,57 +57,57 @@ public:
                                    hessiancln::IndustryCode::Computer};
     /// The numbers of the tools that are enabled.
     std::set<std::int32_t> tools{8};
-    /// Numbers that are set for all of the agent.
+    /// Numeric settings of the whole agent.
     std::map<std::string, std::int32_t> advancedConfig{{"ScheduleMiss", 4}};
 
     bool twoFactor = false;
-    std::string twoFactorCode = "314159"; ///< that each mail tells
-    /// Where the codes of users go who have no address of their own.
+    std::string twoFactorCode = "314159"; ///< sent in each mail
+    /// The address for codes of users who have none of their own.
     std::string twoFactorAddress = "administrator@example.net";
-    std::set<std::int32_t> requestedCodes; ///< the modes for which a code is under way
-    std::set<std::int32_t> validatedCodes; ///< the modes for which it came back
+    std::set<std::int32_t> requestedCodes; ///< the modes with a pending code
+    std::set<std::int32_t> validatedCodes; ///< the modes with a validated code
     std::vector<hessiancln::user_email> userEmails;
-    /// Takes the code that came back for a deletion. Raises `Refusal` if two-factor authentication
-    /// is on and there is none.
+    /// Consumes the validated code for a deletion. Throws `Refusal` if two-factor authentication is
+    /// on and there is no such code.
     void spendCode();
 
-    /// So far apart begin the ids of two views of a set; with 0 each begins at 1.
+    /// Distance between the first ids of two views of a set; with 0 each view begins at 1.
     std::int64_t idsPerView = 0;
-    std::int64_t views = 0; ///< that were handed out
+    std::int64_t views = 0; ///< number handed out
 
     Network network;
     Catalogue<ScheduleState> schedules;
     Catalogue<RetentionRuleState> retentionRules;
 
-    /// In the order of the lists.
+    /// In list order.
     const std::vector<Set>& sets() const { return sets_; }
     /// Null if there is none.
     Set set(std::int32_t id) const;
-    /// Null if there is none. Names agree in any case.
+    /// Null if there is none. Names are case-insensitive.
     Set setNamed(const std::string& name) const;
-    /// As lists show it.
+    /// The set's entry in lists.
     hessiancln::backup_set_info infoOf(const BackupSetState& set) const;
-    /// That of its schedule.
+    /// The type of the set's schedule.
     hessiancln::ScheduleDetailType scheduleTypeOf(const BackupSetState& set) const;
-    /// Gives the set an id and puts it behind the others.
+    /// Gives the set an id and appends it to the others.
     void enlist(const Set& set);
     Set addSet(BackupSetState state);
     void removeSet(std::int32_t id);
 
-    /// Begins an activity and gives it an id.
+    /// Starts an activity and returns its new id.
     std::int32_t start(ActivityPlan plan);
-    /// False if no such activity is under way.
+    /// Returns false if no such activity is running.
     bool stop(std::int32_t activityId);
     bool isRunning(std::int32_t activityId) const;
     std::vector<hessiancln::running_activity_info> running() const;
 
-    /// A row of the past, older than all that follow. Its id is given.
+    /// Adds a row of the past, older than all later ones. Returns its id.
     std::int32_t addToLog(hessiancln::activity_log_info row);
     void addEvent(hessiancln::event_log_info event);
-    /// The events that the end of an activity leaves.
+    /// Adds the events for the end of an activity.
     void reportEnd(const hessiancln::activity_log_info& row);
 
-    /// The rows that touch the span, both ends included, in seconds.
+    /// The rows that overlap the span, in seconds, both ends included.
     Rows<hessiancln::activity_log_info> activityLog(std::int32_t from, std::int32_t to) const;
     /// The events of one activity, or of the span if `activityId` is 0.
     Rows<hessiancln::event_log_info> eventLog(std::int32_t from, std::int32_t to,
@@ -116,19 +116,19 @@ public:
     hessiancln::activity_log_info lastActivity(std::int32_t setId,
                                                hessiancln::ActivityType type) const;
 
-    /// What a backup of the set would do now.
+    /// A plan for a backup of the set now.
     ActivityPlan backupOf(const Set& set, const std::string& user);
     ActivityPlan synchronisationOf(const Set& set, const std::string& user);
-    /// Deletes all that the set holds, and then the set.
+    /// Deletes the content of the set, and then the set.
     ActivityPlan removalOf(const Set& set, const std::string& user);
 
-    /// The agent's own daily and weekly work.
+    /// The agent's own daily and weekly tasks.
     ActivityPlan dailyAdmin(const std::string& user);
     ActivityPlan weeklyAdmin(const std::string& user);
-    /// Brings the agent's history back from the storage server.
+    /// Recovers the agent's history from the storage server.
     ActivityPlan databaseRecovery(const std::string& user);
 
-    /// From now on a backup of one set after the other begins so often.
+    /// From now on, starts a backup of each set in turn at this interval.
     void keepBusy(Milliseconds every);
 
 private:

@@ -11,7 +11,7 @@
 
 namespace hessiancln {
 
-/// What an activity does. 21 to 30 are in use as well, and have no name here.
+/// What an activity does. 21 to 30 are also in use but have no name here.
 enum class ActivityType : std::int32_t {
     Backup = 0,
     CDPBackup = 1,
@@ -39,15 +39,15 @@ constexpr auto declaredValues(ActivityType) {
     return hessianser::values({{0, 30}});
 }
 
-/// How an activity ended, 0 to 35. What the numbers mean is the agent's affair.
+/// How an activity ended, 0 to 35. The meaning of the numbers is up to the agent.
 enum class ActivityCompletion : std::int32_t {};
 constexpr auto declaredValues(ActivityCompletion) {
     return hessianser::values({{0, 35}});
 }
 
-/// An activity that is under way. Sizes are in bytes.
+/// A running activity. Sizes are in bytes.
 struct running_activity_info {
-    std::int32_t activity_id = 0; ///< as `ClientConnection::activity` takes it
+    std::int32_t activity_id = 0; ///< argument of `ClientConnection::activity`
     ActivityType type{};
     std::string description;
     std::string user;            ///< who started it

@@ -16,7 +16,7 @@ CAutoReleaser::~CAutoReleaser() {
     try {
         RemoteObject(dispatcher_, url_, false, 0, "").Release();
     } catch (const std::exception&) {
-        // Whoever drops a proxy has no use for the news, and a session must end on a dead agent.
+        // The owner of a proxy has no use for the error, and a session must end on a dead agent.
     }
 }
 

@@ -10,21 +10,21 @@ namespace hessiancln {
 
 class ICallDispatcher;
 
-/// Tells the agent that an object isn't needed any more. One stands for each reference that the
-/// agent handed out, shared by all proxies of it; `Release` goes out with the last of them, on the
-/// thread that drops it, and blocks that thread for one round trip.
+/// Releases an object on the agent. There is one for each reference the agent handed out, shared by
+/// all proxies of it; `Release` is sent with the destruction of the last proxy, on that thread, and
+/// blocks it for one round trip.
 class CAutoReleaser {
 public:
     explicit CAutoReleaser(std::string url);
     CAutoReleaser(const CAutoReleaser&) = delete;
     CAutoReleaser& operator=(const CAutoReleaser&) = delete;
 
-    /// Sends `Release`. Nothing is raised: an agent that is gone, or refuses, has let the object
-    /// go in its own way.
+    /// Sends `Release`. Doesn't throw: an agent that is gone or refuses has dropped the object
+    /// anyway.
     ~CAutoReleaser();
 
-    /// Where `Release` is to go; each proxy that dies leaves its own dispatcher here. Without one,
-    /// a dispatcher is created for the call.
+    /// The dispatcher for `Release`; each destroyed proxy leaves its own here. Without one, a
+    /// dispatcher is created for the call.
     void setDispatcher(const boost::shared_ptr<ICallDispatcher>& dispatcher);
 
 private:

@@ -40,10 +40,10 @@ public:
     using Rule = boost::shared_ptr<RetentionRule>;
     using SchedulePointer = boost::shared_ptr<Schedule>;
 
-    /// One entry for each backup run of the set.
+    /// One entry per backup run of the set.
     std::vector<backup_sessions> backup_times();
     Parameters createDefaultBackupParameters();
-    /// The browser for the set's own computer.
+    /// The browser for the computer of the set.
     Browser dataBrowser();
     std::string getComputerName();
     Credentials getCredentials();
@@ -54,9 +54,9 @@ public:
     std::string getLocalStoragePath();
     std::string getName();
     backup_set_overview_info getOverview();
-    /// Null if the set has none.
+    /// Null if the set has no retention rule.
     Rule getRetentionRule();
-    /// Null if the set has none.
+    /// Null if the set has no schedule.
     SchedulePointer getSchedule();
     bool isUsingLocalStorage();
     bool isUsingLocalTransmissionCache();

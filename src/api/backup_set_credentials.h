@@ -11,7 +11,7 @@
 
 namespace hessiancln {
 
-/// What runs on a computer that the agent reaches by SSH.
+/// What runs on a computer that the agent accesses by SSH.
 enum class SSHAccessType : std::int32_t {
     Perl = 0,
     Python = 1,
@@ -21,14 +21,14 @@ constexpr auto declaredValues(SSHAccessType) {
     return hessianser::values({{0, 2}});
 }
 
-/// How the agent gets access to the computer that a set belongs to. Which class the object has, and
-/// so what it asks for, is the agent's choice.
+/// How the agent accesses the computer of a set. The agent chooses the object's class, and so which
+/// credentials it needs.
 class BackupSetCredentials : public RemoteObject {
 public:
     static constexpr std::string_view family = "BackupSetCredentials";
     using RemoteObject::RemoteObject;
 
-    /// Tries to get access. Raises `invoke_exception` with the reason of a refusal.
+    /// Tries to get access. Throws `invoke_exception` with the reason if access is denied.
     void check(const std::string& computer);
     /// True if the agent's own account is used.
     bool isUsingClientCredentials();
@@ -55,18 +55,18 @@ public:
     void setCredentials(const std::string& user, const std::string& password);
 };
 
-/// A user who logs in to a Unix computer by SSH, and the user to become there.
+/// A user who logs in to a Unix computer by SSH, and the user to switch to there.
 class UnixFS_SSH_BackupSetCredentials : public UnixFS_Generic_BackupSetCredentials {
 public:
     static constexpr std::string_view className = "UnixFS_SSH_BackupSetCredentials";
     using UnixFS_Generic_BackupSetCredentials::UnixFS_Generic_BackupSetCredentials;
 
-    /// Logs in by an identity file.
+    /// Logs in with an identity file.
     void setCredentialsViaKeyFile(const std::string& user, const std::string& keyFile,
                                   const std::string& passphrase);
-    /// Empty if nobody is to become.
+    /// Empty without a user switch.
     std::string getSudoUser();
-    /// Two empty texts switch it off.
+    /// Two empty strings turn it off.
     void setSudoAs(const std::string& user, const std::string& password);
     SSHAccessType getSSHAccessType();
     /// Path of the interpreter or script; may be empty.

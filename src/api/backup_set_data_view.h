@@ -10,15 +10,14 @@
 
 namespace hessiancln {
 
-/// What a set holds, for one choice of filter values. Ids mean nothing outside the view that they
-/// come from.
+/// The content of a set for one choice of filter values. Ids are valid only within their view.
 class BackupSetDataView : public RemoteObject {
 public:
     using RemoteObject::RemoteObject;
 
     /// The children of an item; the top level for -1.
     std::vector<SelectableItem> getSubItems(std::int64_t item);
-    /// The stored versions of a file, in no order.
+    /// The stored versions of a file, in no particular order.
     std::vector<file_generations> getItemGenerations(std::int64_t item);
 };
 

@@ -12,7 +12,7 @@
 
 namespace hessiancln {
 
-/// What a set holds, filtered, to be deleted from.
+/// The filtered content of a set, for deletion.
 class BackupSetDeleteView : public BackupSetDataView {
 public:
     using BackupSetDataView::BackupSetDataView;

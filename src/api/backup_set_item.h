@@ -20,25 +20,25 @@ constexpr auto declaredValues(BackupSetItemType) {
     return hessianser::values({{0, 2}});
 }
 
-/// One thing that a backup set includes or leaves out.
+/// One item that a backup set includes or excludes.
 class BackupSetItem : public RemoteObject {
 public:
     static constexpr std::string_view family = "BackupSetItem";
     using RemoteObject::RemoteObject;
 
-    /// The path that the item is about.
+    /// The path of the item.
     std::string getFolder();
     BackupSetItemType getType();
 };
 
-/// Includes a path with all below it.
+/// Includes a path and everything below it.
 class BackupSetInclusionItem : public BackupSetItem {
 public:
     static constexpr std::string_view className = "BackupSetInclusionItem";
     using BackupSetItem::BackupSetItem;
 };
 
-/// Leaves out a path.
+/// Excludes a path.
 class BackupSetFileItem : public BackupSetItem {
 public:
     static constexpr std::string_view className = "BackupSetFileItem";

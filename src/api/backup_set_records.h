@@ -12,7 +12,7 @@
 
 namespace hessiancln {
 
-/// What a set holds, 0 to 29. 19 to 29 are in use as well, and have no name here.
+/// What a set holds, 0 to 29. 19 to 29 are also in use but have no name here.
 enum class BackupDataType : std::int32_t {
     FileSystem = 0,
     MSSQLServer = 1,
@@ -38,16 +38,16 @@ constexpr auto declaredValues(BackupDataType) {
     return hessianser::values({{0, 29}});
 }
 
-/// The kind of a set, 0 to 3. What the numbers mean is the agent's affair.
+/// The kind of a set, 0 to 3. The meaning of the numbers is up to the agent.
 enum class BackupSetType : std::int32_t {};
 constexpr auto declaredValues(BackupSetType) {
     return hessianser::values({{0, 3}});
 }
 
-/// A backup set, summed up. Times are seconds since 1970 UTC, 0 for never; sizes are in bytes.
+/// Summary of a backup set. Times are seconds since 1970 UTC, 0 for never; sizes are in bytes.
 struct backup_set_info {
-    std::int32_t id = 0;  ///< as `ClientConnection::backup_set` takes it
-    std::string computer; ///< the computer that the set belongs to
+    std::int32_t id = 0;  ///< argument of `ClientConnection::backup_set`
+    std::string computer; ///< the computer of the set
     std::string name;
     BackupDataType data_type{};
     BackupSetType set_type{};
@@ -66,7 +66,7 @@ struct backup_set_info {
     std::int32_t last_sync_time = 0;
     std::int32_t last_successful_backup = 0;
     std::int32_t last_backup = 0;
-    std::int64_t tarnsys_compressed_size = 0; ///< what the storage server holds
+    std::int64_t tarnsys_compressed_size = 0; ///< size on the storage server
     std::int64_t online_data_size = 0;
     std::int32_t online_file_count = 0;
     std::int64_t local_storage_data_size = 0;
@@ -98,16 +98,15 @@ struct backup_set_info {
     }
 };
 
-/// How full and how fresh a set is. Times are seconds since 1970 UTC, 0 for never; sizes are in
-/// bytes.
+/// Size and age of a set's data. Times are seconds since 1970 UTC, 0 for never; sizes are in bytes.
 struct backup_set_status {
     std::int32_t last_sync_time = 0;
     std::int32_t last_successful_backup = 0;
     std::int64_t on_line_data_size = 0;
-    std::int32_t on_line_file_count = 0; ///< 0 if the set holds no backed up data
+    std::int32_t on_line_file_count = 0; ///< 0 if the set holds no backed-up data
     std::int64_t local_storage_data_size = 0;
     std::int32_t local_storage_file_count = 0;
-    std::int64_t tarnsystem_compressed_size = 0; ///< what the storage server holds
+    std::int64_t tarnsystem_compressed_size = 0; ///< size on the storage server
 
     static constexpr std::string_view wireType = "com.norvel.api.backup_set_status";
     template <class R = backup_set_status>
@@ -128,8 +127,8 @@ struct backup_set_status {
 struct backup_set_overview_info {
     BackupDataType data_type{};
     backup_set_status status;
-    std::int32_t min_gen = 0; ///< fewest generations that an item holds; -1 without items
-    std::int32_t max_gen = 0; ///< most generations that an item holds
+    std::int32_t min_gen = 0; ///< fewest generations of any item; -1 without items
+    std::int32_t max_gen = 0; ///< most generations of any item
     std::int32_t retention_rule_id = 0;
     std::string retention_rule_name;
     std::int32_t schedule_id = 0; ///< below 0 without a schedule

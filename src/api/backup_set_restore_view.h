@@ -12,7 +12,7 @@
 
 namespace hessiancln {
 
-/// What a set holds, filtered, to be restored from.
+/// The filtered content of a set, for a restore.
 class BackupSetRestoreView : public BackupSetDataView {
 public:
     using BackupSetDataView::BackupSetDataView;

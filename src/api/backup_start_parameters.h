@@ -8,7 +8,7 @@
 
 namespace hessiancln {
 
-/// How a backup on demand is to run.
+/// Options of an on-demand backup.
 class BackupStartParameters : public RemoteObject {
 public:
     static constexpr std::string_view family = "BackupStartParameters";

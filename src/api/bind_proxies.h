@@ -21,7 +21,7 @@ constexpr bool anyMember(const std::tuple<F...>& fields, Visitor visit) {
     return std::apply([&](const auto&... field) { return (visit(field.member) || ...); }, fields);
 }
 
-/// Decides at compile time whether a value of the kind can hold a proxy at all.
+/// Decides at compile time whether a value of the kind can hold proxies.
 template <class T>
 constexpr bool holdsProxies() {
     if constexpr (hessianser::RemoteReference<T>)
@@ -37,8 +37,8 @@ constexpr bool holdsProxies() {
 
 } // namespace detail
 
-/// Gives `dispatcher` to every proxy in `value` that has none, however deep it stands in lists and
-/// records. Null references are left alone.
+/// Assigns `dispatcher` to every proxy in `value` that has none, at any depth of lists and records.
+/// Null references are left alone.
 template <hessianser::Value T>
 void bindProxies(T& value, const boost::shared_ptr<ICallDispatcher>& dispatcher) {
     if constexpr (!detail::holdsProxies<T>()) {

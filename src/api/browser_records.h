@@ -12,7 +12,7 @@
 
 namespace hessiancln {
 
-/// What stands in the tree of the network. All but a computer can hold others.
+/// Nodes in the tree of the network. All but computers can have children.
 enum class NetItemType : std::int32_t {
     Container = 0,
     Computer = 1,
@@ -21,11 +21,11 @@ constexpr auto declaredValues(NetItemType) {
     return hessianser::values({{0, 1}});
 }
 
-/// A child of a folder that was looked into.
+/// A child of a browsed folder.
 struct browse_item_info {
     SelectableItemType type{};
     std::string name;          ///< one component of its path
-    bool isfile = false;       ///< it can hold no children
+    bool isfile = false;       ///< it can't have children
     std::int64_t datasize = 0; ///< in bytes
 
     static constexpr std::string_view wireType = "com.norvel.api.browse_item_info";
@@ -50,9 +50,9 @@ struct net_item_info {
     }
 };
 
-/// A place on a computer that people are likely to look for.
+/// A well-known place on a computer.
 struct PreDefinedBrowseItem {
-    std::string path; ///< as `createInclusionItem` takes it
+    std::string path; ///< argument of `createInclusionItem`
     std::string description;
 
     static constexpr std::string_view wireType = "com.norvel.api.PreDefinedBrowseItem";

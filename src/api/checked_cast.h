@@ -11,7 +11,7 @@ namespace hessiancln {
 
 namespace detail {
 
-/// What the object's `types` call a class.
+/// The name of a class in the object's `types`.
 template <ProxyClass P>
 constexpr std::string_view plainName() {
     if constexpr (requires { P::className; })
@@ -22,10 +22,10 @@ constexpr std::string_view plainName() {
 
 } // namespace detail
 
-/// A second proxy, of the narrower class, for the object behind `source`, which stays as it is.
-/// Both stand for one reference of the agent's and share its release. Asks the agent, so that it
-/// costs one round trip and raises what a remote method raises; raises `invoke_exception` if the
-/// object isn't of that class. `source` isn't null.
+/// A second proxy, of the narrower class, for the object behind `source`, which is left unchanged.
+/// Both represent the same reference and share its release. Asks the agent, so it costs one round
+/// trip and throws what a remote method throws; throws `invoke_exception` if the object isn't of
+/// that class. `source` must not be null.
 template <class Derived, class Base>
 boost::shared_ptr<Derived> checkedCast(const boost::shared_ptr<Base>& source) {
     static_assert(std::derived_from<Derived, Base> && ProxyClass<Base>);

@@ -31,7 +31,7 @@ public:
     std::string getCustomerName();
     tarnc_reg_info getTarnCRegistrationInfo();
     time_in_day getDailyAdminRunTime();
-    /// Null if the agent keeps no such thing.
+    /// Null if the agent has no such configuration.
     UserInfo getUserInfoConfiguration();
     DayOfWeekCode getWeeklyAdminRunDay();
     time_in_day getWeeklyAdminRunTime();

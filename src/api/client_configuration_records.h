@@ -12,8 +12,8 @@
 
 namespace hessiancln {
 
-/// The system of the agent's computer, 0 to 2. On all but Windows paths have forward slashes and
-/// compare with case.
+/// The operating system of the agent's computer, 0 to 2. Except on Windows, paths have forward
+/// slashes and are case-sensitive.
 enum class ClientOSType : std::int32_t {
     Windows = 0,
 };
@@ -34,7 +34,7 @@ constexpr auto declaredValues(DayOfWeekCode) {
     return hessianser::values({{0, 6}});
 }
 
-/// The agent's enrolment with its storage server. Keys stand in it as they were typed.
+/// The agent's registration with its storage server. Keys are stored as typed.
 struct tarnc_reg_info {
     std::string customer_name;
     std::string account_num; ///< in upper case
@@ -43,7 +43,7 @@ struct tarnc_reg_info {
     KeyEncryptionType account_key_enc{};
     std::string private_key;
     std::string account_key;     ///< may be empty if its cipher is NONE
-    std::string tarnsys_ip_addr; ///< as `joinSystemAddresses` makes it
+    std::string tarnsys_ip_addr; ///< result of `joinSystemAddresses`
     bool escrow_enc_key = false; ///< the keys may be forwarded to the storage server
 
     static constexpr std::string_view wireType = "com.norvel.api.tarnc_reg_info";
@@ -59,11 +59,11 @@ struct tarnc_reg_info {
     }
 };
 
-/// The account with which the agent looks people up in a directory.
+/// The account with which the agent looks up users in a directory.
 struct ad_user_info {
     std::string username;
     std::string password;
-    bool save = false; ///< the agent is to keep the account
+    bool save = false; ///< whether the agent stores the account
 
     static constexpr std::string_view wireType = "com.norvel.api.ad_user_info";
     template <class R = ad_user_info>

@@ -25,11 +25,10 @@
 
 namespace hessiancln {
 
-/// The root: the entry point that needs no login, and the session that a login gives.
+/// The root object: the entry point, which needs no login, and the session that a login returns.
 ///
-/// The entry point stands at the agent's address with "/api" behind it, and serves
-/// `getTarnClientType`, `getAvailableDomains` and the two ways to log in. Times are seconds since
-/// 1970 UTC.
+/// The entry point is at the agent's address followed by "/api", and serves `getTarnClientType`,
+/// `getAvailableDomains` and the two login methods. Times are seconds since 1970 UTC.
 class ClientConnection : public RemoteObject {
 public:
     using RemoteObject::RemoteObject;
@@ -37,7 +36,7 @@ public:
     using Set = boost::shared_ptr<BackupSet>;
     using Activity = boost::shared_ptr<GenericActivity>;
 
-    /// The kind of agent, as the number that it sends.
+    /// The kind of agent, as the number it sends.
     std::int32_t getTarnClientType();
     std::vector<std::string> getAvailableDomains();
 
@@ -55,7 +54,7 @@ public:
 
     std::vector<backup_set_info> backup_sets_info();
     Set backup_set(std::int32_t id);
-    /// Puts a set that was made by a browser among the agent's sets.
+    /// Adds a set created by a browser to the agent's sets.
     void addBackupSet(const Set& set);
     /// Deletes the set; the activity reports it.
     Activity removeBackupSet(const Set& set);
@@ -63,7 +62,7 @@ public:
     std::vector<running_activity_info> running_activities();
     Activity activity(std::int32_t id);
     std::vector<activity_log_info> activity_log(std::int32_t from, std::int32_t to);
-    /// The events of a time span, or with both times 0 those of one activity.
+    /// The events of a time span or, if both times are 0, those of one activity.
     std::vector<event_log_info> event_log(std::int32_t from, std::int32_t to,
                                           std::int32_t activity_id);
 

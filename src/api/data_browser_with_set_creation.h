@@ -12,13 +12,13 @@
 
 namespace hessiancln {
 
-/// A browser that also makes backup sets.
+/// A browser that can also create backup sets.
 class DataBrowserWithSetCreation : public DataSourceBrowser {
 public:
     static constexpr std::string_view className = "DataBrowserWithSetCreation";
     using DataSourceBrowser::DataSourceBrowser;
 
-    /// A set for the computer. It is none of the agent's sets before
+    /// Creates a set for the computer. It isn't one of the agent's sets until
     /// `ClientConnection::addBackupSet`.
     boost::shared_ptr<BackupSet> createBackupSet(const std::string& computer);
 };

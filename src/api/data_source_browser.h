@@ -16,7 +16,7 @@
 
 namespace hessiancln {
 
-/// Looks at what can be backed up on a computer, and makes items of it.
+/// Browses what can be backed up on a computer, and creates items from it.
 class DataSourceBrowser : public RemoteObject {
 public:
     static constexpr std::string_view family = "DataSourceBrowser";
@@ -28,20 +28,20 @@ public:
     using RegexExclusion = boost::shared_ptr<BackupSetRegexExclusion>;
 
     Exclusion createExclusionItem(const std::string& computer, const std::string& path);
-    /// `generations`: how many of them are kept of each file.
+    /// `generations`: how many generations of each file to keep.
     Inclusion createInclusionItem(const std::string& computer, const std::string& path,
                                   std::int32_t generations);
     RegexExclusion createRegexExclusion(const std::string& computer, const std::string& path,
                                         const std::string& expression);
-    /// The agent's full name of the source that somebody typed.
+    /// The agent's full name for the source that the user typed.
     std::string expandToFullPath(const std::string& name);
     Credentials getCurrentCredentials();
-    /// To be repeated after each change of the object.
+    /// Repeat after each change of the object.
     void setCurrentCredentials(const Credentials& value);
     std::vector<PreDefinedBrowseItem> getPredefinedItems(const std::string& computer);
     /// The children of a path; the top level if it is empty.
     std::vector<browse_item_info> getSubItems(const std::string& computer, const std::string& path);
-    /// Fresh credentials of the class that the computer needs.
+    /// New credentials of the class that the computer needs.
     Credentials neededCredentials(const std::string& computer);
     /// The children of a node of the network; the top level if `path` is empty.
     std::vector<net_item_info> networkDiscovery(const std::string& path);

@@ -11,12 +11,12 @@
 
 namespace hessiancln {
 
-/// Something that a backup set holds.
+/// An entry in the content of a backup set.
 struct SelectableItem {
     std::int64_t id = 0; ///< within its view; below 1 for a group that can't be selected by its id
     std::string name;
     SelectableItemType data_type{};
-    bool is_file = false; ///< it holds no children
+    bool is_file = false; ///< it has no children
     bool is_selectable = false;
 
     static constexpr std::string_view wireType = "com.norvel.api.SelectableItem";
@@ -31,10 +31,10 @@ struct SelectableItem {
 
 /// A version of a file. Times are seconds since 1970 UTC; sizes are in bytes.
 struct file_generations {
-    std::int32_t modification_time = 0; ///< of the file
+    std::int32_t modification_time = 0; ///< modification time of the file
     std::int32_t backup_time = 0;
     std::int64_t data_size = 0;
-    std::int64_t stream_size = 0; ///< of what is stored
+    std::int64_t stream_size = 0; ///< stored size
 
     static constexpr std::string_view wireType = "com.norvel.api.file_generations";
     template <class R = file_generations>

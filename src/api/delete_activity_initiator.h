@@ -9,7 +9,7 @@
 
 namespace hessiancln {
 
-/// A deletion of chosen items, ready to start.
+/// A deletion of selected items, ready to start.
 class DeleteActivityInitiator : public RemoteObject {
 public:
     using RemoteObject::RemoteObject;

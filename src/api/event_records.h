@@ -11,7 +11,7 @@
 
 namespace hessiancln {
 
-/// How severe an event is.
+/// Severity of an event.
 enum class EventLogType : std::int32_t {
     Information = 0,
     Warning = 1,
@@ -21,7 +21,7 @@ constexpr auto declaredValues(EventLogType) {
     return hessianser::values({{0, 2}});
 }
 
-/// Where an event comes from.
+/// Origin of an event.
 enum class EventCategory : std::int32_t {
     Application = 0,
     Socket = 1,

@@ -8,12 +8,12 @@
 
 namespace hessiancln {
 
-/// An activity that is running on the agent: the result of everything that starts one.
+/// An activity running on the agent: the result of every method that starts one.
 class GenericActivity : public RemoteObject {
 public:
     using RemoteObject::RemoteObject;
 
-    /// Asks the agent to stop it, and doesn't wait until it has.
+    /// Asks the agent to stop it, and returns without waiting for the end.
     void Stop();
     std::int32_t getID();
 };

@@ -13,7 +13,7 @@ struct NamedCode {
     std::string_view name;
 };
 
-/// The code to be sent stands behind the older one of the same name.
+/// Of two codes with the same name, the later one is sent.
 constexpr NamedCode namedCodes[] = {
     {0, "NONE"},   {1, "DES"},    {2, "AES128"}, {3, "AES192"},
     {4, "AES256"}, {5, "AES128"}, {6, "AES192"}, {7, "AES256"},

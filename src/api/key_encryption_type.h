@@ -9,8 +9,8 @@
 
 namespace hessiancln {
 
-/// The cipher that a key is for, 0 to 7. The agent also sends 2 to 4, which are AES as well and
-/// have no name here; they are never chosen anew.
+/// The cipher of a key, 0 to 7. The agent also sends 2 to 4, which are AES too and have no name
+/// here; they are never used for new keys.
 enum class KeyEncryptionType : std::int32_t {
     NONE = 0,
     DES = 1,
@@ -22,10 +22,10 @@ constexpr auto declaredValues(KeyEncryptionType) {
     return hessianser::values({{0, 7}});
 }
 
-/// The name that people know the cipher by: one of "NONE", "DES", "AES128", "AES192", "AES256".
+/// The cipher's display name: one of "NONE", "DES", "AES128", "AES192", "AES256".
 std::string_view keyEncryptionName(KeyEncryptionType type);
 
-/// What is sent for a cipher of that name; AES128 for a name that isn't one of the five.
+/// The value to send for a cipher name; AES128 for a name that isn't one of the five.
 KeyEncryptionType keyEncryptionFromName(std::string_view name);
 
 } // namespace hessiancln

@@ -8,7 +8,7 @@
 
 namespace hessiancln {
 
-/// A set that the storage server holds and the agent has lost. It is only passed back.
+/// A set that exists on the storage server but is lost on the agent. An opaque argument.
 class OrphanedBackupSet : public RemoteObject {
 public:
     static constexpr std::string_view family = "OrphanedBackupSet";

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-// The body of `RemoteObject::call`, for the sources of the proxy classes. It stands apart from the
-// class since it brings the whole codec, which is much to compile.
+// The body of `RemoteObject::call`, for the sources of the proxy classes. Kept apart from the class
+// because it includes the whole codec, which is slow to compile.
 
 #include <cstdint>
 #include <string>
@@ -19,20 +19,20 @@ namespace hessiancln {
 
 namespace detail {
 
-/// An empty request with the head of the call in it and room for the whole of it.
+/// A request that contains the head of the call, with capacity for all of it.
 std::string startRequest(std::string_view method, std::uint32_t sizeOfArguments);
 
-/// Reads up to where the result begins. Raises `invoke_exception` if the reply is a fault.
+/// Reads up to the start of the result. Throws `invoke_exception` if the reply is a fault.
 void readReplyHead(hessianser::Cursor& in);
 
-/// Reads the rest of a reply that has no result.
+/// Reads the rest of a reply without a result.
 void readEmptyReply(hessianser::Cursor& in);
 
 } // namespace detail
 
 template <class Result, hessianser::Value... Arguments>
 Result RemoteObject::call(std::string_view method, const Arguments&... arguments) {
-    // Passwords and keys travel both ways.
+    // Passwords and keys travel in both directions.
     std::string request =
         detail::startRequest(method, (hessianser::sizeOfValue(arguments) + ... + 0u));
     const base::WipedAtEnd requestGuard(request);

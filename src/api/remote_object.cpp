@@ -13,8 +13,8 @@
 namespace hessiancln {
 namespace {
 
-/// Reads up to where the result begins. True, with nothing of the fault consumed, if a fault
-/// stands there; it may come with or without the head of a reply.
+/// Reads up to the start of the result. Returns true, with nothing of the fault consumed, if there
+/// is a fault; it may have a reply head or not.
 bool reachesFault(hessianser::Cursor& in) {
     if (!hessianser::isFault(in))
         hessianser::readReplyStart(in);

@@ -20,7 +20,7 @@ namespace hessiancln {
 class CAutoReleaser;
 class ICallDispatcher;
 
-/// The near end of an object that lives on the agent, known by its URL and by nothing else.
+/// The local end of an object that lives on the agent, identified only by its URL.
 ///
 /// A proxy class derives from it, adds one method for each remote method, and no data:
 ///
@@ -33,7 +33,7 @@ class ICallDispatcher;
 ///         void setActive(bool value);
 ///     };
 ///
-/// The methods are one line each, which needs "api/remote_call.h":
+/// The methods are one line each and need "api/remote_call.h":
 ///
 ///     std::int32_t BackupSet::getID() {
 ///         return call<std::int32_t>("getID");
@@ -42,19 +42,18 @@ class ICallDispatcher;
 ///         call<void>("setActive", value);
 ///     }
 ///
-/// `family` is its name on the wire where it is an argument; a class without one is never passed.
-/// A class that is reached by a cast derives from the family's root and adds its own name as
-/// `className`.
+/// `family` is its name on the wire as an argument; a class without it is never passed. A class
+/// reached by a cast derives from the root of the family and adds its own name as `className`.
 ///
-/// Every remote method blocks for one round trip and raises
-/// - `invoke_exception` if the transport fails, or with the message of a fault that came back;
+/// Every remote method blocks for one round trip and throws
+/// - `invoke_exception` if the transport fails, or with the message of a returned fault;
 /// - `serialize_exception` if the reply is malformed.
-/// The proxy stays usable then. Several threads may use one proxy at once as soon as it has a
-/// dispatcher; proxies that come out of a reply have one.
+/// The proxy stays usable after an exception. Several threads may share a proxy as soon as it has a
+/// dispatcher; proxies from a reply always have one.
 class RemoteObject {
 public:
-    /// `autoRelease`: the agent is to be told when the last proxy of the object goes.
-    /// `traceLevel`, `traceFile`: for the dispatcher that the object creates if it is given none.
+    /// `autoRelease`: release the object on the agent with its last proxy.
+    /// `traceLevel`, `traceFile`: for the dispatcher that the object creates if none is given.
     RemoteObject(std::string url, bool autoRelease, std::uint32_t traceLevel,
                  std::string traceFile);
     RemoteObject(boost::shared_ptr<ICallDispatcher> dispatcher, std::string url, bool autoRelease,
@@ -65,23 +64,23 @@ public:
 
     const std::string& url() const { return url_; }
 
-    /// Sends a finished call and puts the whole reply into `response`. Creates a dispatcher first
-    /// if there is none, which is not guarded against other threads.
+    /// Sends a complete call and stores the whole reply in `response`. Creates a dispatcher first
+    /// if there is none, which isn't thread-safe.
     void sendCall(const std::string& request, std::string& response);
 
     boost::shared_ptr<ICallDispatcher> getDispatcher() const { return dispatcher_; }
     void setDispatcher(const boost::shared_ptr<ICallDispatcher>& dispatcher);
     boost::shared_ptr<CAutoReleaser> getAutoReleaser() const { return autoReleaser_; }
 
-    /// The names of the classes that the object is of, without any prefix.
+    /// The names of the object's classes, without any prefix.
     std::vector<std::string> types();
 
-    /// Tells the agent that the object isn't needed any more. Does nothing once that succeeded.
+    /// Releases the object on the agent. Does nothing once that has succeeded.
     void Release();
 
 protected:
-    /// One remote method: sizes and writes the call, sends it, reads the reply, and binds the
-    /// proxies that came with it to this object's dispatcher.
+    /// Calls a remote method: sizes and writes the call, sends it, reads the reply, and binds the
+    /// proxies in it to this object's dispatcher.
     template <class Result, hessianser::Value... Arguments>
     Result call(std::string_view method, const Arguments&... arguments);
 
@@ -106,8 +105,8 @@ concept ProxyClass = std::derived_from<T, RemoteObject>;
 
 } // namespace hessiancln
 
-/// A proxy in an argument or a result, null for a null reference. What class it has is said by the
-/// method that takes or gives it, whatever the wire says beside its URL.
+/// A proxy in an argument or a result; null for a null reference. Its class is determined by the
+/// method that takes or returns it, regardless of the type name on the wire.
 template <class P>
 requires hessiancln::ProxyClass<P>
 struct hessianser::RemoteTraits<boost::shared_ptr<P>> {

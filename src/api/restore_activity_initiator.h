@@ -15,7 +15,7 @@
 
 namespace hessiancln {
 
-/// A restore of chosen items, ready to start.
+/// A restore of selected items, ready to start.
 class RestoreActivityInitiator : public RemoteObject {
 public:
     using RemoteObject::RemoteObject;
@@ -23,12 +23,11 @@ public:
     using Browser = boost::shared_ptr<DataSourceBrowser>;
     using Activity = boost::shared_ptr<GenericActivity>;
 
-    /// The shares that have to be mapped if the items don't go to where they came from.
+    /// The shares to map unless the items are restored to their original place.
     std::vector<hessiancln::selected_shares> selected_shares();
     void setRestoreReason(std::int32_t code);
-    /// `browser` and `computer` say where the items go, and `browser` may be null. The list is
-    /// empty, and the level 0, if they go to where they came from; with several mappings each level
-    /// is 0.
+    /// `browser`, which may be null, and `computer` specify the destination. To restore to the
+    /// original place, the list is empty and the level 0; with several mappings each level is 0.
     Activity start(const Browser& browser, const std::string& computer,
                    const std::vector<share_mapping>& mappings, std::int32_t truncateLevel);
 };

@@ -10,10 +10,11 @@
 
 namespace hessiancln {
 
-/// A share, or place at the top of a computer, that chosen items lie in.
+/// A share, or top-level place of a computer, that contains selected items.
 struct selected_shares {
-    std::string share_name;       ///< the agent's name of it, as `source_share` takes it
-    std::string truncatable_path; ///< what a restore may drop of the path, with backslashes
+    std::string share_name;       ///< the agent's name for it; value for `source_share`
+    std::string truncatable_path; ///< the part of the path that a restore may drop, with
+                                  ///< backslashes
 
     static constexpr std::string_view wireType = "com.norvel.api.selected_shares";
     template <class R = selected_shares>
@@ -27,8 +28,8 @@ struct selected_shares {
 /// Where a share is restored to.
 struct share_mapping {
     std::string source_share;
-    std::string destination_path;    ///< a directory of the destination computer
-    std::int32_t truncate_level = 0; ///< how many leading levels of the path are dropped
+    std::string destination_path;    ///< a directory on the destination computer
+    std::int32_t truncate_level = 0; ///< number of leading path levels to drop
 
     static constexpr std::string_view wireType = "com.norvel.api.share_mapping";
     template <class R = share_mapping>

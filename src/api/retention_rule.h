@@ -15,7 +15,7 @@
 
 namespace hessiancln {
 
-/// Which generations are kept; shared by the sets that refer to it.
+/// Defines which generations to keep; shared by the sets that refer to it.
 class RetentionRule : public RemoteObject {
 public:
     static constexpr std::string_view family = "RetentionRule";
@@ -26,7 +26,7 @@ public:
     std::string getName();
     void setName(const std::string& name);
 
-    /// The newest generations, which are always kept.
+    /// Number of newest generations, which are always kept.
     std::int32_t getKeepLastGenerations();
     void setKeepLastGenerations(std::int32_t count);
 
@@ -34,8 +34,8 @@ public:
     void addTimeRetentionOption(const Option& option);
     void removeTimeRetentionOption(const Option& option);
 
-    /// Whether files that were removed from the source are cleaned up, after how long, and how many
-    /// generations of them are kept then.
+    /// Whether files removed from the source are cleaned up, after how long, and how many of their
+    /// generations are then kept.
     bool getCleanupRemovedFiles();
     void setCleanupRemovedFiles(bool value);
     retention_time_span getCleanupRemovedAfter();
@@ -43,7 +43,7 @@ public:
     std::int32_t getCleanupRemovedKeep();
     void setCleanupRemovedKeep(std::int32_t count);
 
-    /// A period of 0 is off.
+    /// A period of 0 turns it off.
     retention_time_span getLocalStorageRetention();
     void setLocalStorageRetention(const retention_time_span& span);
 };

@@ -12,7 +12,7 @@
 
 namespace hessiancln {
 
-/// Hands out, makes and removes retention rules.
+/// Lists, creates and removes retention rules.
 class RetentionRuleManager : public RemoteObject {
 public:
     using RemoteObject::RemoteObject;
@@ -23,7 +23,7 @@ public:
     std::vector<Rule> definedRules();
     Rule createRule();
     void removeRule(const Rule& rule);
-    /// An option that no rule has yet.
+    /// An option that doesn't belong to a rule yet.
     IntervalOption createIntervalTimeRetention();
 };
 

@@ -10,7 +10,7 @@
 
 namespace hessiancln {
 
-/// A unit of time, 0 to 6. The smaller ones are of no use here.
+/// A unit of time, 0 to 6. The smaller units aren't used here.
 enum class RetentionTimeUnit : std::int32_t {
     Days = 3,
     Weeks = 4,
@@ -23,7 +23,7 @@ constexpr auto declaredValues(RetentionTimeUnit) {
 
 /// A length of time.
 struct retention_time_span {
-    std::int32_t period = 0; ///< how many units
+    std::int32_t period = 0; ///< number of units
     RetentionTimeUnit unit{};
 
     static constexpr std::string_view wireType = "com.norvel.api.retention_time_span";

@@ -34,7 +34,7 @@ public:
     time_in_day getStartTime();
     void setStartTime(const time_in_day& time);
     bool hasEndTime();
-    /// Counted from the day of the start, so that its hour may be above 23.
+    /// Relative to the day of the start, so its hour may exceed 23.
     time_in_day getEndTime();
     void setEndTime(const time_in_day& time);
     void setNoEndTime();

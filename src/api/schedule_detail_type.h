@@ -8,8 +8,8 @@
 
 namespace hessiancln {
 
-/// How often a part of a schedule runs, 0 to 3. Weekly is what people see as daily, as it names the
-/// days of a week.
+/// How often a part of a schedule runs, 0 to 3. Weekly is shown to users as daily because it lists
+/// days of the week.
 enum class ScheduleDetailType : std::int32_t {
     Weekly = 2,
     Monthly = 3,

@@ -12,7 +12,7 @@
 
 namespace hessiancln {
 
-/// Hands out, makes and removes schedules.
+/// Lists, creates and removes schedules.
 class ScheduleManager : public RemoteObject {
 public:
     using RemoteObject::RemoteObject;
@@ -24,9 +24,9 @@ public:
     std::vector<SchedulePointer> definedSchedules();
     SchedulePointer createSchedule();
     void removeSchedule(const SchedulePointer& schedule);
-    /// A detail that no schedule has yet.
+    /// A detail that doesn't belong to a schedule yet.
     WeeklyDetail createWeeklyDetail();
-    /// A detail that no schedule has yet.
+    /// A detail that doesn't belong to a schedule yet.
     MonthlyDetail createMonthlyDetail();
 };
 

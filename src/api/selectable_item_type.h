@@ -8,7 +8,7 @@
 
 namespace hessiancln {
 
-/// What stands in a tree of a computer's or a backup set's content, 0 to 13.
+/// Entries in the content tree of a computer or a backup set, 0 to 13.
 enum class SelectableItemType : std::int32_t {
     Drive = 0,
     Folder = 1,

@@ -14,11 +14,11 @@ namespace hessiancln {
 
 class ClientConnection;
 
-/// The answer to one step of integrated logon. `Reference` is what stands for the session's root
-/// object: a proxy here, and a handle of its own on the agent's side.
+/// The answer to one step of integrated logon. `Reference` is the type of the session's root
+/// object: a proxy here, a handle on the agent's side.
 template <class Reference>
 struct basic_sspi_login_info {
-    hessianser::Binary context; ///< the next token for the client, behind its length
+    hessianser::Binary context; ///< the next token for the client, preceded by its length
     std::string user;
     std::string domain;
     Reference conn;

@@ -13,7 +13,7 @@
 
 namespace hessiancln {
 
-/// Gets back what an agent has lost.
+/// Recovers what an agent has lost.
 class SystemActivityManager : public RemoteObject {
 public:
     using RemoteObject::RemoteObject;
@@ -23,7 +23,7 @@ public:
 
     std::vector<Orphan> getOrphanedbackupSets();
     Activity recover_tarnclient_database(std::int32_t mode);
-    /// The id of the set that takes its place.
+    /// Returns the id of the recovered set.
     std::int32_t recover_orphaned_backup_set(const Orphan& orphan);
 };
 

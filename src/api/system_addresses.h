@@ -8,11 +8,11 @@
 
 namespace hessiancln {
 
-/// The addresses of the storage server as they stand in one text, with a backslash and a semicolon
-/// between each two.
+/// Joins the addresses of the storage server into one string, separated by a backslash and a
+/// semicolon.
 std::string joinSystemAddresses(const std::vector<std::string>& addresses);
 
-/// The addresses in such a text, without the blanks around them; an empty one is left out.
+/// Splits such a string into addresses, trims them, and skips empty ones.
 std::vector<std::string> splitSystemAddresses(std::string_view text);
 
 } // namespace hessiancln

@@ -9,9 +9,9 @@
 
 namespace hessiancln {
 
-/// A row of the list that describes the agent.
+/// A row in the list of the agent's properties.
 struct tarn_client_info {
-    std::string name; ///< the caption
+    std::string name; ///< caption
     std::string value;
 
     static constexpr std::string_view wireType = "com.norvel.api.tarn_client_info";

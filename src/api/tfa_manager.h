@@ -11,19 +11,19 @@
 
 namespace hessiancln {
 
-/// Two-factor login: codes, and the addresses that they are sent to. `mode` says what a code is
-/// asked for: 1 to send the list of addresses, 2 for backup sets and deletions.
+/// Two-factor login: codes, and the addresses they are sent to. `mode` is the purpose of a code: 1
+/// for sending the list of addresses, 2 for backup sets and deletions.
 class TFAManager : public RemoteObject {
 public:
     using RemoteObject::RemoteObject;
 
     std::vector<user_email> getUserEmails();
     bool is2FAEnabled();
-    /// Has a code sent by mail. The address that it went to.
+    /// Requests a code by mail. Returns the address it was sent to.
     std::string requestCode(std::int32_t mode);
     /// Replaces the whole list.
     void setUserEmails(const std::vector<user_email>& emails);
-    /// Raises `invoke_exception` if the code is wrong.
+    /// Throws `invoke_exception` if the code is wrong.
     void validateCode(const std::string& code, std::int32_t mode);
 };
 

@@ -9,8 +9,8 @@
 
 namespace hessiancln {
 
-/// A time of day in the agent's time zone. The hour passes 23 where an end lies on a later day than
-/// the start, and is -1 for a daily or weekly run that is off.
+/// A time of day in the agent's time zone. The hour exceeds 23 if an end is on a later day than the
+/// start, and is -1 for a daily or weekly run that is off.
 struct time_in_day {
     std::int32_t hour = 0;
     std::int32_t minute = 0;
@@ -25,7 +25,7 @@ struct time_in_day {
     }
 };
 
-/// True if this is what the agent keeps in place of the time of a run that is off.
+/// True if this is the agent's placeholder for the time of a run that is off.
 constexpr bool isRunOff(const time_in_day& time) {
     return time.hour == -1;
 }

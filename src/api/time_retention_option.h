@@ -9,7 +9,7 @@
 
 namespace hessiancln {
 
-/// For how long a retention rule keeps something.
+/// How long a retention rule keeps something.
 class TimeRetentionOption : public RemoteObject {
 public:
     static constexpr std::string_view family = "TimeRetentionOption";
@@ -19,7 +19,7 @@ public:
     void setValidFor(const retention_time_span& span);
 };
 
-/// Keeps one generation for each repeat time.
+/// Keeps one generation per repeat time.
 class IntervalTimeRetentionOption : public TimeRetentionOption {
 public:
     static constexpr std::string_view className = "IntervalTimeRetentionOption";

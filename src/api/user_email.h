@@ -9,7 +9,7 @@
 
 namespace hessiancln {
 
-/// Where the login codes of a user are sent to.
+/// An address to which a user's login codes are sent.
 struct user_email {
     std::string username;
     std::string domain;

@@ -10,7 +10,7 @@
 
 namespace hessiancln {
 
-/// How many people a customer employs.
+/// The customer's number of employees.
 enum class EmployeeCountCode : std::int32_t {
     UpTo50 = 1,
     UpTo200 = 2,
@@ -24,7 +24,7 @@ constexpr auto declaredValues(EmployeeCountCode) {
     return hessianser::values({{1, 7}});
 }
 
-/// What a customer does.
+/// The customer's industry.
 enum class IndustryCode : std::int32_t {
     ManufacturingAndEnergy = 1,
     RetailAndWholesale = 2,
@@ -41,7 +41,7 @@ constexpr auto declaredValues(IndustryCode) {
 
 /// Statistics about the customer.
 struct user_info {
-    std::int32_t country_code = 0; ///< ISO 3166-1 numeric; 0 if it isn't set
+    std::int32_t country_code = 0; ///< ISO 3166-1 numeric; 0 if unset
     EmployeeCountCode num_of_employees{};
     IndustryCode industry_code{};
 
@@ -55,7 +55,7 @@ struct user_info {
     }
 };
 
-/// True if what the agent sent isn't filled in yet.
+/// True if the agent's data isn't filled in yet.
 constexpr bool isMissing(const user_info& info) {
     return info.country_code == 0 ||
            info.num_of_employees == hessianser::reservedValue<EmployeeCountCode>() ||

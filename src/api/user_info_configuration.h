@@ -7,7 +7,7 @@
 
 namespace hessiancln {
 
-/// Keeps the statistics about the customer.
+/// Stores the statistics about the customer.
 class UserInfoConfiguration : public RemoteObject {
 public:
     using RemoteObject::RemoteObject;

@@ -12,11 +12,11 @@ namespace Ui {
 class AboutDlg;
 }
 
-/// What this program is and, during a session, what the agent says about itself.
+/// Information about this program and, during a session, about the agent.
 class AboutDlg : public QDialog {
     Q_OBJECT
 public:
-    /// Asks the agent, if there is a session. Raises what the call raises.
+    /// Queries the agent if there is a session. Throws what the call throws.
     explicit AboutDlg(QWidget* parent = nullptr);
     ~AboutDlg() override;
 

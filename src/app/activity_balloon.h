@@ -13,11 +13,11 @@
 
 namespace app {
 
-/// The name of a backup set; nothing if it can't be had.
+/// The name of a backup set; no value if unavailable.
 using SetNames = std::function<std::optional<QString>(std::int32_t setId)>;
 
-/// What a balloon says about activities that have begun and ended: a line for each, of which at
-/// most ten. Where there are more, the last line says how many.
+/// Balloon text about activities that have started and ended: one line each, at most ten. If there
+/// are more, the last line gives their number.
 QString activityBalloonText(const QList<hessiancln::running_activity_info>& appeared,
                             const QList<hessiancln::running_activity_info>& disappeared,
                             const SetNames& nameOf);

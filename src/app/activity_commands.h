@@ -8,15 +8,15 @@
 
 #include "api/generic_activity.h"
 
-/// Starting and stopping activities of the agent. All raise what the calls raise.
+/// Starting and stopping activities of the agent. All functions throw what the calls throw.
 namespace app {
 
-/// Backs up what a set holds, looks at the source first and applies the retention afterwards.
+/// Backs up a set, with a scan of the source first and a retention run afterwards.
 boost::shared_ptr<hessiancln::GenericActivity> startBackup(std::int32_t setId);
 boost::shared_ptr<hessiancln::GenericActivity> startSync(std::int32_t setId);
 boost::shared_ptr<hessiancln::GenericActivity> startDailyAdmin();
 
-/// Asks an activity to end, and returns the id that it names itself by.
+/// Asks an activity to stop, and returns the id that it reports for itself.
 std::int32_t stopActivity(std::int32_t activityId);
 
 } // namespace app

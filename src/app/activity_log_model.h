@@ -5,7 +5,7 @@
 #include "api/activity_records.h"
 #include "models/record_table_model.h"
 
-/// The activities of a time span that the agent keeps in its log.
+/// The activities in the agent's log for a time span.
 class ActivityLogModel : public models::RecordTableModel<hessiancln::activity_log_info> {
     Q_OBJECT
 public:
@@ -24,8 +24,8 @@ public:
 
     explicit ActivityLogModel(QObject* parent = nullptr);
 
-    /// Asks the agent; both times are seconds since 1970 UTC. Raises what the call raises, and
-    /// then leaves the rows as they were.
+    /// Queries the agent; both times are seconds since 1970 UTC. Throws what the call throws,
+    /// leaving the rows unchanged.
     void refresh(std::int32_t from, std::int32_t to);
 
 protected:

@@ -15,7 +15,7 @@ namespace {
 constexpr int barLength = 1000;
 constexpr int widestMargin = 5;
 
-/// The space around the bar: it leaves room for its text first.
+/// The margin around the bar, which leaves room for the text first.
 int marginOf(const QStyleOptionViewItem& option, const QString& text) {
     const QRect textRect = option.fontMetrics.boundingRect(text);
     const int freeHeight = option.rect.height() - textRect.height();

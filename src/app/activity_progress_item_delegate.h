@@ -6,8 +6,8 @@
 
 class RunningActivitiesModel;
 
-/// Paints how far a running activity is, as a bar if that can be told, else as text. For a column
-/// of a view that shows the model itself; the model outlives the delegate.
+/// Paints the progress of a running activity, as a bar if it is known, else as text. For a column
+/// of a view that shows the model itself; the model must outlive the delegate.
 class CActivityProgressItemDelegate : public QStyledItemDelegate {
     Q_OBJECT
 public:

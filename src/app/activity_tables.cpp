@@ -16,7 +16,7 @@ namespace app {
 
 namespace {
 
-/// From top to bottom.
+/// In top to bottom order.
 std::vector<int> selectedRows(const QTableView& table) {
     std::vector<int> rows;
     for (const QModelIndex& index : table.selectionModel()->selectedRows())
@@ -39,7 +39,7 @@ void ActivityTables::showSpan() {
     span_ = yesterdayAndToday(today_());
     widgets_.from.setDateTime(span_.from);
     widgets_.to.setDateTime(span_.to);
-    // What the fields make of it: they may show no seconds.
+    // Read back, because the fields may not show seconds.
     span_ = {widgets_.from.dateTime(), widgets_.to.dateTime()};
 }
 

@@ -16,7 +16,7 @@ class QTableView;
 
 namespace app {
 
-/// The two tables of activities: those that run, and those that the log keeps of a time span.
+/// The two tables of activities: running ones, and those logged in a time span.
 class ActivityTables {
 public:
     struct Widgets {
@@ -26,20 +26,20 @@ public:
         QDateTimeEdit& to;
     };
     using Today = std::function<QDate()>;
-    /// The widgets have to outlive this. The span is yesterday and today, and moves on with the
-    /// day for as long as the user hasn't chosen another one.
+    /// The widgets must outlive this. The span is yesterday and today, and moves on with the day
+    /// until the user selects another one.
     explicit ActivityTables(const Widgets& widgets, Today today = QDate::currentDate);
 
     RunningActivitiesModel& running() { return running_; }
     const RunningActivitiesModel& running() const { return running_; }
     ActivityLogModel& log() { return log_; }
 
-    /// Asks the agent, for the log first. Raises what the calls raise.
+    /// Queries the agent, for the log first. Throws what the calls throw.
     void refresh();
     void clear();
 
     bool anyRunningSelected() const;
-    /// Ids of the selected running activities, from top to bottom.
+    /// Ids of the selected running activities, in top to bottom order.
     std::vector<std::int32_t> selectedRunning() const;
     /// The topmost selected entry of the log.
     std::optional<hessiancln::activity_log_info> selectedLogEntry() const;
@@ -52,7 +52,7 @@ private:
 
     Widgets widgets_;
     Today today_;
-    LogSpan span_; ///< that was shown last without the user
+    LogSpan span_; ///< last span not set by the user
     ActivityLogModel log_;
     RunningActivitiesModel running_;
 };

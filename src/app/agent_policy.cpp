@@ -16,8 +16,8 @@ namespace {
 
 using hessiancln::tarn_client_info;
 
-// The names of the row that says who makes the policy, from an English and a German agent. The
-// value is English under both.
+// The names of the row for the policy's origin, on an English and a German agent. The value is
+// English on both.
 constexpr std::string_view policyNames[] = {"Centrally Managed Backup Policy",
                                             "Zentral-verwaltete Backup-Politik"};
 constexpr std::string_view yes = "Yes";

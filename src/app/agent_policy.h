@@ -4,8 +4,8 @@
 
 namespace app {
 
-/// Asks the agent whether its backup sets are managed centrally and whether it wants codes, and
-/// keeps both in the process's values. Raises what the calls raise.
+/// Asks the agent whether its backup sets are managed centrally and whether it requires codes, and
+/// stores both in the process values. Throws what the calls throw.
 void readAgentPolicy();
 
 } // namespace app

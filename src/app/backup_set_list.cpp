@@ -178,7 +178,7 @@ bool BackupSetList::keyPressed(const QKeyEvent& key) {
         card->startEditingSetName();
         return true;
     }
-    // Not every platform makes a context menu event of it.
+    // Not every platform turns it into a context menu event.
     if (key.key() == Qt::Key_F10 && key.modifiers() == Qt::ShiftModifier) {
         showContextMenu(*card);
         return true;

@@ -24,38 +24,38 @@ namespace app {
 class BackupSetList : public QObject {
     Q_OBJECT
 public:
-    /// Asks the agent for its sets; what it raises leaves the list as it was.
+    /// Returns the agent's sets; an exception leaves the list unchanged.
     using Source = std::function<std::vector<hessiancln::backup_set_info>()>;
     static std::vector<hessiancln::backup_set_info> setsOfAgent();
 
-    /// `view` gets the list's model, and has to outlive the list.
+    /// Sets the list's model on `view`, which must outlive the list.
     explicit BackupSetList(QTableView& view, Source source = setsOfAgent,
                            BackupSetViewItem::Rename rename = BackupSetViewItem::renameOnAgent);
 
-    /// Shows what the source gives now. False if a rename of the selected set is in progress, under
-    /// which the list isn't touched.
+    /// Shows the current sets of the source. Returns false, and leaves the list unchanged, if the
+    /// selected set is being renamed.
     bool rebuild();
     void clear();
     int count() const { return rows_.rowCount(); }
-    /// Whether the agent has none, as opposed to a list that couldn't be read.
+    /// Whether the agent has no sets, as opposed to a list that couldn't be read.
     bool isKnownToBeEmpty() const { return known_ && count() == 0; }
-    /// What the cards show, in their order.
+    /// The records shown by the cards, in their order.
     std::vector<hessiancln::backup_set_info> records() const;
 
-    /// The card of the first selected row, or null. It may go with the next rebuild.
+    /// The card of the first selected row, or null. The next rebuild may delete it.
     BackupSetViewItem* selectedCard() const;
-    /// Selects the set with this id. False if none is listed.
+    /// Selects the set with this id. Returns false if it isn't listed.
     bool selectSet(std::int32_t setId);
     /// Selects the set with this id as soon as a rebuild finds it.
     void selectOnceListed(std::int32_t setId) { pendingId_ = setId; }
 
-    /// Forgets what was typed into a card's name.
+    /// Discards the text typed into a card's name.
     void abandonEditing();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
-    /// The user selected something else. Not sent for what a rebuild selects.
+    /// The user changed the selection. Not emitted for changes made by a rebuild.
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected);
     void contextMenuNeedsDisplay(BackupSetViewItem* source, QContextMenuEvent* event);
 
@@ -79,7 +79,7 @@ private:
     BackupSetViewItem::Rename rename_;
     BackupSetRows rows_;
     std::int32_t pendingId_;
-    bool known_ = false; ///< what the agent has
+    bool known_ = false; ///< whether the agent's sets are known
     bool rebuilding_ = false;
 };
 

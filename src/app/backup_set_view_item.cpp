@@ -32,7 +32,7 @@ BackupSetViewItem::BackupSetViewItem(QWidget* parent, Rename rename)
 }
 
 BackupSetViewItem::~BackupSetViewItem() {
-    // The editor loses the focus as it goes, which must not rename anything.
+    // The editor loses the focus on destruction, which must not rename anything.
     if (nameEditor_)
         disconnect(nameEditor_, nullptr, this, nullptr);
 }
@@ -51,7 +51,7 @@ void BackupSetViewItem::render() {
 }
 
 void BackupSetViewItem::applyLook(const app::SetCardLook& look) {
-    // The list is rebuilt every few seconds, and style sheets and pictures are dear.
+    // The list is rebuilt every few seconds, and style sheets and pictures are expensive.
     if (look == look_)
         return;
     if (look.styleSheet != look_.styleSheet)
@@ -123,7 +123,7 @@ void BackupSetViewItem::abandonEditing() {
 }
 
 void BackupSetViewItem::hideNameEditor() {
-    // Losing the focus ends an edit too, and this one is ending already.
+    // Losing the focus ends an edit too, and this one is already ending.
     const QSignalBlocker quiet(nameEditor_);
     setFocus();
     ui_->labelSetName->show();
@@ -132,7 +132,7 @@ void BackupSetViewItem::hideNameEditor() {
 
 void BackupSetViewItem::sendName(const QString& name) {
     const QScopedValueRollback<bool> sending(sendingName_, true);
-    // The box belongs to the window: the list may let go of this card while it is open.
+    // The box belongs to the window: the list may delete this card while the box is open.
     const bool renamed = ui::remoteAction(*window(), tr("Rename backup set error"),
                                           ui::Cursor::arrow, [&] { rename_(record_.id, name); });
     if (renamed)

@@ -17,30 +17,30 @@ namespace Ui {
 class BackupSetViewItem;
 }
 
-/// A card in the list of backup sets. A double click on its name opens an editor in the name's
-/// place, unless the sets are managed centrally.
+/// A card in the list of backup sets. A double click on its name opens an editor in place of the
+/// name, unless the sets are managed centrally.
 class BackupSetViewItem : public QWidget {
     Q_OBJECT
 public:
-    /// Gives a set a new name; raises what is derived from `std::exception` if that fails.
+    /// Renames a set; throws an exception derived from `std::exception` on failure.
     using Rename = std::function<void(std::int32_t setId, const QString& name)>;
     static void renameOnAgent(std::int32_t setId, const QString& name);
 
     explicit BackupSetViewItem(QWidget* parent = nullptr, Rename rename = renameOnAgent);
     ~BackupSetViewItem() override;
 
-    /// Shows a set. What looks as it did before isn't drawn anew.
+    /// Shows a set. Redraws only what has changed.
     void setRecord(const hessiancln::backup_set_info& record);
     const hessiancln::backup_set_info& record() const { return record_; }
 
     void setSelected(bool selected);
 
-    /// Opens the editor of the name, unless the sets are managed centrally.
+    /// Opens the name editor, unless the sets are managed centrally.
     void startEditingSetName();
-    /// Whether the name is being edited, or is just being sent to the agent.
+    /// Whether the name is being edited or sent to the agent.
     bool editingName() const { return editingName_; }
 
-    /// Closes the editor and forgets what was typed, for a card that has to go.
+    /// Closes the editor and discards its text, for a card to be deleted.
     void abandonEditing();
 
     bool event(QEvent* event) override;
@@ -68,7 +68,7 @@ private:
     Rename rename_;
     hessiancln::backup_set_info record_;
     app::SetCardLook look_;
-    QLineEdit* nameEditor_ = nullptr; ///< made for the first rename; the card owns it
+    QLineEdit* nameEditor_ = nullptr; ///< created for the first rename; owned by the card
     bool editingName_ = false;
     bool sendingName_ = false;
     bool deleteOnceSent_ = false;

@@ -24,13 +24,13 @@ using std::chrono::duration_cast;
 using std::chrono::milliseconds;
 using Clock = std::chrono::steady_clock;
 
-// What ends one of our loops. The end of the program ends all loops with other codes.
+// Exit codes of our own loops. The end of the program ends all loops with other codes.
 constexpr int wokenCode = 0x57414b45;
 constexpr int timeOutCode = 0x54494d45;
 
 const auto wakeType = static_cast<QEvent::Type>(QEvent::registerEventType());
 
-/// Leaves out widgets that are in the middle of painting themselves.
+/// Disables updates of widgets that are in the middle of painting themselves.
 class PaintingWidgets {
 public:
     PaintingWidgets() {
@@ -53,7 +53,7 @@ private:
     std::vector<QPointer<QWidget>> widgets_;
 };
 
-/// The window in front; null if all are hidden.
+/// The frontmost window; null if all are hidden.
 QWidget* windowInFront() {
     if (QWidget* modal = QApplication::activeModalWidget(); modal && modal->isVisible())
         return modal;
@@ -118,7 +118,7 @@ void CallGate::wait(hessiancln::AwaitedCall& call) noexcept {
     call_ = nullptr;
 }
 
-/// Input stays in the queue, as it does in a short call.
+/// Input stays in the queue, as during a short call.
 void CallGate::keepPainting(hessiancln::AwaitedCall& call) {
     const auto due = begin_ + times_.untilPanel;
     while (!call.finished() && Clock::now() < due) {

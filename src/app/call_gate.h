@@ -16,15 +16,15 @@ class WaitingPanel;
 
 namespace app {
 
-/// Keeps the windows alive while the thread that makes this object waits for the agent. A call that
-/// takes long lets them paint, but take no input; one that takes longer shows a panel over the
-/// window in front, with which the user can leave the agent. The end of the program leaves it too.
+/// Keeps the windows alive while the thread that creates this object waits for the agent. During a
+/// slow call they repaint but take no input; after a longer wait, a panel over the frontmost window
+/// lets the user disconnect from the agent. Quitting the program disconnects too.
 ///
-/// Without this object the thread just sleeps until each reply comes.
+/// Without this object the thread just sleeps until each reply arrives.
 class CallGate : public QObject, private hessiancln::WaitHook {
     Q_OBJECT
 public:
-    /// Counted from the begin of a call.
+    /// Measured from the start of a call.
     struct Times {
         std::chrono::milliseconds untilPainting{200};
         std::chrono::milliseconds untilPanel{3000};
@@ -34,14 +34,14 @@ public:
     explicit CallGate(const Times& times);
     ~CallGate() override;
 
-    /// Events of this type lead to calls, so they have to wait for the end of one, and one of them
-    /// then does for all.
+    /// Defers events of this type, which lead to calls, until the end of a call, and merges them
+    /// into one.
     void holdBack(int eventType);
 
-    /// Has menus trigger this action also during a wait. It must not make a call.
+    /// Lets menus trigger this action even during a wait. It must not make a call.
     void admit(QAction& action);
 
-    /// From now on an agent that would have to be asked about is left: nobody is there any more.
+    /// From now on, abandons a silent agent without asking: the user is gone.
     void leaveSilentAgents() { leaving_ = true; }
 
 protected:
@@ -66,7 +66,7 @@ private:
     std::unique_ptr<WaitingPanel> panel_;
     hessiancln::WaitHookInstallation installation_;
 
-    // During a wait
+    // Used during a wait
     hessiancln::AwaitedCall* call_ = nullptr;
     QEventLoop* loop_ = nullptr;
     QBasicTimer timer_;

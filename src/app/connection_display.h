@@ -14,22 +14,23 @@ namespace app {
 class ConnectionField;
 class SessionEndedNotice;
 
-/// What the main window says of its connection beside the status text: a field of the status bar,
-/// a notice in the list that has lost its sets, and a line in dialogs that have lost their agent.
+/// The main window's display of its connection, apart from the status text: a field of the status
+/// bar, a notice in a list that has lost its sets, and a line in dialogs that have lost their
+/// agent.
 class ConnectionDisplay : public QObject {
     Q_OBJECT
 public:
-    /// Adds the field to `bar`, at its end, and the notice to `list`.
+    /// Appends the field to `bar`, and adds the notice to `list`.
     ConnectionDisplay(QStatusBar& bar, QAbstractItemView& list);
 
     /// A login has succeeded.
     void begin(const QString& server, const QString& user);
 
-    /// The list shows so many sets.
+    /// The list now shows this many sets.
     void listed(int sets);
 
-    /// The session is over: by the user's will, or with an error for a `cause`. The first cause
-    /// after a login is the one that stays.
+    /// The session has ended: at the user's request, or with an error as the `cause`. The first
+    /// cause after a login is kept.
     void end(const QString& cause = {});
 
     const ConnectionState& state() const { return state_; }

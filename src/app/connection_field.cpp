@@ -10,7 +10,7 @@ namespace app {
 
 namespace {
 
-constexpr int widest = 320; ///< of the text; the status text needs room beside it
+constexpr int widest = 320; ///< width of the text; the status text needs room beside it
 
 using Kind = ConnectionState::Kind;
 
@@ -48,7 +48,7 @@ void ConnectionField::show(const ConnectionState& state) {
 void ConnectionField::setTexts() {
     const bool connected = state_.kind == Kind::connected;
     setIcon(pictureOf(state_.kind));
-    // The text may come from the agent and hold what a button takes for its mnemonic.
+    // Text from outside may contain a button's mnemonic marker.
     const QString text = fontMetrics().elidedText(shortText(state_), Qt::ElideRight, widest);
     setText(QString(text).replace(QLatin1Char('&'), QLatin1String("&&")));
     QString whole = wholeText(state_);

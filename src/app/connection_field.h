@@ -8,9 +8,9 @@
 
 namespace app {
 
-/// The field of the status bar that shows the state of the connection: in a few words, with a
-/// picture, and whole in its tool tip and for screen readers. A click or Return asks for a
-/// connection where there is none.
+/// The field of the status bar that shows the state of the connection: abbreviated, with a picture,
+/// and in full in its tool tip and for screen readers. A click or Return requests a connection if
+/// there is none.
 class ConnectionField : public QToolButton {
     Q_OBJECT
 public:

@@ -7,24 +7,24 @@
 
 namespace app {
 
-/// What the user sees of the connection. Whether there is one, the session knows.
+/// The connection as shown to the user. Whether there is one is up to the session.
 struct ConnectionState {
     enum class Kind { notConnected, connected, lost };
 
     Kind kind = Kind::notConnected;
-    QString server;   ///< of the last session
+    QString server;   ///< server of the last session
     QString user;     ///< likewise
-    QString cause;    ///< of a loss
+    QString cause;    ///< cause of a loss
     QDateTime lostAt; ///< likewise
 };
 
-/// In a few words, though a cause may be long.
+/// Abbreviated, though a cause may be long.
 QString shortText(const ConnectionState& state);
 
-/// All that is known.
+/// All known details.
 QString wholeText(const ConnectionState& state);
 
-/// What has become of the session, and why; empty while it lasts.
+/// How and why the session ended; empty during a session.
 QString endText(const ConnectionState& state);
 
 } // namespace app

@@ -6,8 +6,8 @@ namespace app {
 
 EnableState enableState(const EnableInputs& in) {
     const bool setIsFree = in.connected && in.setSelected && !in.activityRunsOnSet;
-    // Under central management a set made by the policy can only be backed up, any other set can
-    // only be deleted.
+    // Under central management, a set created by the policy can only be backed up, any other set
+    // can only be deleted.
     const bool mayBackUp = !in.centrallyManaged || in.setCreatedByPolicy;
     const bool mayDelete = !in.centrallyManaged || !in.setCreatedByPolicy;
 

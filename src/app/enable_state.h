@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-/// What the user may do in the main window, worked out in one place from what is known.
+/// What the user can do in the main window, computed in one place from the known facts.
 namespace app {
 
-/// The facts about the selected set are false when no set is selected.
+/// The facts about the selected set are false if no set is selected.
 struct EnableInputs {
     bool connected = false;
     bool activitySelected = false;

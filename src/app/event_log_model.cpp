@@ -70,7 +70,7 @@ QString categoryLabel(const R& record) {
     return number < categories.size() ? EventLogModel::tr(categories[number]) : unknownLabel();
 }
 
-/// Large numbers are codes of the operating system, which people know in hexadecimal.
+/// Large numbers are operating system codes, which users know in hexadecimal.
 QString eventNumberText(const R& record) {
     if (record.event_id <= 0xffffff)
         return ui::numberText(record.event_id);
@@ -83,7 +83,7 @@ constexpr LabelKey<R> categoryKey{
     [](const R& record) { return static_cast<std::int32_t>(record.category); }, categoryLabel};
 
 Cell numberCell(const R& record) {
-    // Texts in hexadecimal are few, and the same come again.
+    // There are few different hexadecimal texts.
     return record.event_id <= 0xffffff ? Cell(CellNumber{record.event_id})
                                        : Cell(CellLabel{record.event_id});
 }

@@ -13,7 +13,7 @@ public:
 
     explicit EventLogModel(QObject* parent = nullptr);
 
-    /// Asks the agent. Either the times, in seconds since 1970 UTC, or the activity count; what
-    /// doesn't is 0. Raises what the call raises, and then leaves the rows as they were.
+    /// Queries the agent, either by the times, in seconds since 1970 UTC, or by the activity; the
+    /// unused values are 0. Throws what the call throws, leaving the rows unchanged.
     void refresh(std::int32_t from, std::int32_t to, std::int32_t activityId);
 };

@@ -36,7 +36,7 @@ EventLogViewer::~EventLogViewer() = default;
 void EventLogViewer::setUpTable() {
     QTableView& table = *ui_->tableEvents;
     ui::setUpTable(table, model_);
-    // The time of day stands at the end, and tells events apart better than the month does.
+    // The time of day is at the end, and distinguishes events better than the month does.
     table.setItemDelegateForColumn(EventLogModel::time,
                                    new ui::FittingTextDelegate(&table, Qt::ElideMiddle));
     table.sortByColumn(EventLogModel::time, Qt::DescendingOrder);
@@ -47,7 +47,7 @@ void EventLogViewer::setUpTable() {
 
 void EventLogViewer::showFor(const QDateTime& from, const QDateTime& to, std::int32_t activityId) {
     {
-        // The whole filter is one question to the agent.
+        // The whole filter is one request to the agent.
         const QSignalBlocker quietFrom(ui_->timeFrom);
         const QSignalBlocker quietTo(ui_->timeTo);
         const QSignalBlocker quietId(ui_->spinActivityID);

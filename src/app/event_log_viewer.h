@@ -15,19 +15,18 @@ namespace Ui {
 class EventLogViewer;
 }
 
-/// The agent's event log, filtered by time or by activity. Each change of the filter asks the
-/// agent anew; a failure is shown, and the table keeps its rows.
+/// The agent's event log, filtered by time or by activity. Each change of the filter queries the
+/// agent again; a failure is shown, and the table keeps its rows.
 class EventLogViewer : public QDialog {
     Q_OBJECT
 public:
     explicit EventLogViewer(QWidget* parent = nullptr);
     ~EventLogViewer() override;
 
-    /// Sets the filter: the activity, or with id 0 the times. Asks the agent once.
+    /// Sets the filter: the activity, or for id 0 the times. Queries the agent once.
     void showFor(const QDateTime& from, const QDateTime& to, std::int32_t activityId);
 
-    /// The names of the sets that activities were for, by the ids of the activities, for the
-    /// search.
+    /// Sets the names of the activities' backup sets, by activity id, for the search.
     void setNamesByActivity(insight::SetNames names);
 
     EventLogModel& model() { return model_; }

@@ -8,14 +8,14 @@
 
 namespace app {
 
-/// One line on the health of all sets, for the status bar; a click asks for more.
+/// A one-line health summary of all sets for the status bar; a click requests details.
 class HealthField : public QToolButton {
     Q_OBJECT
 public:
     explicit HealthField(QWidget* parent = nullptr);
 
     void showCount(const insight::HealthCount& count);
-    /// There is no session.
+    /// For use without a session.
     void showNothing();
 
 protected:

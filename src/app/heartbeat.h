@@ -11,26 +11,25 @@ class QObject;
 
 namespace app {
 
-/// Posts an event every 5 seconds from a thread of its own, the first one after 4 seconds. The
-/// thread does nothing else.
+/// Posts an event every 5 seconds from a thread of its own, the first one after 4 seconds.
 class Heartbeat {
 public:
-    /// Lets one second pass; the only place where the thread may be interrupted.
+    /// Waits for one second; the only point where the thread may be interrupted.
     using Sleep = std::function<void()>;
     static void sleepOneSecond();
 
-    /// `receiver` gets the events, and has to outlive the thread.
+    /// `receiver` gets the events, and must outlive the thread.
     explicit Heartbeat(QObject& receiver, Sleep sleep = sleepOneSecond);
     ~Heartbeat();
     Heartbeat(const Heartbeat&) = delete;
     Heartbeat& operator=(const Heartbeat&) = delete;
 
-    /// The type of the events, which is no one else's.
+    /// The unique type of the events.
     int eventType() const { return eventType_; }
 
     /// Nothing, once it was stopped.
     void start();
-    /// Ends the thread. What has been posted stays in the receiver's queue.
+    /// Ends the thread. Posted events stay in the receiver's queue.
     void stop();
 
 private:

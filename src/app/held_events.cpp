@@ -50,8 +50,8 @@ bool isInput(QEvent::Type type) {
     }
 }
 
-/// What a window hands on to its widgets also when it is refused: it has to know that no button of
-/// the mouse is down any more, and where the mouse is.
+/// Events that a window passes on to its widgets even if they are refused: it must know when the
+/// mouse buttons are released, and where the mouse is.
 bool keepsTrack(QEvent::Type type) {
     return type == QEvent::MouseButtonRelease || type == QEvent::MouseMove;
 }
@@ -64,7 +64,7 @@ QWidget* topLevelOf(const QObject& window) {
     return found == all.end() ? nullptr : *found;
 }
 
-/// The widget that input to a window is for.
+/// The widget to which input to a window is addressed.
 QWidget* targetIn(QWidget& window, const QEvent& event) {
     if (QWidget* popup = QApplication::activePopupWidget())
         return popup;
@@ -82,7 +82,7 @@ QWidget* targetIn(QWidget& window, const QEvent& event) {
     return focus ? focus : &window;
 }
 
-/// What a key or a click in a menu would trigger; null for nothing.
+/// The action that a key or a click in a menu would trigger, or null.
 QAction* triggeredIn(const QMenu& menu, const QEvent& event) {
     if (event.type() == QEvent::MouseButtonRelease)
         return menu.actionAt(static_cast<const QMouseEvent&>(event).pos());
@@ -116,7 +116,7 @@ bool isTimerOfProgram(const QObject& receiver) {
     return qobject_cast<const QTimer*>(&receiver) || receiver.inherits("QSingleShotTimer");
 }
 
-/// Has a tree lay itself out at once, perhaps in the middle of a layout that fetches rows.
+/// Makes a tree lay itself out immediately, perhaps during a layout that fetches rows.
 bool laysOutTree(const QObject& receiver, QEvent::Type type) {
     return (type == QEvent::StyleChange || type == QEvent::FontChange) &&
            qobject_cast<const QTreeView*>(&receiver);
@@ -151,7 +151,7 @@ bool HeldEvents::eventFilter(QObject* watched, QEvent* event) {
         holdOnce(*watched, type);
         return true;
     }
-    // It fires again.
+    // Timers fire again.
     if (type == QEvent::Timer)
         return isTimerOfProgram(*watched);
     if (type == QEvent::Close && event->spontaneous()) {
@@ -190,7 +190,7 @@ bool HeldEvents::isAdmitted(QWidget& target, const QEvent& event) const {
         const auto* key = dynamic_cast<const QKeyEvent*>(&event);
         return !key || key->key() != Qt::Key_Escape;
     }
-    // Where a desktop has the tray's icon as a window, it is of this class.
+    // On desktops where the tray icon is a window, this is its class.
     if (target.inherits("QSystemTrayIconSys") || qobject_cast<QMenuBar*>(&target))
         return true;
     const auto* menu = qobject_cast<QMenu*>(&target);

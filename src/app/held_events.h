@@ -18,24 +18,24 @@ class QWidget;
 
 namespace app {
 
-/// What may go on while a call is waited for.
+/// What is allowed during a call.
 struct WaitRules {
-    /// Posted events that lead to calls. They are made up for once afterwards.
+    /// Posted events that lead to calls. Each type is redelivered once afterwards.
     std::set<QEvent::Type> heldTypes;
-    /// What menus may still trigger.
+    /// Actions that menus may still trigger.
     std::vector<QPointer<QAction>> admittedActions;
 };
 
-/// For as long as it lives, keeps from the program all events that could lead to a call, and lets
-/// pass those that it needs to paint, to move and to end. For a nested event loop.
+/// For its lifetime, blocks all events that could lead to a call, and passes those that the program
+/// needs to paint, to move windows and to quit. For a nested event loop.
 ///
-/// Input is refused, except that for `panel`, for the tray and, through menus, for the admitted
-/// actions. What is held instead is delivered later, once this object has gone: the rules' own
-/// posted events, deletions, and the release of what was pressed before.
+/// Input is refused, except for `panel`, for the tray and, through menus, for the admitted actions.
+/// The following are held and delivered after this object is destroyed: the posted events of the
+/// rules, deletions, and the release of keys and buttons pressed before.
 class HeldEvents : public QObject {
     Q_OBJECT
 public:
-    /// `escape` is run for the Esc key. The rules and the panel have to outlive this object.
+    /// `escape` runs on the Esc key. The rules and the panel must outlive this object.
     HeldEvents(const WaitRules& rules, const QWidget& panel, std::function<void()> escape);
     ~HeldEvents() override;
 
@@ -59,7 +59,7 @@ private:
     std::vector<Held> held_;
     std::set<std::pair<QObject*, QEvent::Type>> heldOnce_;
     std::vector<QPointer<QObject>> doomed_;
-    std::set<int> pressedKeys_; ///< since this object lives
+    std::set<int> pressedKeys_; ///< during the lifetime of this object
 };
 
 } // namespace app

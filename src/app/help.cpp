@@ -32,7 +32,7 @@ QUrl helpUrl(const QString& language) {
 }
 
 bool openGuide(const QUrl& url) {
-    // A desktop takes the address of a missing file without a complaint.
+    // Desktops accept the URL of a missing file without an error.
     if (url.isLocalFile() && !QFile::exists(url.toLocalFile()))
         return false;
     return QDesktopServices::openUrl(url);

@@ -6,19 +6,19 @@
 #include <QStringList>
 #include <QUrl>
 
-/// The user guide: where it is, and how it opens.
+/// Finding and opening the user guide.
 namespace app {
 
 /// The guide in `language`, a code as in "--lang" or empty for English: "user-guide.<language>.pdf"
-/// or else "user-guide.pdf" in the first of `folders` that has it. Without any guide the English
-/// one in the last folder, for a message to name. `folders` must not be empty.
+/// or else "user-guide.pdf" in the first of `folders` that has it. If there is no guide, returns
+/// the English one in the last folder, to be named in a message. `folders` must not be empty.
 QUrl guideIn(const QStringList& folders, const QString& language);
 
-/// The address that the build names, if it does, or else the guide in the folder "doc" beside the
-/// program or in the folder of the installation.
+/// The URL set by the build, if any, or else the guide in the folder "doc" beside the program or in
+/// the installation folder.
 QUrl helpUrl(const QString& language);
 
-/// False if `url` is a file that is missing, or if the desktop has no program for it.
+/// Returns false if `url` is a missing file, or if the desktop has no program for it.
 bool openGuide(const QUrl& url);
 
 } // namespace app

@@ -14,12 +14,12 @@ class ClientConnection;
 
 namespace app {
 
-/// Whether somebody has to tell the agent about the customer first: it says that it is new, or it
-/// knows too little of the customer. One that keeps nothing about customers needs to know nothing.
+/// Whether the agent needs customer information first: it reports that it is new, or lacks details
+/// about the customer. An agent that doesn't store them needs none.
 bool needsInitialConfiguration(const std::vector<hessiancln::tarn_client_info>& agent,
                                const std::optional<hessiancln::user_info>& customer);
 
-/// The same, asked from the agent. Raises what the calls raise.
+/// Likewise, with data requested from the agent. Throws what the calls throw.
 bool asksForInitialConfiguration(hessiancln::ClientConnection& connection);
 
 } // namespace app

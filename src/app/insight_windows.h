@@ -24,47 +24,47 @@ namespace app {
 
 class HealthField;
 
-/// What answers the questions of people about their data: the field in the status bar and the
-/// windows for the health of sets and for the search for files, and the news of how activities
-/// ended. The windows are made when they are first opened.
+/// Insight into the user's data: the field in the status bar, the windows for the health of sets
+/// and for the file search, and notifications about how activities ended. The windows are created
+/// when they are first opened.
 class InsightWindows : public QObject {
     Q_OBJECT
 public:
-    /// The window, its status bar and the search in its log have to outlive this.
+    /// The window, its status bar and the search in its log must outlive this.
     InsightWindows(QWidget& window, QStatusBar& statusBar, LogSearchBar& logSearch,
                    BackupHealthWindow::AllowedOf allowedOf);
     ~InsightWindows() override;
 
-    /// What each heartbeat brings, the activities first.
+    /// The data read on each heartbeat; pass the activities first.
     void takeActivities(const std::vector<hessiancln::activity_log_info>& log,
                         const std::vector<hessiancln::running_activity_info>& running);
     void takeSets(std::vector<hessiancln::backup_set_info> sets);
-    /// The session has ended.
+    /// Call when the session has ended.
     void clear();
     void scheduleChanged(std::int32_t setId) { monitor_.scheduleChanged(setId); }
-    /// These are no longer running, and their rows in the log are waited for.
+    /// These activities are no longer running; waits for their rows in the log.
     void watchEnds(const QList<hessiancln::running_activity_info>& disappeared);
 
-    /// The names of the sets that the activities were for, by the ids of the activities.
+    /// The names of the activities' backup sets, by activity id.
     insight::SetNames
     namesByActivity(const std::vector<hessiancln::activity_log_info>& log,
                     const std::vector<hessiancln::running_activity_info>& running) const;
 
     void openHealth();
-    /// With this set chosen; -1 for all.
+    /// Opens the window with this set selected; -1 for all sets.
     void openFindFile(std::int32_t setId);
 
-    /// Sets all texts in the language of now.
+    /// Sets all texts in the current language.
     void setTexts();
 
 signals:
     void backupRequested(std::int32_t setId);
     void syncRequested(std::int32_t setId);
-    /// Those of the activity, or without one those of the last days.
+    /// Requests the events of the activity, or of the last days without one.
     void eventsRequested(const std::optional<hessiancln::activity_log_info>& activity);
     void restoreRequested(std::int32_t setId, const QStringList& path,
                           std::optional<std::int32_t> upTo);
-    /// An activity that is news has ended; the text says how.
+    /// An activity worth reporting has ended; the text describes the result.
     void activityEnded(const hessiancln::activity_log_info& ended, const QString& text);
 
 private:

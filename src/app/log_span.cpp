@@ -5,7 +5,7 @@
 namespace app {
 
 LogSpan yesterdayAndToday(const QDate& today) {
-    // Not every day has a midnight: some zones put the clock forward at that hour.
+    // Not every day has a midnight: in some time zones clocks are set forward at that hour.
     return {today.addDays(-1).startOfDay(), today.endOfDay()};
 }
 

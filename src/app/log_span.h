@@ -6,13 +6,13 @@
 
 namespace app {
 
-/// What a log shows until somebody asks for something else. Local times.
+/// The default time span of a log. Local times.
 struct LogSpan {
     QDateTime from;
     QDateTime to;
 };
 
-/// From the first moment of the day before `today` to the last one of `today`.
+/// From the first moment of the day before `today` to the last moment of `today`.
 LogSpan yesterdayAndToday(const QDate& today);
 
 } // namespace app

@@ -44,7 +44,7 @@ LoginCheck::LoginCheck(QWidget* parent)
     ui_->groupLoginInfo->setEnabled(false);
     if (!session::integratedLogonAvailable())
         withoutIntegratedLogon();
-    // Last, since a disabled field doesn't take the focus.
+    // Last, because a disabled field doesn't take the focus.
     if (!ui_->lineEditUserName->text().isEmpty())
         ui_->lineEditPassword->setFocus();
     fitToTexts();
@@ -79,7 +79,7 @@ void LoginCheck::withoutIntegratedLogon() {
     ui_->chkSSPILogin->hide();
 }
 
-/// The told size is that of the English texts in a common font. It grows where they don't fit.
+/// The specified size fits the English texts in a common font. Grows where texts don't fit.
 void LoginCheck::fitToTexts() {
     const int button = std::max(ui_->buttonLogin->minimumSizeHint().width(),
                                 ui_->buttonQuit->minimumSizeHint().width());

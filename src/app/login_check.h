@@ -13,21 +13,21 @@ namespace Ui {
 class LoginCheck;
 }
 
-/// The login dialog. It logs in by itself, and stays open until that has worked or the user gives
-/// up.
+/// The login dialog. It performs the login, and stays open until that has succeeded or the user
+/// cancels.
 ///
-/// Its result is the reverse of Qt's habit: 1 is a cancel, 0 everything else. Esc and the title
-/// bar's close button give 0 as well, so whoever has to know asks `session::connectedToAgent`.
+/// Its result is the reverse of Qt's convention: 1 is a cancel, 0 everything else. Esc and the
+/// title bar's close button return 0 as well, so callers must check `session::connectedToAgent`.
 class LoginCheck : public QDialog {
     Q_OBJECT
 public:
-    /// Asks the agent on this machine for its domains, and so may wait for a transport's time-out.
+    /// Asks the agent on this machine for its domains, which may take until a transport's time-out.
     explicit LoginCheck(QWidget* parent = nullptr);
     ~LoginCheck() override;
 
-    /// The host that the fields name, without scheme and port.
+    /// The host in the fields, without scheme and port.
     QString host() const;
-    /// The user that the fields name, with the domain if one is wanted.
+    /// The user in the fields, with the domain if one is used.
     QString user() const;
 
 public slots:

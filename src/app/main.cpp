@@ -15,7 +15,7 @@ namespace {
 
 constexpr int answerTime = 5000;
 
-/// What has to be set before the application object exists.
+/// Settings that must be made before the application object exists.
 void prepareApplication() {
     platform::fillStandardStreams();
     platform::allowSetForeground();

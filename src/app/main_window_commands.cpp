@@ -65,7 +65,7 @@ void SimpleGUIMainWindow::commandSelectedSet(const QString& errorTitle, ui::Curs
         ui::showError(this, tr("Error"), tr("No backup set selected."));
         return;
     }
-    // A copy: the card may go while a wizard is open.
+    // A copy: the card may be deleted while a wizard is open.
     const hessiancln::backup_set_info set = card->record();
     ui::remoteAction(*this, errorTitle, cursor, [&] { command(set); });
 }
@@ -91,7 +91,7 @@ void SimpleGUIMainWindow::follow(const Started& activity, const hessiancln::back
     if (!activity)
         return;
     refreshAll();
-    // Where the refresh met a failure, that is the news.
+    // A failure of the refresh takes precedence.
     if (session::connectedToAgent() && refreshFailure_.isEmpty())
         showStatus(startedText(status, set));
 }

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
-// The main window's slots that open a dialog or a page of the menus Configuration and Help.
+// The main window's slots that open dialogs or pages of the menus Configuration and Help.
 #include <QDesktopServices>
 #include <QUrl>
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
-// A session of the main window: how it begins, what the window learns in it, and how it ends.
+// The main window's session: how it begins, what the window reads in it, and how it ends.
 #include <utility>
 
 #include <QCoreApplication>
@@ -64,7 +64,7 @@ void SimpleGUIMainWindow::showSession(const QString& server, const QString& user
 void SimpleGUIMainWindow::showStatus(const QString& text) {
     status_ = text;
     ui_->statusbar->showMessage(text);
-    // What comes next may be a call that blocks.
+    // The next step may be a blocking call.
     ui_->statusbar->repaint();
 }
 
@@ -139,7 +139,7 @@ void SimpleGUIMainWindow::refreshAll() {
         RefreshTarnClientInfo();
         RefreshActivityLogs();
         refreshBackupSets();
-        // A failure that is over isn't news any more.
+        // Clear a failure that is over.
         if (!before.isEmpty() && status_ == before)
             showStatus({});
     } catch (const std::exception& error) {
@@ -179,14 +179,14 @@ void SimpleGUIMainWindow::refreshBackupSets() {
         return;
     connection_->listed(sets_->count());
     insight_->takeSets(sets_->records());
-    // Last, when all rows are what they will be: an error box lets the next heartbeat in.
+    // Last, when all rows are final: an error box lets the next heartbeat run.
     showSetDetails();
     updateEnabling();
 }
 
 void SimpleGUIMainWindow::showSetDetails() {
     const BackupSetViewItem* card = selectedSetItem();
-    // As rows go one by one with their session, the view may select another one for a moment.
+    // While rows are removed at the end of a session, the view may briefly select another one.
     if (card && session::connectedToAgent())
         details_->show(card->record().id);
     else

@@ -10,7 +10,7 @@
 
 namespace app {
 
-/// A backup set of the session, never null. Raises what the call raises, and `std::runtime_error`
+/// A backup set of the session, never null. Throws what the call throws, and `std::runtime_error`
 /// if the agent has no set with this id.
 boost::shared_ptr<hessiancln::BackupSet> openBackupSet(std::int32_t id);
 

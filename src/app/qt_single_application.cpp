@@ -15,18 +15,18 @@
 
 namespace {
 
-// A message is its length in UTF-8 as 4 bytes, then the text; the answer is one byte.
+// A message is its UTF-8 length in 4 bytes, then the text; the answer is one byte.
 constexpr int lengthSize = 4;
 constexpr quint32 longestMessage = 64 * 1024;
 constexpr char confirmation = '!';
 constexpr int pauseBeforeNextTry = 20;
 
-/// Whether this process is the first one. Nobody else is where no lock can be made at all.
+/// Whether this process is the first instance. If no lock can be created at all, it is.
 bool takeLock(QLockFile& lock) {
     if (lock.tryLock())
         return true;
-    // The file's text may be damaged, or name a machine that had another name. What is removed
-    // here is only a file that no living process holds.
+    // The file may be damaged, or name this machine by an old name. Only a file that isn't held by
+    // a running process is removed.
     if (lock.error() == QLockFile::LockFailedError && lock.removeStaleLockFile() && lock.tryLock())
         return true;
     return lock.error() != QLockFile::LockFailedError;
@@ -47,7 +47,7 @@ QByteArray frame(const QString& message) {
     return bytes + text;
 }
 
-/// The first instance may hold its lock and not listen yet, hence more than one try.
+/// Retries, because the first instance may hold its lock before it listens.
 bool connectUntil(QLocalSocket& socket, const QString& name, const QDeadlineTimer& deadline) {
     while (!deadline.hasExpired()) {
         socket.connectToServer(name);
@@ -58,7 +58,7 @@ bool connectUntil(QLocalSocket& socket, const QString& name, const QDeadlineTime
     return false;
 }
 
-/// Whether a whole message has come; if so, it is taken from the socket into `message`.
+/// Whether a complete message has arrived; if so, moves it from the socket to `message`.
 bool takeMessage(QLocalSocket& socket, QString& message) {
     if (socket.bytesAvailable() < lengthSize)
         return false;
@@ -81,7 +81,7 @@ QtSingleApplication::QtSingleApplication(int& argc, char** argv)
     : QApplication(argc, argv)
     , socketName_(inSession(QStringLiteral("tarn-mobile-user")))
     , lock_(socketName_ + QStringLiteral(".lock")) {
-    // However old the lock is, the system doesn't let go of it while its process lives.
+    // However old the lock is, the system doesn't release it while its process lives.
     first_ = takeLock(lock_);
     if (first_)
         listen();
@@ -103,8 +103,8 @@ bool QtSingleApplication::sendMessage(const QString& message, int timeout) {
 
 bool QtSingleApplication::event(QEvent* event) {
     if (event->type() == QEvent::Quit) {
-        // The desktop's session ends. Qt would close all windows first, and stay for one that only
-        // hides.
+        // The desktop session ends. Qt would close all windows first, and keep running because of
+        // one that only hides.
         quit();
         return true;
     }
@@ -114,7 +114,7 @@ bool QtSingleApplication::event(QEvent* event) {
 void QtSingleApplication::listen() {
     connect(&server_, &QLocalServer::newConnection, this, &QtSingleApplication::receive);
     server_.setSocketOptions(QLocalServer::UserAccessOption);
-    // We hold the lock, so a socket that stands there is what a crash has left.
+    // This process holds the lock, so an existing socket was left by a crash.
     QLocalServer::removeServer(socketName_);
     server_.listen(socketName_);
 }

@@ -7,22 +7,22 @@
 #include <QLockFile>
 #include <QString>
 
-/// The application object of a program that runs once per user and session. The first process to
-/// start listens for messages of later ones; which is the first, a lock file of the session
-/// decides, so that a crash leaves nothing behind that would block the next start.
+/// The application object of a program that runs once per user and session. The first process
+/// listens for messages of later ones; a lock file of the session determines which is first, so
+/// that the leftovers of a crash can't block the next start.
 class QtSingleApplication : public QApplication {
     Q_OBJECT
 public:
     QtSingleApplication(int& argc, char** argv);
 
-    /// Gives the message to the first instance. True when that one has confirmed it within the
-    /// time-out, in milliseconds; false at once if this process is the first.
+    /// Sends the message to the first instance. True if it confirms within the time-out, in
+    /// milliseconds; immediately false if this process is the first.
     bool sendMessage(const QString& message, int timeout = 5000);
 
     bool event(QEvent* event) override;
 
 signals:
-    /// Another process has started and sent this. The text may be empty.
+    /// Another process was started and sent this. The text may be empty.
     void messageReceived(const QString& message);
 
 private:

@@ -47,7 +47,7 @@ constexpr std::array<RecordColumn<R>, M::columns> columnTable{{
 }};
 static_assert(ui::areInOrder(columnTable));
 
-/// Text of the agent inside a rich text.
+/// Converts text of the agent for use in rich text.
 QString rich(const std::string& text) {
     return session::fromWire(text).toHtmlEscaped();
 }

@@ -11,35 +11,35 @@
 
 Q_DECLARE_METATYPE(hessiancln::running_activity_info)
 
-/// What the agent is doing now. Tells what has begun and what has ended between two refreshes.
+/// The agent's running activities. Reports what has started and ended between two refreshes.
 class RunningActivitiesModel : public models::RecordTableModel<hessiancln::running_activity_info> {
     Q_OBJECT
 public:
     enum Column { type, startTime, userName, progress, description, columns };
 
-    /// Gives seconds since 1970 UTC.
+    /// Returns seconds since 1970 UTC.
     using Clock = std::function<std::int64_t()>;
     static std::int64_t systemClock();
 
     explicit RunningActivitiesModel(QObject* parent = nullptr, Clock clock = systemClock);
 
-    /// Asks the agent. Raises what the call raises, and then leaves everything as it was.
+    /// Queries the agent. Throws what the call throws, leaving everything unchanged.
     void refresh();
 
-    /// Takes a list from the agent: compares it with the one before, then replaces the rows. The
-    /// first list after a `clear` isn't compared.
+    /// Compares a list from the agent with the previous one, then replaces the rows. The first list
+    /// after a `clear` isn't compared.
     void setActivities(std::vector<hessiancln::running_activity_info> activities);
 
-    /// Also forgets what was running, so that a session that has gone isn't reported as ended work.
+    /// Also forgets what was running, so that a lost session isn't reported as finished activities.
     void clear() override;
 
     bool hasActivityOnSet(std::int32_t setId) const;
 
-    /// The progress also says how fast it is.
+    /// The progress text includes the speed.
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 
 signals:
-    /// At least one of the lists has an entry. Sent while the rows are still the old ones.
+    /// At least one of the lists has an entry. Emitted before the rows are replaced.
     void activityChangeDetected(QList<hessiancln::running_activity_info> appeared,
                                 QList<hessiancln::running_activity_info> disappeared);
 

@@ -22,9 +22,9 @@ using ActivityIds = std::set<std::int32_t>;
 
 ActivityIds idsOf(const std::vector<hessiancln::running_activity_info>& activities);
 
-/// What has begun and what has ended since the list `before`, when `known` were running. What is
-/// in `now` and began 30 seconds ago or earlier, by `clock`, hasn't just begun: this program or
-/// the list was late. Times are seconds since 1970 UTC.
+/// What has started and ended since the list `before`, when `known` were running. An activity in
+/// `now` that started 30 seconds ago or earlier, by `clock`, isn't new: this program or the list
+/// was late. Times are seconds since 1970 UTC.
 RunningActivityChanges
 compareRunningActivities(const std::vector<hessiancln::running_activity_info>& now,
                          const std::vector<hessiancln::running_activity_info>& before,

@@ -15,7 +15,7 @@ using hessiancln::running_activity_info;
 
 namespace {
 
-/// Bytes count for more than files, as they take the time.
+/// Bytes weigh more than files because they take up most of the time.
 constexpr double weightOfSize = 0.8;
 constexpr double weightOfFiles = 0.2;
 
@@ -35,8 +35,8 @@ bool hasMovedData(const running_activity_info& activity) {
     return activity.files_processed != 0 || activity.size_processed != 0;
 }
 
-/// None while it isn't known how much is left. The sum is taken in floating point, as an agent
-/// may send numbers that don't add up in theirs.
+/// No value while the remaining amount is unknown. The sum is in floating point, because an agent's
+/// numbers may overflow an integer sum.
 std::optional<double> part(double processed, double left) {
     if (left == 0)
         return std::nullopt;

@@ -10,10 +10,10 @@
 
 namespace app {
 
-/// How far an activity is, in words: its status and what lies before it, or what it has done.
+/// Progress of an activity as text: its status and remaining work, or the work done.
 QString progressText(const hessiancln::running_activity_info& activity);
 
-/// How far an activity is, from 0 to 1; none while that can't be told.
+/// Progress of an activity from 0 to 1; no value while unknown.
 std::optional<double> progressOf(const hessiancln::running_activity_info& activity);
 
 } // namespace app

@@ -20,7 +20,7 @@ namespace {
 
 constexpr int pictureSize = 16;
 
-/// What is laid out in the dialog. A wizard has all of its parts in one widget.
+/// The widget with the dialog's layout. A wizard has all of its parts in one widget.
 QWidget& contentOf(QDialog& dialog) {
     if (qobject_cast<QWizard*>(&dialog))
         for (QWidget* part : dialog.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
@@ -84,14 +84,14 @@ void SessionEndedLine::setText(const QString& text) {
     label_.setText(text);
     setAccessibleName(text);
     setToolTip(ui::plainToolTip(text));
-    // Only what is shown knows its fonts.
+    // Fonts are known only for visible widgets.
     show();
     makeRoom();
     place();
     raise();
 }
 
-/// Once, for the width that the dialog has; a text that would need more lines later is cut.
+/// Done once, for the dialog's current width; a text that needs more lines later is cut off.
 void SessionEndedLine::makeRoom() {
     makeRoom(heightForWidth(dialog_.width()));
 }

@@ -9,17 +9,16 @@ class QLabel;
 
 namespace app {
 
-/// A line at the top of an open dialog or wizard, which says that the session has ended. The dialog
-/// grows by it; all else in there stays as it is.
+/// A line at the top of an open dialog or wizard saying that the session has ended. The dialog
+/// grows by its height; everything else stays as it is.
 class SessionEndedLine : public QFrame {
     Q_OBJECT
 public:
-    /// Gives each dialog and wizard on the screen such a line, or a new text to the one that it
-    /// has. Boxes that only say something get none.
+    /// Adds such a line to each visible dialog and wizard, or updates the text of an existing one.
+    /// Plain message boxes get none.
     static void showInOpenDialogs(const QString& text);
 
-    /// A new session has begun: takes the line from windows that go on with it, as those that
-    /// aren't modal do.
+    /// Removes the line from windows that stay open in a new session, that is, from non-modal ones.
     static void removeFromOpenWindows();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -34,7 +33,7 @@ private:
 
     QDialog& dialog_;
     QLabel& label_;
-    int room_ = 0; ///< that the dialog has made for the line
+    int room_ = 0; ///< height added to the dialog for the line
 };
 
 } // namespace app

@@ -12,14 +12,15 @@ class QPushButton;
 
 namespace app {
 
-/// Says in the middle of a list that the session has ended and why, with a button to connect.
+/// A notice in the middle of a list saying that the session has ended and why, with a button to
+/// connect.
 class SessionEndedNotice : public QWidget {
     Q_OBJECT
 public:
-    /// Belongs to `list`, and is hidden.
+    /// Owned by `list`, initially hidden.
     explicit SessionEndedNotice(QAbstractItemView& list);
 
-    /// Appears, unless the session lasts.
+    /// Appears if there is no session.
     void showEnd(const ConnectionState& state);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

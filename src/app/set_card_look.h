@@ -9,12 +9,12 @@
 
 namespace app {
 
-/// How the state of a backup set shows on its card.
+/// How a card shows the state of its backup set.
 struct SetCardLook {
     QString icon;    ///< resource
-    QString overlay; ///< resource; if there is one, the icon is greyed under it
+    QString overlay; ///< resource; if set, the icon is greyed under it
     QString styleSheet;
-    bool needsEditing = false; ///< a recovered set, which the tool tip explains
+    bool needsEditing = false; ///< a recovered set; the tool tip explains it
 
     bool operator==(const SetCardLook&) const = default;
 };

@@ -36,7 +36,7 @@ SetDetailsPanel::SetDetailsPanel(QWidget& page, const Labels& labels, Source sou
     , source_(std::move(source)) {}
 
 void SetDetailsPanel::show(std::int32_t setId) {
-    // While a box shows a failure, each heartbeat would pile another one on top of it.
+    // While a box shows a failure, each heartbeat would stack another one on top.
     if (reading_)
         return;
     const QScopedValueRollback<bool> reading(reading_, true);

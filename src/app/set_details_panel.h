@@ -14,11 +14,11 @@ class QWidget;
 
 namespace app {
 
-/// The panel beside the list, which shows how the selected set is backed up.
+/// The panel beside the list that shows the backup settings of the selected set.
 class SetDetailsPanel {
     Q_DECLARE_TR_FUNCTIONS(SimpleGUIMainWindow)
 public:
-    /// What the panel is made of. Its texts are in `SetDetails`.
+    /// The widgets of the panel. `SetDetails` has their texts.
     struct Labels {
         QLabel& valLastBackup;
         QLabel& valFileGens;
@@ -31,20 +31,20 @@ public:
         hessiancln::activity_log_info lastBackup;
         hessiancln::backup_set_overview_info overview;
     };
-    /// Asks the agent about a set; may raise what is derived from `std::exception`.
+    /// Queries the agent about a set; may throw exceptions derived from `std::exception`.
     using Source = std::function<Facts(std::int32_t setId)>;
     static Facts factsOfAgent(std::int32_t setId);
 
-    /// `page` and the labels have to outlive the panel; error boxes belong to the page's window.
+    /// `page` and the labels must outlive the panel; error boxes belong to the page's window.
     SetDetailsPanel(QWidget& page, const Labels& labels, Source source = factsOfAgent);
 
-    /// Shows a set. A failure is shown in a box, and leaves the texts as they were. Does nothing
-    /// while such a box is open.
+    /// Shows a set. A failure is shown in a box and leaves the texts unchanged. Does nothing while
+    /// such a box is open.
     void show(std::int32_t setId);
-    /// Empties the texts.
+    /// Clears the texts.
     void clear();
 
-    /// Whether the set that was shown last has files on-line.
+    /// Whether the last shown set has files on-line.
     bool hasBackedUpData() const { return hasBackedUpData_; }
 
 private:

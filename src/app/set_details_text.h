@@ -9,7 +9,7 @@
 
 namespace app {
 
-/// What the panel beside the list says about a backup set; named after its labels.
+/// Texts of the panel beside the list about a backup set; named after its labels.
 struct SetDetails {
     QString valLastBackup;
     QString valFileGens;

@@ -96,7 +96,7 @@ bool SimpleGUIMainWindow::event(QEvent* event) {
         return true;
     }
     const bool handled = QMainWindow::event(event);
-    // Leaving a menu empties the status bar.
+    // Leaving a menu clears the status bar.
     if (event->type() == QEvent::StatusTip && static_cast<QStatusTipEvent*>(event)->tip().isEmpty())
         ui_->statusbar->showMessage(status_);
     return handled;
@@ -113,7 +113,7 @@ bool SimpleGUIMainWindow::eventFilter(QObject* watched, QEvent* event) {
 
 void SimpleGUIMainWindow::changeEvent(QEvent* event) {
     if (event->type() == QEvent::LanguageChange) {
-        // The form knows neither the title of a session nor the branding.
+        // The form contains neither the title of a session nor the branding.
         const QString title = windowTitle();
         ui_->retranslateUi(this);
         setWindowTitle(title);

@@ -43,17 +43,16 @@ struct backup_set_info;
 struct running_activity_info;
 } // namespace hessiancln
 
-/// The program's one top-level window: the backup sets of the agent that the session is with, its
-/// activities, and the commands on them. It stores no state of the connection; each look at it
-/// asks the session.
+/// The program's one top-level window: the backup sets of the connected agent, its activities, and
+/// the commands on them. It stores no connection state; it always asks the session.
 ///
-/// What has a state of its own is a class beside it: the list of cards, the details of the selected
-/// set, the tables of activities, the presence in the tray, the health of sets and the heartbeat.
-/// None of them knows another one; the window connects them.
+/// Everything with its own state is a class beside it: the list of cards, the details of the
+/// selected set, the tables of activities, the presence in the tray, the health of sets and the
+/// heartbeat. They don't know each other; the window connects them.
 ///
-/// Upon each heartbeat it asks the agent for everything again. That is the only way in which it
-/// learns anything. Heartbeats arrive in the event loop of an open dialog too, so nothing here may
-/// hold on to a card or a row over one.
+/// On each heartbeat it queries the agent for everything again. There are no other updates.
+/// Heartbeats also arrive in the event loop of an open dialog, so no code here may hold on to a
+/// card or a row across one.
 ///
 /// Closing the window only hides it in the tray.
 class SimpleGUIMainWindow : public QMainWindow {
@@ -67,32 +66,32 @@ public:
     /// Ends the heartbeat thread. Events that are still in the queue die with the window.
     ~SimpleGUIMainWindow() override;
 
-    /// Logs in: at start-up to the agent on this machine, without asking; otherwise by the login
-    /// dialog. False if that failed or was cancelled. True doesn't say that there is a session;
-    /// `session::connectedToAgent` does.
+    /// Logs in: at start-up to the agent on this machine, without asking; otherwise through the
+    /// login dialog. False if that failed or was cancelled. True doesn't imply that there is a
+    /// session; check `session::connectedToAgent`.
     bool doLogin(bool automatic);
 
-    /// Allows and forbids each command by what is known now.
+    /// Enables and disables each command according to the current state.
     void updateEnabling();
-    /// Shows what the agent has now, or nothing without a session. A failure stands in the status
-    /// bar; nothing leaves this.
+    /// Shows the agent's current data, or nothing without a session. A failure is shown in the
+    /// status bar; nothing is thrown.
     void refreshAll();
 
-    /// What a session begins with: asks for what the agent still has to be told, and offers a
-    /// first backup set.
+    /// The start of a session: requests missing configuration from the user, and offers to create
+    /// the first backup set.
     void checkInitialConfiguration();
     void offerNewBackupSet();
     void startDailyAdmin();
 
-    /// The card of the first selected set, or null. It may go with the next heartbeat.
+    /// The card of the first selected set, or null. The next heartbeat may delete it.
     BackupSetViewItem* selectedSetItem() const;
     /// Selects the set with this id as soon as the agent lists it.
     void selectSetOnceListed(std::int32_t setId);
 
-    /// Says which of the window's events and actions may go on while a call is waited for.
+    /// Registers which of the window's events and actions are allowed during a call.
     void keepAliveBy(app::CallGate& gate);
 
-    /// The type of the event that makes the window refresh itself.
+    /// The type of the event that makes the window refresh.
     int heartbeatEventType() const { return heartbeat_.eventType(); }
 
     bool event(QEvent* event) override;
@@ -169,7 +168,7 @@ private:
     void refreshBackupSets();
     void showSetDetails();
 
-    /// Runs a command on the selected set, or shows that there is none.
+    /// Runs a command on the selected set, or reports that there is no selection.
     using SetCommand = std::function<void(const hessiancln::backup_set_info& set)>;
     void commandSelectedSet(const QString& errorTitle, ui::Cursor cursor,
                             const SetCommand& command);
@@ -198,8 +197,8 @@ private:
     QMenu* setMenu_ = nullptr;                     ///< a child of the window
     app::ConnectionDisplay* connection_ = nullptr; ///< belongs to the status bar
     std::unique_ptr<app::InsightWindows> insight_;
-    app::StatusLink* statusLink_ = nullptr; ///< belongs to the status bar
+    app::StatusLink* statusLink_ = nullptr; ///< owned by the status bar
     app::Heartbeat heartbeat_;
-    QString status_;         ///< of the status bar, which shows the tip of a menu in its place
-    QString refreshFailure_; ///< of the last refresh; empty if that came through
+    QString status_;         ///< text of the status bar, which menu tips temporarily replace
+    QString refreshFailure_; ///< failure of the last refresh; empty if it succeeded
 };

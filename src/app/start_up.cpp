@@ -31,11 +31,11 @@ constexpr int timeBetweenLooks = 10;
 namespace app {
 
 void prepareToolkit() {
-    // Where the style is missing, Qt's own choice stays.
+    // If the style is missing, Qt's default stays.
     QApplication::setStyle(QStringLiteral("plastique"));
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    // 150 % is 150 %: rounded to 200 % the window doesn't fit the screen.
+    // Don't round 150 % to 200 %: the window wouldn't fit the screen.
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     // Qt's file dialog would keep the last folders in the user's home. Nothing can be written below
@@ -66,7 +66,7 @@ void installTranslation(QApplication& application, const QString& language) {
     const QString none = QLatin1String("");
     auto translator = std::make_unique<QTranslator>();
     if (!translator->load(name, none, none, none)) {
-        // There is nothing to translate these two with.
+        // No translation is available for these two texts.
         ui::showError(nullptr, QStringLiteral("Translation error"),
                       QStringLiteral("Failed to load translation data from %1").arg(name));
         return;
@@ -94,13 +94,13 @@ void showAtOnce(QWidget& window) {
 
 void logInAtStart(SimpleGUIMainWindow& window) {
     window.doLogin(true);
-    // What that returns says less than the session does.
+    // The return value says less than the session does.
     if (!session::connectedToAgent())
         window.doLogin(false);
 }
 
 int runLoggedIn(SimpleGUIMainWindow& window) {
-    // The loop forgets a quit that came before it, so the login is the first thing that it runs.
+    // The loop ignores a quit from before its start, so the login is the first thing it runs.
     QTimer::singleShot(0, &window, [&window] { logInAtStart(window); });
     return QApplication::exec();
 }

@@ -17,20 +17,20 @@ namespace app {
 /// search for OpenGL. The toolkit's own dialogs keep no settings.
 void prepareToolkit();
 
-/// The language code behind the first "--lang". Empty for the built-in English: when there is no
-/// such option, when nothing follows it, and for the code "en".
+/// The language code after the first "--lang". Empty for the built-in English: without such an
+/// option, without a value, and for the code "en".
 QString languageOf(const QStringList& arguments);
 
-/// Whether the window is to stay hidden at first: there is a tray to show it from, and one of the
-/// arguments is "--tray", as in a start by the desktop at log-on.
+/// Whether the window stays hidden at first: there is a tray to show it from, and the arguments
+/// contain "--tray", as in an autostart by the desktop.
 bool startsInTray(const QStringList& arguments,
                   bool trayAvailable = QSystemTrayIcon::isSystemTrayAvailable());
 
 /// Installs the translation file for `language` from the current directory, for the rest of the
-/// process. An error box tells when there is none, and the texts stay English.
+/// process. If it is missing, shows an error box, and the texts stay English.
 void installTranslation(QApplication& application, const QString& language);
 
-/// Takes "tarnmobile.css" from the current directory as the style sheet, if there is one.
+/// Uses "tarnmobile.css" in the current directory as the style sheet, if it exists.
 void applyStyleSheet(QApplication& application);
 
 /// Shows `window`, no larger than its screen, and returns when it has been painted, or after half a
@@ -38,12 +38,12 @@ void applyStyleSheet(QApplication& application);
 /// Input has to wait.
 void showAtOnce(QWidget& window);
 
-/// Tries the agent on this machine first, and asks the user if that gave no session. Without one
-/// in the end the window stays as it is.
+/// Tries the agent on this machine first, and asks the user if that didn't start a session. If
+/// there still is none, the window stays as it is.
 void logInAtStart(SimpleGUIMainWindow& window);
 
-/// Logs in as above, then runs the event loop until the end, and gives its status. A quit that
-/// comes while the login still asks, as from the tray, ends both.
+/// Logs in as above, then runs the event loop to its end and returns its status. A quit during the
+/// login dialog, for example from the tray, ends both.
 int runLoggedIn(SimpleGUIMainWindow& window);
 
 } // namespace app

@@ -53,7 +53,7 @@ void StatusLink::setTexts() {
 }
 
 void StatusLink::follow() {
-    // What it leads to may offer another one.
+    // A copy, because the action may offer another link.
     if (const auto follow = follow_)
         follow();
 }

@@ -12,15 +12,15 @@ class QToolButton;
 
 namespace app {
 
-/// A text in the status bar that leads somewhere: by a click on it, and for the keyboard by a
-/// button beside it, for as long as the bar shows that text.
+/// A link in the status bar: activated by a click on the text or, for keyboard users, by a button
+/// beside it, as long as the bar shows that text.
 class StatusLink : public QObject {
     Q_OBJECT
 public:
-    /// The bar owns it.
+    /// Owned by the bar.
     explicit StatusLink(QStatusBar& bar);
 
-    /// `follow` is what the text leads to, once the bar shows it.
+    /// Sets the action of the text, for when the bar shows it.
     void offer(const QString& text, std::function<void()> follow);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -5,7 +5,7 @@
 #include "api/tarn_client_info.h"
 #include "models/record_table_model.h"
 
-/// What the agent tells about itself, as names and values in its order.
+/// The agent's information about itself, as names and values in its order.
 class TarnClientInfoModel : public models::RecordTableModel<hessiancln::tarn_client_info> {
     Q_OBJECT
 public:
@@ -13,9 +13,9 @@ public:
 
     explicit TarnClientInfoModel(QObject* parent = nullptr);
 
-    /// Asks the agent, if there is a session. Raises what the call raises.
+    /// Queries the agent if there is a session. Throws what the call throws.
     void refresh();
 
-    /// Takes the list without what is meant for programs only.
+    /// Shows the list without the entries meant only for programs.
     void setInformation(std::vector<hessiancln::tarn_client_info> list);
 };

@@ -6,7 +6,7 @@
 
 namespace app {
 
-/// The program's icon in the system tray. What depends on the desktop can be replaced.
+/// The program's icon in the system tray. Desktop-dependent parts can be overridden.
 class TrayIcon : public QSystemTrayIcon {
     Q_OBJECT
 public:
@@ -16,7 +16,7 @@ public:
     virtual bool isAvailable() const;
     /// Shows a message beside the icon for 10 seconds.
     virtual void showBalloon(const QString& title, const QString& text);
-    /// The same about something that went wrong.
+    /// Likewise, as a warning.
     virtual void showWarning(const QString& title, const QString& text);
 };
 

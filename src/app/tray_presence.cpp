@@ -21,8 +21,8 @@ QString productName() {
 void letTheWindowHide() {
     // A dialog over the hidden window is the last visible one, and closing it must not quit.
     QGuiApplication::setQuitOnLastWindowClosed(false);
-    // At a log-out Qt would close the window, which only hides, and take that for a no to the end
-    // of the user's session.
+    // At logout Qt would close the window, which only hides, and treat that as a refusal to end the
+    // desktop session.
     QGuiApplication::setFallbackSessionManagementEnabled(false);
 }
 

@@ -16,42 +16,41 @@ class QWidget;
 
 namespace app {
 
-/// A window's second life in the tray: the icon with its menu, the balloons about activities, and
+/// The window's presence in the tray: the icon with its menu, the balloons about activities, and
 /// the reminder that a closed window is only hidden.
 class TrayPresence {
     Q_DECLARE_TR_FUNCTIONS(SimpleGUIMainWindow)
 public:
     static std::optional<QString> nameOnAgent(std::int32_t setId);
 
-    /// Shows the icon. From now on the end of the program is `quit`, not the last window. The
-    /// menu and its entries belong to `window`, which has to outlive this.
+    /// Shows the icon. From now on `quit` ends the program, not closing the last window. The menu
+    /// and its entries are owned by `window`, which must outlive this.
     TrayPresence(QWidget& window, QAction& quit, std::unique_ptr<TrayIcon> icon,
                  SetNames nameOf = nameOnAgent);
     ~TrayPresence();
 
     TrayIcon& icon() { return *icon_; }
-    /// The entries of the menu. What they do is connected by the window.
+    /// The entries of the menu. The window connects their actions.
     QAction& actionShow() { return actionShow_; }
     QAction& actionHide() { return actionHide_; }
 
-    /// Sets all texts in the language of now.
+    /// Sets all texts in the current language.
     void setTexts();
 
-    /// Also brings back a window that is minimized.
+    /// Also restores a minimized window.
     void showWindow();
-    /// Does nothing where the desktop has no tray to come back from.
+    /// Does nothing if the desktop has no tray to restore it from.
     void hideWindow();
 
-    /// A balloon about activities that have begun and ended, unless the user is looking at the
-    /// window.
+    /// Shows a balloon about activities that have started and ended, unless the window is active.
     void announce(const QList<hessiancln::running_activity_info>& appeared,
                   const QList<hessiancln::running_activity_info>& disappeared);
-    /// A balloon about how an activity ended, as a warning if it had errors, unless the user is
-    /// looking at the window.
+    /// Shows a balloon about how an activity ended, as a warning if it had errors, unless the
+    /// window is active.
     void announceEnd(const hessiancln::activity_log_info& ended, const QString& text);
-    /// What the last balloon was about, if it was about an end.
+    /// The activity of the last balloon, if that was about an end.
     const std::optional<hessiancln::activity_log_info>& lastNews() const { return lastNews_; }
-    /// A balloon that says where the window has gone, until `endReminder`.
+    /// Shows a balloon saying where the window has gone, until `endReminder`.
     void remind();
     void endReminder() { showReminder_ = false; }
 

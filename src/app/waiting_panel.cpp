@@ -37,7 +37,7 @@ void WaitingPanel::showOver(QWidget* host, std::chrono::seconds elapsed) {
         return;
     setText();
     const bool wasVisible = isVisible();
-    // Only what is shown knows its fonts.
+    // Fonts are known only for visible widgets.
     show();
     place();
     if (wasVisible)

@@ -12,15 +12,15 @@ namespace Ui {
 class WaitingPanel;
 }
 
-/// Says how long the agent hasn't answered, and lets the user leave it. Lies over the middle of a
-/// window, and moves to the one that is in front then, whenever it is brought up to date.
+/// Shows how long the agent has been silent, and lets the user disconnect. Placed over the middle
+/// of a window; each update moves it to the frontmost one.
 class WaitingPanel : public QFrame {
     Q_OBJECT
 public:
     WaitingPanel();
     ~WaitingPanel() override;
 
-    /// Shows itself over `host`, or hides where there is none.
+    /// Appears over `host`, or hides if it is null.
     void showOver(QWidget* host, std::chrono::seconds elapsed);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -11,7 +11,7 @@ void wipe(void* memory, std::size_t size) noexcept {
 }
 
 void wipe(std::string& text) noexcept {
-    // A short text is kept in the object itself, and a move leaves its characters there.
+    // A short text is stored in the object itself, and a move leaves its characters there.
     if (text.capacity() == std::string().capacity())
         text.resize(text.capacity());
     wipe(text.data(), text.size());

@@ -6,11 +6,10 @@
 #include <memory>
 #include <string>
 
-/// Passwords, keys and codes, and the buffers that carry them: nothing of them stays in memory that
-/// is given back.
+/// Passwords, keys and codes, and the buffers that carry them: memory is wiped before it is freed.
 namespace base {
 
-/// Overwrites memory in a way that no compiler leaves out.
+/// Overwrites memory in a way that compilers don't optimise away.
 void wipe(void* memory, std::size_t size) noexcept;
 
 /// Overwrites the text and empties it.
@@ -29,14 +28,14 @@ private:
     std::string& text_;
 };
 
-/// A text, or the bytes of a message, that wipes itself when it goes, is replaced or moved on.
+/// A text, or the bytes of a message, that wipes itself on destruction, replacement and move.
 class Secret {
 public:
     Secret() = default;
-    /// A copy; the original stays its owner's.
+    /// Copies the text; the original stays with its owner.
     explicit Secret(const std::string& text)
         : text_(text) {}
-    /// Takes the text over and leaves nothing of it behind.
+    /// Takes over the text and wipes the source.
     explicit Secret(std::string&& text) noexcept { take(text); }
     Secret(const Secret& other) = default;
     Secret(Secret&& other) noexcept { take(other.text_); }
@@ -61,7 +60,7 @@ private:
     std::string text_;
 };
 
-/// For containers of a library that secrets pass through.
+/// Wiping allocator for containers of libraries that handle secrets.
 template <class T>
 struct WipingAllocator {
     using value_type = T;

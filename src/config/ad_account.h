@@ -7,7 +7,7 @@
 
 #include <QString>
 
-/// The account with which the agent looks people up in a directory.
+/// The account with which the agent looks up users in a directory.
 namespace config {
 
 struct AdAccountName {
@@ -15,22 +15,21 @@ struct AdAccountName {
     QString user;
 };
 
-/// Domain and user of the text that the agent keeps; none without a backslash, which stands
-/// between the two.
+/// Splits the agent's text at the backslash into domain and user; no value without a backslash.
 std::optional<AdAccountName> adAccountNameOf(const std::string& username);
 
-/// The text for the agent, without the blanks around domain and user.
+/// The text for the agent; domain and user are trimmed.
 std::string adUsernameOf(const AdAccountName& name);
 
-/// What stands in the fields, as it was typed.
+/// The contents of the fields as typed.
 struct AdAccountEntries {
     AdAccountName name;
     QString password;
     QString passwordConfirm;
 };
 
-/// What forbids to send it, for the screen; empty if nothing does. All of user, password and
-/// domain may be empty: the agent then needs no account.
+/// The reason why the entries can't be sent, for display; empty if they can. User, password and
+/// domain may all be empty: the agent then needs no account.
 QString problemOf(const AdAccountEntries& entries);
 
 } // namespace config

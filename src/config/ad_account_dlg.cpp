@@ -22,7 +22,7 @@ ADAccountDlg::ADAccountDlg(QWidget* parent)
     , ui_(std::make_unique<Ui::ADAccountDlg>()) {
     ui_->setupUi(this);
     setWindowIcon(ui::g_branding.applicationIcon());
-    // Once the dialog is on the screen: a failure's box then stands before it.
+    // Once the dialog is visible, so that an error box appears in front of it.
     ui::later(*this, [this] { read(); });
 }
 

@@ -14,8 +14,8 @@ namespace Ui {
 class ADAccountDlg;
 }
 
-/// The account with which the agent looks people up in a directory. The agent judges it, and keeps
-/// it if told so. `exec` gives one of the results below.
+/// The account with which the agent looks up users in a directory. The agent checks it, and stores
+/// it on request. `exec` returns one of the results below.
 class ADAccountDlg : public QDialog {
     Q_OBJECT
 public:
@@ -37,7 +37,7 @@ private slots:
 private:
     void read();
     config::AdAccountEntries entries() const;
-    /// Whether the agent has taken it.
+    /// Returns whether the agent accepted it.
     bool send(bool save);
     void forgetPasswords();
 

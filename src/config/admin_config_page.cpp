@@ -21,7 +21,7 @@ auto configuration() {
     return session::required(session::getConnection()->getConfigurationManager());
 }
 
-/// Whether the run is on; its time is then shown.
+/// Returns whether the run is on; if so, shows its time.
 bool showTime(const hessiancln::time_in_day& time, QTimeEdit& edit) {
     const bool on = !hessiancln::isRunOff(time);
     if (on)

@@ -15,17 +15,17 @@ namespace Ui {
 class AdminConfigPage;
 }
 
-/// When the agent's own daily and weekly work runs, with buttons that run it at once and close the
-/// wizard.
+/// The times of the agent's own daily and weekly tasks, with buttons that run them immediately and
+/// close the wizard.
 class AdminConfigPage : public QWizardPage {
     Q_OBJECT
 public:
     explicit AdminConfigPage(QWidget* parent = nullptr);
     ~AdminConfigPage() override;
 
-    /// Asks the agent for the times. A failure ends the wizard and goes to the one who runs it.
+    /// Requests the times from the agent. A failure ends the wizard and is rethrown to its caller.
     void initializePage() override;
-    /// Writes the times. Raises what the calls raise.
+    /// Writes the times. Throws what the calls throw.
     void save();
 
 protected:

@@ -6,8 +6,8 @@ class QWidget;
 
 namespace config {
 
-/// Runs the wizard for the times of the agent's own work in front of `parent`, and writes them if
-/// it was finished. Raises what the calls raise.
+/// Runs the wizard for the times of the agent's own tasks with `parent` as its parent, and writes
+/// them if the wizard was finished. Throws what the calls throw.
 void editAdminTimes(QWidget& parent);
 
 } // namespace config

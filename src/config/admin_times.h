@@ -12,14 +12,14 @@ namespace hessiancln {
 enum class DayOfWeekCode : std::int32_t;
 }
 
-/// When the agent's own daily and weekly work runs, as a page shows it and as the agent keeps it.
+/// Times of the agent's own daily and weekly tasks: converts between page and agent.
 namespace config {
 
-/// The row of a list of days that begins with Sunday. What is no day counts as Sunday.
+/// The row in a list of days that begins with Sunday. An invalid day counts as Sunday.
 int rowOfDay(hessiancln::DayOfWeekCode day);
 hessiancln::DayOfWeekCode dayOfRow(int row);
 
-/// The time of a run, or that it is off.
+/// The time of a run, or the value for a run that is off.
 hessiancln::time_in_day runTime(bool on, const QTime& time);
 
 } // namespace config

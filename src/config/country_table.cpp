@@ -11,7 +11,7 @@ namespace config {
 
 namespace {
 
-// Some names are older than the standard's present ones: they are what agents were set up with.
+// Some names predate the current standard: agents were set up with them.
 constexpr std::array<Country, countryCount> countryTable{{
     {4, QT_TRANSLATE_NOOP("InitClntCfgDlg", "Afghanistan")},
     {248, QT_TRANSLATE_NOOP("InitClntCfgDlg", "Åland Islands")},
@@ -278,7 +278,7 @@ std::vector<NamedCountry> countriesFor(const QLocale& language) {
         named.push_back({code, QCoreApplication::translate("InitClntCfgDlg", english)});
         translated = translated || named.back().name != QString::fromUtf8(english);
     }
-    // Where nothing is translated the reader sees English, whatever the language.
+    // Without translations the names are English, whatever the language.
     if (translated)
         sortFor(language, named);
     return named;

@@ -14,7 +14,7 @@ namespace config {
 
 struct Country {
     std::int32_t code; ///< ISO 3166-1 numeric
-    const char* name;  ///< in English and UTF-8; a text of `InitClntCfgDlg` to be translated
+    const char* name;  ///< in English and UTF-8; a text of `InitClntCfgDlg` to translate
 };
 
 inline constexpr std::size_t countryCount = 249;
@@ -24,14 +24,14 @@ const std::array<Country, countryCount>& countries();
 
 struct NamedCountry {
     std::int32_t code;
-    QString name; ///< in the language of the screen
+    QString name; ///< in the language of the user interface
 };
 
-/// The countries as a reader of that language looks for them. English names keep the order that
-/// they have in `countries`, also where a language has no translation.
+/// The countries sorted for readers of that language. English names keep their order in
+/// `countries`, even for a language without a translation.
 std::vector<NamedCountry> countriesFor(const QLocale& language);
 
-/// The same for names that are given.
+/// Likewise for the given names.
 void sortFor(const QLocale& language, std::vector<NamedCountry>& countries);
 
 } // namespace config

@@ -40,10 +40,10 @@ std::optional<CriEntry> criEntryOf(const QString& line);
 /// unbuffered if none of it is to stay in memory: what this function has read is wiped.
 LinesRead readCri(QIODevice& file, const std::function<bool(const CriEntry&)>& take);
 
-/// The name of the cipher that the number of such a file stands for: one more than on the wire.
+/// The cipher name for a number in such a file, which is one more than on the wire.
 QString keyTypeOfCri(const QString& number);
 
-/// The home of a user who is logged in, where such files are looked for.
+/// The home directory of a logged-in user, where such files are looked for.
 QString homeOfLogin(const QString& user);
 
 } // namespace config

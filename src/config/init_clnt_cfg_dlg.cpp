@@ -41,7 +41,7 @@ hessiancln::KeyEncryptionType chosenType(const QComboBox& combo) {
     return hessiancln::keyEncryptionFromName(session::toWire(combo.currentText()));
 }
 
-/// No choice, if there is no such text.
+/// Clears the choice if there is no such text.
 void choose(QComboBox& combo, const QString& text) {
     combo.setCurrentIndex(combo.findText(text));
 }
@@ -103,12 +103,12 @@ void InitClntCfgDlg::read() {
 
 void InitClntCfgDlg::showRegistration(hessiancln::tarnc_reg_info& info) {
     ui_->txtFieldCustomer->setText(session::fromWire(info.customer_name));
-    // A long name is seen from its beginning.
+    // Show a long name from its beginning.
     ui_->txtFieldCustomer->setCursorPosition(0);
     ui_->txtFieldAccountNum->setText(session::fromWire(info.account_num));
     ui_->txtFieldClientNum->setText(session::fromWire(info.client_num));
     setAddresses(info.tarnsys_ip_addr);
-    // The types first, as a change of theirs empties the keys.
+    // The types first, because changing them clears the keys.
     choose(*ui_->cmbPrivateKeyType, nameOf(info.private_key_enc));
     setPrivateKey(info.private_key);
     ui_->grpPrivateKey->setEnabled(initial_);
@@ -225,7 +225,7 @@ void InitClntCfgDlg::on_btnAdd_clicked() {
     ui_->txtFieldInputAddress->clear();
 }
 
-/// In the field for an address the Return key adds it; elsewhere it saves.
+/// In the address field the Return key adds the address; elsewhere it saves.
 void InitClntCfgDlg::keyPressEvent(QKeyEvent* event) {
     const bool enters = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (enters && focusWidget() == ui_->txtFieldInputAddress)

@@ -23,15 +23,15 @@ namespace Ui {
 class InitClntCfgDlg;
 }
 
-/// As whom the agent registers with its storage server: customer, account, addresses, encryption
-/// keys and a few facts about the customer. `exec` gives one of the results below.
+/// The agent's registration with its storage server: customer, account, addresses, encryption keys
+/// and some information about the customer. `exec` returns one of the results below.
 class InitClntCfgDlg : public QDialog {
     Q_OBJECT
 public:
     enum Result { cancelled, saved, registered };
 
-    /// Asks the agent for what it knows, and raises what the calls raise. `initial` tells that
-    /// the agent is set up for the first time, so that each key may be chosen.
+    /// Requests the agent's current data, and throws what the calls throw. `initial` means that the
+    /// agent is being set up for the first time, so that each key can be chosen.
     explicit InitClntCfgDlg(bool initial, QWidget* parent = nullptr);
     ~InitClntCfgDlg() override;
 

@@ -16,7 +16,7 @@
 
 namespace {
 
-/// The one way of recovery that there is.
+/// The only available kind of recovery.
 constexpr int wholeDatabase = 0;
 
 auto activityManager() {
@@ -32,7 +32,7 @@ RecoveryDlg::RecoveryDlg(QWidget* parent)
     ui::letContentScroll(*this, *ui_->buttonBox);
     setWindowIcon(ui::g_branding.applicationIcon());
     ui::setStandardButtonPictures(*this);
-    // Behind the slots of the form, so that the work is done before the dialog closes.
+    // Connected after the form's slots, so that the work is done before the dialog closes.
     connect(ui_->buttonBox, &QDialogButtonBox::accepted, this, &RecoveryDlg::accept);
     connect(ui_->buttonBox, &QDialogButtonBox::rejected, this, &RecoveryDlg::reject);
 

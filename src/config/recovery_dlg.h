@@ -10,9 +10,9 @@ namespace Ui {
 class RecoveryDlg;
 }
 
-/// Brings back what the agent has lost: sets that only the storage server still knows, or the
-/// whole database of its history. The constructor asks the agent for such sets, and raises what
-/// the calls raise.
+/// Recovers what the agent has lost: sets that only the storage server still knows, or the whole
+/// database of its history. The constructor requests such sets from the agent, and throws what the
+/// calls throw.
 class RecoveryDlg : public QDialog {
     Q_OBJECT
 public:

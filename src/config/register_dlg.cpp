@@ -22,8 +22,8 @@ struct Room {
 constexpr Room roomOfValue{300, 4};
 constexpr Room roomOfStatus{1000, 12};
 
-/// A label grows with its text, and the dialog with the label, beyond the screen if the agent wants
-/// so.
+/// A label grows with its text, and the dialog with the label: a long text from the agent could
+/// make it larger than the screen.
 QString shortened(QString text, Room room) {
     const int told = text.size();
     text.truncate(room.characters);
@@ -62,13 +62,13 @@ void RegisterDlg::on_btnRegister_clicked() {
 
 void RegisterDlg::showStatus(const QString& text) {
     ui_->labStatus->setText(text);
-    // What comes next may be a call that blocks.
+    // The next step may be a blocking call.
     ui_->labStatus->repaint();
 }
 
 void RegisterDlg::changeEvent(QEvent* event) {
     if (event->type() == QEvent::LanguageChange) {
-        // The form has texts of its own in the place of the agent's.
+        // The form would replace the agent's texts with its own.
         const QString customer = ui_->txtCustomerName->text();
         const QString account = ui_->txtAccountNum->text();
         const QString client = ui_->txtClientNum->text();

@@ -10,8 +10,8 @@ namespace Ui {
 class RegisterDlg;
 }
 
-/// As whom the agent is registered with its storage server, and a button to register it again. The
-/// constructor asks the agent, and raises what the calls raise.
+/// The agent's registration with its storage server, and a button to register it again. The
+/// constructor queries the agent, and throws what the calls throw.
 class RegisterDlg : public QDialog {
     Q_OBJECT
 public:

@@ -6,7 +6,7 @@
 
 namespace config {
 
-/// What stands in the fields of a registration, as it was typed.
+/// The contents of the fields of a registration, as typed.
 struct RegistrationEntries {
     QString customerName;
     QString accountNumber;
@@ -24,7 +24,7 @@ struct RegistrationEntries {
 
 inline constexpr int clientNumberLength = 12;
 
-/// What forbids to save it, for the screen; empty if nothing does.
+/// The reason why the entries can't be saved, for display; empty if they can.
 QString problemOf(const RegistrationEntries& entries);
 
 } // namespace config

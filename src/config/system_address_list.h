@@ -7,16 +7,16 @@
 
 #include <QStringList>
 
-/// The addresses of the storage server, as a list on the screen.
+/// The addresses of the storage server as a list in the user interface.
 namespace config {
 
-/// The list in the agent's text.
+/// The addresses in the agent's text.
 QStringList systemAddressesOf(std::string_view text);
 
 /// The text for the agent.
 std::string systemAddressesText(const QStringList& addresses);
 
-/// The address that somebody has typed, if it may join the list: it isn't empty and not in it.
+/// The typed address if it can be added to the list: it isn't empty and not in it yet.
 std::optional<QString> newSystemAddress(const QString& typed, const QStringList& addresses);
 
 } // namespace config

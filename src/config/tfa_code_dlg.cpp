@@ -18,12 +18,12 @@ TFACodeDlg::TFACodeDlg(int purpose, QWidget* parent)
     , ui_(std::make_unique<Ui::TFACodeDlg>())
     , purpose_(purpose) {
     ui_->setupUi(this);
-    // The explanation takes as many lines as its language needs.
+    // The number of lines of the explanation depends on the language.
     resize(width(), layout()->heightForWidth(width()));
     ui_->editCode->setFocus();
     setWindowIcon(ui::g_branding.applicationIcon());
     connect(ui_->btnCancel, &QPushButton::clicked, this, &TFACodeDlg::reject);
-    // Once the dialog is on the screen: a failure's box then stands before it.
+    // Once the dialog is visible, so that an error box appears in front of it.
     ui::later(*this, [this] { on_btnResend_clicked(); });
 }
 

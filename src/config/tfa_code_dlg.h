@@ -12,13 +12,13 @@ namespace Ui {
 class TFACodeDlg;
 }
 
-/// Has the agent send a code by mail and asks the user for it. It can only be accepted with a code
-/// that the agent has found right. Failures are shown, and leave it open.
+/// Requests a code by mail from the agent and asks the user for it. It can only be accepted with a
+/// code that the agent has verified. Failures are shown and leave it open.
 class TFACodeDlg : public QDialog {
     Q_OBJECT
 public:
-    /// `purpose` is handed to the agent as it is: 1 to send the list of addresses, 2 for backup
-    /// sets and deletions. The first code is asked for as soon as the dialog's event loop runs.
+    /// `purpose` is passed to the agent unchanged: 1 to send the list of addresses, 2 for backup
+    /// sets and deletions. The first code is requested as soon as the dialog's event loop runs.
     TFACodeDlg(int purpose, QWidget* parent);
     ~TFACodeDlg() override;
 

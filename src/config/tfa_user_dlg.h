@@ -12,14 +12,14 @@ namespace Ui {
 class TFAUserDlg;
 }
 
-/// One user of the list of addresses. It can only be accepted with a row that keeps the rules.
+/// One user in the list of addresses. It can only be accepted with a valid row.
 class TFAUserDlg : public QDialog {
     Q_OBJECT
 public:
     explicit TFAUserDlg(const hessiancln::user_email& row, QWidget* parent = nullptr);
     ~TFAUserDlg() override;
 
-    /// The row that the fields make.
+    /// The row in the fields.
     hessiancln::user_email userEmail() const;
 
 protected:

@@ -9,8 +9,8 @@
 
 #include "api/user_email.h"
 
-/// The addresses that codes are sent to, one row for each user, in the agent's order. Changes stay
-/// here until somebody sends the whole list.
+/// The addresses that codes are sent to, one row per user, in the agent's order. Changes stay local
+/// until the whole list is sent.
 class TFAUsersModel : public QAbstractTableModel {
     Q_OBJECT
 public:
@@ -18,17 +18,17 @@ public:
 
     using QAbstractTableModel::QAbstractTableModel;
 
-    /// Takes the agent's list. Raises what the calls raise; the rows are then as before.
+    /// Reads the agent's list. Throws what the calls throw, leaving the rows unchanged.
     void refresh();
 
     const std::vector<hessiancln::user_email>& userEmails() const { return rows_; }
 
-    /// A user who is in the list keeps the place and gets the new address; a new one comes last.
+    /// An existing user keeps the position and gets the new address; a new one is appended.
     void insert(const hessiancln::user_email& row);
-    /// The same, one after the other.
+    /// Likewise for each row in turn.
     void insert(const std::vector<hessiancln::user_email>& rows);
-    /// Writes a row anew. If it is now that of another user of the list, it goes, and that user
-    /// gets the address.
+    /// Replaces a row. If it now belongs to another user in the list, the row is removed and that
+    /// user gets the address.
     void replace(int index, const hessiancln::user_email& row);
     void remove(int index);
 
@@ -44,6 +44,6 @@ private:
     void findPlaces();
 
     std::vector<hessiancln::user_email> rows_;
-    /// The first row of each user: a file may bring very many.
+    /// The first row of each user, because an import may have many rows.
     QHash<QString, int> places_;
 };

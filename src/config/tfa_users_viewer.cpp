@@ -24,7 +24,7 @@
 
 namespace {
 
-/// What a code is asked for, in the agent's words.
+/// The purpose of a code, in the agent's encoding.
 constexpr int forwardPurpose = 1;
 
 } // namespace
@@ -36,7 +36,7 @@ TFAUsersViewer::TFAUsersViewer(QWidget* parent)
     setWindowIcon(ui::g_branding.applicationIcon());
     setUpTable();
     connect(ui_->btnClose, &QPushButton::clicked, this, &TFAUsersViewer::reject);
-    // Once the dialog is on the screen: a failure's box then stands before it.
+    // Once the dialog is visible, so that an error box appears in front of it.
     ui::later(*this, [this] { read(); });
 }
 

@@ -14,9 +14,9 @@ namespace Ui {
 class TFAUsersViewer;
 }
 
-/// The list of users and the addresses that their codes are sent to. What is changed stays in the
-/// table until it is forwarded, which takes a code; closing the dialog forgets it. Failures are
-/// shown; none leaves it.
+/// The list of users and the addresses that their codes are sent to. Changes stay in the table
+/// until they are forwarded, which requires a code; closing the dialog discards them. Failures are
+/// shown, never thrown.
 class TFAUsersViewer : public QDialog {
     Q_OBJECT
 public:

@@ -12,8 +12,8 @@
 
 namespace config {
 
-/// The row in a line of a list of addresses: user name, domain and address, each ended by a comma,
-/// a vertical bar or a tab. What follows is ignored. None, if the line is shorter.
+/// The row in a line of a list of addresses: user name, domain and address, each terminated by a
+/// comma, a vertical bar or a tab. The rest is ignored. No value if the line is shorter.
 std::optional<hessiancln::user_email> userEmailOf(const QString& line);
 
 struct UserEmailList {

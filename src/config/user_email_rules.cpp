@@ -35,7 +35,7 @@ QString problemOf(const hessiancln::user_email& row) {
 }
 
 QString userKey(const hessiancln::user_email& row) {
-    // Neither a dialog's field nor a line of a file can hold the mark between the two.
+    // Neither a dialog's field nor a line of a file can contain the separator.
     return (session::fromWire(row.username) + QLatin1Char('\n') + session::fromWire(row.domain))
         .toCaseFolded();
 }

@@ -8,12 +8,12 @@
 
 namespace config {
 
-/// What forbids a row in the list of addresses, for the screen; empty if nothing does. The domain
-/// may be empty.
+/// The reason why a row is invalid in the list of addresses, for display; empty if it is valid. The
+/// domain may be empty.
 QString problemOf(const hessiancln::user_email& row);
 
-/// What tells the users of a list apart: rows of the same user give the same key, in whatever case
-/// user name and domain are written.
+/// The identity of a user in a list: rows of the same user have the same key, regardless of the
+/// case of user name and domain.
 QString userKey(const hessiancln::user_email& row);
 
 } // namespace config

@@ -13,7 +13,7 @@
 
 #include "hessian/writer.h"
 
-/// The closed set of the kinds of value that stand on the wire, told apart by C++ type.
+/// The closed set of value kinds on the wire, distinguished by C++ type.
 namespace hessianser {
 
 /// Numbers from `first` to `last`, both included.
@@ -22,7 +22,7 @@ struct EnumRange {
     std::int32_t last;
 };
 
-/// What describes an enumeration: a function beside it, found by its argument, as in
+/// Describes an enumeration: a function beside it, found by argument-dependent lookup, as in
 ///
 ///     enum class EventLogType : std::int32_t { Info, Warning, Error };
 ///     constexpr auto declaredValues(EventLogType) { return hessianser::values({{0, 2}}); }
@@ -57,14 +57,14 @@ concept Enumeration =
     declaredValues(T{});
 };
 
-/// The value that stands for every number that the enumeration doesn't declare: one above its
-/// highest one.
+/// The value that represents every number the enumeration doesn't declare: one above its highest
+/// value.
 template <Enumeration E>
 constexpr E reservedValue() {
     return static_cast<E>(declaredValues(E{}).back().last + 1);
 }
 
-/// The value that `number` reads as.
+/// The enumerator for `number`.
 template <Enumeration E>
 constexpr E enumerationFrom(std::int32_t number) {
     const auto ranges = declaredValues(E{});
@@ -89,11 +89,11 @@ concept Record = requires {
     T::fields();
 };
 
-/// How a type of ours stands for a reference to a remote object. To be specialised with
+/// How one of our types represents a reference to a remote object. Specialise it with
 ///
-///     static std::string typeName();               // what is written
+///     static std::string typeName();               // type to write
 ///     static const std::string* url(const T&);     // null for a null reference
-///     static T fromUrl(std::string url);           // what was read; a null reads as T()
+///     static T fromUrl(std::string url);           // value that was read; a null reads as T()
 template <class T>
 struct RemoteTraits;
 
@@ -111,7 +111,7 @@ struct ListElement<std::vector<E, A>> {
 };
 } // namespace detail
 
-/// Declared behind the other kinds, as a list's element is any of them.
+/// Declared after the other kinds because an element may be of any of them.
 template <class T>
 concept List = !Bytes<T> && requires {
     typename detail::ListElement<T>::type;
@@ -131,7 +131,7 @@ constexpr bool isValue() {
 template <class T>
 concept Value = detail::isValue<T>();
 
-/// Kinds that take the same number of bytes whatever their value; 0 for the others.
+/// Kinds with a fixed encoded size in bytes; 0 for all others.
 template <class T>
 inline constexpr std::size_t fixedSize = Boolean<T>                     ? sizeOfBool
                                          : (Int32<T> || Enumeration<T>) ? sizeOfInt32

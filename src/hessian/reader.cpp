@@ -13,14 +13,14 @@ constexpr std::uint32_t chunkHead = 3;
 
 enum class Count { Characters, Bytes };
 
-/// One chunk of a string, a binary or a name, still in the message.
+/// One chunk of a string, a binary or a name, not yet copied out of the message.
 struct Chunk {
     std::string_view data;
     bool last;
 };
 
 std::uint32_t lengthInBytes(const Cursor& in, std::uint32_t characters) {
-    // The caller has seen that there are at least as many bytes as characters.
+    // The caller has checked that there are at least as many bytes as characters.
     if (isAscii({in.pos + chunkHead, characters}))
         return characters;
     std::uint32_t bytes = 0;

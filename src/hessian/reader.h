@@ -10,9 +10,9 @@
 #include "hessian/serialize_exception.h"
 #include "hessian/writer.h"
 
-/// The primitive values of the wire, read. Each reader takes what stands at the cursor and moves
-/// it on; nothing behind `remaining` is ever looked at. Failures raise `serialize_exception`, and
-/// what was read so far is of no use then.
+/// Readers for the primitive values of the wire. Each one consumes the value at the cursor and
+/// never looks beyond `remaining`. Failures throw `serialize_exception`; anything read before a
+/// failure is unusable.
 namespace hessianser {
 
 /// The unread rest of a message. It doesn't own the bytes.
@@ -20,13 +20,13 @@ struct Cursor {
     const char* pos = nullptr;
     std::uint32_t remaining = 0;
 
-    /// Raises `serialize_exception` if the message is longer than 32 bits can count.
+    /// Throws `serialize_exception` if the length of the message doesn't fit in 32 bits.
     explicit Cursor(std::string_view message);
 
-    /// The next byte is there and is `tag`.
+    /// Whether the next byte exists and is `tag`.
     bool at(char tag) const { return remaining != 0 && *pos == tag; }
 
-    /// The next bytes are there and are `bytes`.
+    /// Whether the next bytes exist and are `bytes`.
     bool startsWith(std::string_view bytes) const {
         return remaining >= bytes.size() && std::string_view(pos, bytes.size()) == bytes;
     }
@@ -75,7 +75,7 @@ inline std::int64_t readInt64(Cursor& in) {
     return static_cast<std::int64_t>(value);
 }
 
-/// Text, in UTF-8. The first form reads into `text` and spares an allocation where it has room.
+/// Text in UTF-8. The first form reads into `text` and reuses its capacity.
 void readString(Cursor& in, std::string& text);
 std::string readString(Cursor& in);
 
@@ -84,7 +84,7 @@ Binary readBinary(Cursor& in);
 /// A type name: one chunk, counted in bytes.
 std::string readType(Cursor& in);
 
-/// A reference to a remote object. `type` is empty where the reference names none.
+/// A reference to a remote object. `type` is empty if the reference names no type.
 struct Remote {
     std::string type;
     std::string url;
@@ -96,14 +96,14 @@ inline bool isFault(const Cursor& in) {
     return in.at('f');
 }
 
-/// What a fault says. Each text is a placeholder where the fault doesn't tell it.
+/// Contents of a fault. Texts missing from the fault are placeholders.
 struct Fault {
     std::string code = "<Code could not be parsed>";
     std::string message = "<Message could not be parsed>";
 };
 
-/// Reads as far as code and message go; a fault's other entries end the parse, so the rest of the
-/// message is of no use afterwards.
+/// Reads up to the code and the message; other entries of the fault end the parse, so the rest of
+/// the message is unusable afterwards.
 Fault readFault(Cursor& in);
 
 void readEnd(Cursor& in);
@@ -111,15 +111,15 @@ void readEnd(Cursor& in);
 /// The head of a record of the wire type `expected`.
 void readMapStart(Cursor& in, std::string_view expected);
 
-/// The next key of a record. `name` points into the message, or into `scratch` where the key
-/// stands there in pieces. False, with the end consumed, if there is no further member.
+/// The next key of a record. `name` points into the message, or into `scratch` if the key is split
+/// into chunks. Returns false, with the end consumed, if there are no more members.
 bool readMemberName(Cursor& in, std::string_view& name, std::string& scratch);
 
-/// The head of a list, with the type and the length that may stand there. False, with the end
-/// consumed, if the list is empty.
+/// The head of a list, with its optional type and length. Returns false, with the end consumed, if
+/// the list is empty.
 bool readListStart(Cursor& in);
 
-/// To be asked behind each element: true if a further one follows, false with the end consumed.
+/// Call after each element: true if another one follows, false with the end consumed.
 bool readListContinues(Cursor& in);
 
 } // namespace hessianser

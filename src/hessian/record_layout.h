@@ -12,7 +12,7 @@
 
 namespace hessianser {
 
-/// One member of a record: its key on the wire and where it stands in the structure.
+/// One member of a record: its key on the wire and its place in the structure.
 template <class R, class M>
 struct Field {
     std::string_view key;
@@ -32,7 +32,7 @@ constexpr std::tuple<F...> fields(F... field) {
 
 namespace detail {
 
-/// Characters and bytes are the same number in such a name, and one chunk holds it.
+/// Such a name has as many bytes as characters, and fits in one chunk.
 constexpr bool isPlainName(std::string_view name) {
     return name.size() <= maximumChunk && std::all_of(name.begin(), name.end(), [](char c) {
                return static_cast<unsigned char>(c) < 0x80;
@@ -62,7 +62,7 @@ constexpr auto keysOf() {
         R::fields());
 }
 
-/// Where a member stands in the image of its record: its key with the head, then its value.
+/// The place of a member in the image of its record: its key with the head, then its value.
 struct MemberPlace {
     std::size_t key;
     std::size_t value;
@@ -70,11 +70,11 @@ struct MemberPlace {
     bool fixed;
 };
 
-/// The bytes of a record of type `R` as it is written with all numbers zero and without the
-/// values of varying size, laid out once at compile time.
+/// The bytes of a record of type `R` as written with all numbers zero and without the values of
+/// variable size, laid out once at compile time.
 ///
-/// A run is a stretch of the image that can be copied in one piece: it goes up to the key of the
-/// next member of varying size, or to the end of the record.
+/// A run is a part of the image that can be copied at once: it extends to the key of the next
+/// member of variable size, or to the end of the record.
 template <class R>
 struct RecordLayout {
     static constexpr auto fields = R::fields();
@@ -137,12 +137,12 @@ struct RecordLayout {
 
     static constexpr std::string_view mapStart{image.data(), mapStartSize};
 
-    /// The key of member `i` as it stands on the wire.
+    /// The key of member `i` as encoded on the wire.
     static constexpr std::string_view key(std::size_t i) {
         return {image.data() + places[i].key, places[i].value - places[i].key};
     }
 
-    /// Bytes behind the tag of member `i`, if it is a number.
+    /// Bytes after the tag of member `i`, if it is a number.
     static constexpr std::size_t numberSize(std::size_t i) {
         const std::size_t size = places[i].end - places[i].value;
         return size > sizeOfBool ? size - 1 : 0;
@@ -156,7 +156,7 @@ struct RecordLayout {
 
     static constexpr bool startsRun(std::size_t i) { return i == 0 || !places[i - 1].fixed; }
 
-    /// Where the run that holds the key of member `i` begins and ends in the image.
+    /// Start and end, within the image, of the run that contains the key of member `i`.
     static constexpr std::size_t runStart(std::size_t i) {
         while (!startsRun(i))
             --i;
@@ -168,7 +168,7 @@ struct RecordLayout {
         return i < count ? places[i].value : imageSize;
     }
 
-    /// The last run doesn't reach the end of the record.
+    /// Whether the last run ends before the end of the record.
     static constexpr bool endsOpen = count == 0 || !places.back().fixed;
 };
 

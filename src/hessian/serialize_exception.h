@@ -11,7 +11,7 @@ class serialize_exception final : public base::StreamedException<serialize_excep
     using StreamedException::StreamedException;
 };
 
-/// Raises `serialize_exception` with `text`. Out of line, so that the fast paths stay small.
+/// Throws `serialize_exception` with `text`. Out of line to keep the fast paths small.
 [[noreturn]] void fail(const char* text);
 
 } // namespace hessianser

@@ -10,8 +10,8 @@
 namespace hessianser {
 
 /// Bytes in the UTF-8 sequence that begins with `first`; continuation bytes are never examined.
-/// 0x80 counts as a sequence of its own. Raises `serialize_exception` on any other byte that
-/// can't begin a sequence.
+/// 0x80 counts as a sequence of its own. Throws `serialize_exception` on any other byte that can't
+/// begin a sequence.
 inline std::size_t utf8SequenceLength(unsigned char first) {
     // The peer counts a lone 0x80 as a character, so it must count here as well.
     if (first <= 0x80)

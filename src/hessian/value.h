@@ -10,18 +10,18 @@
 #include "hessian/record_layout.h"
 #include "hessian/writer.h"
 
-/// Any value that the wire knows, written, measured and read by its C++ type. Whoever adds a
-/// record, an enumeration or a proxy describes it; nothing is added here.
+/// Writes, reads and measures any value of the wire by its C++ type. A new record, enumeration or
+/// proxy only needs a description; nothing is added here.
 namespace hessianser {
 
 template <Value T>
 void writeValue(const T& value, std::string& out);
 
-/// The bytes that `writeValue` appends.
+/// The number of bytes that `writeValue` appends.
 template <Value T>
 std::uint32_t sizeOfValue(const T& value);
 
-/// Replaces what stood in `value`.
+/// Replaces the content of `value`.
 template <Value T>
 void readValue(Cursor& in, T& value);
 
@@ -121,8 +121,8 @@ void readValue(Cursor& in, T& value) {
 
 namespace detail {
 
-/// Makes room for the elements still to come, as far as the bytes still to come allow if they are
-/// like those read so far. The length that may stand before a list isn't to be trusted.
+/// Reserves room for the remaining elements, assuming that they are like those read so far and as
+/// far as the remaining bytes allow. The length in front of a list can't be trusted.
 template <class T, class A>
 void growList(std::vector<T, A>& list, std::size_t bytesRead, std::size_t bytesLeft) {
     const std::size_t size = list.size();
@@ -151,8 +151,8 @@ void readList(Cursor& in, std::vector<T, A>& list) {
     } while (readListContinues(in));
 }
 
-/// Appends the fixed bytes of the members from `I` up to the next one of varying size, then
-/// overwrites the numbers among them: one copy in place of one for each key and number.
+/// Appends the fixed bytes of the members from `I` up to the next one of variable size, then
+/// overwrites the numbers among them: one copy instead of one per key and number.
 template <class R, std::size_t I>
 void writeMember(const R& record, std::string& out) {
     using Layout = RecordLayout<R>;
@@ -203,8 +203,8 @@ std::uint32_t sizeOfRecord(const R& record) {
     return size;
 }
 
-/// Reads member `I` if it stands next, in the plainest form of its key. One comparison tells that
-/// for the key and a number's tag; what it refuses is left where it is.
+/// Reads member `I` if it comes next with its key in the plainest form. A single comparison checks
+/// the key and a number's tag; on a mismatch nothing is consumed.
 template <class R, std::size_t I>
 void readIfNext(Cursor& in, R& record) {
     using Layout = RecordLayout<R>;
@@ -227,7 +227,7 @@ void readIfNext(Cursor& in, R& record) {
     in.skip(numberSize);
 }
 
-/// Reads the next member by its name, and fails where `readIfNext` found nothing it could read.
+/// Reads the next member by name, and fails where `readIfNext` found nothing it could read.
 template <class R>
 void readByName(Cursor& in, R& record) {
     using Layout = RecordLayout<R>;
@@ -248,8 +248,8 @@ void readByName(Cursor& in, R& record) {
         fail("Unknown map field type");
 }
 
-/// Members may come in any order and any of them may be missing. Each round takes those that come
-/// in the order of the description, so one round is enough for what an agent writes.
+/// Members may come in any order, and any of them may be missing. Each round reads those that
+/// follow the order of the description, so messages of an agent take a single round.
 template <class R>
 void readRecord(Cursor& in, R& fresh) {
     using Layout = RecordLayout<R>;

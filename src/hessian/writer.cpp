@@ -11,7 +11,7 @@
 namespace hessianser {
 namespace {
 
-/// A piece cut from the front of a text: its length in bytes and the count that goes before it.
+/// A piece cut from the front of a text: its length in bytes and the count written before it.
 struct Chunk {
     std::size_t bytes;
     std::uint16_t count;
@@ -117,7 +117,7 @@ void writeEnd(std::string& out) {
 }
 
 std::uint32_t sizeOfString(std::string_view text) {
-    // No text of so few bytes has more characters than fit in one chunk.
+    // A text of so few bytes can't have more characters than fit in one chunk.
     if (text.size() <= maximumChunk)
         return static_cast<std::uint32_t>(3 + text.size());
     return sizeOfChunks(text, cutByCharacters);

@@ -7,14 +7,14 @@
 #include <string_view>
 #include <vector>
 
-/// The primitive values of the wire, written. A dialect of Hessian 1.0: each writer appends to
-/// `out`; integers are big-endian; text is UTF-8. Failures raise `serialize_exception`.
+/// Writers for the primitive values of the wire, a dialect of Hessian 1.0: each one appends to
+/// `out`; integers are big-endian; text is UTF-8. Failures throw `serialize_exception`.
 namespace hessianser {
 
-/// Bytes as opposed to text: the binary form of the wire.
+/// Bytes as opposed to text: the binary form on the wire.
 using Binary = std::vector<std::uint8_t>;
 
-/// The most characters or bytes that one chunk holds.
+/// The maximum number of characters or bytes in one chunk.
 inline constexpr std::size_t maximumChunk = 0x7FFF;
 
 void writeNull(std::string& out);

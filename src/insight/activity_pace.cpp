@@ -12,7 +12,7 @@ using hessiancln::running_activity_info;
 namespace {
 
 constexpr std::int64_t secondsOfSpeed = 60;
-/// Nobody plans for longer.
+/// Longer estimates are of no use.
 constexpr double longestEstimate = 365.0 * 86'400;
 
 std::optional<std::int64_t> estimate(std::int64_t left, const std::optional<double>& speed) {
@@ -41,7 +41,7 @@ void ActivityPace::observe(const std::vector<running_activity_info>& running, st
 void ActivityPace::add(Watched& watched, const running_activity_info& activity, std::int64_t now) {
     auto& samples = watched.samples;
     const Sample sample{now, activity.size_processed, activity.files_processed};
-    // Counts that go back belong to another piece of work, and so do those before a clock was set.
+    // Decreasing counts belong to another piece of work; so do counts from before a clock change.
     if (!samples.empty() && (sample.bytes < samples.back().bytes ||
                              sample.files < samples.back().files || now < samples.back().time))
         samples.clear();
@@ -69,7 +69,7 @@ std::optional<Pace> ActivityPace::of(std::int32_t activityId) const {
     Pace pace;
     pace.idleFor = last.time - lastMove;
     if (const auto span = static_cast<double>(last.time - first.time); span > 0) {
-        // In floating point: an agent may send counts whose difference is no integer of theirs.
+        // In floating point, because the difference of an agent's counts may overflow an integer.
         pace.bytesPerSecond =
             (static_cast<double>(last.bytes) - static_cast<double>(first.bytes)) / span;
         pace.filesPerSecond =

@@ -10,23 +10,24 @@
 
 #include "api/activity_records.h"
 
-/// How fast running activities get on. Times are in seconds.
+/// The speed of running activities. Times are in seconds.
 namespace insight {
 
 struct Pace {
     std::optional<double> bytesPerSecond; ///< over the last minute
     std::optional<double> filesPerSecond;
-    std::optional<std::int64_t> secondsLeft; ///< where the agent says how much is left
-    std::int64_t idleFor = 0;                ///< since something moved
+    std::optional<std::int64_t> secondsLeft; ///< if the agent reports how much is left
+    std::int64_t idleFor = 0;                ///< since the last progress
 };
 
-/// Watches the lists of running activities that the agent gives from time to time.
+/// Watches the lists of running activities that the agent returns from time to time.
 class ActivityPace {
 public:
-    /// Takes the list of `now`, in seconds since 1970 UTC. Activities that have gone are forgotten.
+    /// Takes the list at `now`, in seconds since 1970 UTC. Activities missing from it are
+    /// forgotten.
     void observe(const std::vector<hessiancln::running_activity_info>& running, std::int64_t now);
 
-    /// Nothing if the activity isn't known.
+    /// No value if the activity is unknown.
     std::optional<Pace> of(std::int32_t activityId) const;
 
 private:
@@ -36,7 +37,7 @@ private:
         std::int64_t files = 0;
     };
     struct Watched {
-        std::deque<Sample> samples; ///< of the last minute and the one before it, oldest first
+        std::deque<Sample> samples; ///< of the last minute and the one before, oldest first
         std::int64_t lastMove = 0;
         std::int64_t bytesLeft = 0;
         std::int64_t filesLeft = 0;

@@ -122,7 +122,7 @@ void BackupHealthWindow::showRows() {
     showRuns();
 }
 
-/// The set that the user has chosen keeps its selection; without one the worst set has it.
+/// Keeps the user's selection; without one, selects the worst set.
 void BackupHealthWindow::select(std::int32_t setId) {
     int row = 0;
     for (std::size_t i = 0; i < sets_.records().size(); ++i)

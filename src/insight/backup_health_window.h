@@ -14,19 +14,19 @@ namespace Ui {
 class BackupHealthWindow;
 }
 
-/// How all sets are, worst first, why, and what to do about it; and when they run next. While it
-/// is open the monitor is watched.
+/// The health of all sets, worst first, with reasons and remedies, and their next runs. Watches the
+/// monitor while it is open.
 class BackupHealthWindow : public QDialog {
     Q_OBJECT
 public:
-    /// What a set allows now.
+    /// The commands available for a set.
     struct Allowed {
         bool backup = false;
         bool sync = false;
     };
     using AllowedOf = std::function<Allowed(const insight::HealthRow&)>;
 
-    /// The monitor has to outlive the window.
+    /// The monitor must outlive the window.
     BackupHealthWindow(insight::HealthMonitor& monitor, AllowedOf allowedOf,
                        QWidget* parent = nullptr);
     ~BackupHealthWindow() override;
@@ -34,7 +34,7 @@ public:
 signals:
     void backupRequested(std::int32_t setId);
     void syncRequested(std::int32_t setId);
-    /// The events of an activity, or with id 0 those of the last days.
+    /// Requests the events of an activity, or for id 0 those of the last days.
     void eventsRequested(const insight::BackupAttempt& attempt);
 
 protected:
@@ -52,7 +52,7 @@ private:
     void showWeek();
     void fillWeeks();
     void select(std::int32_t setId);
-    /// Null if none is selected.
+    /// Null without a selection.
     const insight::HealthRow* selectedRow() const;
 
     insight::HealthMonitor& monitor_;
@@ -60,6 +60,6 @@ private:
     std::unique_ptr<Ui::BackupHealthWindow> ui_;
     BackupHealthModel sets_;
     NextRunsModel runs_;
-    bool isRefilling_ = false; ///< the selection isn't the user's
+    bool isRefilling_ = false; ///< selection changes aren't the user's
     bool hasChosen_ = false;   ///< the user has selected a set
 };

@@ -16,7 +16,7 @@ namespace insight {
 namespace {
 
 constexpr std::int64_t secondsADay = 86'400;
-/// No zone changes its clock but at the border of a quarter of an hour.
+/// Time zones change their offset only at quarter-hour boundaries.
 constexpr std::int64_t secondsOfOffset = 900;
 
 std::int64_t floorDivided(std::int64_t dividend, std::int64_t divisor) {
@@ -32,7 +32,7 @@ bool isAscii(std::string_view text) {
 CellText::CellText(const QLocale& locale)
     : locale_(locale)
     , minus_(folded(QString(locale.negativeSign()))) {
-    // Not every locale groups its numbers.
+    // Not every locale groups digits.
     constexpr int grouped = 1'234'567;
     const QString sample = locale.toString(grouped);
     if (sample.size() > 7)
@@ -84,7 +84,7 @@ const std::string& CellText::dateText(std::int64_t day, QLocale::FormatType form
 }
 
 const std::string& CellText::clockText(std::int64_t second, QLocale::FormatType format) {
-    // Most short times have no seconds, which leaves few to be made.
+    // Most short times have no seconds, so there are few different texts.
     const bool hasSeconds = locale_.timeFormat(format).contains(QLatin1Char('s'));
     const std::int64_t shown = hasSeconds ? second : second / 60 * 60;
     auto& texts = clocks_[format];

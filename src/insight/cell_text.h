@@ -10,9 +10,8 @@
 
 namespace insight {
 
-/// Makes the texts of many numbers and times fast, as the columns of a log show them: folded, in
-/// UTF-8, added to the end of a string. What costs time is made once a day or a minute of those
-/// that occur.
+/// Quickly formats many numbers and times as in the columns of a log: case-folded, in UTF-8,
+/// appended to a string. The expensive parts are computed once per distinct day or minute.
 class CellText {
 public:
     explicit CellText(const QLocale& locale = QLocale::system());
@@ -36,7 +35,7 @@ private:
     std::unordered_map<int, Texts> clocks_;
 };
 
-/// Adds UTF-8 in folded form.
+/// Appends UTF-8 in case-folded form.
 void addFolded(std::string_view text, std::string& out);
 
 } // namespace insight

@@ -15,7 +15,7 @@ namespace insight {
 
 namespace {
 
-/// From top to bottom.
+/// In top to bottom order.
 QVector<int> selectedRows(const QTableView& table) {
     QVector<int> rows;
     for (const QModelIndex& index : table.selectionModel()->selectedRows())

@@ -6,7 +6,7 @@ class QTableView;
 
 namespace insight {
 
-/// From now on Ctrl+C in the table copies its selected rows, as text and as an HTML table.
+/// Makes Ctrl+C in the table copy its selected rows, as text and as an HTML table.
 void copyRows(QTableView& table);
 
 } // namespace insight

@@ -10,25 +10,26 @@
 
 namespace insight {
 
-/// Finds out how activities ended: one that is gone from the list of those that run has a row in
-/// the log, if not at once then soon.
+/// Finds out how activities ended: when one is no longer listed as running, its row appears in the
+/// log, immediately or soon after.
 class EndWatch {
 public:
-    /// An activity was in the list and isn't any more.
+    /// Starts waiting for an activity that is no longer listed as running.
     void gone(std::int32_t activityId);
-    /// Forgets what it waits for.
+    /// Stops waiting.
     void clear() { waiting_.clear(); }
 
-    /// The rows of what was waited for, in the order of the log. What isn't in the third log from
-    /// its end on is waited for no longer: the log shows another time.
+    /// Returns the rows of the awaited activities, in log order. An activity missing from three
+    /// logs is given up: the log shows another time span.
     std::vector<hessiancln::activity_log_info>
     take(const std::vector<hessiancln::activity_log_info>& log);
 
 private:
-    std::map<std::int32_t, int> waiting_; ///< ids, and in how many logs they weren't
+    std::map<std::int32_t, int> waiting_; ///< ids, and the number of logs they were missing from
 };
 
-/// Whether people are shown how it ended beyond its row in the log: with errors, or a restore.
+/// Whether the user is notified of the end beyond its row in the log: with errors, or for a
+/// restore.
 bool isNews(const hessiancln::activity_log_info& ended);
 
 } // namespace insight

@@ -14,9 +14,9 @@ namespace insight {
 namespace {
 
 constexpr std::int64_t topLevel = -1;
-/// No file system goes deeper; an agent that says so is in a circle.
+/// No file system is deeper; an agent that reports more has a cycle.
 constexpr std::uint16_t deepest = 1'024;
-/// So many refusals in a row come from a connection that is gone, not from folders.
+/// This many failures in a row are due to a lost connection, not to folders.
 constexpr int mostFailures = 50;
 
 QRegularExpression wholeName(const QString& pattern) {
@@ -75,7 +75,7 @@ void FileSearch::step() {
 }
 
 void FileSearch::lookOn() {
-    // Turn by turn, so that neither the first details nor the next names are long in coming.
+    // Alternate, so that both the first details and the next names arrive soon.
     const bool details = !undetailed_.empty() && (detailsNext_ || waiting_.empty());
     detailsNext_ = !details;
     if (details) {

@@ -24,8 +24,8 @@ class BackupSetDataView;
 
 namespace insight {
 
-/// Names to look for, in any case: a text that stands somewhere in the name, or with "*" or "?" in
-/// it a pattern for the whole name.
+/// A case-insensitive name filter: a text contained in the name or, if it has "*" or "?", a pattern
+/// for the whole name.
 class NamePattern {
 public:
     explicit NamePattern(const QString& text);
@@ -42,45 +42,45 @@ private:
 /// A stored file whose name matches.
 struct FoundFile {
     std::int32_t setId = 0;
-    std::int64_t item = 0;               ///< its id in the view of the search
-    std::uint32_t folder = 0;            ///< its place among the folders of the search
+    std::int64_t item = 0;               ///< its id in the search's view
+    std::uint32_t folder = 0;            ///< its index in the folders of the search
     std::string name;                    ///< UTF-8
-    std::int32_t generations = -1;       ///< -1 until they are known
-    hessiancln::file_generations newest; ///< of them
+    std::int32_t generations = -1;       ///< -1 until known
+    hessiancln::file_generations newest; ///< the newest generation
 };
 
-/// Looks through what sets hold, folder by folder, those nearest to the top first. Each step makes
-/// one or two calls; nothing is asked between them, so that a window stays alive and the search can
-/// end at any time. A view of the agent lives only while its set is looked through.
+/// Searches the content of sets folder by folder, top levels first. Each step makes one or two
+/// calls, and there are no calls in between, so that a window stays responsive and the search can
+/// end at any time. A view of the agent lives only while its set is being searched.
 class FileSearch {
 public:
     using View = boost::shared_ptr<hessiancln::BackupSetDataView>;
-    /// Makes a view of all that a set holds. Raises what its calls raise.
+    /// Creates a view of the whole content of a set. Throws what its calls throw.
     using OpenView = std::function<View(std::int32_t)>;
 
     FileSearch(NamePattern pattern, std::vector<std::int32_t> sets, OpenView open);
 
     bool isDone() const;
     /// Does the next piece of work. A set, folder or file that the agent refuses is counted and
-    /// passed over; 50 in a row end the search.
+    /// skipped; 50 failures in a row end the search.
     void step();
-    /// Gives the view back. Nothing is left to do.
+    /// Releases the view and drops the remaining work.
     void cancel();
 
     const std::vector<FoundFile>& found() const { return found_; }
-    /// The places in `found` that got their generations since the last call.
+    /// The indices in `found` whose generations were read since the last call.
     std::vector<std::size_t> takeDetailed();
     std::size_t foldersSeen() const { return foldersSeen_; }
     std::size_t refused() const { return refused_; }
-    /// Why the last one was refused, in UTF-8; empty if none was.
+    /// The reason for the last failure, in UTF-8; empty if there was none.
     const std::string& failure() const { return failure_; }
-    /// The names from the top of the set down to the folder of the file.
+    /// The names from the top of the set down to the file's folder.
     QStringList folderOf(const FoundFile& file) const;
 
 private:
     struct Folder {
         std::int64_t item = 0;
-        std::uint32_t parent = 0; ///< itself for the top of a set
+        std::uint32_t parent = 0; ///< the folder itself at the top of a set
         std::uint16_t depth = 0;
         std::string name;
     };
@@ -97,7 +97,7 @@ private:
     View view_;
     std::int32_t setId_ = 0;
     std::vector<Folder> folders_;
-    std::deque<std::uint32_t> waiting_;     ///< folders to look into
+    std::deque<std::uint32_t> waiting_;     ///< folders to search
     std::deque<std::size_t> undetailed_;    ///< files without their generations
     std::unordered_set<std::int64_t> seen_; ///< items of the view that were queued
     std::vector<FoundFile> found_;

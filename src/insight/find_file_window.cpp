@@ -27,7 +27,7 @@ namespace {
 
 constexpr std::int32_t allSets = -1;
 
-/// The item at the end of a path; nothing if it isn't there any more. Asks once for each level.
+/// The item at the end of a path; no value if it no longer exists. Makes one request per level.
 std::optional<std::int64_t> itemAt(hessiancln::BackupSetDataView& view, const QStringList& folders,
                                    const std::string& file) {
     std::int64_t item = -1;
@@ -82,7 +82,7 @@ void FindFileWindow::setUpTable() {
     QObject::connect(table.selectionModel(), &QItemSelectionModel::selectionChanged, this,
                      &FindFileWindow::updateEnabling);
     QObject::connect(&table, &QTableView::doubleClicked, this, &FindFileWindow::showGenerations);
-    // The default button would look for files again.
+    // Otherwise the default button would start another search.
     for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
         auto* shortcut = new QShortcut(key, &table, nullptr, nullptr, Qt::WidgetShortcut);
         QObject::connect(shortcut, &QShortcut::activated, this, &FindFileWindow::showGenerations);
@@ -154,7 +154,7 @@ void FindFileWindow::cancel() {
 
 void FindFileWindow::end() {
     showProgress();
-    // For the keyboard, which leads to a row without selecting it.
+    // For keyboard users: focusing the table doesn't select a row.
     if (!selectedFile() && found_.rowCount() > 0)
         ui_->tableFound->selectRow(0);
 }
@@ -224,7 +224,7 @@ void FindFileWindow::restore() {
                               std::nullopt);
 }
 
-/// Escape ends the search, and without one closes the window.
+/// Escape cancels a running search; otherwise it closes the window.
 void FindFileWindow::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape && isSearching())
         cancel();

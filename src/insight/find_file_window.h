@@ -20,27 +20,28 @@ namespace Ui {
 class FindFileWindow;
 }
 
-/// Looks for files by their names in what sets hold. Results appear as they are found; the search
-/// runs in slices, and gives the agent's views back when it ends, is cancelled or the window goes.
+/// Searches the content of sets for files by name. Results appear as they are found; the search
+/// runs in slices, and releases the agent's views when it ends or is cancelled, or when the window
+/// is destroyed.
 class FindFileWindow : public QDialog {
     Q_OBJECT
 public:
-    /// Where the session is; raises what it raises.
+    /// Returns the session; throws what getting it throws.
     using Connect = std::function<boost::shared_ptr<hessiancln::ClientConnection>()>;
 
     explicit FindFileWindow(Connect connect, QWidget* parent = nullptr);
     ~FindFileWindow() override;
 
-    /// The sets to choose from.
+    /// The sets offered for selection.
     void setSetNames(const insight::SetNames& names);
-    /// Chooses one of them; all if it isn't there.
+    /// Selects one of them; all if it isn't listed.
     void chooseSet(std::int32_t setId);
 
     bool isSearching() const { return slices_.isRunning(); }
 
 signals:
-    /// The file at the end of the path, as it was at a time (seconds since 1970 UTC), or as it was
-    /// last.
+    /// Requests a restore of the file at the path, as of a time (seconds since 1970 UTC), or its
+    /// latest version.
     void restoreRequested(std::int32_t setId, const QStringList& path,
                           std::optional<std::int32_t> upTo);
 
@@ -63,7 +64,7 @@ private:
     void restore();
     std::vector<std::int32_t> chosenSets() const;
     insight::FileSearch::View openView(std::int32_t setId) const;
-    /// Null if none is selected.
+    /// Null without a selection.
     const insight::FoundFile* selectedFile() const;
 
     Connect connect_;

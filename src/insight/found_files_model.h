@@ -7,7 +7,7 @@
 #include "insight/file_search.h"
 #include "insight/row_index.h"
 
-/// What a search has found by now.
+/// The files found so far by a search.
 class FoundFilesModel : public QAbstractTableModel {
     Q_OBJECT
 public:
@@ -15,9 +15,9 @@ public:
 
     using QAbstractTableModel::QAbstractTableModel;
 
-    /// Starts over with another search, which has to outlive its rows; null shows none.
+    /// Switches to another search, which must outlive its rows; null shows none.
     void showSearch(insight::FileSearch* search, insight::SetNames names);
-    /// Takes in what the search has found since.
+    /// Adds the files found since the last update.
     void update();
 
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -33,5 +33,5 @@ private:
 
     insight::FileSearch* search_ = nullptr;
     insight::SetNames names_;
-    int rows_ = 0; ///< that views know of
+    int rows_ = 0; ///< number known to views
 };

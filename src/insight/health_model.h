@@ -5,7 +5,7 @@
 #include "insight/health_monitor.h"
 #include "models/record_table_model.h"
 
-/// The sets with their health, a row each, in the order in which they are given.
+/// The sets with their health, one row each, in the given order.
 class BackupHealthModel : public models::RecordTableModel<insight::HealthRow> {
     Q_OBJECT
 public:
@@ -27,7 +27,7 @@ protected:
     QVariant rowData(const insight::HealthRow& row, int role) const override;
 };
 
-/// The runs to come, soonest first.
+/// The upcoming runs, soonest first.
 class NextRunsModel : public models::RecordTableModel<insight::PlannedRun> {
     Q_OBJECT
 public:

@@ -20,7 +20,7 @@ bool isBackup(const activity_log_info& row) {
     return row.type == ActivityType::Backup || row.type == ActivityType::CDPBackup;
 }
 
-/// Whether what was read of a set may have become another.
+/// Whether data read for a set may be out of date.
 bool hasChanged(const backup_set_info& before, const backup_set_info& now) {
     return before.schedule_id != now.schedule_id || before.last_backup != now.last_backup ||
            before.last_successful_backup != now.last_successful_backup ||

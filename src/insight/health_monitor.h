@@ -20,45 +20,45 @@
 
 namespace insight {
 
-/// A set and how it is.
+/// A set and its health.
 struct HealthRow {
     SetFacts facts;
     SetHealth health;
-    std::int32_t leastGenerations = -1; ///< of an item; -1 if that isn't known, or without items
+    std::int32_t leastGenerations = -1; ///< of an item; -1 if unknown, or without items
     std::int32_t mostGenerations = 0;
-    bool isRead = false;                   ///< all there is was asked for
+    bool isRead = false;                   ///< all available data was requested
     std::int64_t judgedAt = 0;             ///< seconds since 1970 UTC
-    std::shared_ptr<const KnownPlan> plan; ///< what the facts point to
+    std::shared_ptr<const KnownPlan> plan; ///< plan that the facts point to
 };
 
-/// Knows how all sets are. It is fed with what the window asks for anyway, and asks the agent for
-/// the rest, in slices, only while it is watched.
+/// Tracks the health of all sets. It receives the data that the window requests anyway, and
+/// requests the rest from the agent, in slices, only while it is watched.
 class HealthMonitor : public QObject {
     Q_OBJECT
 public:
-    /// Gives seconds since 1970 UTC.
+    /// Returns seconds since 1970 UTC.
     using Clock = std::function<std::int64_t()>;
 
     HealthMonitor(HealthReader::Connect connect, Clock clock, QObject* parent = nullptr);
 
-    /// What each heartbeat brings.
+    /// Takes the data read on each heartbeat.
     void takeSets(std::vector<hessiancln::backup_set_info> sets);
     void takeActivities(const std::vector<hessiancln::activity_log_info>& log,
                         const std::vector<hessiancln::running_activity_info>& running);
-    /// The session has ended: nothing is known.
+    /// Discards everything at the end of the session.
     void clear();
 
-    /// From now on reads what is missing, and what is new of a set that changes.
+    /// Starts reading missing data, and new data for sets that change.
     void watch();
-    /// No longer. What is under way is given up.
+    /// Stops that, and cancels reading in progress.
     void unwatch();
-    /// Gives up what is under way; a set that changes is still read.
+    /// Cancels reading in progress; sets that change are still read.
     void cancelReading();
-    /// The schedule of the set was edited.
+    /// Call after the schedule of the set was edited.
     void scheduleChanged(std::int32_t setId);
 
     bool isReading() const { return slices_.isRunning(); }
-    /// Sets that were read in this go, and all of it.
+    /// Number of sets read in this pass, and the total.
     int readSets() const { return total_ - static_cast<int>(reader_.left()); }
     int setsToRead() const { return total_; }
 
@@ -66,15 +66,15 @@ public:
     const std::vector<HealthRow>& rows() const { return rows_; }
     HealthCount count() const;
     HealthClock healthClock() const;
-    /// The runs of the coming 14 days.
+    /// The runs of the next 14 days.
     std::vector<PlannedRun> nextRuns() const;
     SetNames names() const;
 
 signals:
     void changed();
-    /// Some sets were read, or the reading has ended.
+    /// Some sets were read, or reading has ended.
     void progressed();
-    /// A set couldn't be read; the others go on.
+    /// A set couldn't be read; reading continues with the others.
     void failed(const QString& text);
 
 private:

@@ -24,13 +24,13 @@ class ClientConnection;
 
 namespace insight {
 
-/// A schedule that was read.
+/// A schedule read from the agent.
 struct KnownPlan {
     SchedulePlan plan;
     std::optional<std::int64_t> interval; ///< the longest one, in seconds
 };
 
-/// What the list of sets doesn't say of a set.
+/// Details of a set that the list of sets doesn't include.
 struct SetDetails {
     std::shared_ptr<const KnownPlan> plan; ///< null if the set has no schedule
     std::optional<BackupAttempt> lastAttempt;
@@ -38,32 +38,32 @@ struct SetDetails {
     std::int32_t mostGenerations = 0;
 };
 
-/// Asks the agent about sets, one call at a time. A schedule that sets share is read once.
+/// Queries the agent about sets, one call at a time. Reads a schedule shared by sets only once.
 class HealthReader {
 public:
     using Connection = boost::shared_ptr<hessiancln::ClientConnection>;
-    /// Where the session is; raises what it raises.
+    /// Returns the session's connection; throws what getting it throws.
     using Connect = std::function<Connection()>;
 
     explicit HealthReader(Connect connect);
     ~HealthReader();
 
-    /// Puts a set at the end of those that are to be read, unless it is among them. Its schedule
-    /// is read again.
+    /// Appends a set to the queue of sets to read, unless it is already in it. Its schedule is read
+    /// again.
     void add(const hessiancln::backup_set_info& set);
-    /// Nothing is left to read.
+    /// Empties the queue. Details read so far are kept.
     void clear();
-    /// The sets that are still to be read.
+    /// Number of sets still to read.
     std::size_t left() const { return waiting_.size(); }
 
-    /// Makes the next call. Returns the id of a set that was read to its end by it. What a call
-    /// raises leaves the step, and ends the set, which stays without details; before the first set
-    /// it ends all of them.
+    /// Makes the next call. Returns the id of a set if the call completed it. An exception of a
+    /// call propagates and skips the set, which stays without details; before the first set it
+    /// skips all sets.
     std::optional<std::int32_t> step();
 
-    /// Null if the set wasn't read yet.
+    /// Null if the set hasn't been read yet.
     const SetDetails* detailsOf(std::int32_t setId) const;
-    /// After so many hours the agent makes up for a missed start; 0 until it was read.
+    /// Hours within which the agent catches up on a missed start; 0 until read.
     std::int32_t missedHours() const { return missedHours_.value_or(0); }
 
 private:
@@ -74,7 +74,7 @@ private:
     void askForMissedHours();
 
     Connect connect_;
-    std::deque<hessiancln::backup_set_info> waiting_; ///< the first one is being read
+    std::deque<hessiancln::backup_set_info> waiting_; ///< the first one is currently being read
     Stage stage_ = Stage::open;
     boost::shared_ptr<hessiancln::ClientConfiguration> configuration_;
     boost::shared_ptr<hessiancln::BackupSet> set_;

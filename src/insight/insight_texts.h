@@ -11,12 +11,12 @@
 #include "insight/activity_pace.h"
 #include "insight/set_health.h"
 
-/// What people read of the health of their sets and of running work. Durations are in seconds.
+/// Texts for users about the health of sets and about running work. Durations are in seconds.
 namespace insight {
 
 QString stateText(HealthState state);
 
-/// The name of the picture beside the state, as a resource.
+/// The resource name of the picture for the state.
 QString stateIcon(HealthState state);
 
 /// As in "2 days"; the largest unit only, rounded down.
@@ -28,16 +28,16 @@ QString ageText(std::int64_t seconds);
 /// How a backup ended, as in "3 errors, 1 warning".
 QString outcomeText(std::int32_t errors, std::int32_t warnings);
 
-/// Why the set is in its state, and what to do about it.
+/// Why the set is in its state, and how to fix it.
 QString helpText(const SetFacts& facts, const SetHealth& health, const HealthClock& clock);
 
-/// One line on all sets, as in "2 of 7 sets need attention".
+/// A one-line summary of all sets, as in "2 of 7 sets need attention".
 QString summaryText(const HealthCount& count);
 
-/// The name of the picture beside it, as a resource.
+/// The resource name of the picture for the summary.
 QString summaryIcon(const HealthCount& count);
 
-/// How an activity gets on, as in "3.20 MB/s, 4 minutes left"; empty if nothing is known yet.
+/// The speed of an activity, as in "3.20 MB/s, 4 minutes left"; empty if still unknown.
 QString paceText(const Pace& pace);
 
 /// How an activity ended, as in "Backup of 'Documents' ended with 3 errors". `what` is the name of

@@ -11,8 +11,8 @@ namespace insight {
 
 namespace {
 
-/// Separated by spaces that don't stand in quotes. Quotes are kept out; one that isn't closed ends
-/// with the text.
+/// Splits at spaces outside quotes. Quotes are removed; an unclosed quote extends to the end of the
+/// text.
 QStringList tokensOf(const QString& text) {
     QStringList tokens;
     QString token;
@@ -37,13 +37,13 @@ bool isKeyword(const QString& token, QLatin1String english, const QString& trans
            token.compare(translated, Qt::CaseInsensitive) == 0;
 }
 
-/// Puts what follows the keyword and a colon into `terms`; false if the token is another one.
+/// Adds the text after the keyword and a colon to `terms`; false if the token doesn't match.
 bool takeTerm(const QString& token, QLatin1String english, const QString& translated,
               std::vector<std::string>& terms) {
     const int colon = token.indexOf(QLatin1Char(':'));
     if (colon < 1 || !isKeyword(token.left(colon), english, translated))
         return false;
-    // While it is being typed there is nothing behind the colon yet.
+    // Nothing follows the colon yet while the user is typing.
     if (const QString term = token.mid(colon + 1); !term.isEmpty())
         terms.push_back(folded(term));
     return true;

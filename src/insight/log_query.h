@@ -9,12 +9,12 @@
 
 namespace insight {
 
-/// What is typed into the search line of a log: words that all have to be found, in any case.
+/// The search line of a log: words that must all be found, ignoring case.
 ///
-/// "name" looks in all columns, "set:name" in the name of the backup set, "type:name" in the first
+/// "name" searches all columns, "set:name" the name of the backup set, "type:name" the first
 /// column; "errors" and "warnings" keep rows that have some. A text in double quotes is one word.
 struct LogQuery {
-    std::vector<std::string> words; ///< folded, as are the next
+    std::vector<std::string> words; ///< case-folded, like the next members
     std::vector<std::string> sets;
     std::vector<std::string> types;
     bool withErrors = false;
@@ -24,7 +24,7 @@ struct LogQuery {
     friend bool operator==(const LogQuery&, const LogQuery&) = default;
 };
 
-/// The words that stand for something, beside the English ones; as the user's language has them.
+/// The keywords in the user's language, accepted in addition to the English ones.
 struct LogKeywords {
     QString set;
     QString type;
@@ -36,7 +36,7 @@ struct LogKeywords {
 
 LogQuery parseLogQuery(const QString& text, const LogKeywords& keywords);
 
-/// Without regard to case, in UTF-8.
+/// Case-folded, in UTF-8.
 std::string folded(const QString& text);
 
 } // namespace insight

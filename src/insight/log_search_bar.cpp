@@ -25,7 +25,7 @@ namespace {
 constexpr std::array severities{insight::Severity::info, insight::Severity::warning,
                                 insight::Severity::error};
 
-/// The records that are selected, whose rows another filter moves.
+/// The selected records, whose rows change with the filter.
 std::vector<std::size_t> selectedRecords(const QTableView& table, const insight::SearchedLog& log) {
     std::vector<std::size_t> records;
     for (const QModelIndex& index : table.selectionModel()->selectedRows())
@@ -121,7 +121,7 @@ void LogSearchBar::exportRows() {
 }
 
 void LogSearchBar::keyPressEvent(QKeyEvent* event) {
-    // In a dialog the key would press the default button.
+    // In a dialog the key would trigger the default button.
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         event->accept();
     else

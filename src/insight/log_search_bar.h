@@ -15,19 +15,19 @@ namespace Ui {
 class LogSearchBar;
 }
 
-/// A line to search a log in, with a filter for its severity, the count of what is shown and
-/// hidden, and a way into a file.
+/// A search line for a log, with a severity filter, the numbers of shown and hidden rows, and an
+/// export to a file.
 class LogSearchBar : public QWidget {
     Q_OBJECT
 public:
     explicit LogSearchBar(QWidget* parent = nullptr);
     ~LogSearchBar() override;
 
-    /// From now on filters the log that `table` shows; both have to outlive this. Also lets
-    /// selected rows be copied.
+    /// Filters the log in `table` from now on; both must outlive this. Also enables copying
+    /// selected rows.
     void attach(QTableView& table, std::unique_ptr<insight::SearchedLog> log);
 
-    /// What "set:" looks in, by the keys that the rows have; the search is done again if they have
+    /// The names that "set:" searches, by the keys of the rows; searches again if they have
     /// changed.
     void setSetNames(insight::SetNames names);
 

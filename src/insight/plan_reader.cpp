@@ -16,7 +16,7 @@ using hessiancln::WeeklyScheduleDetail;
 PlanReader::PlanReader(boost::shared_ptr<hessiancln::Schedule> schedule) {
     calls_.emplace_back([this, schedule = std::move(schedule)] {
         const auto details = schedule->getDetails();
-        // The calls refer to the parts, which stay where they are from here on.
+        // The calls refer to the parts, which don't move from here on.
         plan_.details.resize(details.size());
         for (std::size_t i = 0; i < details.size(); ++i)
             if (details[i])

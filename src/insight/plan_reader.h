@@ -16,18 +16,19 @@ class ScheduleDetail;
 
 namespace insight {
 
-/// Reads a schedule from the agent, one call at a time, so that a window stays alive meanwhile.
+/// Reads a schedule from the agent one call at a time, so that a window stays responsive.
 class PlanReader {
 public:
     explicit PlanReader(boost::shared_ptr<hessiancln::Schedule> schedule);
-    PlanReader(const PlanReader&) = delete; // the calls to come refer to it
+    PlanReader(const PlanReader&) = delete; // pending calls refer to it
     PlanReader& operator=(const PlanReader&) = delete;
 
     bool isDone() const { return calls_.empty(); }
-    /// Makes one call, unless all is read. Raises what the call raises, and has read nothing then.
+    /// Makes one call unless everything has been read. Throws what the call throws; nothing is read
+    /// then.
     void step();
 
-    /// What has been read by now.
+    /// The part read so far.
     const SchedulePlan& plan() const { return plan_; }
 
 private:

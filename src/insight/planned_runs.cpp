@@ -11,7 +11,7 @@ namespace insight {
 namespace {
 
 constexpr double secondsADay = 86'400;
-/// What is shorter couldn't be seen, nor hit with a mouse.
+/// Anything shorter would be hard to see and to click.
 constexpr double shortestPart = 1.0 / 72;
 
 std::vector<PlannedRun> runsOf(const ScheduledSet& set, std::int64_t from, std::int64_t until,
@@ -26,7 +26,7 @@ std::vector<PlannedRun> runsOf(const ScheduledSet& set, std::int64_t from, std::
     return runs;
 }
 
-/// `runs` stand by their starts.
+/// `runs` must be sorted by start.
 void markOverlaps(std::vector<PlannedRun>& runs) {
     for (std::size_t i = 0; i < runs.size(); ++i)
         for (std::size_t j = i + 1; j < runs.size() && runs[j].start < runs[i].end; ++j)
@@ -38,7 +38,7 @@ double partOfDay(const QDateTime& time) {
     return time.time().msecsSinceStartOfDay() / 1000.0 / secondsADay;
 }
 
-/// The first lane that is free from `begin` on; lanes end where their last part does.
+/// The first lane that is free from `begin` on; a lane ends with its last part.
 int takeLane(std::vector<double>& ends, double begin, double end) {
     const auto free = std::ranges::find_if(ends, [begin](double last) { return last <= begin; });
     const auto lane = static_cast<int>(free - ends.begin());

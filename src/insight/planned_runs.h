@@ -23,34 +23,34 @@ struct ScheduledSet {
     std::int32_t setId = 0;
     std::string name;
     const SchedulePlan* plan = nullptr;      ///< not null
-    std::int64_t duration = assumedDuration; ///< that a backup is likely to take, in seconds
+    std::int64_t duration = assumedDuration; ///< likely duration of a backup, in seconds
 };
 
-/// A backup to come. Times are seconds since 1970 UTC.
+/// An upcoming backup. Times are seconds since 1970 UTC.
 struct PlannedRun {
     std::int32_t setId = 0;
     std::string name;
     std::int64_t start = 0;
-    std::int64_t end = 0;  ///< when it is likely to be over: after the start, and not after a stop
+    std::int64_t end = 0;  ///< likely end: after the start, and not after a stop
     bool overlaps = false; ///< with a run of another set
 };
 
-/// The runs of all sets that start from `from` on and before `until`, by their starts; those of one
-/// instant in the order of the sets.
+/// The runs of all sets that start at or after `from` and before `until`, sorted by start;
+/// simultaneous ones are in the order of the sets.
 std::vector<PlannedRun> plannedRuns(const std::vector<ScheduledSet>& sets, std::int64_t from,
                                     std::int64_t until, const QTimeZone& zone);
 
-/// A part of a run that lies within one day.
+/// The part of a run within one day.
 struct DayPart {
-    std::size_t run = 0; ///< its place among the runs
-    int day = 0;         ///< 0 for the first one
-    double begin = 0;    ///< in parts of the day, by the clock on the wall
+    std::size_t run = 0; ///< index of the run
+    int day = 0;         ///< 0 for the first day
+    double begin = 0;    ///< fraction of the day, in local time
     double end = 0;
-    int lane = 0; ///< runs of one time stand beside each other
+    int lane = 0; ///< concurrent runs are in separate lanes
 };
 
-/// How the runs look in a table of `days` days from the local day of `from` on. `lanes` gets the
-/// number of lanes of each day.
+/// Layout of the runs in a table of `days` days, starting with the local day of `from`. `lanes`
+/// receives the number of lanes of each day.
 std::vector<DayPart> dayParts(const std::vector<PlannedRun>& runs, std::int64_t from, int days,
                               const QTimeZone& zone, std::vector<int>& lanes);
 

@@ -21,7 +21,7 @@ namespace {
 
 using wizards::RestorePages;
 
-/// At least so many have room beside each other.
+/// The minimum number of characters that fit on a line.
 constexpr int charsOfLine = 60;
 
 RestoreTarget targetOf(const RestoreLocationPage& page) {
@@ -58,7 +58,7 @@ RestoreSummary summaryOf(const RestorePages& pages) {
 void addRestoreSummary(const RestorePages& pages) {
     for (QWizardPage* page :
          {static_cast<QWizardPage*>(&pages.location), static_cast<QWizardPage*>(&pages.directory)})
-        new RestoreSummaryBox(pages, *page); // the page owns it
+        new RestoreSummaryBox(pages, *page); // owned by the page
 }
 
 } // namespace insight
@@ -70,7 +70,7 @@ RestoreSummaryBox::RestoreSummaryBox(const wizards::RestorePages& pages, QWizard
     , ui_(std::make_unique<Ui::RestoreSummaryBox>()) {
     ui_->setupUi(this);
     reserveRoom();
-    // Above the space at the end of the page, where there is one.
+    // Above the spacer at the end of the page, if there is one.
     auto* layout = static_cast<QBoxLayout*>(page.layout());
     const int last = layout->count() - 1;
     layout->insertWidget(layout->itemAt(last)->spacerItem() ? last : last + 1, this);
@@ -81,7 +81,7 @@ RestoreSummaryBox::RestoreSummaryBox(const wizards::RestorePages& pages, QWizard
 
 RestoreSummaryBox::~RestoreSummaryBox() = default;
 
-/// A wizard takes its height from its pages before the texts are there, and doesn't grow for them.
+/// A wizard determines its height before the texts are set, and doesn't grow for them.
 void RestoreSummaryBox::reserveRoom() {
     insight::RestoreSummary longest;
     longest.chosen = {9'999'999, 999'999, true, 0, 1};

@@ -15,12 +15,12 @@ namespace wizards {
 struct RestorePages;
 }
 
-/// Sums up on a page of the restore wizard what is about to happen, as long as the wizard may end
-/// there. It asks the agent for nothing.
+/// Summarises the restore on a page of the wizard if it can be the last page. Sends no requests to
+/// the agent.
 class RestoreSummaryBox : public QGroupBox {
     Q_OBJECT
 public:
-    /// Puts itself into the page, which owns it.
+    /// Inserts itself into the page, which owns it.
     RestoreSummaryBox(const wizards::RestorePages& pages, QWizardPage& page);
     ~RestoreSummaryBox() override;
 
@@ -38,7 +38,7 @@ private:
 
 namespace insight {
 
-/// Gives each page on which the wizard may end such a box.
+/// Adds such a box to each page that can be the last one.
 void addRestoreSummary(const wizards::RestorePages& pages);
 
 } // namespace insight

@@ -21,7 +21,7 @@ namespace insight {
 
 enum class Severity : std::int8_t { info, warning, error };
 
-/// What lets rows of a log through.
+/// Which rows of a log are shown.
 struct LogFilter {
     LogQuery query;
     Severity least = Severity::info;
@@ -30,19 +30,19 @@ struct LogFilter {
     friend bool operator==(const LogFilter&, const LogFilter&) = default;
 };
 
-/// The names of backup sets in UTF-8, by what a row knows its set by: the id of the set, or that of
-/// an activity.
+/// The names of backup sets in UTF-8, by the key in each row: the id of the set or that of an
+/// activity.
 using SetNames = std::map<std::int32_t, std::string>;
 
-/// What a log row is beside its columns.
+/// Properties of a log row apart from its columns.
 struct RowTraits {
     Severity severity = Severity::info;
-    std::int32_t setKey = 0; ///< of its set among the names
+    std::int32_t setKey = 0; ///< key of its set in the names
     bool hasErrors = false;
     bool hasWarnings = false;
 };
 
-/// The texts of all rows of a log, side by side, to be searched at each key.
+/// The concatenated texts of all rows of a log, for a search on every key press.
 class RowIndex {
 public:
     template <class R>
@@ -51,13 +51,13 @@ public:
 
     std::size_t size() const { return rows_.size(); }
 
-    /// The rows that the filter lets through, ascending.
+    /// The rows that pass the filter, ascending.
     std::vector<std::uint32_t> matches(const LogFilter& filter, const SetNames& names) const;
 
 private:
     struct Row {
         std::size_t begin = 0; ///< of its texts
-        std::size_t type = 0;  ///< where the first column ends
+        std::size_t type = 0;  ///< end of the first column
         RowTraits traits;
     };
 
@@ -95,7 +95,7 @@ void RowIndex::build(const std::vector<R>& records,
                     found = known.emplace(label->number, folded(column.text(record))).first;
                 texts_ += found->second;
             }
-            // No word goes beyond the end of a column.
+            // Prevents matches across columns.
             texts_ += '\n';
             if (i == 0)
                 row.type = texts_.size();

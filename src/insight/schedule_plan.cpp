@@ -19,7 +19,7 @@ using hessiancln::time_in_day;
 
 constexpr std::int64_t secondsADay = 86'400;
 constexpr std::int64_t longestStopDays = 7;
-/// Most schedules have a start close by, and a long look costs many days.
+/// Most schedules have a start nearby, and a wide range has many days to examine.
 constexpr std::array looks{2 * secondsADay, 8 * secondsADay, 70 * secondsADay};
 
 std::int64_t secondsOf(const time_in_day& time) {
@@ -31,7 +31,7 @@ bool isTimeOfDay(const time_in_day& time) {
            time.second >= 0 && time.second < 60;
 }
 
-/// From midnight; nothing if the part has no end that follows its start.
+/// Seconds from midnight; no value if the part has no end after its start.
 std::optional<std::int64_t> endOf(const PlanDetail& detail) {
     if (!detail.end)
         return std::nullopt;
@@ -47,7 +47,7 @@ bool runsOn(const PlanDetail& detail, const QDate& date) {
     return detail.type == ScheduleDetailType::Monthly && detail.days == date.day();
 }
 
-/// The instant of a local time, `seconds` after the start of `date` by the clock on the wall.
+/// The instant `seconds` of local clock time after the start of `date`.
 std::int64_t instantOf(const QDate& date, std::int64_t seconds, const QTimeZone& zone) {
     const std::int64_t local = QDateTime(date, QTime(0, 0), Qt::UTC).toSecsSinceEpoch() + seconds;
     const auto offsetAt = [&zone](std::int64_t instant) {
@@ -60,7 +60,7 @@ std::int64_t instantOf(const QDate& date, std::int64_t seconds, const QTimeZone&
     return isAfter && !isBefore ? local - after : local - before;
 }
 
-/// What a part starts on a day on which it runs.
+/// Adds the starts of a part on a day on which it runs.
 void addStartsOf(const PlanDetail& detail, const QDate& date, const QTimeZone& zone,
                  std::vector<PlannedStart>& starts) {
     const std::int64_t first = secondsOf(detail.start);
@@ -71,7 +71,7 @@ void addStartsOf(const PlanDetail& detail, const QDate& date, const QTimeZone& z
     starts.push_back({instantOf(date, first, zone), stop});
     if (detail.hourly <= 0 || detail.hourly > 24)
         return;
-    // The next day has a series of its own.
+    // The next day has its own series.
     const std::int64_t last = std::min(end.value_or(secondsADay - 1), first + secondsADay - 1);
     const std::int64_t step = std::int64_t(detail.hourly) * 3600;
     for (std::int64_t at = first + step; at <= last; at += step)
@@ -83,7 +83,7 @@ void addStartsOf(const PlanDetail& detail, const QDate& date, const QTimeZone& z
 std::vector<PlannedStart> startsBetween(const SchedulePlan& plan, std::int64_t from,
                                         std::int64_t until, const QTimeZone& zone) {
     std::vector<PlannedStart> starts;
-    // A series may begin the day before, and days begin at other instants elsewhere.
+    // A series may begin the day before, and days begin at different instants in other time zones.
     const QDate first = QDateTime::fromSecsSinceEpoch(from, Qt::UTC).date().addDays(-2);
     const QDate last = QDateTime::fromSecsSinceEpoch(until, Qt::UTC).date().addDays(1);
     for (const PlanDetail& detail : plan.details) {
@@ -129,7 +129,7 @@ std::optional<std::int64_t> longestInterval(const SchedulePlan& plan) {
     const bool hasMonths = std::ranges::any_of(plan.details, [](const PlanDetail& detail) {
         return detail.type == ScheduleDetailType::Monthly;
     });
-    // Any year shows all lengths of months but the longest gap; any two weeks show a week.
+    // 430 days include the longest gap between days of the month, two weeks that between weekdays.
     const std::int64_t from = QDateTime(QDate(2023, 1, 1), QTime(0, 0), Qt::UTC).toSecsSinceEpoch();
     const std::int64_t days = hasMonths ? 430 : 15;
     const auto starts = startsBetween(plan, from, from + days * secondsADay, QTimeZone::utc());

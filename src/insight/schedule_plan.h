@@ -11,14 +11,15 @@
 #include "api/schedule_detail_type.h"
 #include "api/time_in_day.h"
 
-/// When a schedule starts backups. Schedules say local times; instants are seconds since 1970 UTC.
+/// When a schedule starts backups. Schedules are in local time; instants are seconds since 1970
+/// UTC.
 namespace insight {
 
-/// One part of a schedule, as the agent keeps it.
+/// One part of a schedule, in the agent's format.
 struct PlanDetail {
     hessiancln::ScheduleDetailType type{};
     hessiancln::time_in_day start;
-    /// Counted from the day of the start, so that its hour may be above 23.
+    /// Relative to the day of the start, so its hour may exceed 23.
     std::optional<hessiancln::time_in_day> end;
     std::int32_t hourly = 0; ///< hours between two starts; 0 for one start a day
     std::int32_t tasks = 0;
@@ -29,7 +30,7 @@ struct SchedulePlan {
     std::vector<PlanDetail> details;
 };
 
-/// A backup that a schedule starts.
+/// A backup started by a schedule.
 struct PlannedStart {
     std::int64_t start = 0;
     std::optional<std::int64_t> stop; ///< when the agent gives up
@@ -37,22 +38,22 @@ struct PlannedStart {
     friend bool operator==(const PlannedStart&, const PlannedStart&) = default;
 };
 
-/// The starts from `from` on and before `until`, in order, none twice. A day that a month doesn't
-/// have is skipped. A time that the clock skips comes as much later as the clock was put forward;
-/// of a time that comes twice the first counts. Kinds of schedule other than weekly and monthly
-/// say nothing about their times, and so do parts whose times are none.
+/// The starts at or after `from` and before `until`, in order and without duplicates. A day that a
+/// month doesn't have is skipped. A time skipped by a clock change is delayed by the length of the
+/// change; of a repeated time, the first one counts. Kinds of schedule other than weekly and
+/// monthly have no known times, nor do parts with invalid times.
 std::vector<PlannedStart> startsBetween(const SchedulePlan& plan, std::int64_t from,
                                         std::int64_t until, const QTimeZone& zone);
 
-/// The last start at or before `time`; nothing if there was none in the 70 days before.
+/// The last start at or before `time`; no value if there was none in the previous 70 days.
 std::optional<std::int64_t> lastStart(const SchedulePlan& plan, std::int64_t time,
                                       const QTimeZone& zone);
 
-/// The first start at or after `from`; nothing if there is none in the 70 days to come.
+/// The first start at or after `from`; no value if there is none in the next 70 days.
 std::optional<std::int64_t> nextStart(const SchedulePlan& plan, std::int64_t from,
                                       const QTimeZone& zone);
 
-/// The longest time between a start and the next one, in seconds; nothing without starts.
+/// The longest time between two consecutive starts, in seconds; no value without starts.
 std::optional<std::int64_t> longestInterval(const SchedulePlan& plan);
 
 } // namespace insight

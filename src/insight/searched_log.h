@@ -22,24 +22,24 @@ namespace insight {
 RowTraits traitsOf(const hessiancln::activity_log_info& row);
 RowTraits traitsOf(const hessiancln::event_log_info& row);
 
-/// A log whose rows can be searched and exported, whatever they are.
+/// A log that can be searched and exported, independent of the type of its rows.
 class SearchedLog {
 public:
     virtual ~SearchedLog() = default;
 
-    /// Shows what both let through, now and after each refresh.
+    /// Shows the rows that pass the filter, now and after each refresh.
     virtual void setFilter(const LogFilter& filter, const SetNames& names) = 0;
     virtual const QAbstractItemModel& model() const = 0;
     virtual int shownRows() const = 0;
     virtual int allRows() const = 0;
-    /// The place of a shown row among all rows, and back; -1 for one that is hidden.
+    /// Converts a shown row to its index among all rows, and back; -1 for a hidden row.
     virtual std::size_t recordOf(int row) const = 0;
     virtual int rowOf(std::size_t record) const = 0;
-    /// The rows that are shown, with their header, for a spreadsheet.
+    /// The shown rows with their header, for a spreadsheet.
     virtual QByteArray csv() const = 0;
 };
 
-/// One over a model of records.
+/// A searched log over a model of records.
 template <class R>
 class SearchedRecords final : public SearchedLog {
 public:
@@ -51,8 +51,8 @@ public:
             model_.setFilter({});
             return;
         }
-        // The texts of the rows are made once after each refresh, not at each key. The model may
-        // outlive this, or the other way round.
+        // The texts of the rows are built once after each refresh, not on each key press. Either of
+        // the model and this object may outlive the other.
         model_.setFilter([texts = texts_, columns = model_.recordColumns(), filter,
                           names](const std::vector<R>& records, std::uint64_t version) {
             if (texts->version != version)
@@ -71,14 +71,14 @@ public:
 private:
     struct Texts {
         RowIndex index;
-        std::uint64_t version = 0; ///< of the list that they were made from
+        std::uint64_t version = 0; ///< version of the list they were built from
     };
 
     models::RecordTableModel<R>& model_;
     std::shared_ptr<Texts> texts_ = std::make_shared<Texts>();
 };
 
-/// A cell as a spreadsheet reads it.
+/// The value of a cell for a spreadsheet.
 template <class R>
 QString exportedCell(const models::RecordColumn<R>& column, const R& record) {
     const models::Cell cell = column.cell ? column.cell(record) : models::Cell();

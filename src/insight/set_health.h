@@ -17,16 +17,16 @@ namespace insight {
 /// Worst first.
 enum class HealthState { NeverBackedUp, Failed, Overdue, NotInSync, Recovered, Running, Safe };
 
-/// Why a set is in its state, where there is more than one way into it.
+/// Why a set is in its state, if there are several possible causes.
 enum class HealthReason {
     none,
     hasErrors,   ///< the last backup ended with errors
     noSuccess,   ///< the last backup didn't succeed
     isTooOld,    ///< the last good backup is older than two intervals
-    missedStart, ///< the last start is over by more than the agent's time for missed schedules
+    missedStart, ///< the last start was missed by more than the agent's limit for missed schedules
 };
 
-/// A backup that has ended.
+/// A completed backup.
 struct BackupAttempt {
     std::int32_t activityId = 0;
     std::int64_t start = 0;
@@ -35,41 +35,41 @@ struct BackupAttempt {
     std::int32_t warnings = 0;
 };
 
-/// What is known of a set.
+/// The known facts about a set.
 struct SetFacts {
     hessiancln::backup_set_info info;
     std::optional<BackupAttempt> lastAttempt;
-    const SchedulePlan* plan = nullptr;   ///< null until it has been read
-    std::optional<std::int64_t> interval; ///< the longest one of the plan, in seconds
-    bool isRunning = false;               ///< an activity works on the set
+    const SchedulePlan* plan = nullptr;   ///< null until read
+    std::optional<std::int64_t> interval; ///< the longest interval of the plan, in seconds
+    bool isRunning = false;               ///< an activity is working on the set
 };
 
-/// What a set is judged by.
+/// The reference values for judging a set.
 struct HealthClock {
     std::int64_t now = 0;
-    std::int32_t missedHours = 0; ///< after which the agent makes up for a missed start
+    std::int32_t missedHours = 0; ///< within which the agent catches up on a missed start
     QTimeZone zone;
 };
 
 struct SetHealth {
     HealthState state = HealthState::Safe;
-    /// The state but for the activity that runs.
+    /// The state apart from the running activity.
     HealthState beneath = HealthState::Safe;
     HealthReason reason = HealthReason::none;
-    /// False while the schedule of a scheduled set hasn't been read: it may be overdue.
+    /// False until the schedule of a scheduled set has been read: the set may be overdue.
     bool isSettled = true;
-    std::optional<std::int64_t> nextStart; ///< in the coming 70 days
+    std::optional<std::int64_t> nextStart; ///< in the next 70 days
 };
 
-/// Whether the agent backs the set up by itself.
+/// Whether the agent backs up the set automatically.
 bool isScheduled(const hessiancln::backup_set_info& info);
 
 SetHealth judge(const SetFacts& facts, const HealthClock& clock);
 
-/// Whether people should do something about it.
+/// Whether the user should act.
 bool needsAttention(const SetHealth& health);
 
-/// Whether `left` stands above `right` in a list that begins with the worst.
+/// Whether `left` precedes `right` in a list sorted from worst to best.
 bool isWorse(const SetHealth& left, const SetHealth& right);
 
 struct HealthCount {

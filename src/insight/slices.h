@@ -15,8 +15,8 @@ namespace insight {
 class Slices : public QObject {
     Q_OBJECT
 public:
-    /// `step` does the next piece and returns whether there is more to do. What it raises is for
-    /// it to catch.
+    /// `step` does the next piece of work and returns whether there is more. It must catch its own
+    /// exceptions.
     explicit Slices(std::function<bool()> step, QObject* parent = nullptr);
 
     void start();
@@ -24,9 +24,9 @@ public:
     bool isRunning() const { return timer_.isActive(); }
 
 signals:
-    /// After each slice.
+    /// Emitted after each slice.
     void progressed();
-    /// When a step had nothing left to do; not after `stop`.
+    /// Emitted when a step had nothing left to do; not after `stop`.
     void finished();
 
 private:

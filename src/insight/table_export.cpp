@@ -24,7 +24,7 @@ bool isNumber(const QString& text) {
     return ok;
 }
 
-/// Spreadsheets run what begins so, also from a file in which it stands in quotes.
+/// Spreadsheets execute texts with such a start, even if they are quoted in a file.
 bool looksLikeFormula(const QString& text) {
     if (text.isEmpty() || isNumber(text))
         return false;

@@ -11,36 +11,36 @@ class QAbstractItemModel;
 class QIODevice;
 class QMimeData;
 
-/// Tables that leave the program: to the clipboard, and to a file.
+/// Exports tables to the clipboard and to files.
 namespace insight {
 
-/// As people see it.
+/// As displayed.
 struct TextTable {
     QStringList header;
     QVector<QStringList> rows;
 };
 
-/// Rows of a model, in the order in which they are given. Columns are all of the model's.
+/// Rows of a model, in the given order, with all columns of the model.
 TextTable textTable(const QAbstractItemModel& model, const QVector<int>& rows);
 
-/// A line for each row, without the header, cells separated by tabs. A tab or a new line in a cell
+/// One line per row, without the header, cells separated by tabs. A tab or a newline in a cell
 /// becomes a space.
 QString tabbedText(const TextTable& table);
 
-/// A table with a header.
+/// Includes the header.
 QString htmlTable(const TextTable& table);
 
-/// Both, for the clipboard; the caller owns it.
+/// Both formats, for the clipboard; the caller owns the result.
 QMimeData* clipboardData(const TextTable& table);
 
-/// One line of CSV as RFC 4180 has it, with its end. A text that a spreadsheet would take for a
-/// formula gets an apostrophe in front; a number isn't one.
+/// One line of CSV as in RFC 4180, with its line end. A text that a spreadsheet would interpret as
+/// a formula is prefixed with an apostrophe; a number isn't a formula.
 QByteArray csvLine(const QStringList& cells);
 
-/// A time in seconds since 1970 UTC as ISO 8601 has it, local, with its offset from UTC.
+/// A time in seconds since 1970 UTC in ISO 8601 format, local, with its offset from UTC.
 QString isoTime(qint64 seconds);
 
-/// What a file in CSV begins with: the mark of UTF-8.
+/// The start of a CSV file: the UTF-8 byte order mark.
 QByteArray csvMark();
 
 } // namespace insight

@@ -115,7 +115,7 @@ void WeekPicture::paintBars(QPainter& painter) const {
         const QColor colour =
             overlaps ? QColor(0xda, 0x44, 0x53) : palette().color(QPalette::Highlight);
         painter.fillRect(bar, colour);
-        // Not by colour alone.
+        // Don't rely on colour alone.
         if (overlaps)
             painter.fillRect(bar, QBrush(Qt::white, Qt::BDiagPattern));
         const double line = fontMetrics().height();

@@ -8,15 +8,16 @@
 
 #include "insight/planned_runs.h"
 
-/// Seven days side by side, midnight at the top, with a bar for each run; bars of the same time
-/// stand beside each other, and those of an overlap are of another colour and hatched. What a bar
-/// is stands in its tool tip; the list of runs says the same in words.
+/// Seven days side by side, midnight at the top, with a bar for each run; bars for the same time
+/// are side by side, and overlapping ones are hatched in another colour. Tool tips describe the
+/// bars; the list of runs has the same information as text.
 class WeekPicture : public QWidget {
     Q_OBJECT
 public:
     explicit WeekPicture(QWidget* parent = nullptr);
 
-    /// Shows the runs of the seven days from the local day of `from` on, in seconds since 1970 UTC.
+    /// Shows the runs of seven days, starting with the local day of `from` (seconds since 1970
+    /// UTC).
     void showRuns(std::vector<insight::PlannedRun> runs, std::int64_t from);
 
     QSize minimumSizeHint() const override;

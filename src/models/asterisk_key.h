@@ -6,8 +6,8 @@ class QTreeView;
 
 namespace models {
 
-/// Has the asterisk key expand the current row of a view, for as long as the view lives. By itself
-/// a view expands all that is below the row, and so would fetch a whole disk.
+/// Makes the asterisk key expand the current row of a view, for the lifetime of the view. By
+/// default a view expands everything below the row, and so would fetch a whole disk.
 void expandOneLevelByAsterisk(QTreeView& view);
 
 } // namespace models

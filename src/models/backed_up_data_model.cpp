@@ -78,7 +78,7 @@ bool CBackedUpDataModel::canHaveChildren(const QModelIndex& index) const {
 }
 
 void CBackedUpDataModel::checkStateChanged(BackedUpNode& node) {
-    // The root, which nobody sees, has no index.
+    // The hidden root has no index.
     if (const QModelIndex index = indexOf(node); index.isValid())
         emit dataChanged(index, index);
     emit itemSelectionChanged();

@@ -19,7 +19,7 @@ namespace models {
 class CheckableNode;
 }
 
-/// Hears of changes in a tree of `BackedUpNode`.
+/// Is notified of changes in a tree of `BackedUpNode`.
 class IBackupDataViewSupport {
 public:
     virtual ~IBackupDataViewSupport() = default;
@@ -28,9 +28,9 @@ public:
     virtual void checkStateChanged(BackedUpNode& node) = 0;
 };
 
-/// What a backup set holds, as one view of the agent tells it, with check boxes of which the list
-/// for a restore or a deletion is made. A folder is fetched when somebody looks at its rows.
-/// Checking fetches nothing. Nothing is asked for by the constructor.
+/// The content of a backup set in one view of the agent, with check boxes that build the list for a
+/// restore or a deletion. A folder is fetched on the first access to its rows. Checking fetches
+/// nothing. The constructor sends no requests.
 class CBackedUpDataModel : public models::LazyTreeModel, public IBackupDataViewSupport {
     Q_OBJECT
 public:
@@ -38,29 +38,29 @@ public:
                                 QObject* parent = nullptr);
 
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
-    /// Only for the check state: anything that is true as a bool checks.
+    /// Only for the check state: any value that converts to true checks.
     bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
-    /// Asks for the top level now, and raises what the call raises. At any other time a failure is
-    /// met by views at work, which can't bear an exception, and is told by `fetchFailed`.
+    /// Fetches the top level now, and throws what the call throws. Any later failure occurs while a
+    /// view is working and can't handle an exception, so `fetchFailed` reports it.
     void fetchTopLevel();
 
     bool hasSelection() const;
     bool allSelected() const;
-    /// What to send to the agent; see `models::selectedIds`.
+    /// The ids to send to the agent; see `models::selectedIds`.
     std::vector<std::int64_t> selectedIds() const;
-    /// The root for an invalid index.
+    /// Returns the root for an invalid index.
     BackedUpNode& nodeOf(const QModelIndex& index) const;
-    /// Also true for an invalid index, which stands for the set.
+    /// Also true for an invalid index, which represents the set.
     bool canHaveChildren(const QModelIndex& index) const;
 
     void checkStateChanged(BackedUpNode& node) override;
 
 signals:
-    /// Once for each node whose check state was set.
+    /// Emitted once for each node whose check state was set.
     void itemSelectionChanged();
-    /// A folder couldn't be read and stays empty; comes when the event loop is reached again.
+    /// A folder couldn't be read and stays empty; emitted from the event loop.
     void fetchFailed(const QString& text);
 
 protected:

@@ -11,25 +11,25 @@ namespace hessiancln {
 class BackupSetDataView;
 }
 
-/// A drive, folder or file that a backup set holds, to be chosen for a restore or a deletion.
+/// A drive, folder or file in a backup set, to be selected for a restore or a deletion.
 class BackedUpNode : public models::CheckableNode {
 public:
     using View = boost::shared_ptr<hessiancln::BackupSetDataView>;
 
-    /// The root of a view, which nobody sees.
+    /// The hidden root of a view.
     explicit BackedUpNode(View view);
-    /// A node that goes below `parent`, and is checked if that one is.
+    /// A node to be added below `parent`, checked if the parent is.
     BackedUpNode(const BackedUpNode& parent, hessiancln::SelectableItem item);
 
     const std::string& name() const override { return item_.name; }
     bool isLeaf() const override { return item_.is_file; }
 
     const hessiancln::SelectableItem& item() const { return item_; }
-    /// The agent can be told of the item by its id. Others only hold such items.
+    /// Whether the agent accepts the item's id. Items without one are only containers.
     bool hasId() const { return item_.id > 0; }
 
 private:
-    /// Raises what the call raises.
+    /// Throws what the call throws.
     Children askForChildren() override;
 
     View view_;

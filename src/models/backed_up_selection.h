@@ -9,9 +9,9 @@ class BackedUpNode;
 
 namespace models {
 
-/// What is checked, as ids for the agent, in the order of the tree: that of each topmost item that
-/// is wholly checked. Items without an id are looked into, whatever their state, and fetched if
-/// need be; raises what that raises.
+/// The ids of the checked items, in tree order: one for each topmost fully checked item. Items
+/// without an id are descended into, whatever their state, and fetched if necessary; throws what
+/// fetching throws.
 std::vector<std::int64_t> selectedIds(BackedUpNode& root);
 
 } // namespace models

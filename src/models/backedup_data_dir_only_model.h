@@ -6,7 +6,7 @@
 
 class CBackedUpDataModel;
 
-/// What a backup set holds, without the files.
+/// The content of a backup set without the files.
 class CBackedupDataDirOnlyModel : public QSortFilterProxyModel {
     Q_OBJECT
 public:

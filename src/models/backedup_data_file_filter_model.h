@@ -9,19 +9,19 @@
 
 class CBackedUpDataModel;
 
-/// The files of one folder of what a backup set holds, with all that stands above the folder, so
-/// that a view can show the folder's rows.
+/// The files of one folder of a backup set, with all ancestors of the folder, so that a view can
+/// show the folder's rows.
 class CBackedupDataFileFilterModel : public QSortFilterProxyModel {
     Q_OBJECT
 public:
     /// `source` owns this model.
     explicit CBackedupDataFileFilterModel(CBackedUpDataModel& source);
 
-    /// The folder, an index of the source model. Rows of other folders are all let through.
+    /// The folder, an index of the source model. Rows outside the folder all pass.
     void setSourceRoot(const QModelIndex& folder);
-    /// Shows only files whose names match; see `models::FileNameFilter`. In place of the operation
-    /// of the base class, which takes out row by row what no longer matches: in a folder of 100,000
-    /// files that is a second for each key.
+    /// Shows only files whose names match; see `models::FileNameFilter`. Replaces the operation of
+    /// the base class, which removes rows one by one: in a folder of 100,000 files that takes a
+    /// second per key.
     void setFilterWildcard(const QString& pattern);
 
 protected:

@@ -6,7 +6,7 @@ namespace models {
 
 namespace {
 
-/// Which kinds of state stand among the children of a node.
+/// The kinds of state among the children of a node.
 struct Mixture {
     bool selected = false;
     bool unselected = false;
@@ -21,7 +21,7 @@ struct Mixture {
 Mixture mixtureOf(const CheckableNode& node) {
     Mixture mixture;
     if (node.isLeaf() || !node.isFetched()) {
-        // Its own mark is all that is known, and a partial one says nothing.
+        // Only its own mark is known, and a partial one says nothing.
         if (node.checkState() != CheckState::Partly)
             mixture.add(node.checkState());
         return mixture;

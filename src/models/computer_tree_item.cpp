@@ -16,7 +16,7 @@ using hessiancln::NetItemType;
 
 namespace {
 
-/// Ways to reach a computer, which agents list among the networks.
+/// Ways to reach a computer, which agents list as networks.
 bool isPseudoEntry(const net_item_info& entry) {
     return entry.name == "UNIX-SSH" || entry.name == "NFS";
 }

@@ -29,7 +29,7 @@ public:
     bool isLeaf() const override { return info_.type == hessiancln::NetItemType::Computer; }
 
 private:
-    /// Shows a box if the agent can't tell.
+    /// Shows a message box if the request fails.
     Children askForChildren() override;
     std::vector<hessiancln::net_item_info> discover(const std::string& path);
     Children childrenOf(std::vector<hessiancln::net_item_info> entries) const;

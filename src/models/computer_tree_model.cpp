@@ -47,7 +47,7 @@ void CComputerTreeModel::fetch(models::LazyNode& node) const {
     announceFetched(node);
     if (children.empty())
         return;
-    // Until now the container had no rows, so views are told, whoever it was that looked.
+    // The container had no rows so far, so views must be notified, whatever triggered the fetch.
     auto& model = const_cast<CComputerTreeModel&>(*this);
     model.beginInsertRows(indexOf(node), 0, static_cast<int>(children.size()) - 1);
     node.adopt(std::move(children));

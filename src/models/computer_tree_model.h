@@ -10,8 +10,8 @@ namespace hessiancln {
 class DataSourceBrowser;
 }
 
-/// The network, in which a computer is picked. A container has no rows until it is fetched; views
-/// do so by `fetchMore`. If that fails, a box tells so. Nothing is asked for by the constructor.
+/// The network, for selecting a computer. A container has no rows until it is fetched; views do so
+/// with `fetchMore`. A failure is reported in a box. The constructor sends no requests.
 class CComputerTreeModel : public models::LazyTreeModel {
     Q_OBJECT
 public:

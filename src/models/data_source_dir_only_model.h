@@ -10,7 +10,7 @@ class CDataSourceModel;
 class CDataSourceDirOnlyModel : public QSortFilterProxyModel {
     Q_OBJECT
 public:
-    /// `source` outlives this model.
+    /// `source` must outlive this model.
     explicit CDataSourceDirOnlyModel(CDataSourceModel& source, QObject* parent = nullptr);
 
 protected:

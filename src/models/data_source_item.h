@@ -8,21 +8,21 @@
 #include "models/checkable_node.h"
 #include "models/folder_listing.h"
 
-/// A drive, folder or file of a computer, to be chosen for a backup set.
+/// A drive, folder or file of a computer, to be selected for a backup set.
 class CDataSourceItem : public models::CheckableNode {
 public:
     /// The root of a computer's tree.
     explicit CDataSourceItem(std::shared_ptr<const models::BrowsedComputer> computer);
-    /// A node that goes below `parent`, whose state it takes over.
+    /// A node to be added below `parent`, whose state it inherits.
     CDataSourceItem(const CDataSourceItem& parent, hessiancln::browse_item_info info);
 
     const std::string& name() const override { return info_.name; }
     bool isLeaf() const override { return info_.isfile; }
-    /// What is taken out of a selected folder is excluded; drives never are.
+    /// Items removed from a selected folder are excluded; drives never are.
     models::CheckState stateWithoutMark() const override;
 
     const hessiancln::browse_item_info& info() const { return info_; }
-    /// The agent couldn't list it.
+    /// Whether the agent failed to list it.
     bool noAccess() const { return noAccess_; }
 
 private:

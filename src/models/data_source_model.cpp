@@ -73,7 +73,7 @@ bool CDataSourceModel::isDirectory(const QModelIndex& index) const {
 }
 
 void CDataSourceModel::checkStateChanged(CDataSourceItem& item) {
-    // The root, which nobody sees, has no index.
+    // The hidden root has no index.
     if (const QModelIndex index = indexOf(item); index.isValid())
         emit dataChanged(index, index);
     emit itemSelectionChanged();

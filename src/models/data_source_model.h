@@ -20,7 +20,7 @@ namespace models {
 class CheckableNode;
 }
 
-/// Hears of changes in a tree of `CDataSourceItem`.
+/// Is notified of changes in a tree of `CDataSourceItem`.
 class IDataBrowserSupport {
 public:
     virtual ~IDataBrowserSupport() = default;
@@ -29,41 +29,40 @@ public:
     virtual void checkStateChanged(CDataSourceItem& item) = 0;
 };
 
-/// The drives, folders and files of a computer, with check boxes of which a backup set's items are
-/// made. A folder is fetched when somebody looks at its rows; one that can't be read has a sign and
-/// no rows. Checking and collecting fetch nothing. Nothing is asked for by the constructor.
+/// The drives, folders and files of a computer, with check boxes that select the items of a backup
+/// set. A folder is fetched on the first access to its rows; an unreadable folder has a sign and no
+/// rows. Checking and collecting fetch nothing. The constructor sends no requests.
 class CDataSourceModel : public models::LazyTreeModel, public IDataBrowserSupport {
     Q_OBJECT
 public:
-    /// `computer` is UTF-8, a full source name.
+    /// `computer` is a full source name in UTF-8.
     CDataSourceModel(std::string computer, boost::shared_ptr<hessiancln::DataSourceBrowser> browser,
                      QObject* parent = nullptr);
 
-    /// The check state is that of `models::CheckState`. What stands below something excluded has
-    /// none.
+    /// The check state is that of `models::CheckState`. Items below an excluded one have none.
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
-    /// Only for the check state: anything that is true as a bool checks.
+    /// Only for the check state: any value that converts to true checks.
     bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
-    /// What is selected, from the top down: an inclusion for each topmost checked item, followed by
-    /// the exclusions below it.
+    /// The selection from the top down: an inclusion for each topmost checked item, followed by the
+    /// exclusions below it.
     std::vector<models::PathItem> getSelection() const;
-    /// Marks what a path names, whatever its case. Fetches the folders on the path. Returns whether
+    /// Marks the item at a path, ignoring case. Fetches the folders on the path. Returns whether
     /// the path was found; if not, nothing was marked.
     bool markItem(const models::PathItem& item);
     bool hasSelection() const;
-    /// Also true for an invalid index, which stands for the computer.
+    /// Also true for an invalid index, which represents the computer.
     bool isDirectory(const QModelIndex& index) const;
 
     void checkStateChanged(CDataSourceItem& item) override;
 
 signals:
-    /// Once for each item whose check state was set.
+    /// Emitted once for each item whose check state was set.
     void itemSelectionChanged();
 
 private:
-    /// The root for an invalid index.
+    /// Returns the root for an invalid index.
     CDataSourceItem& itemAt(const QModelIndex& index) const;
     std::function<void(models::CheckableNode&)> listener();
 };

@@ -5,19 +5,19 @@
 #include <QModelIndex>
 #include <QStringList>
 
-/// Rows of a tree by the texts that they show.
+/// Finds rows of a tree by their displayed texts.
 namespace models {
 
-/// The texts from the top level down to the row; none for an invalid index.
+/// The texts from the top level down to the row; empty for an invalid index.
 QStringList displayPath(const QModelIndex& index);
 
-/// The first row on each level whose text is the same. Invalid if a level has none, or without
-/// texts.
+/// Follows the first row with the same text on each level. Invalid if a level has no such row, or
+/// if there are no texts.
 QModelIndex indexAtPath(const QAbstractItemModel& model, const QStringList& path,
                         Qt::CaseSensitivity sensitivity);
 
-/// The same among rows that may have rows below them: what was stored may hold a file that is
-/// called like a folder beside it, each from its own time.
+/// Likewise, but only among rows that can have children: a set may hold a file with the same name
+/// as a folder beside it, stored at different times.
 QModelIndex folderAtPath(const QAbstractItemModel& model, const QStringList& path,
                          Qt::CaseSensitivity sensitivity);
 

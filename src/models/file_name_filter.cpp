@@ -8,8 +8,8 @@ namespace models {
 
 namespace {
 
-/// What an asterisk at an end would match is matched without it as well, and much quicker. One
-/// within a bracket or behind a backslash is no wildcard.
+/// Removes leading and trailing asterisks, which don't change the result but are slow to match. An
+/// asterisk in brackets or after a backslash isn't a wildcard.
 QString withoutOuterAsterisks(const QString& pattern) {
     if (pattern.contains(QLatin1Char('[')) || pattern.contains(QLatin1Char('\\')))
         return pattern;

@@ -7,9 +7,9 @@
 
 namespace models {
 
-/// Names that hold a text somewhere, in the same case. In it "*" stands for any characters, "?" for
-/// one, and "[...]" for one of those in it. A backslash is a letter, and so is the sign behind it.
-/// An empty text stands in every name, one with a bracket that isn't closed in none.
+/// Matches names that contain a text, case-sensitively. "*" matches any characters, "?" a single
+/// one, and "[...]" one of the listed characters. A backslash is literal, and so is the character
+/// after it. An empty text matches every name, an unclosed bracket matches none.
 class FileNameFilter {
 public:
     explicit FileNameFilter(const QString& pattern = {});
@@ -17,8 +17,8 @@ public:
     bool matches(const QString& name) const;
 
 private:
-    QString text_;       ///< what has to stand in the name, if there is no wildcard in it
-    QRegExp expression_; ///< else
+    QString text_;       ///< substring to find if it has no wildcards
+    QRegExp expression_; ///< otherwise
     bool isText_;
 };
 

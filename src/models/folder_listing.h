@@ -18,23 +18,23 @@ namespace models {
 
 class LazyNode;
 
-/// The kind of a root, which nobody sees.
+/// The type of a hidden root.
 constexpr hessiancln::SelectableItemType rootType{14};
 
-/// A computer as a browser sees it; what all nodes of a tree share.
+/// A computer as a browser sees it, shared by all nodes of a tree.
 struct BrowsedComputer {
     std::string name; ///< UTF-8
     boost::shared_ptr<hessiancln::DataSourceBrowser> browser;
 };
 
-/// What is known of a folder after it was asked for.
+/// The result of listing a folder.
 struct FolderListing {
-    std::vector<hessiancln::browse_item_info> items; ///< in the order in which they are shown
+    std::vector<hessiancln::browse_item_info> items; ///< in display order
     bool noAccess = false;                           ///< the agent couldn't list it
 };
 
-/// Asks for the content of the folder that `node` stands for, under the wait cursor. Raises
-/// no `std::exception`: a folder that can't be read is no reason to disturb anybody.
+/// Requests the content of the folder of `node`, under the wait cursor. Throws no `std::exception`:
+/// an unreadable folder is no reason to interrupt the user.
 FolderListing listFolder(const BrowsedComputer& computer, const LazyNode& node);
 
 } // namespace models

@@ -7,21 +7,20 @@
 
 #include "api/data_view_records.h"
 
-/// Which stored version of a file a span of time shows. Times are seconds since 1970 UTC; 0 means
-/// no limit.
+/// Which stored version of a file is shown for a time span. Times are seconds since 1970 UTC; 0
+/// means no limit.
 namespace models {
 
 using Generations = std::vector<hessiancln::file_generations>;
 
-/// Newest first; those of one time stay in their order.
+/// Newest first; those with equal times keep their order.
 Generations newestFirst(Generations generations);
 
-/// The place of the newest one that was backed up from `from` to `to`, both included; -1 if there
-/// is none.
+/// The index of the newest one backed up between `from` and `to`, inclusive; -1 if there is none.
 int newestInRange(const Generations& generations, std::int32_t from, std::int32_t to);
 
-/// Whether the span up to `to` shows the generation of the time `chosen`, and no newer one. Never
-/// without a limit.
+/// Whether the span up to `to` includes the generation of the time `chosen` and no newer one.
+/// Always false without a limit.
 bool isNewestWithin(const Generations& generations, std::int32_t to, std::int32_t chosen);
 
 } // namespace models

@@ -8,7 +8,7 @@
 
 #include "models/generation_choice.h"
 
-/// The stored versions of a file, the newest first, of which one may have a sign. Times are seconds
+/// The stored versions of a file, newest first, one of which may have a sign. Times are seconds
 /// since 1970 UTC; 0 means no limit.
 class CGenerationSelectModel : public QAbstractItemModel {
     Q_OBJECT
@@ -25,9 +25,9 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation,
                         int role = Qt::DisplayRole) const override;
 
-    /// `index` is valid.
+    /// `index` must be valid.
     const hessiancln::file_generations& generationAt(const QModelIndex& index) const;
-    /// Gives the sign to the newest one that was backed up in the span, or to none.
+    /// Gives the sign to the newest version backed up in the span, if any.
     void selectNewestInRange(std::int32_t from, std::int32_t to);
     /// See `models::isNewestWithin`.
     bool isNewestWithin(std::int32_t to, std::int32_t chosen) const;

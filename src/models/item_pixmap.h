@@ -8,14 +8,15 @@
 
 namespace models {
 
-/// The picture of a resource in its own size, as sharp as the screen; null if there is none.
+/// The picture of a resource in its original size at the screen's resolution; null if missing.
 QPixmap resourcePixmap(const QString& resource);
 
-/// The size of a picture in the pixels of layouts, of which a dense screen has several each.
+/// The size of a picture in layout pixels, each of which has several device pixels on a dense
+/// screen.
 QSize sizeOnScreen(const QPixmap& pixmap);
 
-/// The picture of an item of a tree by its kind. With `noAccess` it has a sign in its lower right
-/// corner; those pictures stay in `QPixmapCache`. Databases have no picture.
+/// The picture for a tree item by type. `noAccess` adds a sign in its lower right corner; these
+/// pictures are kept in `QPixmapCache`. Databases have no picture.
 QPixmap itemPixmap(hessiancln::SelectableItemType type, bool noAccess = false);
 
 } // namespace models

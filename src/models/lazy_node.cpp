@@ -8,8 +8,7 @@
 namespace models {
 
 LazyNode::~LazyNode() {
-    // Taken apart level by level: a child that went with its own children would need stack for each
-    // level.
+    // Destroyed level by level: recursive destruction would need stack for each level.
     Children doomed = std::move(children_);
     while (!doomed.empty()) {
         const auto node = std::move(doomed.back());

@@ -9,9 +9,9 @@
 
 namespace models {
 
-/// A node of a tree whose children are asked for when somebody first looks at them. It owns its
-/// children and knows its place among them. A tree may be as deep as a path is long, so nothing
-/// here, nor in what walks over nodes, takes stack for each level.
+/// A tree node whose children are fetched on first access. It owns its children and knows its
+/// position among its siblings. A tree can be as deep as paths are long, so nothing here, nor any
+/// code that walks over nodes, may recurse.
 class LazyNode {
 public:
     using Children = std::vector<std::unique_ptr<LazyNode>>;
@@ -23,27 +23,28 @@ public:
 
     /// UTF-8, one component of a path; empty for a root.
     virtual const std::string& name() const = 0;
-    /// It never has children, and nobody is asked for them.
+    /// Whether it never has children, which are then not requested.
     virtual bool isLeaf() const = 0;
 
     /// Null for a root.
     LazyNode* parent() const { return parent_; }
-    /// Its place among its parent's children; 0 for a root.
+    /// Position among its parent's children; 0 for a root.
     int row() const { return row_; }
     const Children& children() const { return children_; }
     bool isFetched() const { return fetched_; }
-    /// Whether a view shows that it can be opened.
+    /// Whether a view shows it as expandable.
     bool mayHaveChildren() const { return !isLeaf() && (!fetched_ || !children_.empty()); }
 
-    /// At the first call asks for the children, and gives them without taking them in; afterwards
-    /// and for a leaf, none. Raises what `askForChildren` raises, which is then not asked again.
+    /// The first call requests the children and returns them without adding them; later calls, and
+    /// calls for a leaf, return nothing. Throws what `askForChildren` throws; the request isn't
+    /// retried.
     Children load();
-    /// Takes in children behind those that are there.
+    /// Appends children after the existing ones.
     void adopt(Children children);
     void fetch() { adopt(load()); }
 
 private:
-    /// The children in the order in which they are shown.
+    /// The children in display order.
     virtual Children askForChildren() = 0;
 
     LazyNode* parent_ = nullptr;
@@ -52,16 +53,16 @@ private:
     bool fetched_ = false;
 };
 
-/// The names from the top down to the node, joined by backslashes. No backslash stands at the
-/// start, so that a root without a name adds nothing.
+/// The names from the top down to the node, joined by backslashes. There is no leading backslash,
+/// so a root without a name adds nothing.
 std::string fullPath(const LazyNode& node);
 
-/// The node that follows in a walk over `top` and what is loaded below it, parents first; null at
-/// the end. `below` says whether the walk goes below `node`.
+/// The next node in a walk over `top` and everything loaded below it, parents first; null at the
+/// end. `below` says whether the walk descends into `node`.
 LazyNode* nextInWalk(const LazyNode& top, LazyNode& node, bool below);
 
-/// Visits `top` and what is loaded below it, parents first. `visit` returns whether to go below
-/// the node that it was given. All nodes of the tree are of the class `Node`.
+/// Visits `top` and everything loaded below it, parents first. `visit` returns whether to descend
+/// into its node. All nodes of the tree must be of class `Node`.
 template <class Node, class Visit>
 void walk(Node& top, Visit visit) {
     for (LazyNode* node = &top; node;) {

@@ -11,7 +11,7 @@ namespace models {
 
 namespace {
 
-/// The root of a tree that shows nothing.
+/// The root of an empty tree.
 class NoRows : public LazyNode {
 public:
     const std::string& name() const override { return name_; }
@@ -30,8 +30,8 @@ LazyTreeModel::LazyTreeModel(std::unique_ptr<LazyNode> root, QObject* parent)
     , root_(std::move(root)) {}
 
 LazyTreeModel::~LazyTreeModel() {
-    // The nodes release what they hold of the agent. While one of those calls is waited for, views
-    // must not find nodes that are half gone.
+    // Destroying the nodes releases objects on the agent. While such a call is pending, views must
+    // not find half-destroyed nodes.
     beginResetModel();
     const auto doomed = std::exchange(root_, std::make_unique<NoRows>());
     endResetModel();

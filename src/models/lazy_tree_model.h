@@ -10,14 +10,14 @@
 
 namespace models {
 
-/// A tree of one column over nodes that are fetched when somebody looks at them: also `rowCount`
-/// and `index` fetch, so that nobody ever sees a folder without the rows that it is going to have.
+/// A tree of one column over nodes that are fetched on first access: `rowCount` and `index` fetch
+/// too, so that a folder is never visible without its rows.
 class LazyTreeModel : public QAbstractItemModel {
     Q_OBJECT
 public:
     ~LazyTreeModel() override;
 
-    /// Nothing: of a model that is on its way out, a view may still ask.
+    /// Returns nothing: a view may still query a model that is being destroyed.
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
     QModelIndex parent(const QModelIndex& index) const override;
@@ -34,17 +34,17 @@ public:
 protected:
     LazyTreeModel(std::unique_ptr<LazyNode> root, QObject* parent);
 
-    /// The root for an invalid index.
+    /// Returns the root for an invalid index.
     LazyNode& nodeAt(const QModelIndex& index) const;
     /// Invalid for the root.
     QModelIndex indexOf(const LazyNode& node) const;
 
-    /// Has the node fetch its children, if it hasn't yet. While another call is waited for, it
-    /// stays as it is, and views are asked to look again afterwards.
+    /// Makes the node fetch its children if it hasn't yet. While another call is pending, the node
+    /// is left as it is, and views are asked to look again afterwards.
     virtual void fetch(LazyNode& node) const;
 
-    /// Tells views that a node was fetched, and with that may have changed its look. Not at once,
-    /// since it is views at work that have nodes fetched.
+    /// Notifies views that a node was fetched, which may have changed its look. Deferred, because
+    /// it is views at work that trigger fetches.
     void announceFetched(LazyNode& node) const;
 
 private:

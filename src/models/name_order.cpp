@@ -24,7 +24,7 @@ char foldAscii(char byte) {
     return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte - 'A' + 'a') : byte;
 }
 
-/// Longer forms begin with higher bytes, so that bytes compare like the values that they stand for.
+/// Longer encodings begin with higher bytes, so that bytes sort like the values they encode.
 void appendValue(std::string& key, uint value) {
     const auto low = [](uint bits) { return static_cast<char>(0x80 | (bits & 0x3f)); };
     if (value < 0x80) {
@@ -39,7 +39,7 @@ void appendValue(std::string& key, uint value) {
     }
 }
 
-/// `QString::compare` compares unit by unit: a high surrogate as it is, then the pair as a whole.
+/// `QString::compare` works unit by unit: it compares a high surrogate as is, then the whole pair.
 void appendFolded(std::string& key, const QString& name) {
     QChar last;
     for (const QChar unit : name) {
@@ -60,7 +60,7 @@ void appendKey(std::string& key, const RankedName& ranked) {
         appendFolded(key, session::fromWire(name));
 }
 
-/// The keys of all names, one behind the other.
+/// The concatenated keys of all names.
 class Keys {
 public:
     explicit Keys(const std::vector<RankedName>& names) {
@@ -85,7 +85,7 @@ private:
     std::vector<std::size_t> ends_; ///< the first one begins at 0
 };
 
-/// A few bytes of a key as a number, the first one counting most, and whose key it is.
+/// Some bytes of a key as a big-endian number, and the index of the name.
 struct Entry {
     std::uint64_t word;
     std::size_t place;
@@ -102,14 +102,14 @@ std::uint64_t wordAt(std::string_view key, std::size_t begin) {
     return word;
 }
 
-/// Entries whose keys are alike up to `depth`.
+/// Entries whose keys are equal up to `depth`.
 struct Run {
     std::vector<Entry>::iterator begin;
     std::vector<Entry>::iterator end;
     std::size_t depth;
 };
 
-/// Sorts a run whose keys are alike to their ends, but for zeros that one of them may have there.
+/// Sorts a run whose keys are equal except for trailing zeros.
 void sortAlike(const Run& run, const Keys& keys) {
     std::sort(run.begin, run.end, [&](const Entry& a, const Entry& b) {
         const auto sizeOfA = keys.at(a.place).size();
@@ -118,7 +118,7 @@ void sortAlike(const Run& run, const Keys& keys) {
     });
 }
 
-/// Sorts a run by the next word of its keys, and leaves what is still alike in `runs`.
+/// Sorts a run by the next word of its keys, and adds the parts that are still equal to `runs`.
 void sortByWord(const Run& run, const Keys& keys, std::vector<Run>& runs) {
     bool hasWord = false;
     for (auto entry = run.begin; entry != run.end; ++entry) {
@@ -142,7 +142,7 @@ void sortByWord(const Run& run, const Keys& keys, std::vector<Run>& runs) {
 
 } // namespace
 
-// Word by word, so that long names that begin alike aren't compared from their start each time.
+// Word by word, so that long names with a common start aren't compared from the start each time.
 std::vector<std::size_t> shownOrder(const std::vector<RankedName>& names) {
     const Keys keys(names);
     std::vector<Entry> entries;

@@ -6,19 +6,19 @@
 #include <string_view>
 #include <vector>
 
-/// The order in which trees show names: that of `QString::compare` without regard to case.
+/// The order of names in trees: that of `QString::compare`, ignoring case.
 namespace models {
 
 struct RankedName {
-    int rank = 0;          ///< 0 to 255; lower ones come first, whatever the name
+    int rank = 0;          ///< 0 to 255; lower ranks come first, whatever the name
     std::string_view name; ///< UTF-8
 };
 
-/// The places of `names` in the order in which they are shown. Names that differ in case only, or
-/// not at all, stay in their order.
+/// The indices of `names` in display order. Names that are equal, or differ only in case, keep
+/// their order.
 std::vector<std::size_t> shownOrder(const std::vector<RankedName>& names);
 
-/// Whether two names, UTF-8, are the same without regard to case, as `QString::compare` sees it.
+/// Whether two UTF-8 names are equal for `QString::compare`, ignoring case.
 bool sameName(std::string_view a, std::string_view b);
 
 } // namespace models

@@ -20,12 +20,12 @@ void addExclusions(CheckableNode& selected, std::vector<PathItem>& items) {
     });
 }
 
-/// A folder on the way to the end of a path, and how far the search in it has come.
+/// A folder along a path, and the progress of the search in it.
 struct Step {
     const LazyNode* folder;
-    std::string_view head; ///< the name that is looked for in the folder
-    std::string_view rest; ///< what follows it
-    std::size_t next = 0;  ///< the child to be tried next
+    std::string_view head; ///< the name to find in the folder
+    std::string_view rest; ///< the rest of the path
+    std::size_t next = 0;  ///< the child to try next
 };
 
 Step stepInto(LazyNode& folder, std::string_view path) {
@@ -36,8 +36,8 @@ Step stepInto(LazyNode& folder, std::string_view path) {
     return {&folder, path.substr(0, end), path.substr(end + 1)};
 }
 
-/// Names that differ only in case may stand side by side, so what is found first needn't be on
-/// the way.
+/// Names that differ only in case may exist side by side, so the first match isn't always on the
+/// path.
 CheckableNode* findPath(CheckableNode& root, std::string_view path) {
     if (path.empty())
         return &root;

@@ -7,11 +7,11 @@
 
 #include "models/checkable_node.h"
 
-/// A selection in a tree with check boxes as a list of paths, and back.
+/// Converts a selection in a tree with check boxes to a list of paths, and back.
 namespace models {
 
-/// One line of a selection: a path, UTF-8, its parts joined by backslashes, that a backup set holds
-/// with all below it, or that it leaves out.
+/// One line of a selection: a path in UTF-8, its parts joined by backslashes, that a backup set
+/// includes with everything below it, or excludes.
 struct PathItem {
     std::string path;
     bool isExclusion = false;
@@ -19,13 +19,13 @@ struct PathItem {
     bool operator==(const PathItem&) const = default;
 };
 
-/// For each topmost node that is wholly checked, its path, followed by the exclusions below it.
-/// Fetches the root if need be, and nothing else.
+/// The path of each topmost fully checked node, followed by the exclusions below it. Fetches the
+/// root if necessary, and nothing else.
 std::vector<PathItem> selectedPaths(CheckableNode& root);
 
-/// Marks the node that the path names, regardless of case, and fetches the folders on the path.
-/// Returns whether there is such a node. `changed` is told of the nodes above that change, not of
-/// the node itself. Nodes below it stay as they are.
+/// Marks the node at the path, ignoring case, and fetches the folders on the path. Returns whether
+/// there is such a node. `changed` is called for ancestors that change, not for the node itself.
+/// Nodes below it are left unchanged.
 bool markPath(CheckableNode& root, const PathItem& item, const CheckListener& changed);
 
 } // namespace models

@@ -7,7 +7,7 @@
 namespace models {
 namespace {
 
-// So much of the text's colour leaves a picture its own shades.
+// The share of the text colour that leaves a picture its shades.
 constexpr double lightShare = 0.75;
 
 QPixmap lightened(QPixmap picture, const QColor& text) {

@@ -6,11 +6,11 @@
 
 namespace models {
 
-/// Has the picture of a selected row drawn light, as its text is. Styles would tint it with the
-/// colour of the row, in which its thin lines are lost.
+/// Draws the picture of a selected row as light as its text. Styles would tint it with the colour
+/// of the row, in which its thin lines get lost.
 void lightenSelected(QStyleOptionViewItem& option, const QModelIndex& index);
 
-/// Draws rows so.
+/// Draws selected rows with light pictures.
 class PictureDelegate : public QStyledItemDelegate {
     Q_OBJECT
 public:

@@ -14,25 +14,25 @@
 #include <QString>
 #include <Qt>
 
-/// Sorting a list of records by a key. The keys are taken once and sorted beside the numbers of
-/// their records, and then each record moves once: records are wide, keys are narrow.
+/// Sorts a list of records by a key. The keys are extracted once and sorted along with the indices
+/// of their records; then each record moves once: records are wide, keys are narrow.
 namespace models {
 
 template <class R>
 using NumberKey = std::int64_t (*)(const R&);
 
-/// Sorts byte by byte.
+/// Sorts bytewise.
 template <class R>
 using TextKey = std::string R::*;
 
-/// Sorts by what people see in place of a number, in the order of the text, case-sensitive.
+/// Sorts by the displayed label of a number, case-sensitively.
 template <class R>
 struct LabelKey {
     std::int32_t (*number)(const R&);
     QString (*label)(const R&);
 };
 
-/// What a column is sorted by; the first alternative is a column that can't be.
+/// The sort key of a column; the first alternative is a column that can't be sorted.
 template <class R>
 using SortKey = std::variant<std::monostate, NumberKey<R>, TextKey<R>, LabelKey<R>>;
 
@@ -53,7 +53,7 @@ auto keysOf(const std::vector<R>& records, KeyOf keyOf) {
     return keys;
 }
 
-/// The place of each number's label among the labels that occur.
+/// The rank of each number's label among the labels that occur.
 template <class R>
 std::map<std::int32_t, std::int64_t> labelRanks(const std::vector<R>& records, LabelKey<R> key) {
     std::map<std::int32_t, QString> labels;
@@ -71,7 +71,7 @@ std::map<std::int32_t, std::int64_t> labelRanks(const std::vector<R>& records, L
     return ranks;
 }
 
-/// Puts `records` in the order of `keys`. Equal keys keep their order, whichever way it goes.
+/// Arranges `records` in the order of `keys`. Equal keys keep their order in either direction.
 template <class R, class Key>
 void arrange(std::vector<R>& records, std::vector<Keyed<Key>> keys, Qt::SortOrder order) {
     const auto sortBy = [&](auto before) {
@@ -98,8 +98,8 @@ void arrange(std::vector<R>& records, std::vector<Keyed<Key>> keys, Qt::SortOrde
 
 } // namespace detail
 
-/// Sorts `records` by `key`. Records with equal keys keep their order. A key that is none leaves
-/// the list as it is.
+/// Sorts `records` by `key`. Records with equal keys keep their order. An empty key leaves the list
+/// unchanged.
 template <class R>
 void sortRecords(std::vector<R>& records, const SortKey<R>& key, Qt::SortOrder order) {
     if (const auto* number = std::get_if<NumberKey<R>>(&key)) {
@@ -107,7 +107,7 @@ void sortRecords(std::vector<R>& records, const SortKey<R>& key, Qt::SortOrder o
     } else if (const auto* text = std::get_if<TextKey<R>>(&key)) {
         const TextKey<R> member = *text;
         const auto view = [member](const R& record) { return std::string_view(record.*member); };
-        // The keys look into the records, which stand still until all is compared.
+        // The keys point into the records, which don't move until all comparisons are done.
         detail::arrange(records, detail::keysOf(records, view), order);
     } else if (const auto* label = std::get_if<LabelKey<R>>(&key)) {
         const auto ranks = detail::labelRanks(records, *label);

@@ -19,50 +19,50 @@
 
 namespace models {
 
-/// A column, and how a record is shown in it.
+/// A column and its presentation of a record.
 template <class R>
 struct RecordColumn : ui::TableColumn {
     QString (*text)(const R&) = nullptr;
     SortKey<R> key{};
     QIcon (*icon)(const R&) = nullptr;
-    Cell (*cell)(const R&) = nullptr; ///< for models that are searched or exported
+    Cell (*cell)(const R&) = nullptr; ///< for models with search or export
 };
 
-/// Which records are shown: their places in the list, ascending. A list of the same version has the
-/// same records in the same order.
+/// Which records are shown: their indices in the list, ascending. A list of the same version has
+/// the same records in the same order.
 template <class R>
 using RecordFilter =
     std::function<std::vector<std::uint32_t>(const std::vector<R>&, std::uint64_t version)>;
 
-/// A read-only table over a list of records, or over those of them that a filter lets through. A
-/// refill keeps the rows that stay, so that a view keeps its selection by row and its place. Texts
-/// are made when they are shown.
+/// A read-only table over a list of records, optionally filtered. A refill only adds or removes
+/// rows at the end, so that a view keeps its selection, by row number, and its scroll position.
+/// Texts are created when they are shown.
 template <class R>
 class RecordTableModel : public SortedTableModel {
 public:
-    /// `columns` has to outlive the model.
+    /// `columns` must outlive the model.
     explicit RecordTableModel(std::span<const RecordColumn<R>> columns, QObject* parent = nullptr)
         : SortedTableModel(parent)
         , columns_(columns) {}
 
-    /// Replaces the list, and sorts it as it was sorted before.
+    /// Replaces the list and sorts it as before.
     void setRecords(std::vector<R> records);
     virtual void clear() { setRecords({}); }
 
-    /// Shows what `filter` lets through, now and after each change of the list; none shows all.
-    /// The views start over, without a selection.
+    /// Shows the records that pass `filter`, now and after each change of the list; an empty filter
+    /// shows all. Views are reset, without a selection.
     void setFilter(RecordFilter<R> filter);
 
-    /// The record that a row shows.
+    /// The record in a row.
     R at(int row) const { return records_.at(recordOf(row)); }
-    /// Its place among all of them.
+    /// Its index among all records.
     std::size_t recordOf(int row) const {
         const auto place = static_cast<std::size_t>(row);
         return filter_ ? shown_.at(place) : place;
     }
-    /// The row that shows the record at this place; -1 if the filter holds it back.
+    /// The row of the record with this index; -1 if it is filtered out.
     int rowOf(std::size_t record) const;
-    /// All, shown or not.
+    /// All records, shown or not.
     const std::vector<R>& records() const { return records_; }
     std::span<const RecordColumn<R>> recordColumns() const { return columns_; }
 
@@ -75,11 +75,11 @@ public:
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation,
                         int role = Qt::DisplayRole) const override;
-    /// Does nothing for a column that has no key.
+    /// Does nothing for a column without a key.
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
 
 protected:
-    /// What a role means for every column of a row, where the column itself doesn't say.
+    /// Data for every column of a row, unless the column has its own.
     virtual QVariant rowData(const R&, int) const { return {}; }
 
 private:
@@ -91,13 +91,13 @@ private:
     std::span<const RecordColumn<R>> columns_;
     std::vector<R> records_;
     RecordFilter<R> filter_;
-    std::vector<std::uint32_t> shown_; ///< if there is a filter
-    std::uint64_t version_ = 0;        ///< of the list
+    std::vector<std::uint32_t> shown_; ///< used if there is a filter
+    std::uint64_t version_ = 0;        ///< version of the list
 };
 
 template <class R>
 void RecordTableModel<R>::setRecords(std::vector<R> records) {
-    // Before the views look, so that they never see the order of arrival.
+    // Before the views access them, so that they never see the order of arrival.
     if (sortColumn_ >= 0)
         sortRecords(records, columns_[static_cast<std::size_t>(sortColumn_)].key, sortOrder_);
     ++version_;

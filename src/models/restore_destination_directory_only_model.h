@@ -6,11 +6,11 @@
 
 class CRestoreDestinationModel;
 
-/// The tree of a restore's destination without its files.
+/// The tree of a restore destination without its files.
 class CRestoreDestinationDirectoryOnlyModel : public QSortFilterProxyModel {
     Q_OBJECT
 public:
-    /// `source` outlives this model.
+    /// `source` must outlive this model.
     explicit CRestoreDestinationDirectoryOnlyModel(CRestoreDestinationModel& source,
                                                    QObject* parent = nullptr);
 

@@ -12,9 +12,9 @@ namespace hessiancln {
 class DataSourceBrowser;
 }
 
-/// The drives, folders and files of a computer, in which the place for restored data is picked. A
-/// folder is fetched when somebody looks at its rows; one that can't be read has a sign and no
-/// rows. Nothing is asked for by the constructor.
+/// The drives, folders and files of a computer, for selecting the destination of restored data. A
+/// folder is fetched on the first access to its rows; an unreadable folder has a sign and no rows.
+/// The constructor sends no requests.
 class CRestoreDestinationModel : public models::LazyTreeModel {
     Q_OBJECT
 public:
@@ -25,6 +25,6 @@ public:
 
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 
-    /// Also true for an invalid index, which stands for the computer.
+    /// Also true for an invalid index, which represents the computer.
     bool isDirectory(const QModelIndex& index) const;
 };

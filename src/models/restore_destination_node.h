@@ -8,7 +8,7 @@
 #include "models/folder_listing.h"
 #include "models/lazy_node.h"
 
-/// A drive, folder or file of the computer that data is restored to.
+/// A drive, folder or file of the restore's destination computer.
 class RestoreDestinationNode : public models::LazyNode {
 public:
     /// The root of a computer's tree.
@@ -20,7 +20,7 @@ public:
     bool isLeaf() const override { return info_.isfile; }
 
     const hessiancln::browse_item_info& info() const { return info_; }
-    /// The agent couldn't list it.
+    /// Whether the agent failed to list it.
     bool noAccess() const { return noAccess_; }
 
 private:

@@ -7,7 +7,7 @@
 #include "models/checkable_node.h"
 #include "models/item_pixmap.h"
 
-/// Where the parts of an item stand.
+/// The layout of an item.
 struct CSelectDisplayDelegate::Parts {
     QRect box;
     QRect picture;

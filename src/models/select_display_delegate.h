@@ -4,9 +4,8 @@
 
 #include <QItemDelegate>
 
-/// Draws the box of something excluded as an empty one with a sign in its lower right corner.
-/// Unlike its base class it knows that the pixels of a picture may be smaller than those of the
-/// layout.
+/// Draws the box of an excluded item empty, with a sign in its lower right corner. Unlike its base
+/// class, it supports pictures with more device pixels than layout pixels.
 class CSelectDisplayDelegate : public QItemDelegate {
     Q_OBJECT
 public:

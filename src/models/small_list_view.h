@@ -4,13 +4,13 @@
 
 #include <QListView>
 
-/// A list that a layout may make as small as it likes. Its rows are of one height, so that the view
-/// needn't measure each of them.
+/// A list that a layout can shrink to any size. Its rows have a uniform height, so that the view
+/// doesn't have to measure each of them.
 class CSmallListView : public QListView {
     Q_OBJECT
 public:
     explicit CSmallListView(QWidget* parent = nullptr);
 
-    /// Invalid: no wish.
+    /// Invalid: no preference.
     QSize sizeHint() const override;
 };

@@ -4,13 +4,13 @@
 
 #include <QTreeView>
 
-/// A tree that a layout may make as small as it likes. Its rows are of one height, so that the view
-/// needn't measure each of them, and the asterisk key expands no more than the current one.
+/// A tree that a layout can shrink to any size. Its rows have a uniform height, so that the view
+/// doesn't have to measure each of them, and the asterisk key expands only the current one.
 class CSmallTreeView : public QTreeView {
     Q_OBJECT
 public:
     explicit CSmallTreeView(QWidget* parent = nullptr);
 
-    /// Invalid: no wish.
+    /// Invalid: no preference.
     QSize sizeHint() const override;
 };

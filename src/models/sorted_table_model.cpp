@@ -16,7 +16,7 @@ void keepSortArrow(QTableView& view, const SortedTableModel& model) {
         const QSignalBlocker quiet(header);
         header->setSortIndicator(model.sortColumn(), model.sortOrder());
     };
-    // The view has connected its own sorting first, so the model has decided by now.
+    // The view connected its own sorting first, so the model has already decided.
     QObject::connect(header, &QHeaderView::sortIndicatorChanged, &model, restore);
 }
 

@@ -8,7 +8,7 @@ class QTableView;
 
 namespace models {
 
-/// A table that knows by which of its columns it is sorted.
+/// A table that knows its sort column.
 class SortedTableModel : public QAbstractTableModel {
 public:
     using QAbstractTableModel::QAbstractTableModel;
@@ -22,8 +22,8 @@ protected:
     Qt::SortOrder sortOrder_ = Qt::AscendingOrder;
 };
 
-/// Keeps the arrow in the header of `view` where `model` is sorted, also when somebody clicks on
-/// a column that the model doesn't sort by. The view shows the model, sorting is switched on.
+/// Keeps the sort arrow in the header of `view` on the sort column of `model`, even if the user
+/// clicks a column that can't be sorted. The view must show the model, with sorting enabled.
 void keepSortArrow(QTableView& view, const SortedTableModel& model);
 
 } // namespace models

@@ -10,7 +10,7 @@
 
 namespace models {
 
-/// What a cell holds before it becomes a text for people: what a search and an export work on.
+/// The value of a cell before it is formatted for users: what searches and exports work on.
 struct CellNumber {
     std::int64_t value;
 };
@@ -20,12 +20,12 @@ struct CellTime {
     QLocale::FormatType format;
 };
 
-/// The cell's text depends on this number alone, and the same numbers come again and again.
+/// The cell's text depends only on this number, and there are few different numbers.
 struct CellLabel {
     std::int64_t number;
 };
 
-/// The first alternative is an empty cell; a text is UTF-8 and lives in the record.
+/// The first alternative is an empty cell; a text is UTF-8 and owned by the record.
 using Cell = std::variant<std::monostate, std::string_view, CellNumber, CellTime, CellLabel>;
 
 } // namespace models

@@ -33,8 +33,8 @@ std::size_t TreeStateMemo::save(const QModelIndex& parent) {
     return count;
 }
 
-/// One walk over the records. A level that is gone, an empty one here, is walked too, since what
-/// follows stands behind its records.
+/// One walk over the records. A missing level, passed as an empty parent, is walked too, because
+/// the records after it must be reached.
 class TreeStateMemo::Restoration {
 public:
     explicit Restoration(const TreeStateMemo& memo)
@@ -44,7 +44,7 @@ public:
     QItemSelection selection() const { return selection_; }
 
     void level(const std::optional<QModelIndex>& parent, std::size_t count) {
-        // Looking at the rows fetches them, so it is left where nothing is to be found.
+        // Accessing the rows fetches them, so it is skipped if there is nothing to find.
         const Rows rows = parent && count > 0 ? rowsOf(*parent) : Rows();
         for (std::size_t i = 0; i < count; ++i) {
             const Record& record = memo_.records_[next_++];
@@ -91,7 +91,7 @@ void TreeStateMemo::restore() const {
     restoration.level(QModelIndex(), top_);
     const QItemSelection selection = restoration.selection();
     selected.select(selection, QItemSelectionModel::Select | QItemSelectionModel::Rows);
-    // Where the keyboard goes on.
+    // Where keyboard navigation continues.
     if (!selection.isEmpty())
         selected.setCurrentIndex(selection.first().topLeft(), QItemSelectionModel::NoUpdate);
 }

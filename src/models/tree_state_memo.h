@@ -10,23 +10,24 @@
 class QModelIndex;
 class QTreeView;
 
-/// Which rows of a tree are expanded and which are selected, by the texts that they show, so that
-/// another model can be shown in the same way.
+/// Remembers which rows of a tree are expanded and which are selected, by their displayed texts, so
+/// that another model can be shown in the same state.
 ///
 ///     const TreeStateMemo memo(tree, 0);
 ///     tree.setModel(&another);
 ///     memo.restore();
 class TreeStateMemo {
 public:
-    /// Remembers what `view`, which outlives this, shows now. Rows go by their texts in `column`.
+    /// Stores the state of `view`, which must outlive this. Identifies rows by their texts in
+    /// `column`.
     TreeStateMemo(QTreeView& view, int column);
 
-    /// Expands and selects what was so; whatever else was selected is not. Rows that are gone are
-    /// passed over. Without a memory, or without a model, nothing changes.
+    /// Expands and selects the remembered rows; anything else is deselected. Missing rows are
+    /// skipped. Does nothing without a memory or without a model.
     void restore() const;
 
 private:
-    /// A row that is expanded or selected. What is remembered below it follows.
+    /// An expanded or selected row. The records below it follow.
     struct Record {
         QString text;
         std::size_t below = 0; ///< records directly below it

@@ -7,10 +7,10 @@
 namespace platform {
 
 /// Whether the account `user`, in UTF-8, may administer this machine. False for an empty name, for
-/// one that the system doesn't know, and if the system can't tell. On Windows: whether the account
-/// belongs, at any remove, to the local Administrators. Elsewhere: whether it is root, or a member
-/// of the groups sudo, wheel or admin. Asks the system each time, which may ask a directory
-/// service.
+/// an unknown account, and if the system can't say. On Windows: whether the account belongs,
+/// directly or through other groups, to the local Administrators. Elsewhere: whether it is root or
+/// a member of the groups sudo, wheel or admin. Queries the system on each call, which may query a
+/// directory service.
 bool isAdministrator(const std::string& user);
 
 } // namespace platform

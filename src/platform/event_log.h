@@ -6,8 +6,8 @@
 
 namespace platform {
 
-/// Reports an error to the system's event log under the name `source`. Best effort: if the log
-/// can't be reached, nothing is reported and nothing is raised.
+/// Reports an error to the system's event log under the name `source`. Best effort: if the log is
+/// unreachable, the error is dropped. Doesn't throw.
 void reportError(const std::string& source, const std::string& text);
 
 } // namespace platform

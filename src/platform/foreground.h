@@ -5,7 +5,7 @@
 namespace platform {
 
 /// Lets any other process take the foreground next. Does nothing on systems where a process needs
-/// no leave for that.
+/// no permission for that.
 void allowSetForeground();
 
 } // namespace platform

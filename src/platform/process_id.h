@@ -4,10 +4,10 @@
 
 namespace platform {
 
-/// The system's number of this process.
+/// The process ID of this process.
 long processId();
 
-/// The system's number of the calling thread, as its own tools show it.
+/// The system ID of the calling thread, as the system's tools show it.
 long threadId();
 
 } // namespace platform

@@ -6,11 +6,11 @@
 #include <span>
 #include <string>
 
-/// What integrated logon needs of the operating system: a client-side security context of the
+/// Integrated logon on the operating system's side: a client-side security context of the
 /// "Negotiate" package (SPNEGO, RFC 4178) for the user of this process.
 namespace platform {
 
-/// Result of a security operation. A negative one is a failure.
+/// Result of a security operation. A negative value is a failure.
 using SecurityStatus = std::int32_t;
 
 inline constexpr SecurityStatus securityOk = 0;
@@ -18,7 +18,7 @@ inline constexpr SecurityStatus securityContinueNeeded = 0x90312;
 inline constexpr SecurityStatus securityCompleteNeeded = 0x90313;
 inline constexpr SecurityStatus securityCompleteAndContinue = 0x90314;
 
-/// A handle of the security interface. Both words zero: nothing is held.
+/// A handle of the security interface. Empty if both words are zero.
 struct SecurityHandle {
     std::uint64_t lower = 0;
     std::uint64_t upper = 0;
@@ -26,12 +26,12 @@ struct SecurityHandle {
     bool held() const { return lower != 0 || upper != 0; }
 };
 
-/// The operations of the security interface, one function each. None of them raises.
+/// The operations of the security interface, one function each. None of them throws.
 class SecurityOperations {
 public:
     virtual ~SecurityOperations() = default;
 
-    /// Whether the user of this process can be logged on now. On Linux that takes a valid Kerberos
+    /// Whether the user of this process can log on now. On Linux this requires a valid Kerberos
     /// ticket.
     virtual bool available() { return true; }
 
@@ -41,8 +41,9 @@ public:
     /// Outbound credentials of the user of this process.
     virtual SecurityStatus acquireCredentials(SecurityHandle& credentials) = 0;
 
-    /// One round. `targetName` is UTF-8. An empty `input` means the first round: then `context` is
-    /// only written. `output` is the room for the token to send, `outputSize` what was used of it.
+    /// One round. `targetName` is UTF-8. An empty `input` marks the first round: `context` is then
+    /// only written. `output` is the buffer for the token to send, `outputSize` the number of bytes
+    /// used.
     virtual SecurityStatus initializeContext(SecurityHandle& credentials, SecurityHandle& context,
                                              const std::string& targetName,
                                              std::span<std::uint8_t> input,
@@ -53,8 +54,8 @@ public:
     virtual SecurityStatus completeToken(SecurityHandle& context,
                                          std::span<std::uint8_t> token) = 0;
 
-    /// Ends a logon: gives back what the handles hold, and clears them. Does nothing where handles
-    /// end with the process.
+    /// Ends a logon: releases and clears the handles. Does nothing where handles end with the
+    /// process.
     virtual void release(SecurityHandle& credentials, SecurityHandle& context) {
         static_cast<void>(credentials);
         static_cast<void>(context);

@@ -6,8 +6,8 @@
 
 namespace platform {
 
-/// Where the programs of one user and one session on the desktop find each other: the beginning of
-/// a file's name, in UTF-8. Empty on systems where the desktop has a folder for that.
+/// Where the programs of one user in one desktop session find each other: the first part of a file
+/// name, in UTF-8. Empty on systems where the desktop has a folder for that.
 std::string sessionFilePrefix();
 
 } // namespace platform

@@ -4,10 +4,10 @@
 
 namespace platform {
 
-/// Lets what this process was started without, of standard input, output and error, lead nowhere.
-/// Otherwise the next file or socket would take the place, and get every warning written into it.
-/// To be called before anything is opened. Does nothing on systems that don't hand out the places
-/// of closed files.
+/// Opens the null device for each of standard input, output and error that this process was started
+/// without. Otherwise the next file or socket would get its descriptor, and every warning would be
+/// written into it. Call before opening anything. Does nothing on systems that don't reuse the
+/// descriptors of closed files.
 void fillStandardStreams();
 
 } // namespace platform

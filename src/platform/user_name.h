@@ -6,7 +6,7 @@
 
 namespace platform {
 
-/// The account name of the process in UTF-8, without a domain; empty if the system can't tell.
+/// The account name of the process in UTF-8, without a domain; empty if unknown.
 std::string currentWindowsUser();
 
 } // namespace platform

@@ -4,7 +4,7 @@
 
 #include <QtGlobal>
 
-// The macro declares a function, so it can't stand inside a namespace.
+// The macro declares a function, so it can't be used inside a namespace.
 static void initPicturesResource() {
     Q_INIT_RESOURCE(pictures);
 }

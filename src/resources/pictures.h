@@ -4,9 +4,9 @@
 
 namespace resources {
 
-/// Makes the pictures known to Qt's resource system. A linker drops the resources of a static
-/// library unless somebody asks for them; each program and test that shows pictures does so
-/// once, before its first window.
+/// Registers the pictures with Qt's resource system. A linker drops unreferenced resources of a
+/// static library; each program and test that shows pictures must call this once, before its first
+/// window.
 void initPictures();
 
 } // namespace resources

@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: Apache-2.0
 
 # Draws every picture of TABLE at its size and at twice its size into OUT, and writes
-# OUT/pictures.qrc, which gives each its resource name. Qt finds the larger one by the "@2x".
+# OUT/pictures.qrc with the resource names. Qt finds the larger one by its "@2x".
 
 file(REMOVE_RECURSE ${OUT})
 file(STRINGS ${TABLE} rows REGEX "^[a-z]")

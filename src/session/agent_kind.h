@@ -5,10 +5,10 @@
 #include <cstdint>
 #include <string_view>
 
-/// The kinds of agent, by the number that an agent answers to `getTarnClientType`.
+/// The kinds of agent, by the number that `getTarnClientType` returns.
 namespace session {
 
-/// What messages call such an agent; "Unknown Tarn-Client" for a number that nobody gave out.
+/// The name of such an agent in messages; "Unknown Tarn-Client" for an unassigned number.
 std::string_view agentKindName(std::int32_t clientType);
 
 /// Whether this program may log in to such an agent.

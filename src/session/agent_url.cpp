@@ -7,7 +7,7 @@ namespace session {
 void normalizeAgentUrl(const std::string& address, std::string& apiUrl, std::string& baseUrl) {
     const bool hasScheme = address.starts_with("https://") || address.starts_with("http://");
     std::string url = hasScheme ? address : "https://" + address;
-    // Behind the colon of either scheme, and before that of any port.
+    // After the colon of either scheme, and before that of any port.
     constexpr std::size_t behindScheme = 7;
     if (url.find(':', behindScheme) == std::string::npos)
         url += ":4411";

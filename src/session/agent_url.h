@@ -6,8 +6,8 @@
 
 namespace session {
 
-/// Completes what a user calls an agent: https unless a scheme is given, port 4411 unless a port
-/// is. `baseUrl` is the result, `apiUrl` the entry point behind it.
+/// Completes an agent address typed by the user: adds https without a scheme, and port 4411 without
+/// a port. `baseUrl` is the result, `apiUrl` its entry point.
 void normalizeAgentUrl(const std::string& address, std::string& apiUrl, std::string& baseUrl);
 
 } // namespace session

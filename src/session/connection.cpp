@@ -25,10 +25,10 @@ using Root = boost::shared_ptr<ClientConnection>;
 
 namespace {
 
-// What the client announces. The version that people see is another one.
+// The version sent to the agent. The version shown to users is a different one.
 const std::string clientVersion = "13.0.0.0";
 
-/// Stores the kind of the agent before judging it, so that a refused one stays visible.
+/// Stores the kind of the agent before checking it, so that it stays visible after a refusal.
 void admitAgent(ClientConnection& bootstrap) {
     g_clientType = bootstrap.getTarnClientType();
     g_isMobileClient = isMobileAgent(g_clientType);
@@ -41,7 +41,7 @@ void admitAgent(ClientConnection& bootstrap) {
     }
 }
 
-/// The agent answers frames on the port that it answered HTTP on.
+/// The agent accepts frames on the same port as HTTP.
 void moveToRawStream(ClientConnection& root) {
     root.setDispatcher(
         boost::make_shared<hessiancln::CRawStreamDispacher>(0u, std::string(), true));
@@ -54,7 +54,7 @@ void connectToAgent(const std::string& address, const std::string& user,
     std::string apiUrl;
     std::string baseUrl;
     normalizeAgentUrl(address, apiUrl, baseUrl);
-    // Made before the lock is taken, so that it goes when the lock has been released.
+    // Created before the lock is taken, so that it is destroyed after the lock is released.
     ClientConnection bootstrap(apiUrl, false, 0, std::string());
     const std::lock_guard lock(g_connectionMutex);
     g_connection.reset();
@@ -67,7 +67,7 @@ void connectToAgent(const std::string& address, const std::string& user,
     else if (!performIntegratedLogon(root, bootstrap, baseUrl, clientVersion,
                                      *platform::securityOperations()))
         return;
-    // An agent may end a login without a fault and without a session.
+    // An agent may end a login with neither a fault nor a session.
     if (!root)
         return;
     moveToRawStream(*root);
@@ -104,7 +104,7 @@ QStringList readDomainList(const std::string& address) {
         for (const std::string& domain : bootstrap.getAvailableDomains())
             domains.append(fromWire(domain));
     } catch (const std::exception&) {
-        // Without domains the login simply offers none.
+        // Without domains, the login simply offers no choice.
     }
     return domains;
 }

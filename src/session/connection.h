@@ -9,32 +9,32 @@
 
 #include "session/process_values.h"
 
-/// Logging in to an agent and out again. Text is UTF-8 wherever it is a `std::string`.
+/// Login to an agent and logout. Every `std::string` is UTF-8.
 namespace session {
 
-/// Logs in to the agent at `address` and sets `g_connection`. Login goes over HTTP, all that
-/// follows over one raw stream. An earlier session is dropped first, without a logout.
+/// Logs in to the agent at `address` and sets `g_connection`. The login uses HTTP, everything after
+/// it a single raw stream. An earlier session is dropped first, without a logout.
 ///
-/// An empty `user` asks for integrated logon where this system offers it; `password` and `flag`
-/// are then ignored. `flag` is 1 for a login with a password, else 0.
+/// An empty `user` requests integrated logon if the system supports it; `password` and `flag` are
+/// then ignored. `flag` is 1 for a login with a password, else 0.
 ///
-/// Raises an exception derived from `std::exception` when the login is refused or fails. An
-/// integrated logon that fails inside this system raises nothing and leaves `g_connection` null,
-/// so a caller has to ask `connectedToAgent`. After any failure `g_connection` is null,
-/// `g_currentUser` is what it was, and the agent's kind is stored if the agent told it.
+/// Throws an exception derived from `std::exception` if the login is refused or fails. If an
+/// integrated logon fails inside the local system, nothing is thrown and `g_connection` is null, so
+/// the caller must check `connectedToAgent`. After any failure `g_connection` is null,
+/// `g_currentUser` is unchanged, and the agent's kind is stored if the agent reported it.
 void connectToAgent(const std::string& address, const std::string& user,
                     const std::string& password, std::int32_t flag);
 
-/// Logs out if there is a session. A dead agent doesn't stop it: nothing derived from
-/// `std::exception` leaves it.
+/// Logs out if there is a session. A dead agent doesn't prevent it: no exception derived from
+/// `std::exception` escapes.
 void disconnectFromAgent();
 
-/// The session's root object, kept alive by the copy. Raises `serialize_exception` when there is
-/// no session. All remote work starts here.
+/// The session's root object, kept alive by the copy. Throws `serialize_exception` without a
+/// session. All remote work starts here.
 boost::shared_ptr<hessiancln::ClientConnection> getConnection();
 
-/// The domains that the agent at `address` offers for login, in its order; empty if it can't be
-/// asked. Leaves the session alone.
+/// The login domains of the agent at `address`, in its order; empty if the request fails. Leaves
+/// the session alone.
 QStringList readDomainList(const std::string& address);
 
 } // namespace session

@@ -15,7 +15,7 @@ using platform::SecurityOperations;
 
 namespace {
 
-// The service stands on the machine of the user, whatever address it is reached by.
+// The service runs on the user's machine, whatever its address.
 const char* const targetName = "OstrandBakSvc/localhost";
 
 } // namespace

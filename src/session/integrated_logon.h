@@ -13,20 +13,20 @@ namespace hessiancln {
 class ClientConnection;
 }
 
-/// Logging in as the current user of this system, without a password.
+/// Login as the current user of this system, without a password.
 namespace session {
 
 using platform::currentWindowsUser;
 
-/// Whether this system can log on its current user now.
+/// Whether the current user of this system can be logged on now.
 bool integratedLogonAvailable();
 
-/// Carries tokens between this system and the agent until the security context is complete. `url`
+/// Exchanges tokens between this system and the agent until the security context is complete. `url`
 /// is the agent's base URL, `version` that of this client.
 ///
-/// True: `connectionOut` holds what the agent's last answer gave as the session's root object,
-/// which may be null. False: the logon didn't complete, and `connectionOut` is untouched, as it is
-/// when an exception of the remote call passes through.
+/// True: `connectionOut` is the session's root object from the agent's last answer, possibly null.
+/// False: the logon didn't complete, and `connectionOut` is unchanged; so it is if an exception of
+/// the remote call propagates.
 bool performIntegratedLogon(boost::shared_ptr<hessiancln::ClientConnection>& connectionOut,
                             hessiancln::ClientConnection& bootstrap, const std::string& url,
                             const std::string& version, platform::SecurityOperations& operations);

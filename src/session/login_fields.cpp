@@ -23,7 +23,7 @@ QString agentAddressOf(const QString& userText) {
     const int colon = userText.indexOf(QLatin1Char(':'));
     if (colon < 0)
         return QStringLiteral("127.0.0.1:4411");
-    // As it comes from a page or a mail that it was copied from.
+    // May have been pasted from a web page or a mail.
     QString address = userText.mid(colon + 1).trimmed();
     if (address.endsWith(QLatin1Char('/')) && !address.endsWith(QLatin1String("//")))
         address.chop(1);

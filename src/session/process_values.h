@@ -14,29 +14,29 @@ namespace hessiancln {
 class ClientConnection;
 }
 
-/// What the whole process knows about its one session. Alive from before `main` until after it.
+/// Process-wide values of the only session. They exist before `main` begins and after it returns.
 namespace session {
 
-/// The session's root object; null means not connected. This one value is the state of the
-/// connection for the whole program. Read it through `getConnection` and `connectedToAgent`.
+/// The session's root object; null means not connected. This value alone is the connection state of
+/// the whole program. Read it through `getConnection` and `connectedToAgent`.
 extern boost::shared_ptr<hessiancln::ClientConnection> g_connection;
 
-/// Guards each read and write of `g_connection`. Held for the whole of a login or logout.
+/// Guards every access to `g_connection`. Held throughout a login or logout.
 extern std::mutex g_connectionMutex;
 
-/// What the agent of the last attempt said it is, also if it was refused; see agent_kind.h.
+/// The kind reported by the last agent tried, even if it was refused; see agent_kind.h.
 extern std::int32_t g_clientType;
 extern bool g_isMobileClient;
 extern bool g_isNotebookClient;
 
-/// Written by whoever refreshes the agent's information.
+/// Set when the agent's information is refreshed.
 extern bool g_isCentrallyManaged;
 extern bool g_is2FAEnabled;
 
-/// The user of the last login that succeeded, in UTF-8.
+/// The user of the last successful login, in UTF-8.
 extern std::string g_currentUser;
 
-/// Language code of the interface; empty for the built-in English.
+/// Language code of the user interface; empty for the built-in English.
 extern QString g_language;
 
 bool connectedToAgent();

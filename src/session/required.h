@@ -12,8 +12,8 @@
 
 namespace session {
 
-/// An object of the agent that this program can't do without. Raises `std::runtime_error` where
-/// the agent gave none.
+/// An object of the agent that this program can't work without. Throws `std::runtime_error` if the
+/// agent returned none.
 template <class Proxy>
 boost::shared_ptr<Proxy> required(boost::shared_ptr<Proxy> object) {
     if (!object)

@@ -7,14 +7,14 @@
 
 #include "base/secret.h"
 
-/// Secrets on the border between the screen and the wire.
+/// Secrets between the screen and the wire.
 namespace session {
 
-/// Overwrites the text and empties it. One that others share is left to them.
+/// Overwrites the text and empties it. Shared text is left to its other owners.
 void wipe(QString& text);
 void wipe(QByteArray& bytes);
 
-/// In UTF-8. No other copy of it stays behind.
+/// Converts to UTF-8. Leaves no other copy behind.
 base::Secret secretToWire(const QString& text);
 
 } // namespace session

@@ -18,7 +18,7 @@ SspiClientContext::~SspiClientContext() {
 bool SspiClientContext::runRound(const std::string& targetName) {
     if (!credentials_.held() && !acquireCredentials())
         return false;
-    // The interface is told the room of the input, not the size of the token in it.
+    // The interface takes the size of the input buffer, not of the token in it.
     const auto input = inToken_.size == 0 ? std::span<std::uint8_t>() : std::span(inToken_.room);
     std::uint32_t written = 0;
     SecurityStatus status = operations_.initializeContext(credentials_, context_, targetName, input,
@@ -39,7 +39,7 @@ bool SspiClientContext::runRound(const std::string& targetName) {
 }
 
 void SspiClientContext::setInToken(std::span<const std::uint8_t> token) {
-    // What is left of an older token must not stand behind this one.
+    // Leftovers of an older token must not follow this one.
     std::ranges::fill(inToken_.room, std::uint8_t{0});
     if (token.size() > inToken_.room.size())
         inToken_.room.resize(token.size());

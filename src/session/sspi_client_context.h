@@ -10,35 +10,34 @@
 
 namespace session {
 
-/// The client's side of one integrated logon: turns the agent's last token into the next one to
-/// send, round by round, until the context is complete.
+/// The client side of one integrated logon: turns the agent's last token into the next one to send,
+/// round by round, until the context is complete.
 class SspiClientContext {
 public:
-    /// `operations` has to outlive this object.
+    /// `operations` must outlive this object.
     explicit SspiClientContext(platform::SecurityOperations& operations);
     SspiClientContext(const SspiClientContext&) = delete;
     SspiClientContext& operator=(const SspiClientContext&) = delete;
     ~SspiClientContext();
 
-    /// Runs one round. False when an operation failed; `failedOperation` may then name it.
+    /// Runs one round. Returns false if an operation failed; `failedOperation` may then name it.
     bool runRound(const std::string& targetName);
 
-    /// The token from the agent for the next round; empty before the first one.
+    /// The agent's token for the next round; empty before the first one.
     void setInToken(std::span<const std::uint8_t> token);
 
     /// The token to send to the agent. Valid until the next round.
     std::span<const std::uint8_t> outToken() const;
 
-    /// The context is complete.
+    /// Whether the context is complete.
     bool done() const { return done_; }
 
-    /// Status and name of the operation that failed. A failure to acquire credentials leaves no
-    /// trace here.
+    /// Status and name of the failed operation. Not set by a failure to acquire credentials.
     platform::SecurityStatus failedStatus() const { return failedStatus_; }
     const std::string& failedOperation() const { return failedOperation_; }
 
 private:
-    /// A buffer of the package's largest token, made once, and how much of it is in use.
+    /// A buffer for the package's largest token, allocated once, and the size used.
     struct Token {
         std::vector<std::uint8_t> room;
         std::size_t size = 0;

@@ -7,14 +7,14 @@
 
 #include <QString>
 
-/// The border between the text of the screen and the text of the wire. Nothing else converts.
+/// Conversion between text on the screen and text on the wire. All conversions happen here.
 namespace session {
 
-/// UTF-8. Half a surrogate pair becomes a replacement character.
+/// Converts to UTF-8. Unpaired surrogates become replacement characters.
 std::string toWire(const QString& text);
 
-/// Bytes that aren't UTF-8 become replacement characters. Raises `std::length_error` on more bytes
-/// than a QString can be made from.
+/// Invalid UTF-8 becomes replacement characters. Throws `std::length_error` if the text doesn't fit
+/// in a QString.
 QString fromWire(std::string_view text);
 
 } // namespace session

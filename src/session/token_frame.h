@@ -14,9 +14,9 @@ namespace session {
 /// `token` is at most 2^32 - 1 bytes long.
 hessianser::Binary frameToken(std::span<const std::uint8_t> token);
 
-/// The token in `frame`, a view into it. Bytes behind the token are left out. Never reads outside
-/// `frame`: a length that promises too much gives the bytes that are there, and a frame too short
-/// for a length gives an empty token.
+/// The token in `frame`, as a view into it. Bytes after the token are ignored. Never reads outside
+/// `frame`: if the length is too large, returns the existing bytes; if the frame is too short for a
+/// length, returns an empty token.
 std::span<const std::uint8_t> framedToken(std::span<const std::uint8_t> frame);
 
 } // namespace session

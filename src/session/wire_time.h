@@ -8,10 +8,10 @@
 
 #include "api/time_in_day.h"
 
-/// Times as the agent takes them.
+/// Times in the agent's format.
 namespace session {
 
-/// Seconds since 1970 UTC. A time that they can't say becomes the nearest one that they can.
+/// Seconds since 1970 UTC, clamped to the representable range.
 std::int32_t wireTime(const QDateTime& time);
 
 /// A time of day, to the minute.

@@ -11,18 +11,17 @@
 
 namespace hessiancln {
 
-/// What a call says that the system had no memory for. Short, since a text of this length needs
-/// none itself.
+/// Failure text of a call that ran out of memory. Short enough not to need an allocation itself.
 inline constexpr std::string_view outOfMemory = "Out of memory";
 
-/// The text with which a failure of this kind ends a call.
+/// The failure text for a call that ended with this exception.
 inline std::string_view callFailure(const std::exception& failure) {
     return dynamic_cast<const std::bad_alloc*>(&failure) ? outOfMemory
                                                          : std::string_view(failure.what());
 }
 
-/// Runs what a caller has asked of a dispatcher. Whatever fails in there, short of memory or of
-/// threads included, comes out as `invoke_exception`; only a broken trace keeps its own type.
+/// Runs a caller's request to a dispatcher. Any failure in it, including a lack of memory or of
+/// threads, is rethrown as `invoke_exception`; only a broken trace keeps its own type.
 template <class Step>
 auto asCall(Step step) {
     try {

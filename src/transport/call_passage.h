@@ -8,7 +8,7 @@
 
 namespace hessiancln {
 
-/// A call that its thread waits for.
+/// A call that a thread is waiting for.
 class AwaitedCall {
 public:
     AwaitedCall() = default;
@@ -17,20 +17,21 @@ public:
 
     virtual bool finished() const = 0;
 
-    /// Runs `wake` on some thread once the call has finished, at once if it has. `wake` must not
-    /// block. An empty one takes it back: when this returns, the earlier one won't run any more.
+    /// Runs `wake` on any thread once the call has finished, or immediately if it already has.
+    /// `wake` must not block. An empty `wake` unregisters: after this returns, the previous one
+    /// won't run.
     virtual void onFinish(std::function<void()> wake) = 0;
 
     /// Ends the connection that carries the call, in whatever state it is. The call then fails with
-    /// an `invoke_exception` of this text, and nothing is sent on that connection any more. Does
-    /// nothing to a call that has finished.
+    /// an `invoke_exception` of this text, and nothing more is sent on that connection. Does
+    /// nothing to a finished call.
     virtual void giveUp(const std::string& text) = 0;
 
 protected:
     ~AwaitedCall() = default;
 };
 
-/// What a thread does while it waits for a call that takes long.
+/// What a thread does while it waits for a slow call.
 class WaitHook {
 public:
     WaitHook() = default;
@@ -38,16 +39,16 @@ public:
     WaitHook& operator=(const WaitHook&) = delete;
     virtual ~WaitHook() = default;
 
-    /// How long a call may take before `wait` is run. Until then the thread sleeps.
+    /// How long a call may take before `wait` runs. Until then the thread sleeps.
     virtual std::chrono::milliseconds patience() const = 0;
 
     /// Runs on the waiting thread, and returns once the call has finished.
     virtual void wait(AwaitedCall& call) noexcept = 0;
 };
 
-/// Has all calls of this thread waited for with `hook` for as long as the object lives. Without
-/// one a thread just sleeps until the reply comes. One at a time for each thread; `hook` has to
-/// outlive this object.
+/// Makes all calls of this thread wait with `hook` for the lifetime of this object. Without a hook
+/// a thread just sleeps until the reply arrives. At most one per thread; `hook` must outlive this
+/// object.
 class WaitHookInstallation {
 public:
     explicit WaitHookInstallation(WaitHook& hook);
@@ -56,9 +57,9 @@ public:
     ~WaitHookInstallation();
 };
 
-/// The one gate that each call of a thread goes through, whatever transport carries it. Lives for
-/// the length of the call. A call inside a call is an error of this program, which fails an
-/// assertion; where those are off it raises `invoke_exception`, and the outer call goes on.
+/// The single gate for every call of a thread, on any transport. Lives as long as the call. A
+/// nested call is a programming error and fails an assertion; with assertions disabled it throws
+/// `invoke_exception`, and the outer call continues.
 class CallPassage {
 public:
     CallPassage();
@@ -66,10 +67,10 @@ public:
     CallPassage& operator=(const CallPassage&) = delete;
     ~CallPassage();
 
-    /// Whether this thread is in a call, so that it must not begin another one.
+    /// Whether this thread is in a call and so must not begin another one.
     static bool underWay();
 
-    /// The hook of this thread; null without one.
+    /// The hook of this thread, or null.
     static WaitHook* hook();
 };
 

@@ -7,7 +7,7 @@
 
 namespace hessiancln {
 
-/// CRC-32 as in IEEE 802.3 over `size` bytes, continuing from `checksum`, which is 0 at the start.
+/// IEEE 802.3 CRC-32 of `size` bytes, continued from `checksum`, which is 0 for the first block.
 std::uint32_t continueChecksum(std::uint32_t checksum, const void* bytes, std::size_t size);
 
 } // namespace hessiancln

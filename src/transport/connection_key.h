@@ -7,13 +7,13 @@
 
 namespace hessiancln {
 
-/// The endpoint that a raw stream leads to.
+/// The endpoint of a raw stream.
 struct ConnectionKey {
     bool useTls = false;
     std::string host;
     std::uint32_t port = 0;
 
-    /// TLS first, then by port, then by host without regard to case.
+    /// Orders by TLS, then by port, then by host, ignoring case.
     bool operator<(const ConnectionKey& other) const;
 };
 

@@ -65,7 +65,7 @@ std::uint32_t storedChecksum(const char* bytes) {
 }
 
 std::string dump(const ResponseHeader& header) {
-    // Each byte is printed as a signed number over the tail of the one before it.
+    // Each byte is printed as a signed number over the tail of the previous one.
     std::array<char, 2 * responseHeaderSize + 8> digits{};
     for (std::size_t i = 0; i < header.size(); ++i) {
         const int number =

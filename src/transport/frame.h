@@ -19,24 +19,24 @@ inline constexpr std::size_t checksumSize = 4;
 
 using ResponseHeader = std::array<unsigned char, responseHeaderSize>;
 
-/// A whole request frame.
+/// A complete request frame.
 std::string requestFrame(std::uint32_t id, const std::string& url, const std::string& message);
 
 bool hasResponseMagic(const ResponseHeader& header);
 std::uint32_t responseId(const ResponseHeader& header);
 std::uint64_t responseLength(const ResponseHeader& header);
 
-/// Whether a message may be so long: the codec counts its bytes in 32 bits.
+/// Whether a message may have this length: the codec counts its bytes in 32 bits.
 bool isMessageLength(std::uint64_t length);
 
-/// The checksum of what the header adds to it. The message follows.
+/// The checksum of the header's part. Continue it with the message.
 std::uint32_t checksumOf(const ResponseHeader& header);
 
 /// Reads a checksum from the four bytes at `bytes`.
 std::uint32_t storedChecksum(const char* bytes);
 
-/// The bytes of a header that isn't one, in hexadecimal. A byte from 0x80 upward shows as "FF"; as
-/// the last one it shows as "FFFFFF" and its own two digits.
+/// Hex dump of an invalid header. A byte of 0x80 or above shows as "FF", or as "FFFFFF" plus its
+/// own two digits if it is the last one.
 std::string dump(const ResponseHeader& header);
 
 } // namespace hessiancln

@@ -30,7 +30,7 @@ std::string carry(HttpExchange& exchange, const Target& target, const std::strin
     return exchange.post(target.host, target.port, target.path, request);
 }
 
-/// The thread of the call is left behind when the caller gives up. It then owns all that it needs.
+/// Abandons the thread of the call if the caller gives up. The thread owns all that it needs.
 std::string carryBeside(const std::shared_ptr<HttpExchange>& exchange, const Target& target,
                         const std::string& request) {
     const auto reply =

@@ -10,16 +10,16 @@
 
 namespace hessiancln {
 
-/// What an answer may take of time and memory.
+/// Time and memory limits for a response.
 struct HttpLimits {
-    /// For each wait on the network.
+    /// Applies to each wait on the network.
     std::chrono::milliseconds readTimeout = std::chrono::seconds(7200);
-    /// Bytes of content.
+    /// Maximum content length in bytes.
     std::uint64_t largestContent = 0x40000000;
 };
 
-/// Carries each call as one HTTP or HTTPS POST on a connection of its own: on the thread of the
-/// caller, or on one beside it where the caller has a hook to wait with.
+/// Carries each call as one HTTP or HTTPS POST on its own connection: on the caller's thread, or on
+/// a separate thread if the caller has a wait hook.
 class CHttpCallDispatcher final : public ICallDispatcher {
 public:
     CHttpCallDispatcher(std::uint32_t traceLevel, std::string traceFile, HttpLimits limits = {});

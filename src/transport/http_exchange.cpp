@@ -35,8 +35,8 @@ invoke_exception failure(const char* what, const ErrorCode& error) {
                               << ")";
 }
 
-/// The reason that came with the status. `reason()` of the response would put a usual one in the
-/// place of an empty one.
+/// The reason phrase as received. `reason()` of the response would replace an empty one with the
+/// standard phrase.
 std::string reasonAsSent(const http::fields& fields) {
     struct Opened : http::fields {
         static auto reason() { return &Opened::get_reason_impl; }
@@ -51,7 +51,7 @@ std::string requestHead(const std::string& host, std::uint32_t port, const std::
     request.set(http::field::user_agent, "NorvelHessianCln/1.0");
     request.content_length(bodySize);
     std::ostringstream head;
-    head.exceptions(std::ios::badbit); // what it has no memory for would be left out in silence
+    head.exceptions(std::ios::badbit); // a failed allocation would truncate the head silently
     head << request.base();
     return head.str();
 }
@@ -87,8 +87,8 @@ void HttpExchange::connect(const std::string& host, std::uint32_t port) {
 
 std::string HttpExchange::post(const std::string& host, std::uint32_t port, const std::string& path,
                                const std::string& body) {
-    // All of it in one buffer: the body may hold a password, and TLS would put several buffers
-    // together on the stack.
+    // A single buffer: the body may hold a password, and TLS would merge several buffers on the
+    // stack.
     std::string request = requestHead(host, port, path, body.size());
     request.reserve(request.size() + body.size());
     request += body;
@@ -112,8 +112,8 @@ std::string HttpExchange::post(const std::string& host, std::uint32_t port, cons
 
 template <class Stream>
 void HttpExchange::exchange(Stream& stream, const std::string& request, ResponseParser& parser) {
-    // A server may refuse a request before it has read the whole of it, so a failed write doesn't
-    // yet mean that there is no answer.
+    // A server may refuse a request before it has read all of it, so a failed write doesn't mean
+    // that there is no response.
     const ErrorCode sent = send(request);
     const ErrorCode received = receive(stream, parser);
     if (received && sent)
@@ -141,7 +141,7 @@ ErrorCode HttpExchange::send(const std::string& request) {
 
 template <class Stream>
 ErrorCode HttpExchange::receive(Stream& stream, ResponseParser& parser) {
-    // The reply may hold a key, which the parser copies out of this.
+    // The reply may hold a key, which the parser copies out of this buffer.
     boost::beast::basic_flat_buffer<base::WipingAllocator<char>> buffer;
     ErrorCode error;
     while (!error && !parser.is_done()) {
@@ -151,8 +151,8 @@ ErrorCode HttpExchange::receive(Stream& stream, ResponseParser& parser) {
                 [completion](const ErrorCode& result, std::size_t) { completion(result); });
         });
     }
-    // Many servers close a TLS connection without saying so first. That ends a body whose length
-    // nobody told, as it does on a plain connection, and cuts any other.
+    // Many servers close a TLS connection without a close_notify. As on a plain connection, that
+    // ends a body of unknown length and truncates any other.
     if (error == asio::ssl::error::stream_truncated && parser.got_some()) {
         error = {};
         parser.put_eof(error);

@@ -20,23 +20,23 @@
 
 namespace hessiancln {
 
-/// One request and its answer on a connection of their own, all on one thread. Only the dispatcher
+/// One request and its response on their own connection, all on one thread. Only the dispatcher
 /// includes this header.
 class HttpExchange {
 public:
-    /// Raises `boost::system::system_error`.
+    /// Throws `boost::system::system_error`.
     HttpExchange(bool useTls, const HttpLimits& limits, Tracer trace);
 
-    /// Raises `invoke_exception`.
+    /// Throws `invoke_exception`.
     void connect(const std::string& host, std::uint32_t port);
 
-    /// Sends `body`, gives back the body of the answer and closes the connection. Raises
-    /// `invoke_exception` unless the answer is whole and its status 200.
+    /// Sends `body`, returns the body of the response and closes the connection. Throws
+    /// `invoke_exception` unless the response is complete with status 200.
     std::string post(const std::string& host, std::uint32_t port, const std::string& path,
                      const std::string& body);
 
-    /// Closes the connection from another thread, and has nothing sent any more. What is under way
-    /// then raises, though a resolution of a name only when it ends by itself.
+    /// Closes the connection from another thread and prevents further sending. The running
+    /// operation then throws; a name resolution does so only when it completes.
     void abandon();
 
 private:
@@ -48,8 +48,8 @@ private:
     template <class Stream>
     ErrorCode receive(Stream& stream, ResponseParser& parser);
 
-    /// Starts an asynchronous operation, which gets the completion to call, and waits for its end
-    /// or for the time-out.
+    /// Starts an asynchronous operation with the completion to call, and waits for its end or for
+    /// the time-out.
     ErrorCode await(const std::function<void(TcpConnection::Completion)>& start);
 
     boost::asio::io_context io_{1};

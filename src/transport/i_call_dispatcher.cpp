@@ -45,8 +45,8 @@ private:
 
     ICallDispatcher& dispatcher_;
     std::mutex mutex_;
-    // Two conditions, so that a wake-up meant for a worker is never spent on a caller that waits
-    // for room, nor the other way round.
+    // Two conditions, so that a wake-up for a worker never goes to a caller that waits for room,
+    // and vice versa.
     std::condition_variable workOrStop_;
     std::condition_variable roomOrStop_;
     std::list<PendingCall> pending_;
@@ -58,7 +58,7 @@ void ICallDispatcher::WorkerPool::queue(PendingCall call) {
     std::unique_lock lock(mutex_);
     if (!stopped_)
         startWorkers();
-    // Also a handler on a worker may wait here, and the stop waits for that worker.
+    // A handler on a worker may wait here too, and stopping waits for that worker.
     roomOrStop_.wait(lock, [this] { return stopped_ || pending_.size() < pendingLimit; });
     if (stopped_) {
         call.onFailure("Call dispatcher stopped");
@@ -68,7 +68,7 @@ void ICallDispatcher::WorkerPool::queue(PendingCall call) {
     workOrStop_.notify_one();
 }
 
-/// Starts the workers that are missing. One is enough to go on with.
+/// Starts the missing workers. One is enough to continue.
 void ICallDispatcher::WorkerPool::startWorkers() {
     workers_.reserve(workerCount);
     try {

@@ -6,7 +6,7 @@
 
 namespace hessiancln {
 
-/// Compares as ASCII without regard to case, in every locale. Negative, zero or positive.
+/// ASCII case-insensitive comparison, in every locale. Negative, zero or positive.
 int compareIgnoringCase(std::string_view left, std::string_view right);
 
 } // namespace hessiancln

@@ -6,7 +6,7 @@
 
 namespace hessiancln {
 
-/// A call that failed: in the transport, or by a fault of the remote side.
+/// A failed call: in the transport, or by a fault of the remote side.
 class invoke_exception final : public base::StreamedException<invoke_exception> {
     using StreamedException::StreamedException;
 };

@@ -18,7 +18,7 @@ bool startsWith(std::string_view text, std::string_view start) {
     return compareIgnoringCase(text.substr(0, start.size()), start) == 0;
 }
 
-/// A number too large stays too large, so that it can't fold into a port that exists.
+/// Clamps a number that is too large, so that it can't wrap to a valid port.
 std::uint32_t portNumber(const char* digits) {
     const long long number = std::strtoll(digits, nullptr, 10);
     return static_cast<std::uint32_t>(std::clamp<long long>(number, std::numeric_limits<int>::min(),

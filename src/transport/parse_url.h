@@ -7,8 +7,8 @@
 
 namespace hessiancln {
 
-/// Splits the URL of a remote object. `path` is "/" if there is none; `port` is that of the scheme
-/// if none is given. Raises `invoke_exception`.
+/// Splits the URL of a remote object. `path` defaults to "/", `port` to that of the scheme. Throws
+/// `invoke_exception`.
 void parseUrl(const std::string& url, bool& useTls, std::string& host, std::string& path,
               std::uint32_t& port);
 

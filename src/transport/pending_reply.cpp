@@ -16,7 +16,7 @@ PendingReply::~PendingReply() {
     base::wipe(reply_);
 }
 
-/// False, and without effect, if the call has finished before.
+/// Does nothing and returns false if the call has already finished.
 template <class Result>
 bool PendingReply::finish(Result setResult) {
     {
@@ -86,7 +86,7 @@ void PendingReply::giveUp(const std::string& text) {
     try {
         giveUp_(text);
     } catch (const std::bad_alloc&) {
-        // The caller goes nevertheless, and the connection stays as silent as it was.
+        // The caller returns anyway, and the connection stays as silent as it was.
     }
 }
 

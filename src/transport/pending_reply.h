@@ -13,25 +13,25 @@
 
 namespace hessiancln {
 
-/// Where the caller of a call sleeps while another thread carries it. Both hold a share in it,
-/// since either may leave first.
+/// Where a caller sleeps while another thread carries its call. Both share ownership, since either
+/// may finish first.
 class PendingReply final : public AwaitedCall {
 public:
-    /// Ends the connection without waiting for its end. Runs on the thread of the caller.
+    /// Ends the connection without waiting for it to close. Runs on the caller's thread.
     using GiveUp = std::function<void(const std::string& text)>;
 
     explicit PendingReply(GiveUp giveUp);
-    /// Wipes a reply that nobody has taken.
+    /// Wipes a reply that wasn't taken.
     ~PendingReply();
 
-    /// Any thread. The first of these counts; the others do nothing, and `fail` is then false. The
-    /// reply is taken out of its argument.
+    /// Thread-safe. Only the first of these calls counts; for later ones `fail` returns false. The
+    /// reply is moved out of its argument.
     void succeed(std::string& reply);
     bool fail(const std::string& text);
     bool fail(std::exception_ptr failure);
 
-    /// Sleeps, or does what the hook of this thread does, until the call has finished. Gives the
-    /// reply or raises the failure, which is an `invoke_exception` if it was given as a text.
+    /// Sleeps, or runs this thread's hook, until the call has finished. Returns the reply or throws
+    /// the failure; a failure given as text is thrown as `invoke_exception`.
     std::string wait();
 
     bool finished() const override;
@@ -43,7 +43,7 @@ private:
     bool finish(Result setResult);
 
     const GiveUp giveUp_;
-    mutable std::mutex mutex_; ///< guards all that follows
+    mutable std::mutex mutex_; ///< guards all members below
     std::condition_variable condition_;
     bool finished_ = false;
     std::exception_ptr failure_;

@@ -9,8 +9,8 @@
 
 namespace pion {
 
-/// The process-wide sink behind the log calls of the network code. It writes one line per call,
-/// and only once somebody has opened its file; this program never does.
+/// The process-wide sink for log calls of the network code. It writes one line per call once its
+/// file is open; this program never opens it.
 class PlainFileLogger {
 public:
     enum Level : std::uint32_t { debug = 0, info = 1, warning = 2, error = 3, fatal = 4 };
@@ -24,7 +24,7 @@ public:
     /// Closes the file.
     ~PlainFileLogger();
 
-    /// Appends to `path` from now on. False if it can't be opened.
+    /// Appends to `path` from now on. Returns false if it can't be opened.
     bool open(const std::string& path);
     void close();
 

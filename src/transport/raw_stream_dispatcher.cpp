@@ -26,7 +26,7 @@ ConnectionKey endpointOf(const std::string& url) {
 
 } // namespace
 
-/// Ends connections on threads that nobody joins, and knows when the last of them is done.
+/// Ends connections on detached threads, and knows when the last of them is done.
 class CRawStreamDispacher::Teardowns {
 public:
     static void begin(const std::shared_ptr<Teardowns>& teardowns, ConnectionPtr connection) {
@@ -40,7 +40,7 @@ public:
                 teardowns->done();
             }).detach();
         } catch (const std::exception&) {
-            // There is no thread or no memory for one, so the caller waits.
+            // No thread or no memory for one, so the caller waits.
             end(connection);
             teardowns->done();
         }
@@ -56,7 +56,7 @@ private:
         try {
             connection->WaitForStop();
         } catch (const trace_exception&) {
-            // The connection has ended nevertheless, and its caller has gone.
+            // The connection has ended anyway, and its caller is gone.
         }
         connection.reset();
     }
@@ -82,7 +82,7 @@ CRawStreamDispacher::~CRawStreamDispacher() {
     try {
         CRawStreamDispacher::stopConnections();
     } catch (const trace_exception&) {
-        // The event log has it, and every connection has ended.
+        // It is in the event log, and every connection has ended.
     }
     teardowns_->waitForAll();
 }
@@ -122,7 +122,7 @@ std::string CRawStreamDispacher::sendOnFreshConnection(const ConnectionKey& key,
     try {
         connection->SendRequest(url, request, response);
     } catch (const std::exception&) {
-        // A stream that is up in spite of the failure would stay.
+        // A stream that is up despite the failure would stay open.
         if (!connection->hasDied())
             Teardowns::begin(teardowns_, connection);
         throw;
@@ -154,8 +154,8 @@ void CRawStreamDispacher::asyncSend(const std::string& url, const std::string& r
 }
 
 void CRawStreamDispacher::stopConnections() {
-    // The mutex isn't held while a connection's thread ends, since one of its handlers may be on
-    // its way in here with the next call.
+    // The mutex isn't held while a connection's thread ends, because one of its handlers may be
+    // about to make the next call here.
     std::map<ConnectionKey, ConnectionPtr> ending;
     {
         const std::lock_guard lock(connectionMutex_);

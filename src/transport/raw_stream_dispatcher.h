@@ -17,27 +17,27 @@ namespace hessiancln {
 
 class CSingleStreamDispatcherConnection;
 
-/// Carries a session: calls go as frames over one long-lived stream for each endpoint, and replies
-/// may overtake each other.
+/// Carries a session: calls are sent as frames over one long-lived stream per endpoint, and replies
+/// may arrive out of order.
 ///
-/// A connection that came up stays, even when its stream has died: every later call raises the
-/// text of its death at once, so that taking leave of a dead agent never waits. One that didn't
-/// come up is replaced by the next call.
+/// A connection that came up stays, even when its stream has died: every later call immediately
+/// throws the text of its failure, so that logging out from a dead agent never waits. A connection
+/// that didn't come up is replaced by the next call.
 class CRawStreamDispacher final : public ICallDispatcher {
 public:
-    /// Without `reuseConnections` each `sendRequest` has a connection of its own.
+    /// Without `reuseConnections`, each `sendRequest` uses its own connection.
     CRawStreamDispacher(std::uint32_t traceLevel, std::string traceFile, bool reuseConnections);
     ~CRawStreamDispacher() override;
 
     std::string sendRequest(const std::string& url, const std::string& request) override;
 
-    /// The handlers run on the connection's own thread. They may call on with this operation, but
-    /// must not end that connection; a blocking call over it raises. Blocks while 16 frames are
+    /// The handlers run on the connection's own thread. They may call this function again, but must
+    /// not end that connection; a blocking call over it throws. Blocks while 16 frames are
     /// unwritten. Always reuses connections.
     void asyncSendRequest(const std::string& url, const std::string& request, Handler onSuccess,
                           Handler onFailure) override;
 
-    /// Ends every connection; calls under way raise. The next call connects anew.
+    /// Ends every connection; calls in progress throw. The next call connects again.
     void stopConnections() override;
 
 private:
@@ -53,7 +53,7 @@ private:
 
     bool reuseConnections_;
     std::mutex connectionMutex_;
-    std::map<ConnectionKey, ConnectionPtr> connections_; ///< null where none could be started
+    std::map<ConnectionKey, ConnectionPtr> connections_; ///< null if it couldn't be started
     std::shared_ptr<Teardowns> teardowns_;
 };
 

@@ -42,10 +42,10 @@ CSingleStreamDispatcherConnection::CSingleStreamDispatcherConnection(const Conne
     , nextRequestId_(lastRequestId) {}
 
 CSingleStreamDispatcherConnection::~CSingleStreamDispatcherConnection() {
-    // A connection that nobody stopped ends on its own thread, with the last reference.
+    // A connection that was never stopped ends on its own thread, with the last reference.
     if (thread_.joinable())
         thread_.detach();
-    // What a reply that failed in the middle has left.
+    // Leftovers of a reply that failed midway.
     base::wipe(data_);
 }
 
@@ -53,7 +53,7 @@ void CSingleStreamDispatcherConnection::SendRequest(const std::string& url,
                                                     const std::string& request,
                                                     std::string& response) {
     trace_.step("CSingleStreamDispatcherConnection::SendRequest ENTER");
-    // A handler would wait for the thread that it runs on.
+    // A handler would wait for its own thread.
     if (std::this_thread::get_id() == streamThread_)
         throw invoke_exception("A handler can't wait for a reply on its own connection");
 
@@ -89,7 +89,7 @@ void CSingleStreamDispatcherConnection::asyncSendRequest(const std::string& url,
     call.front()->asynchronous = true;
     {
         std::unique_lock lock(writeMutex_);
-        // A handler that calls on is the writer itself, and would wait for ever.
+        // A handler that calls again is the writer itself, and would wait forever.
         if (std::this_thread::get_id() != streamThread_) {
             writeCondition_.wait(lock,
                                  [this] { return terminated_ || writeCount_ < unwrittenLimit; });
@@ -97,14 +97,14 @@ void CSingleStreamDispatcherConnection::asyncSendRequest(const std::string& url,
         ++writeCount_;
     }
     if (!submit(call)) {
-        // The thread that would tell has ended.
+        // The thread that would report it has ended.
         call.front()->fail(errorText());
     }
     trace_.step("CSingleStreamDispatcherConnection::asyncSendRequest LEAVE");
 }
 
 void CSingleStreamDispatcherConnection::WaitForStop() {
-    // A broken trace file fails the caller, but not before the thread has ended.
+    // A broken trace file fails the caller, but only after the thread has ended.
     std::exception_ptr traceFailure;
     try {
         trace_.step("CSingleStreamDispatcherConnection::WaitForStop ENTER");
@@ -121,13 +121,13 @@ void CSingleStreamDispatcherConnection::WaitForStop() {
     trace_.step("CSingleStreamDispatcherConnection::WaitForStop LEAVE");
 }
 
-/// For a caller who doesn't wait any longer. The connection ends on its own thread.
+/// For a caller that has stopped waiting. The connection ends on its own thread.
 void CSingleStreamDispatcherConnection::giveUp(const std::string& text) {
     givenUp_ = true;
     asio::post(io_, [this, text] { terminate(text); });
 }
 
-/// A call on its own, in a list already, so that it changes hands without asking for memory.
+/// A single call, already in a list, so that handing it over doesn't allocate.
 CSingleStreamDispatcherConnection::Calls
 CSingleStreamDispatcherConnection::newCall(const std::string& url, const std::string& request) {
     Calls call;
@@ -137,8 +137,9 @@ CSingleStreamDispatcherConnection::newCall(const std::string& url, const std::st
     return call;
 }
 
-/// Hands the call, which counts as unwritten, to the connection's thread; false, with the call
-/// untouched, if the stream is dead. Calls that come before the stream is up wait for it.
+/// Passes the call, already counted as unwritten, to the connection's thread. Returns false, and
+/// leaves the call untouched, if the stream is dead. Calls made before the stream is up wait for
+/// it.
 bool CSingleStreamDispatcherConnection::submit(Calls& call) {
     const std::lock_guard lock(stateMutex_);
     if (terminated_)
@@ -155,7 +156,7 @@ bool CSingleStreamDispatcherConnection::submit(Calls& call) {
     return true;
 }
 
-/// One call fewer stands between an asynchronous caller and its room.
+/// Counts one unwritten call less, which may make room for an asynchronous caller.
 void CSingleStreamDispatcherConnection::forgetUnwritten() {
     const std::lock_guard lock(writeMutex_);
     --writeCount_;
@@ -185,7 +186,7 @@ void CSingleStreamDispatcherConnection::IOProcessingThread() {
     trace_.step("CSingleStreamDispatcherConnection::IOProcessingThread LEAVE");
 }
 
-/// False if the connection didn't come up or was stopped before it did.
+/// Returns false if the connection didn't come up or was stopped before.
 bool CSingleStreamDispatcherConnection::connect() {
     if (!createConnection())
         return false;
@@ -236,8 +237,8 @@ bool CSingleStreamDispatcherConnection::createConnection() {
     return false;
 }
 
-/// Runs one operation to its end, as if it blocked, but gives nothing when the connection is
-/// stopped meanwhile.
+/// Runs one operation to completion as if it blocked. Returns no value if the connection is stopped
+/// meanwhile.
 std::optional<ErrorCode> CSingleStreamDispatcherConnection::await(
     const std::function<void(TcpConnection::Completion)>& start) {
     std::optional<ErrorCode> result;
@@ -279,8 +280,8 @@ void CSingleStreamDispatcherConnection::terminate(std::string_view cause) {
         writeCondition_.notify_all();
     }
 
-    // A stream that was up keeps its socket, which marks it as one not to be replaced. So does one
-    // that was given up before: the calls that still come for it must not begin another wait.
+    // A stream that was up keeps its socket, which marks it as not replaceable. So does one that
+    // was given up before that: later calls for it must not start another wait.
     if (streaming_) {
         connection_->shutDown();
     } else {
@@ -294,7 +295,7 @@ void CSingleStreamDispatcherConnection::terminate(std::string_view cause) {
         try {
             call->fail(text);
         } catch (...) {
-            // The others must hear of it too.
+            // The others must be notified too.
         }
     };
     for (const auto& [id, call] : waiting)

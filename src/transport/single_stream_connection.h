@@ -31,20 +31,20 @@
 
 namespace hessiancln {
 
-/// One stream of frames to an agent, with the thread that does its reading and writing.
+/// One stream of frames to an agent, with its own thread for reading and writing.
 ///
 /// It connects on that thread, carries calls until the stream dies, and stays dead: from then on
-/// every call raises the text of the death at once. Each call is, at any time, in one of two
-/// places: `submitted_`, until the thread takes it, and then `waiting_`. Whoever ends the stream
-/// fails what stands in both, so that no caller is left behind.
+/// every call immediately throws the text of the failure. At any time, each call is in one of two
+/// places: in `submitted_` until the thread takes it, then in `waiting_`. Ending the stream fails
+/// the calls in both, so that no caller is left waiting.
 class CSingleStreamDispatcherConnection
     : public boost::enable_shared_from_this<CSingleStreamDispatcherConnection> {
 public:
     using Handler = ICallDispatcher::Handler;
 
-    /// A new connection whose thread runs already. The thread holds a reference, so a connection
-    /// that nobody stops lives until its stream dies. Raises `invoke_exception` if the system
-    /// gives no thread.
+    /// A new connection whose thread is already running. The thread holds a reference, so a
+    /// connection that is never stopped lives until its stream dies. Throws `invoke_exception` if
+    /// the system can't provide a thread.
     static boost::shared_ptr<CSingleStreamDispatcherConnection>
     start(const ConnectionKey& key, std::uint32_t traceLevel, const std::string& traceFile,
           std::uint32_t lastRequestId = 0);
@@ -55,37 +55,37 @@ public:
     CSingleStreamDispatcherConnection& operator=(const CSingleStreamDispatcherConnection&) = delete;
     virtual ~CSingleStreamDispatcherConnection();
 
-    /// Blocks, without a limit, until the reply stands in `response`. Raises `invoke_exception`
-    /// when the stream dies before that, and in a handler of this connection.
+    /// Blocks without a time limit until the reply is in `response`. Throws `invoke_exception` if
+    /// the stream dies before that, and in a handler of this connection.
     void SendRequest(const std::string& url, const std::string& request, std::string& response);
 
-    /// Queues the call; blocks while 16 frames are unwritten. The handlers run on this
-    /// connection's thread, and on the caller's if the stream is dead already.
+    /// Queues the call; blocks while 16 frames are unwritten. The handlers run on this connection's
+    /// thread, or on the caller's if the stream is already dead.
     void asyncSendRequest(const std::string& url, const std::string& request, Handler onSuccess,
                           Handler onFailure);
 
-    /// Ends the stream in whatever state it is, and its thread. Not for handlers.
+    /// Ends the stream, in whatever state it is, and its thread. Not for handlers.
     void WaitForStop();
 
-    /// False once the socket is closed: the connection never came up, or has ended. One that its
-    /// caller gave up counts as open, since it isn't to be replaced.
+    /// False once the socket is closed: the connection never came up, or has ended. A connection
+    /// given up by its caller counts as open because it must not be replaced.
     bool isOpen() const { return open_; }
 
-    /// True once the stream is dead: no call gets through any more.
+    /// True once the stream is dead: no more calls get through.
     bool hasDied() const { return terminated_; }
 
 private:
     struct Call {
         std::string url;
         base::Secret request;
-        std::function<void(std::string&)> succeed; ///< may take the reply out of its argument
+        std::function<void(std::string&)> succeed; ///< may move the reply out of its argument
         Handler fail;
         bool asynchronous = false;
     };
     using CallPtr = std::unique_ptr<Call>;
     using Calls = std::list<CallPtr>;
 
-    // Any thread
+    // Thread-safe
     void giveUp(const std::string& text);
     static Calls newCall(const std::string& url, const std::string& request);
     bool submit(Calls& call);
@@ -124,27 +124,28 @@ private:
     std::atomic<bool> open_ = true;
     std::atomic<bool> givenUp_ = false;
 
-    std::mutex stateMutex_; ///< guards the next four
+    std::mutex stateMutex_; ///< guards the next four members
     std::atomic<bool> terminated_ = false;
     invoke_exception errorText_;
     bool streaming_ = false;
     Calls submitted_;
 
-    std::mutex writeMutex_; ///< guards the next two; may be taken with the state mutex held
+    std::mutex writeMutex_; ///< guards the next two members; may be locked with the state mutex
+                            ///< held
     std::condition_variable writeCondition_;
     std::size_t writeCount_ = 0; ///< calls not yet written, in the queue or on their way into it
     std::list<base::Secret> writeQueue_;
 
-    // Only the connection's own thread touches what follows.
+    // The members below are used only by the connection's own thread.
     std::uint32_t nextRequestId_;
     std::map<std::uint32_t, CallPtr> waiting_;
     ResponseHeader header_{};
     std::uint64_t responseLength_ = 0;
     std::uint32_t checksum_ = 0;
-    std::string data_; ///< the reply as far as it has come, with its checksum
+    std::string data_; ///< the part of the reply received so far, with its checksum
 };
 
-/// Runs a step of the connection's thread. What it raises ends the stream, and not the program.
+/// Runs a step of the connection's thread. An exception ends the stream, not the program.
 template <class Step>
 void CSingleStreamDispatcherConnection::guarded(Step step) {
     try {

@@ -17,12 +17,12 @@ namespace asio = boost::asio;
 
 namespace {
 
-// A message is read in pieces small enough to stay in the processor's cache, from the clearing of
-// the memory to the checksum over it. Memory is touched only as far as bytes have arrived.
+// Messages are read in pieces that fit in the processor's cache, from clearing the memory to
+// computing the checksum. Memory is touched only as far as bytes have arrived.
 constexpr std::size_t pieceSize = std::size_t(256) * 1024;
 
-/// Rounded up, since messages of similar sizes then share blocks; the largest number for a size
-/// that can't be told.
+/// Rounds up, so that messages of similar sizes can share blocks. Returns the maximum value if the
+/// result would overflow.
 std::uint64_t blockSize(std::uint64_t messageLength) {
     constexpr std::uint64_t step = 1024;
     constexpr std::uint64_t largest = std::numeric_limits<std::uint64_t>::max();
@@ -34,7 +34,7 @@ std::uint64_t blockSize(std::uint64_t messageLength) {
 void reserve(std::string& data, std::uint64_t messageLength) {
     const std::uint64_t size = blockSize(messageLength);
     try {
-        // Some systems would grant the memory, and fail the process when it is touched.
+        // Some systems would grant the memory and kill the process when it is touched.
         if (!isMessageLength(messageLength))
             throw std::length_error("more than a message can be");
         data.reserve(size);
@@ -81,7 +81,7 @@ void CSingleStreamDispatcherConnection::enqueueAsyncSendRequest(CallPtr& call) {
 }
 
 void CSingleStreamDispatcherConnection::enqueue(CallPtr& call) {
-    // Nothing asks for memory between the two places where the call becomes known.
+    // No allocation between the two places where the call is registered.
     std::list<base::Secret> frame;
     frame.push_back(prepareRequest(*call));
     waiting_[nextRequestId_] = std::move(call);
@@ -120,7 +120,7 @@ void CSingleStreamDispatcherConnection::startWriting(bool writeCompleted) {
             asio::buffer(frame->text()), [this](const ErrorCode& error, std::size_t) {
                 guarded([&] {
                     if (error)
-                        connection_->shutDown(); // the read that is under way ends the stream
+                        connection_->shutDown(); // the pending read ends the stream
                     startWriting(true);
                 });
             });
@@ -186,8 +186,8 @@ void CSingleStreamDispatcherConnection::takeReply() {
     }
     data_.resize(responseLength_);
     if (const auto found = waiting_.find(responseId(header_)); found != waiting_.end()) {
-        // Forgotten only afterwards: a handler that raises ends the stream, and its own call is
-        // then told of the failure like all others.
+        // Erased only afterwards: a handler that throws ends the stream, and its own call is then
+        // notified of the failure like all others.
         found->second->succeed(data_);
         waiting_.erase(found);
     }

@@ -41,7 +41,7 @@ TcpConnection::TcpConnection(asio::io_context& io, asio::ssl::context& context, 
 
 TcpConnection::Endpoints TcpConnection::resolve(const std::string& host, std::uint32_t port,
                                                 ErrorCode& error) {
-    // The system's resolver would fold a larger number into some other port.
+    // The system's resolver would wrap a larger number to another port.
     if (port > std::numeric_limits<std::uint16_t>::max()) {
         error = asio::error::service_not_found;
         return {};
@@ -64,8 +64,8 @@ void TcpConnection::asyncResolve(const std::string& host, std::uint32_t port,
         resolveAndTell();
         return;
     }
-    // The system offers no way to end a resolution. The thread is left behind then, with its share
-    // in the owner, and what it posts is never run.
+    // A name resolution can't be cancelled. The thread is then abandoned with its share in the
+    // owner, and the result that it posts never runs.
     std::thread([owner, resolveAndTell] { resolveAndTell(); }).detach();
 }
 
@@ -75,7 +75,7 @@ void TcpConnection::asyncConnect(const Endpoints& endpoints, Completion completi
                                                                    const asio::ip::tcp::endpoint&) {
                             if (!error) {
                                 // A call is one small write; it must not wait for the
-                                // acknowledgement of the one before.
+                                // acknowledgement of the previous one.
                                 ErrorCode ignored;
                                 socket().set_option(asio::ip::tcp::no_delay(true), ignored);
                             }

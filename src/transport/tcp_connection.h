@@ -15,14 +15,14 @@
 #include <boost/asio/write.hpp>
 #include <boost/shared_ptr.hpp>
 
-/// What both transports share of the network. Only sources of this folder and their tests include
+/// The network code shared by both transports. Only sources of this folder and their tests include
 /// this header, so that Asio stays in here.
 namespace hessiancln {
 
 using ErrorCode = boost::system::error_code;
 
-/// A context that negotiates the version, compresses nothing, verifies nobody, and wipes what it
-/// has decrypted once that was read.
+/// A context that negotiates the version, disables compression, verifies no peer, and wipes
+/// decrypted data once it has been read.
 boost::asio::ssl::context makeTlsContext();
 
 /// One TCP connection, plain or with TLS. Runs on one thread.
@@ -35,8 +35,8 @@ public:
     using Resolved = std::function<void(const ErrorCode&, const Endpoints&)>;
     using FinishedHandler = std::function<void()>;
 
-    /// `finished`, which may be empty, is called by `finish`. Raises a standard exception if the
-    /// system has no room for one more.
+    /// `finish` calls `finished`, which may be empty. Throws a standard exception if the system has
+    /// no resources for another connection.
     TcpConnection(boost::asio::io_context& io, boost::asio::ssl::context& context, bool useTls,
                   FinishedHandler finished = {});
 
@@ -44,11 +44,11 @@ public:
     Socket& socket() { return stream_.next_layer(); }
     TlsStream& tlsStream() { return stream_; }
 
-    /// Blocks for as long as the system's resolver does.
+    /// Blocks as long as the system's resolver does.
     static Endpoints resolve(const std::string& host, std::uint32_t port, ErrorCode& error);
 
-    /// Resolves a name on a thread of its own, which nobody has to wait for, and a number at once.
-    /// `owner` is what the context and this object live in.
+    /// Resolves a name on a detached thread, a numeric address immediately. `owner` holds the
+    /// context and this object.
     void asyncResolve(const std::string& host, std::uint32_t port,
                       const boost::shared_ptr<void>& owner, Resolved completion);
 
@@ -73,13 +73,13 @@ public:
             boost::asio::async_write(socket(), buffer, std::move(handler));
     }
 
-    /// Ends both directions and leaves the socket open. Operations under way end with an error.
+    /// Shuts down both directions and leaves the socket open. Pending operations end with an error.
     void shutDown();
 
-    /// Never waits for the other side, so TLS isn't closed down with it.
+    /// Never waits for the peer, so there is no TLS shutdown.
     void close();
 
-    /// Closes, and tells the finished handler.
+    /// Closes the connection and calls the finished handler.
     void finish();
 
 private:
@@ -88,7 +88,7 @@ private:
     FinishedHandler finished_;
 };
 
-/// The texts of a connection that didn't come up.
+/// The error text for a connection that didn't come up.
 std::string connectFailure(const std::string& host, std::uint32_t port, const ErrorCode& error);
 std::string handshakeFailure(const ErrorCode& error);
 

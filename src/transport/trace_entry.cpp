@@ -45,7 +45,7 @@ TraceEntry::~TraceEntry() {
             flush();
         }
     } catch (...) {
-        // The failure stands in the event log, and nobody is left to tell.
+        // The failure is in the event log, and there is no caller left to report it to.
     }
 }
 

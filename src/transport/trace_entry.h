@@ -11,21 +11,21 @@
 
 namespace hessiancln {
 
-/// One block of the trace file under construction: stream strings and numbers into it, then
-/// `flush`. The file is opened, appended to and closed for each block, so that threads and
-/// processes can share it. An empty file name drops everything.
+/// One block of the trace file: stream strings and numbers into it, then `flush`. The file is
+/// opened, appended to and closed for each block, so that threads and processes can share it. An
+/// empty file name discards everything.
 class TraceEntry {
 public:
     /// Takes a source name and a text, like `platform::reportError`.
     using EventLog = std::function<void(const std::string&, const std::string&)>;
 
-    /// Every block has its time, so nothing asks for `timed` yet.
+    /// Every block has a time so far; no caller passes `timed` yet.
     explicit TraceEntry(std::string file, bool timed = true,
                         EventLog eventLog = platform::reportError);
     TraceEntry(const TraceEntry&) = delete;
     TraceEntry& operator=(const TraceEntry&) = delete;
 
-    /// Writes text that nobody flushed, with a warning. Raises nothing.
+    /// Writes unflushed text with a warning. Doesn't throw.
     ~TraceEntry();
 
     template <class Value>
@@ -34,8 +34,8 @@ public:
         return *this;
     }
 
-    /// Writes what was streamed in. Raises `trace_exception`, after a report to the event log,
-    /// when the file can't be written.
+    /// Writes the streamed text. If the file can't be written, reports to the event log and throws
+    /// `trace_exception`.
     void flush();
 
 private:

@@ -6,7 +6,7 @@
 
 namespace hessiancln {
 
-/// A trace entry that couldn't be written. It passes through the operation that traced.
+/// A trace entry that couldn't be written. It propagates through the traced operation.
 class trace_exception final : public base::StreamedException<trace_exception> {
     using StreamedException::StreamedException;
 };

@@ -11,7 +11,7 @@
 namespace hessiancln {
 
 /// The trace points of one dispatcher or connection. Level 1 writes steps, level 2 steps and
-/// details, any other level nothing. Raises `trace_exception`.
+/// details, any other level nothing. Throws `trace_exception`.
 class Tracer {
 public:
     Tracer(std::uint32_t level, std::string file)

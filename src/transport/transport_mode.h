@@ -11,11 +11,11 @@ namespace hessiancln {
 
 class ICallDispatcher;
 
-/// Which transport `createCallDispatcher` makes: 1 the raw stream with reuse of connections, 2 the
-/// raw stream without, any other value HTTP. Starts at 0.
+/// Which transport `createCallDispatcher` creates: 1 the raw stream with reuse of connections, 2
+/// the raw stream without, any other value HTTP. Starts at 0.
 extern int transportMode;
 
-/// A new dispatcher of the kind that `transportMode` names.
+/// A new dispatcher of the kind selected by `transportMode`.
 boost::shared_ptr<ICallDispatcher> createCallDispatcher(std::uint32_t traceLevel,
                                                         const std::string& traceFile);
 

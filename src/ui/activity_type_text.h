@@ -9,7 +9,7 @@
 
 namespace ui {
 
-/// What people call an activity of this type.
+/// The name of this activity type for users.
 QString activityTypeLabel(hessiancln::ActivityType type);
 QIcon activityTypeIcon(hessiancln::ActivityType type);
 

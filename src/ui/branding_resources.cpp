@@ -17,7 +17,7 @@ namespace {
 constexpr QSize applicationIconSize(64, 64);
 constexpr QSize logoSize(280, 50);
 
-/// A small file may declare an image that fills the memory, so its size is asked first.
+/// A small file may declare an image that fills the memory, so its size is checked first.
 bool isReasonableImage(QByteArray& bytes) {
     QBuffer buffer(&bytes);
     QImageReader reader(&buffer);
@@ -27,7 +27,7 @@ bool isReasonableImage(QByteArray& bytes) {
                                                        BrandingResources::mostPixels);
 }
 
-/// The image of an entry, distorted to `size`; null if there is none.
+/// The image of an entry, stretched to `size`; null if there is none.
 QPixmap picture(const ZipReader& file, const char* entry, QSize size) {
     QByteArray bytes = file.read(entry);
     QPixmap pixmap;

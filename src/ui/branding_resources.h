@@ -9,22 +9,23 @@
 
 namespace ui {
 
-/// The program's look: its icon, its logo and a few strings. They are built in, and a file
-/// "resources.zip" in the current directory replaces them, all or some. For the GUI thread only.
+/// The program's branding: its icon, its logo and a few strings. They are built in, and a file
+/// "resources.zip" in the current directory can replace some or all of them. For the GUI thread
+/// only.
 class BrandingResources {
 public:
-    /// An image of more pixels than this counts as one that can't be decoded.
+    /// An image with more pixels is treated as undecodable.
     static constexpr qint64 mostPixels = qint64(32) * 1024 * 1024;
 
-    /// Takes the built-in look and then what the file has. A file that is missing or damaged
-    /// changes nothing and says nothing. Needs the application object.
+    /// Loads the built-in branding, then overrides from the file. A missing or damaged file is
+    /// silently ignored. Needs the application object.
     void load();
 
     QIcon applicationIcon() const { return applicationIcon_; }
     QIcon logoIcon() const { return logoIcon_; }
-    /// Empty if the file says so.
+    /// Empty if the file sets it so.
     QString description() const;
-    /// A URL as somebody typed it; empty if the file says so.
+    /// A URL as typed by its author; empty if the file sets it so.
     QString homePageUrl() const;
 
 private:

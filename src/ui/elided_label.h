@@ -6,17 +6,17 @@
 
 namespace ui {
 
-/// A line of somebody else's text, of any length. Where it is wider than its place it ends in an
-/// ellipsis, and its tool tip shows it whole, unless the label has a tool tip of its own.
+/// A line of external text of any length. If it is too wide, it ends in an ellipsis and a tool tip
+/// shows the full text, unless the label has a tool tip of its own.
 class ElidedLabel : public QLabel {
     Q_OBJECT
 public:
     explicit ElidedLabel(QWidget* parent = nullptr);
 
-    /// The width of an ellipsis: the text doesn't widen what the label stands in.
+    /// The width of an ellipsis: the text doesn't widen the layout.
     QSize minimumSizeHint() const override;
 
-    /// Whether a part of the text isn't seen.
+    /// Whether part of the text is hidden.
     bool isCut() const;
 
 protected:

@@ -29,7 +29,7 @@ bool isLong(const QString& text) {
     return text.size() > mostCharacters || text.count(QLatin1Char('\n')) >= mostLines;
 }
 
-/// A box grows with its text, and the button below a long one would be off the screen.
+/// A box grows with its text, which would push the button below a long one off the screen.
 void letTextScroll(QMessageBox& box) {
     auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
     if (!label || !box.layout())
@@ -51,7 +51,7 @@ QString errorText(const std::exception& error) {
 }
 
 void showError(QWidget* parent, const QString& title, const QString& text) {
-    // A text from an agent is shown as it came, so it must not be taken for HTML.
+    // Text from an agent is shown verbatim, so it must not be interpreted as HTML.
     QMessageBox box(QMessageBox::Critical, title, text, QMessageBox::Ok, parent);
     box.setTextFormat(Qt::PlainText);
     setStandardButtonPictures(box);

@@ -10,10 +10,10 @@ class QWidget;
 
 namespace ui {
 
-/// The text of an exception as it came, for the screen.
+/// The unmodified text of an exception, for the screen.
 QString errorText(const std::exception& error);
 
-/// A critical box with an Ok button; returns when the user has closed it. `parent` may be null.
+/// A critical box with an Ok button; returns when the user closes it. `parent` may be null.
 void showError(QWidget* parent, const QString& title, const QString& text);
 
 } // namespace ui

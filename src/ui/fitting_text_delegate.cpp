@@ -12,7 +12,7 @@ namespace ui {
 
 namespace {
 
-/// Percent of the font's width. Below that it is no pleasure to read.
+/// Percent of the font's width. Below that, text is hard to read.
 constexpr int narrower[] = {90, 80};
 
 const QStyle& styleOf(const QStyleOptionViewItem& option) {

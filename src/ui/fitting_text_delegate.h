@@ -6,12 +6,12 @@
 
 namespace ui {
 
-/// Draws a text that is a little too wide for its cell in a narrower font. One that is still too
-/// wide is cut, and its tool tip shows it whole, unless the cell has a tool tip of its own.
+/// Draws text slightly too wide for its cell in a narrower font. Text that is still too wide is
+/// elided, and a tool tip shows it in full, unless the cell has a tool tip of its own.
 class FittingTextDelegate : public QStyledItemDelegate {
     Q_OBJECT
 public:
-    /// `cut` tells where a text that is too wide loses characters.
+    /// `cut` specifies where text that is too wide is elided.
     explicit FittingTextDelegate(QObject* parent = nullptr, Qt::TextElideMode cut = Qt::ElideRight);
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -19,9 +19,9 @@ public:
     bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                    const QModelIndex& index) override;
 
-    /// What a cell is drawn with. `option` is the view's, with the cell's rectangle.
+    /// The options for drawing a cell. `option` is the view's, with the cell's rectangle.
     QStyleOptionViewItem fitted(const QStyleOptionViewItem& option, const QModelIndex& index) const;
-    /// Whether a cell drawn so shows its whole text.
+    /// Whether a cell drawn like this shows its full text.
     static bool showsAll(const QStyleOptionViewItem& fitted);
 
 private:

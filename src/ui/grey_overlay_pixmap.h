@@ -8,7 +8,7 @@
 namespace ui {
 
 /// The picture `base` in grey with `overlay` in its lower right corner; both are resources. Each
-/// pair is composed once in the life of the application object.
+/// pair is composed once per application object.
 QPixmap greyOverlayPixmap(const QString& base, const QString& overlay);
 
 } // namespace ui

@@ -11,7 +11,7 @@ namespace ui {
 
 namespace {
 
-/// Holds the work itself, so that the event says no more than its type.
+/// Holds the work itself, so that the event carries only its type.
 class Errand : public QObject {
 public:
     Errand(QObject& context, std::function<void()> work)
@@ -22,7 +22,7 @@ public:
         if (event->type() != laterEventType())
             return QObject::event(event);
         deleteLater();
-        // The work may end the context, and this with it.
+        // The work may delete the context, and this object with it.
         const auto work = std::exchange(work_, {});
         if (work)
             work();

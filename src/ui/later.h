@@ -10,11 +10,11 @@ class QObject;
 
 namespace ui {
 
-/// Has the event loop run `work`, unless `context` has gone by then. For all that may call the
-/// agent: a queued call of Qt's can't be held back while another call is waited for.
+/// Makes the event loop run `work`, unless `context` is destroyed first. Use it for everything that
+/// may call the agent: a queued call of Qt can't be deferred while another call is pending.
 void later(QObject& context, std::function<void()> work);
 
-/// The type of the event that runs such work. Posted again, it does so later.
+/// The type of the event that runs such work. Posting it again postpones the work.
 QEvent::Type laterEventType();
 
 } // namespace ui

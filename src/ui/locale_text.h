@@ -5,7 +5,7 @@
 #include <QLocale>
 #include <QString>
 
-/// Numbers and times in the form of the system's locale.
+/// Numbers and times formatted in the system's locale.
 namespace ui {
 
 QString numberText(qint64 number);

@@ -12,8 +12,8 @@ namespace ui {
 
 namespace {
 
-/// A question that is left without an answer by the Escape key and by the title bar's cross. Qt
-/// takes either for a click on No.
+/// A question that the Escape key and the title bar's close button leave unanswered. Qt treats
+/// either as a click on No.
 class Question : public QMessageBox {
 public:
     using QMessageBox::QMessageBox;

@@ -10,14 +10,14 @@ class QWidget;
 
 namespace ui {
 
-/// A box that tells of something that went well; returns when the user has closed it.
+/// Reports a success in a box; returns when the user closes it.
 void showInformation(QWidget* parent, const QString& title, const QString& text);
 
-/// Asks before something that can't be undone. The Return key answers No. Nothing if the user
-/// gives no answer: by the Escape key, by the title bar's cross, or by quitting the program.
+/// Asks before an irreversible action. The Return key answers No. Returns no value if the user
+/// doesn't answer: by the Escape key, the title bar's close button, or quitting the program.
 std::optional<bool> asks(QWidget* parent, const QString& title, const QString& text);
 
-/// The same where no answer means No.
+/// Likewise, but no answer means No.
 bool confirms(QWidget* parent, const QString& title, const QString& text);
 
 } // namespace ui

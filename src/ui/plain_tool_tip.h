@@ -10,11 +10,11 @@ class QWidget;
 
 namespace ui {
 
-/// A tool tip that shows a text of somebody else's as it is, also where it looks like HTML.
+/// A tool tip that shows external text verbatim, even if it looks like HTML.
 QString plainToolTip(const QString& text);
 
-/// The tool tip of a text that is cut in that part of the widget: the whole text, as it is, in
-/// lines that fit the screen.
+/// Shows the tool tip for text that is cut off in `part` of the widget: the full text, verbatim,
+/// wrapped to fit the screen.
 void showWholeText(const QHelpEvent& rest, const QString& text, QWidget& widget, QRect part);
 
 } // namespace ui

@@ -18,7 +18,7 @@ bool remoteAction(QWidget& widget, const QString& title, Cursor cursor,
         work();
         return true;
     } catch (const std::exception& error) {
-        // What is left to wait for is the user.
+        // From here on, only the user is waited for.
         waiting.reset();
         showError(&widget, title, errorText(error));
         return false;

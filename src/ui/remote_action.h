@@ -12,9 +12,9 @@ namespace ui {
 
 enum class Cursor { arrow, wait };
 
-/// Runs what a click has started at the agent, under the wait cursor of `widget` if told so. An
-/// exception derived from `std::exception` ends it and is shown under `title`, with `widget` as
-/// the box's parent. Returns whether `work` came through.
+/// Runs an action on the agent that a click started, under the wait cursor of `widget` if
+/// requested. An exception derived from `std::exception` ends it and is shown under `title`, with
+/// `widget` as the box's parent. Returns whether `work` succeeded.
 bool remoteAction(QWidget& widget, const QString& title, Cursor cursor,
                   const std::function<void()>& work);
 

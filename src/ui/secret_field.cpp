@@ -15,7 +15,7 @@ namespace ui {
 
 namespace {
 
-/// Keeps all announcements back while it lives.
+/// Suppresses accessibility announcements during its lifetime.
 class Silence {
 public:
     Silence()
@@ -37,7 +37,7 @@ SecretField::SecretField(QWidget* parent)
 }
 
 SecretField::~SecretField() {
-    blockSignals(true); // who listens may be half gone
+    blockSignals(true); // listeners may be half destroyed
     wipe();
 }
 
@@ -60,13 +60,13 @@ void SecretField::replace(const QString& fresh) {
     const Silence silence;
     {
         const QSignalBlocker quiet(this);
-        // Emptying a field drops the notes of its edits but keeps their memory, so that the next
-        // ones are written over them.
+        // Emptying a field drops its edit history but keeps the memory, so that the next edits
+        // overwrite it.
         setText(QString());
         insert(QString(std::min(roomForEdits, maxLength()), QLatin1Char(' ')));
         setText(fresh);
     }
-    // The field has let go of them, so that they are ours alone.
+    // The field has released them, so nothing else shares them.
     session::wipe(held);
     session::wipe(shown);
     if (changes)

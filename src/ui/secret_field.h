@@ -12,8 +12,8 @@ namespace ui {
 /// again or goes. To screen readers it announces what a user types in the characters that it shows,
 /// and nothing of what the functions of this class do.
 ///
-/// Qt notes each edit for an undo. This field gives the notes their room beforehand and writes over
-/// them, up to `roomForEdits` edits. What stays behind is named in CONTRIBUTING.md.
+/// Qt records each edit for undo. This field allocates the history in advance and overwrites it, up
+/// to `roomForEdits` edits. CONTRIBUTING.md lists what remains in memory.
 class SecretField : public QLineEdit {
     Q_OBJECT
 public:
@@ -22,7 +22,7 @@ public:
     explicit SecretField(QWidget* parent = nullptr);
     ~SecretField() override;
 
-    /// What the field holds, in UTF-8.
+    /// The content of the field, in UTF-8.
     base::Secret secret() const;
 
     /// Emits `textChanged` as `setText` does.

@@ -8,7 +8,7 @@
 
 namespace ui {
 
-/// What people call the data of a backup set.
+/// The name of this data type of a backup set for users.
 QString getSetDataType(hessiancln::BackupDataType type);
 
 } // namespace ui

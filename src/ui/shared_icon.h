@@ -7,8 +7,8 @@
 
 namespace ui {
 
-/// The icon of a resource, read once in the life of the application object: views ask for the
-/// same few icons for each cell that they paint.
+/// The icon of a resource, read once per application object: views request the same few icons for
+/// each cell they paint.
 QIcon sharedIcon(const QString& resource);
 
 } // namespace ui

@@ -6,7 +6,7 @@
 
 namespace ui {
 
-/// A number of bytes for people, with 1024 as the unit; below that without decimals.
+/// A human-readable number of bytes, with 1024 as the unit; below that without decimals.
 QString sizeToString(double bytes);
 
 } // namespace ui

@@ -6,8 +6,8 @@ class QDialog;
 
 namespace ui {
 
-/// Gives the standard buttons of a box or a dialog of the toolkit's the pictures that the dialogs
-/// of the program have; without that they look as the desktop likes them.
+/// Gives the standard buttons of a Qt box or dialog the icons used in the program's dialogs.
+/// Without this they follow the desktop's style.
 void setStandardButtonPictures(QDialog& dialog);
 
 } // namespace ui

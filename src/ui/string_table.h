@@ -12,8 +12,9 @@ namespace ui {
 /// Strings by key; keys are in upper case.
 using StringTable = std::map<QString, QString>;
 
-/// Puts the lines "key: value" of `text`, in UTF-8, into `table`, over what stood there. Keys come
-/// in any case. A value may hold colons. "#" starts a comment anywhere. Other lines are skipped.
+/// Adds the lines "key: value" of `text`, in UTF-8, to `table`, replacing existing values. Keys are
+/// case-insensitive. A value may contain colons. "#" starts a comment anywhere. Other lines are
+/// skipped.
 void readStringTable(const QByteArray& text, StringTable& table);
 
 } // namespace ui

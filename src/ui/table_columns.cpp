@@ -15,7 +15,7 @@ namespace ui {
 
 namespace {
 
-/// The width of a column, which is meant for its English title; one in another language isn't cut.
+/// Column widths are chosen for English titles; this makes room for longer translations.
 int withRoomForTitle(const QHeaderView& header, int column, int width) {
     const QAbstractItemModel& model = *header.model();
     const QString title = model.headerData(column, Qt::Horizontal).toString();
@@ -49,7 +49,7 @@ void setUpTable(QTableView& table, QAbstractItemModel& model) {
             table.setColumnWidth(
                 column, withRoomForTitle(*table.horizontalHeader(), column, width.toInt()));
     table.setItemDelegate(new FittingTextDelegate(&table));
-    // In the middle of its column, the header of a wide one would be out of sight.
+    // Centred, the header of a wide column would be out of sight.
     table.horizontalHeader()->setDefaultAlignment(leftInCell);
 }
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <QCoreApplication>
 
-// Texts of the toolkit's own, which it looks up under these contexts. Its translations aren't on
-// every machine, so that these stand among the program's.
+// Qt's own texts, which it looks up in these contexts. Its translations aren't installed on every
+// machine, so the texts are included with the program's.
 namespace {
 
 [[maybe_unused]] constexpr const char* standardButtons[] = {

@@ -5,11 +5,11 @@
 #include <QPointer>
 #include <QWidget>
 
-/// The wait cursor, put back whichever way a block is left.
+/// The wait cursor, restored on every exit from a block.
 namespace ui {
 
-/// Over a widget for as long as this object lives, and the arrow from then on. The widget may go
-/// first.
+/// Shows the wait cursor over a widget for the lifetime of this object, then the arrow. The widget
+/// may be destroyed first.
 class WaitCursor {
 public:
     explicit WaitCursor(QWidget& widget);
@@ -21,7 +21,7 @@ private:
     QPointer<QWidget> widget_;
 };
 
-/// Over the whole program for as long as this object lives. Such objects may nest.
+/// Shows the wait cursor over the whole program for the lifetime of this object. Can be nested.
 class OverrideCursor {
 public:
     OverrideCursor();

@@ -25,7 +25,7 @@ struct WizardButtonText {
     Q_DECLARE_TR_FUNCTIONS(WizardButtonText)
 };
 
-/// A picture in the size that suits the screen, which only icons find by themselves.
+/// A picture in the size for the screen's pixel density, which Qt selects only for icons.
 QPixmap picture(const QString& resource) {
     const qreal ratio = qApp->devicePixelRatio();
     QPixmap large(resource + QStringLiteral("@2x"));
@@ -41,7 +41,7 @@ QPixmap picture(const QString& resource) {
 void setButton(QWizard& wizard, QWizard::WizardButton which, const QString& text,
                const QString& icon) {
     wizard.setButton(which, new QPushButton(QIcon(icon), text, &wizard));
-    // With each page the wizard writes its own texts anew, unless it was given others.
+    // With each page the wizard resets button texts that weren't set explicitly.
     wizard.setButtonText(which, text);
 }
 
@@ -61,7 +61,7 @@ void frameWizard(QWizard& wizard, const QString& title, const QString& watermark
               QStringLiteral(":/button/ok"));
     setButton(wizard, QWizard::CancelButton, WizardButtonText::tr("&Cancel"),
               QStringLiteral(":/button/cancel"));
-    // A click on it takes the focus from no field: what is left unfinished asks the agent nothing.
+    // A click on it doesn't move the focus, so an unfinished field sends no request to the agent.
     wizard.button(QWizard::CancelButton)->setFocusPolicy(Qt::TabFocus);
 }
 
@@ -70,7 +70,7 @@ void allowAnySize(QWizard& wizard) {
 }
 
 void focusFirst(const QShowEvent& event, QWidget& first) {
-    // A window that comes back from the task bar keeps its focus.
+    // A window restored from the task bar keeps its focus.
     if (event.spontaneous())
         return;
     QMetaObject::invokeMethod(
@@ -90,7 +90,7 @@ void failWizard(QWizard* wizard, const std::exception_ptr& failure) {
     if (!wizard)
         std::rethrow_exception(failure);
     wizard->setProperty(failureProperty, QVariant::fromValue(failure));
-    // Later, as the wizard may be in the middle of turning to another page.
+    // Deferred, because the wizard may be in the middle of a page change.
     later(*wizard, [wizard] { wizard->reject(); });
 }
 

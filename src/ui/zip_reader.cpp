@@ -24,7 +24,7 @@ void ZipReader::Discard::operator()(zip* archive) const {
 }
 
 ZipReader::ZipReader(const QString& path) {
-    // Opening a pipe would wait for somebody to write to it.
+    // Opening a pipe would block until a writer opens it.
     if (QFileInfo(path).isFile())
         archive_.reset(zip_open(QFile::encodeName(path).constData(), ZIP_RDONLY, nullptr));
 }
@@ -41,7 +41,7 @@ QByteArray ZipReader::read(const char* name) const {
         const zip_int64_t count = zip_fread(entry.get(), block.data(), block.size());
         if (count == 0)
             return bytes;
-        // The size in the directory of the file is only a claim; what comes out of it counts.
+        // The size in the central directory is only a claim; the unpacked size counts.
         if (count < 0 || bytes.size() + count > largestEntry)
             return {};
         bytes.append(block.data(), static_cast<int>(count));

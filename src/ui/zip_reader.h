@@ -11,17 +11,17 @@ struct zip;
 
 namespace ui {
 
-/// Reads entries of a ZIP file. Anything wrong with the file looks like a missing entry.
+/// Reads entries of a ZIP file. Any problem with the file looks like a missing entry.
 class ZipReader {
 public:
-    /// What an entry may unpack to, in bytes. A larger one counts as missing, so that a small
-    /// file can't fill the memory.
+    /// Maximum unpacked size of an entry, in bytes. A larger entry counts as missing, so that a
+    /// small file can't fill the memory.
     static constexpr qint64 largestEntry = qint64(16) * 1024 * 1024;
 
     explicit ZipReader(const QString& path);
 
-    /// The bytes of the entry with exactly this name; empty if it is missing, damaged, encrypted
-    /// or too large.
+    /// The bytes of the entry with exactly this name; empty if it is missing, damaged, encrypted or
+    /// too large.
     QByteArray read(const char* name) const;
 
 private:

@@ -14,11 +14,11 @@
 #include "models/path_selection.h"
 #include "wizards/file_type_expressions.h"
 
-/// The items of a backup set: what they say, and how they are made. All of this raises what the
-/// agent's calls raise.
+/// The items of a backup set: reading and creating them. All functions throw what the agent's calls
+/// throw.
 namespace wizards {
 
-/// What a set holds, read from its items.
+/// The content of a set, read from its items.
 struct StoredItems {
     std::set<std::string> inclusions; ///< paths, without backslashes at their ends
     int exclusions = 0;               ///< paths that the set leaves out
@@ -27,13 +27,13 @@ struct StoredItems {
     std::optional<QString> excludedExtensions;
 };
 
-/// Calls `mark` for each path that the set holds or leaves out, in the set's order. Items of a type
-/// that this program doesn't know are skipped.
+/// Calls `mark` for each path that the set includes or excludes, in the set's order. Skips items of
+/// unknown types.
 StoredItems readItems(hessiancln::BackupSet& set,
                       const std::function<void(const models::PathItem&)>& mark);
 
-/// Has the agent make an item for each path, and then the filters for each root of the paths, which
-/// is what stands before the first backslash. No set has the items yet.
+/// Makes the agent create an item for each path, and then the filters for each root, which is the
+/// part of a path before the first backslash. The items don't belong to a set yet.
 hessiancln::BackupSet::Items createItems(hessiancln::DataSourceBrowser& browser,
                                          const std::string& computer,
                                          const std::vector<models::PathItem>& paths,

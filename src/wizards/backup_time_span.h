@@ -10,20 +10,20 @@
 
 namespace wizards {
 
-/// From when to when a set was backed up, in local time.
+/// The time span of a set's backups, in local time.
 struct BackupTimeSpan {
-    QDateTime earliest; ///< the first start, or now if that is later
+    QDateTime earliest; ///< the first start, or now if the first start is in the future
     QDateTime latest;   ///< the last end
 };
 
 BackupTimeSpan backupTimeSpan(const std::vector<hessiancln::backup_sessions>& sessions,
                               const QDateTime& now);
 
-/// Seconds since 1970 UTC as the agent takes them, from 0 on.
+/// Seconds since 1970 UTC in the agent's format, not negative.
 std::int32_t secondsOf(const QDateTime& time);
 
-/// The same for a time up to or since when files count: never 0, which would be no limit, and let
-/// all files count in place of none.
+/// Likewise for a time limit on files: never 0, which would mean no limit and select all files
+/// instead of none.
 std::int32_t limitOf(const QDateTime& time);
 
 } // namespace wizards

@@ -9,9 +9,9 @@
 
 namespace wizards {
 
-/// The credentials that the user has typed in a wizard, passwords included: an agent doesn't give
-/// them back. Text is UTF-8. Secrets are wiped when they go. A setter remembers its values and
-/// sends them at once, so that they are remembered even if sending raises an exception.
+/// The credentials that the user has typed in a wizard, passwords included: an agent doesn't return
+/// them. Text is UTF-8. Secrets are wiped on destruction. A setter stores its values and then sends
+/// them, so they are stored even if sending throws an exception.
 class CachedCredentials {
 public:
     void setPassword(const std::string& newUser, const base::Secret& newPassword,
@@ -26,8 +26,8 @@ public:
     void setSSHAccess(hessiancln::SSHAccessType type, const std::string& interpreterPath,
                       hessiancln::UnixFS_SSH_BackupSetCredentials& credentials);
 
-    /// Sends what is remembered to another object, as far as its class has use for it. Asks the
-    /// agent nothing as long as nothing is remembered.
+    /// Sends the stored values to another object, as far as its class supports them. Sends no
+    /// request if nothing is stored.
     void applyTo(const boost::shared_ptr<hessiancln::BackupSetCredentials>& credentials) const;
 
 private:

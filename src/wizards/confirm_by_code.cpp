@@ -9,7 +9,7 @@ namespace wizards {
 
 namespace {
 
-/// What a code is asked for, in the agent's words.
+/// The purpose of a code, in the agent's encoding.
 constexpr int changePurpose = 2;
 
 } // namespace

@@ -6,8 +6,8 @@ class QWidget;
 
 namespace wizards {
 
-/// Where the agent wants a second factor: asks the user for a code by mail, in front of `parent`.
-/// False if the user gave none, and then nothing may be written.
+/// If the agent requires a second factor, asks the user for a code sent by mail, with `parent` as
+/// the parent. False if the user gave none; then nothing may be written.
 bool confirmByCode(QWidget& parent);
 
 } // namespace wizards

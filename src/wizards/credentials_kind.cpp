@@ -14,7 +14,7 @@ CredentialsKind credentialsKind(const std::vector<std::string>& types) {
     };
     if (isOf(hessiancln::Win32FS_Generic_BackupSetCredentials::className))
         return CredentialsKind::Windows;
-    // Before the wider class, which such an object is of as well.
+    // Before its base class, which such an object also lists.
     if (isOf(hessiancln::UnixFS_SSH_BackupSetCredentials::className))
         return CredentialsKind::SSH;
     if (isOf(hessiancln::UnixFS_Generic_BackupSetCredentials::className))

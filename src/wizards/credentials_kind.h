@@ -7,10 +7,10 @@
 
 namespace wizards {
 
-/// What credentials ask for.
+/// What credentials consist of.
 enum class CredentialsKind { Other, Windows, Unix, SSH };
 
-/// Told by the classes that the agent's object is of.
+/// Determined from the classes of the agent's object.
 CredentialsKind credentialsKind(const std::vector<std::string>& types);
 
 } // namespace wizards

@@ -8,22 +8,22 @@
 
 namespace wizards {
 
-/// What the fields of the filter say. Of those whose box isn't checked only the box counts.
+/// The contents of the filter's fields. If a box isn't checked, its fields are ignored.
 struct DeleteFilterFields {
     bool on = false; ///< the whole group
     bool useFrom = false;
     QDateTime from{};
-    QDateTime earliest{}; ///< that `from` can say
+    QDateTime earliest{}; ///< minimum of `from`
     bool useTo = false;
     QDateTime to{};
-    QDateTime latest{}; ///< that `to` can say
+    QDateTime latest{}; ///< maximum of `to`
     bool useRemoved = false;
     QDateTime removed{};
     bool useKeep = false;
     int keep = 0;
 };
 
-/// The same for the agent. Times are seconds since 1970 UTC; 0 means no limit.
+/// Likewise, in the agent's format. Times are seconds since 1970 UTC; 0 means no limit.
 struct DeleteFilter {
     std::int32_t from = 0;
     std::int32_t to = 0;
@@ -33,7 +33,7 @@ struct DeleteFilter {
 
 DeleteFilter deleteFilter(const DeleteFilterFields& fields);
 
-/// Whether the filter leaves anything out. A time at its limit doesn't.
+/// Whether the filter excludes anything. A time at its limit doesn't.
 bool isInForce(const DeleteFilterFields& fields);
 
 } // namespace wizards

@@ -15,10 +15,10 @@ class GenericActivity;
 
 namespace wizards {
 
-/// Lets the user delete from a set in front of `parent`. A set that holds no files can only be
-/// removed as a whole. Nothing if the user gave up; else what the agent does now, to be kept until
-/// it is shown, and null if there is nothing to do. Raises what the calls raise; what was done
-/// before them stays.
+/// Lets the user delete from a set, with `parent` as the parent. A set without files can only be
+/// removed as a whole. Returns no value if the user cancelled; otherwise the agent's activity, to
+/// be kept until it is shown, or null if there is nothing to do. Throws what the calls throw;
+/// completed steps aren't rolled back.
 std::optional<boost::shared_ptr<hessiancln::GenericActivity>>
 deleteFromSet(QWidget& parent, const boost::shared_ptr<hessiancln::BackupSet>& set);
 

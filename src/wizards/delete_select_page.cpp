@@ -62,7 +62,7 @@ void DeleteSelectPage::changeEvent(QEvent* event) {
 }
 
 void DeleteSelectPage::keyPressEvent(QKeyEvent* event) {
-    // The wizard would take a Return behind a name or a date for its button, and delete at once.
+    // The wizard would treat Return after a name or a date as its button, and delete immediately.
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
         StoredItemsPage::keyPressEvent(event);
 }
@@ -105,7 +105,7 @@ void DeleteSelectPage::changeFilter() {
 }
 
 void DeleteSelectPage::fieldsPutBack() {
-    // A group that is off has disabled them by itself, and lets go of them when it is on again.
+    // A group that is off has disabled them, and enables them when it is on again.
     if (!ui_->groupFilter->isChecked())
         return;
     ui_->dateFrom->setEnabled(ui_->checkFrom->isChecked());
@@ -152,7 +152,7 @@ boost::shared_ptr<hessiancln::GenericActivity> DeleteSelectPage::finish(QWidget&
     if (*removal)
         return wizards::removeSet(set_);
     const auto ids = model().selectedIds();
-    // What is checked may be a group that turned out empty.
+    // The checked items may be a group that turned out to be empty.
     if (ids.empty())
         return nullptr;
     return required(view_->prepareDelete(ids))->start();

@@ -21,18 +21,18 @@ namespace wizards {
 struct DeleteFilterFields;
 }
 
-/// What is to be deleted from the storage of a set.
+/// Selects what to delete from the storage of a set.
 class DeleteSelectPage : public StoredItemsPage {
     Q_OBJECT
 public:
-    /// Raises what the first look at the set raises.
+    /// Throws what the first request for the set's content throws.
     explicit DeleteSelectPage(boost::shared_ptr<hessiancln::BackupSet> set,
                               QWidget* parent = nullptr);
     ~DeleteSelectPage() override;
 
-    /// Deletes what is checked, or removes the set if that is everything and the user wants so, in
-    /// front of `parent`. What the agent does now; null if the user gave up. Raises what the calls
-    /// raise; what was done before them stays.
+    /// Deletes the checked items or, if that is everything and the user agrees, removes the set,
+    /// with `parent` as the parent. Returns the agent's activity; null if the user cancelled.
+    /// Throws what the calls throw; completed steps aren't rolled back.
     boost::shared_ptr<hessiancln::GenericActivity> finish(QWidget& parent);
 
 protected:
@@ -53,7 +53,7 @@ private:
     void setUpFilter();
     void updateDataModel();
     wizards::DeleteFilterFields filterFields() const;
-    /// Nothing if the user was asked and gave no answer.
+    /// No value if the user was asked and didn't answer.
     std::optional<bool> wantsRemoval(QWidget& parent) const;
 
     std::unique_ptr<Ui::DeleteSelectPage> ui_;

@@ -12,8 +12,8 @@ namespace Ui {
 class CEnterSimpleUserPsw;
 }
 
-/// Asks for a user and a password. It starts with a mask where the password is, and can't be
-/// confirmed before a password was typed.
+/// Asks for a user and a password. Initially shows a mask for the password, and can't be confirmed
+/// until a password is typed.
 class CEnterSimpleUserPsw : public QDialog {
     Q_OBJECT
 public:

@@ -14,7 +14,7 @@ constexpr char exactTime[] = "exactTime";
 } // namespace
 
 void showTime(QDateTimeEdit& field, const QDateTime& time) {
-    // First, as the field tells at once that it has changed.
+    // First, because the field immediately signals its change.
     field.setProperty(exactTime, time);
     field.setDateTime(time);
 }

@@ -6,13 +6,13 @@
 
 class QDateTimeEdit;
 
-/// Times in fields. A field keeps a date and a time of day, and the hour before clocks are put back
-/// comes twice, so what it gives may be an hour away from what it was given.
+/// Exact times in fields. A field stores a date and a time of day, which is ambiguous in the hour
+/// before clocks are set back, so its value may differ by an hour from the one that was set.
 namespace wizards {
 
 void showTime(QDateTimeEdit& field, const QDateTime& time);
 
-/// What was shown last, if the field still says so; else what it says.
+/// The time shown last if the field still shows it, else the field's value.
 QDateTime shownTime(const QDateTimeEdit& field);
 
 } // namespace wizards

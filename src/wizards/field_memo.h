@@ -10,16 +10,16 @@ class QWidget;
 
 namespace wizards {
 
-/// What some fields say: boxes, dates and numbers. So that they can be put back to it without a
-/// word to anybody.
+/// Remembers the values of some fields (boxes, dates and numbers), so that they can be restored
+/// without emitting signals.
 class FieldMemo {
 public:
-    /// Remembers what the field says from now on to be put back. It outlives this.
+    /// Remembers the field's current value to restore. The field must outlive this.
     void remember(QWidget& field);
-    /// The same for all fields that are known already.
+    /// Likewise for all fields added so far.
     void rememberAll();
     void putBack() const;
-    /// Whether a field says something else than what is remembered.
+    /// Whether any field differs from its remembered value.
     bool differs() const;
 
 private:

@@ -6,12 +6,12 @@
 
 class QLineEdit;
 
-/// Lets nothing but file extensions, separated by bars, into the two fields for them. What it
-/// refuses it explains in a tool tip at the field that is shown.
+/// Restricts two fields to file extensions separated by bars. Explains a refusal in a tool tip at
+/// the visible field.
 class CFileExtensionValidator : public QRegExpValidator {
     Q_OBJECT
 public:
-    /// The fields outlive the validator.
+    /// The fields must outlive the validator.
     CFileExtensionValidator(const QLineEdit& inclusion, const QLineEdit& exclusion,
                             QObject* parent);
 

@@ -46,7 +46,7 @@ void append(std::vector<FileTypeExpression>& to, const QString& alternatives, bo
         to.push_back({QLatin1String(".*\\.(") + alternatives + QLatin1Char(')'), inclusion});
 }
 
-/// A bar that nothing follows would select every file whose name ends in a dot.
+/// A trailing bar would select every file whose name ends in a dot.
 QString withoutTrailingBars(const QString& typed) {
     QString text = typed.trimmed();
     while (text.endsWith(bar)) {
@@ -118,7 +118,7 @@ ReadExpression readExpression(const QString& expression) {
     const int marker = expression.indexOf(customMarker);
     if (marker < 0)
         return {expression, std::nullopt};
-    // The marker is followed by a bar, and the extensions by the bracket that closes the filter.
+    // A bar follows the marker, and the filter's closing bracket follows the extensions.
     QString custom = expression.mid(marker + customMarker.size() + 1);
     custom.chop(1);
     return {expression.left(marker), custom};

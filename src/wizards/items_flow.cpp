@@ -27,7 +27,7 @@ class ItemsWizard {
 public:
     ItemsWizard(QWidget& parent, const SetFeatures& features);
 
-    /// False if the set is of a kind that the pages can't show.
+    /// Returns false if the pages don't support this kind of set.
     bool load(const Set& set, bool hasItems);
     bool run() { return ui::runWizard(wizard_); }
     void apply(const Set& set);
@@ -37,7 +37,7 @@ private:
     QWizard wizard_;
     SelectDataSourcePage* source_; ///< owned by the wizard, like all pages
     ItemsSelectPage* items_;
-    SetOptionsPage* options_ = nullptr; ///< null where the agent has none
+    SetOptionsPage* options_ = nullptr; ///< null if the agent has none
 };
 
 ItemsWizard::ItemsWizard(QWidget& parent, const SetFeatures& features)

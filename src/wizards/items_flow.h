@@ -14,10 +14,10 @@ class BackupSet;
 
 namespace wizards {
 
-/// Runs the wizard for the source, the items and the options of a set in front of `parent`, and
-/// writes what it says, if the user doesn't give up. Says so if this program can't edit the set.
-/// `hasItems`: whether the set has any yet. Raises what the calls raise; what was written before
-/// them stays.
+/// Runs the wizard for the source, the items and the options of a set, with `parent` as its parent,
+/// and writes the result unless the user cancels. Informs the user if this program can't edit the
+/// set. `hasItems`: whether the set has any yet. Throws what the calls throw; completed writes
+/// aren't rolled back.
 void editItems(QWidget& parent, const SetFeatures& features,
                const boost::shared_ptr<hessiancln::BackupSet>& set, bool hasItems);
 

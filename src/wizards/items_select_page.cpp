@@ -23,12 +23,12 @@
 
 using session::required;
 
-/// All that is asked for before the page shows any of it, so that a failure changes nothing.
+/// Everything requested before the page is updated, so that a failure changes nothing.
 struct ItemsSelectPage::Contents {
     Source source;
     std::vector<hessiancln::PreDefinedBrowseItem> presets;
     std::unique_ptr<CDataSourceModel> model;
-    std::optional<wizards::StoredItems> stored; ///< absent for a new set
+    std::optional<wizards::StoredItems> stored; ///< no value for a new set
 };
 
 ItemsSelectPage::ItemsSelectPage(QWidget* parent)
@@ -74,7 +74,7 @@ QSize ItemsSelectPage::largestSize() const {
 }
 
 bool ItemsSelectPage::load(const Set& set) {
-    // Over the whole program, as nobody sees the page yet.
+    // Over the whole program, because the page isn't visible yet.
     const ui::OverrideCursor busy;
     if (set->getDataType() != hessiancln::BackupDataType::FileSystem)
         return false;
@@ -117,7 +117,7 @@ ItemsSelectPage::Contents ItemsSelectPage::fetch(const Source& source) const {
     const std::string computer = session::toWire(source.computer);
     Contents contents{source, source.browser->getPredefinedItems(computer), nullptr, std::nullopt};
     contents.model = std::make_unique<CDataSourceModel>(computer, source.browser);
-    // The top of the tree is there before the set is looked at, as if the tree were shown already.
+    // Fetch the top of the tree before the set's items, as if the tree were already shown.
     contents.model->rowCount();
     if (set_)
         contents.stored = wizards::readItems(
@@ -167,7 +167,7 @@ void ItemsSelectPage::showTree(std::unique_ptr<CDataSourceModel> model) {
     }
     ui_->treeComputer->setModel(folders.get());
     ui_->treeComputer->setRootIndex({});
-    // The view may be in the middle of something with the old ones.
+    // The view may still be using the old ones.
     if (folders_)
         folders_.release()->deleteLater();
     if (model_)
@@ -248,7 +248,7 @@ bool ItemsSelectPage::isComplete() const {
     const bool custom = ui_->checkCustomInc->isChecked() && !ui_->editCustomInc->text().isEmpty();
     if (!ui_->checkEverything->isChecked() && !anyKind() && !custom)
         return false;
-    // There is no location to choose before the agent has named them.
+    // There is no location to choose until the agent has listed them.
     if (ui_->radioSpecificLocation->isChecked())
         return ui_->comboSpecificLocations->count() > 0;
     return model_ && model_->hasSelection();
@@ -299,8 +299,8 @@ void ItemsSelectPage::on_comboSpecificLocations_currentIndexChanged(int index) {
     ui_->comboSpecificLocations->setToolTip(ui::plainToolTip(path));
 }
 
-/// Comes for each of the items below one that is checked, and the wizard looks at all its buttons
-/// each time that a page has news.
+/// Called for each of the items below a checked one, and on each page change signal the wizard
+/// updates all its buttons.
 void ItemsSelectPage::treeCheckChanged() {
     const bool hasSelection = model_->hasSelection();
     if (hasSelection == hadSelection_)

@@ -52,20 +52,20 @@ public:
     explicit ItemsSelectPage(QWidget* parent = nullptr);
     ~ItemsSelectPage() override;
 
-    /// The wizard's id of the page that says which computer is backed up. Without one, -1, the page
-    /// works on the computer of the set that was loaded.
+    /// The id of the wizard page that selects the computer to back up. Without one (-1), the page
+    /// works on the computer of the loaded set.
     void setDataSourcePageId(int id) { dataSourcePageId_ = id; }
     int dataSourcePageId() const { return dataSourcePageId_; }
 
-    /// Keeps the set, to be shown when the page is entered. False, if this program doesn't edit the
-    /// set's kind of data. Exceptions of the remote call go to the caller.
+    /// Stores the set, to be shown when the page is entered. False if this program doesn't support
+    /// the set's kind of data. Exceptions of the remote call propagate.
     bool load(const Set& set);
-    /// Replaces the items of the set by what is chosen here. Exceptions of the remote calls go to
-    /// the caller; until all items are made the set keeps its own.
+    /// Replaces the items of the set with the selection. Exceptions of the remote calls propagate;
+    /// until all items are created, the set keeps its own.
     void apply(const Set& set);
 
-    /// Shows what the agent has, if the computer or its login is another than the last time. A
-    /// failure leaves the page as it was, ends the wizard and goes to the one who runs it.
+    /// Shows the agent's data if the computer or its login has changed since the last time. A
+    /// failure leaves the page unchanged, ends the wizard and is rethrown to its caller.
     void initializePage() override;
     bool isComplete() const override;
     QSize largestSize() const override;
@@ -87,7 +87,7 @@ private slots:
 private:
     using Browser = boost::shared_ptr<hessiancln::DataSourceBrowser>;
 
-    /// Where the items come from.
+    /// The origin of the items.
     struct Source {
         Browser browser;
         QString computer;
@@ -120,6 +120,6 @@ private:
     int exclusions_ = 0;                               ///< of the set as it is stored
     bool hadSelection_ = false;                        ///< what was last said of the model
     Set set_;                                          ///< null for a new set
-    Source source_;                                    ///< what the models were made for
+    Source source_;                                    ///< source of the current models
     int dataSourcePageId_ = -1;
 };

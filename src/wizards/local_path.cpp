@@ -16,7 +16,7 @@ bool isSeparator(QChar character) {
     return character == slash || character == backslash;
 }
 
-/// One separator for each run of them.
+/// Replaces each run of separators with a single one.
 QString withSeparator(const QString& path, QLatin1Char separator) {
     QString result;
     result.reserve(path.size());

@@ -7,25 +7,25 @@
 
 #include "api/client_configuration_records.h"
 
-/// Paths of folders on the agent's computer. A tree of folders joins names with backslashes, also
-/// where the agent runs on Unix; there the root is a folder named "/".
+/// Folder paths on the agent's computer. A tree of folders joins names with backslashes, even if
+/// the agent runs on Unix; there the root is a folder named "/".
 namespace wizards {
 
-/// The path of a folder in a tree, as the agent's system writes it.
+/// The path of a folder in a tree, in the notation of the agent's system.
 QString folderOfTreePath(const QString& treePath, hessiancln::ClientOSType system);
 
-/// The reverse. Part by part, it is what a tree names the folder and those above it.
+/// The reverse. Each part is the name of the folder or of an ancestor in the tree.
 QString treePathOfFolder(const QString& folder, hessiancln::ClientOSType system);
 
-/// Whether names of folders differ that differ in case only.
+/// Whether folder names are case-sensitive.
 Qt::CaseSensitivity caseSensitivityOf(hessiancln::ClientOSType system);
 
-/// What a set stores for a folder that somebody typed or picked: it ends in one backslash,
-/// whatever the agent's system.
+/// What a set stores for a folder that the user typed or selected: it ends in exactly one
+/// backslash, on any agent system.
 QString localStoragePath(const QString& folder);
 
-/// The node that a tree path leads to, or the last one on the way there that exists; invalid if
-/// not even the first does. Loads what it passes through.
+/// The node at a tree path, or its deepest existing ancestor; invalid if not even the first part
+/// exists. Loads the nodes on the way.
 QModelIndex deepestIndex(const QAbstractItemModel& tree, const QString& treePath,
                          Qt::CaseSensitivity sensitivity);
 

@@ -45,7 +45,7 @@ private:
     QWizard wizard_;
     SelectDataSourcePage* source_; ///< owned by the wizard, like all pages
     ItemsSelectPage* items_;
-    SetOptionsPage* options_ = nullptr; ///< null where the agent has none
+    SetOptionsPage* options_ = nullptr; ///< null if the agent has none
     ScheduleSelectPage* schedule_;
     RetentionSelectPage* retention_;
     SetNamePage* name_;

@@ -16,9 +16,9 @@ struct NewSet {
     QString name;
 };
 
-/// Runs the new set wizard in front of `parent` and makes the set that it describes. Nothing if the
-/// user gave up; then the agent has nothing new. Raises what the calls raise; what was written
-/// before them stays, and that may be a set without the rest of its definition.
+/// Runs the new set wizard with `parent` as its parent and creates the set. Returns no value if the
+/// user cancelled; the agent is then unchanged. Throws what the calls throw; completed writes
+/// aren't rolled back and may include a partially defined set.
 std::optional<NewSet> createBackupSet(QWidget& parent);
 
 } // namespace wizards

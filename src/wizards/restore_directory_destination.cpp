@@ -126,7 +126,7 @@ void RestoreDirectoryDestination::showComputer() {
         giveTreeItsModel();
 }
 
-/// A view has its model look for the first rows as soon as it has one, even behind another page.
+/// A view makes its model fetch the first rows as soon as it is set, even on a hidden page.
 void RestoreDirectoryDestination::giveTreeItsModel() {
     QTreeView* tree = ui_->treeAvailableDirectories;
     if (!directories_ || tree->model() == directories_.get())

@@ -21,15 +21,15 @@ class RestoreDirectoryDestination;
 class RestoreDirectoryDestination : public QWizardPage, public ui::GrowingPage {
     Q_OBJECT
 public:
-    /// Asks the agent for its kind of paths. Raises what the calls raise.
+    /// Asks the agent for its path notation. Throws what the calls throw.
     explicit RestoreDirectoryDestination(QWidget* parent = nullptr);
     ~RestoreDirectoryDestination() override;
 
-    /// The id of the `RestoreLocationPage` that knows the computer; -1, as at first, if none comes
-    /// before this page.
+    /// The id of the `RestoreLocationPage` that provides the computer; -1, the default, if none
+    /// precedes this page.
     void setLocationPageId(int id) { locationPageId_ = id; }
 
-    /// With the directory that the restore makes.
+    /// Includes the directory that the restore creates.
     QString destinationPath() const;
 
     void initializePage() override;
@@ -53,7 +53,7 @@ private:
 
     std::unique_ptr<Ui::RestoreDirectoryDestination> ui_;
     QString subdirectory_;
-    std::unique_ptr<CRestoreDestinationModel> model_; ///< null until needed, like the next
+    std::unique_ptr<CRestoreDestinationModel> model_; ///< null until needed, like the next member
     std::unique_ptr<CRestoreDestinationDirectoryOnlyModel> directories_;
     int locationPageId_ = -1;
     hessiancln::ClientOSType osType_;

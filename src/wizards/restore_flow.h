@@ -26,7 +26,7 @@ class GenericActivity;
 
 namespace wizards {
 
-/// A restore wizard that is about to be shown. All of it lives as long as the wizard.
+/// A restore wizard about to be shown. All members live as long as the wizard.
 struct RestorePages {
     QWizard& wizard;
     RestoreSelectPage& items;
@@ -36,15 +36,16 @@ struct RestorePages {
     hessiancln::backup_set_status status; ///< of the set
 };
 
-/// A file to begin with: ticked, and as it was at a time (seconds since 1970 UTC) or last.
+/// A file to start with: checked, as of a time (seconds since 1970 UTC) or its latest version.
 struct RestoreFile {
     QStringList path; ///< from the top of the set
     std::optional<std::int32_t> upTo;
 };
 
-/// Lets the user restore from a set in front of `parent`. Nothing if the user gave up or the set
-/// holds nothing; else what the agent does now, to be kept until it is shown, and null if there is
-/// nothing to do. `prepare` may add to the pages first. Raises what the calls raise.
+/// Lets the user restore from a set, with `parent` as the parent. Returns no value if the user
+/// cancelled or the set is empty; otherwise the agent's activity, to be kept until it is shown, or
+/// null if there is nothing to do. `prepare` can extend the pages before they are shown. Throws
+/// what the calls throw.
 std::optional<boost::shared_ptr<hessiancln::GenericActivity>>
 restoreFromSet(QWidget& parent, const boost::shared_ptr<hessiancln::BackupSet>& set,
                const std::function<void(const RestorePages&)>& prepare = {},

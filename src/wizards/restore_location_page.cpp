@@ -22,7 +22,7 @@ using wizards::RestoreReasonCode;
 
 namespace {
 
-/// Makes the last row one that keys, wheel and mouse pass over.
+/// Makes keys, wheel and mouse skip the last row.
 void makeHeading(QComboBox& list) {
     const auto* rows = qobject_cast<QStandardItemModel*>(list.model());
     QStandardItem* row = rows->item(list.count() - 1);
@@ -107,7 +107,7 @@ void RestoreLocationPage::on_cmbRestoreReason_currentIndexChanged(int index) {
 
 void RestoreLocationPage::selectionChanged(bool) {
     emit completeChanged();
-    // Has the wizard look again whether this is the last page.
+    // Makes the wizard check again whether this is the last page.
     setFinalPage(false);
 }
 

@@ -22,8 +22,8 @@ namespace Ui {
 class RestoreLocationPage;
 }
 
-/// Where restored data goes, and why it is restored. For any place but the one that it came from,
-/// two pages follow, and what they say is gathered here.
+/// Where to restore data, and why. For any destination but the original one, two pages follow,
+/// whose input is collected here.
 class RestoreLocationPage : public QWizardPage {
     Q_OBJECT
 public:
@@ -31,16 +31,16 @@ public:
                                  QWidget* parent = nullptr);
     ~RestoreLocationPage() override;
 
-    /// Of the pages that follow; -1, as at first, if there is none.
+    /// Ids of the pages that follow; -1, the default, if there is none.
     void setDataSourcePageId(int id) { dataSourcePageId_ = id; }
     void setDirectoryPageId(int id) { directoryPageId_ = id; }
 
-    /// The computer that data goes to, in UTF-8, and what looks into it. Each raises what its call
-    /// raises.
+    /// The destination computer, in UTF-8, and its browser. Each function throws what its call
+    /// throws.
     std::string computer() const;
     boost::shared_ptr<hessiancln::DataSourceBrowser> browser() const;
 
-    /// Starts the restore. What the agent does now. Raises what the calls raise.
+    /// Starts the restore and returns the agent's activity. Throws what the calls throw.
     boost::shared_ptr<hessiancln::GenericActivity>
     start(hessiancln::RestoreActivityInitiator& initiator) const;
 

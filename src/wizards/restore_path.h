@@ -8,18 +8,18 @@
 
 #include "api/client_configuration_records.h"
 
-/// Paths of the directory that data is restored to.
+/// Paths of restore destinations.
 namespace wizards {
 
-/// How the name of the directory that a restore makes for itself tells its time.
+/// The format of the time in the name of the directory created by a restore.
 QString timeInDirectoryName(const QDateTime& time);
 
-/// The directory of that name in another one. Every system takes the slashes.
+/// The path of a subdirectory. All systems accept the slashes.
 QString directoryIn(const QString& directory, const QString& name);
 
-/// The node that a typed path leads to in a tree of directories, or the last one on the way there
-/// that exists; invalid if not even the first does. Only backslashes part names here, whatever the
-/// agent's system. Loads what it passes through; nothing for an empty path.
+/// The node at a typed path in a tree of directories, or its deepest existing ancestor; invalid if
+/// not even the first part exists. Only backslashes separate names here, on any agent system. Loads
+/// the nodes on the way; returns an invalid index for an empty path.
 QModelIndex closestDirectory(const QAbstractItemModel& tree, const QString& path,
                              hessiancln::ClientOSType system);
 

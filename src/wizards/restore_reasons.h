@@ -7,7 +7,7 @@
 
 #include <QString>
 
-/// Why somebody restores: what the agent keeps for its statistics.
+/// The reason for a restore, which the agent records for its statistics.
 namespace wizards {
 
 enum class RestoreReasonCode : std::int32_t {
@@ -20,21 +20,21 @@ enum class RestoreReasonCode : std::int32_t {
     NaturalDisaster = 8,
     PowerOutage = 9,
     PreviousGeneration = 11,
-    Heading = 13, ///< of the reasons that follow; none by itself
+    Heading = 13, ///< heading of the reasons that follow, not a reason itself
 };
 
 /// A row of the list of reasons.
 struct RestoreReason {
-    const char* text; ///< in English; those under a heading are indented by blanks
+    const char* text; ///< in English; those under a heading are indented with spaces
     RestoreReasonCode code;
 
-    /// In the language of the screen.
+    /// In the language of the user interface.
     QString shownText() const;
 };
 
 inline constexpr int restoreReasonCount = 12;
 
-/// In the order in which they are shown.
+/// In display order.
 const std::array<RestoreReason, restoreReasonCount>& restoreReasons();
 
 } // namespace wizards

@@ -27,8 +27,8 @@ using session::required;
 
 namespace {
 
-/// The agent may not tell the backup any more that the time is from, so it may lie beyond what the
-/// field takes; another time would show another generation.
+/// The agent may no longer list the backup that the time belongs to, so the time may be out of the
+/// field's range; any other time would show another generation.
 void moveTo(QDateTimeEdit& field, std::int32_t seconds) {
     const QDateTime time = QDateTime::fromSecsSinceEpoch(seconds);
     if (time < field.minimumDateTime())
@@ -38,7 +38,7 @@ void moveTo(QDateTimeEdit& field, std::int32_t seconds) {
     wizards::showTime(field, time);
 }
 
-/// The file at the end of a path, which a folder of an earlier time may be called like.
+/// The file at the end of a path; a folder of an earlier time may have the same name.
 QModelIndex fileAt(const CBackedUpDataModel& model, QStringList path) {
     const QString name = path.takeLast();
     const QModelIndex folder = models::folderAtPath(model, path, Qt::CaseSensitive);
@@ -72,10 +72,10 @@ RestoreSelectPage::~RestoreSelectPage() = default;
 void RestoreSelectPage::setUpFilter() {
     using Page = RestoreSelectPage;
     connect(ui_->buttonGenerations, &QPushButton::clicked, this, &Page::showFileGenerations);
-    // A file that the file filter takes out loses its selection without a word.
+    // A file removed by the file filter loses its selection without a signal.
     connect(ui_->editFilter, &QLineEdit::textChanged, this, &Page::fileListSelectionChanged);
     connect(ui_->checkFilter, &QCheckBox::toggled, this, &Page::toggleFiltering);
-    // By the user only.
+    // On user input only.
     connect(ui_->checkFrom, &QCheckBox::clicked, this, &Page::toggleFrom);
     connect(ui_->checkTo, &QCheckBox::toggled, this, &Page::toggleTo);
     connect(ui_->checkRemoved, &QCheckBox::toggled, this, &Page::toggleRemoved);
@@ -278,8 +278,8 @@ bool RestoreSelectPage::narrowTo(std::int32_t chosen, const CGenerationSelectMod
     return isOlder || isHidden;
 }
 
-/// As if the user had, but a failure is for the caller. What the filter said when it was switched
-/// off may hide what is shown now, so nothing of it comes back.
+/// As if the user had, but a failure goes to the caller. The filter's old values could hide the
+/// items shown now, so they aren't restored.
 void RestoreSelectPage::switchFilterOn() {
     if (ui_->checkFilter->isChecked())
         return;

@@ -30,27 +30,27 @@ class RestoreSelectPage;
 class RestoreSelectPage : public StoredItemsPage, public ui::GrowingPage {
     Q_OBJECT
 public:
-    /// Raises what the first look at the set raises.
+    /// Throws what the first request for the set's content throws.
     explicit RestoreSelectPage(boost::shared_ptr<hessiancln::BackupSet> set,
                                QWidget* parent = nullptr);
     ~RestoreSelectPage() override;
 
-    /// The restore of what is checked; null if that is nothing but groups that turned out empty.
-    /// Raises what the calls raise.
+    /// The restore of the checked items; null if they are only groups that turned out to be empty.
+    /// Throws what the calls throw.
     boost::shared_ptr<hessiancln::RestoreActivityInitiator> prepareRestore();
 
-    /// Ticks and shows the file at the end of the path from the top of the set, as it was at
-    /// `upTo` (seconds since 1970 UTC) or last. False if it isn't there. Raises what the calls
-    /// raise.
+    /// Checks and shows the file at the path from the top of the set, as of `upTo` (seconds since
+    /// 1970 UTC) or its latest version. Returns false if it doesn't exist. Throws what the calls
+    /// throw.
     bool tick(const QStringList& path, std::optional<std::int32_t> upTo);
 
-    /// What is ticked stands in the tree below it.
+    /// The root of the tree that contains the checked items.
     BackedUpNode& root() const;
-    /// All of the set is ticked, and no filter hides anything.
+    /// Whether the whole set is checked and no filter hides anything.
     bool isWholeSet() const;
     /// Seconds since 1970 UTC; 0 without a limit.
     std::int32_t upTo() const { return span().to; }
-    /// In bytes, of a file whose generation was chosen.
+    /// The size in bytes of a file whose generation was selected; no value for others.
     std::optional<std::int64_t> knownSize(std::int64_t file) const;
 
     QSize largestSize() const override;
@@ -85,10 +85,10 @@ private:
     Span span() const;
     void showFilter(bool on);
     void switchFilterOn();
-    /// Narrows the span to one whose newest generation of a file is the chosen one. Whether it was
-    /// another span before.
+    /// Narrows the span so that the chosen generation of a file is its newest. Returns whether the
+    /// span changed.
     bool narrowTo(std::int32_t chosen, const CGenerationSelectModel& generations);
-    /// Shows what was stored up to then.
+    /// Shows what was stored up to that time.
     void limitTo(std::int32_t upTo);
     void letChooseGeneration(std::int64_t file, const QStringList& path);
 
@@ -96,5 +96,5 @@ private:
     bool suspended_ = false; ///< no new view while several fields change
     boost::shared_ptr<hessiancln::BackupSet> set_;
     boost::shared_ptr<hessiancln::BackupSetRestoreView> view_;
-    std::map<std::int64_t, std::int64_t> sizes_; ///< of files of the view, as far as they are known
+    std::map<std::int64_t, std::int64_t> sizes_; ///< of files in the view, as far as known
 };

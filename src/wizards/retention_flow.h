@@ -12,9 +12,9 @@ class BackupSet;
 
 namespace wizards {
 
-/// Runs the wizard for how long a set's generations are kept in front of `parent`. Whether it was
-/// written: the user may give up, or fail to give a code where the agent wants one. Raises what the
-/// calls raise; what was written before them stays.
+/// Runs the wizard for how long a set's generations are kept, with `parent` as its parent. Returns
+/// whether it was written: the user may cancel, or not enter a code if the agent requires one.
+/// Throws what the calls throw; completed writes aren't rolled back.
 bool editRetention(QWidget& parent, const boost::shared_ptr<hessiancln::BackupSet>& set);
 
 } // namespace wizards

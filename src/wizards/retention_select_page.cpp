@@ -65,7 +65,7 @@ void RetentionSelectPage::changeEvent(QEvent* event) {
     QWizardPage::changeEvent(event);
 }
 
-/// A box is chosen by how long its option holds; the agent can't be asked for the rest.
+/// The box is identified by how long its option is valid; the agent can't report the rest.
 void RetentionSelectPage::checkInterval(RetentionTimeUnit validFor) {
     for (const Interval& interval : intervals())
         if (interval.rule.validFor.unit == validFor)

@@ -23,8 +23,8 @@ class RetentionRule;
 class RetentionRuleManager;
 } // namespace hessiancln
 
-/// How long what a backup set has backed up is kept. Each set gets a rule of its own, so that no
-/// other set is touched.
+/// How long a backup set's data is kept. Each set gets its own rule, so that no other set is
+/// affected.
 class RetentionSelectPage : public QWizardPage {
     Q_OBJECT
 public:
@@ -33,11 +33,11 @@ public:
     explicit RetentionSelectPage(QWidget* parent = nullptr);
     ~RetentionSelectPage() override;
 
-    /// Shows the rule of the set; the defaults stay if it has none. Exceptions of the remote calls
-    /// go to the caller.
+    /// Shows the rule of the set; without one, the defaults stay. Exceptions of the remote calls
+    /// propagate.
     void load(const Set& set);
-    /// Writes what is chosen. Exceptions of the remote calls go to the caller, and what was written
-    /// before them stays.
+    /// Writes the settings. Exceptions of the remote calls propagate, and completed writes aren't
+    /// rolled back.
     void apply(const Set& set);
 
 protected:
@@ -49,7 +49,7 @@ private slots:
     void on_checkLocalKeepAllGens_clicked(bool checked);
 
 private:
-    /// A box and what it stands for.
+    /// A box and the rule it represents.
     struct Interval {
         QCheckBox* box;
         wizards::IntervalRule rule;

@@ -8,9 +8,9 @@ class BackupSet;
 
 namespace wizards {
 
-/// Lets the schedule of a set clean up what its retention rule doesn't keep, or, for a set without
-/// a rule, no more. A set without a schedule is left alone. Raises what the calls raise; what was
-/// written before them stays.
+/// Makes the schedule of a set clean up according to its retention rule or, without a rule, stop
+/// doing so. A set without a schedule is left unchanged. Throws what the calls throw; completed
+/// writes aren't rolled back.
 void syncRetentionTask(hessiancln::BackupSet& set);
 
 } // namespace wizards

@@ -4,16 +4,16 @@
 
 #include "api/retention_time_span.h"
 
-/// The retention periods that people choose from.
+/// The retention periods offered to users.
 namespace wizards {
 
-/// The entry of the unit in the list day(s), week(s), month(s), year(s); -1 if it has none.
+/// The index of the unit in the list day(s), week(s), month(s), year(s); -1 if it isn't in it.
 int indexOfUnit(hessiancln::RetentionTimeUnit unit);
 
-/// The reverse. No entry gives days, the unit of a period that has none.
+/// The reverse. Without a selection, returns days, the unit of an unset period.
 hessiancln::RetentionTimeUnit unitOfIndex(int index);
 
-/// One generation is kept for each `repeat`, for as long as `validFor`.
+/// Keeps one generation per `repeat`, for the duration `validFor`.
 struct IntervalRule {
     hessiancln::retention_time_span repeat;
     hessiancln::retention_time_span validFor;

@@ -12,8 +12,8 @@ class BackupSet;
 
 namespace wizards {
 
-/// Runs the wizard for when a set is backed up in front of `parent`. Whether it was written: the
-/// user may give up. Raises what the calls raise; what was written before them stays.
+/// Runs the wizard for a set's backup times, with `parent` as its parent. Returns whether it was
+/// written: the user may cancel. Throws what the calls throw; completed writes aren't rolled back.
 bool editSchedule(QWidget& parent, const boost::shared_ptr<hessiancln::BackupSet>& set);
 
 } // namespace wizards

@@ -33,7 +33,7 @@ constexpr int nextDay = 1;
 constexpr std::int32_t fullThrottle = 100;
 constexpr const char* missedSchedule = "ScheduleMiss";
 
-/// A wizard doesn't grow with a page that shows more than before.
+/// A wizard doesn't grow with a page that shows more widgets later.
 void keepPlace(QWidget& widget) {
     QSizePolicy policy = widget.sizePolicy();
     policy.setRetainSizeWhenHidden(true);
@@ -210,7 +210,7 @@ wizards::StopTime ScheduleSelectPage::stopTime() const {
     return {ui_->timeStop->time(), ui_->comboStopInDays->currentIndex()};
 }
 
-/// In the order of the bits, Monday first.
+/// In bit order, Monday first.
 std::array<QCheckBox*, 7> ScheduleSelectPage::dayBoxes() const {
     return {ui_->checkMonday, ui_->checkTuesday,  ui_->checkWednesday, ui_->checkThursday,
             ui_->checkFriday, ui_->checkSaturday, ui_->checkSunday};

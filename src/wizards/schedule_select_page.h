@@ -28,22 +28,22 @@ namespace wizards {
 struct StopTime;
 }
 
-/// When a backup set is backed up: not at all, on days of the week or on a day of the month. Each
-/// set gets a schedule of its own, so that no other set is touched. One value here is the agent's
-/// and not the set's: how late a missed schedule may still run.
+/// When a backup set is backed up: never, on days of the week or on a day of the month. Each set
+/// gets its own schedule, so that no other set is affected. One value here belongs to the agent
+/// rather than the set: how late a missed schedule may still run.
 class ScheduleSelectPage : public QWizardPage {
     Q_OBJECT
 public:
     using Set = boost::shared_ptr<hessiancln::BackupSet>;
 
-    /// Asks the agent for what its defaults depend on; exceptions go to the caller.
+    /// Queries the agent for its defaults; exceptions propagate.
     explicit ScheduleSelectPage(QWidget* parent = nullptr);
     ~ScheduleSelectPage() override;
 
-    /// Shows the schedule of the set. Exceptions of the remote calls go to the caller.
+    /// Shows the schedule of the set. Exceptions of the remote calls propagate.
     void load(const Set& set);
-    /// Writes what is chosen, and makes the set active. Exceptions of the remote calls go to the
-    /// caller, and what was written before them stays.
+    /// Writes the settings and activates the set. Exceptions of the remote calls propagate, and
+    /// completed writes aren't rolled back.
     void apply(const Set& set);
 
     bool isComplete() const override;

@@ -22,7 +22,7 @@ constexpr int quarters = 4;
 constexpr int quarterMinutes = 15;
 constexpr int digitsThatCount = 5;
 
-/// Qt would like to see another generator, but the start of a client must stay what it is.
+/// Qt deprecates this generator, but the start time of a client must not change.
 int firstRandomNumber(uint seed) {
     QT_WARNING_PUSH
     QT_WARNING_DISABLE_DEPRECATED
@@ -31,7 +31,7 @@ int firstRandomNumber(uint seed) {
     QT_WARNING_POP
 }
 
-/// Minutes since the day's begin, kept within so many days.
+/// Minutes since the start of the day, clamped to this many days.
 int minutesWithin(const hessiancln::time_in_day& time, int days) {
     const std::int64_t minutes = static_cast<std::int64_t>(time.hour) * minutesOfHour + time.minute;
     return static_cast<int>(

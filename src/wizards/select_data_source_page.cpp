@@ -122,7 +122,7 @@ void SelectDataSourcePage::setPurpose(Purpose purpose) {
 void SelectDataSourcePage::showPurpose() {
     const bool wantsSource = purpose_ != Purpose::OtherCredentials;
     ui_->groupDataSource->setVisible(wantsSource);
-    // A wizard gives the focus to what is enabled, even if nobody sees it.
+    // A wizard gives the focus to enabled widgets even if they are hidden.
     ui_->groupDataSource->setEnabled(wantsSource);
     switch (purpose_) {
     case Purpose::Backup:
@@ -143,8 +143,8 @@ void SelectDataSourcePage::showPurpose() {
 
 void SelectDataSourcePage::showEvent(QShowEvent* event) {
     QWizardPage::showEvent(event);
-    // Without its first field the wizard leaves the focus where nobody sees it. It looks for one
-    // after this.
+    // Without its first field the wizard leaves the focus on a hidden widget. It looks for a widget
+    // after this event.
     if (purpose_ == Purpose::OtherCredentials)
         QMetaObject::invokeMethod(
             this, [this] { ui_->btnConnectAs->setFocus(); }, Qt::QueuedConnection);
@@ -164,7 +164,7 @@ void SelectDataSourcePage::applyCredentials(const boost::shared_ptr<hessiancln::
 }
 
 bool SelectDataSourcePage::validatePage() {
-    // The key of a button leaves the field as it is.
+    // A button's shortcut doesn't take the focus from the field.
     const QLineEdit& name = *ui_->editComputerName;
     if (name.hasFocus() && name.isModified() && !takeTypedComputer())
         return false;
@@ -252,9 +252,9 @@ void SelectDataSourcePage::enableConnectAs() {
 }
 
 void SelectDataSourcePage::computerNameEdited() {
-    // A field loses the focus to the very box that tells of its failure, and one that only shows
-    // the tree's choice when the user passes through it: nothing was typed then. A wizard
-    // that is left hides its page, and leaves behind what was typed.
+    // A field loses the focus to the very box that reports its failure, and a read-only one when
+    // the user tabs through it: nothing was typed in these cases. A cancelled wizard hides its page
+    // and discards the input.
     if (editing_ || ui_->editComputerName->isReadOnly() || isHidden())
         return;
     takeTypedComputer();
@@ -267,7 +267,7 @@ bool SelectDataSourcePage::takeTypedComputer() {
         ui_->editComputerName->setText(fromWire(name));
     });
     if (!expanded) {
-        // The user has seen why; Next goes on with the name as it is.
+        // The user has seen the error; Next continues with the name as it is.
         ui_->editComputerName->setModified(false);
         return false;
     }
@@ -291,8 +291,8 @@ void SelectDataSourcePage::treeExpanded(const QModelIndex& index) {
     ui_->treeNetworkDiscovery->scrollTo(index, QAbstractItemView::PositionAtTop);
 }
 
-/// A view has its model look for the first rows as soon as it has one, even while it is hidden; and
-/// a look into the network takes its time.
+/// A view makes its model fetch the first rows as soon as it is set, even while it is hidden; and
+/// network discovery is slow.
 void SelectDataSourcePage::giveTreeItsModel() {
     QTreeView* tree = ui_->treeNetworkDiscovery;
     if (tree->model() == model_.get())

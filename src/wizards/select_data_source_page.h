@@ -27,8 +27,8 @@ class SelectDataSourcePage;
 
 namespace wizards {
 
-/// Whether the source that was typed is on the agent's own computer. Its name counts in this
-/// spelling only; what follows a backslash doesn't matter.
+/// Whether the typed source is on the agent's own computer. Its name is matched in this spelling
+/// only; anything after a backslash is ignored.
 bool isLocalComputer(const QString& source);
 
 } // namespace wizards
@@ -39,14 +39,14 @@ bool isLocalComputer(const QString& source);
 class SelectDataSourcePage : public QWizardPage, public ui::GrowingPage {
     Q_OBJECT
 public:
-    /// Whether a user of this machine, in UTF-8, is one of its administrators.
+    /// Whether a user of this machine, in UTF-8, is an administrator.
     using AdministratorTest = std::function<bool(const std::string& user)>;
 
-    /// What the source, or the login, is wanted for.
+    /// The purpose of the source or the login.
     enum class Purpose { Backup, OtherCredentials, Destination };
 
-    /// Takes a fresh browser from the session, and starts with the agent's own computer. Raises
-    /// what the session raises if that fails.
+    /// Gets a new browser from the session, and starts with the agent's own computer. Throws what
+    /// the session throws.
     explicit SelectDataSourcePage(QWidget* parent = nullptr);
     SelectDataSourcePage(const AdministratorTest& isAdministrator, QWidget* parent = nullptr);
     ~SelectDataSourcePage() override;
@@ -54,28 +54,28 @@ public:
     QSize largestSize() const override;
 
     boost::shared_ptr<hessiancln::DataSourceBrowser> browser() const { return browser_; }
-    /// Without blanks around it.
+    /// Trimmed.
     QString computerName() const;
-    /// The user that the page shows; empty if the source wants none.
+    /// The displayed user; empty if the source needs none.
     QString connectUser() const;
 
     /// Shows the source of a set that has items. False if it isn't a set of files, which this
-    /// program doesn't edit. Raises what the set's calls raise, but for those about credentials.
+    /// program can't edit. Throws what the set's calls throw, except those about credentials.
     bool initFromSet(const boost::shared_ptr<hessiancln::BackupSet>& set);
-    /// The same for a set without items, whose credentials are of no use yet.
+    /// Likewise for a set without items, whose credentials aren't usable yet.
     bool initFromEmptySet(const boost::shared_ptr<hessiancln::BackupSet>& set);
-    /// Offers the computer of a set as the one to restore to. Always true.
+    /// Offers the computer of a set as the restore destination. Always true.
     bool initForRestore(const boost::shared_ptr<hessiancln::BackupSet>& set);
-    /// Gives the credentials to the set. Raises what the calls raise.
+    /// Assigns the credentials to the set. Throws what the calls throw.
     void applyCredentials(const boost::shared_ptr<hessiancln::BackupSet>& set);
 
-    /// Says what is asked for; at first, what to back up. For a restore there is no account of the
-    /// agent's own. Other credentials are for the computer of the set, whatever was chosen here
-    /// before.
+    /// Sets the purpose of the page; initially, selecting what to back up. For a restore, the
+    /// agent's own account isn't offered. Other credentials are for the computer of the set,
+    /// whatever was chosen here before.
     void setPurpose(Purpose purpose);
 
     bool isComplete() const override;
-    /// Lets the agent try the credentials.
+    /// Makes the agent check the credentials.
     bool validatePage() override;
 
 public slots:
@@ -97,7 +97,7 @@ private:
     using Credentials = boost::shared_ptr<hessiancln::BackupSetCredentials>;
 
     void connectWidgets();
-    /// Expands what is typed. False if that failed, which was shown.
+    /// Expands the typed name. Returns false on failure, which has been shown.
     bool takeTypedComputer();
     void showPurpose();
     void giveTreeItsModel();
@@ -106,7 +106,7 @@ private:
     void setComplete(bool complete);
     QString computerToCheck() const;
 
-    /// Shows what the present credentials say. To be called whenever the source may be another.
+    /// Shows the current credentials. Call whenever the source may have changed.
     void refresh();
     void showRows(wizards::CredentialsKind kind);
     void showLogin(const Credentials& credentials, wizards::CredentialsKind kind);
@@ -123,8 +123,9 @@ private:
     std::unique_ptr<CComputerTreeModel> model_;
     wizards::CachedCredentials cache_;
     Purpose purpose_ = Purpose::Backup;
-    QString restoredComputer_; ///< of the set, if the wizard restores one
+    QString restoredComputer_; ///< computer of the set, if the wizard restores one
     bool complete_ = true;
     bool useClientAccount_ = false; ///< the flag of the credentials, as far as it is known
-    bool editing_ = false; ///< an edited name is at the agent, or its failure on the screen
+    bool editing_ = false; ///< an edited name is being sent to the agent, or its failure is being
+                           ///< shown
 };

@@ -16,7 +16,7 @@ namespace Ui {
 class SelectGenerationDlg;
 }
 
-/// Lets the user pick one of the stored versions of a file. Times are seconds since 1970 UTC.
+/// Lets the user select one of the stored versions of a file. Times are seconds since 1970 UTC.
 class SelectGenerationDlg : public QDialog {
     Q_OBJECT
 public:
@@ -24,7 +24,7 @@ public:
     ~SelectGenerationDlg() override;
 
     CGenerationSelectModel& generations() { return *model_; }
-    /// When the selected one was backed up; nothing if none is selected.
+    /// The backup time of the selected version; no value without a selection.
     std::optional<std::int32_t> chosenTime() const;
 
 protected:

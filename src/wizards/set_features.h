@@ -12,20 +12,20 @@ class BackupSet;
 
 namespace wizards {
 
-/// What an agent lets users decide about a set of files, beside what it holds.
+/// What users can configure for a file set on an agent, apart from its content.
 struct SetFeatures {
     bool localStorage = false; ///< the agent has the tool for it
-    bool notebook = false;     ///< an agent of the notebook kind, which decides all by itself
+    bool notebook = false;     ///< an agent of the notebook kind, which decides everything itself
 
     bool optionsPage() const { return localStorage && !notebook; }
 };
 
-/// Asks the agent of the session. Raises what the calls raise.
+/// Queries the agent of the session. Throws what the calls throw.
 SetFeatures readSetFeatures();
 
-/// Writes the options of a set; `page` is null if the features allow none. Any but a notebook's set
-/// reads its files through volume shadow copies, so that it has to be a set of Windows files.
-/// Raises what the calls raise.
+/// Writes the options of a set; `page` is null if the features have none. Except on notebook
+/// agents, a set reads its files through volume shadow copies and so must be a set of Windows
+/// files. Throws what the calls throw.
 void applyOptions(const SetFeatures& features, SetOptionsPage* page,
                   const boost::shared_ptr<hessiancln::BackupSet>& set);
 

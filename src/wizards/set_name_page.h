@@ -20,26 +20,26 @@ class SetNamePage;
 
 namespace wizards {
 
-/// Whether one of the sets has the name, in whatever case.
+/// Whether a set already has the name, ignoring case.
 bool isNameTaken(const QString& name, const std::vector<hessiancln::backup_set_info>& sets);
 
 } // namespace wizards
 
-/// The name of a new set, which no other set of the agent has.
+/// The name of a new set, which must be unique on the agent.
 class SetNamePage : public QWizardPage {
     Q_OBJECT
 public:
     explicit SetNamePage(QWidget* parent = nullptr);
     ~SetNamePage() override;
 
-    /// Raises what the set's call raises.
+    /// Throws what the set's call throws.
     void apply(const boost::shared_ptr<hessiancln::BackupSet>& set);
 
     bool isComplete() const override;
-    /// What is typed, without blanks around it.
+    /// The trimmed input.
     QString name() const;
-    /// Asks the agent for the names that are taken. A failure ends the wizard and goes to the one
-    /// who runs it.
+    /// Requests the existing names from the agent. A failure ends the wizard and is rethrown to its
+    /// caller.
     bool validatePage() override;
 
 public slots:

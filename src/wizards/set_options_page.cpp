@@ -117,7 +117,7 @@ void SetOptionsPage::buildModels(const boost::shared_ptr<hessiancln::DataSourceB
         giveTreeItsModel();
 }
 
-/// A view has its model look for the first rows as soon as it has one, even behind another page.
+/// A view makes its model fetch the first rows as soon as it is set, even on a hidden page.
 void SetOptionsPage::giveTreeItsModel() {
     QTreeView* tree = ui_->treeAvailableDirectories;
     if (!directories_ || tree->model() == directories_.get())

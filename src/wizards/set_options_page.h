@@ -26,18 +26,18 @@ class SetOptionsPage;
 class SetOptionsPage : public QWizardPage {
     Q_OBJECT
 public:
-    /// Asks the agent for its kind of paths. Raises what the calls raise.
+    /// Asks the agent for its path notation. Throws what the calls throw.
     explicit SetOptionsPage(QWidget* parent = nullptr);
     ~SetOptionsPage() override;
 
-    /// The id of the `SelectDataSourcePage` whose browser shows the folders; -1, as at first, if
-    /// none comes before this page.
+    /// The id of the `SelectDataSourcePage` whose browser shows the folders; -1, the default, if
+    /// none precedes this page.
     void setDataSourcePageId(int id) { dataSourcePageId_ = id; }
     int dataSourcePageId() const { return dataSourcePageId_; }
 
-    /// Shows the options of a set. Always true. Raises what the set's calls raise.
+    /// Shows the options of a set. Always true. Throws what the set's calls throw.
     bool load(const boost::shared_ptr<hessiancln::BackupSet>& set);
-    /// Raises what the set's calls raise.
+    /// Throws what the set's calls throw.
     void apply(const boost::shared_ptr<hessiancln::BackupSet>& set);
 
     void initializePage() override;
@@ -60,12 +60,12 @@ private:
     bool isFolderWanted() const;
     void showFolderIfWanted();
     void showFolder(bool shown);
-    /// Selects the folder, or the deepest one on the way there that exists. False if there is none.
+    /// Selects the folder or its deepest existing ancestor. False if there is none.
     bool moveTreeToPath();
 
     std::unique_ptr<Ui::SetOptionsPage> ui_;
     int dataSourcePageId_ = -1;
     hessiancln::ClientOSType osType_;
-    std::unique_ptr<CRestoreDestinationModel> model_; ///< null until needed, like the next
+    std::unique_ptr<CRestoreDestinationModel> model_; ///< null until needed, like the next member
     std::unique_ptr<CRestoreDestinationDirectoryOnlyModel> directories_;
 };

@@ -10,7 +10,7 @@ namespace wizards {
 
 namespace {
 
-// The agent keeps a schedule or a rule that a set still uses, so each is detached first.
+// The agent keeps a schedule or a rule that is still used by a set, so each is detached first.
 
 void removeSchedule(hessiancln::BackupSet& set) {
     const auto schedule = set.getSchedule();

@@ -12,8 +12,8 @@ class GenericActivity;
 namespace wizards {
 
 /// Removes a set of the session's agent with its schedule, its retention rule and all its data. The
-/// agent does so in the activity that is returned. Raises what the calls raise; what was removed
-/// before them isn't put back.
+/// agent does so in the returned activity. Throws what the calls throw; completed removals aren't
+/// rolled back.
 boost::shared_ptr<hessiancln::GenericActivity>
 removeSet(const boost::shared_ptr<hessiancln::BackupSet>& set);
 

@@ -16,12 +16,12 @@ constexpr char separator = '\\';
 constexpr std::string_view notInNames = "\"*/:<>?\\|";
 constexpr std::string_view nameOfNameless = ".data.";
 
-/// Names of which no two are the same: those that would be get as many numbers behind them as it
-/// takes, "C", "C_0001", "C_0001_0002".
+/// Makes names unique: duplicates get as many number suffixes as necessary, "C", "C_0001",
+/// "C_0001_0002".
 class DirectoryNames {
 public:
     std::string unusedFor(const std::string& wanted) {
-        // What was taken on the way to the last one is still taken.
+        // Names rejected on the way to the last one are still in use.
         auto& [name, counter] = last_.try_emplace(wanted, Numbered{wanted, 1}).first->second;
         for (; used_.contains(name); ++counter) {
             char suffix[32];
@@ -35,11 +35,11 @@ public:
 private:
     struct Numbered {
         std::string name;
-        long counter; ///< of the next number
+        long counter; ///< next number
     };
 
     std::unordered_set<std::string> used_;
-    std::unordered_map<std::string, Numbered> last_; ///< by the name that was wanted
+    std::unordered_map<std::string, Numbered> last_; ///< by the requested name
 };
 
 } // namespace

@@ -9,22 +9,22 @@
 
 #include "api/restore_records.h"
 
-/// Where restored shares go if they don't go back to where they came from. Text is UTF-8.
+/// Destinations of shares that aren't restored to their original place. Text is UTF-8.
 namespace wizards {
 
 struct ShareMappings {
     std::vector<hessiancln::share_mapping> mappings;
-    std::int32_t truncateLevel = 0; ///< how many leading levels of all paths are dropped
+    std::int32_t truncateLevel = 0; ///< number of leading levels to drop from all paths
 };
 
-/// How many levels the path has that a restore may drop: its backslashes.
+/// The number of path levels that a restore may drop: its backslashes.
 std::int32_t truncateLevelOf(std::string_view truncatablePath);
 
-/// What of a share's name can be the name of a directory on any system; ".data." if nothing is.
+/// The part of a share's name that is valid in directory names on any system, or ".data." if empty.
 std::string directoryNameOf(std::string_view shareName);
 
-/// One share goes to `destination` itself, without the levels that can be dropped. Of several each
-/// gets a directory of its own in there, and keeps its levels.
+/// A single share goes to `destination` itself, without the levels that can be dropped. Several
+/// shares each get their own directory in there, and keep their levels.
 ShareMappings shareMappings(const std::vector<hessiancln::selected_shares>& shares,
                             const std::string& destination);
 

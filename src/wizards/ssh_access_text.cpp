@@ -7,7 +7,7 @@
 namespace wizards {
 
 QString sshAccessName(hessiancln::SSHAccessType type) {
-    // The texts of the dialog's list.
+    // The dialog's list uses these texts.
     switch (type) {
     case hessiancln::SSHAccessType::Perl:
         return QCoreApplication::translate("CSSHAccessType", "Perl");

@@ -8,17 +8,17 @@
 
 namespace wizards {
 
-/// The name of a kind of access; empty for one that this program doesn't know.
+/// The name of an access type; empty for an unknown one.
 QString sshAccessName(hessiancln::SSHAccessType type);
 
-/// The name, and the path if there is one.
+/// The name, followed by the path if there is one.
 QString sshAccessText(hessiancln::SSHAccessType type, const QString& interpreterPath);
 
-/// The entry of the kind in the list Perl, Python, Direct Script Execution; an unknown kind is
-/// shown as the first.
+/// The index of the type in the list Perl, Python, Direct Script Execution; the first one for an
+/// unknown type.
 int indexOfSSHAccess(hessiancln::SSHAccessType type);
 
-/// The reverse. No entry gives the first kind.
+/// The reverse. Without a selection, returns the first type.
 hessiancln::SSHAccessType sshAccessOfIndex(int index);
 
 } // namespace wizards

@@ -12,17 +12,17 @@ namespace Ui {
 class CSSHAccessType;
 }
 
-/// Asks what runs on a computer that the agent reaches by SSH.
+/// Asks what to run on a computer that the agent accesses by SSH.
 class CSSHAccessType : public QDialog {
     Q_OBJECT
 public:
-    /// Starts with what the credentials say. Raises what their calls raise.
+    /// Initially shows the credentials' values. Throws what their calls throw.
     explicit CSSHAccessType(hessiancln::UnixFS_SSH_BackupSetCredentials& credentials,
                             QWidget* parent = nullptr);
     ~CSSHAccessType() override;
 
     hessiancln::SSHAccessType type() const;
-    /// Of the interpreter or of the script; may be empty but for a script.
+    /// Path of the interpreter or of the script; may be empty except for a script.
     QString path() const;
 
 public slots:

@@ -35,7 +35,7 @@ void CSSHConnectAsDlg::mirrorFields() {
         connect(other, &QLineEdit::textEdited, one, &QLineEdit::setText);
     };
     mirror(ui_->editUserName, ui_->editIdentityUser);
-    // No text is shared between the two, as each wipes only what is its own.
+    // The two fields must not share a string, because each wipes only what it owns alone.
     const auto mirrorSecret = [](ui::SecretField* one, ui::SecretField* other) {
         connect(one, &QLineEdit::textEdited, other,
                 [one, other] { other->setSecret(one->secret().text()); });

@@ -12,16 +12,15 @@ namespace Ui {
 class CSSHConnectAsDlg;
 }
 
-/// Asks how to log in by SSH: with a password or with an identity file. User and secret are the
-/// same on both pages. It starts with a mask where the secret is, and can't be confirmed before
-/// one was typed.
+/// Asks how to log in by SSH: with a password or with an identity file. Both pages share user and
+/// secret. Initially shows a mask for the secret, and can't be confirmed until one is typed.
 class CSSHConnectAsDlg : public QDialog {
     Q_OBJECT
 public:
     explicit CSSHConnectAsDlg(const QString& user, QWidget* parent = nullptr);
     ~CSSHConnectAsDlg() override;
 
-    /// With a password, not with an identity file.
+    /// True for a password, false for an identity file.
     bool usesPassword() const;
     QString user() const;
     base::Secret password() const;

@@ -12,15 +12,15 @@ namespace Ui {
 class CSSHSudoCredentials;
 }
 
-/// Asks which user to become after a login by SSH, if any.
+/// Asks which user to switch to after a login by SSH, if any.
 class CSSHSudoCredentials : public QDialog {
     Q_OBJECT
 public:
-    /// `user`: the present one; empty if nobody is to become.
+    /// `user`: the current one; empty without a user switch.
     explicit CSSHSudoCredentials(const QString& user, QWidget* parent = nullptr);
     ~CSSHSudoCredentials() override;
 
-    /// The dialog was accepted with nobody to become; the fields don't count then.
+    /// Whether the dialog was accepted without a user switch; the fields are then ignored.
     bool noSudo() const { return noSudo_; }
     QString user() const;
     base::Secret password() const;

@@ -76,7 +76,7 @@ void StoredItemsPage::loadDateLimits(hessiancln::BackupSet& set, QDateTimeEdit& 
         return;
     const auto span = wizards::backupTimeSpan(sessions_, QDateTime::currentDateTime());
     const auto limit = [&](QDateTimeEdit& date, const QDateTime& value) {
-        // Each field would ask for a view of its own.
+        // Each field would request its own view.
         const QSignalBlocker quiet(&date);
         wizards::showTime(date, value);
         date.setMinimumDate(span.earliest.date());
@@ -95,7 +95,7 @@ void StoredItemsPage::showContents(const boost::shared_ptr<hessiancln::BackupSet
     showModel(std::move(model));
     filterOfView_.rememberAll();
     {
-        // Rows that open by themselves don't scroll.
+        // Rows expanded by the program shouldn't scroll the view.
         const QSignalBlocker quiet(tree_);
         memo.restore();
     }
@@ -132,8 +132,8 @@ void StoredItemsPage::treeSelectionChanged(const QItemSelection& selected) {
     list_->setRootIndex(files_->mapFromSource(folder));
 }
 
-/// Comes for each of the items below one that is checked, and the wizard looks at all its buttons
-/// each time that a page has news.
+/// Called for each of the items below a checked one, and on each page change signal the wizard
+/// updates all its buttons.
 void StoredItemsPage::treeCheckChanged() {
     const bool hasSelection = isComplete();
     if (hasSelection == hadSelection_)
@@ -143,7 +143,7 @@ void StoredItemsPage::treeCheckChanged() {
 }
 
 void StoredItemsPage::showFetchFailure(const QString& text) {
-    // Many folders may fail at once, and one box says enough.
+    // Many folders may fail at once; one box is enough.
     if (showingFailure_)
         return;
     const QScopedValueRollback<bool> showing(showingFailure_, true);

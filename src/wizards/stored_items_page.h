@@ -29,18 +29,18 @@ class BackupSet;
 class BackupSetDataView;
 } // namespace hessiancln
 
-/// A page on which somebody checks items of what a set holds: a tree of its folders, and the files
-/// of the selected one. What is shown is one view of the agent; each change of a filter asks for
-/// another one, and drops the marks. If that fails it is told, the old view stays, and the fields
-/// of the filter go back to what they said for it: nobody must choose by a filter that isn't there.
+/// A page for checking items in the content of a set: a tree of its folders, and the files of the
+/// selected one. The content is one view of the agent; each change of a filter requests another
+/// view and drops the check marks. A failure is reported, the old view stays, and the fields of the
+/// filter are reset to match it: users must never select with a filter that isn't applied.
 class StoredItemsPage : public QWizardPage {
     Q_OBJECT
 public:
     ~StoredItemsPage() override;
 
     bool isComplete() const override;
-    /// Takes over a date that is typed but not entered yet, as the key of a button leaves it: what
-    /// is finished with is what the fields say. Stays on the page if that dropped the marks.
+    /// Accepts a date that is typed but not committed yet, because shortcuts don't move the focus:
+    /// the result must match the fields. Stays on the page if that dropped the check marks.
     bool validatePage() override;
 
 protected:
@@ -54,25 +54,25 @@ protected:
 
     explicit StoredItemsPage(QWidget* parent);
 
-    /// To be called once, with the form there. `filter` are the fields that a view depends on.
+    /// Call once, after the form is set up. `filter` are the fields that a view depends on.
     void setUp(const Views& views, std::initializer_list<QWidget*> filter);
 
-    /// Shows what the view holds, in place of what was shown before, with the same folders expanded
-    /// and selected. Raises what the first look at it raises; nothing has changed then.
+    /// Shows the content of the view in place of the previous one, with the same folders expanded
+    /// and selected. Throws what the first request throws; nothing has changed then.
     void showContents(const boost::shared_ptr<hessiancln::BackupSetDataView>& view);
-    /// Lets the dates be chosen from when the set was backed up, once that is known: asks only
-    /// until then. Raises what the call raises.
+    /// Limits the dates to the time span of the set's backups, once it is known: sends requests
+    /// only until then. Throws what the call throws.
     void loadDateLimits(hessiancln::BackupSet& set, QDateTimeEdit& from,
                         std::initializer_list<QDateTimeEdit*> others);
-    /// Runs what a field has led to. A failure is shown.
+    /// Runs an action triggered by a field. A failure is shown.
     void atField(const std::function<void()>& work);
-    /// Whether the filter says something else than what is shown. The Return key makes a date
-    /// report a change even where there is none.
+    /// Whether the filter differs from the current view. The Return key makes a date field signal a
+    /// change even if there is none.
     bool filterChanged() const { return filterOfView_.differs(); }
-    /// To be overridden for what follows the fields of the filter, which were put back.
+    /// Override to update what depends on the fields of the filter, which were reset.
     virtual void fieldsPutBack() = 0;
 
-    /// From the first view on, as are the next.
+    /// Valid from the first view on, like the functions below.
     CBackedUpDataModel& model() const { return *model_; }
     CBackedupDataDirOnlyModel& folders() const { return *folders_; }
     CBackedupDataFileFilterModel& files() const { return *files_; }
@@ -86,13 +86,13 @@ private:
     void showModel(std::unique_ptr<CBackedUpDataModel> model);
     void showFetchFailure(const QString& text);
 
-    QTreeView* tree_ = nullptr; ///< of the form, like the next
+    QTreeView* tree_ = nullptr; ///< from the form, like the next members
     QListView* list_ = nullptr;
     QLineEdit* fileFilter_ = nullptr;
     std::unique_ptr<CBackedUpDataModel> model_;
-    CBackedupDataDirOnlyModel* folders_ = nullptr; ///< owned by the model, like the next
+    CBackedupDataDirOnlyModel* folders_ = nullptr; ///< owned by the model, like the next member
     CBackedupDataFileFilterModel* files_ = nullptr;
-    std::vector<hessiancln::backup_sessions> sessions_; ///< asked for once
+    std::vector<hessiancln::backup_sessions> sessions_; ///< requested once
     wizards::FieldMemo filterOfView_;
     bool hadSelection_ = false;
     bool showingFailure_ = false;

@@ -8,7 +8,7 @@
 namespace {
 
 QRegExp userName() {
-    // A domain of at most 20 characters with a backslash, then a name of 1 to 20.
+    // A domain of at most 20 characters with a backslash, then a name of 1 to 20 characters.
     return QRegExp(
         QStringLiteral(R"re(([^\\/"\[\]:|<>+=;,?*@]{0,20}\\)?[^\\/"\[\]:|<>+=;,?*@]{1,20})re"));
 }

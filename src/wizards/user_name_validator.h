@@ -6,12 +6,12 @@
 
 class QWidget;
 
-/// The name of a user, with or without a domain in front. What can't become one is refused with a
-/// tool tip that says why.
+/// The name of a user, optionally with a domain in front. Refuses invalid input with a tool tip
+/// that explains why.
 class CUserNameValidator : public QRegExpValidator {
     Q_OBJECT
 public:
-    /// `edit`, the validator's parent, is where the tool tip appears.
+    /// `edit`, the validator's parent, shows the tool tip.
     explicit CUserNameValidator(QWidget* edit);
 
     State validate(QString& input, int& position) const override;

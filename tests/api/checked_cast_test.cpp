@@ -18,7 +18,7 @@ constexpr char types[] = "c 01 00 m 00 05 'types' z";
 
 class CheckedCastTest : public ProxyTest {
 protected:
-    /// What the cast raises.
+    /// The text of the exception that the cast throws.
     std::string refusal() const {
         try {
             checkedCast<Win32FS_BackupSet>(set);

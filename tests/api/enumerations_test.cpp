@@ -24,7 +24,7 @@ namespace {
 using namespace hessiancln;
 using support::bytes;
 
-/// The int32 as it stands on the wire.
+/// The int32 in its wire form.
 std::string onTheWire(std::int32_t number) {
     const auto unsignedNumber = static_cast<std::uint32_t>(number);
     std::string result = "I";
@@ -49,8 +49,8 @@ std::string written(E value) {
 
 struct Row {
     const char* name;
-    std::int32_t first; ///< the declared numbers go from this one
-    std::int32_t last;  ///< to this one
+    std::int32_t first; ///< first declared number
+    std::int32_t last;  ///< last declared number
     std::int32_t other;
     std::int32_t (*read)(std::int32_t);
 };
@@ -162,7 +162,7 @@ TEST(Enumerations, SeveritiesAndScheduleTypesHaveTheirNumbers) {
     EXPECT_EQ(static_cast<int>(ScheduleDetailType::Monthly), 3);
 }
 
-/// As the kinds of an agent are numbered: with a hole.
+/// Numbered with a hole, like the kinds of an agent.
 enum class Holed : std::int32_t {};
 constexpr auto declaredValues(Holed) {
     return hessianser::values({{1, 1}, {3, 16}});

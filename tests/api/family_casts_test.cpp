@@ -13,7 +13,7 @@ namespace {
 
 using namespace hessiancln;
 
-/// A class that is reached by a cast, the root of its family, and what `types` say of the object.
+/// A class reached by a cast, the root of its family, and what `types` returns for the object.
 template <class Narrower, class Root>
 struct Pair {
     using NarrowerClass = Narrower;

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-/// One message of each record, typed out as it stands on the wire, with every field set to a value
-/// that no other field has.
+/// One message of each record, typed out in wire form. Within a record all fields have different
+/// values.
 namespace golden {
 
 inline const char running_activity_info[] = "M t 00 24 'com.norvel.api.running_activity_info'"

@@ -42,7 +42,7 @@ std::string hex(std::size_t byte) {
 
 const char release[] = "c 01 00 m 00 07 'Release' z";
 
-/// What an object does that was never given a dispatcher.
+/// The behaviour of an object that was never given a dispatcher.
 class OwnDispatcherTest : public testing::Test {
 protected:
     ~OwnDispatcherTest() override { transportMode = 0; }

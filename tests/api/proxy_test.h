@@ -11,22 +11,22 @@
 
 #include "tests/support/scripted_dispatcher.h"
 
-/// Tests that play one proxy against a scripted agent.
+/// Base of tests that run one proxy against a scripted agent.
 class ProxyTest : public testing::Test {
 protected:
-    /// A proxy that nobody releases, like the entry point's.
+    /// A proxy that is never released, like the entry point's.
     template <class Proxy>
     boost::shared_ptr<Proxy> proxyAt(const std::string& url) const {
         return boost::make_shared<Proxy>(agent, url, false, 0u, std::string());
     }
 
-    /// A proxy as one comes out of a reply.
+    /// A proxy as received in a reply.
     template <class Proxy>
     boost::shared_ptr<Proxy> receivedAt(const std::string& url) const {
         return boost::make_shared<Proxy>(agent, url, true, 0u, std::string());
     }
 
-    /// The object under test, at the URL "here", is called once.
+    /// Expects one call of the object under test, at the URL "here".
     void expect(std::string_view request, std::string_view reply) const {
         agent->expect("here", request, reply);
     }

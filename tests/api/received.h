@@ -7,10 +7,10 @@
 #include "tests/api/proxy_test.h"
 #include "transport/invoke_exception.h"
 
-/// Adds what most tests of a remote class expect of a result.
+/// Adds the checks that most tests of a remote class make of a result.
 class ReceivingTest : public ProxyTest {
 protected:
-    /// The proxy is the object at `url`, can be used, and is released when it goes, which is now.
+    /// Checks that the proxy is the object at `url`, usable, and released on destruction, i.e. now.
     template <class Proxy>
     void expectReceived(boost::shared_ptr<Proxy> proxy, const std::string& url) const {
         ASSERT_TRUE(proxy);

@@ -11,7 +11,7 @@
 #include "hessian/value.h"
 #include "tests/support/bytes.h"
 
-/// Reads the record in a message of the notation of `support::bytes`, which holds nothing else.
+/// Reads the record from a message in the notation of `support::bytes` that holds nothing else.
 template <class R>
 R decodeRecord(const char* notation) {
     const std::string message = support::bytes(notation);
@@ -21,7 +21,7 @@ R decodeRecord(const char* notation) {
     return record;
 }
 
-/// What refuses the message, or nothing.
+/// The error with which the message is refused, or an empty string.
 template <class R>
 std::string recordRefusal(const std::string& message) {
     try {
@@ -33,8 +33,8 @@ std::string recordRefusal(const std::string& message) {
     return "";
 }
 
-/// What holds for every record: `golden`, which has all fields in their order, is what is written
-/// for it and in the size computed for it; no key may be added, and nothing be cut off.
+/// Checks what holds for every record: writing it reproduces `golden`, which has all fields in
+/// their order, in exactly the computed size; an added key or a truncated message is refused.
 template <class R>
 void checkRecord(const char* golden) {
     SCOPED_TRACE(R::wireType);

@@ -15,7 +15,7 @@
 
 namespace {
 
-/// A reference as the agent's side of a connection holds it.
+/// A reference as held by the agent's side of a connection.
 struct Handle {
     std::string url;
 };
@@ -35,7 +35,7 @@ using namespace hessiancln;
 using support::bytes;
 using support::printable;
 
-/// The one record with a reference in it, as the agent's side writes it.
+/// The only record with a reference, as the agent's side writes it.
 using LoginAnswer = basic_sspi_login_info<Handle>;
 
 class Nowhere : public ICallDispatcher {
@@ -176,7 +176,7 @@ TEST(Records, sspi_login_info) {
     EXPECT_EQ(r.domain, "BÜRO");
     ASSERT_TRUE(r.conn);
     EXPECT_EQ(r.conn->url(), "https://a/s7");
-    // Nobody stands behind the reference, so that its release must not look for a way out.
+    // There is no object behind the reference, so its release must go nowhere.
     r.conn->setDispatcher(boost::make_shared<Nowhere>());
 }
 

@@ -16,7 +16,8 @@ using namespace hessiancln;
 
 constexpr char release[] = "c 01 00 m 00 07 'Release' z";
 
-/// That the agent hears of each reference which it handed out, once, when the last proxy goes.
+/// Checks that the agent receives one release for each reference it handed out, when the last proxy
+/// is destroyed.
 class ReleaseTest : public ProxyTest {
 protected:
     void expectBackupSet(std::string_view reference) const {

@@ -17,7 +17,7 @@ using namespace hessiancln;
 constexpr char getID[] = "c 01 00 m 00 05 'getID' z";
 constexpr char stop[] = "c 01 00 m 00 04 'Stop' z";
 
-/// What a method makes of replies, good and bad, shown by one with a result and one without.
+/// How methods handle good and bad replies, shown by one with a result and one without.
 class ReplyTest : public ProxyTest {
 protected:
     template <class Exception, class Call>
@@ -61,7 +61,7 @@ TEST_F(ReplyTest, WithoutResultMustNotHoldAnotherValue) {
 
 TEST_F(ReplyTest, WithoutResultMustEnd) {
     EXPECT_EQ(refusalOfStop("r 01 00"), "Not enough space to read a reply end");
-    // A null that is the last byte isn't taken for a result.
+    // A null as the last byte isn't taken for a result.
     EXPECT_EQ(refusalOfStop("r 01 00 N"), "Not a remote call end");
 }
 
@@ -167,7 +167,7 @@ TEST_F(ReplyTest, IsRefusedWhereverItIsCut) {
     const std::string whole = "r 01 00 V " + std::string(golden::backup_sessions) + " z z";
     std::size_t refusals = 0;
     for (std::size_t length = 0; length < whole.size(); ++length) {
-        // Only whole pieces of the notation can be left out; none of its texts holds a blank.
+        // Only whole pieces of the notation can be left out; none of its texts contains a blank.
         if (whole[length] != ' ')
             continue;
         expect("c 01 00 m 00 0C 'backup_times' z", std::string_view(whole).substr(0, length));

@@ -10,7 +10,7 @@
 #include "tests/support/bytes.h"
 #include "tests/support/scripted_dispatcher.h"
 
-/// That the tools of these tests fail where they should.
+/// Checks that the test doubles fail when they should.
 namespace {
 
 using support::bytes;

@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Remembers the bars that it is told to draw, and draws none.
+/// Records the progress bars it is asked to draw, and draws none.
 class RecordingStyle : public QProxyStyle {
 public:
     RecordingStyle()
@@ -49,7 +49,7 @@ class ActivityProgressItemDelegateTest : public QObject {
 private slots:
     void initTestCase() {
         style_ = new RecordingStyle;
-        QApplication::setStyle(style_); // which takes it
+        QApplication::setStyle(style_); // takes ownership
     }
     void init() {
         style_->bars.clear();

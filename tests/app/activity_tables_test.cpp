@@ -14,7 +14,7 @@ using hessiancln::running_activity_info;
 
 namespace {
 
-/// Tables as the form of the main window has them.
+/// Tables set up as in the main window's form.
 struct Tables {
     Tables() {
         for (QTableView* view : {&runningView, &logView}) {
@@ -24,7 +24,7 @@ struct Tables {
         }
     }
 
-    /// Records with these ids, the youngest first.
+    /// Records with these ids, newest first.
     template <class R>
     static std::vector<R> records(std::initializer_list<std::int32_t> ids, std::int32_t R::*id) {
         std::vector<R> all;
@@ -44,7 +44,7 @@ struct Tables {
         tables.log().setRecords(records(ids, &activity_log_info::id));
     }
 
-    /// There is no session to ask for rows.
+    /// There is no session to fetch rows from.
     void refreshWithoutAgent() { QVERIFY_EXCEPTION_THROWN(tables.refresh(), std::exception); }
 
     static void select(QTableView& view, std::initializer_list<int> rows) {
@@ -138,7 +138,7 @@ private slots:
         shown.tables.clear();
         QCOMPARE(shown.tables.running().rowCount(), 0);
         QCOMPARE(shown.tables.log().rowCount(), 0);
-        // What ran before has not ended.
+        // Activities of the cleared list don't count as ended.
         const QSignalSpy changes(&shown.tables.running(),
                                  &RunningActivitiesModel::activityChangeDetected);
         shown.run({});

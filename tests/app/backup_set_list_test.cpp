@@ -32,7 +32,7 @@ backup_set_info fileSet(std::int32_t id) {
     return set;
 }
 
-/// A list over sets that the test decides on, in a view that is shown.
+/// A list over sets chosen by the test, in a visible view.
 struct ShownList {
     ShownList() {
         view.setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -205,7 +205,7 @@ private slots:
         QCOMPARE(shown.selectedId(), 1);
         shown.rebuildWith({1, 2, 3});
         QCOMPARE(shown.selectedId(), 3);
-        // Only once: it is the user's turn again.
+        // Only once: after that the user's selection counts.
         shown.view.selectRow(0);
         shown.rebuildWith({1, 2, 3});
         QCOMPARE(shown.selectedId(), 1);
@@ -281,7 +281,7 @@ private slots:
         QTest::keyClicks(&editor, QStringLiteral("Photos"));
         QTest::keyClick(&editor, Qt::Key_Return);
         QCOMPARE(shown.renames, QStringList{QStringLiteral("2=Photos")});
-        // Back on the list, with the keys that move in it.
+        // The focus is back on the list, whose keys work again.
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
         QCOMPARE(shown.selectedId(), 1);
     }

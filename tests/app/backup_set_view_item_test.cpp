@@ -29,7 +29,7 @@ hessiancln::backup_set_info healthySet(const char* name = "Documents") {
     return set;
 }
 
-/// A card that is shown, and the renames that it asked for, as in "7=Name".
+/// A visible card, and the renames it requested, as in "7=Name".
 struct ShownCard {
     explicit ShownCard(std::function<void()> failure = [] {})
         : card(nullptr, [this, failure](std::int32_t id, const QString& name) {

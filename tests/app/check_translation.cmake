@@ -1,9 +1,9 @@
 # SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 # SPDX-License-Identifier: Apache-2.0
 
-# Fails if a text of the sources isn't in the translation file TS, isn't finished there, or loses what
-# the program puts into it.
-# LUPDATE, SOURCES and a scratch folder OUT are given.
+# Fails if a source text is missing from the translation file TS, is unfinished there, or loses one
+# of its placeholders.
+# Takes LUPDATE, SOURCES and a scratch folder OUT.
 file(MAKE_DIRECTORY ${OUT})
 set(copy ${OUT}/texts.ts)
 file(COPY_FILE ${TS} ${copy})
@@ -23,7 +23,7 @@ if(open)
     message(FATAL_ERROR "Texts without a finished translation:${names}")
 endif()
 
-# What the program puts into a text has its place in the translation too.
+# The placeholders of a text have to appear in its translation too.
 string(REGEX REPLACE "[][;]" " " plain "${text}")
 string(REGEX MATCHALL
     "<source>[^<]*</source>([^<]*<[a-z]*comment>[^<]*</[a-z]*comment>)*[^<]*<translation>[^<]*</translation>"

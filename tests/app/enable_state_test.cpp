@@ -9,7 +9,7 @@ namespace {
 using app::EnableInputs;
 using app::enableState;
 
-/// A set with which everything can be done: the inputs of the tests below, less what they change.
+/// A set that allows every action: the base of the inputs in the tests below.
 EnableInputs freeSet() {
     EnableInputs in;
     in.connected = true;
@@ -23,7 +23,7 @@ EnableInputs freeSet() {
 struct Row {
     const char* object;
     bool app::EnableState::*on;
-    /// When it is enabled, told in the words of the inputs.
+    /// The condition for being enabled, in terms of the inputs.
     bool (*expected)(const EnableInputs& in);
 };
 

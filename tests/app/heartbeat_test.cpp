@@ -24,7 +24,7 @@ public:
             changed_.wait(lock);
     }
 
-    /// Lets one second pass, and waits for the thread to begin the next one.
+    /// Lets one second pass, and waits until the thread starts the next one.
     void pass() {
         boost::unique_lock lock(mutex_);
         ++passed_;
@@ -33,7 +33,7 @@ public:
             changed_.wait(lock);
     }
 
-    /// Waits for the thread to sleep.
+    /// Waits until the thread sleeps.
     void waitUntilAsleep() {
         boost::unique_lock lock(mutex_);
         while (begun_ <= passed_)
@@ -60,7 +60,7 @@ private:
     int passed_ = 0;
 };
 
-/// Counts the events that it gets, by their type.
+/// Counts the events it receives, by type.
 class Receiver : public QObject {
 public:
     int count(int type) const { return counts_.value(type); }

@@ -42,7 +42,7 @@ hessiancln::event_log_info warning() {
     return event;
 }
 
-/// A viewer with one event, in the font that a desktop of usual resolution has.
+/// A viewer with one event, in a font of the size common on desktops.
 class ViewerOfOne : public EventLogViewer {
 public:
     ViewerOfOne() {
@@ -52,7 +52,7 @@ public:
     }
     QTableView& table() { return child<QTableView>(*this, "tableEvents"); }
 
-    /// What the event's cell in this column is drawn with.
+    /// The style option used to draw the event's cell in this column.
     QStyleOptionViewItem cell(int column) {
         const QModelIndex index = model().index(0, column);
         auto* delegate = qobject_cast<ui::FittingTextDelegate*>(table().itemDelegate(index));
@@ -68,7 +68,7 @@ public:
         return delegate->fitted(option, index);
     }
 
-    /// The text of the tool tip over the event's cell in this column.
+    /// The tool tip of the event's cell in this column.
     QString toolTip(int column) {
         QToolTip::showText({}, QString());
         QWidget* viewport = table().viewport();
@@ -79,7 +79,7 @@ public:
     }
 };
 
-/// Every widget that a user can reach has a text or a name for those who don't see it.
+/// Checks that every widget the user can reach has a text or an accessible name.
 void verifyNames(const QWidget& window) {
     for (const QWidget* widget : window.findChildren<QWidget*>()) {
         if (widget->focusPolicy() == Qt::NoFocus ||
@@ -94,7 +94,7 @@ void verifyNames(const QWidget& window) {
 
 } // namespace
 
-/// The dialogs without a session; what they ask an agent is tested with one.
+/// The dialogs without a session; their calls are tested with an agent elsewhere.
 class LogDialogsTest : public QObject {
     Q_OBJECT
 private slots:
@@ -156,7 +156,7 @@ void LogDialogsTest::everyColumnOfTheEventsSorts() {
     first.user = first.extra_info = first.description = "Z";
     first.node_id = 1;
     hessiancln::event_log_info second;
-    // Both come behind the others by their labels only.
+    // Only their labels sort both of them last.
     second.type = hessiancln::EventLogType::Information;
     second.category = hessiancln::EventCategory::IO;
     second.when = second.event_id = second.activity_id = 10;
@@ -254,7 +254,7 @@ void LogDialogsTest::aTextThatIsMuchTooWideIsCutAndHasAToolTip() {
     const QStyleOptionViewItem detail = viewer.cell(EventLogModel::detail);
     QVERIFY(!ui::FittingTextDelegate::showsAll(detail));
     QCOMPARE(detail.textElideMode, Qt::ElideRight);
-    // It isn't rich, whatever it looks like.
+    // It is shown as plain text, whatever it looks like.
     const QString tip = viewer.toolTip(EventLogModel::detail);
     QVERIFY2(tip.contains(QLatin1String("&lt;b&gt;not bold&lt;/b&gt;")), qPrintable(tip));
 

@@ -10,7 +10,7 @@
 #include "resources/pictures.h"
 #include "ui/activity_type_text.h"
 
-/// Every name under which a screen may ask for a picture.
+/// Every name under which a screen may request a picture.
 class PicturesTest : public QObject {
     Q_OBJECT
 private slots:

@@ -14,7 +14,7 @@ namespace {
 
 const QString boxTitle = QStringLiteral("Error checking backup set properties");
 
-/// A panel about sets that have as many files as their id says, unless the agent is out of order.
+/// A panel about sets with as many files as their id, unless the agent is out of order.
 struct ShownPanel {
     ShownPanel() { page.show(); }
 
@@ -87,7 +87,7 @@ private slots:
     void asksNothingWhileABoxIsOpen() {
         ShownPanel shown;
         shown.outOfOrder = true;
-        // What a heartbeat does while the box is open.
+        // As a heartbeat does while the box is open.
         QTimer::singleShot(0, &shown.page, [&shown] { shown.panel.show(2); });
         ModalDriver modals;
         modals.expectErrorBox(boxTitle, QStringLiteral("Out of order."));

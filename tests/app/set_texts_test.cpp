@@ -14,7 +14,7 @@ using hessiancln::backup_set_info;
 using hessiancln::backup_set_overview_info;
 using hessiancln::ScheduleDetailType;
 
-// Read when the first text is made.
+// Read when the first text is created.
 const bool localeIsSet = qputenv("LC_ALL", "en_US.UTF-8") && qputenv("TZ", "UTC");
 
 app::SetDetails details(const backup_set_overview_info& overview, std::int32_t lastBackup = 0) {

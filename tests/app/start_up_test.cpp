@@ -116,7 +116,7 @@ private slots:
     void tellsThatATranslationIsMissing() { expectTranslationError(QStringLiteral("EN")); }
 
     void takesNoFileOfAnotherName() {
-        // What Qt would try on its own: a suffix, and the name cut at its underscores.
+        // Names that Qt would try on its own: with a suffix, and cut at the underscores.
         for (const char* name : {"sg_i18n_de.qm", "sg_i18n", "sg_i18n.qm", "sg", "sg.qm"})
             QVERIFY(QFile::copy(support::translationFile(QStringLiteral("de")),
                                 QString::fromLatin1(name)));
@@ -169,7 +169,7 @@ private slots:
     }
 
     void aQuitDuringTheLoginEndsTheProgram() {
-        // No agent is there, so the login asks.
+        // There is no agent, so the login dialog opens.
         SimpleGUIMainWindow window;
         QTimer quit;
         connect(&quit, &QTimer::timeout, [&] {

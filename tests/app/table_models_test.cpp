@@ -77,7 +77,7 @@ std::vector<std::int32_t> ids(const Model& model) {
     return ids;
 }
 
-/// What the running model has reported, as in "+1 +2 -3".
+/// The changes reported by the running model, as in "+1 +2 -3".
 class Reports {
 public:
     explicit Reports(RunningActivitiesModel& model) {
@@ -343,7 +343,7 @@ void TableModelsTest::everyOtherColumnOfRunningActivitiesSorts() {
     low.type = ActivityType::Restore;
     low.user = low.description = "Z";
     running_activity_info high = running(2, 20);
-    // By its label, not by its number.
+    // Sorted by label, not by number.
     high.type = ActivityType::CacheCopy;
     high.user = high.description = "a";
     RunningActivitiesModel model;
@@ -384,7 +384,7 @@ void TableModelsTest::theFirstListAfterAClearIsNotCompared() {
     Reports reports(model);
     model.setActivities({running(1)});
     QCOMPARE(reports.take(), QString());
-    // Nothing was stored by the first list, so what began with it is news now.
+    // The first list is no baseline, so what started with it is reported now.
     model.setActivities({running(1), running(2)});
     QCOMPARE(reports.take(), QStringLiteral("+1 +2"));
     model.setActivities({running(2)});

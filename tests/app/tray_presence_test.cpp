@@ -17,7 +17,7 @@ const Balloons reminder{{QStringLiteral("Tarn-Mobile User is still running!"),
                          QStringLiteral("You can click the icon to show the window.\n\nClick "
                                         "here to not show this reminder again.")}};
 
-/// A window that is shown, with its presence in a tray that keeps what it shows.
+/// A visible window, with its presence in a tray that records what it shows.
 struct ShownWindow {
     explicit ShownWindow(bool trayAvailable = true)
         : icon(new support::RecordingTray(trayAvailable))
@@ -34,7 +34,7 @@ struct ShownWindow {
 
     QWidget window;
     QAction quit;
-    support::RecordingTray* icon; ///< the presence's
+    support::RecordingTray* icon; ///< owned by the presence
     app::TrayPresence presence;
 };
 

@@ -37,7 +37,7 @@ QString errorOf(Action action) {
 
 } // namespace
 
-/// What the views ask an agent, and what they make of its answers.
+/// What the views request from an agent, and how they show its replies.
 class ViewsWithAgentTest : public QObject {
     Q_OBJECT
 private slots:

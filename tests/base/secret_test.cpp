@@ -13,7 +13,7 @@ namespace {
 using base::Secret;
 
 const std::string key = "a key that is longer than what a string keeps inside of it";
-const std::string pin = "1234"; // and one that isn't
+const std::string pin = "1234"; // and a shorter one
 
 bool holds(const char* memory, std::size_t size, const std::string& text) {
     return std::string_view(memory, size).find(text) != std::string_view::npos;

@@ -13,7 +13,7 @@
 
 namespace {
 
-/// Countries by their numeric codes, as a package of the system knows them.
+/// Countries by their numeric codes, from a package of the system.
 std::map<std::int32_t, QJsonObject> independentList() {
     QFile file(QStringLiteral("/usr/share/iso-codes/json/iso_3166-1.json"));
     if (!file.open(QIODevice::ReadOnly))
@@ -26,7 +26,7 @@ std::map<std::int32_t, QJsonObject> independentList() {
     return countries;
 }
 
-/// The present codes of the countries whose names have changed since.
+/// The current codes of countries that have been renamed since.
 const std::map<std::string, QString> renamedCountries{
     {"Cape Verde", QStringLiteral("CPV")},
     {"Congo, the Democratic Republic of the", QStringLiteral("COD")},
@@ -35,7 +35,7 @@ const std::map<std::string, QString> renamedCountries{
     {"Turkey", QStringLiteral("TUR")},
 };
 
-/// The names in their order, as they are promised.
+/// The documented names in their documented order.
 const char* const namesInOrder =
     "Afghanistan;Åland Islands;Albania;Algeria;American Samoa;Andorra;Angola;Anguilla;"
     "Antarctica;Antigua and Barbuda;Argentina;Armenia;Aruba;Australia;Austria;Azerbaijan;"
@@ -122,7 +122,7 @@ TEST(CountryTable, HasTheCodesOfTheStandard) {
 }
 
 TEST(CountryTable, IsInTheOrderOfTheNames) {
-    // Bare letters, where a collation would depend on the system.
+    // Compares bare letters, as a collation would depend on the system.
     const auto plain = [](const char* name) {
         QString text;
         for (const QChar character :
@@ -163,7 +163,7 @@ TEST(CountryTable, KeepsItsOrderInEnglish) {
 }
 
 TEST(CountryTable, KeepsItsOrderWhereNothingIsTranslated) {
-    // A Swede looks for Åland behind Zimbabwe, but not in a list in English.
+    // In Swedish, Åland sorts after Zimbabwe, but not in a list in English.
     const auto named = config::countriesFor(QLocale(QLocale::Swedish));
     ASSERT_EQ(named.size(), config::countryCount);
     EXPECT_EQ(named[1].name, QString::fromUtf8("Åland Islands"));

@@ -27,7 +27,7 @@ QString keyType(const char* number) {
     return config::keyTypeOfCri(QString::fromLatin1(number));
 }
 
-/// A file without end, of which no copy can be in memory.
+/// A file whose line is too long to be copied into memory.
 class LongLine : public QIODevice {
 public:
     explicit LongLine(qint64 size, QByteArray end)

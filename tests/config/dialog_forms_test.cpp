@@ -29,7 +29,7 @@ QStringList words(const char* text) {
     return q(text).split(QLatin1Char(';'));
 }
 
-/// Keeps what is written to the log while it lives.
+/// Records log messages during its lifetime.
 class LogKeeper {
 public:
     LogKeeper() { previous_ = qInstallMessageHandler(keep); }
@@ -47,8 +47,7 @@ QStringList LogKeeper::lines;
 
 } // namespace
 
-/// What stands on the dialogs about the agent before anything is typed, and what they keep for
-/// themselves.
+/// The content of the dialogs about the agent before any input, and what they keep secret.
 class DialogFormsTest : public QObject, private RegistrationFixture {
     Q_OBJECT
 private slots:
@@ -72,7 +71,7 @@ private slots:
     void fieldsAreFilledAndWipedWithoutAWord();
 
 private:
-    /// Opens the dialog that the slot leads to, has a look, and closes it.
+    /// Opens the dialog of the slot, inspects it, and closes it.
     template <class Dialog>
     void look(const char* slot, const support::ModalDriver::Act& act) {
         modals().expect(q(slot), isDialog<Dialog>, [act](QWidget& dialog) {
@@ -84,7 +83,7 @@ private:
     void lookAtRegistration(const support::ModalDriver::Act& act) {
         look<InitClntCfgDlg>("on_actionRegistration_Info_triggered", act);
     }
-    /// The account, once it has been read.
+    /// Inspects the account dialog once it has read the account.
     void lookAtAccount(const support::ModalDriver::Act& act) {
         look<ADAccountDlg>("on_actionLDAP_Account_triggered", [act](QWidget& dialog) {
             QTRY_VERIFY(!text(dialog, "editUser").isEmpty());

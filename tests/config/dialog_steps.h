@@ -11,7 +11,7 @@
 
 #include "tests/support/gui_wizard.h"
 
-/// What tests of the dialogs do in front of them.
+/// Test steps shared by the tests of the dialogs.
 namespace steps {
 
 using Calls = std::vector<std::string>;
@@ -25,7 +25,7 @@ inline Calls operator+(Calls calls, const Calls& more) {
     return calls;
 }
 
-/// The calls that were made when one failed, which was the last of them.
+/// The calls up to and including the one that failed.
 inline Calls first(int count, Calls calls) {
     calls.resize(static_cast<std::size_t>(count));
     return calls;
@@ -59,7 +59,7 @@ inline bool isEnabled(QWidget& dialog, const char* name) {
     return support::child<QWidget>(dialog, name).isEnabled();
 }
 
-/// A box with news and an Ok button, which is pressed.
+/// An information box with an Ok button, which is pressed.
 inline void expectNews(support::ModalDriver& modals, const char* title, const char* text) {
     modals.expect(q("news"), support::isDialog<QMessageBox>, [=](QWidget& widget) {
         auto& box = static_cast<QMessageBox&>(widget);
@@ -90,7 +90,7 @@ private:
     QLabel& label_;
 };
 
-/// The call after so many of its kind fails.
+/// Makes the call after the next `calls` calls of the method fail.
 inline void failAfter(support::GuiAgent& agent, int calls, const char* method) {
     for (int i = 0; i < calls; ++i)
         agent.inject(method, simulator::Delay{std::chrono::milliseconds(0)});

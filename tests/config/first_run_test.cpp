@@ -12,7 +12,7 @@ using support::ModalDriver;
 
 namespace {
 
-/// All that a first run calls.
+/// All calls of a first run.
 const Calls firstRunCalls = check + registrationRead + managerAsked + sentFilled() + userInfoSent +
                             Calls{"ClientConfiguration.init_register()"} + managerAsked +
                             Calls{"ClientConfiguration.start_daily_admin()"};
@@ -20,7 +20,7 @@ const Calls logoutCalls{"ClientConnection.logout()"};
 
 } // namespace
 
-/// The registration of an agent that is used for the first time, which the login asks for.
+/// The registration of an agent on its first use, which the login opens.
 class FirstRunTest : public QObject, private RegistrationFixture {
     Q_OBJECT
 private slots:
@@ -43,7 +43,8 @@ private slots:
     void aSessionThatEndsMeanwhileIsToldAtSaving();
 
 private:
-    /// Fills in all, asks for the registration, and saves. The daily work may then fail to start.
+    /// Fills in everything, ticks the registration, and saves. Starting the daily work may then
+    /// fail.
     void expectRegistration(bool failing = false) {
         expectDialog([this, failing](QWidget& dialog) {
             fill(dialog);
@@ -87,7 +88,7 @@ void FirstRunTest::theFirstRunRegistersAndStartsTheDailyAdmin() {
     Calls calls = callsOf(*test_.agent);
     const std::size_t refreshing = firstRunCalls.size();
     QVERIFY(calls.size() > refreshing);
-    // Its arguments are the times of now.
+    // Its arguments depend on the current time.
     QVERIFY(calls[refreshing].starts_with("ClientConnection.activity_log("));
     calls.erase(calls.begin() + static_cast<std::ptrdiff_t>(refreshing));
     const Calls activities{"ClientConnection.running_activities()",
@@ -255,7 +256,7 @@ void FirstRunTest::aSessionThatEndsMeanwhileIsToldAtSaving() {
         press(dialog, "btnCancel");
     });
     firstRun();
-    // One logout: that of the heartbeat.
+    // Only one logout, from the heartbeat.
     compareCalls(check + registrationRead + Calls{"ClientConnection.getTarnClientInfo()"} +
                  logoutCalls);
     QCOMPARE(test_.driver->status(), q("Current connection terminated"));

@@ -18,8 +18,7 @@ using support::callsOf;
 using support::child;
 using support::isDialog;
 
-/// The dialog for the registration of the agent, once it is registered, and what both of its modes
-/// share.
+/// The registration dialog of a registered agent, and what both of its modes share.
 class InitialConfigurationTest : public QObject, private RegistrationFixture {
     Q_OBJECT
 private slots:
@@ -376,7 +375,7 @@ void InitialConfigurationTest::aKeyAheadOfItsTypeIsLost() {
                "AccEncKey=kept\nAccEncType=8\n");
         QCOMPARE(chosen(dialog, "cmbPrivateKeyType"), q("DES"));
         QCOMPARE(text(dialog, "txtFieldPrivateKey"), QString());
-        // The type was that one before.
+        // This type was set before.
         QCOMPARE(text(dialog, "txtFieldAccountKey"), q("kept"));
         press(dialog, "btnCancel");
     });

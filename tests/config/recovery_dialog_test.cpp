@@ -29,7 +29,7 @@ const Calls recoveringCalls =
     countingCalls + Calls{"ClientConnection.getSystemActivityManager()",
                           "SystemActivityManager.recover_tarnclient_database(0)"};
 
-/// One set, which gets this number.
+/// The calls that recover one set, which gets this number.
 Calls recovering(const std::string& name, int id) {
     return {
         "SystemActivityManager.recover_orphaned_backup_set(OrphanedBackupSet(\"" + name + "\"))",
@@ -44,7 +44,7 @@ void accept(QWidget& dialog) {
 
 } // namespace
 
-/// Lost sets and the lost database, brought back from the main window.
+/// Recovery of lost sets and of the lost database from the main window.
 class RecoveryDialogTest : public QObject {
     Q_OBJECT
 private slots:
@@ -74,7 +74,7 @@ private:
         modals().expect(q("recovery"), isDialog<RecoveryDlg>, act);
     }
     void addOrphans(const std::vector<std::string>& names);
-    /// Asks for the database, and answers the question whether that is meant.
+    /// Requests the database's recovery, and answers the confirmation.
     void answer(QMessageBox::StandardButton button, bool failing = false);
     void compareCalls(const Calls& expected) { QCOMPARE(callsOf(*test_.agent), expected); }
     void open() { test_.run("on_action_Recovery_triggered"); }

@@ -23,7 +23,7 @@ const Calls readNumbers = managerAsked + Calls{"ClientConfiguration.getCustomerN
 
 } // namespace
 
-/// The dialog that registers the agent again, opened by the main window's command.
+/// The dialog that registers the agent again, opened from the main window.
 class RegisterDialogTest : public QObject {
     Q_OBJECT
 private slots:

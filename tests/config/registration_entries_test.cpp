@@ -25,7 +25,7 @@ RegistrationEntries good() {
     return entries;
 }
 
-/// What is told once the entries have been spoiled.
+/// The problem reported once the entries have been spoiled.
 template <class Spoil>
 std::string problem(const Spoil& spoil) {
     RegistrationEntries entries = good();
@@ -113,7 +113,7 @@ TEST(RegistrationEntries, NeedEachChoice) {
               "Please select a industry vertical.");
 }
 
-// From the last check to the first, each spoils the entries on top of those behind it.
+// From the last check to the first: each step adds a problem that precedes those so far.
 TEST(RegistrationEntries, AreCheckedInOrder) {
     RegistrationEntries entries = good();
     const auto told = [&entries] { return problemOf(entries).toStdString(); };

@@ -9,7 +9,7 @@
 #include "simulator/world/world.h"
 #include "tests/config/registration_steps.h"
 
-/// A main window whose agent is registered, and somebody in front of the registration's dialog.
+/// A main window with a registered agent, and the user in front of the registration dialog.
 class RegistrationFixture {
 protected:
     void start() {
@@ -26,7 +26,7 @@ protected:
                           "Tarn-Client Registration Information is saved successfully.");
     }
     void modify() { test_.run("on_actionRegistration_Info_triggered"); }
-    /// The agent is found to know nothing of its customer.
+    /// Runs the check with an agent that has no customer data.
     void firstRun() {
         change([](simulator::World& world) { world.customer = {}; });
         test_.agent->clearCallLog();
@@ -39,7 +39,7 @@ protected:
     void change(const std::function<void(simulator::World&)>& visit) {
         test_.agent->withWorld(visit);
     }
-    /// Presses the button for a file, and chooses one of this name and with these bytes.
+    /// Presses the file button, and chooses a file with this name and these bytes.
     void import(QWidget& dialog, const char* name, const QByteArray& bytes, bool remove = false) {
         write(name, bytes);
         steps::expectCriFile(modals(), folder_.filePath(steps::q(name)), remove);

@@ -10,10 +10,10 @@
 #include "tests/config/dialog_steps.h"
 #include "tests/support/gui_form_texts.h"
 
-/// What the tests of the registration's dialog do in front of it, and the calls that it makes.
+/// Steps and calls shared by the tests of the registration dialog.
 namespace steps {
 
-/// Whether there is anything to ask.
+/// The check whether the registration is missing.
 inline const Calls check =
     Calls{"ClientConnection.getTarnClientInfo()"} + managerAsked +
     Calls{"ClientConfiguration.getUserInfoConfiguration()", "UserInfoConfiguration.getUserInfo()"};
@@ -31,7 +31,8 @@ inline const std::string known =
     "customer_name=\"Müller & Söhne GmbH\", account_num=\"OFFICE-401\", "
     "client_num=\"A4C100931700\"";
 
-/// What is sent of a registration, up to the ciphers; the rest is as the agent has it.
+/// The registration as sent, starting with `begin`, up to the ciphers; the rest is as the agent has
+/// it.
 inline Calls sent(const std::string& begin) {
     return {"ClientConfiguration.setTarnCRegistrationInfo({" + begin +
             ", private_key=***, account_key=***, "
@@ -66,7 +67,7 @@ inline void chooseUserInfo(QWidget& dialog) {
 inline constexpr const char* keyFields[] = {"txtFieldPrivateKey", "txtFieldPrivateKeyConfirm",
                                             "txtFieldAccountKey", "txtFieldAccountKeyConfirm"};
 
-/// Fills in all that a first run needs.
+/// Fills in everything that a first run needs.
 inline void fill(QWidget& dialog) {
     type(dialog, "txtFieldCustomer", "Ada");
     type(dialog, "txtFieldAccountNum", "acc");
@@ -88,7 +89,7 @@ inline Calls sentFilled() {
                 "private_key_enc=6, account_key_enc=1");
 }
 
-/// The dialog for a file, in which this one is chosen. It may be gone when it is opened.
+/// The file dialog, in which this file is chosen; `remove` deletes it before it is opened.
 inline void expectCriFile(support::ModalDriver& modals, const QString& path, bool remove) {
     modals.expect(q("file"), support::isDialog<QFileDialog>, [path, remove](QWidget& widget) {
         auto& chooser = static_cast<QFileDialog&>(widget);
@@ -105,7 +106,7 @@ inline void expectCriFile(support::ModalDriver& modals, const QString& path, boo
     });
 }
 
-/// What makes one of the checks fail, and what is then told.
+/// What makes one of the checks fail, and the message then shown.
 struct Spoiling {
     void (*spoil)(QWidget& dialog);
     const char* message;

@@ -286,7 +286,7 @@ void TFADialogsTest::aLongFileIsImportedAtOnce() {
         const QSignalSpy insertions(&users, &QAbstractItemModel::rowsInserted);
         press(viewer, "btnImport");
         QCOMPARE(users.rowCount(), 20'002);
-        // A view that hears of each row takes minutes.
+        // One signal: a view notified of each row would take minutes.
         QCOMPARE(insertions.size(), 1);
     });
 }
@@ -493,7 +493,7 @@ void TFADialogsTest::theDialogsFollowTheLanguage() {
         {&user, "Edit User Email"},
         {&code, "Two-factor Authentication Validation"}};
     for (const auto& [dialog, title] : titles) {
-        // The texts of the present language are those that the change brings.
+        // The language change sets the texts of the current language again.
         dialog->setWindowTitle({});
         QEvent change(QEvent::LanguageChange);
         QCoreApplication::sendEvent(dialog, &change);

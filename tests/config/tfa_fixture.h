@@ -12,7 +12,7 @@
 #include "simulator/world/world.h"
 #include "tests/config/dialog_steps.h"
 
-/// An agent with two-factor codes and two users, and somebody in front of the dialogs about them.
+/// An agent with two-factor codes and two users, and the user in front of the dialogs about them.
 class TFAFixture {
 protected:
     void start() {
@@ -34,7 +34,7 @@ protected:
         agent_.reset();
     }
 
-    /// Runs the viewer, lets a user do something in it, and closes it.
+    /// Runs the viewer, performs an act in it, and closes it.
     void withViewer(const support::ModalDriver::Act& act) {
         modals_->expect(steps::q("list"), support::isDialog<TFAUsersViewer>,
                         [act](QWidget& viewer) {
@@ -50,7 +50,7 @@ protected:
     void expectCode(const support::ModalDriver::Act& act) {
         modals_->expect(steps::q("code"), support::isDialog<TFACodeDlg>, act);
     }
-    /// The dialog for a file, in which this one is chosen.
+    /// The file dialog, in which this file is chosen.
     void expectFile(const QString& path) {
         modals_->expect(steps::q("file"), support::isDialog<QFileDialog>, [path](QWidget& widget) {
             auto& dialog = static_cast<QFileDialog&>(widget);

@@ -93,7 +93,7 @@ TEST_F(UsersModel, NoRowsChangeNothing) {
 TEST_F(UsersModel, EditingARowKeepsItsPlace) {
     model.replace(1, {"robert", "home", "r@example.org"});
     EXPECT_EQ(rows(), (Rows{rowOfAda, "robert;home;r@example.org", rowOfCy}));
-    // And it is known by its new name from now on.
+    // From now on it is found under its new name.
     model.insert({"ROBERT", "home", "again@example.org"});
     model.insert({"bob", "", "bob@example.org"});
     EXPECT_EQ(rows(), (Rows{rowOfAda, "robert;home;again@example.org", rowOfCy, rowOfBob}));
@@ -139,7 +139,7 @@ TEST(UsersModelOfManyRows, TakesThemOneByOneAndAgain) {
     for (int row = 0; row < many; ++row)
         rows.push_back({"user" + std::to_string(row), "home", "a@example.org"});
 
-    // A walk through the list for each row would take minutes, beyond the time limit.
+    // Walking the list for each row would take minutes, beyond the time limit.
     model.insert(rows);
     for (user_email& row : rows) {
         row.email = "b@example.org";

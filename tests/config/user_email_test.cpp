@@ -198,7 +198,7 @@ TEST(UserEmailCsv, CountsWhatWasTaken) {
     EXPECT_EQ(list.lines.skipped, 2);
 }
 
-// A reader that looked again and again at what it has seen would run into the time limit.
+// A reader that rescans what it has already read would exceed the time limit.
 TEST(UserEmailCsv, ReadsALineOfOneMegabyte) {
     const QByteArray name(1024 * 1024, 'x');
     const QByteArray separators(1024 * 1024, ',');

@@ -21,7 +21,7 @@ constexpr int statusOfAFailure = 3;
 [[noreturn]] void fail(const QString& text) {
     std::fprintf(stderr, "story: %s\n", qPrintable(text));
     std::fflush(stderr);
-    // Nothing of the program is to run any more, so that the last calls are those of the story.
+    // Skips all clean-up of the program, so that its last calls are those of the story.
     std::_Exit(statusOfAFailure);
 }
 

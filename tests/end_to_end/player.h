@@ -14,21 +14,21 @@ class QWidget;
 
 namespace end_to_end {
 
-/// Plays a user in a program that knows nothing of it: step after step waits until what it needs
-/// is there, then acts. A step that waits for too long ends the program with status 3.
+/// Plays a user in an unmodified program: each step waits until what it needs is there, then acts.
+/// A step that waits for too long ends the program with status 3.
 class Player : public QObject {
     Q_OBJECT
 public:
-    /// True when the step could be done.
+    /// True when the step has been done.
     using Step = std::function<bool()>;
 
     explicit Player(QString pictures);
 
     void then(const QString& name, Step step);
-    /// Begins with the event loop.
+    /// Starts with the event loop.
     void play();
 
-    /// Saves what the widget shows as a picture of that name.
+    /// Saves a picture of the widget under that name.
     void take(QWidget& widget, const QString& name) const;
 
     /// Appends a line to notes.txt among the pictures.

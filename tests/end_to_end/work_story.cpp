@@ -21,7 +21,7 @@ namespace end_to_end {
 
 namespace {
 
-constexpr int timeForPainting = 3; // looks
+constexpr int timeForPainting = 3; // in looks
 
 bool select(int row) {
     auto* view = topLevel<QMainWindow>()->findChild<QTableView*>(q("backupSetsView"));
@@ -77,7 +77,7 @@ void readAbout(Player& player) {
     player.then(q("the end of the about box"), [] { return !modal<QWidget>(); });
 }
 
-/// One step for all pages: true when the wizard has been finished.
+/// One step for all pages: true when the wizard's last button has been clicked.
 Player::Step throughPages(Player& player) {
     return [&player, seen = -1]() mutable {
         auto* wizard = modal<QWizard>();

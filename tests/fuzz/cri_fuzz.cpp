@@ -34,7 +34,7 @@ const char* nameOf(config::CriKey key) {
     return "";
 }
 
-/// What a file of these bytes says, a line for each of its entries.
+/// The entries of a file with these bytes, a line for each.
 std::vector<std::string> linesOf(std::string_view bytes, QIODevice::OpenMode mode) {
     QByteArray copy(bytes.data(), static_cast<int>(bytes.size()));
     QBuffer file(&copy);
@@ -56,7 +56,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto lines = linesOf(fuzz::asText(data, size), QIODevice::Text);
     std::string again;
     for (const std::string& line : lines) {
-        // What isn't UTF-8 gets longer.
+        // Invalid UTF-8 gets longer when it is replaced.
         if (line.size() + 1 >= static_cast<std::size_t>(config::longestCriLine))
             return 0;
         again += line + "\n";

@@ -10,15 +10,15 @@
 
 #include "hessian/value.h"
 
-/// What has to hold for whatever bytes come in.
+/// Properties that hold for any input bytes.
 namespace fuzz {
 
-/// The bytes that libFuzzer hands over. It puts them into a buffer of exactly their size.
+/// The bytes from libFuzzer, which are in a buffer of exactly their size.
 inline std::string_view asText(const std::uint8_t* data, std::size_t size) {
     return {reinterpret_cast<const char*>(data), size};
 }
 
-/// Ends the program, which is how a finding is reported.
+/// Aborts the program, which is how a finding is reported.
 inline void require(bool holds, const char* what) {
     if (holds)
         return;
@@ -26,7 +26,7 @@ inline void require(bool holds, const char* what) {
     std::abort();
 }
 
-/// Equal as the wire sees it.
+/// Equal in wire form.
 template <class T>
 bool same(const T& a, const T& b) {
     if constexpr (hessianser::Record<T>) {
@@ -41,7 +41,7 @@ bool same(const T& a, const T& b) {
                 return false;
         return true;
     } else if constexpr (hessianser::Enumeration<T>) {
-        // A member that is missing keeps its 0, which need not be declared.
+        // A missing member keeps its 0, which may be undeclared.
         const auto folded = [](T value) {
             return hessianser::enumerationFrom<T>(static_cast<std::int32_t>(value));
         };
@@ -51,7 +51,8 @@ bool same(const T& a, const T& b) {
     }
 }
 
-/// What was read can be written; its size is known before, and it reads as the same again.
+/// A value that was read can be written, its size is computed correctly, and it reads back the
+/// same.
 template <class T>
 void requireRoundTrip(const T& value) {
     std::string out;

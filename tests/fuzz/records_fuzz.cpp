@@ -12,7 +12,7 @@ namespace {
 
 using namespace hessianser;
 
-/// Reads a record the plainest way: name by name, each held against each key.
+/// Reads a record in the plainest way: member by member, each name compared with each key.
 template <class R>
 R readPlainly(Cursor& in) {
     R record{};
@@ -31,7 +31,7 @@ R readPlainly(Cursor& in) {
     return record;
 }
 
-/// What came of reading: a record and where it ended, or a text.
+/// The result of reading: a record and the number of bytes left, or an error text.
 template <class R>
 struct Outcome {
     std::optional<R> record;
@@ -85,7 +85,7 @@ void readRecord(std::string_view message) {
 
 using ReadRecord = void (*)(std::string_view);
 
-/// Only to be added to at the end: the corpus counts them.
+/// Append only: the corpus refers to the indices.
 constexpr ReadRecord records[] = {
     readRecord<codec_test::everything>,
     readRecord<codec_test::label>,
@@ -99,7 +99,7 @@ constexpr ReadRecord records[] = {
 
 } // namespace
 
-/// The first byte says which record is read from the bytes behind it.
+/// The first byte selects the record that is read from the remaining bytes.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     if (size != 0 && data[0] < std::size(records))
         records[data[0]](fuzz::asText(data + 1, size - 1));

@@ -10,7 +10,7 @@ using codec_test::Handle;
 using codec_test::label;
 using codec_test::point;
 
-/// A reply is read as the caller reads it: header, fault or result, end.
+/// Reads a reply as a caller does: header, fault or result, end.
 template <class T>
 void readReply(std::string_view message) {
     using namespace hessianser;
@@ -33,7 +33,7 @@ void readReply(std::string_view message) {
 
 using ReadReply = void (*)(std::string_view);
 
-/// Only to be added to at the end: the corpus counts them.
+/// Append only: the corpus refers to the indices.
 constexpr ReadReply kinds[] = {
     readReply<bool>,
     readReply<std::int32_t>,
@@ -54,7 +54,7 @@ constexpr ReadReply kinds[] = {
 
 } // namespace
 
-/// The first byte says which kind of result the reply behind it is read for.
+/// The first byte selects the kind of result that the following reply is read as.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     if (size != 0 && data[0] < std::size(kinds))
         kinds[data[0]](fuzz::asText(data + 1, size - 1));

@@ -13,7 +13,7 @@ using support::child;
 using support::difference;
 using support::isDialog;
 
-/// The wizard that deletes from a set, with an agent that fails or has less than it says.
+/// The delete wizard with an agent that fails or has less than it claims.
 class DeleteFaultsTest : public QObject {
     Q_OBJECT
 private slots:
@@ -84,7 +84,7 @@ void DeleteFaultsTest::aFaultOfAFilterLeavesThePage() {
         test_.modals->expectErrorBox(q("Error"), q("Außer Betrieb."));
         auto& filter = child<QGroupBox>(widget, "groupFilter");
         filter.setChecked(true);
-        // It must not say what the tree doesn't show: that is what would be deleted.
+        // The filter must match the tree: what the tree shows is what would be deleted.
         QVERIFY(!filter.isChecked());
         QCOMPARE(rowAt(treeOf(widget), "C:/docs").data(Qt::CheckStateRole).toInt(), 2);
         filter.setChecked(true);
@@ -136,7 +136,7 @@ void DeleteFaultsTest::aGroupThatFailsEndsTheDeletion() {
     test_.expectWizard([](QWizardPage& page) { check(page, "Group"); });
     test_.modals->expectErrorBox(q("Error"), q("Keep out."));
     test_.run("OnDelete");
-    // It has no id that could be sent in place of what it holds.
+    // A group has no id that could be sent in place of its contents.
     QCOMPARE(difference(calls(), wizardOpened + Calls{"BackupSetDeleteView.getSubItems(0)"}),
              QString());
 }

@@ -23,13 +23,13 @@ using simulator::World;
 using support::difference;
 using support::isDialog;
 using Calls = std::vector<std::string>;
-using Leave = std::function<void(QWidget&)>; ///< how the user leaves a box
+using Leave = std::function<void(QWidget&)>; ///< how the user closes a box
 
 Q_DECLARE_METATYPE(Leave)
 
 namespace {
 
-constexpr int emptySet = 6; // the row of a set that holds no files
+constexpr int emptySet = 6; // row of a set without files
 constexpr std::int32_t emptyId = 8;
 
 QString q(const char* text) {
@@ -51,7 +51,7 @@ const Calls ruleGone{"BackupSet.getRetentionRule()", "BackupSet.setRetentionRule
 const Calls setGone{"ClientConnection.removeBackupSet(BackupSet(8))"};
 const Calls refreshed = support::callsOfRefresh(8);
 
-/// Gives the empty set a schedule and a rule that no other set has.
+/// Gives the empty set its own schedule and retention rule.
 void giveOwnPlans(World& world) {
     simulator::ScheduleState schedule;
     schedule.name = "schedule_for_set_8";
@@ -70,7 +70,7 @@ void takePlans(World& world) {
 
 } // namespace
 
-/// The deletion from a set, and of one, clicked through against an agent.
+/// Deletion from a set and of a whole set, clicked through against an agent.
 class DeleteTest : public QObject {
     Q_OBJECT
 private slots:
@@ -99,11 +99,11 @@ private:
         test_.start(scenario, change);
         test_.driver->sets().selectRow(emptySet);
     }
-    /// A question with the buttons Yes and No, of which No needs no mouse.
+    /// A question with the buttons Yes and No, with No as the default.
     void expectQuestion(const char* title, const char* text, QMessageBox::StandardButton answer);
     void expectRemovalQuestion(QMessageBox::StandardButton answer);
-    /// The calls, without the span of the log, which follows the clock, and without the names in
-    /// balloons, which only a window in the background shows.
+    /// The calls without the span of the log, which depends on the clock, and without the names for
+    /// balloons, which only a background window requests.
     Calls calls() const;
 
     support::WizardTest test_;
@@ -182,7 +182,7 @@ void DeleteTest::theRemovalIsShownAtOnce() {
     expectRemovalQuestion(QMessageBox::Yes);
     test_.run("OnDelete");
     QCOMPARE(test_.driver->rows("tableCurrentActivities"), before + 1);
-    // A set with an activity can't be deleted from again.
+    // A set with an activity doesn't allow another deletion.
     QVERIFY(!test_.driver->isEnabled("actionDeleteFromOnline"));
 }
 
@@ -234,7 +234,7 @@ void DeleteTest::aSharedScheduleStaysAndSoDoesTheRest() {
     test_.run("OnDelete");
     QCOMPARE(calls().back(),
              std::string("ScheduleManager.removeSchedule(Schedule(Every evening))"));
-    // What was done before stays done.
+    // Earlier changes are kept.
     test_.agent->withWorld([](World& world) {
         QCOMPARE(world.set(emptyId)->info.schedule_id, simulator::noSchedule);
         QVERIFY(world.set(emptyId)->info.retention_rule_id != simulator::noRule);
@@ -261,7 +261,7 @@ void DeleteTest::aFaultOfTheRemoval() {
         expectRemovalQuestion(QMessageBox::Yes);
     test_.modals->expectErrorBox(q("Error"), q("Außer Betrieb."));
     test_.run("OnDelete");
-    // Nothing comes behind the call that failed.
+    // No call follows the failed one.
     QCOMPARE(support::methodsOf(*test_.agent).back(), method.toStdString());
     QVERIFY(session::connectedToAgent());
 }
@@ -280,7 +280,7 @@ void DeleteTest::leavingAQuestionDeletesNothing_data() {
     QTest::newRow("cross, after the wizard") << true << cross;
 }
 
-/// To be asked is no answer, not even a no.
+/// Closing a question is no answer, not even a no.
 void DeleteTest::leavingAQuestionDeletesNothing() {
     QFETCH(bool, hasFiles);
     QFETCH(Leave, leave);
@@ -290,7 +290,7 @@ void DeleteTest::leavingAQuestionDeletesNothing() {
         test_.expectWizard(gui::checkAll);
     }
     test_.modals->expect(q("question"), isDialog<QMessageBox>, leave);
-    // Within the loop that ends then, as in the program.
+    // Inside the event loop that ends here, as in the program.
     QTimer::singleShot(0, &test_.driver->window(), [this] {
         test_.run("OnDelete");
         QCoreApplication::quit();
@@ -352,7 +352,7 @@ void DeleteTest::eachValueOfTheFilterAsksAnew() {
     test_.run("OnDelete");
 }
 
-/// The heartbeats go on behind the wizard, and the card that it was opened for goes with its set.
+/// Heartbeats continue behind the wizard, and the card it was opened for disappears with its set.
 void DeleteTest::aSetThatGoesUnderTheWizard() {
     start([](World& world) { gui::store(world); });
     test_.driver->sets().selectRow(gui::setRow);

@@ -7,13 +7,13 @@
 
 #include "tests/support/gui_wizard.h"
 
-/// What the wizard that deletes says to the agent, about its fourth set. Without the calls of
-/// `Release`, and without the span of the activity log.
+/// The delete wizard's calls about the agent's fourth set, without `Release` and without the span
+/// of the activity log.
 namespace gui {
 
 using Calls = std::vector<std::string>;
 
-/// What the wizard asks until it is seen: the view, its top level, and the first drive's rows.
+/// The calls before the wizard is shown: the view, its top level, and the first drive's rows.
 inline const Calls wizardOpened{"ClientConnection.backup_set(4)", "BackupSet.getCurrentStatus()",
                                 "BackupSet.prepare_delete(0, 0, 0, 0, 0)",
                                 "BackupSetDeleteView.getSubItems(-1)",

@@ -12,7 +12,7 @@
 #include "tests/support/gui_tree.h"
 #include "tests/support/gui_wizard.h"
 
-/// What a user does in the wizard that deletes, and the set that it deletes from.
+/// User steps in the delete wizard, and the set that it deletes from.
 namespace gui {
 
 using support::rowAt;
@@ -31,7 +31,7 @@ inline Calls operator+(Calls calls, const Calls& more) {
     return calls;
 }
 
-/// Two drives with a few files, and a schedule and a rule that no other set has.
+/// Two drives with a few files, and a schedule and a rule used by no other set.
 inline void store(simulator::World& world) {
     simulator::ScheduleState schedule;
     schedule.name = "own";
@@ -49,7 +49,7 @@ inline void store(simulator::World& world) {
             path, {{firstBackup, firstBackup + 60, 10, 8}, {lastBackup - 60, lastBackup, 20, 16}});
 }
 
-/// An entry at the top that can't be named to the agent, over a folder that can.
+/// A top-level entry that has no id for the agent, above a folder that has one.
 inline void storeGroup(simulator::World& world) {
     auto& stored = *world.set(setId)->stored;
     stored.addFile("Group\\Team\\c.txt", {{firstBackup, firstBackup + 60, 10, 8}});

@@ -20,8 +20,7 @@ using support::child;
 using support::difference;
 using support::isDialog;
 
-/// The wizard that deletes from a set, clicked through against an agent, and all that it says to
-/// it.
+/// The delete wizard, clicked through against an agent, and all of its calls.
 class DeleteWizardTest : public QObject {
     Q_OBJECT
 private slots:

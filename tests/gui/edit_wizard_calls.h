@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-/// What the wizards for a set that is there say to the agent, about its fourth set: a folder with
-/// an exclusion and a filter, backed up monthly by a schedule that other sets share. Without the
-/// calls of `Release`.
+/// The calls of the wizards for an existing set, the agent's fourth: a folder with an exclusion and
+/// a filter, backed up monthly by a schedule shared with other sets. Without the calls of
+/// `Release`.
 namespace gui {
 
 using Calls = std::vector<std::string>;
@@ -63,7 +63,7 @@ inline const Calls itemsShown{"DataSourceBrowser.getCurrentCredentials()",
                               "BackupSetItem.types()",
                               "BackupSetRegexExclusion.getExpression()"};
 
-/// As the options page is entered.
+/// On entering the options page.
 inline const Calls foldersShown{"DataSourceBrowser.getSubItems(\"Tarn-Client Computer\", \"\")"};
 
 inline const Calls itemsWritten{
@@ -117,7 +117,7 @@ inline const Calls retentionWritten{
     "RetentionRule.setCleanupRemovedKeep(0)",
     "RetentionRule.setLocalStorageRetention({period=0, unit=3})"};
 
-/// Of a set with a rule, and a schedule for backups only.
+/// For a set with a rule, and a schedule for backups only.
 inline const Calls synchronised{"BackupSet.getRetentionRule()", "BackupSet.getSchedule()",
                                 "Schedule.getDetails()", "ScheduleDetail.getTasks()",
                                 "ScheduleDetail.setTasks(3)"};

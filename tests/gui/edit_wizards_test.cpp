@@ -30,7 +30,7 @@ Q_DECLARE_METATYPE(std::vector<std::string>)
 
 namespace {
 
-constexpr int projects = 3; // the row of the fourth set
+constexpr int projects = 3; // row of the fourth set
 
 QString q(const char* text) {
     return QString::fromUtf8(text);
@@ -41,7 +41,7 @@ Calls operator+(Calls calls, const Calls& more) {
     return calls;
 }
 
-/// Whether a call changes nothing but what a browser knows of its login.
+/// Whether a call changes nothing except a browser's login.
 bool onlyLooks(const std::string& text) {
     const std::string method = text.substr(text.find('.') + 1);
     for (const char* start : {"set", "add", "remove", "create", "define"})
@@ -53,8 +53,7 @@ bool onlyLooks(const std::string& text) {
 
 } // namespace
 
-/// The wizards for a set that is there, clicked through against an agent, and all that they say to
-/// it.
+/// The wizards for an existing set, clicked through against an agent, and all of their calls.
 class EditWizardsTest : public QObject {
     Q_OBJECT
 private slots:
@@ -116,7 +115,7 @@ void EditWizardsTest::aWizardIsFramed() {
         support::compareWindowIcon(wizard);
         QCOMPARE(wizard.pixmap(QWizard::WatermarkPixmap).toImage(), QPixmap(picture).toImage());
         QCOMPARE(wizard.maximumSize() == QSize(65536, 65536), anySize);
-        if (anySize) // it turns to a page, which makes it write the texts anew
+        if (anySize) // changing pages sets the button texts again
             wizard.next();
         const std::tuple<QWizard::WizardButton, const char*, const char*> looks[]{
             {QWizard::BackButton, "&Back", ":/button/back"},
@@ -349,7 +348,7 @@ void EditWizardsTest::aFaultOfAnEditWizard() {
                              [](QWidget& wizard) { support::finishWizard(wizard); });
     test_.modals->expectErrorBox(title, q("Außer Betrieb."));
     test_.run(qPrintable(slot));
-    // Nothing comes behind the call that failed.
+    // No call follows the failed one.
     const Calls methods = support::methodsOf(*test_.agent);
     QCOMPARE(methods.back(), method.section(QLatin1Char('.'), -1).toStdString());
     QVERIFY(session::connectedToAgent());

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The windows that ask the agent in slices, while it is slow, silent or gone.
+// The windows that call the agent in slices, while it is slow, silent or gone.
 
 #include <memory>
 
@@ -83,7 +83,7 @@ private:
             .model()
             ->rowCount();
     }
-    /// References to views that the agent has handed out, those of lost sessions among them.
+    /// References to views that the agent has handed out, including those of lost sessions.
     int views() const {
         const auto held = agent_->liveObjects();
         return static_cast<int>(std::count_if(held.begin(), held.end(), [](const auto& object) {
@@ -107,7 +107,7 @@ void InsightSessionTest::aSlowAgentIsSearchedToTheEnd() {
     const InTheWait user([&] {
         ++waits;
         hadPanel = hadPanel || waitingPanel();
-        // Must wait for the end of the call: they ask the agent themselves.
+        // Both have to wait for the end of the call, as they call the agent themselves.
         driver_->postBeat();
         QTest::keyClick(driver_->window().windowHandle(), Qt::Key_H, Qt::ControlModifier);
     });
@@ -188,7 +188,7 @@ void InsightSessionTest::aNewSessionTakesTheWindowsOver() {
     driver_->trigger("actionLogout");
     QVERIFY(find.height() > height);
     driver_->logIn(*agent_);
-    // What was said of the last session is over.
+    // The notes about the last session are gone.
     QTRY_VERIFY(!health.findChild<QWidget*>(QStringLiteral("sessionEndedLine")));
     QVERIFY(!find.findChild<QWidget*>(QStringLiteral("sessionEndedLine")));
     QCOMPARE(find.height(), height);

@@ -46,7 +46,7 @@ void press(QWidget& dialog, const char* button) {
     QTest::mouseClick(&child<QPushButton>(dialog, button), Qt::LeftButton);
 }
 
-/// How often the agent was asked for a login by that method.
+/// How often this login method of the agent was called.
 int count(const simulator::Simulator& agent, const std::string& method) {
     int found = 0;
     for (const auto& call : agent.callLog())
@@ -56,7 +56,7 @@ int count(const simulator::Simulator& agent, const std::string& method) {
 
 } // namespace
 
-/// Logging on with a Kerberos ticket, in front of the real windows.
+/// Logging in with a Kerberos ticket, using the real windows.
 class KerberosLoginTest : public QObject {
     Q_OBJECT
 private slots:
@@ -92,7 +92,7 @@ private slots:
         qunsetenv("LD_PRELOAD");
         QVERIFY(agent.waitForCall("backup_sets_info", 1, 20s));
         QCOMPARE(count(agent, "sspi_login"), 1);
-        // Those of a login with a password, and of the dialog that asks for it.
+        // Calls of a password login and of its dialog.
         QCOMPARE(count(agent, "login"), 0);
         QCOMPARE(count(agent, "getAvailableDomains"), 0);
         QCOMPARE(agent.violations(), std::vector<std::string>{});
@@ -126,7 +126,7 @@ private slots:
         modals.expect(QStringLiteral("the login dialog"), support::isDialog<LoginCheck>,
                       [&](QWidget& dialog) {
                           QVERIFY(!child<QCheckBox>(dialog, check).isHidden());
-                          // A logon that ended in this system shows nothing else.
+                          // A logon that failed on this machine shows nothing else.
                           expectTheSessionOf(driver, currentUser());
                           press(dialog, "buttonQuit");
                       });

@@ -32,7 +32,7 @@ using support::ModalDriver;
 
 namespace {
 
-/// What a user does to the dialog.
+/// Fills in the dialog.
 void type(QDialog& dialog, const QString& user, const QString& password) {
     child<QLineEdit>(dialog, "lineEditUserName").setText(user);
     child<QLineEdit>(dialog, "lineEditPassword").setText(password);
@@ -50,7 +50,7 @@ QString currentUser() {
     return session::fromWire(session::currentWindowsUser());
 }
 
-/// The calls with which an agent was asked to let somebody in.
+/// The login calls received by an agent.
 std::vector<std::string> logins(const simulator::Simulator& agent) {
     std::vector<std::string> found;
     for (const auto& call : agent.callLog())
@@ -71,7 +71,7 @@ simulator::Options inDomains() {
     return options;
 }
 
-/// A system that has integrated logon, which fails at its first step.
+/// A system with integrated logon, which fails at its first step.
 struct FailingSecurity : support::ScriptedSecurityOperations {
     FailingSecurity() { queryStatus = -1; }
 };
@@ -83,7 +83,7 @@ class LoginTest : public QObject {
 private slots:
     void initTestCase() {
         resources::initPictures();
-        // The size of a common desktop; that of this platform is larger.
+        // The size common on desktops; this platform's is larger.
         QFont font = QApplication::font();
         font.setPointSize(9);
         QApplication::setFont(font);
@@ -334,7 +334,7 @@ private slots:
         QCOMPARE(dialog.user(), user);
         const auto calls = logins(agent);
         QCOMPARE(calls.size(), std::size_t(1));
-        // The log writes a backslash as it stands in a literal.
+        // The log escapes a backslash as in a literal.
         const QString logged =
             QString(user).replace(QStringLiteral("\\"), backslashOfLog(calls[0]));
         QCOMPARE(calls[0], login(localUrl, session::toWire(logged)));

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
-// What the user reads of a session that is lost, and the ways back.
+// What the user sees of a lost session, and the ways back.
 #include <memory>
 
 #include <QDialog>
@@ -237,7 +237,7 @@ void LostSessionTest::anOpenDialogSaysSoAtItsTop() {
         QCOMPARE(line->width(), dialog.width());
         QCoreApplication::processEvents();
         QVERIFY(dialog.height() > height);
-        // Nothing lies under it.
+        // No other widget is under it.
         for (const QWidget* other : dialog.findChildren<QWidget*>())
             if (other->isVisible() && !line->isAncestorOf(other) && other != line &&
                 other->children().isEmpty())

@@ -43,7 +43,7 @@ namespace {
 
 const QString faultText = QStringLiteral("Out of order.");
 
-/// The cursors that a widget is given while this object lives.
+/// Records the cursors set on a widget during the lifetime of this object.
 class GivenCursors : public QObject {
 public:
     explicit GivenCursors(QWidget& widget)
@@ -55,7 +55,7 @@ public:
 private:
     bool eventFilter(QObject*, QEvent* event) override {
         const Qt::CursorShape shape = widget_.cursor().shape();
-        // Qt may tell of the same change twice.
+        // Qt may report the same change twice.
         if (event->type() == QEvent::CursorChange && (shapes.isEmpty() || shapes.last() != shape))
             shapes << shape;
         return false;
@@ -67,7 +67,7 @@ std::string number(std::int32_t value) {
     return std::to_string(value);
 }
 
-/// A guide beside the program, which goes with this object unless the build has made it.
+/// A guide next to the program. If the build hasn't made one, this object creates and removes it.
 class GuideBesideProgram {
 public:
     GuideBesideProgram() {
@@ -140,7 +140,7 @@ private slots:
 private:
     SimpleGUIMainWindow& window() { return driver_->window(); }
     QTableView& table(const char* name) { return child<QTableView>(window(), name); }
-    /// The id of the set in a row, selected.
+    /// Selects the set in a row and returns its id.
     std::int32_t select(int row) {
         driver_->sets().selectRow(row);
         agent_->clearCallLog();
@@ -214,7 +214,7 @@ void MainWindowActivitiesTest::theTablesAreSetUp() {
     auto& running = table("tableCurrentActivities");
     QCOMPARE(running.horizontalHeader()->sortIndicatorSection(), 1);
     QVERIFY(qobject_cast<CActivityProgressItemDelegate*>(running.itemDelegateForColumn(3)));
-    // Progress is nothing to sort by.
+    // The progress column isn't sortable.
     running.horizontalHeader()->setSortIndicator(3, Qt::AscendingOrder);
     QCOMPARE(running.horizontalHeader()->sortIndicatorSection(), 1);
 }
@@ -246,7 +246,7 @@ void MainWindowActivitiesTest::theLogKeepsItsPlaceAndItsSelection() {
     bar.setValue(30);
     log.horizontalScrollBar()->setValue(20);
     driver_->beat();
-    // The view lays itself out a little later.
+    // The view updates its layout a little later.
     QCoreApplication::processEvents();
     QCOMPARE(bar.value(), 30);
     QCOMPARE(log.horizontalScrollBar()->value(), 20);
@@ -328,7 +328,7 @@ void MainWindowActivitiesTest::stopsTheSelectedActivities() {
     select(0);
     driver_->trigger("actionSynchronize");
     auto& running = table("tableCurrentActivities");
-    // The lower one first, but they are stopped from top to bottom.
+    // The lower one is selected first, but they are stopped from top to bottom.
     running.selectRow(1);
     running.selectionModel()->select(running.model()->index(0, 0),
                                      QItemSelectionModel::Select | QItemSelectionModel::Rows);
@@ -416,7 +416,7 @@ void MainWindowActivitiesTest::theEventLogOpensOnTheSelectedActivity() {
         QCOMPARE(child<QSpinBox>(viewer, "spinActivityID").value(), activity.id);
         QCOMPARE(child<QDateTimeEdit>(viewer, "timeFrom").dateTime().toSecsSinceEpoch(),
                  qint64{activity.start_time});
-        // The log may change under the dialog.
+        // The log may change while the dialog is open.
         driver_->beat();
         driver_->window().OnDisconnect();
         child<QPushButton>(viewer, "buttonClose").click();
@@ -501,7 +501,7 @@ void MainWindowActivitiesTest::helpOpensTheGuide() {
 void MainWindowActivitiesTest::helpThatCantBeOpenedIsTold() {
     if (QGuiApplication::platformName() != QLatin1String("offscreen"))
         QSKIP("Here a browser may open");
-    // The build may have put a guide beside the program, for which this platform has no reader.
+    // The build may have put a guide next to the program, but this platform has no viewer for it.
     const QString beside = QCoreApplication::applicationDirPath() + QStringLiteral("/doc");
     const QString folder = QFile::exists(beside) ? beside : QStringLiteral(TARN_GUIDE_FOLDER);
     driver_->trigger("actionHelp");

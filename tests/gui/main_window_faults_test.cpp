@@ -29,8 +29,8 @@ namespace {
 const QString faultText = QStringLiteral("Out of order.");
 const QString unknownKey = QStringLiteral("Unknown map field type");
 
-/// The three ways in which each of these calls goes wrong. A result without records is garbage
-/// where the others have a member that nobody knows.
+/// The three ways in which each of these calls fails. A result without records is garbage where the
+/// others have an unknown member.
 void addFaults(std::initializer_list<const char*> methods,
                std::initializer_list<const char*> withoutRecords) {
     QTest::addColumn<QString>("method");
@@ -51,7 +51,7 @@ bool isCut(const Injection& injection) {
     return std::holds_alternative<simulator::CutBefore>(injection);
 }
 
-/// What the user is to read; empty where only the transport knows.
+/// The text shown to the user; empty if only the transport knows it.
 QString textOf(const Injection& injection) {
     if (std::holds_alternative<simulator::Fault>(injection))
         return faultText;
@@ -60,7 +60,7 @@ QString textOf(const Injection& injection) {
 
 } // namespace
 
-/// What becomes of a refresh that fails at one of its calls.
+/// The effect of a refresh that fails at one of its calls.
 class MainWindowFaultsTest : public QObject {
     Q_OBJECT
 private slots:
@@ -149,7 +149,7 @@ void MainWindowFaultsTest::theAgentAndItsActivitiesEndTheSession() {
     checkSessionHasEnded();
     if (!isCut(injection))
         QCOMPARE(agent_->liveObjects(), Calls{});
-    // The program goes on.
+    // The program continues to work.
     driver_->beat();
     driver_->logIn(*agent_);
     QCOMPARE(driver_->cards(), cardsOf(*agent_));
@@ -183,7 +183,7 @@ void MainWindowFaultsTest::theListAloneIsForgiven() {
     driver_->beat();
     QVERIFY(driver_->rows("tableActivityLog") > 0);
     QCOMPARE(driver_->rows("tableCurrentActivities"), 1);
-    // What is over is no news.
+    // A past error isn't shown.
     QCOMPARE(driver_->status(), QString());
 }
 
@@ -227,7 +227,7 @@ void MainWindowFaultsTest::aLastingFailureOfTheDetailsHasOneBoxAtATime() {
         agent_->clearCallLog();
         driver_->beat();
         driver_->beat();
-        // The rest of the window is refreshed all the same.
+        // The rest of the window is still refreshed.
         QVERIFY(agent_->waitForCall("backup_sets_info", 2));
         QTest::mouseClick(static_cast<QMessageBox&>(box).button(QMessageBox::Ok), Qt::LeftButton);
     });

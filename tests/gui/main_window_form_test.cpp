@@ -33,8 +33,8 @@ using support::child;
 
 namespace {
 
-/// The object names of the entries of a menu or tool bar, a separator as "-". What has no name
-/// there is a filler.
+/// The object names of the entries of a menu or tool bar, with "-" for a separator. Entries without
+/// a name are fillers.
 QStringList entries(const QWidget& bar) {
     QStringList names;
     for (const QAction* action : bar.actions())
@@ -49,7 +49,7 @@ QImage largest(const QIcon& icon) {
     return icon.pixmap(1024, 1024).toImage();
 }
 
-/// Puts a file of strings into the branding archive of the current directory.
+/// Puts a string table into the branding archive of the current directory.
 void brand(const QByteArray& strings) {
     zip_t* archive = zip_open("resources.zip", ZIP_CREATE | ZIP_TRUNCATE, nullptr);
     zip_file_add(archive, "strtable.txt",
@@ -66,7 +66,7 @@ QStringList words(const char* text) {
 
 } // namespace
 
-/// What stands in the main window and how it is called, without any session.
+/// Content and object names of the main window without a session.
 class MainWindowFormTest : public QObject {
     Q_OBJECT
 public slots:
@@ -164,7 +164,7 @@ private slots:
         QVERIFY(!bar.isFloatable());
         QVERIFY(!logo.isFloatable());
         QVERIFY(!logo.isMovable());
-        // Side by side, the logo at the right end and not wider than it has to be.
+        // Side by side, the logo at the right end and no wider than necessary.
         QCOMPARE(bar.geometry().top(), logo.geometry().top());
         QVERIFY(logo.geometry().left() > bar.geometry().right());
         QCOMPARE(logo.geometry().right(), window_->rect().right());
@@ -196,7 +196,7 @@ private slots:
         // 650 to 350, less the handle between them.
         const int details = leftRight.sizes().at(1);
         QVERIFY(qAbs(details - 350) <= 20);
-        // What the window gets more goes to the list.
+        // The list takes any extra width.
         window_->resize(window_->width() + 200, window_->height());
         QTRY_COMPARE(leftRight.width(), window_->width() - margins);
         QCOMPARE(leftRight.sizes().at(1), details);

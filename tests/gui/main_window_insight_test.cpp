@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 
-// What the main window says about the safety of data, beyond what its tables show.
+// What the main window shows about the safety of data, beyond its tables.
 
 #include <set>
 
@@ -58,7 +58,7 @@ void runOnce(World& world, hessiancln::ActivityType type, std::int32_t errors) {
     world.start(std::move(plan));
 }
 
-/// Until the agent has nothing to do.
+/// Waits until the agent is idle.
 void waitForEnd(GuiAgent& agent) {
     QTRY_VERIFY([&] {
         bool running = true;
@@ -127,7 +127,7 @@ private slots:
         line.setText(QStringLiteral("errors"));
         QCOMPARE(driver.rows("tableActivityLog"), 2);
         QCOMPARE(count.text(), QStringLiteral("2 shown, %1 hidden").arg(all - 2));
-        // A heartbeat brings all rows again, and the filter stays.
+        // A heartbeat fetches all rows again, and the filter stays.
         driver.beat();
         QCOMPARE(driver.rows("tableActivityLog"), 2);
         line.setText(QStringLiteral("set:\"ended with errors\""));
@@ -271,7 +271,7 @@ private slots:
         driver.logIn(agent);
         auto& bar = *driver.window().statusBar();
         auto& button = child<QToolButton>(driver.window(), "buttonStatusEvents");
-        // Nothing to show: a click on any other text does nothing.
+        // Without events to show, a click on the text does nothing.
         QVERIFY(!button.isVisible());
         QTest::mouseClick(&bar, Qt::LeftButton, {}, {5, bar.height() / 2});
 
@@ -301,7 +301,7 @@ private slots:
         button.setFocus();
         QTest::keyClick(&button, Qt::Key_Space);
         QVERIFY(modals.done());
-        // Another text takes its place.
+        // Another text replaces it.
         driver.window().OnDisconnect();
         QVERIFY(!button.isVisible());
     }
@@ -371,7 +371,7 @@ private slots:
         auto& table = child<QTableView>(driver.window(), "tableCurrentActivities");
         const QString tip = table.model()->index(0, 3).data(Qt::ToolTipRole).toString();
         QVERIFY(tip.startsWith(QStringLiteral("<html><h3>Backup</h3>")));
-        // Any other cell says what it has always said.
+        // Any other cell has the usual tool tip.
         QVERIFY(table.model()
                     ->index(0, 0)
                     .data(Qt::ToolTipRole)

@@ -38,7 +38,7 @@ bool isHighlighted(const BackupSetViewItem& card) {
     return card.backgroundRole() == QPalette::Highlight;
 }
 
-/// The keys whose press reaches a window while this object lives.
+/// Records the key presses that reach a window during the lifetime of this object.
 class ReceivedKeys : public QObject {
 public:
     explicit ReceivedKeys(QWidget& window) { window.installEventFilter(this); }
@@ -192,7 +192,7 @@ void MainWindowSetsTest::theSelectionFollowsItsSet() {
     QCOMPARE(driver_->cards().at(1), selected);
     QVERIFY(isHighlighted(driver_->card(1)));
     QVERIFY(!isHighlighted(driver_->card(2)));
-    // Its details are read once.
+    // The details are read only once.
     const Calls calls = methodsOf(*agent_);
     QCOMPARE(std::count(calls.begin(), calls.end(), "getOverview"), 1);
 }
@@ -206,7 +206,7 @@ void MainWindowSetsTest::theRowStaysSelectedWhenItsSetHasGone() {
     driver_->beat();
     QCOMPARE(driver_->selectedRow(), 0);
     QVERIFY(isHighlighted(driver_->card(0)));
-    // The details are those of the set that stands there now.
+    // The details are those of the set now in that row.
     QCOMPARE(driver_->details().at(1), QStringLiteral("77"));
 }
 
@@ -227,7 +227,7 @@ void MainWindowSetsTest::withoutASelectionTheListStaysWhereItIs() {
     bar.setValue(30);
     agent_->withWorld([](World& world) { world.addSet(simulator::BackupSetState()); });
     driver_->beat();
-    // The view lays itself out a little later.
+    // The view updates its layout a little later.
     QCoreApplication::processEvents();
     QCOMPARE(bar.value(), 30);
 }
@@ -240,7 +240,7 @@ void MainWindowSetsTest::surplusCardsGo() {
     driver_->beat();
     QCOMPARE(driver_->cards().size(), last);
     QCOMPARE(driver_->cards(), cardsOf(*agent_));
-    // The view has gone on to the row above.
+    // The selection has moved to the row above.
     QCOMPARE(driver_->selectedRow(), last - 1);
     QVERIFY(isHighlighted(driver_->card(last - 1)));
     QTRY_VERIFY(!card);
@@ -376,7 +376,7 @@ void MainWindowSetsTest::losingTheSessionUnderTheBoxOfARename() {
 void MainWindowSetsTest::aCardThatGoesForgetsItsRename() {
     const int last = driver_->cards().size() - 1;
     startRename(last).setText(QStringLiteral("New name"));
-    // Only a rename in the selected card holds the list.
+    // Only a rename in the selected card blocks list updates.
     driver_->sets().selectRow(0);
     QVERIFY(driver_->card(last).editingName());
     agent_->withWorld([](World& world) { world.removeSet(world.sets().back()->info.id); });
@@ -441,7 +441,7 @@ void MainWindowSetsTest::theDeleteKeyWithoutASelectionShowsTheBox() {
     const ReceivedKeys further(window());
     QTest::keyClick(&driver_->sets(), Qt::Key_Delete);
     QVERIFY(modals.done());
-    // The list consumes it; other keys that it has no use for go on.
+    // The list consumes it; it passes on keys it doesn't use.
     QVERIFY(!further.keys.contains(Qt::Key_Delete));
     QTest::keyClick(&driver_->sets(), Qt::Key_F9);
     QVERIFY(further.keys.contains(Qt::Key_F9));

@@ -50,7 +50,7 @@ QString currentUser() {
     return session::fromWire(session::currentWindowsUser());
 }
 
-/// What a status bar said each time that it was painted.
+/// Records the message of a status bar each time it is painted.
 class PaintedStatus : public QObject {
 public:
     explicit PaintedStatus(QStatusBar& bar)
@@ -421,7 +421,8 @@ private:
     QStringList sets() { return driver_->cards(); }
     bool isEnabled(const char* action) { return driver_->isEnabled(action); }
     QString status() { return driver_->status(); }
-    /// What is enabled of all that is ever switched, less the buttons in the details.
+    /// The enabled ones among everything that is ever enabled or disabled, except the buttons in
+    /// the details.
     QStringList enabled() {
         QStringList names;
         for (const QString& name : everSwitched)

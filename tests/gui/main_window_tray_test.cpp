@@ -35,7 +35,7 @@ void stopAll(World& world) {
         world.stop(activity.activity_id);
 }
 
-/// An agent whose clock stands an hour ago: whatever begins there is old already.
+/// An agent whose clock is an hour behind: whatever starts there is already old.
 simulator::Options anHourAgo() {
     simulator::Options options;
     options.clock = [] { return simulator::systemClock()() - 3'600'000; };
@@ -44,7 +44,7 @@ simulator::Options anHourAgo() {
 
 } // namespace
 
-/// The window in the tray, and what its balloons say.
+/// The window in the tray, and the texts of its balloons.
 class MainWindowTrayTest : public QObject {
     Q_OBJECT
 private slots:
@@ -77,7 +77,7 @@ private slots:
 private:
     SimpleGUIMainWindow& window() { return driver_->window(); }
     support::RecordingTray& tray() { return driver_->tray(); }
-    /// Logs in to an agent, and lets the first two heartbeats pass with the window hidden.
+    /// Logs in to an agent, hides the window, and lets a heartbeat pass.
     void watch(simulator::Options options = {}) {
         agent_ = std::make_unique<GuiAgent>(std::move(options));
         driver_->logIn(*agent_);
@@ -176,7 +176,7 @@ void MainWindowTrayTest::aDialogOverTheHiddenWindowEndsNothing() {
 }
 
 void MainWindowTrayTest::aLogOutOfTheDesktopIsNotHeldUp() {
-    // What Qt would do by itself at a log-out is to refuse it, as the window refuses to close.
+    // Qt's fallback would refuse the log-out, as the window refuses to close.
     QVERIFY(!QGuiApplication::isFallbackSessionManagementEnabled());
 }
 
@@ -200,7 +200,7 @@ void MainWindowTrayTest::announcesWhatBeginsAndEnds() {
     driver_->beat();
     agent_->withWorld(stopAll);
     driver_->beat();
-    // The table shows the youngest first, so the order depends on the second of each start.
+    // The table shows the newest first, so the order depends on the second in which each started.
     QStringList lines = linesOfBalloons();
     QVERIFY(!lines.isEmpty());
     QCOMPARE(lines.takeFirst(), QStringLiteral("Started - Backup - Documents"));

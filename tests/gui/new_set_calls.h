@@ -7,15 +7,15 @@
 
 namespace gui {
 
-/// What the user meets when a call of the new set flow fails.
+/// What the user sees when a call of the new set flow fails.
 enum class OnFault {
     NoWizard,    ///< the flow's box; the wizard never opens
-    ErrorR1,     ///< this box, and then the wizard
-    ErrorR2,     ///< likewise
-    Nothing,     ///< a part of a tree is marked; the flow goes on
+    ErrorR1,     ///< this box, then the wizard
+    ErrorR2,     ///< as above
+    Nothing,     ///< part of a tree is marked; the flow continues
     SourceStays, ///< a box about the credentials; the wizard stays on its page
-    WizardGone,  ///< the wizard closes, and the flow's box comes
-    NoSet,       ///< the flow's box; the agent's list is as it was
+    WizardGone,  ///< the wizard closes, then the flow's box opens
+    NoSet,       ///< the flow's box; the agent's list is unchanged
     SetStays,    ///< the flow's box; the agent has the set as far as it was written
 };
 
@@ -29,8 +29,8 @@ inline const std::string documentsExpression =
     "potx|ppam|pps|ppsm|ppsx|ppt|pptm|pptx|ps|rtf|txt|vsd|wpd|wpg|wps|xlam|xlc|xls|xlsb|xlsm|"
     "xlsx|xlt|xltm|xltx";
 
-/// All calls of a new set named "New one" at an agent with everything that sets can have, from the
-/// command to the end, when nothing else is changed on the pages. Without those of `Release`.
+/// All calls, except `Release`, that create a set named "New one", from the command to the end,
+/// with no other changes on the pages. The agent supports everything that sets can have.
 inline const std::vector<FlowCall> newSetTable{
     {"ClientConnection.getConfigurationManager()", OnFault::NoWizard},
     {"ClientConfiguration.isTarnToolEnabled(8)", OnFault::NoWizard},
@@ -118,7 +118,7 @@ inline const std::vector<FlowCall> newSetTable{
     {"RetentionRule.getTimeRetentions()", OnFault::SetStays},
     {"RetentionRule.setCleanupRemovedFiles(false)", OnFault::SetStays},
     {"RetentionRule.setLocalStorageRetention({period=0, unit=3})", OnFault::SetStays},
-    // Both meet.
+    // The schedule and the retention rule are synchronised.
     {"BackupSet.getRetentionRule()", OnFault::SetStays},
     {"BackupSet.getSchedule()", OnFault::SetStays},
     {"Schedule.getDetails()", OnFault::SetStays},

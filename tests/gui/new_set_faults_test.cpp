@@ -39,7 +39,7 @@ Calls methods(const Calls& calls) {
 
 } // namespace
 
-/// The new set flow, broken at each of its calls in turn.
+/// The new set flow, failing at each of its calls in turn.
 class NewSetFaultsTest : public QObject {
     Q_OBJECT
 private slots:
@@ -95,7 +95,7 @@ void NewSetFaultsTest::cleanup() {
     agent_->clearCallLog();
 }
 
-/// The agent is then as it was, but for the numbers that it gives away.
+/// Restores the agent's state, except for the ids it hands out.
 void NewSetFaultsTest::forgetNewSet() {
     agent_->withWorld([this](World& world) {
         while (world.sets().size() > setsBefore_)
@@ -107,7 +107,7 @@ void NewSetFaultsTest::forgetNewSet() {
     });
 }
 
-/// The call of that number fails; earlier ones of the same method don't.
+/// Makes the call with that index fail; earlier calls of the same method succeed.
 void NewSetFaultsTest::failCall(std::size_t number) {
     const std::string method = methodOf(newSetTable[number].text);
     for (std::size_t i = 0; i < number; ++i)
@@ -175,7 +175,7 @@ void NewSetFaultsTest::aFaultIsToldAndStopsTheFlow() {
     QCOMPARE(agent_->liveObjects(), heldBefore_);
     if (onFault == OnFault::ErrorR1 || onFault == OnFault::ErrorR2)
         return;
-    // The calls up to the one that failed, and no other.
+    // Only the calls up to the failed one.
     Calls expected = methods(gui::newSetCalls());
     if (onFault != OnFault::Nothing)
         expected.resize(index + 1);
@@ -191,7 +191,7 @@ void NewSetFaultsTest::aCutConnectionIsTold() {
     driver_->trigger("actionNew_Backup_Set");
     QVERIFY(modals_->done());
     QCOMPARE(setCount(), setsBefore_);
-    // What a connection held goes with it.
+    // The references of a connection end with it.
     driver_->window().OnDisconnect();
     driver_->logIn(*agent_);
     heldBefore_ = agent_->liveObjects();

@@ -29,7 +29,7 @@ using support::difference;
 using support::isDialog;
 using support::ModalDriver;
 using Calls = std::vector<std::string>;
-using Leave = std::function<void(QWizard&)>; ///< how the user leaves a wizard
+using Leave = std::function<void(QWizard&)>; ///< how the user closes a wizard
 
 Q_DECLARE_METATYPE(Leave)
 
@@ -49,7 +49,7 @@ QString q(const char* text) {
     return QString::fromUtf8(text);
 }
 
-/// Takes away calls that come one after the other.
+/// Removes a run of consecutive calls.
 Calls without(Calls calls, const Calls& unwanted) {
     const auto found = std::search(calls.begin(), calls.end(), unwanted.begin(), unwanted.end());
     if (found == calls.end())
@@ -58,7 +58,7 @@ Calls without(Calls calls, const Calls& unwanted) {
     return calls;
 }
 
-/// Puts these calls behind the first one of that text.
+/// Inserts these calls after the first call with that text.
 Calls withBehind(Calls calls, const std::string& place, const Calls& more) {
     const auto found = std::find(calls.begin(), calls.end(), place);
     if (found == calls.end())
@@ -69,7 +69,7 @@ Calls withBehind(Calls calls, const std::string& place, const Calls& more) {
 
 } // namespace
 
-/// The new set flow, clicked through against an agent, and all that it says to it.
+/// The new set flow, clicked through against an agent, and all of its calls.
 class NewSetFlowTest : public QObject {
     Q_OBJECT
 private slots:
@@ -90,7 +90,7 @@ private slots:
     void theFirstSetIsOfferedAtLogin();
     void aSetOfADatabaseIsNoFirstSet();
     void underCentralManagementNoSetIsMadeOrOffered();
-    // The last one, as no dialog opens in this process any more.
+    // Must be last, as no dialog opens in this process afterwards.
     void quittingUnderTheWizardMakesNoSet();
 
 private:
@@ -265,7 +265,7 @@ void NewSetFlowTest::aWizardThatIsLeftAsksForNothing_data() {
     QTest::newRow("the title bar's cross") << Leave([](QWizard& wizard) { wizard.close(); });
 }
 
-/// A name that is half typed is no reason to look for the computer.
+/// A half-typed name doesn't trigger a look-up of the computer.
 void NewSetFlowTest::aWizardThatIsLeftAsksForNothing() {
     QFETCH(Leave, leave);
     test_.start();
@@ -317,7 +317,7 @@ void NewSetFlowTest::theFirstSetIsOfferedAtLogin() {
     });
     test_.start(Scenario::Empty);
     QVERIFY(test_.modals->done());
-    // What the agent still has to be told comes first.
+    // The check of the initial configuration comes first.
     QVERIFY(std::find(before.begin(), before.end(), "getUserInfo") != before.end());
     QCOMPARE(test_.setNames(), QStringList(q("New one")));
 }

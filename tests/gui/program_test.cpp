@@ -24,19 +24,18 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// What names the folder of the user's session, on one system or the other.
+/// The variable with the folder of the user's session, per system.
 constexpr const char* runtimeVariables[] = {"XDG_RUNTIME_DIR", "TMP"};
 
-/// The file that a client keeps for its session.
+/// The session file of a client.
 QString sessionFile(const QString& runtimeDirectory, const QString& name) {
     const QString prefix = QString::fromStdString(platform::sessionFilePrefix());
     return runtimeDirectory + QLatin1Char('/') +
            prefix.mid(prefix.lastIndexOf(QLatin1Char('/')) + 1) + name;
 }
 
-/// The real program in a process of its own, which ends with this object. Its own machine's agent
-/// is that at `agentPort`, and nobody else runs in its runtime directory but whom the test put
-/// there.
+/// The real program in its own process, which ends with this object. Its local agent is the one at
+/// `agentPort`, and its runtime directory has no other clients than those started by the test.
 class Client : public QProcess {
 public:
     Client(const QString& runtimeDirectory, quint16 agentPort) {
@@ -46,7 +45,7 @@ public:
             environment.insert(QString::fromLatin1(name), runtimeDirectory);
         environment.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(TARN_PORT_REDIRECT));
         environment.insert(QStringLiteral("TARN_TEST_AGENT_PORT"), QString::number(agentPort));
-        // The redirect stands before a sanitizer's own library, which is all right here.
+        // The redirect is loaded before the sanitizer's own library, which is fine here.
         environment.insert(QStringLiteral("ASAN_OPTIONS"),
                            QStringLiteral("verify_asan_link_order=0:") +
                                environment.value(QStringLiteral("ASAN_OPTIONS")));
@@ -89,7 +88,8 @@ private slots:
     }
 
     void runsOnWithoutAnAgentBehindTheLoginDialog() {
-        // The dialog asks for domains before it opens, so that call shows how far the start came.
+        // The dialog requests the domains before it opens, so that call shows how far the start
+        // got.
         simulator::Options options;
         options.guest = false;
         const GuiAgent agent(options);
@@ -103,7 +103,7 @@ private slots:
     void aSecondStartRaisesTheFirstAndEnds_data() {
         QTest::addColumn<QStringList>("arguments");
         QTest::newRow("plain") << QStringList();
-        // The translation, which isn't there, would be missed later on.
+        // A missing translation would only be noticed later.
         QTest::newRow("with a language")
             << QStringList{QStringLiteral("--lang"), QStringLiteral("xx")};
     }
@@ -132,9 +132,9 @@ private slots:
         QSignalSpy messages(&application(), &QtSingleApplication::messageReceived);
         Client second(qEnvironmentVariable("XDG_RUNTIME_DIR"), agent.port());
         QVERIFY(second.launch());
-        // This waits without an event loop, so the second one gets no answer from here.
+        // This waits without an event loop, so the second instance gets no answer from here.
         QVERIFY(agent.waitForCall("backup_sets_info", 1, 30s));
-        // The message has waited; it must not be taken for that of a later test.
+        // Receive the pending message now, so that it isn't taken for one of a later test.
         QTRY_COMPARE(messages.size(), 1);
     }
 
@@ -270,7 +270,7 @@ private:
         QVERIFY(peer.waitForConnected(5000));
     }
 
-    /// The client there is the first: it has waited for nobody, and answers the next one.
+    /// The client there is the first instance: it waited for no other, and answers the next one.
     static void expectFirst(const QString& runtimeDirectory, quint16 agentPort) {
         Client second(runtimeDirectory, agentPort);
         QVERIFY(second.launch());

@@ -29,16 +29,16 @@ namespace {
 
 const char faultText[] = "Außer Betrieb.";
 
-/// What the user meets when a call of the wizard fails.
+/// What the user sees when a call of the wizard fails.
 enum class OnFault {
     NoWizard,     ///< the command's box; the wizard never opens
-    ErrorR1,      ///< this box, and then the wizard
-    ErrorR2,      ///< likewise
-    InitError,    ///< likewise
-    OverWizard,   ///< a box over the wizard, which goes on
+    ErrorR1,      ///< this box, then the wizard
+    ErrorR2,      ///< as above
+    InitError,    ///< as above
+    OverWizard,   ///< a box over the wizard, which continues
     SourceStays,  ///< a box about the credentials; the wizard stays on its page
-    NoDirectory,  ///< a box; the page comes, without a directory on it
-    NothingStarts ///< the wizard closes, and the command's box comes
+    NoDirectory,  ///< a box; the page opens without a directory on it
+    NothingStarts ///< the wizard closes, then the command's box opens
 };
 
 struct FlowCall {
@@ -83,7 +83,7 @@ QPushButton& generations(QWidget& page) {
 
 } // namespace
 
-/// The restore wizard, broken at each of its calls in turn.
+/// The restore wizard, failing at each of its calls in turn.
 class RestoreFaultsTest : public QObject {
     Q_OBJECT
 private slots:
@@ -109,7 +109,7 @@ private:
     void failCall(std::size_t number);
     void expectBox(const char* title) { test_.modals->expectErrorBox(q(title), q(faultText)); }
     void expectAfterFault(OnFault onFault);
-    /// The first page of the wizard, which is given up afterwards.
+    /// Acts on the first page of the wizard, which is then cancelled.
     void atFirstPage(const support::AtPage& act);
     std::size_t restoresUnderWay();
 
@@ -130,7 +130,7 @@ void RestoreFaultsTest::cleanup() {
     QVERIFY(!QGuiApplication::overrideCursor());
 }
 
-/// The call of that number fails; earlier ones of the same method don't.
+/// Makes the call with that index fail; earlier calls of the same method succeed.
 void RestoreFaultsTest::failCall(std::size_t number) {
     const std::string method = flow[number].method;
     for (std::size_t i = 0; i < number; ++i)
@@ -210,7 +210,7 @@ void RestoreFaultsTest::aFaultIsToldAndStopsTheFlow() {
     if (onFault == OnFault::ErrorR1 || onFault == OnFault::ErrorR2 ||
         onFault == OnFault::InitError || onFault == OnFault::OverWizard)
         return;
-    // The calls up to the one that failed, and no other.
+    // Only the calls up to the failed one.
     Calls expected;
     for (std::size_t i = 0; i <= index; ++i)
         expected.emplace_back(flow[i].method);
@@ -262,13 +262,13 @@ void RestoreFaultsTest::aFaultOfAFilterLeavesThePage() {
         expectBox("Error");
         auto& filter = child<QCheckBox>(page, "checkFilter");
         filter.click();
-        // It must not say what the tree doesn't show.
+        // The filter must match the tree.
         QVERIFY(!filter.isChecked());
         QVERIFY(!child<QWidget>(page, "filterDisplay").isVisible());
         QCOMPARE(rowAt(treeOf(page), "C:/docs").data(Qt::CheckStateRole).toInt(), 2);
         QVERIFY(page.isComplete());
         QVERIFY(!QGuiApplication::overrideCursor());
-        // The next time comes through, and shows the dates as they should be.
+        // The next attempt succeeds and shows the correct dates.
         filter.click();
         QVERIFY(filter.isChecked());
         QCOMPARE(child<QDateTimeEdit>(page, "dateTo").dateTime().toSecsSinceEpoch(), lastBackup);
@@ -310,7 +310,7 @@ void RestoreFaultsTest::aFaultOfTheGenerationsLeavesThePage() {
         QVERIFY(!child<QCheckBox>(page, "checkFilter").isChecked());
         QVERIFY(!child<QCheckBox>(page, "checkTo").isChecked());
         QVERIFY(!child<QWidget>(page, "filterDisplay").isVisible());
-        // Marked is what was marked, and not the file whose generation nobody sees.
+        // The check marks are unchanged: the file whose generation isn't shown remains unchecked.
         QCOMPARE(checkStateOf(page, "notes.txt"), 0);
         QCOMPARE(rowAt(treeOf(page), "D:").data(Qt::CheckStateRole).toInt(), 2);
         QVERIFY(generations(page).isEnabled());
@@ -365,7 +365,7 @@ void RestoreFaultsTest::aPageWithoutDirectoryCanBeTriedAgain() {
         }
         auto& directory = child<QLineEdit>(*wizard.currentPage(), "editRestoreTo");
         QCOMPARE(directory.text(), QString());
-        // Without a list of places to begin with, one can still be typed.
+        // Without a list of places to start from, a path can still be typed.
         child<QPushButton>(*wizard.currentPage(), "btnRestoreTo").click();
         wizard.back();
         wizard.next();

@@ -61,7 +61,7 @@ Calls ofSet(const Calls& calls) {
 
 } // namespace
 
-/// The first page of the wizard that restores: which time it shows, and what it says to the agent.
+/// The first page of the restore wizard: the time it shows, and its calls.
 class RestoreFilterTest : public QObject {
     Q_OBJECT
 private slots:
@@ -85,7 +85,7 @@ private slots:
     void theUserSeesThatAViewTakesItsTime();
 
 private:
-    /// Opens the wizard for one act on its first page, and gives it up.
+    /// Opens the wizard for one act on its first page, then cancels it.
     void atFirstPage(const support::AtPage& act);
     void expectGeneration(int row, const std::function<void(QTableView&)>& look = {});
     Calls calls() { return restoreCallsOf(*test_.agent, {}); }
@@ -128,7 +128,7 @@ void RestoreFilterTest::theFormIsAsItBegins() {
         QVERIFY(!child<QPushButton>(page, "buttonGenerations").isEnabled());
         box(page, "checkFilter").click();
         QVERIFY(child<QWidget>(page, "filterDisplay").isVisible());
-        // It has its place without the wizard being made larger.
+        // It fits without enlarging the wizard.
         QCoreApplication::processEvents();
         QVERIFY(child<QLineEdit>(page, "editFilter").geometry().top() >=
                 child<QWidget>(page, "splitter").geometry().bottom());
@@ -229,7 +229,7 @@ void RestoreFilterTest::aGenerationThatTheFilterShowsChangesNothing() {
         box(page, "checkFilter").click();
         box(page, "checkTo").click();
         box(page, "checkFrom").click();
-        // As early as it may be without moving.
+        // The earliest value that needs no adjustment.
         date(page, "dateFrom").setDateTime(QDateTime::fromSecsSinceEpoch(lastBackup));
         selectFile(page, "notes.txt");
         expectGeneration(0);

@@ -7,9 +7,8 @@
 
 #include "tests/support/gui_wizard.h"
 
-/// What the wizard that restores says to the agent, about its fourth set. Without the calls of
-/// `Release`, without the span of the activity log, and with NAME in place of the name of the
-/// directory that the restore makes.
+/// The restore wizard's calls about the agent's fourth set, without `Release`, without the span of
+/// the activity log, and with NAME in place of the name of the directory created by the restore.
 namespace gui {
 
 using Calls = std::vector<std::string>;
@@ -19,8 +18,8 @@ inline Calls operator+(Calls calls, const Calls& more) {
     return calls;
 }
 
-/// What the wizard asks until it is seen: the view with its top level and the first drive's rows,
-/// what the source page wants to know, the kind of paths, and the set's computer.
+/// The calls before the wizard is shown: the view with its top level and the first drive's rows,
+/// the needs of the source page, the kind of paths, and the set's computer.
 inline Calls restoreOpened(const std::string& firstDrive = "1") {
     return {"ClientConnection.backup_set(4)",
             "BackupSet.getCurrentStatus()",
@@ -43,14 +42,14 @@ inline Calls restoreOpened(const std::string& firstDrive = "1") {
 
 inline const Calls restoreOpenedCalls = restoreOpened();
 
-/// The wizard goes on to the page for the directory, on the set's own computer.
+/// The wizard advances to the directory page, on the set's own computer.
 inline const Calls directoryWanted{
     "DataSourceBrowser.getCurrentCredentials()", "BackupSetCredentials.check(\"My Computer\")",
     "BackupSet.getComputerName()", "DataSourceBrowser.getPredefinedItems(\"My Computer\")"};
 
 inline const Calls refreshedAfterRestore = support::callsOfRefresh(4);
 
-/// A finished wizard, when the data goes to where it came from.
+/// A finished wizard that restores to the original location.
 inline Calls restoredToOrigin(const std::string& ids, int reason) {
     return {"BackupSetRestoreView.prepareRestore([" + ids + "])",
             "RestoreActivityInitiator.setRestoreReason(" + std::to_string(reason) + ")",
@@ -58,7 +57,7 @@ inline Calls restoredToOrigin(const std::string& ids, int reason) {
             "RestoreActivityInitiator.start(DataSourceBrowser, \"My Computer\", [], 0)"};
 }
 
-/// The same, when it goes to a directory of the set's own computer.
+/// The same for a directory of the set's own computer.
 inline Calls restoredToDirectory(const std::string& ids, int reason, const std::string& mappings,
                                  int level) {
     return {"BackupSetRestoreView.prepareRestore([" + ids + "])",

@@ -20,7 +20,7 @@ namespace simulator {
 class World;
 }
 
-/// What a user does in the wizard that restores, on the agent's fourth set.
+/// User steps in the restore wizard, on the agent's fourth set.
 namespace gui {
 
 inline constexpr int restoredRow = 3;
@@ -31,7 +31,7 @@ inline constexpr std::int32_t lastBackup = 1'760'000'000;
 
 QString q(const char* text);
 
-/// The set has these files, each with three generations.
+/// Gives the set these files, each with three generations.
 void storeFiles(simulator::World& world, const std::vector<std::string>& paths);
 /// Two drives with a few files.
 void storeFiles(simulator::World& world);
@@ -46,15 +46,16 @@ QModelIndex fileNamed(QWidget& page, const char* name);
 int checkStateOf(QWidget& page, const char* file);
 void check(QWidget& page, const char* path);
 
-/// What is said on the pages. The reason is a row of its list.
+/// The user's choices on the pages. `reason` is a row of its list.
 struct RestoreWishes {
     std::vector<const char*> checked{};
     const char* location = "radioOriginal";
     int reason = 1;
-    const char* directory = nullptr; ///< null leaves what the page offers
+    const char* directory = nullptr; ///< null keeps the directory offered by the page
 };
 
-/// Does what the page wants. The name of the directory that the restore makes goes to `name`.
+/// Makes the choices on each page. `name` receives the name of the directory created by the
+/// restore.
 support::AtPage wishing(const RestoreWishes& wishes, QString* name = nullptr);
 
 /// The calls of an agent in the form of `restore_wizard_calls.h`.

@@ -37,7 +37,7 @@ namespace {
 
 const char otherDirectory[] = "C:\\Users";
 
-/// What the page for the source asks when another computer was typed.
+/// The calls of the source page when another computer was typed.
 const Calls computerTyped{"DataSourceBrowser.expandToFullPath(\"FILESRV\")",
                           "DataSourceBrowser.getCurrentCredentials()",
                           "BackupSetCredentials.types()",
@@ -66,8 +66,7 @@ void press(QWidget& wizard, QWizard::WizardButton which) {
 
 } // namespace
 
-/// The wizard that restores from a set, clicked through against an agent, and all that it says to
-/// it.
+/// The restore wizard, clicked through against an agent, and all of its calls.
 class RestoreWizardTest : public QObject {
     Q_OBJECT
 private slots:
@@ -102,7 +101,7 @@ private:
     Calls calls() { return restoreCallsOf(*test_.agent, name_); }
 
     support::WizardTest test_;
-    QString name_; ///< of the directory that the restore made
+    QString name_; ///< of the directory created by the restore
 };
 
 void RestoreWizardTest::startWith(const std::function<void(World&)>& change) {
@@ -186,7 +185,7 @@ void RestoreWizardTest::threeSharesWhoseNamesCollide() {
         R"({source_share="C:", destination_path="C:\\Users/NAME/\\C", truncate_level=0}, )"
         R"({source_share="C", destination_path="C:\\Users/NAME/\\C_0001", truncate_level=0}, )"
         R"({source_share="C*", destination_path="C:\\Users/NAME/\\C_0001_0002", truncate_level=0})";
-    // They are sorted by name, and numbered as they are stored.
+    // Sorted by name, and numbered in storage order.
     QCOMPARE(difference(calls(), restoreOpened("2") + directoryWanted +
                                      restoredToDirectory("2, 3, 1", 3, mappings, 0) +
                                      refreshedAfterRestore),
@@ -313,7 +312,7 @@ void RestoreWizardTest::theKeyboardIsAtTheCredentials() {
     QCOMPARE(difference(calls(), restoreOpenedCalls), QString());
 }
 
-/// A wizard's head has room for two lines.
+/// A wizard's header has room for two lines.
 void RestoreWizardTest::theHeadNamesTheDirectory() {
     test_.modals->expect(q("wizard"), isDialog<QWizard>, [](QWidget& wizard) {
         const auto wishes = wishing({.checked = {"D:"}, .location = "radioAlternateDir"});

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The client's half of secrets_test: a process that opens one dialog, types a secret into it that
-// it never holds as a whole itself, closes it, and waits to be looked at.
+// The client's half of secrets_test: a process that opens one dialog, types a secret into it
+// without ever holding the whole secret itself, closes the dialog, and waits for inspection.
 //
 //     secret_dialogs DIALOG AGENT-PORT SEED [FILE]
 //
-// It says "typed" and "closed" on its output, and waits for a line after each.
+// It prints "typed" and "closed", and waits for a line of input after each.
 #include <cstdlib>
 #include <iostream>
 #include <map>
@@ -57,7 +57,7 @@ Widget& child(QWidget& parent, const char* name) {
     return *found;
 }
 
-/// Key by key, over whatever the field holds.
+/// Types key by key, replacing the content of the field.
 void typeSecret(QWidget& dialog, const char* name) {
     auto& field = child<QLineEdit>(dialog, name);
     field.setFocus();
@@ -87,7 +87,7 @@ void whenOpen(Act act) {
     timer->start(5);
 }
 
-/// Confirms each message that comes. One about a failure ends the program.
+/// Confirms each message box. An error message ends the program.
 void confirmMessages() {
     auto* timer = new QTimer(qApp);
     QObject::connect(timer, &QTimer::timeout, timer, [] {
@@ -119,7 +119,7 @@ void login(const QString& address) {
         giveUp(QStringLiteral("not logged in"));
 }
 
-/// Fills the fields, and ends the dialog with that button.
+/// Fills in the fields, and ends the dialog with that button.
 template <class Dialog>
 auto fillAndPress(std::initializer_list<const char*> fields, const char* button) {
     return [fields = std::vector<const char*>(fields), button](Dialog& dialog) {
@@ -130,7 +130,7 @@ auto fillAndPress(std::initializer_list<const char*> fields, const char* button)
     };
 }
 
-/// Enters a login on the page of the data source, which the agent then tries.
+/// Enters a login on the data source page, which the agent then checks.
 void tryLogin(const std::function<void(SelectDataSourcePage&)>& enter) {
     QWizard wizard;
     auto page = std::make_unique<SelectDataSourcePage>([](const std::string&) { return true; });
@@ -142,7 +142,7 @@ void tryLogin(const std::function<void(SelectDataSourcePage&)>& enter) {
         giveUp(QStringLiteral("the agent refuses the login"));
 }
 
-/// With what is entered in the dialog "Connect As".
+/// Uses a login entered in the dialog "Connect As".
 template <class Dialog>
 void connectAs(const std::function<void(Dialog&)>& act) {
     tryLogin([&](SelectDataSourcePage& source) {
@@ -188,7 +188,7 @@ void simple() {
     connectAs<CEnterSimpleUserPsw>(fillAndPress<CEnterSimpleUserPsw>({"editPassword"}, "btnOK"));
 }
 
-/// Waits until the dialog has asked the agent for what it shows.
+/// Waits until the dialog has read its content from the agent.
 void waitForText(QLineEdit& field) {
     while (field.text().isEmpty())
         QApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);

@@ -35,7 +35,7 @@ public:
         waitForFinished();
     }
 
-    /// The next word that it says, or why it doesn't.
+    /// The next word it prints, or the error if there is none.
     QString next() {
         while (!canReadLine() && waitForReadyRead(20'000)) {
         }
@@ -72,8 +72,8 @@ bool wasCalled(const Simulator& agent, const char* method) {
 
 } // namespace
 
-/// What is typed into a dialog as a secret, or comes into it from the agent or from a file, is
-/// nowhere in the memory of the process any more when the dialog has closed.
+/// A secret that is typed into a dialog, or that it reads from the agent or a file, is nowhere in
+/// the memory of the process once the dialog has closed.
 class SecretsTest : public QObject {
     Q_OBJECT
 private slots:
@@ -118,7 +118,7 @@ void SecretsTest::leaveTheMemoryWithTheirDialog_data() {
         QTest::newRow(dialog) << QString::fromLatin1(dialog);
 }
 
-/// Lets the agent take that secret, or show it.
+/// Makes the agent accept that secret, or return it.
 void SecretsTest::prepare(const QString& dialog, const std::string& secret, World& world) {
     auto& computer = *world.network.local();
     if (dialog == QStringLiteral("simple")) {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
-// An agent that falls silent at each call in turn, and a user who then disconnects: all that
-// follows is what follows when the agent cuts the connection at that call.
+// An agent that falls silent at each call in turn, and a user who then disconnects: the outcome is
+// the same as when the agent cuts the connection at that call.
 #include <memory>
 #include <vector>
 
@@ -32,14 +32,14 @@ namespace {
 
 const app::CallGate::Times quickTimes{5ms, 10ms};
 
-/// What the user and the agent have seen of a flow.
+/// The outcome of a flow as seen by the user and by the agent.
 struct Outcome {
     QStringList boxes;   ///< titles of the boxes, in order
     QStringList dialogs; ///< classes of the dialogs, in order
     bool connected = false;
     QString title;
     std::vector<std::string> calls;
-    int left = 0; ///< how often the user has disconnected
+    int left = 0; ///< how often the user disconnected
 
     bool operator==(const Outcome& other) const {
         return boxes == other.boxes && dialogs == other.dialogs && connected == other.connected &&
@@ -57,7 +57,7 @@ struct Outcome {
     }
 };
 
-/// Goes on wherever that is possible, and leaves what keeps standing.
+/// Continues wherever possible, and closes dialogs that stay open.
 class User : public QObject {
 public:
     User(Outcome& outcome, const GuiAgent& agent, bool leavesSilentAgent)
@@ -70,7 +70,7 @@ public:
 
 private:
     void leave() {
-        // A busy machine may take that long for any call.
+        // On a busy machine any call may take long enough to show the panel.
         if (!leaves_ || agent_.waitingInjections() != 0 || !support::waitingPanel())
             return;
         leaves_ = false;
@@ -115,7 +115,7 @@ private:
         }
     }
 
-    /// Each button that doesn't end the dialog, then the one that saves.
+    /// Presses each button that doesn't end the dialog, then the one that saves.
     static void pressAll(QDialog& dialog) {
         const QPointer<QDialog> open = &dialog;
         for (const char* name : {"btnResend", "btnRefresh", "btnValidate", "btnOK", "btnOk",
@@ -202,7 +202,7 @@ Outcome SilenceTest::run(const QString& slot, const simulator::Injection* inject
         outcome.title = driver.window().windowTitle();
         for (const auto& call : agent.callLog())
             outcome.calls.push_back(call.method);
-        // A session whose stream is dead ends with the next refresh.
+        // A session with a dead stream ends with the next refresh.
         if (injection && outcome.connected)
             driver.window().refreshAll();
     }

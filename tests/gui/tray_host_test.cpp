@@ -25,7 +25,7 @@ public:
     }
 };
 
-/// A display that nobody sees. It becomes the one of this process and of those that it starts.
+/// A virtual display. It becomes the display of this process and its children.
 class Display : public Helper {
 public:
     bool begin() {
@@ -43,7 +43,7 @@ public:
 
 } // namespace
 
-/// The icon in the tray of a real desktop: embedded by a tray's host, and clicked with a mouse.
+/// The icon in a real tray: embedded by a tray host, and clicked with the mouse.
 class TrayHostTest : public QObject {
     Q_OBJECT
 private slots:
@@ -76,7 +76,7 @@ private slots:
     }
 
 private:
-    /// The host stands at the lower edge; an icon that nobody has embedded is elsewhere.
+    /// The host is at the lower edge; an icon that isn't embedded is elsewhere.
     static bool isInTheHost(const app::TrayIcon& tray) {
         return tray.geometry().width() > 1 && tray.geometry().top() >= 800 - 32;
     }
@@ -87,7 +87,7 @@ int main(int argc, char** argv) {
     if (!display.begin())
         qFatal("Xvfb doesn't start");
     qputenv("QT_QPA_PLATFORM", "xcb");
-    // A desktop's own tray must not be found in place of the test's.
+    // The desktop's own tray must not be found instead of the test's.
     qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
     QApplication application(argc, argv);
     TrayHostTest test;

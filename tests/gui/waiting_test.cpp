@@ -55,7 +55,7 @@ namespace {
 const QString firstText = QStringLiteral("The agent hasn't answered for N s.");
 const app::CallGate::Times quickTimes{20ms, 60ms};
 
-/// Counts what a widget paints.
+/// Counts the paint events of a widget.
 class Paints : public QObject {
 public:
     explicit Paints(QWidget& widget) { widget.installEventFilter(this); }
@@ -138,7 +138,7 @@ private:
     void beSilent(const char* method = "getTarnClientInfo") {
         agent_->inject(method, simulator::Silence{});
     }
-    /// Ends each wait as soon as the panel is there.
+    /// Ends each wait as soon as the panel appears.
     std::unique_ptr<InTheWait> leaveAtOnce() {
         return std::make_unique<InTheWait>([] {
             if (waitingPanel())
@@ -180,7 +180,7 @@ void WaitingTest::aSilentAgentIsLeftByTheButton() {
 void WaitingTest::aSilentAgentIsLeftByEscape() {
     beSilent();
     const InTheWait user([&] {
-        // Not before the user can see what it would do.
+        // Ignored until the user can see its effect.
         QTest::keyClick(driver_->window().windowHandle(), Qt::Key_Escape);
         if (!waitingPanel())
             QVERIFY(session::g_connection);

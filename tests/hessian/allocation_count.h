@@ -6,7 +6,7 @@
 
 namespace codec_test {
 
-/// How often the program has allocated so far, from its own `operator new`.
+/// The number of allocations of the program so far, counted by its own `operator new`.
 extern std::size_t allocations;
 
 } // namespace codec_test

@@ -6,7 +6,7 @@
 #include "sample_values.h"
 #include "support.h"
 
-/// What the codec allocates, in a program of its own as it counts for all of it.
+/// The codec's allocations. In a separate program, as the count covers the whole process.
 namespace {
 
 using namespace codec_test;

@@ -5,7 +5,7 @@
 #include "sample_values.h"
 #include "support.h"
 
-/// Where the wire departs from Hessian 1.0 as it was published.
+/// Differences between the wire format and published Hessian 1.0.
 namespace {
 
 using namespace codec_test;
@@ -48,8 +48,8 @@ TEST(Dialect, FaultEndsAtTheFirstOtherKey) {
     EXPECT_EQ(fault.message, "<Message could not be parsed>");
 }
 
-/// Headers, doubles, dates, XML (last chunk and others) and references, where a value stands and
-/// where a reply's value would.
+/// Headers, doubles, dates, XML (last chunk and others) and references, both in place of a value
+/// and in place of a reply's result.
 TEST(Dialect, OtherFormsDoNotExist) {
     for (const std::string tag : {"'H'", "'D'", "'d'", "'X'", "'x'", "'R'"}) {
         const std::string typed = tag + " 00 00 00 00 00 00 00 00";

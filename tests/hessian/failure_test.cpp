@@ -5,8 +5,8 @@
 #include "sample_values.h"
 #include "support.h"
 
-/// Each message that the readers refuse, and with which text. Where two tests would fail, the row
-/// tells which one comes first.
+/// Each message that the readers refuse, and the error text. Where two checks would fail, the row
+/// shows which one comes first.
 namespace {
 
 using namespace codec_test;

@@ -8,7 +8,7 @@
 #include "sample_values.h"
 #include "support.h"
 
-/// Lists beyond their plain form: what may stand before the elements, and how large they grow.
+/// Lists beyond their plain form: what may precede the elements, and how large they grow.
 namespace {
 
 using namespace codec_test;
@@ -77,7 +77,7 @@ TEST(List, KeepsTheOrderOfManyElements) {
     EXPECT_EQ(written(list), wire);
 }
 
-/// No length from the wire and no small first element makes a list claim room without bound.
+/// Neither a length from the wire nor a small first element makes a list allocate without bound.
 TEST(List, RoomIsBoundedByTheBytesThatCame) {
     const std::string text = repeat("x", 32767);
     std::string wire = bytes("56 6C 7F FF FF FF 53 00 00");

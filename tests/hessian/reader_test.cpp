@@ -4,13 +4,13 @@
 
 #include "support.h"
 
-/// What the readers take out of well-formed bytes, and how far they move.
+/// The values that the readers take from well-formed bytes, and how far they advance.
 namespace {
 
 using namespace codec_test;
 using namespace hessianser;
 
-/// Reads from `typed` with one byte of another value behind it, which has to be left.
+/// Reads from `typed` followed by one byte of another value, which has to be left unread.
 template <class Read>
 auto readOne(std::string_view content, Read read) {
     const Message message(std::string(content) + '?');

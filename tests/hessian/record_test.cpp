@@ -5,7 +5,7 @@
 #include "sample_values.h"
 #include "support.h"
 
-/// Records beyond their plain form: order, repetition, absence, and what they are described by.
+/// Records beyond their plain form: order, repetition, absence, and their descriptions.
 namespace {
 
 using namespace codec_test;
@@ -219,7 +219,7 @@ static_assert(!hessianser::Value<Undescribed>);
 static_assert(!hessianser::Value<Unknown>);
 static_assert(!hessianser::Value<std::vector<float>>);
 
-// A record that breaks one of these doesn't compile.
+// A record that violates one of these doesn't compile.
 static_assert(isPlainName("name"));
 static_assert(isPlainName({longName.data(), 32767}));
 static_assert(!isPlainName({longName.data(), 32768}));

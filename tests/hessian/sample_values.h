@@ -11,10 +11,11 @@
 #include "hessian/kinds.h"
 #include "hessian/record_layout.h"
 
-/// Descriptions that stand for the real ones: one of each kind, small enough to type their bytes.
+/// Sample descriptions in place of the real ones: one of each kind, small enough to type their
+/// bytes.
 namespace codec_test {
 
-/// With holes: 1, and 3 to 16. Reads as 17 where it isn't one of these.
+/// With holes: 1, and 3 to 16. Any other number reads as 17.
 enum class Colour : std::int32_t {};
 constexpr auto declaredValues(Colour) {
     return hessianser::values({{1, 1}, {3, 16}});
@@ -73,7 +74,7 @@ struct nothing {
     bool operator==(const nothing&) const = default;
 };
 
-/// Its members of varying size stand at both ends.
+/// Its variable-size members are at both ends.
 struct label {
     std::string name;
     bool shown = false;

@@ -13,7 +13,7 @@
 #include "hessian/serialize_exception.h"
 #include "hessian/value.h"
 
-/// What the tests of the codec share: bytes typed by hand, and messages that end where they end.
+/// Shared by the codec's tests: bytes typed by hand, and messages in buffers without slack.
 namespace codec_test {
 
 /// Bytes typed as pairs of hexadecimal digits, with text in quotes between them:
@@ -24,7 +24,7 @@ std::string bytes(std::string_view typed);
 /// `unit`, `times` times.
 std::string repeat(std::string_view unit, std::size_t times);
 
-/// A message in a buffer of exactly its size, so that a sanitizer sees any read behind its end.
+/// A message in a buffer of exactly its size, so that a sanitizer detects any read past its end.
 class Message {
 public:
     explicit Message(std::string_view content)
@@ -40,7 +40,7 @@ private:
     std::unique_ptr<char[]> data_;
 };
 
-/// The text of the failure that `act` raises. A test fails if there is none.
+/// The text of the failure that `act` throws. The test fails if it doesn't throw.
 template <class Act>
 std::string failureOf(Act act) {
     try {
@@ -52,7 +52,7 @@ std::string failureOf(Act act) {
     return {};
 }
 
-/// The text of the failure that reading a `T` out of `typed` raises.
+/// The text of the failure thrown when reading a `T` from `typed`.
 template <class T>
 std::string failureOfReading(std::string_view typed) {
     const Message message(bytes(typed));
@@ -72,7 +72,7 @@ T readWhole(std::string_view content) {
     return value;
 }
 
-/// What writing `value` appends. Asserts that the size pass told its length.
+/// The bytes that writing `value` appends. Asserts that the size pass computed their number.
 template <class T>
 std::string written(const T& value) {
     std::string out;

@@ -5,8 +5,8 @@
 #include "sample_values.h"
 #include "support.h"
 
-/// A message may end anywhere. Each proper prefix of a sample is refused and nothing behind it is
-/// read.
+/// A message may end anywhere. Each proper prefix of a sample is refused, and nothing is read past
+/// its end.
 namespace {
 
 using namespace codec_test;

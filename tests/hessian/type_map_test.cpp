@@ -7,8 +7,8 @@
 #include "sample_values.h"
 #include "support.h"
 
-/// The kinds of value and their forms on the wire: what is written, what its size is told to be,
-/// and what is read again.
+/// The kinds of value and their wire forms: the bytes written, the computed size, and the value
+/// read back.
 namespace {
 
 using namespace codec_test;

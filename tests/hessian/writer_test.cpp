@@ -5,7 +5,7 @@
 #include "hessian/writer.h"
 #include "support.h"
 
-/// The writers, and the sizes that are told before.
+/// The writers, and the sizes computed in advance.
 namespace {
 
 using namespace hessianser;

@@ -72,9 +72,9 @@ TEST(ActivityPace, FilesAloneTellTheEndToo) {
 
 TEST(ActivityPace, StandsStillSinceTheLastMove) {
     EXPECT_EQ(replay({{0, 0, 900}, {10, 100, 800}, {130, 100, 800}, {250, 100, 800}}).idleFor, 240);
-    // A file without bytes is a move.
+    // A file without bytes counts as progress.
     EXPECT_EQ(replay({{0, 0, 900, 1}, {10, 0, 900, 2}, {15, 0, 900, 2}}).idleFor, 5);
-    // What grows ahead isn't.
+    // A growing total doesn't.
     EXPECT_EQ(replay({{0, 0, 900}, {10, 0, 1'000}, {20, 0, 2'000}}).idleFor, 20);
 }
 

@@ -36,13 +36,13 @@ TEST(CellText, TimesAreThoseOfTheLocale) {
     for (const QLocale& locale : locales)
         for (const auto format : {QLocale::ShortFormat, QLocale::LongFormat}) {
             CellText text(locale);
-            // Across both changes of the clock, before 1970, and at odd seconds.
+            // Across both clock changes, before 1970, and at odd seconds.
             for (const qint64 begin : {1'774'741'000LL, 1'792'888'000LL, -90'000LL, 0LL})
                 for (qint64 time = begin; time < begin + 20'000; time += 1'234) {
                     std::string out;
                     text.addTime(time, format, out);
                     if (format == QLocale::LongFormat)
-                        continue; // names its zone, which isn't searched for
+                        continue; // includes the zone name, which isn't searched
                     EXPECT_EQ(out, insight::folded(locale.toString(
                                        QDateTime::fromSecsSinceEpoch(time), format)))
                         << locale.name().toStdString() << " at " << time;

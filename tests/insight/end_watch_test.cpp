@@ -30,7 +30,7 @@ TEST(EndWatch, ALogThatIsLateIsWaitedFor) {
     EndWatch watch;
     watch.gone(7);
     EXPECT_TRUE(watch.take({}).empty());
-    // It has a row from its start on.
+    // The row exists from the activity's start on.
     EXPECT_TRUE(watch.take({row(7, 0)}).empty());
     EXPECT_EQ(watch.take({row(7)}).size(), 1u);
 }

@@ -60,7 +60,7 @@ protected:
                 }};
     }
 
-    /// In how many steps it ended.
+    /// The number of steps until it ended.
     int run(FileSearch& search, int most = 1'000) {
         int steps = 0;
         for (; !search.isDone() && steps < most; ++steps)

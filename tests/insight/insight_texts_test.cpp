@@ -14,7 +14,7 @@ using testing::HasSubstr;
 
 namespace {
 
-// Read when the first text is made.
+// Read when the first text is created.
 const bool localeIsSet = qputenv("LC_ALL", "en_US.UTF-8") && qputenv("TZ", "UTC");
 
 std::string help(const SetFacts& facts, HealthState state,
@@ -56,7 +56,7 @@ TEST(InsightTexts, TheSummary) {
     EXPECT_EQ(summary({7, 1, 3}), "1 of 7 sets needs attention");
     EXPECT_EQ(summary({1, 0, 0}), "The backup set is safe");
     EXPECT_EQ(summary({1, 1, 0}), "The backup set needs attention");
-    // Nobody knows yet whether they are overdue.
+    // It isn't known yet whether they are overdue.
     EXPECT_EQ(summary({7, 0, 1}), "7 sets, no failures");
 }
 

@@ -7,7 +7,7 @@
 #include <QByteArray>
 #include <QtGlobal>
 
-/// The time zone of the process for as long as this lives.
+/// Sets the time zone of the process for the lifetime of this object.
 class LocalZone {
 public:
     explicit LocalZone(const char* name)

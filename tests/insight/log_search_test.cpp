@@ -16,7 +16,7 @@ using testing::IsEmpty;
 
 namespace {
 
-// Read when the first text is made.
+// Read when the first text is created.
 const bool localeIsSet = qputenv("LC_ALL", "en_US.UTF-8") && qputenv("TZ", "UTC");
 
 const LogKeywords german{QStringLiteral("satz"), QStringLiteral("typ"), QStringLiteral("fehler"),
@@ -41,7 +41,7 @@ TEST(LogQuery, Keywords) {
     EXPECT_TRUE(parsed("errors").withErrors);
     EXPECT_TRUE(parsed("Fehler").withErrors);
     EXPECT_TRUE(parsed("warnings").withWarnings);
-    // Nothing is asked for while it is being typed.
+    // An incomplete term matches everything while it is being typed.
     EXPECT_TRUE(parsed("set:").isEmpty());
     EXPECT_THAT(parsed("C:\\Data :x").words, ElementsAre("c:\\data", ":x"));
 }

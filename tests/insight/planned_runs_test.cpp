@@ -16,7 +16,7 @@ namespace {
 
 const QTimeZone utc = QTimeZone::utc();
 
-/// As "Mail 20:00-20:30!" with a mark for an overlap.
+/// As in "Mail 20:00-20:30!", where "!" marks an overlap.
 std::vector<std::string> written(const std::vector<PlannedRun>& runs) {
     std::vector<std::string> list;
     for (const PlannedRun& run : runs) {
@@ -49,7 +49,7 @@ TEST(PlannedRuns, RunsOfTwoSetsOverlap) {
             {{1, "A", &first, duration}, {2, "B", &second, 1'800}, {3, "C", &third, 1'800}},
             at("2026-11-20T00:00:00Z"), at("2026-11-21T00:00:00Z"), utc));
     };
-    // One that ends when the next one starts is out of its way.
+    // A run that ends when the next one starts doesn't overlap it.
     EXPECT_THAT(runs(1'800), ElementsAre("A 20:00-20:30", "B 20:30-21:00", "C 21:00-21:30"));
     EXPECT_THAT(runs(1'801), ElementsAre("A 20:00-20:30!", "B 20:30-21:00!", "C 21:00-21:30"));
     EXPECT_THAT(runs(3'601), ElementsAre("A 20:00-21:00!", "B 20:30-21:00!", "C 21:00-21:30!"));
@@ -70,7 +70,7 @@ TEST(PlannedRuns, AStopCutsARunOff) {
     EXPECT_THAT(written(runs), ElementsAre("A 20:00-20:15"));
 }
 
-/// As "run 0 day 1 0.25-0.50 lane 0".
+/// As in "run 0 day 1 0.25-0.50 lane 0".
 std::vector<std::string> parts(const std::vector<PlannedRun>& runs, std::vector<int>& lanes) {
     std::vector<std::string> list;
     for (const auto& part : insight::dayParts(runs, at("2026-11-20T09:00:00Z"), 2, utc, lanes))

@@ -6,7 +6,7 @@
 
 #include "insight/schedule_plan.h"
 
-/// Schedules and times as tests write them down.
+/// Schedules and times in the notation of the tests.
 namespace plans {
 
 inline const QTimeZone& berlin() {
@@ -14,7 +14,7 @@ inline const QTimeZone& berlin() {
     return zone;
 }
 
-/// Seconds of an ISO time with its offset, as "2026-03-29T01:30:00Z".
+/// Seconds of an ISO time with its offset, as in "2026-03-29T01:30:00Z".
 inline std::int64_t at(const char* time) {
     const QDateTime read = QDateTime::fromString(QString::fromLatin1(time), Qt::ISODate);
     if (!read.isValid())

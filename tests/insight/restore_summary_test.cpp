@@ -16,7 +16,7 @@ using testing::ElementsAre;
 
 namespace {
 
-// Read when the first text is made.
+// Read when the first text is created.
 const bool localeIsSet = qputenv("LC_ALL", "en_US.UTF-8") && qputenv("TZ", "UTC");
 
 class ChosenItemsTest : public testing::Test {

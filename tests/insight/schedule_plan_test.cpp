@@ -19,7 +19,7 @@ using testing::IsEmpty;
 
 namespace {
 
-/// The starts in UTC, as "2026-11-23T19:00:00Z".
+/// The starts in UTC, as in "2026-11-23T19:00:00Z".
 std::vector<std::string> starts(const std::vector<PlanDetail>& details, const char* from,
                                 const char* until, const QTimeZone& zone = berlin()) {
     std::vector<std::string> list;
@@ -31,7 +31,7 @@ std::vector<std::string> starts(const std::vector<PlanDetail>& details, const ch
 }
 
 TEST(SchedulePlan, RunsOnItsDaysAtTheLocalTime) {
-    // A Friday to a Tuesday.
+    // From a Friday to a Tuesday.
     EXPECT_THAT(
         starts({weekly(workdays, 20)}, "2026-11-20T00:00:00Z", "2026-11-25T00:00:00Z"),
         ElementsAre("2026-11-20T19:00:00Z", "2026-11-23T19:00:00Z", "2026-11-24T19:00:00Z"));
@@ -62,7 +62,7 @@ TEST(SchedulePlan, RepeatsAcrossMidnight) {
         starts({hourly(2, weekly(16, 22), {26, 0, 0})}, "2026-11-20T00:00:00Z",
                "2026-11-22T00:00:00Z", QTimeZone::utc()),
         ElementsAre("2026-11-20T22:00:00Z", "2026-11-21T00:00:00Z", "2026-11-21T02:00:00Z"));
-    // The span begins after the day of the start.
+    // The span starts on the day after the first start.
     EXPECT_THAT(starts({hourly(2, weekly(16, 22), {26, 0, 0})}, "2026-11-21T01:00:00Z",
                        "2026-11-22T00:00:00Z", QTimeZone::utc()),
                 ElementsAre("2026-11-21T02:00:00Z"));

@@ -20,7 +20,7 @@ namespace {
 
 constexpr std::int64_t day = 86'400;
 
-/// Every evening at eight; the agent makes up for a missed start for four hours.
+/// Daily at 20:00; the agent catches up on a missed start for four hours.
 class SetHealthTest : public testing::Test {
 protected:
     SetHealthTest() {
@@ -69,7 +69,7 @@ TEST_F(SetHealthTest, NeverBackedUpIsASetThatHoldsNothing) {
     facts.info.last_backup = 1;
     EXPECT_EQ(state(), HealthState::NeverBackedUp);
     EXPECT_EQ(judged().reason, HealthReason::noSuccess);
-    // It holds something, from a time that nobody knows.
+    // It holds something of unknown age.
     facts.info.last_backup = 0;
     facts.info.online_file_count = 1;
     EXPECT_EQ(state(), HealthState::Overdue);
@@ -83,7 +83,7 @@ TEST_F(SetHealthTest, FailedIsALastBackupWithErrors) {
     facts.lastAttempt->errors = 0;
     facts.lastAttempt->warnings = 5;
     EXPECT_EQ(state(), HealthState::Safe);
-    // A good one followed.
+    // A successful one followed.
     facts.lastAttempt = {7, end - 120, end - 60, 1, 0};
     EXPECT_EQ(state(), HealthState::Safe);
 }
@@ -97,7 +97,7 @@ TEST_F(SetHealthTest, FailedIsABackupAfterTheLastGoodOne) {
 TEST_F(SetHealthTest, OverdueBeyondTwoIntervals) {
     backedUpAt(now - 2 * day);
     facts.info.last_backup = facts.info.last_successful_backup;
-    // The last start of all is made up for by now, so that the age alone counts.
+    // At exactly two intervals the missed start is reported, beyond them the age.
     const SchedulePlan noon{{weekly(everyDay, 12)}};
     use(noon);
     now = at("2026-11-21T12:00:00Z");
@@ -128,13 +128,13 @@ TEST_F(SetHealthTest, ABackupThatTakesLongMissesNoStart) {
 
 TEST_F(SetHealthTest, OverdueWhenTheLastStartWasMissed) {
     backedUpAt(at("2026-11-20T20:00:00Z"));
-    // The start of the 21st, and four hours to make up for it.
+    // The start of the 21st, plus four hours to catch up on it.
     now = at("2026-11-22T00:00:00Z");
     EXPECT_EQ(state(), HealthState::Safe);
     ++now;
     EXPECT_EQ(state(), HealthState::Overdue);
     EXPECT_EQ(judged().reason, HealthReason::missedStart);
-    // A backup at the very start counts for it.
+    // A backup at exactly the start counts for it.
     backedUpAt(at("2026-11-21T20:00:00Z"));
     EXPECT_EQ(state(), HealthState::Safe);
     backedUpAt(at("2026-11-21T19:59:59Z"));

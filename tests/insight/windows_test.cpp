@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The windows over a simulated agent: what they ask it, and what they show.
+// The windows with a simulated agent: their calls, and what they show.
 
 #include <optional>
 
@@ -33,7 +33,7 @@ using support::child;
 
 constexpr int patience = 60'000;
 
-/// An agent that the client is logged in to.
+/// An agent with a session of the client.
 struct Session {
     explicit Session(Scenario scenario)
         : agent({.scenario = scenario}) {
@@ -61,7 +61,7 @@ struct Session {
     support::GuiAgent agent;
 };
 
-/// The monitor as the main window feeds it.
+/// The monitor, fed as by the main window.
 class Fed {
 public:
     Fed()
@@ -124,7 +124,7 @@ private slots:
 void InsightWindowsTest::setsStandWorstFirst() {
     Session session(Scenario::Overdue);
     Fed fed;
-    // Before anything was read, nobody knows that a backup is overdue.
+    // Until the schedules are read, it isn't known whether a backup is overdue.
     QCOMPARE(fed.monitor.count(), (insight::HealthCount{5, 0, 4}));
     BackupHealthWindow window(fed.monitor, everything);
     window.show();
@@ -240,7 +240,7 @@ void InsightWindowsTest::failedBackupsAreExplained() {
                 .endsWith(QStringLiteral("3 errors, 1 warning")));
     table.selectRow(row);
     QVERIFY(child<QLabel>(window, "labelHelp").text().contains(QStringLiteral("3 errors")));
-    // The set keeps its selection when the list is made again.
+    // The set remains selected when the list is rebuilt.
     fed.beat();
     QCOMPARE(table.selectionModel()->selectedRows().first().row(), row);
 }
@@ -253,7 +253,7 @@ void InsightWindowsTest::nextRunsShowOverlaps() {
     QTRY_VERIFY_WITH_TIMEOUT(!fed.monitor.isReading(), patience);
     const auto& runs = child<QTableView>(window, "tableRuns");
     const QStringList sets = column(runs, NextRunsModel::set);
-    // Every evening, six times on workdays, and three times on two nights of the week.
+    // Every evening, six times on each workday, and three times on two nights of the week.
     QCOMPARE(sets.count(QStringLiteral("Pictures and Videos")), 14);
     QVERIFY(sets.count(QStringLiteral("Mail archive")) >= 54);
     QVERIFY(sets.count(QStringLiteral("Night shift")) >= 10);
@@ -299,7 +299,7 @@ void InsightWindowsTest::aFileIsFoundInAThousandFolders() {
     QCOMPARE(cell(table, 0, FoundFilesModel::set), QStringLiteral("Archive"));
     const auto methods = session.methods();
     QCOMPARE(std::count(methods.begin(), methods.end(), "prepare_restore"), 1);
-    // The top, the drive, the set's folder, and what is in it.
+    // The top level, the drive, the set's folder, and its content.
     QCOMPARE(std::count(methods.begin(), methods.end(), "getSubItems"),
              static_cast<std::ptrdiff_t>(simulator::health::folders + 3));
     QCOMPARE(session.views(), 0);

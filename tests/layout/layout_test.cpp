@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Holds the direction of the includes: a folder may include only folders that stand below it.
+// Enforces the direction of includes: a folder may include only folders below it.
 
 #include <filesystem>
 #include <fstream>
@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 
 const fs::path root = TARN_SOURCE_DIR;
 
-/// Folders of ours that each folder may include beside itself.
+/// The project folders that each folder may include besides itself.
 const std::map<std::string, std::set<std::string>> allowed = [] {
     std::map<std::string, std::set<std::string>> table{
         {"base", {}},
@@ -45,7 +45,7 @@ struct Include {
     std::string target;
 };
 
-/// The folder of ours that a file belongs to, as in "hessian" or "simulator".
+/// The project folder of a file, as in "hessian" or "simulator".
 std::string folderOf(const fs::path& file) {
     const fs::path relative = fs::relative(file, root);
     auto part = relative.begin();
@@ -78,7 +78,7 @@ std::vector<Include> allIncludes() {
     return all;
 }
 
-/// The first part of an include's path, if that is a folder of ours.
+/// The first component of an include's path if it is a project folder.
 std::string ourFolder(const std::string& target) {
     const std::string first = target.substr(0, target.find('/'));
     return target.find('/') != std::string::npos && allowed.count(first) ? first : std::string();
@@ -118,7 +118,7 @@ TEST(Layout, TheWireKnowsNoQt) {
 }
 
 TEST(Layout, HeadersThatOthersIncludeKeepTheNetworkLibraryOut) {
-    // A header that needs the network library is included by sources of its own folder alone.
+    // A header that needs the network library is included only by sources in its own folder.
     static const std::regex network(R"(^boost/(asio|beast))");
     const auto includes = allIncludes();
     std::set<std::string> heavy;

@@ -56,7 +56,7 @@ QStringList selectedPaths(const QTreeView& tree) {
 
 } // namespace
 
-/// What a backup set holds as a tree, its two proxies, the memory of what is expanded, and the
+/// The content of a backup set as a tree, its two proxies, the memory of expanded folders, and the
 /// table of generations.
 class BackedUpModelTest : public QObject {
     Q_OBJECT
@@ -227,13 +227,13 @@ void BackedUpModelTest::eachChangeIsToldOnce() {
     const QSignalSpy changed(model_.get(), &CBackedUpDataModel::dataChanged);
     const QSignalSpy selected(model_.get(), &CBackedUpDataModel::itemSelectionChanged);
     check(*model_, "C:/users/Ann/a.doc");
-    // The file and the four above it, of which the root has no index.
+    // The file and its four ancestors, of which the root has no index.
     QCOMPARE(selected.size(), 5);
     QCOMPARE(changed.size(), 4);
     QCOMPARE(changed.first().first().toModelIndex(), indexAt(*model_, "C:/users/Ann/a.doc"));
     QVERIFY(changed.first().at(2).value<QVector<int>>().isEmpty());
     check(*model_, "C:/users/Ann/b.txt");
-    // Nothing above changes from partly checked.
+    // The ancestors stay partly checked.
     QCOMPARE(selected.size(), 6);
 }
 
@@ -280,7 +280,7 @@ void BackedUpModelTest::directoriesOnly() {
     QCOMPARE(directories.QObject::parent(), model_.get());
     QCOMPARE(namesIn(directories), q("C:|D:"));
     QCOMPARE(namesIn(directories, indexAt(directories, "C:")), q("etc|users"));
-    // Nobody knows yet that there are only files in it.
+    // Before it is fetched, it isn't known to contain only files.
     QVERIFY(directories.hasChildren(indexAt(directories, "D:")));
     QCOMPARE(directories.rowCount(indexAt(directories, "D:")), 0);
     QVERIFY(!directories.hasChildren(indexAt(directories, "D:")));
@@ -291,7 +291,7 @@ void BackedUpModelTest::filesOfTheChosenFolder() {
     QCOMPARE(namesIn(files), q("C:|D:"));
     QCOMPARE(namesIn(files, indexAt(files, "C:")), q("etc|Notes|users"));
     files.setSourceRoot(indexAt(*model_, "C:/users/Ann"));
-    // What stands above stays, so that the view has a way down to its root.
+    // The ancestors stay, so that the view has a path down to its root.
     QCOMPARE(namesIn(files, indexAt(files, "C:")), q("etc|Notes|users"));
     QCOMPARE(namesIn(files, indexAt(files, "C:/users/Ann")), q("a.doc|b.txt"));
     files.setFilterWildcard(q("*.txt"));
@@ -456,7 +456,7 @@ void BackedUpModelTest::theNewestInTheSpanHasTheSign() {
     table.selectNewestInRange(0, 0);
     QCOMPARE(picture(0), sign);
     QCOMPARE(picture(1), plain);
-    // The one that lost the sign, and the one that has it.
+    // One row lost the sign, the other got it.
     QCOMPARE(changed.size(), 3);
     QVERIFY(!table.index(0, 1).data(Qt::DecorationRole).isValid());
     QVERIFY(table.isNewestWithin(3500, 3000));

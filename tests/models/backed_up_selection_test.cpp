@@ -27,7 +27,7 @@ protected:
         agent_->items[2] = {storedFile(20, "x")};
     }
 
-    /// The node at the end of names that are joined by slashes, fetched down to it.
+    /// The node at a slash-separated path of names; fetches each level on the way.
     BackedUpNode& at(const std::string& path) {
         LazyNode* node = &root_;
         for (std::size_t begin = 0; begin <= path.size();) {
@@ -78,7 +78,7 @@ TEST_F(BackedUpSelectionTest, AnUncheckedFileSendsItsSiblingsInPlaceOfTheFolder)
     EXPECT_EQ(at("C:/users").checkState(), CheckState::Partly);
     EXPECT_EQ(at("C:").checkState(), CheckState::Partly);
     EXPECT_EQ(root_.checkState(), CheckState::Partly);
-    // In the order of the tree: "notes" stands before "users".
+    // In tree order: "notes" comes before "users".
     EXPECT_THAT(selectedIds(root_), ElementsAre(11, 100, 102));
 }
 

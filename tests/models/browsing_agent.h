@@ -12,8 +12,8 @@
 #include "api/data_source_browser.h"
 #include "transport/i_call_dispatcher.h"
 
-/// An agent that has one browser, with folders and networks made up by a test, and writes down what
-/// it is asked. What it doesn't know it refuses.
+/// An agent with one browser whose folders and networks a test defines. It records its calls and
+/// refuses those it doesn't know.
 class BrowsingAgent final : public hessiancln::ICallDispatcher {
 public:
     using Folder = std::vector<hessiancln::browse_item_info>;
@@ -21,7 +21,7 @@ public:
 
     BrowsingAgent();
 
-    /// A browser of the agent. The agent isn't told when it goes.
+    /// A browser of the agent. Its destruction makes no call.
     static boost::shared_ptr<hessiancln::DataSourceBrowser>
     browser(const boost::shared_ptr<BrowsingAgent>& agent);
 
@@ -29,7 +29,7 @@ public:
     std::map<std::string, Network> networks; ///< by path
     std::function<void()> onCall = [] {};    ///< runs in each call
 
-    /// The calls since the last time that they were taken, as "getSubItems(pc, C:)", one to a line.
+    /// The calls since the last call of this function, one per line, as in "getSubItems(pc, C:)".
     std::string takeCalls();
 
     std::string sendRequest(const std::string& url, const std::string& request) override;

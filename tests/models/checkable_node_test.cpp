@@ -22,7 +22,7 @@ constexpr auto partly = State::Partly;
 constexpr auto yes = State::Checked;
 constexpr auto excluded = State::Excluded;
 
-/// The names of the nodes that a change was told of, in order.
+/// Records, in order, the names of the nodes that a change is reported for.
 class Told {
 public:
     CheckListener listener() {
@@ -104,7 +104,7 @@ TEST(CheckableNodeTest, UncheckingBelowAnExcludedFolderExcludes) {
 TEST(CheckableNodeTest, CheckingAnExcludedItemAgainRecomputesItsParents) {
     const auto tree =
         root(partly, {folder("C:", partly, {folder("d", yes, {file("x", excluded)}), file("e")})});
-    at(*tree, "C:/d").setCheckState(partly); // so that there is something to put right
+    at(*tree, "C:/d").setCheckState(partly); // so that there is something to correct
     check(at(*tree, "C:/d/x"), true);
     EXPECT_EQ(states(*tree), "1 C:1 d2 x2 e0");
 }
@@ -136,7 +136,7 @@ TEST(CheckableNodeTest, TheChildrenOfSomethingTakenOutFollowIt) {
     EXPECT_EQ(states(*tree), "0 C:0 d0 f0 x0");
 }
 
-/// The state that a node has after it was recomputed, and what was told.
+/// The state of a node after its recomputation, and the reported nodes.
 struct Recomputed {
     State state;
     std::string told;
@@ -203,7 +203,7 @@ TEST(RecomputeTest, AncestorsAreRecomputedUpToTheRoot) {
     EXPECT_EQ(states(*tree), "2 C:2 d2 x2");
 }
 
-/// A tree of a kind that knows no exclusion.
+/// A tree of a kind without exclusions.
 class PlainNode final : public CheckableNode {
 public:
     const std::string& name() const override { return name_; }

@@ -51,7 +51,7 @@ private slots:
     void initTestCase() {
         resources::initPictures();
         arrows_ = new ArrowStyle;
-        QApplication::setStyle(arrows_); // which takes it
+        QApplication::setStyle(arrows_); // takes ownership
     }
     void init();
 
@@ -81,7 +81,7 @@ private slots:
 
 private:
     QString calls() { return QString::fromStdString(agent_->takeCalls()); }
-    /// Shows the model in a tree, as pages do.
+    /// Shows the model in a tree, as the pages do.
     std::unique_ptr<CSmallTreeView> shown(QAbstractItemModel& model) {
         auto view = std::make_unique<CSmallTreeView>();
         view->setItemDelegate(new CSelectDisplayDelegate(view.get()));
@@ -291,7 +291,7 @@ void DataSourceModelTest::eachChangeIsToldOnce() {
     connect(model_.get(), &CDataSourceModel::itemSelectionChanged, this,
             [&] { told << QStringLiteral("!"); });
     check(*model_, "D:", true);
-    // The root, which nobody sees, comes last.
+    // The invisible root comes last.
     QCOMPARE(told.join(QLatin1Char(' ')), QStringLiteral("D: ! x ! y ! !"));
     told.clear();
     check(*model_, "D:/x", false);

@@ -18,7 +18,7 @@ using tree::unopened;
 
 constexpr auto no = State::Unchecked;
 
-/// A node that nobody gets an answer from.
+/// A node whose fetch always fails.
 class RefusingNode final : public LazyNode {
 public:
     const std::string& name() const override { return name_; }

@@ -30,7 +30,7 @@ QString text(const std::string& name) {
     return QString::fromUtf8(name.data(), static_cast<int>(name.size()));
 }
 
-/// The places of names in the order that Qt's own comparison gives.
+/// The indices of the names in the order of Qt's own comparison.
 std::vector<std::size_t> orderOfQt(const Names& names) {
     std::vector<QString> texts;
     for (const std::string& name : names)
@@ -50,7 +50,7 @@ std::vector<std::size_t> order(const Names& names) {
     return shownOrder(ranked);
 }
 
-/// Names on which a comparison that is only nearly right goes wrong.
+/// Names that a slightly wrong comparison sorts differently.
 const Names& hardNames() {
     using namespace std::string_literals;
     static const Names names{"",
@@ -226,7 +226,7 @@ TEST(ShownOrderTest, EachCodePointStandsWhereQtPutsIt) {
         if (point == 0xd800)
             point = 0xe000;
         if (point >= 0x20000 && point < 0xe0000)
-            point = 0xe0000; // nothing but ideographs and holes, and tests are to be short
+            point = 0xe0000; // only ideographs and unassigned code points; keeps the test short
         names.push_back(QString::fromUcs4(&point, 1).toStdString());
     }
     std::shuffle(names.begin(), names.end(), std::mt19937(1));

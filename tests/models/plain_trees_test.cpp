@@ -59,7 +59,7 @@ private slots:
     void initTestCase() {
         resources::initPictures();
         arrows_ = new ArrowStyle;
-        QApplication::setStyle(arrows_); // which takes it
+        QApplication::setStyle(arrows_); // takes ownership
     }
     void init();
 

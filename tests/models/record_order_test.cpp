@@ -12,7 +12,7 @@ struct Record {
     std::int64_t number = 0;
     std::string text;
     std::int32_t kind = 0;
-    char mark = ' '; ///< tells records with equal keys apart
+    char mark = ' '; ///< distinguishes records with equal keys
 };
 
 using Key = models::SortKey<Record>;
@@ -56,7 +56,7 @@ TEST(RecordOrder, TextGoesByItsBytes) {
 }
 
 TEST(RecordOrder, LabelsGoByWhatPeopleSee) {
-    // Upper case letters come first, and equal labels of different numbers count as equal.
+    // Upper case comes first, and equal labels with different numbers compare equal.
     const std::vector<Record> records{
         {0, {}, 3, 'c'}, {0, {}, 2, 'b'}, {0, {}, 0, 'd'}, {0, {}, 1, 'a'}};
     EXPECT_EQ(order(records, byLabel), "abcd");

@@ -7,8 +7,7 @@
 #include <QStyleOption>
 #include <QTreeView>
 
-/// The index at the end of names that are joined by slashes; ends the test program if there is
-/// none.
+/// The index at a slash-separated path of names; aborts the test program if there is none.
 inline QModelIndex indexAt(const QAbstractItemModel& model, const char* path) {
     QModelIndex index;
     for (const QString& name : QString::fromUtf8(path).split(QLatin1Char('/'))) {
@@ -31,7 +30,7 @@ inline QString namesIn(const QAbstractItemModel& model, const QModelIndex& folde
     return names.join(QLatin1Char('|'));
 }
 
-/// Remembers beside which rows a tree draws an arrow to open them.
+/// Records the rows beside which a tree draws an expansion arrow.
 class ArrowStyle : public QProxyStyle {
 public:
     ArrowStyle()
@@ -44,7 +43,7 @@ public:
         QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
 
-    /// Whether the view, drawn anew, has an arrow beside `index`.
+    /// Whether the view, when redrawn, has an arrow beside `index`.
     bool hasArrow(QTreeView& view, const QModelIndex& index) const {
         arrows.clear();
         view.viewport()->grab();

@@ -10,7 +10,7 @@
 
 #include "models/checkable_node.h"
 
-/// A node of a tree that is made up by a test.
+/// A node of a tree that a test defines.
 class TestNode final : public models::CheckableNode {
 public:
     explicit TestNode(std::string name, bool isFile = false)
@@ -23,9 +23,9 @@ public:
         return models::excludedIfSelectedAround(*this);
     }
 
-    /// How often it was asked for its children.
+    /// How often its children were fetched.
     int asked = 0;
-    /// The children that it gives then.
+    /// The children it then returns.
     Children prepared;
 
 private:
@@ -38,14 +38,14 @@ private:
     bool isFile_;
 };
 
-/// A whole tree, told from the inside out:
+/// Builds a whole tree from nested calls:
 ///
 ///     root(folder("C:", State::Partly, {file("a", State::Checked), unopened("d")}))
 namespace tree {
 
 using State = models::CheckState;
 
-/// What is to become a node.
+/// Describes a node to create.
 struct Plan {
     std::string name;
     State state = State::Unchecked;
@@ -60,7 +60,7 @@ inline Plan folder(std::string name, State state, std::vector<Plan> children = {
 inline Plan file(std::string name, State state = State::Unchecked) {
     return {std::move(name), state, {}, true};
 }
-/// A folder that nobody has looked into yet; the children stand ready.
+/// A folder that hasn't been fetched yet; its children are prepared.
 inline Plan unopened(std::string name, State state = State::Unchecked,
                      std::vector<Plan> children = {}) {
     return {std::move(name), state, std::move(children), false, false};
@@ -80,7 +80,7 @@ inline std::unique_ptr<TestNode> root(State state, std::vector<Plan> children) {
     return make(folder({}, state, std::move(children)));
 }
 
-/// The node at the end of names that are joined by slashes.
+/// The node at a slash-separated path of names.
 inline TestNode& at(TestNode& top, const std::string& path) {
     const auto end = path.find('/');
     for (const auto& child : top.children())
@@ -91,7 +91,7 @@ inline TestNode& at(TestNode& top, const std::string& path) {
     throw std::out_of_range(path);
 }
 
-/// The states of all loaded nodes, parents first: "C:2 a0".
+/// The states of all loaded nodes, parents first, as in "C:2 a0".
 inline std::string states(models::CheckableNode& top) {
     std::string text;
     models::walk(top, [&](const models::CheckableNode& node) {

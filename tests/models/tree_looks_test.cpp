@@ -22,7 +22,7 @@ using hessiancln::SelectableItemType;
 
 namespace {
 
-/// The delegate with its boxes open to a test.
+/// Gives a test access to the delegate's check boxes.
 class OpenDelegate : public CSelectDisplayDelegate {
 public:
     QImage box(int checkState) const {
@@ -35,7 +35,7 @@ public:
     }
 };
 
-/// A tree whose pictures are for a screen of twice the density.
+/// A tree with pictures for a screen of double pixel density.
 class TwiceModel : public CDataSourceModel {
 public:
     using CDataSourceModel::CDataSourceModel;
@@ -192,7 +192,7 @@ void TreeLooksTest::thePictureOfASelectedRowStandsOut() {
     QAbstractItemView& view =
         asTree ? static_cast<QAbstractItemView&>(tree) : static_cast<QAbstractItemView&>(list);
     const QColor row = view.palette().color(QPalette::Highlight);
-    // All that is seen is the picture, in the colour of the row.
+    // Only the picture is visible, in the colour of the row.
     QPixmap picture(16, 16);
     picture.fill(row);
     QStandardItemModel model;

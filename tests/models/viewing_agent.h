@@ -12,24 +12,24 @@
 #include "api/backup_set_data_view.h"
 #include "transport/i_call_dispatcher.h"
 
-/// An agent that has one view of what a set holds, made up by a test, and writes down what it is
-/// asked. What it doesn't know it refuses.
+/// An agent with one view of a set's content, which a test defines. It records its calls and
+/// refuses those it doesn't know.
 class ViewingAgent final : public hessiancln::ICallDispatcher {
 public:
     using Items = std::vector<hessiancln::SelectableItem>;
 
     ViewingAgent();
 
-    /// A view of the agent. The agent isn't told when it goes.
+    /// A view of the agent. Its destruction makes no call.
     static boost::shared_ptr<hessiancln::BackupSetDataView>
     view(const boost::shared_ptr<ViewingAgent>& agent);
 
-    std::map<std::int64_t, Items> items; ///< by the id of what holds them
-    /// Of files, by their ids.
+    std::map<std::int64_t, Items> items; ///< by the id of their parent
+    /// Of files, by id.
     std::map<std::int64_t, std::vector<hessiancln::file_generations>> generations;
 
-    /// The ids that were asked for since the last time that they were taken, as "-1 1 2"; those of
-    /// files whose generations were asked for with a "g" in front.
+    /// The ids requested since the last call of this function, as in "-1 1 2"; those of files whose
+    /// generations were requested start with a "g".
     std::string takeCalls();
 
     std::string sendRequest(const std::string& url, const std::string& request) override;

@@ -28,10 +28,10 @@ TEST(EventLog, GetsAnErrorUnderTheNameOfItsSource) {
     ::closelog();
 }
 
-/// In a process of its own: fills what is left when `closed` has been closed. The exit status is
-/// the place that the next file gets.
+/// In a separate process: closes `closed`, then fills the standard streams. The exit status is the
+/// next free file descriptor.
 [[noreturn]] void placeOfNextFile(std::initializer_list<int> closed, bool fill) {
-    // What a test runner left open above the three would hide the places to come.
+    // Other descriptors left open by a test runner would change the result.
     ::close_range(3, ~0u, 0);
     for (const int place : closed)
         ::close(place);
@@ -55,7 +55,7 @@ TEST(StandardStreams, StayWhatTheyAreWhereTheyAreOpen) {
 
 TEST(ProcessId, IsTheSystemsOwn) {
     EXPECT_EQ(platform::processId(), static_cast<long>(::getpid()));
-    EXPECT_EQ(platform::threadId(), platform::processId()); // as on every first thread
+    EXPECT_EQ(platform::threadId(), platform::processId()); // as on the first thread of any process
 }
 
 TEST(UserName, IsTheAccountOfTheProcessWhateverTheEnvironmentSays) {

@@ -26,7 +26,7 @@ using support::ClockOffset;
 
 using Bytes = std::vector<std::uint8_t>;
 
-// What the interface answers on the system that it comes from.
+// Status codes of the interface on its native system.
 constexpr auto noCredentials = static_cast<SecurityStatus>(0x8009030E);
 constexpr auto internalError = static_cast<SecurityStatus>(0x80090304);
 constexpr auto invalidToken = static_cast<SecurityStatus>(0x80090308);
@@ -94,7 +94,7 @@ TEST(LogonOffer, IsNotMadeOnASystemWithoutKerberos) {
     EXPECT_FALSE(isAvailable());
 }
 
-/// A context of this system's operations, as the session drives it.
+/// A context of this system's operations, driven as by the session.
 class SecurityContext : public testing::Test {
 protected:
     ~SecurityContext() override { operations().release(credentials, context); }
@@ -112,7 +112,7 @@ protected:
         return status;
     }
 
-    /// The agent's answer to the last token.
+    /// The agent's reply to the last token.
     Bytes accepted() {
         OM_uint32 minor = 0;
         const std::string keyTable = realm.keyTable();
@@ -223,7 +223,7 @@ TEST_F(SecurityContext, HoldsNothingAfterItsRelease) {
         for (int i = 0; i < times; ++i) {
             ASSERT_EQ(acquire(), platform::securityOk);
             ASSERT_EQ(round(), platform::securityContinueNeeded);
-            // Once more from the start, as after an empty answer.
+            // Starts again, as after an empty reply.
             ASSERT_EQ(round(), platform::securityContinueNeeded);
             operations().release(credentials, context);
             ASSERT_FALSE(credentials.held());

@@ -13,8 +13,8 @@
 
 namespace session_tests {
 
-/// A session with a simulated agent over TLS. At the end nothing may be left on the agent that
-/// wasn't released, and nothing may have been done that no right client does.
+/// A session with a simulated agent over TLS. At the end the agent must hold no unreleased
+/// references and must have recorded no violations.
 class AgentTest : public SessionTest {
 protected:
     explicit AgentTest(simulator::Options options = {})
@@ -30,7 +30,7 @@ protected:
 
     void logIn() { session::connectToAgent(agent.address(), "demo", "demo", 1); }
 
-    /// As the agent's log shows the login of `user` with a password.
+    /// The login of `user` with a password, as in the agent's log.
     std::string loginText(const std::string& user) const {
         return "ClientConnection.login(\"" + agent.baseUrl() + "\", \"13.0.0.0\", \"" + user +
                "\", ***, 1)";
@@ -50,7 +50,7 @@ protected:
     static constexpr const char* release = "ClientConnection.Release()";
 
     simulator::Simulator agent;
-    /// The agent can't be reached any more, so nothing can be released.
+    /// The agent is unreachable, so nothing can be released.
     bool agentGone = false;
 };
 

@@ -20,7 +20,7 @@ using testing::IsEmpty;
 
 class DomainList : public session_tests::SessionTest {
 protected:
-    /// The list of a server that answers with `reply`, as UTF-8.
+    /// The list from a server that replies with `reply`, as UTF-8.
     static std::vector<std::string> read(const std::string& reply) {
         WebServer server([&reply](const std::string&) { return webPage(bytes(reply)); });
         return asUtf8(readDomainList(server.url()));

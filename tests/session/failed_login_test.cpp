@@ -11,7 +11,7 @@
 #include "tests/support/security_operations_override.h"
 #include "transport/invoke_exception.h"
 
-// Servers that are no agent, and agents that answer nonsense. Replies are typed by hand.
+// Servers that aren't agents, and agents with malformed replies. Replies are typed by hand.
 namespace {
 
 using hessiancln::invoke_exception;
@@ -39,7 +39,7 @@ protected:
     }
 };
 
-/// A server that answers the first call with one message and each later one with another.
+/// A server that answers the first call with one message and all later ones with another.
 WebServer::Handler answers(const std::string& first, const std::string& later) {
     return [first, later, calls = 0](const std::string&) mutable {
         return webPage(bytes(calls++ == 0 ? first : later));

@@ -27,25 +27,25 @@ constexpr platform::SecurityStatus refused = -1;
 
 const std::string noReference = "N";
 
-/// A reference to the session object with a name of one letter.
+/// A reference to the session object with a one-letter name.
 std::string reference(const std::string& letter) {
     return "r t 00 1F 'com.norvel.api.ClientConnection' S 00 0D 'https://a:1/" + letter + "'";
 }
 
-/// A call with the framed token given in the notation of bytes, 6 bytes long.
+/// A call with the framed token, which is 6 bytes long and in the notation of `bytes`.
 std::string step(const std::string& framedToken) {
     return "c 01 00 m 00 0A 'sspi_login' S 00 0B 'https://a:1' S 00 08 '13.0.0.0' B 00 06 " +
            framedToken + " z";
 }
 
-/// An answer with the chunk `context` and the reference `conn`.
+/// A reply with the chunk `context` and the reference `conn`.
 std::string answer(const std::string& context, const std::string& conn) {
     return "r 01 00 M t 00 1E 'com.norvel.api.sspi_login_info' S 00 07 'context' " + context +
            " S 00 04 'user' S 00 04 'anna' S 00 06 'domain' S 00 06 'OFFICE' S 00 04 'conn' " +
            conn + " z z";
 }
 
-/// Frames of the tokens AA AA and BB BB, and a context that holds the token CC.
+/// Frames of the tokens AA AA and BB BB, and a context with the token CC.
 const std::string frameA = "02 00 00 00 AA AA";
 const std::string frameB = "02 00 00 00 BB BB";
 const std::string contextC = "B 00 05 01 00 00 00 CC";
@@ -66,7 +66,7 @@ protected:
     boost::shared_ptr<ScriptedDispatcher> agent = boost::make_shared<ScriptedDispatcher>();
     ScriptedSecurityOperations system;
     ClientConnection bootstrap{"https://a:1/api", false, 0, ""};
-    // What stood there before, told by its URL.
+    // The previous connection, recognisable by its URL.
     boost::shared_ptr<ClientConnection> connection =
         boost::make_shared<ClientConnection>("https://old", false, 0u, "");
 };

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Integrated logon with this system's own security operations, in a realm that grants tickets, to
-// an agent that checks them.
+// Integrated logon with this system's own security operations, in a realm that issues tickets, to
+// an agent that verifies them.
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -31,7 +31,7 @@ using testing::MatchesRegex;
 using testing::SizeIs;
 using namespace std::chrono_literals;
 
-/// The system's own operations, and all tokens that they write.
+/// The system's own operations, recording all tokens that they write.
 class RecordingOperations : public platform::SecurityOperations {
 public:
     std::vector<std::string> tokens;
@@ -65,7 +65,7 @@ private:
     platform::SecurityOperations& system_ = *platform::securityOperations();
 };
 
-/// Has to be there before the agent, which takes its keys from it.
+/// A base class, so that it exists before the agent, which takes its keys from it.
 struct InRealm {
     support::KerberosRealm realm;
 };
@@ -90,13 +90,13 @@ protected:
         return textOf<invoke_exception>([this] { logOn(); });
     }
 
-    /// As the agent's log shows one round, whatever the token's size.
+    /// One round as in the agent's log, with any token size.
     testing::Matcher<const std::string&> step() const {
         return MatchesRegex("ClientConnection.sspi_login\\(\"" + agent.baseUrl() +
                             "\", \"13.0.0.0\", <[0-9]+ bytes>\\)");
     }
 
-    /// The logon of a user without a name, which this agent refuses.
+    /// Expects a login without a user name, which this agent refuses.
     void expectTheLoginOfAGuest() {
         EXPECT_EQ(refusal(), "A user name is needed to log in.");
         EXPECT_EQ(agent.callTexts().back(), "ClientConnection.login(\"" + agent.baseUrl() +
@@ -176,7 +176,7 @@ TEST_F(KerberosLogon, SucceedsAfterOneThatFailed) {
     EXPECT_TRUE(session::connectedToAgent());
 }
 
-/// An agent whose keys are others than the realm's.
+/// An agent whose keys differ from the realm's.
 class KerberosLogonWithOtherKeys : public KerberosLogon {
 protected:
     KerberosLogonWithOtherKeys()
@@ -199,7 +199,7 @@ TEST_F(KerberosLogonWithOtherKeys, ShowsTheAgentsText) {
     expectNoSession();
 }
 
-/// An agent that answers the first token with none, so that the client begins once more, and
+/// An agent that replies to the first token without one, so that the client starts again, and
 /// refuses the second.
 class KerberosLogonInTwoSteps : public KerberosLogon {
 protected:
@@ -270,7 +270,7 @@ TEST_F(KerberosLogonOnRecord, WritesNoSecretAnywhere) {
         EXPECT_FALSE(support::revealsPartOf(textOfFile(realm.file(secret)), written)) << secret;
 }
 
-/// Without TLS, which remembers its sessions, and without a log of calls.
+/// Without TLS, which caches its sessions, and without a log of calls.
 class ManyKerberosLogons : public KerberosLogon {
 protected:
     ManyKerberosLogons()
@@ -303,8 +303,8 @@ TEST_F(ManyKerberosLogons, LeaveNothingBehind) {
     const std::size_t heap = support::heapInUse();
     const std::ptrdiff_t files = openFiles();
     logOnAndOff(1000);
-    // One context or set of credentials more for each would be a multiple of that; the buffers of a
-    // few connections may be there or not.
+    // Leaking one context or set of credentials per logon would be a multiple of that; the buffers
+    // of a few connections may or may not exist.
     EXPECT_LT(support::heapInUse(), heap + 1000 * 300);
     EXPECT_LE(openFiles(), files + 4);
 }

@@ -6,7 +6,7 @@
 
 #include "session/text.h"
 
-// Results are compared as UTF-8, so that a failure prints them.
+// Results are compared as UTF-8, which a failure prints legibly.
 namespace {
 
 using session::fromWire;

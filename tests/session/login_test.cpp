@@ -30,7 +30,7 @@ TEST_F(Login, AsksForTheKindAndLogsInThenMovesToTheStream) {
     EXPECT_EQ(session::currentUser(), "demo");
     expectStoredKind(8, true, false);
 
-    // The agent takes it for a violation if an object of a session is called over HTTP.
+    // A call of a session's object over HTTP would be a violation.
     EXPECT_FALSE(session::getConnection()->getTarnClientInfo().empty());
     EXPECT_THAT(agent.callTexts(),
                 ElementsAre(askKind, loginText("demo"), "ClientConnection.getTarnClientInfo()"));
@@ -216,7 +216,7 @@ TEST_F(PlainLogin, KeepsTheSchemeForTheStream) {
     EXPECT_FALSE(session::getConnection()->getTarnClientInfo().empty());
 }
 
-/// An agent that asks for two tokens and then lets the user in.
+/// An agent that needs two tokens before it lets the user in.
 class IntegratedLogin : public session_tests::AgentTest {
 protected:
     IntegratedLogin()

@@ -13,7 +13,8 @@
 
 namespace session_tests {
 
-/// Begins and ends without a session, and with process values that tell whether they were written.
+/// Starts and ends without a session, with process-wide values that reveal whether they were
+/// written.
 class SessionTest : public testing::Test {
 protected:
     SessionTest() {
@@ -29,7 +30,7 @@ protected:
     static constexpr std::int32_t untouchedType = -77;
     static constexpr const char* untouchedUser = "nobody yet";
 
-    /// What is so after every failed login, whatever the cause.
+    /// Holds after every failed login, whatever the cause.
     static void expectNoSession() {
         EXPECT_FALSE(session::connectedToAgent());
         EXPECT_EQ(session::currentUser(), untouchedUser);
@@ -52,7 +53,7 @@ protected:
     static void expectUntouchedKind() { expectStoredKind(untouchedType, true, true); }
 };
 
-/// The text of the `Failure` that `act` raises.
+/// The text of the `Failure` that `act` throws.
 template <class Failure>
 std::string textOf(const std::function<void()>& act) {
     try {

@@ -8,7 +8,7 @@
 #include "tests/support/bytes.h"
 #include "transport/invoke_exception.h"
 
-// What the agent is told, in which order, from login to the last release.
+// The agent's calls and their order, from the login to the last release.
 namespace {
 
 using hessiancln::invoke_exception;
@@ -24,7 +24,7 @@ protected:
         agent.clearCallLog();
     }
 
-    /// An id that the agent has a backup set for.
+    /// The id of an existing backup set.
     std::int32_t anySet() {
         std::int32_t id = 0;
         agent.withWorld([&id](simulator::World& world) { id = world.sets().front()->info.id; });
@@ -143,7 +143,7 @@ TEST_F(SessionLifetime, LoginWhileTheMutexIsHeldMakesOthersWait) {
     agent.inject("login", simulator::Delay{std::chrono::milliseconds(100)});
     auto login = std::async(std::launch::async, [this] { logIn(); });
     ASSERT_TRUE(agent.waitForCall("login"));
-    // Without the wait this would be the exception of a missing session.
+    // Without the wait this would throw the exception of a missing session.
     EXPECT_TRUE(session::getConnection());
     login.get();
 }

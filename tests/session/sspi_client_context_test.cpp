@@ -156,7 +156,7 @@ TEST_P(SspiOutcome, FollowsFromTheStatus) {
     EXPECT_EQ(context.done(), outcome.done);
 }
 
-// The result of a completion stands in the place of the round's status.
+// The result of a completion replaces the round's status.
 INSTANTIATE_TEST_SUITE_P(
     Statuses, SspiOutcome,
     testing::Values(Outcome{0, 0, false, true}, Outcome{0x90312, 0, false, false},

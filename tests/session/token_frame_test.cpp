@@ -11,8 +11,8 @@ namespace {
 
 using hessianser::Binary;
 
-/// The token that a frame of exactly these bytes holds. Copied to memory of its own size, so that
-/// a read outside it is found by a sanitizer.
+/// The token in a frame of exactly these bytes. Copied to a buffer of exactly that size, so that a
+/// sanitizer detects any read outside it.
 Binary tokenIn(const Binary& bytes) {
     const auto exact = std::make_unique<std::uint8_t[]>(bytes.size());
     std::ranges::copy(bytes, exact.get());

@@ -9,7 +9,7 @@ namespace session_tests {
 
 namespace {
 
-/// The length that the head of a request tells for its body.
+/// The body length according to the head of a request.
 std::size_t bodyLength(const std::string& head) {
     const std::string name = "Content-Length: ";
     const std::size_t at = head.find(name);

@@ -11,12 +11,12 @@
 
 namespace session_tests {
 
-/// A web server without TLS on a free port of 127.0.0.1: it answers each request with what the
-/// test says, then closes the connection.
+/// A web server without TLS on a free port of 127.0.0.1: answers each request with the handler's
+/// response, then closes the connection.
 class WebServer {
 public:
-    /// Takes the body of a request, gives the whole response, head included; an empty one closes
-    /// the connection without a word. Runs on a thread of the server.
+    /// Takes the body of a request and returns the whole response, including the head; an empty one
+    /// closes the connection without a response. Runs on a thread of the server.
     using Handler = std::function<std::string(const std::string& body)>;
 
     explicit WebServer(Handler handler);
@@ -26,7 +26,7 @@ public:
     /// "http://127.0.0.1:4411"
     std::string url() const { return "http://" + authority(); }
 
-    /// The first line of each request so far, and its body.
+    /// The first line, or the body, of each request so far.
     std::vector<std::string> requestLines() const;
     std::vector<std::string> bodies() const;
 

@@ -25,14 +25,14 @@ namespace {
 
 namespace gss = platform::gss;
 
-/// How GSSAPI begins where the mechanism has the reason.
+/// The start of a GSSAPI text when the mechanism knows the reason.
 const std::string unspecified =
     "Unspecified GSS failure.  Minor code may provide more information: ";
 
 char spnegoBytes[] = "\x2b\x06\x01\x05\x05\x02";
 gss_OID_desc spnego = {6, spnegoBytes};
 
-/// The client's side of one logon, by GSSAPI alone.
+/// The client's side of one logon, using GSSAPI directly.
 class Initiator {
 public:
     explicit Initiator(gss_OID mechanism = &spnego, OM_uint32 flags = GSS_C_CONF_FLAG)
@@ -72,7 +72,7 @@ struct Answer {
     std::string token;
     std::string user;
     std::string domain;
-    std::string url; ///< of the session's root, empty without one
+    std::string url; ///< of the session's root; empty without a session
 };
 
 /// A text, whose length counts characters, or a binary value.
@@ -117,7 +117,7 @@ protected:
         return post(raw::call("sspi_login", logonArguments(token)));
     }
 
-    /// One of SPNEGO, which this agent takes in a single step.
+    /// A SPNEGO logon, which this agent accepts in a single step.
     void logOn(Initiator& client) {
         const Answer answer = answerIn(send(client.next()));
         EXPECT_EQ(client.next(answer.token), "");
@@ -256,7 +256,7 @@ TEST_F(AcceptLogon, ForgetsALogonThatARefusalEnded) {
 
 TEST_F(AcceptLogon, KeepsNothingOfClientsThatLeaveHalfWay) {
     simulator::Options options;
-    options.plain = true; // TLS remembers its sessions
+    options.plain = true; // TLS caches its sessions
     options.recordCalls = false;
     startAccepting(options);
     const auto leaveHalfWay = [this](int times) {
@@ -268,7 +268,7 @@ TEST_F(AcceptLogon, KeepsNothingOfClientsThatLeaveHalfWay) {
     leaveHalfWay(50);
     const std::size_t before = support::heapInUse();
     leaveHalfWay(200);
-    // A context takes more than that; a connection's buffer may be there or not.
+    // A context takes more than that; a connection's buffer may or may not exist.
     EXPECT_LT(support::heapInUse(), before + 200 * 1000);
     EXPECT_THAT(agent_->liveObjects(), IsEmpty());
 }

@@ -14,7 +14,7 @@
 #include "simulator/simulator.h"
 #include "tests/simulator/raw_client.h"
 
-/// A simulator, and a raw client that has logged in.
+/// A simulator and a raw client that has logged in.
 class AgentTest : public ::testing::Test {
 protected:
     static constexpr std::int64_t noon = 1'700'049'600'000; // 2023-11-15 12:00 UTC
@@ -36,7 +36,7 @@ protected:
                raw::text(password) + raw::int32(flag);
     }
 
-    /// Of a step of an integrated logon with the agent that is called `base`.
+    /// The arguments of a step of an integrated logon to the agent addressed as `base`.
     static std::string logonArguments(const std::string& token, const std::string& base) {
         std::string framed;
         for (int shift = 0; shift < 32; shift += 8)
@@ -47,7 +47,7 @@ protected:
         return logonArguments(token, agent_->baseUrl());
     }
 
-    /// The same, whatever stands for the framed token.
+    /// The same with any bytes as the framed token.
     static std::string logonArgumentsWith(const std::string& framed, const std::string& base) {
         return raw::text(base) + raw::text("13.0.0.0") + "B" +
                static_cast<char>(framed.size() >> 8) + static_cast<char>(framed.size() & 0xFF) +
@@ -61,7 +61,7 @@ protected:
         return raw::exchange(agent_->port(), tls(), raw::post(agent_->port(), "/api", message));
     }
 
-    /// A call over the stream to the session's root, or to another object.
+    /// Calls the session's root, or another object, over the stream.
     std::string call(std::string_view method, std::string_view arguments = {}) {
         return callOn(root_, method, arguments);
     }
@@ -71,7 +71,7 @@ protected:
         return raw::receiveResponse(*stream_, id_);
     }
 
-    /// The object that such a call gives.
+    /// The URL of the object returned by such a call.
     std::string get(std::string_view method, std::string_view arguments = {}) {
         return raw::referenceIn(call(method, arguments));
     }
@@ -80,12 +80,12 @@ protected:
         return raw::referenceIn(callOn(url, method, arguments));
     }
 
-    /// An object as an argument: `as("Schedule", url)`.
+    /// An object as an argument, as in `as("Schedule", url)`.
     static std::string as(const std::string& family, std::string_view url) {
         return raw::remote("com.norvel.api." + family, url);
     }
 
-    /// The text of a fault that isn't the client's mistake.
+    /// The text of a refusal, as opposed to a client's mistake.
     std::string refusalOf(const std::string& reply) {
         const std::string start = raw::reply().substr(0, 3) + "f" + raw::text("code") +
                                   raw::text("Refused") + raw::text("message") + "S";

@@ -10,7 +10,7 @@ using ::testing::IsEmpty;
 
 namespace {
 
-/// What is set for the whole agent, and what it has lost.
+/// Agent-wide settings, and the recovery of lost data.
 class Configuration : public AgentTest {
 protected:
     void SetUp() override { open({}); }

@@ -14,7 +14,7 @@ namespace sources = simulator::sources;
 
 namespace {
 
-/// What logins the agent takes, and that nobody gets to read a password.
+/// The logins that the agent accepts; passwords are never returned.
 class Credentials : public AgentTest {
 protected:
     void SetUp() override {

@@ -97,7 +97,7 @@ TEST_F(HealthScenarios, ManyFolders) {
     at(Scenario::ManyFolders, [](World& world) {
         const StoredNode& root = world.sets().at(0)->stored->root();
         EXPECT_EQ(count(root, true), simulator::health::files);
-        // The drive and the folder of the set hold them.
+        // The set's drive and folder contain them.
         EXPECT_EQ(count(root, false), simulator::health::folders + 2);
     });
 }

@@ -13,7 +13,7 @@ class Http : public AgentTest {
 protected:
     void SetUp() override { start(); }
 
-    /// A right request in which `from` was replaced.
+    /// A valid request in which `from` is replaced.
     std::string altered(std::string_view from, std::string_view to) {
         std::string request = raw::post(agent_->port(), "/api", raw::call("getTarnClientType"));
         const std::size_t at = request.find(from);

@@ -22,7 +22,7 @@ protected:
         EXPECT_THAT(agent_->violations(), IsEmpty());
     }
 
-    /// The agent says no to a call that was right.
+    /// Expects a refusal of a valid call.
     void expectRefused(const std::string& reply, const std::string& text) {
         EXPECT_EQ(reply, "r\x01\0"s + raw::fault("Refused", text));
         EXPECT_THAT(agent_->liveObjects(), IsEmpty());

@@ -39,7 +39,7 @@ protected:
     std::string monthly() { return getFrom(schedules_, "createMonthlyDetail"); }
     std::string option() { return getFrom(rules_, "createIntervalTimeRetention"); }
 
-    /// A weekly detail that a schedule takes.
+    /// A weekly detail that a schedule accepts.
     std::string goodDetail() {
         const std::string detail = weekly();
         callOn(detail, "setScheduleDays", raw::int32(31));

@@ -17,7 +17,7 @@ using ::testing::HasSubstr;
 
 namespace {
 
-/// The program, started and watched by its own id.
+/// The program as a child process.
 struct Program : support::ChildProcess {
     explicit Program(std::vector<std::string> arguments)
         : ChildProcess(SIMULATOR_PROGRAM, std::move(arguments)) {}

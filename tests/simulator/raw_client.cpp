@@ -103,7 +103,7 @@ std::string Connection::receiveRest() {
 }
 
 bool Connection::silentFor(int milliseconds) {
-    // What TLS itself has to say is no answer, so that poll alone can't tell.
+    // TLS may receive protocol messages, so poll alone can't tell.
     sockets::limitReads(parts_->socket, std::chrono::milliseconds(milliseconds));
     char byte = 0;
     const auto got =

@@ -13,7 +13,7 @@ using ::testing::IsEmpty;
 
 namespace {
 
-/// What the session's objects answer, as bytes, and what they do to the world.
+/// The replies of the session's objects, as bytes, and their effect on the world.
 class Remote : public AgentTest {
 protected:
     void SetUp() override {

@@ -25,7 +25,7 @@ std::string mapping(std::string_view share, std::string_view path, std::int32_t 
                                             raw::member("truncate_level", raw::int32(level)));
 }
 
-/// A restore from a set that has two drives and a share within a group.
+/// A restore from a set with two drives and a share in a group.
 class Restore : public AgentTest {
 protected:
     void SetUp() override {
@@ -54,7 +54,7 @@ protected:
             list += raw::int64(id);
         return getFrom(view_, "prepareRestore", list + "z");
     }
-    /// With a reason.
+    /// Prepared, with a reason set.
     std::string ready(std::initializer_list<std::int64_t> ids) {
         const std::string url = prepared(ids);
         callOn(url, "setRestoreReason", raw::int32(11));
@@ -66,7 +66,7 @@ protected:
     }
     std::string shares(const std::string& ready) { return callOn(ready, "selected_shares"); }
 
-    /// The text of the one violation, without the call before it.
+    /// The text of the only violation, without the call before it.
     std::string violation() {
         const auto all = agent_->violations();
         if (all.size() != 1)
@@ -153,7 +153,7 @@ TEST_F(Restore, TellsWhatThePlacesInAShareHaveInCommon) {
     EXPECT_EQ(shares(prepared({7, 8})), raw::reply(raw::list({share("C:", "C:\\Users")})));
     EXPECT_EQ(shares(prepared({4})), raw::reply(raw::list({share("C:", "C:\\Users")})));
     EXPECT_EQ(shares(prepared({1})), raw::reply(raw::list({share("C:", "C:")})));
-    // A group is no share, and shares stand in the order of the storage.
+    // A group is not a share, and shares are in storage order.
     EXPECT_EQ(shares(prepared({6, 2, 7})),
               raw::reply(raw::list(
                   {share("C:", "C:\\Users\\ann"), share("D:", "D:"), share("Team", "Team")})));

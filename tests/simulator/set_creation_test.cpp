@@ -14,7 +14,7 @@ namespace sources = simulator::sources;
 
 namespace {
 
-/// Sets on their way into the agent's list, and what can be changed about those within.
+/// Creation of sets, and changes to their content.
 class SetCreation : public AgentTest {
 protected:
     void SetUp() override { open({}); }
@@ -161,7 +161,7 @@ TEST_F(SetCreation, RefusesItemsThatWereReleased) {
     callOn(item, "Release");
     EXPECT_THAT(setItems(set, {item}), HasSubstr("the object was released"));
     EXPECT_THAT(agent_->violations(), ElementsAre(HasSubstr("the object was released")));
-    open({}); // without that violation
+    open({}); // starts afresh, without that violation
 }
 
 TEST_F(SetCreation, LeavesTheLoginOfASetAloneUntilItIsSet) {
@@ -210,7 +210,7 @@ TEST_F(SetCreation, FindsSetsOfOtherComputersAndKinds) {
     EXPECT_EQ(callOn(login, "check", raw::text(sources::webServer)), raw::reply());
 }
 
-/// The agent's settings that wizards ask for, and codes by mail.
+/// The agent's settings requested by wizards, and codes sent by mail.
 class Settings : public SetCreation {
 protected:
     std::string configuration() { return get("getConfigurationManager"); }

@@ -52,7 +52,7 @@ protected:
         });
         return *set;
     }
-    /// What a scenario's only set holds.
+    /// The content of a scenario's only set.
     StoredNode& root(Scenario scenario) { return open(scenario).stored->root(); }
 
     std::int32_t now() const { return static_cast<std::int32_t>(now_.load() / 1'000); }
@@ -124,7 +124,7 @@ TEST_F(Storages, GroupsHaveIdsBelowOne) {
     const std::string top = listed(-1);
     EXPECT_THAT(top, HasSubstr(named(0, "File servers")));
     EXPECT_THAT(top, HasSubstr(named(-2, "Databases")));
-    // Ids of things don't fit 32 bits.
+    // Entry ids exceed 32 bits.
     constexpr std::int64_t first = (std::int64_t{1} << 32) + 1;
     EXPECT_THAT(top, HasSubstr(named(first, "C:")));
     EXPECT_THAT(listed(0), HasSubstr(named(-4, "Office")));

@@ -96,7 +96,7 @@ TEST(StoredDataTest, WhatIsErasedTakesItsEmptyFoldersAlong) {
     EXPECT_EQ(data.root().children[0]->name, "D:");
 }
 
-/// The views of the set "Documents", which has two drives of storage.
+/// The views of the set "Documents", which has two drives of stored data.
 class Views : public AgentTest {
 protected:
     void SetUp() override {
@@ -151,7 +151,7 @@ TEST_F(Views, GiveIdsInTheOrderOfTheirListsAndGroupsNone) {
     EXPECT_EQ(subItems(view, 1),
               raw::reply(raw::list({item(2, "docs", 1, false), item(3, "b.txt", 3, true)})));
     EXPECT_EQ(subItems(view, 0), raw::reply(raw::list({item(4, "Team", 1, false)})));
-    // The same thing keeps its id.
+    // The same entry keeps its id.
     EXPECT_THAT(subItems(view, -1), HasSubstr(item(1, "C:", 0, false)));
     EXPECT_THAT(agent_->violations(), IsEmpty());
 }
@@ -265,7 +265,7 @@ TEST_F(Views, ADeletionNeedsTheCodeThatProtectsIt) {
     callOn(codes, "requestCode", raw::int32(2));
     callOn(codes, "validateCode", raw::text("314159") + raw::int32(2));
     EXPECT_THAT(callOn(ready, "start"), HasSubstr("GenericActivity"));
-    // A code is good for one deletion.
+    // A code is valid for one deletion.
     EXPECT_EQ(refusalOf(call("removeBackupSet", as("BackupSet", set_))),
               "A deletion needs an authentication code.");
     EXPECT_THAT(agent_->violations(), IsEmpty());

@@ -16,7 +16,7 @@ protected:
         logIn();
     }
 
-    /// The connection is closed without an answer, and the reason is recorded.
+    /// Expects the connection to be closed without a reply, and the reason to be recorded.
     void expectClosed(const std::string& bytes, const std::string& violation) {
         stream_->send(bytes);
         EXPECT_EQ(stream_->receiveRest(), "");
@@ -43,7 +43,7 @@ TEST_F(Stream, AnswersAFrameOfBytesTypedByHand) {
     for (int shift = 24; shift >= 0; shift -= 8)
         frame += static_cast<char>(sum >> shift & 0xFF);
     stream_->send(frame);
-    // The checksum stands as zlib's crc32 gives it for the 21 bytes in front of it.
+    // The checksum is zlib's crc32 of the 21 bytes before it.
     EXPECT_EQ(stream_->receive(29), "@RSP"
                                     "\0\0\0\x07"
                                     "\0\0\0\0\0\0\0\x09"

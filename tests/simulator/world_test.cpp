@@ -95,7 +95,7 @@ TEST_F(WorldTest, LetsAnActivityProgressAndEndInTheLog) {
     pass(world, 5'000);
     EXPECT_EQ(world.running().at(0).status_msg, "Scanning the source");
 
-    // 8 % of the time go by before data moves; half of the rest is 54 %.
+    // Data starts to move after 8 % of the time; half of the rest is at 54 %.
     pass(world, 49'000);
     info = world.running().at(0);
     EXPECT_EQ(info.files_processed, 500);

@@ -7,15 +7,15 @@
 
 namespace support {
 
-/// A message typed by hand. The pieces are separated by blanks: two hexadecimal digits are a byte,
-/// a single character is itself, and text stands in single quotes:
+/// A message typed by hand. Pieces are separated by blanks: two hexadecimal digits are a byte, a
+/// single character is itself, and text is in single quotes:
 ///
 ///     bytes("c 01 00 m 00 06 'logout' z")
 ///
-/// Raises `std::invalid_argument` on anything else.
+/// Throws `std::invalid_argument` on anything else.
 std::string bytes(std::string_view notation);
 
-/// The bytes in a form that people can compare: what can be printed as it is, the rest as \xNN.
+/// The bytes in human-readable form: printable characters as they are, the rest as \xNN.
 std::string printable(std::string_view bytes);
 
 } // namespace support

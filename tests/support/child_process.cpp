@@ -18,7 +18,7 @@ namespace {
 constexpr int limitMilliseconds = 20'000;
 constexpr int notStarted = 127;
 
-/// In the child: becomes the program.
+/// In the child: replaces the process with the program.
 [[noreturn]] void become(const std::string& program, std::vector<std::string>& arguments) {
     ::prctl(PR_SET_PDEATHSIG, SIGKILL);
     arguments.insert(arguments.begin(), program);

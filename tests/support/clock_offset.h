@@ -6,9 +6,9 @@
 
 namespace support {
 
-/// In a program that links this, the clock of this thread is wrong by that much for as long as the
-/// object lives, as Kerberos reads it (`time` and `gettimeofday`). Other threads, a simulated
-/// agent's among them, see the right time. One at a time.
+/// In a program that links this, shifts the clock of this thread as Kerberos reads it (`time` and
+/// `gettimeofday`) for the lifetime of the object. Other threads, including those of a simulated
+/// agent, see the correct time. Only one may exist at a time.
 class ClockOffset {
 public:
     explicit ClockOffset(std::chrono::seconds offset);

@@ -9,7 +9,7 @@
 
 namespace support {
 
-/// The cursors that the widgets get for which this is an event filter, in order.
+/// Records, in order, the cursors set on the widgets it is installed on as an event filter.
 class CursorWatch : public QObject {
 public:
     bool eventFilter(QObject* watched, QEvent* event) override {
@@ -22,13 +22,13 @@ public:
 
 private:
     void note(Qt::CursorShape shape) {
-        // A window hears of its cursor a second time by way of the system.
+        // The system notifies a window of its cursor a second time.
         if (shown.isEmpty() || shown.last() != shape)
             shown << shape;
     }
 };
 
-/// What it sees of an action that the user has to wait for.
+/// What it records for an action that makes the user wait.
 inline const QVector<Qt::CursorShape> waited{Qt::WaitCursor, Qt::ArrowCursor};
 
 } // namespace support

@@ -7,8 +7,8 @@
 
 namespace support {
 
-/// A secret that a process can type without ever holding it: each of its characters follows from a
-/// number and its place. No two neighbours are the same.
+/// A secret that a process can type without ever holding all of it: each character is computed from
+/// a seed and its position. No two neighbours are the same.
 inline constexpr int derivedSecretLength = 24;
 
 inline char derivedCharacter(std::uint32_t seed, int place) {
@@ -21,7 +21,7 @@ inline char derivedCharacter(std::uint32_t seed, int place) {
     return static_cast<char>('a' + character);
 }
 
-/// The whole of it, for the process that looks for it.
+/// The whole secret, for the process that searches for it.
 inline std::string derivedSecret(std::uint32_t seed) {
     std::string secret;
     for (int place = 0; place < derivedSecretLength; ++place)

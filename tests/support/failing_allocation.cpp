@@ -7,7 +7,7 @@
 
 namespace {
 
-thread_local std::size_t allocationsLeft = 0; // 0: none is to fail
+thread_local std::size_t allocationsLeft = 0; // 0: none fails
 thread_local bool failed = false;
 
 } // namespace

@@ -6,8 +6,8 @@
 
 namespace support {
 
-/// Lets the n-th allocation from now on fail, counted from 1, that the current thread makes while
-/// this object lives. The program has the `operator new` of failing_allocation.cpp then.
+/// Makes the n-th allocation (from 1) that the current thread makes during the lifetime of this
+/// object fail. The program then uses the `operator new` of failing_allocation.cpp.
 class FailingAllocation {
 public:
     explicit FailingAllocation(std::size_t nth);
@@ -15,7 +15,7 @@ public:
     FailingAllocation& operator=(const FailingAllocation&) = delete;
     ~FailingAllocation();
 
-    /// Whether the thread has come so far.
+    /// Whether the thread reached the failing allocation.
     bool hasFailed() const;
 };
 

@@ -11,23 +11,22 @@
 
 namespace support {
 
-/// A simulated agent that the client finds as the agent of its own machine, for as long as this
-/// object lives.
+/// A simulated agent that the client finds as the local agent for the lifetime of this object.
 class GuiAgent : public simulator::Simulator {
 public:
     explicit GuiAgent(simulator::Options options = {});
     ~GuiAgent();
 };
 
-/// Ends the session, if there is one, and puts the process-wide values back to what they are at
-/// start, so that no test sees another one's.
+/// Ends the session, if there is one, and resets the process-wide values to their initial state, so
+/// that tests don't affect each other.
 void resetSession();
 
 } // namespace support
 
 namespace QTest {
 
-/// What a failed comparison of calls prints.
+/// Printed by a failed comparison of calls.
 template <>
 char* toString(const std::vector<std::string>& calls);
 

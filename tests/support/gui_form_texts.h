@@ -10,10 +10,10 @@
 
 #include "tests/support/gui_modal_driver.h"
 
-/// What stands on a form before anything is typed.
+/// The texts of a form before any input.
 namespace support {
 
-/// A widget by its name, and its text: of a button, a label or a group. Or a picture's resource.
+/// A widget's object name and its text (of a button, label or group) or its picture's resource.
 struct FormText {
     const char* name;
     const char* text;
@@ -48,7 +48,7 @@ inline void compareIcon(QWidget& form, const char* name, const char* resource) {
     QVERIFY(!button.icon().pixmap(16).isNull());
 }
 
-/// The window shows the icon of the program, and by itself: that of its parent is another here.
+/// The window sets the program's icon itself: its parent has a different one here.
 inline void compareWindowIcon(QWidget& window) {
     const auto picture = [](const QIcon& icon) { return icon.pixmap(64).toImage(); };
     const QImage expected = picture(QIcon(QStringLiteral(":/icons/tarn_mobile_icon")));
@@ -63,7 +63,7 @@ inline void compareWindowIcon(QWidget& window) {
     QCOMPARE(shown, expected);
 }
 
-/// The label of each field, which its mnemonic leads to.
+/// Each field's label, whose mnemonic moves the focus to that field.
 inline void compareBuddies(QWidget& form, std::initializer_list<FormText> fields) {
     for (const auto& [label, field] : fields) {
         const QWidget* buddy = child<QLabel>(form, label).buddy();

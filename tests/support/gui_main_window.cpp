@@ -31,8 +31,8 @@ MainWindowDriver::MainWindowDriver(bool trayAvailable) {
     tray_ = tray.get();
     window_ = std::make_unique<SimpleGUIMainWindow>(nullptr, std::move(tray), sleepWithoutEnd);
     window_->show();
-    // A window that isn't active asks more: it wants names for its balloons. A display without a
-    // window manager has no active window, which does for pictures.
+    // An inactive window makes more calls: it requests names for its balloons. A display without a
+    // window manager has no active window, which is good enough for pictures.
     (void)QTest::qWaitForWindowActive(window_.get(), 2000);
 }
 

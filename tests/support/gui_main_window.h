@@ -18,7 +18,7 @@ class QTableView;
 
 namespace support {
 
-/// A tray that keeps what it was asked to show.
+/// A tray that records what it was asked to show.
 class RecordingTray : public app::TrayIcon {
 public:
     explicit RecordingTray(bool available)
@@ -44,28 +44,28 @@ private:
 class MainWindowDriver {
 public:
     explicit MainWindowDriver(bool trayAvailable = true);
-    /// Ends the session too.
+    /// Also ends the session.
     ~MainWindowDriver();
 
     SimpleGUIMainWindow& window() { return *window_; }
     RecordingTray& tray() { return *tray_; }
 
-    /// Logs in to the agent of this machine; the agent's log then begins anew.
+    /// Logs in to the local agent, then clears the agent's call log.
     void logIn(GuiAgent& agent);
-    /// A heartbeat, until all is done that it leads to.
+    /// Delivers a heartbeat and returns when everything it triggers is done.
     void beat();
-    /// One that arrives from the event loop.
+    /// Posts a heartbeat to the event loop.
     void postBeat();
 
     QTableView& sets();
     BackupSetViewItem& card(int row);
-    /// What each card says, name and further line.
+    /// The texts of each card: the name and the second line.
     QStringList cards();
     /// The row of the selected card; -1 if none is selected.
     int selectedRow();
-    /// The texts of the details, from top to bottom.
+    /// The texts of the details panel, from top to bottom.
     QStringList details();
-    /// The rows of one of the tables.
+    /// The row count of one of the tables.
     int rows(const char* table);
 
     bool isEnabled(const char* action);
@@ -73,11 +73,11 @@ public:
     QString status();
 
 private:
-    RecordingTray* tray_; ///< the window's
+    RecordingTray* tray_; ///< owned by the window
     std::unique_ptr<SimpleGUIMainWindow> window_;
 };
 
-/// What the cards say when they show all file sets of the agent.
+/// What the cards show when all file sets of the agent are listed.
 QStringList cardsOf(GuiAgent& agent);
 
 /// The methods called, in order, without `Release`.

@@ -64,8 +64,8 @@ void ModalDriver::expectErrorBox(const QString& title, const QString& text) {
            [=](QWidget& box) { checkErrorBox(static_cast<QMessageBox&>(box), title, text); });
 }
 
-// One shot after the other: a timer doesn't fire again while its slot runs, and a step may open
-// the next dialog.
+// Single shots: a timer doesn't fire again while its slot runs, and a step may open the next
+// dialog.
 void ModalDriver::lookSoon() {
     QTimer::singleShot(interval, &context_, [this] { look(); });
 }
@@ -96,7 +96,7 @@ void ModalDriver::refuse(QWidget& dialog) {
     const QString expected = steps_.empty() ? QStringLiteral("no dialog") : steps_.front().name;
     const QString picture = savePicture(dialog, QString::fromLatin1(QTest::currentTestFunction()));
     fail(QStringLiteral("Expected %1, met %2, see %3").arg(expected, describe(dialog), picture));
-    // Closed for good, so that the test comes to its end.
+    // Closes it, so that the test can end.
     if (auto* box = qobject_cast<QDialog*>(&dialog))
         box->done(1);
     else

@@ -14,8 +14,8 @@ class QWidget;
 
 namespace support {
 
-/// Plays the user in front of the modal dialogs of a test. A test says beforehand which ones will
-/// come, in order, and what to do with each:
+/// Plays the user in front of a test's modal dialogs. A test declares beforehand which dialogs will
+/// open, in which order, and what to do with each:
 ///
 ///     ModalDriver modals;
 ///     modals.expect("login", isDialog<LoginCheck>, [](QWidget& dialog) { ... });
@@ -23,8 +23,8 @@ namespace support {
 ///     window.OnConnect();
 ///     QVERIFY(modals.done());
 ///
-/// What is expected may be the same dialog again, after the step before has left it open. A dialog
-/// that nobody expects fails the test and is closed, and its picture is kept.
+/// The same dialog may be expected again if the previous step left it open. An unexpected dialog
+/// fails the test and is closed, and its picture is saved.
 class ModalDriver {
 public:
     using Test = std::function<bool(QWidget&)>;
@@ -34,10 +34,10 @@ public:
     ~ModalDriver();
 
     void expect(const QString& name, Test test, Act act);
-    /// A critical box with this title and text, and no other button than Ok, which is pressed.
+    /// A critical box with this title and text, and Ok as its only button, which is pressed.
     void expectErrorBox(const QString& title, const QString& text);
 
-    /// Whether everything that was expected has come, and nothing is open. Fails the test if not.
+    /// Whether all expected dialogs have opened and none is still open. Fails the test if not.
     bool done();
 
 private:
@@ -52,7 +52,7 @@ private:
     void meet(QWidget& dialog);
     void refuse(QWidget& dialog);
 
-    QObject context_; ///< its end stops the looking
+    QObject context_; ///< its destruction stops the polling
     std::deque<Step> steps_;
     std::vector<QPointer<QWidget>> busy_; ///< dialogs whose step is running
 };
@@ -62,7 +62,7 @@ bool isDialog(QWidget& widget) {
     return qobject_cast<Dialog*>(&widget) != nullptr;
 }
 
-/// The one descendant of that class and name. Ends the test program if there is none.
+/// The only descendant of that class and name. Aborts the test program if there is none.
 template <class Widget>
 Widget& child(QObject& parent, const char* name) {
     auto* found = parent.findChild<Widget*>(QString::fromLatin1(name));
@@ -71,7 +71,7 @@ Widget& child(QObject& parent, const char* name) {
     return *found;
 }
 
-/// Saves what a widget shows in the folder "gui-failures"; the path.
+/// Saves a picture of the widget in the folder "gui-failures" and returns its path.
 QString savePicture(QWidget& widget, const QString& name);
 
 } // namespace support

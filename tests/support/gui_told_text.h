@@ -7,7 +7,7 @@ class QWidget;
 
 namespace support {
 
-/// Whether somebody could read the text off a widget below, seeing or not.
+/// Whether a child widget exposes the text, on the screen or through accessibility.
 bool gives(const QWidget& window, const QString& secret);
 
 } // namespace support

@@ -6,17 +6,17 @@
 #include <QStringList>
 #include <QTranslator>
 
-/// The languages of the program, besides English.
+/// The languages of the program other than English.
 namespace support {
 
-/// Their codes.
+/// The language codes.
 QStringList languages();
 
-/// The file with the compiled texts of a language.
+/// The file with the compiled translation of a language.
 QString translationFile(const QString& language);
 
-/// The program speaks a language for as long as this object lives. Ends the test program if there
-/// are no such texts.
+/// Switches the program to a language for the lifetime of this object. Aborts the test program if
+/// there is no such translation.
 class Translation {
 public:
     explicit Translation(const QString& language);

@@ -8,11 +8,11 @@
 
 namespace support {
 
-/// The row of a tree at the end of names that are joined by slashes. One at the beginning is itself
-/// the name of the first row, the root of a Unix computer. Without such a row the test ends.
+/// The tree row at a slash-separated path of names. A leading slash is itself the name of the first
+/// row, the root of a Unix computer. Without such a row the test ends.
 QModelIndex rowAt(const QTreeView& tree, const char* path);
 
-/// What a list shows, from above.
+/// The texts of a list, from top to bottom.
 QStringList namesIn(const QListView& list);
 
 } // namespace support

@@ -10,8 +10,8 @@
 
 namespace support {
 
-/// Does something while a call is waited for, each time that the wait's event loop has nothing left
-/// to do. Unlike with a timer, nothing has to let that pass.
+/// Runs an action during the wait for a call, each time the wait's event loop becomes idle. Unlike
+/// a timer, it doesn't depend on the events that the wait lets pass.
 class InTheWait : public QObject {
 public:
     explicit InTheWait(std::function<void()> act);
@@ -23,16 +23,16 @@ private:
     bool acting_ = false;
 };
 
-/// The panel with which a user may leave the agent; null unless it is seen.
+/// The panel that lets the user disconnect from the agent; null unless it is visible.
 QWidget* waitingPanel();
 
-/// What the panel says, less the number of seconds, or nothing.
+/// The panel's text without the number of seconds, or an empty string.
 QString waitingText();
 
 /// Clicks the panel's button.
 void clickDisconnect();
 
-/// The begin of what a call says that the user has ended.
+/// The beginning of the error of a call that the user has ended.
 inline const QString leftAgent = QStringLiteral("Disconnected, as the agent hadn't answered for ");
 
 } // namespace support

@@ -20,14 +20,14 @@ namespace support {
 
 namespace {
 
-/// False if the button can't be pressed, or if the wizard stays where it is.
+/// False if the button can't be pressed, or if the wizard stays on the page.
 bool press(QWizard& wizard, QWizard::WizardButton which) {
     const int before = wizard.currentId();
     QAbstractButton* button = wizard.button(which);
     if (!button->isVisible() || !button->isEnabled())
         return false;
     QTest::mouseClick(button, Qt::LeftButton);
-    // What a page couldn't bear ends the wizard a moment later.
+    // An error on a page ends the wizard a moment later.
     QCoreApplication::processEvents();
     return !wizard.isVisible() || wizard.currentId() != before;
 }
@@ -138,7 +138,7 @@ std::vector<std::string> steadyCallsOf(const simulator::Simulator& agent) {
     for (std::string& call : callsOf(agent)) {
         if (call.starts_with("ClientConnection.activity_log("))
             call.erase(call.find('('));
-        // The set of that name was asked for just before.
+        // The set with that name was requested just before.
         if (call == "BackupSet.getName()")
             calls.pop_back();
         else

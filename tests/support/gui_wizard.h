@@ -17,14 +17,14 @@
 
 namespace support {
 
-/// What a user does on a page before going on.
+/// What the user does on a page before going on.
 using AtPage = std::function<void(QWizardPage&)>;
 
-/// Goes through the pages of an open wizard and finishes it. A wizard that doesn't let the user go
-/// on is cancelled. Whether it came to its end.
+/// Goes through the pages of an open wizard and finishes it; cancels it if it doesn't let the user
+/// go on. Whether it was finished.
 bool finishWizard(QWidget& wizard, const AtPage& atPage = {});
 
-/// Goes on by so many pages and cancels.
+/// Goes on by `page` pages and cancels.
 void cancelWizard(QWidget& wizard, int page, const AtPage& atPage = {});
 
 /// Types the name "  New one " on the page that wants a name.
@@ -33,18 +33,18 @@ void nameNewSet(QWizardPage& page);
 /// A main window that is logged in to an agent, and the user in front of it.
 class WizardTest {
 public:
-    /// `change` is done to the agent before the login.
+    /// `change` is applied to the agent before the login.
     void start(simulator::Scenario scenario = simulator::Scenario::Default,
                const std::function<void(simulator::World&)>& change = {});
-    /// Ends everything; what is left over fails the test.
+    /// Ends everything; anything left over fails the test.
     void end();
 
-    /// Runs a slot of the window; the agent's log holds what that led to. Each reference that it
-    /// got has to be released at the end.
+    /// Runs a slot of the window and records the resulting calls in the agent's log. Each reference
+    /// the window obtains has to be released at the end.
     void run(const char* slot);
     /// A wizard that can be finished.
     void expectWizard(const AtPage& atPage = nameNewSet);
-    /// The question for a code, which is answered or cancelled.
+    /// The prompt for a code, which is answered or cancelled.
     void expectCode(bool given);
     QStringList setNames();
 
@@ -53,27 +53,27 @@ public:
     std::unique_ptr<ModalDriver> modals; ///< from the start on, or if a test makes it before that
 };
 
-/// The calls in order with their arguments, without those of `Release`.
+/// The calls in order with their arguments, except `Release`.
 std::vector<std::string> callsOf(const simulator::Simulator& agent);
 
-/// The same without the span of the activity log, which follows the clock, and without the names in
-/// balloons, which only a window in the background shows.
+/// The same without the span of the activity log, which depends on the clock, and without the names
+/// for balloons, which only a background window requests.
 std::vector<std::string> steadyCallsOf(const simulator::Simulator& agent);
 
-/// An agent's answer that there is nothing in the list.
+/// An agent's reply with an empty list.
 simulator::RawReply emptyList();
 
-/// How many references to objects of a class aren't released.
+/// The number of unreleased references to objects of a class.
 int liveObjectsOf(const simulator::Simulator& agent, const std::string& family);
 
-/// Where two lists of calls first differ, and both calls; empty if they are the same.
+/// The position where two lists of calls first differ, and both calls; empty if they are equal.
 QString difference(const std::vector<std::string>& actual,
                    const std::vector<std::string>& expected);
 
-/// How a window with this set selected brings itself up to date; see `steadyCallsOf`.
+/// The calls of a window's refresh with this set selected; see `steadyCallsOf`.
 std::vector<std::string> callsOfRefresh(std::int32_t selectedSet);
 
-/// What a wizard asks the agent when the user gives the code that was mailed.
+/// A wizard's calls when the user enters the mailed code.
 std::vector<std::string> callsForCode();
 
 } // namespace support

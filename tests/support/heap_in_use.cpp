@@ -13,7 +13,7 @@ namespace support {
 
 namespace {
 
-/// The last attribute "size" of the elements that begin so; the totals come last.
+/// The last attribute "size" of the elements with this start; the totals come last.
 [[maybe_unused]] std::size_t lastSize(const std::string& report, const std::string& element) {
     const std::size_t at = report.find("size=\"", report.rfind(element));
     if (at == std::string::npos)

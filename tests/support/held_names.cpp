@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
-// Takes the place of the C library's function in the program that this is linked into.
+// Replaces the C library's function in the program it is linked into.
 #include "tests/support/held_names.h"
 
 #include <chrono>

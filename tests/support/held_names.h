@@ -4,9 +4,9 @@
 
 namespace support {
 
-/// Has the system's resolver hang on each name under ".held" for as long as the object lives. All
-/// other names are resolved as ever. Waits at its end until the last of the hanging threads has
-/// left the resolver.
+/// Makes the system's resolver hang on each name under ".held" for the lifetime of the object. All
+/// other names are resolved as usual. The destructor waits until the last hanging thread has left
+/// the resolver.
 class HeldNames {
 public:
     HeldNames();
@@ -14,7 +14,7 @@ public:
     HeldNames& operator=(const HeldNames&) = delete;
     ~HeldNames();
 
-    /// Waits until so many threads hang in the resolver.
+    /// Waits until `count` threads hang in the resolver.
     bool waitForHeld(int count);
 };
 

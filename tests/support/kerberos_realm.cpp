@@ -137,7 +137,7 @@ void KerberosRealm::startKdc() {
     constexpr int attempts = 5;
     std::string said;
     for (int i = 0; i < attempts; ++i) {
-        // Until it listens, another program may take the port.
+        // Another program may take the port before the KDC listens on it.
         const std::uint16_t port = LoopbackSocket().freePort();
         writeConfiguration(port);
         kdc_ = std::make_unique<ChildProcess>("/usr/sbin/krb5kdc", std::vector<std::string>{"-n"});
@@ -159,7 +159,7 @@ void KerberosRealm::administer(const std::string& query) {
 
 std::string KerberosRealm::wrongKeyTable() {
     const std::string wrong = file("wrong.keytab");
-    // The same version of the key, so that it is taken for the right one.
+    // The same key version, so that it is taken for the right one.
     runProgram("/usr/bin/ktutil", {},
                std::string("addent -password -p ") + service + "@" + name +
                    " -k 2 -e aes256-cts-hmac-sha1-96\nguess\nwkt " + wrong + "\nquit\n");

@@ -13,13 +13,13 @@
 
 namespace support {
 
-/// An MIT Kerberos realm of one's own: a key distribution center on a free port of 127.0.0.1, the
-/// service that the client asks for, and a user. All its files are in a temporary folder. While it
-/// lives, the environment of this process, and of those that it starts, points to it and to no
-/// other Kerberos. Nobody has a ticket at first.
+/// A private MIT Kerberos realm: a key distribution center on a free port of 127.0.0.1, the service
+/// that the client requests, and a user. All its files are in a temporary folder. During its
+/// lifetime, the environment of this process and its children points to it and to no other
+/// Kerberos. Initially there are no tickets.
 ///
-/// Make it before there are other threads. Needs neither root nor a network. Raises
-/// `std::runtime_error`, with what the failing program said.
+/// Create it before starting other threads. Needs neither root nor a network. Throws
+/// `std::runtime_error` with the output of the failing program.
 class KerberosRealm {
 public:
     static constexpr const char* name = "TARN.TEST";
@@ -30,21 +30,21 @@ public:
     KerberosRealm(const KerberosRealm&) = delete;
     KerberosRealm& operator=(const KerberosRealm&) = delete;
 
-    /// The service's keys; and a table with a key of the same name and version that is wrong.
+    /// The service's keys; and a key table with a wrong key of the same name and version.
     std::string keyTable() const { return file("service.keytab"); }
     std::string wrongKeyTable();
 
     /// Names are UTF-8.
     void addUser(const std::string& userName);
 
-    /// Gets the user a ticket for the realm, which is valid for ten hours. The user needs no more
-    /// than that: a ticket for the service comes of it.
+    /// Gets the user a ticket-granting ticket, which is valid for ten hours. The user needs no more
+    /// than that: the ticket for the service is derived from it.
     void getTicket(const std::string& userName = user);
-    /// As after a login to the service: its ticket as well.
+    /// Adds a ticket for the service, as after a login to it.
     void getServiceTicket();
     void destroyTicket();
 
-    /// Nobody can have a new ticket from now on.
+    /// From now on no new tickets are issued.
     void stopKdc() { kdc_.reset(); }
 
     /// A file in the temporary folder.

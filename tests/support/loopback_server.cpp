@@ -15,7 +15,7 @@
 
 #include "tests/support/bytes.h"
 
-// Written on bare sockets and OpenSSL, so that it shares no code and no habits with the transport.
+// Uses bare sockets and OpenSSL, so that it shares no code and no habits with the transport.
 namespace support {
 namespace {
 
@@ -120,7 +120,7 @@ std::size_t Peer::receiveSome(char* buffer, std::size_t size) {
     std::size_t got = 0;
     if (SSL_read_ex(tls_, buffer, size, &got) == 1)
         return got;
-    // This client never says goodbye, so the end of the socket is the end of the stream.
+    // This client never sends a close_notify, so the end of the socket is the end of the stream.
     const int cause = SSL_get_error(tls_, 0);
     const bool end = cause == SSL_ERROR_ZERO_RETURN ||
                      (cause == SSL_ERROR_SYSCALL && sockets::wasReset()) ||
@@ -268,7 +268,7 @@ void LoopbackServer::stop() {
         for (const Connection& connection : connections_)
             connection.peer->interrupt();
     }
-    // What wakes it on every system is a connection, which it doesn't serve any more.
+    // A connection wakes the acceptor on every system; it isn't served any more.
     sockets::close(sockets::connectToLoopback(port_));
     acceptor_.join();
     for (Connection& connection : connections_)
@@ -295,7 +295,7 @@ void LoopbackServer::acceptAll() {
 }
 
 void LoopbackServer::play(Peer& peer, const Script& script) {
-    // A write to a client that has gone must not end the program. Only here: in the client's own
+    // A write to a closed client must not end the program. Blocked only here: in the client's own
     // threads it must not happen.
     sockets::blockBrokenPipe();
 

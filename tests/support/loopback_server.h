@@ -20,18 +20,18 @@ struct ssl_st;
 
 namespace support {
 
-/// A request frame as the server has read it. Its checksum has been verified.
+/// A request frame as read by the server, with its checksum verified.
 struct RequestFrame {
     std::uint32_t id = 0;
     std::string url;
     std::string message;
 };
 
-/// The bytes of a response frame, with a checksum of the server's own making.
+/// The bytes of a response frame, with a checksum computed independently by the server.
 std::string responseFrame(std::uint32_t id, std::string_view message);
 
-/// The server's end of one connection: the verbs of a script. Every verb raises when the other
-/// side doesn't play along within 20 seconds, and that fails the test.
+/// The server's end of one connection: the verbs of a script. Every verb throws if the other side
+/// doesn't play along within 20 seconds, and that fails the test.
 class Peer {
 public:
     Peer(sockets::Socket socket, ssl_ctx_st* context);
@@ -39,32 +39,32 @@ public:
     Peer& operator=(const Peer&) = delete;
     ~Peer();
 
-    /// Does the TLS handshake; nothing on a plain connection. Comes first in most scripts.
+    /// Does the TLS handshake; does nothing on a plain connection. First verb of most scripts.
     Peer& open();
 
-    /// Reads exactly these bytes, or raises and shows both.
+    /// Reads exactly these bytes, or throws with both in the message.
     Peer& expect(std::string_view bytes);
     std::string receive(std::size_t size);
     std::string receiveUntil(std::string_view end);
     RequestFrame receiveFrame();
 
-    /// Reads the other side's end: raises if bytes come instead.
+    /// Reads the other side's end of stream: throws if bytes arrive instead.
     Peer& expectClose();
-    /// Reads and forgets whatever still comes before it.
+    /// Reads and discards everything before the end of stream.
     Peer& receiveUntilClose();
 
     Peer& send(std::string_view bytes);
-    /// One write, and on TLS one record, for each byte.
+    /// One write, or one TLS record, per byte.
     Peer& sendByteByByte(std::string_view bytes);
 
-    /// Closes without a word, though TLS has one for it.
+    /// Closes without a TLS close_notify.
     void close();
-    /// Tells TLS first.
+    /// Sends a TLS close_notify first.
     void closePolitely();
     /// Closes so that the other side gets a reset.
     void reset();
 
-    /// Makes a verb that blocks on another thread raise.
+    /// Makes a verb that blocks on another thread throw.
     void interrupt();
 
 private:
@@ -75,14 +75,14 @@ private:
     ssl_ctx_st* context_;
 };
 
-/// A listener on loopback that misbehaves on command: each connection plays the next script, the
-/// last one again and again. A script that raises fails the running test when the server ends.
+/// A listener on loopback that misbehaves on command: each connection plays the next script, and
+/// the last one is repeated. A script that throws fails the running test when the server ends.
 class LoopbackServer {
 public:
     enum class Mode { plain, tls };
     using Script = std::function<void(Peer&)>;
 
-    /// A `port` of 0 is one that the system picks.
+    /// With a `port` of 0 the system picks one.
     LoopbackServer(Mode mode, std::vector<Script> scripts, std::uint16_t port = 0);
     LoopbackServer(Mode mode, Script script, std::uint16_t port = 0)
         : LoopbackServer(mode, std::vector<Script>{std::move(script)}, port) {}
@@ -92,13 +92,13 @@ public:
     /// As in "https://127.0.0.1:40123/api".
     std::string url(std::string_view path = "/api", std::string_view host = "127.0.0.1") const;
 
-    /// How many connections have come.
+    /// The number of connections so far.
     std::size_t connections();
 
-    /// Waits until so many scripts have ended.
+    /// Waits until `count` scripts have ended.
     bool waitForEnded(std::size_t count);
 
-    /// From now on a script may raise without failing the test.
+    /// From now on a script may throw without failing the test.
     void tolerateFailures();
 
     /// Ends every script that is still playing without failing the test.
@@ -128,10 +128,10 @@ private:
     bool stopping_ = false;
 };
 
-/// As a parameterised test shows it.
+/// For the names of parameterised tests.
 void PrintTo(LoopbackServer::Mode mode, std::ostream* out);
 
-/// A port of loopback that nobody listens on.
+/// A port of loopback without a listener.
 std::uint16_t closedPort();
 
 } // namespace support

@@ -23,7 +23,7 @@ struct Part {
     std::string name;
 };
 
-/// What the process can write to; its code and the files it has mapped hold no secret.
+/// The writable memory; the process's code and mapped files hold no secret.
 std::vector<Part> writableParts(const std::string& folder) {
     std::vector<Part> parts;
     std::ifstream map(folder + "/maps");
@@ -55,7 +55,8 @@ std::string bytesOf(int memory, const Part& part) {
     return bytes;
 }
 
-/// The first bytes of `text`, `distance` from each other, with zeros in the gaps of UTF-16.
+/// Whether the first bytes of `text` are at `offset`, `distance` bytes apart, with zeros in the
+/// gaps of UTF-16.
 bool standsAt(std::string_view bytes, std::size_t offset, std::string_view text,
               std::size_t distance) {
     const bool wide = distance > 1;

@@ -7,15 +7,15 @@
 
 #include <sys/types.h>
 
-/// Looks for a secret in the memory of another process, also where it was given back.
+/// Searches the memory of another process for a secret, including freed memory.
 namespace memory_scan {
 
-/// False where the system doesn't show the memory, and under a sanitizer, which keeps what was
-/// given back.
+/// False where the system doesn't expose the memory, and under a sanitizer, which retains freed
+/// memory.
 bool isPossible();
 
-/// Each place that holds the secret, as "UTF-16 at distance 16 in [heap]": as bytes, as UTF-16, or
-/// with its characters at equal distances, forwards or backwards, as a list has them.
+/// Each place that holds the secret, as in "UTF-16 at distance 16 in [heap]": as bytes, as UTF-16,
+/// or with its characters at equal distances, forwards or backwards, as in a list.
 std::vector<std::string> findings(pid_t process, const std::string& secret);
 
 } // namespace memory_scan

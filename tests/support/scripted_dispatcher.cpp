@@ -11,7 +11,7 @@
 namespace support {
 namespace {
 
-/// What a buffer gets that was reserved once, for exactly so many bytes.
+/// The capacity of a buffer that was reserved once, for exactly this many bytes.
 std::size_t capacityFor(std::size_t size) {
     std::string buffer;
     buffer.reserve(size);

@@ -12,12 +12,12 @@
 
 namespace support {
 
-/// An agent that knows what is coming: it expects calls in one order, each to one URL with exactly
-/// these bytes, and gives the reply that stands beside them. Any other call fails the test, and so
-/// does a line of the script that isn't used. It also sees to it that each request was built in a
-/// buffer of exactly its size.
+/// An agent that knows the calls in advance: it expects them in order, each to one URL with exactly
+/// these bytes, and returns the reply given with them. Any other call fails the test, and so does
+/// an unused line of the script. It also checks that each request was built in a buffer of exactly
+/// its size.
 ///
-/// Messages are given in the notation of `bytes`. For one thread.
+/// Messages use the notation of `bytes`. For one thread.
 class ScriptedDispatcher : public hessiancln::ICallDispatcher {
 public:
     ScriptedDispatcher();
@@ -25,13 +25,13 @@ public:
 
     void expect(std::string_view url, std::string_view request, std::string_view reply);
 
-    /// The call is answered by running `raise`, which throws.
+    /// Answers the call by running `raise`, which throws.
     void expectThenRaise(std::string_view url, std::string_view request,
                          std::function<void()> raise);
 
     void expectRelease(std::string_view url);
 
-    /// Calls that are still to come.
+    /// The number of calls still to come.
     std::size_t left() const { return script_.size(); }
 
     std::string sendRequest(const std::string& url, const std::string& request) override;

@@ -12,19 +12,19 @@
 
 namespace support {
 
-/// Security operations that do what a test says and remember what they were asked for.
+/// Security operations that follow a test's script and record their arguments.
 class ScriptedSecurityOperations : public platform::SecurityOperations {
 public:
     using Bytes = std::vector<std::uint8_t>;
 
-    /// What one round writes and answers, and what completing its token answers.
+    /// What one round writes and returns, and what completing its token returns.
     struct Round {
         platform::SecurityStatus status = platform::securityOk;
         Bytes token;
         platform::SecurityStatus completeStatus = platform::securityOk;
     };
 
-    /// One call of `initializeContext`, as it came.
+    /// The arguments of one call of `initializeContext`.
     struct Asked {
         std::string targetName;
         bool withContext;
@@ -35,14 +35,14 @@ public:
     std::uint32_t maxTokenSize = 16;
     platform::SecurityStatus queryStatus = platform::securityOk;
     platform::SecurityStatus acquireStatus = platform::securityOk;
-    /// Rounds to come. A round that isn't there fails with `roundsUsedUp`.
+    /// Rounds to come. A missing round fails with `roundsUsedUp`.
     std::deque<Round> rounds;
     static constexpr platform::SecurityStatus roundsUsedUp = -1;
 
-    /// Names of the operations in the order in which they ran.
+    /// Names of the operations in call order.
     std::vector<std::string> operations;
     std::vector<Asked> asked;
-    /// The token that each completion was given.
+    /// The token passed to each completion.
     std::vector<Bytes> completed;
 
     platform::SecurityStatus queryMaxTokenSize(std::uint32_t& size) override {

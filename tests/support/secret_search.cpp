@@ -11,7 +11,7 @@ namespace support {
 
 namespace {
 
-// Divisible by three, so that it is a whole number of Base64's groups.
+// Divisible by three, to make a whole number of Base64 groups.
 constexpr std::size_t partSize = 12;
 
 std::string hexadecimal(std::string_view bytes) {
@@ -38,7 +38,7 @@ std::string base64(std::string_view bytes) {
     return text;
 }
 
-/// Digits as one string in lower case, whatever stands between them.
+/// The hexadecimal digits as one lower-case string, ignoring what is between them.
 std::string joinedDigits(std::string_view text) {
     std::string digits;
     for (const char letter : text)

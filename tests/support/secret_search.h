@@ -7,8 +7,8 @@
 
 namespace support {
 
-/// Whether `text` holds any 12 bytes in a row of `secret`, be it as they are, in hexadecimal digits
-/// or in Base64. The secret is at least 12 bytes long.
+/// Whether `text` contains any 12 consecutive bytes of `secret`, verbatim, in hexadecimal or in
+/// Base64. The secret is at least 12 bytes long.
 bool revealsPartOf(std::string_view secret, std::string_view text);
 
 } // namespace support

@@ -8,7 +8,7 @@ platform::SecurityOperations* inUse = nullptr;
 
 } // namespace
 
-// Found before the one in the library of the platform, which is then left out.
+// Found before the one in the platform library, which is then left out.
 platform::SecurityOperations* platform::securityOperations() {
     return inUse;
 }

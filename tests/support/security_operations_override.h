@@ -6,9 +6,9 @@
 
 namespace support {
 
-/// Puts `operations`, which may be null, in the place of this system's for as long as the object
-/// lives. One at a time, and while nobody logs in. A program that links this has no security
-/// operations of its system at any time: the linker takes ours in their place.
+/// Replaces this system's security operations with `operations`, which may be null, for the
+/// lifetime of the object. One at a time, and not during a login. A program that links this never
+/// has the security operations of its system: the linker takes these instead.
 class SecurityOperationsOverride {
 public:
     explicit SecurityOperationsOverride(platform::SecurityOperations* operations);
@@ -17,7 +17,7 @@ public:
     ~SecurityOperationsOverride();
 };
 
-/// For a program that never overrides them: being called is what makes it link this.
+/// For a program that never overrides them: calling it pulls in this object file.
 void leaveOutSystemSecurity();
 
 } // namespace support

@@ -8,7 +8,7 @@
 
 namespace support {
 
-/// Something that happens once on one thread, and that another waits for with a limit.
+/// A one-time event on one thread that another thread waits for with a limit.
 class Signal {
 public:
     void raise() {

@@ -14,7 +14,7 @@
 
 namespace support {
 
-/// The name of a file that doesn't exist yet, and is removed at the end.
+/// The name of a file that doesn't exist yet and is removed by the destructor.
 class TemporaryFile {
 public:
     TemporaryFile() {
@@ -28,7 +28,7 @@ public:
     ~TemporaryFile() { std::filesystem::remove(path_); }
 
     std::string path() const { return path_.string(); }
-    /// A file that can't be made, as it would stand below this one.
+    /// The path of a file that can't be created, as its folder doesn't exist.
     std::string impossiblePath() const { return (path_ / "file").string(); }
     bool exists() const { return std::filesystem::exists(path_); }
 

@@ -10,8 +10,8 @@
 
 namespace support {
 
-/// Sets the zone that the process lives in, and at its end the one before. Rules of POSIX, as in
-/// "CET-1CEST,M3.5.0,M10.5.0/3", are known to every machine; names aren't.
+/// Sets the time zone of the process and restores the previous one at the end. POSIX rules, as in
+/// "CET-1CEST,M3.5.0,M10.5.0/3", work on every machine; zone names don't.
 class TimeZone {
 public:
     explicit TimeZone(const char* rules) {

@@ -26,7 +26,7 @@ bool shows(const QWidget& widget, const char* className) {
     return false;
 }
 
-/// A box may come before what it is about is on the screen.
+/// A box may appear before its subject is on the screen.
 bool isAbout(const QWidget& box, const char* className) {
     if (!box.inherits("QMessageBox") && !box.inherits("QFileDialog") && !box.inherits("QMenu"))
         return false;
@@ -59,7 +59,7 @@ void Album::take(QWidget& shown, const char* screen) {
         qFatal("There are two pictures of %s", screen);
     taken_ << name;
     shown.activateWindow();
-    // A layout may ask for another one.
+    // One layout may trigger another.
     for (int i = 0; i < 3; ++i)
         QCoreApplication::processEvents();
     boxTexts_ << textsOf(shown);
@@ -67,7 +67,7 @@ void Album::take(QWidget& shown, const char* screen) {
     seenTexts_[name] = tour::seenTexts(shown);
     for (const QString& defect : defectsOf(shown) + readerDefectsOf(shown))
         defects_ << name + QStringLiteral(": ") + defect;
-    // What comes late has come then, and is on the picture.
+    // By then late changes have arrived and are in the picture.
     if (folder_)
         QTest::qWait(timeToRest);
     const QPixmap picture = shown.grab();

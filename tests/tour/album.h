@@ -14,28 +14,28 @@ class QWidget;
 
 namespace tour {
 
-/// The pictures that were taken, and what was seen on them.
+/// The pictures taken, and what was seen on them.
 class Album {
 public:
-    /// Without a folder the pictures are made, and thrown away. `refusal` is what an agent says, in
-    /// its language, that doesn't do as it is told.
+    /// Without a folder the pictures are discarded. `refusal` is the text, in its language, with
+    /// which an agent refuses a call.
     explicit Album(QString refusal, std::optional<QDir> folder = {});
 
     const QString& refusal() const { return refusal_; }
 
-    /// Takes what a widget shows as a screen of the catalogue. Ends the program if it isn't that
-    /// screen, if there is such a picture already, or if it can't be written.
+    /// Takes a picture of a widget as a screen of the catalogue. Aborts the program if it isn't
+    /// that screen, if there is such a picture already, or if it can't be written.
     void take(QWidget& shown, const char* screen);
 
-    /// The screens of the catalogue that have no picture.
+    /// The screens of the catalogue without a picture.
     QStringList missing() const;
-    /// The titles and the texts of the boxes.
+    /// The titles and texts of the boxes.
     const QStringList& boxTexts() const { return boxTexts_; }
-    /// What stands in the title bar of each screen that has one, which no picture shows.
+    /// The window titles of the screens that have one, which no picture shows.
     const QMap<QString, QString>& titles() const { return titles_; }
-    /// What a user reads on each screen.
+    /// The texts on each screen.
     const QMap<QString, QList<SeenText>>& seenTexts() const { return seenTexts_; }
-    /// What is wrong with the looks, with the screen in front.
+    /// Visual defects, each prefixed with its screen.
     const QStringList& defects() const { return defects_; }
 
 private:

@@ -6,13 +6,13 @@
 
 namespace tour {
 
-/// A picture: the name of its file, and what is on it.
+/// A picture: its file name and its title.
 struct Screen {
     const char* name;
     const char* title;
 };
 
-/// A window, a page or a dialog in its states, with the boxes that it may open.
+/// A window, page or dialog in its various states, with the boxes that it may open.
 struct Chapter {
     const char* title;
     /// The class that each picture shows, or that is behind it. Empty for a screen without a form.
@@ -24,7 +24,7 @@ struct Chapter {
 /// Every screen of the program, in the order in which a user meets them.
 const std::vector<Chapter>& catalogue();
 
-/// Ends the program if there is no such screen.
+/// Aborts the program if there is no such screen.
 const Chapter& chapterOf(const char* screen);
 
 } // namespace tour

@@ -47,7 +47,7 @@ void takeUser(Photographer& photographer, QDialog& user) {
     click(user, "btnOK");
 }
 
-/// The codes that were mailed are given, and the box that comes then is taken.
+/// Enters the mailed code, and takes the box that follows.
 void forward(Photographer& photographer, QDialog& users, const char* screen) {
     photographer.expect<TFACodeDlg>([&](TFACodeDlg& dialog) {
         type(dialog, "editCode", "314159");
@@ -81,7 +81,7 @@ void choose(QWidget& dialog, const char* combo, int row) {
     child<QComboBox>(dialog, combo).setCurrentIndex(row);
 }
 
-/// Each thing that is missing is told of by itself, in the order of the dialog.
+/// Each missing entry is reported separately, in the order of the dialog.
 void takeProblems(Photographer& photographer, QDialog& dialog) {
     const auto problem = [&](const char* screen) {
         photographer.expect(screen);
@@ -123,7 +123,7 @@ void takeFirstRegistration(Photographer& photographer) {
         takeProblems(photographer, dialog);
         photographer.expect("box-saved");
         click(dialog, "btnSave");
-        // With the registration comes the offer of a first set.
+        // After the registration the program offers a first set.
         photographer.expect<QWizard>([](QWizard&) {});
     });
     photographer.run("OnConnect");

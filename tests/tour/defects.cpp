@@ -56,13 +56,13 @@ bool isCut(const QAbstractButton& button) {
     return text.width() + icon > button.width();
 }
 
-/// Whether there are more tabs than have room.
+/// Whether there are more tabs than fit.
 bool isCut(const QTabBar& tabs) {
     return tabs.count() > 0 && !tabs.rect().contains(tabs.tabRect(tabs.count() - 1));
 }
 
 /// The title of the first column that is too narrow for it; empty if there is none. English titles
-/// have the widths that they were given.
+/// have preset widths.
 QString cutTitle(const QHeaderView& header) {
     for (int section = 0; section < header.count(); ++section) {
         const QString title = header.model()->headerData(section, header.orientation()).toString();
@@ -77,7 +77,7 @@ QString cutTitle(const QHeaderView& header) {
     return {};
 }
 
-/// The text of a widget that is too small for it; empty if all of it is seen.
+/// The text of a widget that is too small for it; empty if all of it is visible.
 QString cutText(const QWidget& widget) {
     if (const auto* label = qobject_cast<const QLabel*>(&widget))
         return isCut(*label) ? label->text() : QString();
@@ -89,7 +89,7 @@ QString cutText(const QWidget& widget) {
         return isCut(*tabs) ? tabs->tabText(tabs->count() - 1) : QString();
     if (const auto* header = qobject_cast<const QHeaderView*>(&widget))
         return header->model() ? cutTitle(*header) : QString();
-    // Those of a tool bar choose between their text and their icon.
+    // Tool bar buttons switch between text and icon by themselves.
     if (qobject_cast<const QToolButton*>(&widget))
         return {};
     if (const auto* button = qobject_cast<const QAbstractButton*>(&widget))
@@ -97,13 +97,12 @@ QString cutText(const QWidget& widget) {
     return {};
 }
 
-/// What a row shows, and the folder that a file dialog of Qt looks in, are a user's texts of any
-/// length.
+/// The text of a row, and the folder shown by Qt's file dialog, are user texts of any length.
 bool isTextOfAUser(const QWidget& widget) {
     if (qobject_cast<const QFileDialog*>(widget.parentWidget()) &&
         widget.objectName() == QLatin1String("lookInCombo"))
         return true;
-    // A file dialog of Qt chooses the widths of its columns.
+    // Qt's file dialog sets its own column widths.
     if (qobject_cast<const QHeaderView*>(&widget))
         return widget.window()->inherits("QFileDialog");
     for (const QWidget* at = widget.parentWidget(); at; at = at->parentWidget())
@@ -112,7 +111,7 @@ bool isTextOfAUser(const QWidget& widget) {
     return false;
 }
 
-/// What a view holds may be larger than the view.
+/// The content of a view may be larger than the view.
 bool mayStickOut(const QWidget& widget) {
     const QWidget* parent = widget.parentWidget();
     return widget.isWindow() || !parent || qobject_cast<const QAbstractScrollArea*>(parent) ||
@@ -166,7 +165,7 @@ QStringList defectsOf(const QWidget& shown) {
             defects << QStringLiteral("cut is ") + told(*widget, cut);
         if (sticksOut(*widget))
             defects << widget->objectName() + QStringLiteral(" sticks out");
-        // A key goes to what is enabled.
+        // A mnemonic only reaches enabled widgets.
         if (!widget->isEnabled())
             continue;
         const QString key = QKeySequence::mnemonic(textWithKey(*widget)).toString();

@@ -8,8 +8,8 @@ class QWidget;
 
 namespace tour {
 
-/// What is wrong with the looks of a widget and all that it holds: texts that are cut, widgets that
-/// stick out, and letters that stand for two things.
+/// The visual defects of a widget and its children: cut texts, widgets that stick out of their
+/// parents, and mnemonics used twice.
 QStringList defectsOf(const QWidget& shown);
 
 } // namespace tour

@@ -21,7 +21,7 @@ namespace {
 
 using simulator::Scenario;
 
-/// Passes events until something holds; ends the program if it doesn't come to that.
+/// Processes events until the condition holds; aborts the program if it never does.
 template <class Holds>
 void waitUntil(Holds holds) {
     constexpr int patience = 60'000;
@@ -29,7 +29,7 @@ void waitUntil(Holds holds) {
         qFatal("What was waited for didn't come");
 }
 
-/// The window that a command of the menu opens, of that class.
+/// Opens a window of that class with a menu command.
 template <class Window>
 Window& opened(Photographer& photographer, const char* action) {
     child<QAction>(photographer.window(), action).trigger();
@@ -70,7 +70,7 @@ void takeSearch(Album& album) {
     photographer.take(window, "log-search");
     photographer.expect<QFileDialog>([&](QFileDialog& dialog) {
         photographer.take(dialog, "log-export");
-        // Nobody can make a file there.
+        // No file can be created there.
         dialog.selectFile(q("/proc/log.csv"));
         static_cast<QDialog&>(dialog).accept();
     });

@@ -53,7 +53,7 @@ void takeLogin(Album& album) {
         const support::SecurityOperationsOverride inUse(&security);
         Photographer photographer(album);
         photographer.expect<LoginCheck>([&](LoginCheck& login) {
-            // Not the account that takes the picture.
+            // Not the account of the user who takes the pictures.
             type(login, "lineEditUserName", "anna");
             photographer.take(login, "login-current-user");
         });
@@ -171,7 +171,7 @@ void takeFailures(Photographer& photographer, const QString& refusal) {
     photographer.run("OnDelete", "delete-question");
 }
 
-/// An agent that falls silent, and what is left of the session then.
+/// An agent that falls silent, and the session afterwards.
 void takeSilence(Album& album) {
     app::CallGate gate;
     Photographer photographer(album);

@@ -25,10 +25,10 @@ inline QString q(const char* text) {
     return QString::fromUtf8(text);
 }
 
-/// A main window with an agent behind it, and somebody with a camera in front of it.
+/// A main window connected to an agent, and a user with a camera in front of it.
 class Photographer {
 public:
-    /// `change` is done to the agent. Nobody is logged in yet.
+    /// `change` is applied to the agent. Starts without a login.
     explicit Photographer(Album& album, simulator::Options options = {},
                           const std::function<void(simulator::World&)>& change = {});
 
@@ -36,20 +36,20 @@ public:
     support::MainWindowDriver& driver() { return driver_; }
     support::GuiAgent& agent() { return agent_; }
 
-    /// The dialog that the command to connect opens comes next, and is filled in.
+    /// Expects the dialog opened by the Connect command, and fills it in.
     void expectLogin();
     void logIn();
-    /// So much time passes for the agent, and the window shows what has come of it.
+    /// Advances the agent's clock, and updates the window.
     void letPass(std::chrono::seconds time);
     void selectSet(int row) { driver_.sets().selectRow(row); }
 
-    /// The agent refuses the next call of that method.
+    /// Makes the agent refuse the next call of that method.
     void refuse(const char* method);
     void refuse(const char* method, const QString& text);
 
     void take(QWidget& shown, const char* screen) { album_.take(shown, screen); }
 
-    /// What to do in front of the dialog that comes next. If it is open then, it is closed.
+    /// What to do with the next dialog. If it is still open afterwards, it is closed.
     template <class Dialog>
     void expect(const std::function<void(Dialog&)>& act) {
         modals_.expect(q(Dialog::staticMetaObject.className()), support::isDialog<Dialog>,
@@ -59,19 +59,19 @@ public:
                                widget.close();
                        });
     }
-    /// A picture of the dialog or the box that comes next.
+    /// Takes a picture of the next dialog or box.
     void expect(const char* screen);
 
-    /// Runs a slot of the window; all that was to come has come then.
+    /// Runs a slot of the window; checks that all expected dialogs have opened.
     void run(const char* slot);
-    /// The same of the dialog that the menu opens by that slot.
+    /// The same for a dialog that the slot opens, taking its picture.
     void run(const char* slot, const char* screen);
-    /// Ends the program if something that was expected didn't come.
+    /// Aborts the program if an expected dialog didn't open.
     void end();
 
 private:
     Album& album_;
-    std::shared_ptr<std::atomic<simulator::Milliseconds>> passed_; ///< in which the agent is ahead
+    std::shared_ptr<std::atomic<simulator::Milliseconds>> passed_; ///< that the agent is ahead
     support::GuiAgent agent_;
     support::MainWindowDriver driver_;
     support::ModalDriver modals_;
@@ -80,9 +80,9 @@ private:
 void click(QWidget& dialog, const char* button);
 void type(QWidget& dialog, const char* field, const char* text);
 
-/// Goes on to the next page. Ends the program if the wizard stays where it is.
+/// Goes to the next page. Aborts the program if the wizard stays on the page.
 void next(QWizard& wizard);
-/// Opens the first row, the first one below it and so on; the last of them.
+/// Expands the first row, then its first child and so on; returns the last one.
 QModelIndex openFirstRows(QTreeView& tree, int levels);
 void tick(QTreeView& tree, const QModelIndex& index);
 

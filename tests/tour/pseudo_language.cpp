@@ -15,12 +15,12 @@ const QString plainLetters = QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghi
 const QString accentedLetters =
     QString::fromUtf8("ÀßÇĐÉƑĜĤÎĴĶĻṀÑÖÞǪŔŠŢÛṼŴẊÝŽàƀçđéƒĝĥîĵķļɱñöþǫŕšţûṽŵẋýž");
 
-/// Letters of which two are added to five.
+/// Adds two letters to five.
 constexpr double growth = 0.4;
 
 QString accented(const QStringRef& words) {
     QString text;
-    double due = 1 - growth; // for a short one, too
+    double due = 1 - growth; // short texts get one too
     for (const QChar character : words) {
         const int letter = plainLetters.indexOf(character);
         if (letter < 0) {
@@ -59,7 +59,7 @@ bool PseudoLanguage::isSpokenIn(const QString& text) {
 }
 
 QString PseudoLanguage::translate(const char*, const char* source, const char*, int) const {
-    // No text, but a question for the direction of writing.
+    // Not a text: Qt queries the layout direction.
     if (std::strcmp(source, "QT_LAYOUT_DIRECTION") == 0)
         return {};
     return textOf(QString::fromUtf8(source));

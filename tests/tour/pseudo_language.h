@@ -6,14 +6,14 @@
 
 namespace tour {
 
-/// A language that nobody speaks and everybody reads: each letter of a text has an accent, and its
-/// words are longer by 40 %. What is written in plain letters on the screen was never translated,
-/// and what is cut would be cut in a language with long words.
+/// A readable pseudo-language: each letter has an accent, and words are 40 % longer. Plain letters
+/// on the screen were never translated, and a text that is cut would also be cut in a language with
+/// long words.
 class PseudoLanguage : public QTranslator {
 public:
-    /// The text of `source`, with its places for arguments, its marks and its mnemonic.
+    /// The translation of `source`, with its placeholders, markup and mnemonic.
     static QString textOf(const QString& source);
-    /// Whether a text holds anything of this language.
+    /// Whether a text contains anything in this language.
     static bool isSpokenIn(const QString& text);
 
     bool isEmpty() const override { return false; }

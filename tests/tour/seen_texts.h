@@ -11,13 +11,13 @@ namespace tour {
 
 /// A text that a user meets, and the object that shows it.
 struct SeenText {
-    QString owner; ///< its name, or its class where it has none
+    QString owner; ///< the object name, or the class if it has none
     QString text;
     bool isOfRow = false; ///< it may come from the agent
 };
 
-/// The texts of a widget and of all that it holds: those on the screen, those that are shown under
-/// the pointer, and those that are read out. What is typed in a field isn't among them.
+/// The texts of a widget and its children: on the screen, in tool tips, and those read out by a
+/// screen reader. Text typed into a field is excluded.
 QList<SeenText> seenTexts(const QWidget& shown);
 
 } // namespace tour

@@ -6,7 +6,7 @@ namespace tour {
 
 class Album;
 
-// Each of them works a part of the program and takes its screens.
+// Each of them exercises a part of the program and takes its screens.
 void takeStart(Album& album);
 void takeMainWindow(Album& album);
 void takeWizards(Album& album);

@@ -3,7 +3,7 @@
 // Takes a picture of every screen of the program, or writes the page that shows them all:
 //   take_pictures <folder> [<translation file>|pseudo]
 //   take_pictures --index <folder of the English ones> <folder of the German ones> >docs/tour.md
-// The looks are those of the display; see tools/pictures.
+// The look depends on the display; see tools/pictures.
 #include <cstdio>
 
 #include <QApplication>
@@ -106,7 +106,7 @@ int main(int argc, char** argv) {
         QCoreApplication::installTranslator(&german);
         refusal = QStringLiteral("Der Speicherserver ist nicht erreichbar.");
     }
-    // A cursor that blinks is on every other picture.
+    // A blinking cursor would be on every other picture.
     QApplication::setCursorFlashTime(0);
     const QDir folder(arguments.at(1));
     tour::Album album(refusal, folder);

@@ -41,7 +41,7 @@ QStringList sourcesEndingIn(const char* ending) {
     return paths;
 }
 
-/// The literals in a piece of code, each of them in one piece.
+/// The string literals in a piece of code, with adjacent ones joined.
 QStringList literalsIn(const QString& code) {
     static const QRegularExpression literal(q(R"re(("([^"\\\n]|\\.)*"\s*)+)re"));
     QStringList texts;
@@ -57,7 +57,7 @@ QStringList literalsIn(const QString& code) {
     return texts;
 }
 
-/// The code from each place that the pattern finds up to the end of the statement.
+/// The code from each match of the pattern to the end of the statement.
 QStringList statementsAt(const QString& code, const QRegularExpression& start) {
     QStringList statements;
     for (auto match = start.globalMatch(code); match.hasNext();) {
@@ -67,8 +67,7 @@ QStringList statementsAt(const QString& code, const QRegularExpression& start) {
     return statements;
 }
 
-/// What the code of the program says in boxes of its own: their titles and their texts, without
-/// those of the agent.
+/// The titles and texts of the boxes in the program's code, without those from the agent.
 QStringList boxTextsOfCode() {
     static const QRegularExpression boxes(q(
         R"re(ui::(showError|showInformation|asks|confirms)\(|QMessageBox::(information|question|warning|critical)\(|QFileDialog dialog\()re"));
@@ -89,7 +88,7 @@ QStringList boxTextsOfCode() {
     return texts;
 }
 
-/// Whether one of the texts is that of the code, with anything in the places of its arguments.
+/// Whether a text of the code was seen, with anything in place of its arguments.
 bool isSeen(const QString& text, const QStringList& seen) {
     static const QRegularExpression argument(q("%\\d"));
     QStringList parts;
@@ -100,21 +99,22 @@ bool isSeen(const QString& text, const QStringList& seen) {
     return seen.indexOf(whole) >= 0;
 }
 
-/// Letters that the texts of the dialog give twice; a second press goes on to the other one.
+/// Mnemonics that the dialog's own texts use twice; pressing the key again moves to the other
+/// widget.
 const char* const givenTwice[] = {
     "registration-first: Alt+O stands for labAccountNum \"Acc&ount #\" and labAccountKeyConfirm "
     "\"C&onfirm\"",
     "registration-first: Alt+T stands for labPrivateKeyType \"&Type\" and chkRegister \"Connect to "
     "&Tarn-System and verify information\""};
 
-/// What shows names, numbers and dates of the agent.
+/// Objects that show names, numbers and dates from the agent.
 const char* const agentsWords[] = {
     "BackupSetViewItem", "cmbAccountKeyType",      "cmbPrivateKeyType", "comboDomain",
     "comboSet",          "comboSpecificLocations", "labelSetName",      "lookInCombo",
     "txtAccountNum",     "txtClientNum",           "valLastBackup"};
 
-/// Texts that are the same in all languages: the names of the program and of its maker, what the
-/// agent answers, and that there is no translation, for which there can't be one.
+/// Texts that are the same in all languages: the names of the program and of its maker, the agent's
+/// texts, and the error of a missing translation, which can't have one.
 const char* const sameInAllLanguages[] = {"Tarn-Mobile User",
                                           "Norvel Inc",
                                           "Unknown user name or bad password.",
@@ -129,7 +129,7 @@ bool isAmong(const Texts& texts, const QString& wanted) {
                        [&](const char* text) { return wanted == q(text); });
 }
 
-/// The texts of the program in English, as they are written in its sources.
+/// The program's texts in English, as in its sources.
 QSet<QString> sourceTexts() {
     static const QRegularExpression source(q("<source>([^<]*)</source>"));
     QSet<QString> texts;
@@ -140,15 +140,15 @@ QSet<QString> sourceTexts() {
     return texts;
 }
 
-/// Whether a text is in the pseudo-language, or is none of the program's. A row may show anything
-/// but what the sources say.
+/// Whether a text is in the pseudo-language, or isn't one of the program's. A row may show anything
+/// except a source text.
 bool isTranslated(const tour::SeenText& seen) {
     static const QRegularExpression letter(q("[A-Za-z]"));
     static const QRegularExpression patterns(q(R"re(^(\*\.\w+[,\s]*)+$)re"));
     static const QSet<QString> english = sourceTexts();
     if (!seen.text.contains(letter) || tour::PseudoLanguage::isSpokenIn(seen.text))
         return true;
-    // These two show what the agent calls its things, some of which the program has words for too.
+    // These two show the agent's names, some of which the program also has as texts.
     if (seen.isOfRow)
         return !english.contains(seen.text) || seen.owner == q("tableInfo") ||
                seen.owner == q("treeNetworkDiscovery");
@@ -202,7 +202,7 @@ void check(const tour::Album& album) {
 
 } // namespace
 
-/// Every screen of the program can be had, in both languages, and is in order.
+/// Every screen of the program can be reached, in every language, and has no defects.
 class TourTest : public QObject {
     Q_OBJECT
 private slots:
@@ -292,7 +292,7 @@ void TourTest::noFormDisablesWhatIsStillEmpty() {
 }
 
 void TourTest::everyBoxIsTaken() {
-    // What is run under this title doesn't fail: the list is read when it is on the screen.
+    // The action with this title can't fail: the list is read once it is on the screen.
     const QString never = q("2FA Settings Error");
     QVERIFY(!boxTexts_.isEmpty());
     const QStringList texts = boxTextsOfCode();

@@ -99,7 +99,7 @@ void takeNewSet(Photographer& photographer) {
     });
     photographer.run("OnNewBackupSet");
 
-    // Told before the wizard is there.
+    // Reported before the wizard opens.
     photographer.refuse("neededCredentials");
     photographer.expect("box-needed-login");
     photographer.expect<QWizard>([](QWizard&) {});

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
-// What a thread with a hook does in a call that takes long, over both transports.
+// What a thread with a hook does during a slow call, over both transports.
 #include <functional>
 #include <limits>
 #include <memory>
@@ -31,7 +31,7 @@ using Mode = LoopbackServer::Mode;
 
 const std::string goodbye = "Enough of this";
 
-/// Does `work` in each wait, and then sleeps until the call has finished.
+/// Runs `work` in each wait, then sleeps until the call has finished.
 class ScriptedHook final : public WaitHook {
 public:
     using Work = std::function<void(AwaitedCall&)>;
@@ -62,7 +62,7 @@ void leave(AwaitedCall& call) {
     call.giveUp(goodbye);
 }
 
-/// A busy machine may take long until a call has come to the server.
+/// On a busy machine a call may take long to reach the server.
 ScriptedHook::Work leaveAfter(Signal& asked) {
     return [&asked](AwaitedCall& call) {
         EXPECT_TRUE(asked.wait());
@@ -90,7 +90,7 @@ struct Endpoint {
         return stream ? responseFrame(1, "pong")
                       : "HTTP/1.1 200 OK\r\nContent-Length: 4\r\n\r\npong";
     }
-    /// The beginning of a reply that announces 4 GB less one byte.
+    /// The head of a reply that announces 4 GB less one byte, or 1 GB over HTTP.
     std::string hugeHead() const {
         if (stream)
             return std::string("@RSP\0\0\0\1\0\0\0\0\xff\xff\xff\xff", 16);
@@ -256,7 +256,7 @@ TEST_P(CallWait, OtherThreadsSleepWithoutTheHook) {
     EXPECT_EQ(hook.waits, 0);
 }
 
-/// A port whose connections never come up, since the listener's queue is full.
+/// A port to which no connection can be established, as the listener's queue is full.
 class FullPort {
 public:
     FullPort()

@@ -89,7 +89,7 @@ TEST(Frame, DumpShowsOnlyTheSignOfHighBytesExceptTheLast) {
               "FFFFFFFFFFFFFFFFFFFFFFFFFFFFFF7F");
 }
 
-// The server that the other tests stand on answers with frames of its own making.
+// The other tests rely on this server, which builds its own frames.
 TEST(LoopbackServer, AnswersWithFramesAsTyped) {
     EXPECT_EQ(printable(support::responseFrame(1, "pong")),
               printable(bytes("'@RSP' 00 00 00 01 00 00 00 00 00 00 00 04 'pong' c4 b1 aa 43")));

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 
-// What a call leaves in the memory that it gives back.
+// What a call leaves in the memory that it frees.
 #include <cstddef>
 #include <cstdlib>
 #include <new>
@@ -20,7 +20,8 @@ const std::string secret = "a secret that crosses the wire";
 thread_local bool watched = false;
 thread_local int findings = 0;
 
-/// Counts the blocks with the secret in them that the current thread frees while this lives.
+/// Counts the blocks containing the secret that the current thread frees during the lifetime of
+/// this object.
 class FreedMemory {
 public:
     FreedMemory() {
@@ -34,7 +35,7 @@ public:
     int blocksWithSecret() const { return findings; }
 };
 
-// Each block follows its size.
+// Each block is preceded by its size.
 constexpr std::size_t headSize = alignof(std::max_align_t);
 
 } // namespace

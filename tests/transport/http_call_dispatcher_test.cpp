@@ -45,7 +45,7 @@ std::string failureOf(const std::string& url, HttpLimits limits = {}) {
     return failureOf(dispatcher, url);
 }
 
-/// A server that reads one request with the body "ping", says this, and closes.
+/// A server that reads one request with the body "ping", sends this response, and closes.
 LoopbackServer::Script answer(const std::string& response) {
     return [response](Peer& peer) {
         peer.open().receiveUntil("\r\n\r\nping");
@@ -56,7 +56,7 @@ LoopbackServer::Script answer(const std::string& response) {
 
 const std::string okStart = "HTTP/1.1 200 OK\r\n";
 
-/// Everything that must hold on both kinds of connection.
+/// Holds for both kinds of connection.
 class Http : public testing::TestWithParam<Mode> {};
 
 INSTANTIATE_TEST_SUITE_P(Both, Http, testing::Values(Mode::plain, Mode::tls), [](const auto& mode) {
@@ -211,7 +211,7 @@ TEST_P(Http, ASilentServerRaisesAfterTheTimeOut) {
 }
 
 TEST_P(Http, ARefusalBeforeTheWholeRequestIsReadIsTold) {
-    const std::string large(32'000'000, 'x'); // more than the sockets hold
+    const std::string large(32'000'000, 'x'); // more than the socket buffers hold
     LoopbackServer server(GetParam(), [&](Peer& peer) {
         peer.open().receiveUntil("\r\n\r\n");
         peer.send("HTTP/1.1 413 Too Large\r\nContent-Length: 0\r\n\r\n");

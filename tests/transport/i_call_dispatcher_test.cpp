@@ -22,7 +22,7 @@ using hessiancln::ICallDispatcher;
 using support::Signal;
 using namespace std::chrono_literals;
 
-/// Answers with the request itself, once the gate is open. The request "fail" raises.
+/// Replies with the request itself, once the gate is open. The request "fail" throws.
 class EchoDispatcher final : public ICallDispatcher {
 public:
     EchoDispatcher()
@@ -57,7 +57,7 @@ private:
     int taken_ = 0;
 };
 
-/// Collects what handlers are told, in the order in which they run.
+/// Collects the arguments of the handlers in call order.
 class Outcomes {
 public:
     ICallDispatcher::Handler note(const std::string& kind) {
@@ -184,7 +184,7 @@ TEST(ICallDispatcher, DestructionFinishesTakenCallsAndThenFailsTheQueuedOnesInOr
         dispatcher.reset();
         destroyed.raise();
     });
-    EXPECT_FALSE(destroyed.wait(100ms)); // the taken calls are still under way
+    EXPECT_FALSE(destroyed.wait(100ms)); // the calls taken are still in progress
     EXPECT_TRUE(outcomes.list().empty());
     used.gate.raise();
     EXPECT_TRUE(destroyed.wait());
@@ -208,7 +208,7 @@ TEST(ICallDispatcher, ACallAfterTheStopFailsAtOnce) {
     for (int i = 0; i < 16; ++i)
         callAsync(used, "queued", others);
 
-    // The queue is full, so this call sees the stop whether it comes before or after it.
+    // The queue is full, so this call is affected by the stop whether it comes before or after it.
     std::thread caller([&] { callAsync(used, "late", whileStopping); });
     std::thread destroyer([&] { dispatcher.reset(); });
     EXPECT_TRUE(whileStopping.wait());
@@ -223,7 +223,7 @@ TEST(ICallDispatcher, ThatOnlySentRequestsHasNoThreadToJoin) {
     EchoDispatcher dispatcher;
     dispatcher.gate.raise();
     EXPECT_EQ(dispatcher.sendRequest("url", "request"), "request");
-    dispatcher.stopConnections(); // keeps none, so nothing happens
+    dispatcher.stopConnections(); // there are none, so nothing happens
     EXPECT_EQ(dispatcher.sendRequest("url", "request"), "request");
     EXPECT_EQ(dispatcher.threads(), 1u);
 }

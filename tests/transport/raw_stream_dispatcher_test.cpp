@@ -35,7 +35,7 @@ void echo(Peer& peer) {
     }
 }
 
-/// Answers so many calls with their own message.
+/// Answers `calls` calls with their own message.
 LoopbackServer::Script echo(int calls) {
     return [calls](Peer& peer) {
         peer.open();
@@ -50,8 +50,7 @@ LoopbackServer::Script echo(int calls) {
 TARN_ON_PLAIN_AND_TLS(RawStream);
 
 TEST_P(RawStream, FramesAreAsTypedBothWays) {
-    // The host stands in the frame as given, and the port is that of the listener; so the URL goes
-    // to a connection that was made for that port already.
+    // The frame contains the URL as given: the connection to the listener already exists.
     LoopbackServer server(GetParam(), [](Peer& peer) {
         peer.open();
         peer.expect(bytes("'@REQ' 00 00 00 01 00 00 00 0c 'http://h/api' "
@@ -142,7 +141,7 @@ TEST_P(RawStream, AReplyOfLengthZeroIsAnEmptyString) {
 TEST_P(RawStream, CarriesMessagesOfManySizes) {
     LoopbackServer server(GetParam(), [](Peer& peer) { echo(peer); });
     CRawStreamDispacher dispatcher(0, "", true);
-    // Around the steps of memory, of TLS records, and of the pieces that are read at once.
+    // Around the boundaries of memory growth, TLS records and single reads.
     for (const std::size_t size : {0u, 1u, 1019u, 1020u, 1021u, 16383u, 16384u, 16385u, 262139u,
                                    262140u, 262141u, 262144u, 262145u, 524284u, 1000000u}) {
         std::string message(size, '\0');
@@ -268,7 +267,7 @@ TEST_P(RawStream, WithoutReuseEachCallConnectsAnewAndIsClosedAfterwards) {
         for (int i = 0; i < 3; ++i)
             EXPECT_EQ(dispatcher.sendRequest(server.url(), "ping"), "ping");
         EXPECT_EQ(server.connections(), 3u);
-        EXPECT_TRUE(server.waitForEnded(3)); // each has seen its close
+        EXPECT_TRUE(server.waitForEnded(3)); // each has seen its connection close
     }
 }
 
@@ -290,7 +289,7 @@ TEST_P(RawStream, AnAsynchronousCallIsAnsweredOnTheConnectionsThread) {
 }
 
 TEST_P(RawStream, AHandlerMayCallOn) {
-    constexpr int calls = 50; // more than the frames that a caller may leave unwritten
+    constexpr int calls = 50; // more than the unwritten frames allowed per caller
     LoopbackServer server(GetParam(), echo(1 + calls));
     Signal done;
     std::atomic<int> answered = 0;
@@ -321,7 +320,7 @@ TEST_P(RawStream, SixteenUnwrittenFramesBlockTheNextAsynchronousCaller) {
             peer.send(responseFrame(peer.receiveFrame().id, ""));
         peer.expectClose();
     });
-    // The first frame is larger than what the sockets hold, so nothing behind it is written.
+    // The first frame is larger than the socket buffers, so nothing after it is written.
     const std::string large(16'000'000, 'x');
     std::atomic<int> answered = 0;
     Signal all;

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Streams that fail: each way of failing has its text, and leaves no caller behind.
+// Streams that fail: each failure has its text, and no caller is left waiting.
 #include <future>
 #include <memory>
 #include <thread>
@@ -27,14 +27,14 @@ using Mode = LoopbackServer::Mode;
 
 class RawStreamFailures : public RawStream {
 protected:
-    /// What the one call raises that is sent to a server which plays this script.
+    /// The text thrown by a single call to a server that plays this script.
     static std::string failureWith(LoopbackServer::Script script) {
         LoopbackServer server(GetParam(), std::move(script));
         CRawStreamDispacher dispatcher(0, "", true);
         return failureOf(dispatcher, server.url());
     }
 
-    /// Reads one request, says this, and closes.
+    /// Reads one request, sends this response, and closes.
     static LoopbackServer::Script answer(const std::string& response) {
         return [response](Peer& peer) {
             peer.open().receiveFrame();
@@ -123,7 +123,7 @@ TEST_P(RawStreamFailures, APeerThatClosesWithinTheChecksum) {
 }
 
 TEST_P(RawStreamFailures, APeerThatClosesWithinTheRequest) {
-    // So the client is still writing, which must neither end the program nor wait for ever.
+    // The client is then still writing, which must neither end the program nor wait forever.
     LoopbackServer server(GetParam(), [](Peer& peer) {
         peer.open().receive(12);
         peer.reset();
@@ -138,7 +138,7 @@ TEST_P(RawStreamFailures, AWriteThatFailsWhileThePeerIsSilent) {
     LoopbackServer server(GetParam(), [&](Peer& peer) {
         peer.open();
         peer.send(responseFrame(peer.receiveFrame().id, "pong"));
-        failed.wait(); // neither an answer nor an end comes from here
+        failed.wait(); // neither a reply nor an end of stream is sent
     });
     CRawStreamDispacher dispatcher(0, "", true);
     ASSERT_EQ(dispatcher.sendRequest(server.url(), "ping"), "pong");
@@ -164,7 +164,7 @@ TEST_P(RawStreamFailures, FourOtherBytesWithHighOnesAmongThem) {
 }
 
 TEST_P(RawStreamFailures, AWrongChecksum) {
-    // The right one is C4B1AA43, printed as the signed number that it is.
+    // The correct one is C4B1AA43, printed as a signed number.
     EXPECT_EQ(
         failureWith(answer(bytes("'@RSP' 00 00 00 01 00 00 00 00 00 00 00 04 'pong' 00 00 00 01"))),
         "Response checksums mismatch: -994989501 != 1");
@@ -240,7 +240,7 @@ TEST_P(RawStreamFailures, AStreamThatDiedWhileIdleRaisesItsText) {
     CRawStreamDispacher dispatcher(0, "", true);
     EXPECT_EQ(dispatcher.sendRequest(server.url(), "ping"), "pong");
     ASSERT_TRUE(server.waitForEnded(1));
-    // The call may come before the end of the stream does; it is told in either case.
+    // The call may precede the end of the stream; it fails in either case.
     const std::string text = failureOf(dispatcher, server.url());
     EXPECT_TRUE(text.starts_with("Receive failed (header): ")) << text;
     EXPECT_EQ(failureOf(dispatcher, server.url()), text);
@@ -345,7 +345,7 @@ TEST_P(RawStreamFailures, AHandlerThatRaisesSomethingWithoutATextClosesTheConnec
         server.url(), "ping", [](const std::string&) { throw 42; },
         [&](const std::string& text) { told.set_value(text); });
     EXPECT_EQ(told.get_future().get(), "Stream connection closed");
-    EXPECT_EQ(dispatcher.sendRequest(server.url(), "ping"), "pong"); // its socket was closed
+    EXPECT_EQ(dispatcher.sendRequest(server.url(), "ping"), "pong"); // its connection was closed
     EXPECT_EQ(server.connections(), 2u);
 }
 
@@ -362,7 +362,7 @@ TEST_P(RawStreamFailures, ABlockingCallInAHandlerRaisesInPlaceOfWaitingForItself
         [&](const std::string&) { told.set_value(failureOf(dispatcher, server.url())); },
         [](const std::string& text) { ADD_FAILURE() << text; });
     EXPECT_EQ(told.get_future().get(), "A handler can't wait for a reply on its own connection");
-    EXPECT_EQ(dispatcher.sendRequest(server.url(), "ping"), "pong"); // the stream goes on
+    EXPECT_EQ(dispatcher.sendRequest(server.url(), "ping"), "pong"); // the stream continues
 }
 
 TEST(RawStreamHandshake, APlainServerBehindHttps) {

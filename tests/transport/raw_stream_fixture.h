@@ -10,10 +10,10 @@
 #include "transport/i_call_dispatcher.h"
 #include "transport/invoke_exception.h"
 
-/// Everything that must hold on plain and on TLS streams alike.
+/// Holds for both plain and TLS streams.
 class RawStream : public testing::TestWithParam<support::LoopbackServer::Mode> {
 protected:
-    /// As the system describes the end of a stream whose peer closed without a word. TLS tells it
+    /// The system's text for the end of a stream whose peer closed abruptly. TLS distinguishes it
     /// from a proper end, as "stream truncated".
     static std::string cut() {
         return GetParam() == support::LoopbackServer::Mode::tls ? "stream truncated (1)"
@@ -21,7 +21,7 @@ protected:
     }
 };
 
-/// The text that the call raises.
+/// The text that the call throws.
 inline std::string failureOf(hessiancln::ICallDispatcher& dispatcher, const std::string& url,
                              const std::string& request = "ping") {
     try {

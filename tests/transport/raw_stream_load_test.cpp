@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
-// Much of everything: many calls, much data.
+// Large loads: many calls, much data.
 #include <string>
 #include <thread>
 #include <vector>
@@ -65,7 +65,7 @@ TEST_P(RawStreamLoad, CarriesAReplyOf64MiBWithoutASecondCopy) {
 }
 
 TEST_P(RawStreamLoad, ALengthThatIsOnlyClaimedTouchesNoMemory) {
-    // The largest length that is taken at all, with only the start of its data behind it.
+    // The largest accepted length, followed by only the start of its data.
     LoopbackServer server(GetParam(), [&](Peer& peer) {
         peer.open().receiveFrame();
         peer.send(bytes("'@RSP' 00 00 00 01 00 00 00 00 FF FF FF FF 'only this'"));
@@ -74,7 +74,7 @@ TEST_P(RawStreamLoad, ALengthThatIsOnlyClaimedTouchesNoMemory) {
     CRawStreamDispacher dispatcher(0, "", true);
     const std::size_t before = residentSize();
     const std::string text = failureOf(dispatcher, server.url());
-    // Where the system doesn't promise that much memory, it is refused.
+    // Refused if the system doesn't allow that much memory.
     EXPECT_TRUE(text == "Receive failed (data): " + cut() ||
                 text == "Failed to allocate 4294968320 bytes for data receiving")
         << text;

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
-// Ending streams from another thread, in whatever state they are.
+// Ending streams from another thread, in any state.
 #include <atomic>
 #include <memory>
 #include <thread>
@@ -153,7 +153,7 @@ TEST_P(RawStreamStop, ACallToAStoppedConnectionRaisesAtOnce) {
         server.url(), "ping", [](const std::string&) { ADD_FAILURE(); },
         [&](const std::string& failure) { text = failure; });
     EXPECT_EQ(text, "Stream connection terminated");
-    connection->WaitForStop(); // the second time does nothing
+    connection->WaitForStop(); // the second call does nothing
 }
 
 TEST_P(RawStreamStop, OfADeadStreamNeverWaits) {
@@ -184,7 +184,7 @@ TEST_P(RawStreamStop, TheDestructorWaitsForTheConnectionsThatNoOneJoins) {
         peer.open();
         peer.send(responseFrame(peer.receiveFrame().id, "pong")).expectClose();
     });
-    // Without the wait, a connection hardly ever ends so soon.
+    // Without the wait, a connection hardly ever ends that soon.
     for (int round = 0; round < 10; ++round) {
         {
             CRawStreamDispacher dispatcher(0, "", false);
@@ -200,7 +200,7 @@ TEST_P(RawStreamStop, MayComeWhileManyThreadsCall) {
         for (;;)
             peer.send(responseFrame(peer.receiveFrame().id, "pong"));
     });
-    server.tolerateFailures(); // its scripts end wherever the stop meets them
+    server.tolerateFailures(); // its scripts end wherever the stop catches them
     CRawStreamDispacher dispatcher(0, "", true);
     std::atomic<bool> ending = false;
     std::atomic<int> answered = 0;

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Calls that the system has no memory or no thread for: each fails as any failed call does, and
-// leaves the dispatcher usable.
+// Calls for which the system lacks memory or a thread: each fails like any failed call, and the
+// dispatcher remains usable.
 #include <future>
 #include <memory>
 #include <string>
@@ -26,7 +26,7 @@ using support::Peer;
 using support::RequestFrame;
 using support::responseFrame;
 
-const std::string request(100, 'q'); // too long to be kept without memory of its own
+const std::string request(100, 'q'); // too long for the small-string optimisation
 
 void answerOneByHttp(Peer& peer) {
     peer.open().receiveUntil("\r\n\r\n");
@@ -41,7 +41,7 @@ void echoFrames(Peer& peer) {
     }
 }
 
-/// What the call gives: its reply, or the text that it raises.
+/// The call's result: its reply, or the text that it throws.
 std::string outcomeOf(ICallDispatcher& dispatcher, const std::string& url) {
     try {
         return dispatcher.sendRequest(url, request);
@@ -58,8 +58,8 @@ INSTANTIATE_TEST_SUITE_P(Both, Shortage,
                              return mode.param == LoopbackServer::Mode::tls ? "Tls" : "Plain";
                          });
 
-/// Fails each allocation of a call in turn, until a call comes through that needs no more. Each
-/// one either does without or raises; returns how many raised.
+/// Fails each allocation of a call in turn, until a call needs no more. Each call either does
+/// without or throws; returns how many threw.
 int failEachAllocation(ICallDispatcher& dispatcher, const std::string& url) {
     int raised = 0;
     for (std::size_t nth = 1;; ++nth) {
@@ -81,7 +81,7 @@ int failEachAllocation(ICallDispatcher& dispatcher, const std::string& url) {
 
 TEST_P(Shortage, OfMemoryAnywhereInAnHttpCallFailsThatCall) {
     LoopbackServer server(GetParam(), answerOneByHttp);
-    server.tolerateFailures(); // it sees calls that end anywhere
+    server.tolerateFailures(); // the calls it sees end anywhere
     CHttpCallDispatcher dispatcher(0, "");
     EXPECT_GT(failEachAllocation(dispatcher, server.url()), 10);
     EXPECT_EQ(outcomeOf(dispatcher, server.url()), request);
@@ -110,17 +110,18 @@ TEST_P(Shortage, OfMemoryLeavesNoConnectionWithoutReuse) {
     EXPECT_TRUE(server.waitForEnded(server.connections()));
 }
 
-/// What becomes of a call during which the n-th allocation of the stream's thread fails.
+/// The outcome of a call during which the n-th allocation of the stream's thread fails.
 struct StreamOutcome {
     std::string text;     ///< the reply, or the text of the failure
-    bool reached = false; ///< the thread made so many allocations
+    bool reached = false; ///< the thread made that many allocations
 };
 
 StreamOutcome failOnStream(CRawStreamDispacher& dispatcher, const std::string& url,
                            std::size_t nth) {
     std::unique_ptr<FailingAllocation> failing;
     std::promise<StreamOutcome> outcome;
-    // The handlers run on that thread, so the first arms it for the call and the second disarms it.
+    // The handlers run on that thread: the first one arms the failure for the call, the second
+    // disarms it.
     dispatcher.asyncSendRequest(
         url, "arm",
         [&](const std::string&) {
@@ -147,7 +148,7 @@ TEST_P(Shortage, OfMemoryOnTheStreamsThreadFailsTheCall) {
     bool reached = true;
     for (std::size_t nth = 1; reached; ++nth) {
         LoopbackServer server(GetParam(), echoFrames);
-        server.tolerateFailures(); // where the stream ends
+        server.tolerateFailures(); // the stream ends anywhere
         CRawStreamDispacher dispatcher(0, "", true);
         const StreamOutcome outcome = failOnStream(dispatcher, server.url(), nth);
         reached = outcome.reached;
@@ -160,7 +161,7 @@ TEST_P(Shortage, OfMemoryOnTheStreamsThreadFailsTheCall) {
         }
     }
     EXPECT_GT(raised, 2);
-    EXPECT_GT(survived, 0); // the frame of one call is no reason to end the others
+    EXPECT_GT(survived, 0); // one call's frame must not end the other calls
 }
 
 TEST_P(Shortage, OfThreadsFailsAnAsynchronousHttpCall) {
@@ -197,7 +198,7 @@ TEST_P(Shortage, OfThreadsFailsACallThatConnects) {
         const support::NoMoreThreads none;
         EXPECT_EQ(outcomeOf(dispatcher, server.url()),
                   "Failed to start a connection thread: Resource temporarily unavailable");
-        dispatcher.stopConnections(); // there is none to stop
+        dispatcher.stopConnections(); // there are no connections to stop
     }
     EXPECT_EQ(outcomeOf(dispatcher, server.url()), request);
     server.stop();

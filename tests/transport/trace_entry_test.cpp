@@ -31,7 +31,7 @@ std::string withoutPrefix(const std::string& line) {
     return std::regex_replace(line, prefix, "|");
 }
 
-/// Keeps what would have gone to the system's event log.
+/// Collects the entries meant for the system's event log.
 struct EventLog {
     std::vector<std::pair<std::string, std::string>> reports;
 
@@ -58,7 +58,7 @@ TEST(TraceEntry, WritesOneLineWithThePrefix) {
     EXPECT_TRUE(file.text().ends_with("open\n"));
 }
 
-/// As in "11/3/2026 09:05:07", typed out again from the parts of the system's local time.
+/// As in "11/3/2026 09:05:07", formatted independently from the system's local time.
 std::string localTime() {
     const std::time_t now = std::time(nullptr);
     std::tm parts{};
@@ -69,7 +69,7 @@ std::string localTime() {
     return text;
 }
 
-/// The two zones are a day apart, so that in one of them the day isn't the number of the month.
+/// The zones are a day apart, so in at least one of them the day differs from the month's number.
 TEST(TraceEntry, TellsTheLocalTimeWithTheMonthBeforeTheDay) {
     for (const char* zone : {"Test-12", "Test+12"}) {
         const TimeZone here(zone);
@@ -119,7 +119,7 @@ TEST(TraceEntry, AppendsBlockAfterBlock) {
         TraceEntry entry(file.path());
         entry << text;
         entry.flush();
-        entry.flush(); // has nothing left to write
+        entry.flush(); // there is nothing left to write
     }
     const auto lines = file.lines();
     ASSERT_EQ(lines.size(), 2u);

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
-// What a trace file shows of a call: the exact lines of each thread, in their order.
+// The trace file of a call: the exact lines of each thread, in order.
 #include <algorithm>
 #include <filesystem>
 #include <map>
@@ -25,7 +25,7 @@ using Lines = std::vector<std::string>;
 using Mode = LoopbackServer::Mode;
 
 /// The lines of the file without their prefix, one list for each thread, in the order in which the
-/// threads have written first.
+/// threads first wrote.
 std::vector<Lines> threadsOf(const TemporaryFile& file) {
     static const std::regex prefix(R"(^\d+ \((\d+)\) \d{1,2}/\d{1,2}/\d{4} \d\d:\d\d:\d\d (.*)$)");
     std::vector<std::string> order;
@@ -46,7 +46,7 @@ std::vector<Lines> threadsOf(const TemporaryFile& file) {
     return result;
 }
 
-/// With the details of level 2, which start with "+", or without them.
+/// The lines at this level: those starting with "+" are the details of level 2.
 Lines atLevel(std::uint32_t level, const Lines& all) {
     Lines lines;
     for (const std::string& line : all)
@@ -88,7 +88,7 @@ TEST_P(RawTrace, OfACallThatSucceeds) {
                      connection + "SendRequest LEAVE", "CRawStreamDispacher::sendRequest LEAVE",
                      connection + "WaitForStop ENTER", connection + "WaitForStop LEAVE"}));
     Lines stream = threads[1];
-    // The completed write may come to light before or after the reply.
+    // The completion of the write may be processed before or after the reply.
     const auto written =
         std::find(stream.begin() + 1, stream.end(), connection + "prepareRequest LEAVE");
     ASSERT_NE(written, stream.end());
@@ -122,7 +122,7 @@ TEST_P(RawTrace, OfACallThatIsCutOff) {
               (Lines{"CRawStreamDispacher::sendRequest ENTER", connection + "SendRequest ENTER",
                      connection + "SendRequest EXCEPTION", connection + "WaitForStop ENTER",
                      connection + "WaitForStop LEAVE"}));
-    // The header's completion leaves by an exception, so its ENTER stands alone.
+    // The header's completion throws, so its ENTER has no LEAVE.
     EXPECT_EQ(
         threads[1],
         atLevel(GetParam(),

@@ -23,7 +23,7 @@ constexpr QSize iconSize(64, 64);
 constexpr QSize logoSize(280, 50);
 const char* const archiveName = "resources.zip";
 
-/// Writes the archive of a test in the current directory.
+/// Writes a test's archive in the current directory.
 class Archive {
 public:
     Archive()
@@ -44,7 +44,7 @@ public:
     }
 
 private:
-    // A list, as the library reads the bytes when it closes the archive.
+    // A list, as the library only reads the bytes when it closes the archive.
     std::list<QByteArray> contents_;
     zip_t* archive_;
 };
@@ -238,7 +238,7 @@ void BrandingResourcesTest::aHundredMegabytesOfZerosCountAsMissing() {
 }
 
 void BrandingResourcesTest::anImageOfTooManyPixelsCountsAsMissing() {
-    // A bitmap of one bit a pixel, 65536 by 65536, with no pixels behind its header.
+    // A bitmap with one bit per pixel, 65536 by 65536, without pixels after its header.
     QByteArray bitmap = image({32, 32}, Qt::red, Qt::red, "BMP");
     for (const int at : {18, 22})
         qToLittleEndian<qint32>(65536, bitmap.data() + at);

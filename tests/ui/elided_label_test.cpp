@@ -12,13 +12,13 @@ namespace {
 
 const QString wholeText = QStringLiteral("Everything that the accounts need");
 
-/// A label of the given part of the width that its text needs.
+/// Sizes a label to the given fraction of the width that its text needs.
 void place(QLabel& label, const QString& text, double part) {
     label.setText(text);
     label.resize(qRound(label.sizeHint().width() * part), label.sizeHint().height());
 }
 
-/// The tool tip that resting the pointer on it brings, as it is read; empty if it brings none.
+/// The visible text of the tool tip shown on hovering; empty if there is none.
 QString tipOf(QWidget& widget) {
     QHelpEvent rest(QEvent::ToolTip, {3, 3}, widget.mapToGlobal({3, 3}));
     QCoreApplication::sendEvent(&widget, &rest);

@@ -36,7 +36,7 @@ public:
     }
 };
 
-/// Answers as a translation of the class in which `Model` is known to Qt.
+/// Translates the texts of the class that Qt knows `Model` by.
 class Shouting : public QTranslator {
 public:
     bool isEmpty() const override { return false; }
@@ -47,7 +47,7 @@ public:
     }
 };
 
-/// Takes many words for one.
+/// Returns many words for one.
 class LongWinded : public QTranslator {
 public:
     bool isEmpty() const override { return false; }

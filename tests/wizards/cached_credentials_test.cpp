@@ -47,7 +47,7 @@ protected:
         cache.setSSHAccess(SSHAccessType::Python, "/usr/py", *ssh);
     }
 
-    /// The cache is applied to an object of these classes; a cast asks for them again.
+    /// Expects the type queries for an object of these classes; each cast repeats the query.
     void expectTypes(const char* types, int times) {
         for (int i = 0; i < times; ++i)
             expect(typesCall, types);

@@ -26,7 +26,7 @@ void type(QWidget& dialog, const char* edit, const QString& text) {
     auto& field = child<QLineEdit>(dialog, edit);
     field.selectAll();
     QTest::keyClick(&field, Qt::Key_Backspace);
-    // Keys of tests are ASCII.
+    // QTest's key events are limited to ASCII.
     QInputMethodEvent event;
     event.setCommitString(text);
     QCoreApplication::sendEvent(&field, &event);
@@ -34,7 +34,7 @@ void type(QWidget& dialog, const char* edit, const QString& text) {
 
 void press(QWidget& dialog, const char* button) {
     auto& pressed = child<QAbstractButton>(dialog, button);
-    // On the text: a radio button may be wider.
+    // On the text, as a radio button may be wider than its text.
     QTest::mouseClick(&pressed, Qt::LeftButton, {}, QPoint(12, pressed.height() / 2));
 }
 

@@ -15,7 +15,7 @@ inline constexpr char rightPassword[] = "s3same-0pen";
 QString fieldText(QWidget& dialog, const char* edit);
 bool canBeConfirmed(QWidget& dialog);
 
-/// As a user does who has selected all of the field.
+/// Replaces the field's content, as a user does after selecting all of it.
 void type(QWidget& dialog, const char* edit, const QString& text);
 void press(QWidget& dialog, const char* button);
 

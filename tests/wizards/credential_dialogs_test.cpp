@@ -28,7 +28,7 @@ using wizards_test::type;
 
 namespace {
 
-/// Another language, in which all is underlined.
+/// A language that puts an underscore before each text.
 class Underlining : public QTranslator {
 public:
     bool isEmpty() const override { return false; }
@@ -218,7 +218,7 @@ void CredentialDialogsTest::noDialogGivesAwayASecret() {
     for (QWidget* dialog : dialogs) {
         dialog->show();
         QVERIFY(!gives(*dialog, secret));
-        // What can't be hidden is found.
+        // A text that isn't hidden is found.
         type(*dialog, "editUserName", secret);
         QVERIFY(gives(*dialog, secret));
         type(*dialog, "editUserName", QStringLiteral("anna"));

@@ -38,7 +38,7 @@ std::string setCurrent(const std::string& user) {
     return "DataSourceBrowser.setCurrentCredentials(BackupSetCredentials(" + user + "))";
 }
 
-/// The calls before a dialog is there, up to the user's name for it.
+/// The calls before a dialog opens, up to reading its user name.
 Lines readLogin(const std::string& getUser) {
     return {"DataSourceBrowser.getCurrentCredentials()", "BackupSetCredentials.types()",
             "BackupSetCredentials.types()", getUser};
@@ -51,7 +51,7 @@ const Lines showSSH{getUnixUser, "UnixFS_SSH_BackupSetCredentials.getSudoUser()"
                     "UnixFS_SSH_BackupSetCredentials.getSSHAccessType()",
                     "UnixFS_SSH_BackupSetCredentials.getSSHInterpreterPath()"};
 
-/// The page, shown, over a computer that wants that kind of login.
+/// The visible page, over a computer that requires this kind of login.
 struct Shown {
     explicit Shown(LoginKind kind)
         : source(kind) {
@@ -64,7 +64,7 @@ struct Shown {
         support::resetSession();
     }
 
-    /// The agent lets them in who are told, with the password told, and nobody else.
+    /// Verifies that the login works if the agent accepts exactly these users and passwords.
     void verifyLogsIn(const std::map<std::string, std::string>& users) {
         source.agent.withWorld(
             [&users](simulator::World& world) { world.network.local()->users = users; });
@@ -80,7 +80,7 @@ struct Shown {
 
 } // namespace
 
-/// What the dialogs ask for, on its way to the agent.
+/// What the dialogs send to the agent.
 class CredentialsSentTest : public QObject {
     Q_OBJECT
 private slots:
@@ -205,7 +205,7 @@ void CredentialsSentTest::aSudoUserIsSent() {
 void CredentialsSentTest::sudoIsSwitchedOff() {
     Shown shown(LoginKind::Ssh);
     shown.modals.expect(QStringLiteral("sudo"), isDialog<CSSHSudoCredentials>, [](QWidget& asked) {
-        // What stands in the fields doesn't count.
+        // The content of the fields is ignored.
         type(asked, "editUserName", QStringLiteral("root"));
         type(asked, "editPassword", QString::fromLatin1(rightPassword));
         press(asked, "btnNoSudo");
@@ -215,7 +215,7 @@ void CredentialsSentTest::sudoIsSwitchedOff() {
     const Lines calls = shown.source.takeCalls();
     QVERIFY(calls.size() > 4);
     QCOMPARE(calls.at(3), std::string(R"(UnixFS_SSH_BackupSetCredentials.setSudoAs("", ***))"));
-    // The agent takes no password without a user, so that it was empty as well.
+    // The agent refuses a password without a user, so the password was empty too.
     QCOMPARE(shown.driver.text("editSudo"), QString());
 }
 
@@ -272,7 +272,7 @@ void CredentialsSentTest::aScriptWantsAPath() {
     shown.modals.expect(
         QStringLiteral("access again"), isDialog<CSSHAccessType>, [](QWidget& asked) {
             QCOMPARE(asked.focusWidget(), &child<QWidget>(asked, "editPath"));
-            // A language that is changed meanwhile brings its texts.
+            // Changing the language meanwhile sets the texts.
             child<QPushButton>(asked, "btnOK").setText(QString());
             QEvent change(QEvent::LanguageChange);
             QCoreApplication::sendEvent(&asked, &change);

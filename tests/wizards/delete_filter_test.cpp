@@ -14,7 +14,7 @@ QDateTime at(qint64 seconds) {
     return QDateTime::fromSecsSinceEpoch(seconds);
 }
 
-/// A filter that is switched on, with all fields at their limits.
+/// An enabled filter with all fields at their limits.
 DeleteFilterFields fields() {
     DeleteFilterFields fields;
     fields.on = true;

@@ -5,7 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-// Where GoogleTest looks for it: beside the type.
+// Next to the type, where GoogleTest looks for it.
 inline void PrintTo(const QString& text, std::ostream* out) {
     *out << '"' << text.toStdString() << '"';
 }
@@ -274,7 +274,7 @@ TEST(ReadKinds, ExtensionsOfTheUserTurnNoKindOn) {
     EXPECT_EQ(namesOf(kindsOf(read.kinds.toUtf8().constData())), "");
 }
 
-/// The patterns of the kind whose check box is called so.
+/// The patterns of the kind with this check box.
 QString patternsOf(const char* box) {
     for (const wizards::FileKind& kind : wizards::selectableKinds())
         if (kind.box == QLatin1String(box))
@@ -293,7 +293,7 @@ TEST(Patterns, NameTheExtensionsInTheirOrder) {
                    "*.msf, *.msg, *.nsf, *.pst, *.rwz, *.snm</p></body></html>"));
 }
 
-/// The extensions of a tool tip, joined as in an expression.
+/// The extensions in a tool tip, joined as in an expression.
 std::string extensionsIn(QString patterns) {
     patterns.remove(QLatin1String("*."));
     patterns.replace(QLatin1String(",\n"), QLatin1String("|"));

@@ -17,7 +17,7 @@
 #include "wizards/items_select_page.h"
 #include "wizards/select_data_source_page.h"
 
-/// Finds the widgets of an items page, and rows of its tree.
+/// Access to the widgets of an items page, and to rows of its tree.
 class ItemsPageWidgets {
 public:
     explicit ItemsPageWidgets(ItemsSelectPage& page)
@@ -32,8 +32,8 @@ public:
     QComboBox& presets() { return support::child<QComboBox>(page_, "comboSpecificLocations"); }
     QTreeView& tree() { return support::child<QTreeView>(page_, "treeComputer"); }
 
-    /// The kinds that are checked: "All", and the first letters of Documents, Video, Pictures,
-    /// Music, Email, custom, temporary, backup, and x for excluded.
+    /// The checked kinds: "All", and the first letters of Documents, Video, Pictures, Music, Email,
+    /// custom, temporary, backup, and x for excluded.
     QString kinds() {
         QString text;
         for (const auto& [name, letter] : {std::pair{"checkEverything", "All "},
@@ -51,8 +51,7 @@ public:
         return text;
     }
 
-    /// The row of a folder, whose names are given from the top down. Ends the test if it isn't
-    /// there.
+    /// The row of a folder, given by its names from the top down. Ends the test if there is none.
     QModelIndex folder(const QStringList& names) {
         QModelIndex index;
         for (const QString& name : names) {
@@ -93,7 +92,7 @@ private:
     QWizard wizard_; ///< owns the page
 };
 
-/// The page behind a data source page, as in the wizard for a new set; entered already.
+/// The page after a data source page, as in the wizard for a new set; already entered.
 class PageOfSource : public ItemsPageWidgets {
 public:
     PageOfSource()
@@ -109,7 +108,7 @@ public:
     SelectDataSourcePage& source = *new SelectDataSourcePage;
 };
 
-/// The items of the agent's sets beside what all pages need.
+/// Adds the items of the agent's sets to what all pages need.
 class ItemsPageFixture : public PageFixture {
 public:
     using Item = simulator::ItemState;
@@ -132,7 +131,7 @@ public:
         });
         return openSet(id);
     }
-    /// What the set holds: "+C:\Users", "-C:\Users\Public", and filters as ">C: expression" if
+    /// The items of the set: "+C:\Users", "-C:\Users\Public", and filters as ">C: expression" if
     /// they select and "<C: expression" if they reject.
     Calls itemsOf(int id) {
         Calls texts;

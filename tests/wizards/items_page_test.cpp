@@ -27,7 +27,7 @@ QStringList path(const char* joined) {
 
 } // namespace
 
-/// What a set holds: what the page shows of it, and what it lets the user choose.
+/// The items of a set: how the page shows them, and what it lets the user choose.
 class ItemsPageTest : public QObject, private ItemsPageFixture {
     Q_OBJECT
 private slots:
@@ -482,7 +482,7 @@ void ItemsPageTest::aFaultLeavesThePageAsItWas() {
     QCOMPARE(page.state(path(R"(D:\Tax)")), 2);
     QCOMPARE(page.presets().count(), 4);
     QVERIFY(page.radio("radioCustom").isChecked());
-    // It is tried again when the page is entered again.
+    // Entering the page again retries it.
     page->initializePage();
     QCOMPARE(page.state(path(R"(D:\Tax)")), 0);
 }

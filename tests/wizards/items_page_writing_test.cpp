@@ -20,7 +20,8 @@ QStringList path(const char* joined) {
     return QString::fromUtf8(joined).split(QLatin1Char('\\'));
 }
 
-/// The calls that make a filter; its expression is without backslashes but for the first.
+/// The calls that create a filter. The log escapes the expression's only backslash, its third
+/// character.
 Calls filterCalls(const std::string& root, const std::string& expression, bool inclusion) {
     std::string quoted = expression;
     quoted.insert(2, "\\");
@@ -37,8 +38,8 @@ Calls operator+(Calls first, const Calls& second) {
     return first;
 }
 
-/// An agent with one set of files, which notes whether the user sees in each call that it takes its
-/// time.
+/// An agent with one set of files, which records for each call whether the user sees the wait
+/// cursor.
 class WatchingAgent final : public hessiancln::ICallDispatcher {
 public:
     WatchingAgent()
@@ -56,7 +57,7 @@ public:
 
 } // namespace
 
-/// What the items page makes of the choice, and that it comes back from a set.
+/// How the items page writes the choice, and that reading it back from a set restores it.
 class ItemsPageWritingTest : public QObject, private ItemsPageFixture {
     Q_OBJECT
 private slots:
@@ -86,7 +87,7 @@ private:
         page->apply(set);
         return takeCalls();
     }
-    /// What a set holds when it was read and written again.
+    /// A set's items after reading and writing them.
     Calls writtenAgain(const std::vector<Item>& items) {
         const Set set = openSetWith(items);
         PageOfSet page(set);

@@ -81,7 +81,7 @@ TEST(LocalPath, WhatIsStoredEndsInOneBackslash) {
     EXPECT_EQ(stored("/"), "\\");
 }
 
-/// A tree of folders that is there from the beginning.
+/// A tree of folders that is loaded from the start.
 class DeepestIndex : public testing::Test {
 protected:
     DeepestIndex() {
@@ -90,7 +90,7 @@ protected:
         add({"E:", "Müller"});
     }
 
-    /// Where the path leads to, as a path.
+    /// The index the path leads to, as a path.
     std::string find(const char* path, Qt::CaseSensitivity sensitivity) const {
         std::string found;
         for (auto index = wizards::deepestIndex(tree, fromWire(path), sensitivity); index.isValid();

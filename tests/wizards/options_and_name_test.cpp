@@ -39,7 +39,7 @@ QString fromUtf8(const char* text) {
     return QString::fromUtf8(text);
 }
 
-/// An agent, somebody logged in, and the first of its sets.
+/// An agent with a session, and the first of its sets.
 struct Session {
     explicit Session(Scenario scenario = Scenario::Default)
         : agent({.scenario = scenario}) {
@@ -202,7 +202,7 @@ void OptionsAndNameTest::aFolderIsWantedByEitherBox() {
     click(page, "chkLocalCache");
     QCOMPARE(shown(), 0);
     QVERIFY(page.isComplete());
-    // A page that is entered follows the boxes, whoever checked them.
+    // An entered page follows the boxes, no matter who checked them.
     child<QCheckBox>(page, "chkLocalCache").setChecked(true);
     page.initializePage();
     QCOMPARE(shown(), 4);

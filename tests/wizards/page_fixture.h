@@ -20,7 +20,7 @@
 #include "tests/support/gui_modal_driver.h"
 #include "ui/error_box.h"
 
-/// What tests of wizard pages share: an agent with a session, and its sets.
+/// Shared by tests of wizard pages: an agent with a session, and its sets.
 class PageFixture {
 public:
     using Calls = std::vector<std::string>;
@@ -44,9 +44,9 @@ public:
         agent_->clearCallLog();
     }
 
-    /// All that pages were given must have been released by now: what is left is the session.
+    /// All references given to pages must have been released by now, leaving only the session.
     void end() {
-        // Trees that were replaced.
+        // Deletes replaced trees.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         const std::size_t held = agent_->liveObjects().size();
         support::resetSession();
@@ -59,8 +59,8 @@ public:
 
     simulator::Simulator& agent() { return *agent_; }
 
-    /// The calls since the last time, or since the last set was opened, but for releases: that
-    /// each reference has one is checked at the end.
+    /// The calls since the last time, or since the last set was opened, except releases: `end`
+    /// checks that each reference is released.
     Calls takeCalls() {
         Calls calls = agent_->callTexts();
         agent_->clearCallLog();
@@ -74,7 +74,7 @@ public:
         return set;
     }
 
-    /// Changes what the agent has of a set.
+    /// Changes the agent's state of a set.
     void change(int id,
                 const std::function<void(simulator::BackupSetState&, simulator::World&)>& act) {
         agent_->withWorld([&](simulator::World& world) { act(*world.set(id), world); });
@@ -84,7 +84,7 @@ private:
     std::unique_ptr<simulator::Simulator> agent_;
 };
 
-/// A page that stands alone in a plain wizard, and is shown.
+/// A page shown alone in a plain wizard.
 template <class Page>
 class ShownPage {
 public:
@@ -105,7 +105,7 @@ private:
     Page* page_ = new Page; ///< owned by the wizard
 };
 
-/// The text of what leaves the action.
+/// The text of the error that the action throws.
 template <class Action>
 QString errorOf(Action action) {
     try {

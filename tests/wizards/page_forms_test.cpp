@@ -41,8 +41,7 @@ void compareRanges(QWidget& page, std::initializer_list<Range> ranges) {
 
 } // namespace
 
-/// What stands on the pages for items, schedule, retention and what is deleted before anything is
-/// typed.
+/// The content of the pages for items, schedule, retention and deletion before any input.
 class PageFormsTest : public QObject, private PageFixture {
     Q_OBJECT
 private slots:
@@ -210,7 +209,7 @@ void PageFormsTest::pagesFollowTheLanguage() {
         {&options, "Backup Options"},
         {&name, "Select Backup Set Name"}};
     for (const auto& [page, title] : titles) {
-        // The texts of the present language are those that the change brings.
+        // The language change sets the texts of the current language again.
         page->setTitle({});
         QEvent change(QEvent::LanguageChange);
         QCoreApplication::sendEvent(page, &change);

@@ -33,7 +33,7 @@ void changeLanguage(QWidget& widget) {
     QCoreApplication::sendEvent(&widget, &change);
 }
 
-/// The pages behind the first one, in a wizard that isn't shown.
+/// The pages after the first one, in a hidden wizard.
 struct LocationPages {
     explicit LocationPages(const PageFixture::Set& set)
         : location(*new RestoreLocationPage(set, &wizard))
@@ -68,7 +68,7 @@ struct LocationPages {
 
 } // namespace
 
-/// The pages of the wizard that restores on which its place is chosen.
+/// The pages of the restore wizard that select the destination.
 class RestorePagesTest : public QObject, private PageFixture {
     Q_OBJECT
 private slots:
@@ -218,7 +218,7 @@ void RestorePagesTest::theSourcePageIsAskedForTheDestination() {
     }
 }
 
-/// What was picked for another computer before doesn't count then, and nobody sees it.
+/// An earlier selection for another computer is then ignored and hidden.
 void RestorePagesTest::otherCredentialsAreForTheSetsComputer() {
     LocationPages pages(openSet(documents));
     pages.choose("radioAlternateComputer");
@@ -331,7 +331,7 @@ void RestorePagesTest::theTreeIsFetchedWhenItIsShown() {
     takeCalls();
     pages.browse().setChecked(true);
     QCOMPARE(takeCalls(), Calls{"DataSourceBrowser.getSubItems(\"My Computer\", \"\")"});
-    // No file is shown.
+    // Files aren't shown.
     QVERIFY(pages.tree().model()->rowCount() > 0);
     for (int row = 0; row < pages.tree().model()->rowCount(); ++row)
         QVERIFY(pages.tree().model()->index(row, 0).data().toString().endsWith(QLatin1Char(':')));

@@ -33,7 +33,7 @@ QString q(const char* text) {
     return QString::fromUtf8(text);
 }
 
-/// Asks for the generations of the chosen file, and picks that one.
+/// Requests the generations of the selected file, and picks the one in that row.
 void pickGeneration(RestoreSelectPage& page, int row) {
     support::ModalDriver modals;
     modals.expect(q("generations"), support::isDialog<SelectGenerationDlg>, [row](QWidget& dialog) {
@@ -44,7 +44,7 @@ void pickGeneration(RestoreSelectPage& page, int row) {
     QVERIFY(modals.done());
 }
 
-/// By the keyboard, without entering it.
+/// Types the minutes without confirming them.
 void typeMinutes(QDateTimeEdit& field, const char* minutes) {
     field.setSelectedSection(QDateTimeEdit::MinuteSection);
     for (const char digit : std::string_view(minutes))
@@ -53,7 +53,7 @@ void typeMinutes(QDateTimeEdit& field, const char* minutes) {
 
 } // namespace
 
-/// The page on which what is restored is chosen, its dialog, and how its fields are put back.
+/// The selection page of the restore wizard, its dialog, and how its fields are restored.
 class RestoreSelectPageTest : public QObject, private PageFixture {
     Q_OBJECT
 private slots:
@@ -185,7 +185,7 @@ void RestoreSelectPageTest::aTypedDateAsksOnce() {
     typeMinutes(to, "17");
     QCOMPARE(takeCalls(), Calls{});
     QTest::keyClick(&to, Qt::Key_Return);
-    // From 03:34 to 03:17.
+    // Changes 03:34 to 03:17.
     QCOMPARE(takeCalls().front(), std::string("BackupSet.prepare_restore(0, 1729999040, 0)"));
     QTest::keyClick(&to, Qt::Key_Return);
     QCOMPARE(takeCalls(), Calls{});
@@ -201,7 +201,7 @@ void RestoreSelectPageTest::aTypedDateCountsWithoutLeavingItsField() {
     QVERIFY(page.validatePage());
     typeMinutes(child<QDateTimeEdit>(page, "dateFrom"), "45");
     takeCalls();
-    // From 22:13 to 22:45, another view in which nothing is marked yet.
+    // Changes 22:13 to 22:45: a new view, in which nothing is marked yet.
     QVERIFY(!page.validatePage());
     QCOMPARE(takeCalls().front(), std::string("BackupSet.prepare_restore(1700001920, 0, 0)"));
 }
@@ -285,7 +285,7 @@ void RestoreSelectPageTest::aGenerationOfAForgottenBackup() {
     QVERIFY(page.isComplete());
 }
 
-/// What its fields said before it was switched off would hide the very generation that is picked.
+/// The fields of the disabled filter would hide the very generation that is picked.
 void RestoreSelectPageTest::aFilterThatWasOffHidesNoGeneration() {
     RestoreSelectPage page(setWithFiles());
     for (const char* box : {"checkFilter", "checkFrom", "checkRemoved"})
@@ -370,7 +370,7 @@ void RestoreSelectPageTest::aGenerationOfTheHourThatComesTwice() {
     takeCalls();
     pickGeneration(page, row);
     QCOMPARE(q(takeCalls().at(2).c_str()), call);
-    // A time that somebody has typed since then is another one.
+    // A time typed since then is a different one.
     child<QDateTimeEdit>(page, "dateTo").setTime(QTime(1, 0));
     QCOMPARE(takeCalls().front(), std::string("BackupSet.prepare_restore(0, 1761433200, 0)"));
 }

@@ -23,7 +23,7 @@ public:
     QComboBox& unit() { return child<QComboBox>("comboCleanupAfterUnit"); }
     QWidget& widget(const char* name) { return child<QWidget>(name); }
 
-    /// The intervals that are checked: "D", "W", "M".
+    /// The checked intervals: "D", "W", "M".
     QString intervals() {
         QString text;
         for (const auto& [name, letter] : {std::pair{"checkOnePerDay", "D"},
@@ -40,7 +40,7 @@ std::shared_ptr<RetentionOptionState> validFor(RetentionTimeUnit unit) {
         RetentionOptionState{true, {2, unit}, {1, RetentionTimeUnit::Days}});
 }
 
-/// What is written at the end of a rule by a page that still has its defaults.
+/// The last calls for a rule from a page that still has its defaults.
 const Calls defaultEnd{"RetentionRule.setCleanupRemovedFiles(false)",
                        "RetentionRule.setLocalStorageRetention({period=0, unit=3})"};
 
@@ -51,7 +51,7 @@ Calls operator+(Calls first, const Calls& second) {
 
 } // namespace
 
-/// How long a set's data is kept: what the page shows, asks and writes.
+/// How long a set's data is kept: what the page shows, requests and writes.
 class RetentionPageTest : public QObject, private PageFixture {
     Q_OBJECT
 private slots:

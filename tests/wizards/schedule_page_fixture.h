@@ -15,7 +15,7 @@
 #include "tests/wizards/page_fixture.h"
 #include "wizards/schedule_select_page.h"
 
-/// The page, and its widgets by their names.
+/// The page, with access to its widgets by name.
 class ShownSchedulePage : public ShownPage<ScheduleSelectPage> {
 public:
     QRadioButton& radio(const char* name) { return child<QRadioButton>(name); }
@@ -35,7 +35,7 @@ public:
         auto& stack = child<QStackedWidget>("scheduleDaysStack");
         return stack.isVisible() ? stack.currentWidget()->objectName() : QString();
     }
-    /// The days that are checked, as the first two letters of each.
+    /// The checked days, as the first two letters of each.
     QString days() {
         QString text;
         for (const char* name :
@@ -46,13 +46,13 @@ public:
     }
 };
 
-/// The agent's schedules beside what all pages need.
+/// Adds the agent's schedules to what all pages need.
 class SchedulePageFixture : public PageFixture {
 public:
     using Detail = simulator::ScheduleDetailState;
     using Schedule = simulator::ScheduleState;
 
-    /// Gives the set a schedule of that name.
+    /// Gives the set a schedule with that name.
     void give(int set, const std::string& scheduleName, const std::vector<Detail>& details) {
         change(set, [&](simulator::BackupSetState& state, simulator::World& world) {
             Schedule schedule;
@@ -67,7 +67,7 @@ public:
             state.info.schedule_id = simulator::noSchedule;
         });
     }
-    /// An empty one if the set has none.
+    /// An empty schedule if the set has none.
     Schedule scheduleOf(int set) {
         Schedule schedule;
         change(set, [&](simulator::BackupSetState& state, simulator::World& world) {

@@ -17,7 +17,7 @@ QString name(const char* text) {
 
 } // namespace
 
-/// When a set is backed up: what the page shows of it, and what it lets the user choose.
+/// When a set is backed up: what the page shows, and what it lets the user choose.
 class SchedulePageTest : public QObject, private SchedulePageFixture {
     Q_OBJECT
 private slots:
@@ -63,7 +63,7 @@ void SchedulePageTest::theDefaultsComeFromTheAgent() {
     QCOMPARE(page.checkedType(), name("radioDaily"));
     QCOMPARE(page.shownDays(), name("frameDaily"));
     QCOMPARE(page.days(), name("MoTuWeThFr"));
-    // Of the client number's end, 31700: 1530190700 modulo 23 is 10.
+    // From the client number's end, 31700: 48271 * 31700 modulo 23 is 10.
     QCOMPARE(page.time("timeStart").time(), QTime(20, 30));
     QVERIFY(page.box("checkStop").isChecked());
     QCOMPARE(page.time("timeStop").time(), QTime(6, 0));
@@ -233,7 +233,7 @@ void SchedulePageTest::anHourlyScheduleWithoutAnEndGetsOne() {
     QCOMPARE(page.spin("spinOccurEvery").value(), 2);
     QVERIFY(page.box("checkStop").isChecked());
     QVERIFY(page.time("timeStop").isEnabled());
-    // Of the stop that was offered, at 06:00 of the next day.
+    // Of the stop offered, at 06:00 on the next day.
     QCOMPARE(page.time("timeStop").time(), QTime(23, 59));
     QCOMPARE(page.stopDay().currentText(), name("same day"));
 }

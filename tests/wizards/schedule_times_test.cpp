@@ -11,7 +11,7 @@
 
 #include "session/wire_time.h"
 
-// Where GoogleTest looks for it: beside the type.
+// Next to the type, where GoogleTest looks for it.
 inline void PrintTo(const QTime& time, std::ostream* out) {
     *out << time.toString(QStringLiteral("hh:mm:ss")).toStdString();
 }
@@ -28,8 +28,8 @@ QTime startOf(const char* clientNumber) {
 
 #ifdef Q_OS_LINUX
 
-// Here Qt's generator is the minimal standard one: the first number is the seed, 1 for 0, times
-// 48271 modulo 2^31 - 1.
+// Qt's generator here is the minimal standard one: the first number is the seed, with 1 for 0,
+// times 48271 modulo 2^31 - 1.
 TEST(DefaultStart, IsTheSameForAClientEachTime) {
     EXPECT_EQ(startOf("12345"), QTime(21, 15));
     EXPECT_EQ(startOf("99999"), QTime(23, 0));

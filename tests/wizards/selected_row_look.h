@@ -7,7 +7,7 @@
 #include <QPixmap>
 #include <QStyle>
 
-/// How many points at the place of a row's picture are lighter than the row, which is selected.
+/// The number of pixels in a selected row's picture area that are lighter than the row.
 inline int lightPointsOfPicture(QAbstractItemView& view, const QModelIndex& row) {
     const int width = view.style()->pixelMetric(QStyle::PM_SmallIconSize);
     QRect place = view.visualRect(row);

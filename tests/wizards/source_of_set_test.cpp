@@ -17,7 +17,7 @@ using wizards_test::Source;
 
 namespace {
 
-/// The agent as a test of this page wants it, with somebody logged in.
+/// An agent set up for tests of this page, with a session.
 struct Session {
     explicit Session(LoginKind kind = LoginKind::Windows, simulator::Options options = {})
         : source(kind, std::move(options)) {}

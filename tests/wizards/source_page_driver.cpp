@@ -37,7 +37,7 @@ Lines join(const std::vector<Lines>& parts) {
 }
 
 Lines refreshOf(LoginKind kind, const std::string& user) {
-    // The second look at the classes is that of the cast.
+    // The cast makes the second query for the classes.
     Lines calls{"DataSourceBrowser.getCurrentCredentials()", "BackupSetCredentials.types()",
                 "BackupSetCredentials.types()"};
     if (kind == LoginKind::Windows)

@@ -14,7 +14,7 @@
 
 #include "tests/support/gui_agent.h"
 #include "tests/support/gui_modal_driver.h"
-// Shows calls that differ.
+// Prints calls that differ.
 #include "simulator/world/credentials_state.h"
 #include "tests/support/gui_main_window.h"
 #include "wizards/select_data_source_page.h"
@@ -31,10 +31,10 @@ using Lines = std::vector<std::string>;
 
 Lines join(const std::vector<Lines>& parts);
 
-/// What a look at the current credentials asks for, up to and including making them current again.
+/// The calls that read the current credentials, up to and including making them current again.
 Lines refreshOf(simulator::LoginKind kind, const std::string& user);
 
-/// An agent whose own computer wants that kind of login, and the session of "demo" with it.
+/// An agent whose own computer requires this kind of login, with a session of "demo".
 struct Source {
     explicit Source(simulator::LoginKind kind, simulator::Options options = {});
 
@@ -42,24 +42,24 @@ struct Source {
     Lines takeCalls();
     Lines calls() const;
 
-    /// A set of files of the agent's own computer, whose credentials were changed so.
+    /// A set of files of the agent's own computer, with its credentials changed by `change`.
     boost::shared_ptr<hessiancln::BackupSet>
     set(const std::function<void(simulator::CredentialsState&)>& change);
 
-    /// Nothing but the session is held any more, and nothing was done that no client does.
+    /// Checks that only the session is held, and that there were no violations.
     void verifyAllReleased() const;
 
     support::GuiAgent agent;
 };
 
-/// The page in a wizard that has a further page, and what a user does with it.
+/// The page in a wizard with another page, and the user's actions on it.
 class PageDriver {
 public:
     explicit PageDriver(const SelectDataSourcePage::AdministratorTest& isAdministrator =
                             [](const std::string&) { return true; });
     ~PageDriver();
 
-    /// With the focus on a button.
+    /// Shows it with the focus on a button.
     void show();
 
     QWizard& wizard() { return *wizard_; }
@@ -73,18 +73,18 @@ public:
 
     void click(const char* button);
     void pressNext();
-    /// Into the field for the computer, and out of it again.
+    /// Types into the computer field, then leaves it.
     void typeComputer(const QString& name);
     void leaveComputer();
 
     QStringList networkRows(const QModelIndex& parent);
-    /// Selects the node of the network to which these names lead.
+    /// Selects the network node at this path of names.
     void select(std::initializer_list<const char*> path);
 
-    /// Every widget that a user can reach has a text or a name for those who don't see it.
+    /// Checks that every widget the user can reach has a text or an accessible name.
     void verifyNames() const;
 
-    /// The wizard goes.
+    /// Destroys the wizard.
     void close();
 
 private:

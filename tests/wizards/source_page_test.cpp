@@ -34,7 +34,7 @@ QString fromUtf8(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
 }
 
-/// The agent as a test of this page wants it, with somebody logged in.
+/// An agent set up for tests of this page, with a session.
 struct Session {
     explicit Session(LoginKind kind = LoginKind::Windows, simulator::Options options = {})
         : source(kind, std::move(options)) {}
@@ -358,12 +358,12 @@ void SourcePageTest::theBoxOfAFailureEndsNoFurtherEditing() {
                                 simulator::Times::UntilCleared);
     ModalDriver modals;
     modals.expect(QStringLiteral("error box"), support::isDialog<QMessageBox>, [&](QWidget& box) {
-        // A window counts as active for Qt as soon as the one that it belongs to is.
+        // For Qt a window is active as soon as its parent is.
         QTRY_COMPARE(QApplication::activeWindow(), &box);
         QVERIFY(!edit.hasFocus());
         static_cast<QMessageBox&>(box).button(QMessageBox::Ok)->click();
     });
-    // As the Return key does, which would go on to the next page.
+    // Like the Return key, which would also go to the next page.
     emit edit.editingFinished();
     QVERIFY(modals.done());
     QCOMPARE(session.source.takeCalls(),

@@ -11,8 +11,8 @@ namespace platform {
 
 namespace {
 
-// A group of a directory service can have very many members; a database that wants more room than
-// this is taken for broken.
+// A group of a directory service can have very many members. A database that asks for more room
+// than the limit is considered broken.
 constexpr std::size_t firstRoom = 4096;
 constexpr std::size_t mostRoom = std::size_t{16} << 20;
 

@@ -13,7 +13,7 @@ namespace platform {
 
 struct Account {
     uid_t id = 0;
-    gid_t primaryGroup = 0; ///< the account needn't stand among this group's members
+    gid_t primaryGroup = 0; ///< the account may be missing from this group's member list
 };
 
 struct Group {
@@ -21,8 +21,8 @@ struct Group {
     std::vector<std::string> members;
 };
 
-/// What the system knows about accounts and groups. No operation raises anything but
-/// `std::bad_alloc`; what can't be read isn't known.
+/// The system's accounts and groups. Operations throw nothing but `std::bad_alloc`; an entry that
+/// can't be read counts as unknown.
 class AccountDatabase {
 public:
     virtual ~AccountDatabase() = default;
@@ -31,14 +31,14 @@ public:
     virtual std::optional<Group> group(const std::string& name) = 0;
 };
 
-/// The database of this system. Lives as long as the process; safe to use from any thread.
+/// The database of this system. Lives as long as the process; thread-safe.
 AccountDatabase& systemAccounts();
 
-/// Calls `read` with more and more room in `texts` for the texts of an entry, as long as it answers
-/// ERANGE, up to 16 MiB. The result is what the last call answered.
+/// Calls `read` repeatedly while it returns ERANGE, each time with a larger `texts` buffer for the
+/// strings of an entry, up to 16 MiB. Returns the result of the last call.
 int readWithRoom(std::vector<char>& texts, const std::function<int()>& read);
 
-/// `isAdministrator` by a given database.
+/// `isAdministrator` with the given database.
 bool isAdministrator(const std::string& user, AccountDatabase& accounts);
 
 } // namespace platform

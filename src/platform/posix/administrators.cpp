@@ -9,7 +9,7 @@
 namespace platform {
 
 bool isAdministrator(const std::string& user, AccountDatabase& accounts) {
-    // A zero inside the name would cut it short on its way to the system.
+    // An embedded zero would truncate the name on its way to the system.
     if (user.empty() || user.find('\0') != std::string::npos)
         return false;
     const std::optional<Account> account = accounts.account(user);

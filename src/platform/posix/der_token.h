@@ -7,8 +7,8 @@
 
 namespace platform {
 
-/// The token at the start of `room`, which may be larger: logon tokens are one value of DER
-/// (X.690), and that says how long it is. All of `room` where it isn't such a value.
+/// The token at the start of `room`, which may be larger: a logon token is one DER value (X.690)
+/// that encodes its own length. Returns all of `room` if it doesn't start with such a value.
 std::span<std::uint8_t> derToken(std::span<std::uint8_t> room);
 
 } // namespace platform

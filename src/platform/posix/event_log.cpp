@@ -7,7 +7,7 @@
 namespace platform {
 
 void reportError(const std::string& source, const std::string& text) {
-    // Without openlog the process keeps its own name in the log, so the source goes into the text.
+    // Without openlog, the log entry carries the process name, so the source goes into the text.
     syslog(LOG_USER | LOG_ERR, "%s: %s", source.c_str(), text.c_str());
 }
 

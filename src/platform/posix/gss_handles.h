@@ -8,10 +8,10 @@
 
 #include <gssapi/gssapi.h>
 
-/// What GSSAPI (RFC 2744) hands out, given back at the end.
+/// RAII wrappers for GSSAPI resources (RFC 2744).
 namespace platform::gss {
 
-/// One handle of GSSAPI, or none.
+/// A GSSAPI handle, possibly empty.
 template <class Handle, OM_uint32 (*giveBack)(OM_uint32*, Handle*)>
 class Owned {
 public:
@@ -32,7 +32,7 @@ public:
 
     Handle get() const { return handle_; }
     Handle take() { return std::exchange(handle_, nullptr); }
-    /// Where an operation of GSSAPI writes the handle, or replaces it.
+    /// Output parameter of a GSSAPI operation that sets or replaces the handle.
     Handle* place() { return &handle_; }
 
 private:
@@ -47,7 +47,7 @@ using Name = Owned<gss_name_t, gss_release_name>;
 using Credentials = Owned<gss_cred_id_t, gss_release_cred>;
 using Context = Owned<gss_ctx_id_t, deleteContext>;
 
-/// Bytes that GSSAPI allocates.
+/// Bytes allocated by GSSAPI.
 class Buffer {
 public:
     Buffer() = default;

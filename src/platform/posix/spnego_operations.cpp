@@ -15,16 +15,16 @@ namespace platform {
 
 namespace {
 
-// Kerberos carries what a domain says of its user; this is twice what such tickets grow to.
+// Kerberos tickets carry the domain's data about the user; this is twice their maximum size.
 constexpr std::uint32_t largestToken = 128u << 10;
 
-// The numbers that the interface has for these failures on the system that it comes from.
+// Values of these failures on the system where the interface originates.
 constexpr auto internalError = static_cast<SecurityStatus>(0x80090304);
 constexpr auto invalidToken = static_cast<SecurityStatus>(0x80090308);
 constexpr auto noCredentials = static_cast<SecurityStatus>(0x8009030E);
 constexpr auto bufferTooSmall = static_cast<SecurityStatus>(0x80090321);
 
-// GSSAPI takes its identifiers as writable, though it only reads them.
+// GSSAPI takes identifiers as non-const, though it only reads them.
 char spnegoBytes[] = "\x2b\x06\x01\x05\x05\x02";
 gss_OID_desc spnego = {6, spnegoBytes};
 
@@ -54,8 +54,8 @@ Handle fromHandle(const SecurityHandle& handle) {
     return std::bit_cast<Handle>(static_cast<std::uintptr_t>(handle.lower));
 }
 
-/// Kerberos within SPNEGO, and nothing else: other mechanisms would go by the password. Fails
-/// without a ticket that is valid now.
+/// Kerberos within SPNEGO only: other mechanisms would use the password. Fails without a valid
+/// ticket.
 OM_uint32 acquire(gss::Credentials& acquired) {
     OM_uint32 minor = 0;
     gss_OID_set_desc negotiation{1, &spnego};
@@ -76,7 +76,7 @@ OM_uint32 acquire(gss::Credentials& acquired) {
     return major;
 }
 
-/// As the name of a principal, which no name service gets to change.
+/// Imports the text as a principal name, which no name service may rewrite.
 OM_uint32 importName(std::string text, gss::Name& name) {
     OM_uint32 minor = 0;
     gss_buffer_desc bytes{text.size(), text.data()};
@@ -122,7 +122,7 @@ public:
                                      target.get(), &spnego, GSS_C_CONF_FLAG, 0,
                                      GSS_C_NO_CHANNEL_BINDINGS, &received, nullptr, sent.place(),
                                      nullptr, nullptr);
-        // A failure may have given it back.
+        // A failed call may have released it.
         context = toHandle(held);
         if (GSS_ERROR(major))
             return statusOf(major);
@@ -133,7 +133,7 @@ public:
         return statusOf(major);
     }
 
-    /// GSSAPI writes complete tokens only, so no round asks for it.
+    /// Never needed: GSSAPI writes complete tokens only.
     SecurityStatus completeToken(SecurityHandle&, std::span<std::uint8_t>) override {
         return securityOk;
     }

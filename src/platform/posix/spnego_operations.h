@@ -6,7 +6,7 @@
 
 namespace platform {
 
-/// The security operations by GSSAPI: Kerberos negotiated by SPNEGO (RFC 4178). They live as long
+/// The security operations on GSSAPI: Kerberos negotiated by SPNEGO (RFC 4178). They live as long
 /// as the process.
 SecurityOperations& spnegoOperations();
 

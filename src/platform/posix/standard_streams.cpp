@@ -8,7 +8,7 @@
 namespace platform {
 
 void fillStandardStreams() {
-    // The lowest place that is free is the one that is given out.
+    // open() returns the lowest free descriptor.
     int place = 0;
     while (place >= 0 && place <= STDERR_FILENO)
         place = open("/dev/null", O_RDWR);

@@ -10,7 +10,7 @@
 namespace platform {
 
 std::string currentWindowsUser() {
-    // Accounts from a directory service may carry more text than the system's own hint says.
+    // Accounts from a directory service may need more room than the system's own hint suggests.
     constexpr std::size_t roomForAnAccount = std::size_t(16) * 1024;
     std::vector<char> texts(roomForAnAccount);
     passwd account{};

@@ -35,7 +35,7 @@ OwnedSid administratorsSid() {
     return OwnedSid(sid);
 }
 
-/// Whether the group is the one of the SID. Its name is no proof: it differs by language.
+/// Whether the group has this SID. Its name proves nothing: it is localised.
 bool isGroup(const wchar_t* name, PSID wanted) {
     std::vector<unsigned char> sid(SECURITY_MAX_SID_SIZE);
     DWORD sidSize = static_cast<DWORD>(sid.size());
@@ -57,7 +57,7 @@ bool isGroup(const wchar_t* name, PSID wanted) {
 
 bool isAdministrator(const std::string& user) {
     const std::wstring name = toWide(user);
-    // A zero inside the name would cut it short on its way to the system.
+    // An embedded zero would truncate the name on its way to the system.
     if (name.empty() || name.find(L'\0') != std::wstring::npos)
         return false;
     LPBYTE buffer = nullptr;

@@ -13,7 +13,7 @@ namespace platform {
 
 namespace {
 
-// The interface takes its texts as writable, though it only reads them.
+// The interface takes texts as non-const, though it only reads them.
 wchar_t packageName[] = L"Negotiate";
 
 SecHandle toSystem(const SecurityHandle& handle) {

@@ -11,14 +11,14 @@
 namespace platform {
 
 std::string sessionFilePrefix() {
-    // The folder is the user's own, and shared by all sessions: with fast user switching, or over
-    // a remote desktop, one user may have more than one.
+    // The folder belongs to the user and is shared by all sessions: with fast user switching or a
+    // remote desktop, one user may have several.
     wchar_t folder[MAX_PATH + 1];
     const DWORD size = GetTempPathW(MAX_PATH + 1, folder);
     DWORD session = 0;
     ProcessIdToSessionId(GetCurrentProcessId(), &session);
     std::string prefix = toUtf8({folder, size <= MAX_PATH ? size : 0});
-    // The pipe takes the whole name for its own, in which a backslash has a meaning.
+    // The whole string becomes the name of a pipe, in which a backslash has a meaning.
     std::replace(prefix.begin(), prefix.end(), '\\', '/');
     return prefix + "session-" + std::to_string(session) + '-';
 }

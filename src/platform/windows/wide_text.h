@@ -7,7 +7,7 @@
 
 namespace platform {
 
-/// UTF-8 to the system's own text and back. Text that can't be converted becomes empty.
+/// Converts UTF-8 to the system's own text and back. Invalid text becomes empty.
 std::wstring toWide(std::string_view utf8);
 std::string toUtf8(std::wstring_view wide);
 

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-/// What tests ask the operating system about their own process, without the product's help.
+/// Queries of the operating system about the test's own process, independent of the product.
 namespace support::process {
 
 long id();
@@ -14,10 +14,10 @@ long id();
 /// The name of the account, in UTF-8.
 std::string accountName();
 
-/// For this process and those that it starts; without a value the variable goes.
+/// For this process and its children; no value removes the variable.
 void setEnvironment(const std::string& name, const std::optional<std::string>& value);
 
-/// Has what the variable TZ says taken over by the functions of <ctime>.
+/// Makes the functions of <ctime> use the value of the variable TZ.
 void readTimeZone();
 
 /// Bytes of memory that the process has touched.

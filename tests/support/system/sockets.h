@@ -8,19 +8,19 @@
 #include <string>
 #include <vector>
 
-/// The system's own TCP sockets on 127.0.0.1, so that a test shares nothing with the transport.
+/// The system's own TCP sockets on 127.0.0.1, independent of the transport.
 namespace support::sockets {
 
-/// Owned by whom it is given to, who calls `close`.
+/// Owned by the receiver, which calls `close`.
 using Socket = std::intptr_t;
 
-/// `port` may be 0, and is then the one that the system has picked. Raises `std::system_error`.
+/// With a `port` of 0 the system picks one and sets it. Throws `std::system_error`.
 Socket listenOnLoopback(std::uint16_t& port);
 
-/// The next connection; negative if there is none to come.
+/// The next connection; negative if there will be none.
 Socket accept(Socket listener);
 
-/// Negative if nobody listens.
+/// Negative if the port has no listener.
 Socket connectToLoopback(std::uint16_t port);
 
 /// How long a read may wait before it fails.
@@ -30,15 +30,15 @@ void sendAtOnce(Socket socket);
 
 /// 0 at the end of the stream, negative on a failure.
 std::ptrdiff_t receive(Socket socket, char* into, std::size_t size);
-/// Negative on a failure. A peer that has gone raises no signal.
+/// Negative on a failure. A closed peer causes no signal.
 std::ptrdiff_t send(Socket socket, const char* from, std::size_t size);
 
-/// What the last failure of this thread was.
+/// Whether the last failure of this thread was a reset.
 bool wasReset();
 bool wasTimeout();
 std::string lastFailure();
 
-/// Ends both directions; a read that another thread waits in comes back.
+/// Ends both directions; unblocks a read on another thread.
 void shutdown(Socket socket);
 /// Ends one direction: what is still read goes on.
 void shutdownWrites(Socket socket);

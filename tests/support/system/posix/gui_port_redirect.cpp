@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
-// Linked into a test, or loaded before the client's own libraries into a client that a test starts.
-// The latter takes the port from TARN_TEST_AGENT_PORT.
+// Linked into a test, or preloaded before the client's own libraries into a client started by a
+// test. Such a client takes the port from TARN_TEST_AGENT_PORT.
 #include "tests/support/gui_port_redirect.h"
 
 #include <atomic>

@@ -110,7 +110,7 @@ void shutdownWrites(Socket socket) {
 }
 
 void reset(Socket& socket) {
-    // A close with unread bytes or a linger time of zero is a reset; the descriptor stays ours.
+    // A close with a linger time of zero is a reset; the caller keeps the descriptor.
     const linger none{1, 0};
     ::setsockopt(number(socket), SOL_SOCKET, SO_LINGER, &none, sizeof none);
     const int placeholder = newSocket();

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
-// Linked into a test, or into a client that a test starts. The latter takes the port from
+// Linked into a test, or into a client started by a test. Such a client takes the port from
 // TARN_TEST_AGENT_PORT.
 #include "tests/support/gui_port_redirect.h"
 
@@ -30,7 +30,7 @@ Function systemFunction(const char* name) {
     return reinterpret_cast<Function>(reinterpret_cast<void*>(found));
 }
 
-/// Where a connect to that address goes; port 0 for nowhere.
+/// The redirected destination of an address; port 0 for none.
 class Destination {
 public:
     Destination(const sockaddr* address, int length)
@@ -83,7 +83,7 @@ int PASCAL redirectedConnect(SOCKET socket, const sockaddr* address, int length)
     return systemConnect(socket, destination.address(), destination.length());
 }
 
-/// Through which a program asks for ConnectEx, which no library exports.
+/// Programs use this to obtain ConnectEx, which no library exports.
 int PASCAL redirectedIoctl(SOCKET socket, DWORD code, void* in, DWORD inSize, void* out,
                            DWORD outSize, DWORD* written, WSAOVERLAPPED* overlapped,
                            LPWSAOVERLAPPED_COMPLETION_ROUTINE done) {
@@ -110,7 +110,8 @@ void redirectLocalAgent(std::uint16_t port) {
 
 } // namespace support
 
-// What a call of the imported function jumps through; the linker takes ours before the system's.
+// The pointer that a call of the imported function jumps through; the linker takes this one before
+// the system's.
 extern "C" {
 decltype(&redirectedConnect) __imp_connect = redirectedConnect;
 decltype(&redirectedIoctl) __imp_WSAIoctl = redirectedIoctl;
