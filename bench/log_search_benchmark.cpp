@@ -55,12 +55,13 @@ void searchLine(benchmark::State& state) {
     insight::SearchedRecords<hessiancln::activity_log_info> log(model);
     const auto view = bench::shownView(model);
     const auto keywords = insight::LogKeywords::translated();
-    // After a refresh, when the texts of the rows have to be created first.
+    // The search line prepares the texts when it gets the focus, and after each refresh.
     measure(
         state,
         [&] {
             log.setFilter({}, {});
             model.setRecords(bench::sampleRows(rowCount));
+            log.prepare();
         },
         [&](const QString& text) {
             log.setFilter({insight::parseLogQuery(text, keywords), insight::Severity::info}, {});

@@ -56,6 +56,7 @@ LogSearchBar::LogSearchBar(QWidget* parent)
     connect(ui_->editSearch, &QLineEdit::textChanged, this, &LogSearchBar::applyFilter);
     connect(ui_->comboSeverity, qOverload<int>(&QComboBox::currentIndexChanged), this,
             &LogSearchBar::applyFilter);
+    ui_->editSearch->installEventFilter(this);
     connect(ui_->buttonExport, &QPushButton::clicked, this, &LogSearchBar::exportRows);
 }
 
@@ -70,6 +71,9 @@ void LogSearchBar::attach(QTableView& table, std::unique_ptr<insight::SearchedLo
     connect(model, &QAbstractItemModel::rowsInserted, this, &LogSearchBar::showCount);
     connect(model, &QAbstractItemModel::rowsRemoved, this, &LogSearchBar::showCount);
     connect(model, &QAbstractItemModel::dataChanged, this, &LogSearchBar::showCount);
+    // Once the views have painted the new rows.
+    connect(model, &QAbstractItemModel::dataChanged, this, &LogSearchBar::prepareSearch,
+            Qt::QueuedConnection);
     showCount();
 }
 
@@ -101,6 +105,11 @@ void LogSearchBar::showCount() {
             : tr("%1 shown, %2 hidden").arg(ui::numberText(shown), ui::numberText(all - shown)));
 }
 
+void LogSearchBar::prepareSearch() {
+    if (log_ && ui_->editSearch->hasFocus())
+        log_->prepare();
+}
+
 void LogSearchBar::exportRows() {
     if (!log_)
         return;
@@ -126,6 +135,12 @@ void LogSearchBar::keyPressEvent(QKeyEvent* event) {
         event->accept();
     else
         QWidget::keyPressEvent(event);
+}
+
+bool LogSearchBar::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusIn && log_)
+        log_->prepare();
+    return QWidget::eventFilter(watched, event);
 }
 
 void LogSearchBar::changeEvent(QEvent* event) {

@@ -34,10 +34,12 @@ public:
 protected:
     void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void applyFilter();
     void showCount();
+    void prepareSearch();
     void exportRows();
 
     std::unique_ptr<Ui::LogSearchBar> ui_;

@@ -5,7 +5,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <utility>
+#include <vector>
 
 #include <QByteArray>
 #include <QStringList>
@@ -27,6 +29,8 @@ class SearchedLog {
 public:
     virtual ~SearchedLog() = default;
 
+    /// Builds the texts of the rows before the first search, which otherwise waits for them.
+    virtual void prepare() = 0;
     /// Shows the rows that pass the filter, now and after each refresh.
     virtual void setFilter(const LogFilter& filter, const SetNames& names) = 0;
     virtual const QAbstractItemModel& model() const = 0;
@@ -46,6 +50,9 @@ public:
     explicit SearchedRecords(models::RecordTableModel<R>& model)
         : model_(model) {}
 
+    void prepare() override {
+        texts_->build(model_.records(), model_.recordColumns(), model_.version());
+    }
     void setFilter(const LogFilter& filter, const SetNames& names) override {
         if (filter.isEmpty()) {
             model_.setFilter({});
@@ -55,9 +62,7 @@ public:
         // the model and this object may outlive the other.
         model_.setFilter([texts = texts_, columns = model_.recordColumns(), filter,
                           names](const std::vector<R>& records, std::uint64_t version) {
-            if (texts->version != version)
-                texts->index.template build<R>(records, columns, traitsOf);
-            texts->version = version;
+            texts->build(records, columns, version);
             return texts->index.matches(filter, names);
         });
     }
@@ -72,6 +77,13 @@ private:
     struct Texts {
         RowIndex index;
         std::uint64_t version = 0; ///< version of the list they were built from
+
+        void build(const std::vector<R>& records, std::span<const models::RecordColumn<R>> columns,
+                   std::uint64_t current) {
+            if (version != current)
+                index.template build<R>(records, columns, traitsOf);
+            version = current;
+        }
     };
 
     models::RecordTableModel<R>& model_;

@@ -64,6 +64,8 @@ public:
     int rowOf(std::size_t record) const;
     /// All records, shown or not.
     const std::vector<R>& records() const { return records_; }
+    /// The version of the list that a filter gets with it.
+    std::uint64_t version() const { return version_; }
     std::span<const RecordColumn<R>> recordColumns() const { return columns_; }
 
     int rowCount(const QModelIndex& parent = {}) const override {
