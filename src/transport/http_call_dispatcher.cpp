@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "transport/http_call_dispatcher.h"
 
+#include <chrono>
 #include <memory>
 #include <thread>
 #include <utility>
@@ -25,26 +26,35 @@ struct Target {
     std::uint32_t port = 0;
 };
 
-std::string carry(HttpExchange& exchange, const Target& target, const std::string& request) {
-    exchange.connect(target.host, target.port);
-    return exchange.post(target.host, target.port, target.path, request);
-}
-
-/// Abandons the thread of the call if the caller gives up. The thread owns all that it needs.
-std::string carryBeside(const std::shared_ptr<HttpExchange>& exchange, const Target& target,
-                        const std::string& request) {
+/// Runs the exchange on a thread of its own while the caller waits with its hook. The thread is
+/// abandoned if the caller gives up; it owns all that it needs.
+std::string carryBeside(const std::shared_ptr<HttpExchange>& exchange,
+                        std::chrono::milliseconds waited) {
     const auto reply =
         std::make_shared<PendingReply>([exchange](const std::string&) { exchange->abandon(); });
-    std::thread([exchange, target, reply, kept = base::Secret(request)] {
+    std::thread([exchange, reply] {
         try {
-            std::string body = carry(*exchange, target, kept.text());
+            exchange->run();
+            std::string body = exchange->takeReply();
             const base::WipedAtEnd guard(body); // unless the caller has taken it
             reply->succeed(body);
         } catch (...) {
             reply->fail(std::current_exception());
         }
     }).detach();
-    return reply->wait();
+    return reply->wait(waited);
+}
+
+/// A quick exchange runs on the caller's thread: starting another one would slow it down.
+std::string carry(const std::shared_ptr<HttpExchange>& exchange) {
+    if (const WaitHook* hook = CallPassage::hook()) {
+        const auto patience = hook->patience();
+        if (!exchange->runFor(patience))
+            return carryBeside(exchange, patience);
+    } else {
+        exchange->run();
+    }
+    return exchange->takeReply();
 }
 
 } // namespace
@@ -72,8 +82,8 @@ std::string CHttpCallDispatcher::exchange(const std::string& url, const std::str
     trace.detail("parseURL: ", target.host, " port: ", target.port);
 
     const auto exchange = std::make_shared<HttpExchange>(target.useTls, limits_, trace);
-    std::string reply = CallPassage::hook() ? carryBeside(exchange, target, request)
-                                            : carry(*exchange, target, request);
+    exchange->start(target.host, target.port, target.path, request);
+    std::string reply = carry(exchange);
 
     trace.step("CHttpCallDispatcher::sendRequest LEAVE");
     return reply;

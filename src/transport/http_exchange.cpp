@@ -2,18 +2,16 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "transport/http_exchange.h"
 
-#include <optional>
 #include <sstream>
 #include <utility>
 
 #include <boost/asio/post.hpp>
 #include <boost/asio/ssl/error.hpp>
-#include <boost/beast/core/flat_buffer.hpp>
 #include <boost/beast/http/empty_body.hpp>
 #include <boost/beast/http/read.hpp>
 #include <boost/beast/http/write.hpp>
+#include <boost/smart_ptr/shared_ptr.hpp>
 
-#include "base/secret.h"
 #include "transport/invoke_exception.h"
 #include "transport/plain_file_logger.h"
 
@@ -63,101 +61,38 @@ HttpExchange::HttpExchange(bool useTls, const HttpLimits& limits, Tracer trace)
     , limits_(limits)
     , trace_(std::move(trace))
     , timer_(io_)
-    , connection_(io_, context_, useTls) {}
-
-void HttpExchange::connect(const std::string& host, std::uint32_t port) {
-    ErrorCode error;
-    const TcpConnection::Endpoints endpoints = connection_.resolve(host, port, error);
-    if (!error)
-        error = await([&](auto completion) { connection_.asyncConnect(endpoints, completion); });
-    if (error) {
-        trace_.detail("connect: ", error.value(), " msg: ", error.message());
-        throw invoke_exception(connectFailure(host, port, error));
-    }
-    trace_.detail("connected: ", host);
-
-    if (connection_.useTls()) {
-        error = await([&](auto completion) { connection_.asyncHandshake(completion); });
-        if (error) {
-            trace_.detail("SSL Handshake: ", error.value(), " msg: ", error.message());
-            throw invoke_exception(handshakeFailure(error));
-        }
-    }
+    , connection_(io_, context_, useTls) {
+    parser_.body_limit(limits_.largestContent);
 }
 
-std::string HttpExchange::post(const std::string& host, std::uint32_t port, const std::string& path,
-                               const std::string& body) {
+void HttpExchange::start(const std::string& host, std::uint32_t port, const std::string& path,
+                         const std::string& body) {
+    host_ = host;
+    port_ = port;
     // A single buffer: the body may hold a password, and TLS would merge several buffers on the
     // stack.
-    std::string request = requestHead(host, port, path, body.size());
-    request.reserve(request.size() + body.size());
-    request += body;
-    const base::WipedAtEnd guard(request);
-
-    ResponseParser parser;
-    parser.body_limit(limits_.largestContent);
-    if (connection_.useTls())
-        exchange(connection_.tlsStream(), request, parser);
-    else
-        exchange(connection_.socket(), request, parser);
-    connection_.finish();
-
-    auto& response = parser.get();
-    if (response.result_int() != 200) {
-        throw invoke_exception() << "Server returned status code " << response.result_int() << " ("
-                                 << reasonAsSent(response) << ")";
-    }
-    return std::move(response.body());
-}
-
-template <class Stream>
-void HttpExchange::exchange(Stream& stream, const std::string& request, ResponseParser& parser) {
-    // A server may refuse a request before it has read all of it, so a failed write doesn't mean
-    // that there is no response.
-    const ErrorCode sent = send(request);
-    const ErrorCode received = receive(stream, parser);
-    if (received && sent)
-        throw failure("Failed to send the HTTP request", sent);
-    if (received)
-        throw failure("Failed to receive the HTTP response", received);
-}
-
-ErrorCode HttpExchange::send(const std::string& request) {
-    std::size_t sent = 0;
-    const ErrorCode error = await([&](auto completion) {
-        connection_.asyncWrite(asio::buffer(request),
-                               [&sent, completion](const ErrorCode& result, std::size_t size) {
-                                   sent = size;
-                                   completion(result);
-                               });
-    });
-    auto& logger = pion::PlainFileLogger::instance();
-    if (logger.admits(pion::PlainFileLogger::debug)) {
-        logger.log(pion::PlainFileLogger::debug,
-                   "Sent HTTP request chunk of " + std::to_string(sent) + " bytes");
-    }
-    return error;
-}
-
-template <class Stream>
-ErrorCode HttpExchange::receive(Stream& stream, ResponseParser& parser) {
-    // The reply may hold a key, which the parser copies out of this buffer.
-    boost::beast::basic_flat_buffer<base::WipingAllocator<char>> buffer;
-    ErrorCode error;
-    while (!error && !parser.is_done()) {
-        error = await([&](auto completion) {
-            http::async_read_some(
-                stream, buffer, parser,
-                [completion](const ErrorCode& result, std::size_t) { completion(result); });
+    const std::string head = requestHead(host, port, path, body.size());
+    request_.reserve(head.size() + body.size());
+    request_ += head;
+    request_ += body;
+    work_.emplace(io_.get_executor());
+    const boost::shared_ptr<void> owner(this, [self = shared_from_this()](void*) {});
+    connection_.asyncResolve(
+        host, port, owner,
+        [this](const ErrorCode& error, const TcpConnection::Endpoints& endpoints) {
+            step([&] { resolved(error, endpoints); });
         });
-    }
-    // Many servers close a TLS connection without a close_notify. As on a plain connection, that
-    // ends a body of unknown length and truncates any other.
-    if (error == asio::ssl::error::stream_truncated && parser.got_some()) {
-        error = {};
-        parser.put_eof(error);
-    }
-    return error;
+}
+
+bool HttpExchange::runFor(std::chrono::milliseconds time) {
+    io_.run_for(time);
+    return ended_;
+}
+
+std::string HttpExchange::takeReply() {
+    if (failure_)
+        std::rethrow_exception(std::exchange(failure_, nullptr));
+    return std::move(parser_.get().body());
 }
 
 void HttpExchange::abandon() {
@@ -165,29 +100,142 @@ void HttpExchange::abandon() {
     asio::post(io_, [this] { connection_.close(); });
 }
 
-ErrorCode HttpExchange::await(const std::function<void(TcpConnection::Completion)>& start) {
-    if (abandoned_)
-        return asio::error::operation_aborted;
-    std::optional<ErrorCode> result;
-    bool timedOut = false;
-    bool timerDone = false;
-
+void HttpExchange::operate(const std::function<void(TcpConnection::Completion)>& operation,
+                           Next next) {
+    if (abandoned_) {
+        (this->*next)(asio::error::operation_aborted);
+        return;
+    }
+    operating_ = true;
+    timedOut_ = false;
     timer_.expires_after(limits_.readTimeout);
-    timer_.async_wait([&](const ErrorCode& cancelled) {
-        timerDone = true;
-        if (!cancelled && !result) {
-            timedOut = true;
+    timer_.async_wait([this, number = ++operation_](const ErrorCode& cancelled) {
+        // A timer that expires while its operation ends isn't cancelled any more.
+        if (!cancelled && operating_ && number == operation_) {
+            timedOut_ = true;
             connection_.close();
         }
     });
-    start([&](const ErrorCode& error) {
-        result = error;
+    operation([this, next](const ErrorCode& error) {
+        if (ended_)
+            return;
+        operating_ = false;
         timer_.cancel();
+        step([&] { (this->*next)(timedOut_ ? ErrorCode(asio::error::timed_out) : error); });
     });
-    io_.restart();
-    while (!result || !timerDone)
-        io_.run_one();
-    return timedOut ? ErrorCode(asio::error::timed_out) : *result;
+}
+
+void HttpExchange::step(const std::function<void()>& work) {
+    try {
+        work();
+    } catch (...) {
+        end(std::current_exception());
+    }
+}
+
+void HttpExchange::resolved(const ErrorCode& error, const TcpConnection::Endpoints& endpoints) {
+    if (error) {
+        connected(error);
+        return;
+    }
+    operate([&](auto completion) { connection_.asyncConnect(endpoints, completion); },
+            &HttpExchange::connected);
+}
+
+void HttpExchange::connected(const ErrorCode& error) {
+    if (error) {
+        trace_.detail("connect: ", error.value(), " msg: ", error.message());
+        throw invoke_exception(connectFailure(host_, port_, error));
+    }
+    trace_.detail("connected: ", host_);
+    if (connection_.useTls())
+        operate([&](auto completion) { connection_.asyncHandshake(completion); },
+                &HttpExchange::handshakeDone);
+    else
+        send();
+}
+
+void HttpExchange::handshakeDone(const ErrorCode& error) {
+    if (error) {
+        trace_.detail("SSL Handshake: ", error.value(), " msg: ", error.message());
+        throw invoke_exception(handshakeFailure(error));
+    }
+    send();
+}
+
+void HttpExchange::send() {
+    operate(
+        [&](auto completion) {
+            connection_.asyncWrite(asio::buffer(request_),
+                                   [this, completion](const ErrorCode& error, std::size_t size) {
+                                       sentSize_ = size;
+                                       completion(error);
+                                   });
+        },
+        &HttpExchange::sent);
+}
+
+void HttpExchange::sent(const ErrorCode& error) {
+    auto& logger = pion::PlainFileLogger::instance();
+    if (logger.admits(pion::PlainFileLogger::debug)) {
+        logger.log(pion::PlainFileLogger::debug,
+                   "Sent HTTP request chunk of " + std::to_string(sentSize_) + " bytes");
+    }
+    // A server may refuse a request before it has read all of it, so a failed write doesn't mean
+    // that there is no response.
+    sendError_ = error;
+    receive();
+}
+
+void HttpExchange::receive() {
+    operate(
+        [&](auto completion) {
+            const auto handler = [completion](const ErrorCode& error, std::size_t) {
+                completion(error);
+            };
+            if (connection_.useTls())
+                http::async_read_some(connection_.tlsStream(), buffer_, parser_, handler);
+            else
+                http::async_read_some(connection_.socket(), buffer_, parser_, handler);
+        },
+        &HttpExchange::receivedSome);
+}
+
+void HttpExchange::receivedSome(const ErrorCode& error) {
+    if (error || parser_.is_done())
+        received(error);
+    else
+        receive();
+}
+
+void HttpExchange::received(ErrorCode error) {
+    // Many servers close a TLS connection without a close_notify. As on a plain connection, that
+    // ends a body of unknown length and truncates any other.
+    if (error == asio::ssl::error::stream_truncated && parser_.got_some()) {
+        error = {};
+        parser_.put_eof(error);
+    }
+    if (error && sendError_)
+        throw failure("Failed to send the HTTP request", sendError_);
+    if (error)
+        throw failure("Failed to receive the HTTP response", error);
+    connection_.finish();
+
+    const auto& response = parser_.get();
+    if (response.result_int() != 200) {
+        throw invoke_exception() << "Server returned status code " << response.result_int() << " ("
+                                 << reasonAsSent(response) << ")";
+    }
+    end(nullptr);
+}
+
+void HttpExchange::end(std::exception_ptr failure) {
+    ended_ = true;
+    failure_ = std::move(failure);
+    // A failure may leave an operation running, on which `run` would wait.
+    timer_.cancel();
+    connection_.close();
+    work_.reset();
 }
 
 } // namespace hessiancln

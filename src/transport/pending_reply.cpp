@@ -50,11 +50,11 @@ bool PendingReply::fail(std::exception_ptr failure) {
     return finish([&] { failure_ = std::move(failure); });
 }
 
-std::string PendingReply::wait() {
+std::string PendingReply::wait(std::chrono::milliseconds waited) {
     std::unique_lock lock(mutex_);
     const auto done = [this] { return finished_; };
     if (WaitHook* hook = CallPassage::hook()) {
-        if (!condition_.wait_for(lock, hook->patience(), done)) {
+        if (!condition_.wait_for(lock, hook->patience() - waited, done)) {
             lock.unlock();
             hook->wait(*this);
             lock.lock();

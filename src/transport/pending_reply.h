@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <chrono>
 #include <condition_variable>
 #include <exception>
 #include <functional>
@@ -31,8 +32,9 @@ public:
     bool fail(std::exception_ptr failure);
 
     /// Sleeps, or runs this thread's hook, until the call has finished. Returns the reply or throws
-    /// the failure; a failure given as text is thrown as `invoke_exception`.
-    std::string wait();
+    /// the failure; a failure given as text is thrown as `invoke_exception`. `waited` is the part
+    /// of the hook's patience that has already passed.
+    std::string wait(std::chrono::milliseconds waited = {});
 
     bool finished() const override;
     void onFinish(std::function<void()> wake) override;
