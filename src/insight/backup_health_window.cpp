@@ -38,7 +38,6 @@ BackupHealthWindow::BackupHealthWindow(insight::HealthMonitor& monitor, AllowedO
     connect(&monitor_, &insight::HealthMonitor::progressed, this,
             &BackupHealthWindow::showProgress);
     connect(&monitor_, &insight::HealthMonitor::failed, ui_->labelFailure, &QLabel::setText);
-    showRows();
     showProgress();
 }
 
@@ -50,7 +49,7 @@ void BackupHealthWindow::setUpTables() {
     insight::copyRows(*ui_->tableSets);
     insight::copyRows(*ui_->tableRuns);
     connect(ui_->tableSets->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
-        hasChosen_ = hasChosen_ || !isRefilling_;
+        keepsSelection_ = keepsSelection_ || !isRefilling_;
         showSelected();
     });
     connect(ui_->comboWeek, qOverload<int>(&QComboBox::currentIndexChanged), this,
@@ -89,8 +88,9 @@ void BackupHealthWindow::showEvent(QShowEvent* event) {
     if (event->spontaneous())
         return;
     ui_->labelFailure->clear();
-    hasChosen_ = false;
+    keepsSelection_ = false;
     monitor_.watch();
+    showRows();
 }
 
 void BackupHealthWindow::hideEvent(QHideEvent* event) {
@@ -108,8 +108,12 @@ const insight::HealthRow* BackupHealthWindow::selectedRow() const {
 }
 
 void BackupHealthWindow::showRows() {
+    // The main window changes the rows on each heartbeat.
+    if (!isVisible())
+        return;
     const insight::HealthRow* before = selectedRow();
-    const std::int32_t id = before && hasChosen_ ? before->facts.info.id : -1;
+    keepsSelection_ = keepsSelection_ && before;
+    const std::int32_t id = keepsSelection_ ? before->facts.info.id : -1;
     {
         const QScopedValueRollback<bool> refilling(isRefilling_, true);
         sets_.setRecords(monitor_.rows());
@@ -122,7 +126,7 @@ void BackupHealthWindow::showRows() {
     showRuns();
 }
 
-/// Keeps the user's selection; without one, selects the worst set.
+/// Selects the set, or the worst one if it isn't there.
 void BackupHealthWindow::select(std::int32_t setId) {
     int row = 0;
     for (std::size_t i = 0; i < sets_.records().size(); ++i)
@@ -157,6 +161,8 @@ void BackupHealthWindow::showWeek() {
 
 void BackupHealthWindow::showProgress() {
     const bool reading = monitor_.isReading();
+    // From now on, a set that moves in the list must not pass its commands to another one.
+    keepsSelection_ = keepsSelection_ || !reading;
     ui_->progressReading->setVisible(reading);
     ui_->buttonCancel->setVisible(reading);
     ui_->progressReading->setMaximum(std::max(monitor_.setsToRead(), 1));

@@ -60,6 +60,6 @@ private:
     std::unique_ptr<Ui::BackupHealthWindow> ui_;
     BackupHealthModel sets_;
     NextRunsModel runs_;
-    bool isRefilling_ = false; ///< selection changes aren't the user's
-    bool hasChosen_ = false;   ///< the user has selected a set
+    bool isRefilling_ = false;    ///< selection changes aren't the user's
+    bool keepsSelection_ = false; ///< the user has selected a set, or all sets have been read
 };

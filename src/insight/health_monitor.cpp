@@ -35,6 +35,7 @@ HealthMonitor::HealthMonitor(HealthReader::Connect connect, Clock clock, QObject
     , reader_(std::move(connect))
     , clock_(std::move(clock))
     , slices_([this] { return step(); }) {
+    QObject::connect(&slices_, &Slices::progressed, this, &HealthMonitor::takeDetails);
     QObject::connect(&slices_, &Slices::finished, this, &HealthMonitor::progressed);
 }
 
@@ -45,6 +46,8 @@ void HealthMonitor::takeSets(std::vector<backup_set_info> sets) {
     std::vector<backup_set_info> unread;
     for (const backup_set_info& set : sets) {
         const auto known = before.find(set.id);
+        if (known != before.end() && known->second->schedule_id != set.schedule_id)
+            reader_.forget(set.id);
         if (known == before.end() || hasChanged(*known->second, set))
             unread.push_back(set);
     }
@@ -56,7 +59,7 @@ void HealthMonitor::takeSets(std::vector<backup_set_info> sets) {
 
 void HealthMonitor::takeActivities(const std::vector<activity_log_info>& log,
                                    const std::vector<running_activity_info>& running) {
-    loggedAttempts_.clear();
+    // The user may narrow the log to a period without the newest backup.
     for (const activity_log_info& row : log) {
         if (!isBackup(row) || row.end_time < 1)
             continue;
@@ -71,7 +74,7 @@ void HealthMonitor::takeActivities(const std::vector<activity_log_info>& log,
 }
 
 void HealthMonitor::clear() {
-    reader_.clear();
+    reader_.forgetAll();
     slices_.stop();
     total_ = 0;
     sets_.clear();
@@ -100,8 +103,12 @@ void HealthMonitor::cancelReading() {
 
 void HealthMonitor::scheduleChanged(std::int32_t setId) {
     const auto set = std::ranges::find(sets_, setId, &backup_set_info::id);
-    if (isWatched_ && set != sets_.end())
+    if (set == sets_.end())
+        return;
+    reader_.forget(setId);
+    if (isWatched_)
         read({*set});
+    judgeAll();
 }
 
 void HealthMonitor::read(const std::vector<backup_set_info>& sets) {
@@ -119,14 +126,19 @@ void HealthMonitor::read(const std::vector<backup_set_info>& sets) {
 
 bool HealthMonitor::step() {
     try {
-        if (reader_.step()) {
-            judgeAll();
-            emit progressed();
-        }
+        hasNewDetails_ = reader_.step().has_value() || hasNewDetails_;
     } catch (const std::exception& error) {
         emit failed(ui::errorText(error));
     }
     return reader_.left() > 0;
+}
+
+/// Once per slice, as each time costs as much as there are sets.
+void HealthMonitor::takeDetails() {
+    if (!std::exchange(hasNewDetails_, false))
+        return;
+    judgeAll();
+    emit progressed();
 }
 
 HealthClock HealthMonitor::healthClock() const {

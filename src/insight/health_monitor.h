@@ -79,6 +79,7 @@ signals:
 
 private:
     bool step();
+    void takeDetails();
     void read(const std::vector<hessiancln::backup_set_info>& sets);
     void judgeAll();
     SetFacts factsOf(const hessiancln::backup_set_info& info, HealthRow& row) const;
@@ -88,8 +89,9 @@ private:
     Slices slices_;
     int total_ = 0;
     bool isWatched_ = false;
+    bool hasNewDetails_ = false; ///< read in the current slice
     std::vector<hessiancln::backup_set_info> sets_;
-    std::map<std::int32_t, BackupAttempt> loggedAttempts_; ///< the newest backup of each set
+    std::map<std::int32_t, BackupAttempt> loggedAttempts_; ///< the newest one of each set
     std::set<std::int32_t> running_;
     std::vector<HealthRow> rows_;
 };

@@ -30,17 +30,37 @@ HealthReader::~HealthReader() = default;
 void HealthReader::add(const hessiancln::backup_set_info& set) {
     plans_.erase(set.schedule_id);
     const auto same = std::ranges::find(waiting_, set.id, &hessiancln::backup_set_info::id);
-    if (same == waiting_.end())
+    if (same == waiting_.end()) {
         waiting_.push_back(set);
-    else
-        *same = set;
+        return;
+    }
+    *same = set;
+    // What was read of it may be out of date.
+    if (same == waiting_.begin())
+        restart();
 }
 
 void HealthReader::clear() {
     waiting_.clear();
+    configuration_.reset();
+    restart();
+}
+
+void HealthReader::forget(std::int32_t setId) {
+    details_.erase(setId);
+}
+
+void HealthReader::forgetAll() {
+    clear();
+    details_.clear();
+    plans_.clear();
+    missedHours_.reset();
+}
+
+void HealthReader::restart() {
     planReader_.reset();
     set_.reset();
-    configuration_.reset();
+    read_ = {};
     stage_ = Stage::open;
 }
 
@@ -64,10 +84,7 @@ std::optional<std::int32_t> HealthReader::step() {
     const std::int32_t id = waiting_.front().id;
     const auto endSet = [this] {
         waiting_.pop_front();
-        planReader_.reset();
-        set_.reset();
-        read_ = {};
-        stage_ = Stage::open;
+        restart();
     };
     try {
         call();

@@ -51,8 +51,12 @@ public:
     /// Appends a set to the queue of sets to read, unless it is already in it. Its schedule is read
     /// again.
     void add(const hessiancln::backup_set_info& set);
-    /// Empties the queue. Details read so far are kept.
+    /// Empties the queue. Details of sets read so far are kept.
     void clear();
+    /// Discards the details of a set.
+    void forget(std::int32_t setId);
+    /// Empties the queue and discards all that was read, which is of no use to another session.
+    void forgetAll();
     /// Number of sets still to read.
     std::size_t left() const { return waiting_.size(); }
 
@@ -70,6 +74,8 @@ private:
     enum class Stage { open, schedule, plan, attempt, overview };
 
     void call();
+    /// Discards the data of an incomplete set.
+    void restart();
     void takePlan();
     void askForMissedHours();
 

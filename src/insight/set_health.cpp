@@ -20,7 +20,8 @@ bool hasFailed(const SetFacts& facts) {
 HealthReason overdueReason(const SetFacts& facts, const HealthClock& clock) {
     if (!isScheduled(facts.info) || !facts.plan || !facts.interval)
         return HealthReason::none;
-    if (clock.now - facts.info.last_successful_backup > 2 * *facts.interval)
+    const std::int64_t lastGood = facts.info.last_successful_backup;
+    if (lastGood >= 1 && clock.now - lastGood > 2 * *facts.interval)
         return HealthReason::isTooOld;
     // What works on the set may be the backup in question.
     if (facts.isRunning)

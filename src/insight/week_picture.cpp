@@ -144,11 +144,14 @@ bool WeekPicture::event(QEvent* event) {
         if (!barOf(part).adjusted(-1, -1, 1, 1).contains(help->pos()))
             continue;
         const insight::PlannedRun& run = runs_[part.run];
+        const QString text =
+            tr("%1\n%2 to %3")
+                .arg(session::fromWire(run.name), ui::timeText(run.start, QLocale::ShortFormat),
+                     ui::timeText(run.end, QLocale::ShortFormat));
+        // The name of a set may look like markup.
         QToolTip::showText(help->globalPos(),
-                           tr("%1\n%2 to %3")
-                               .arg(session::fromWire(run.name),
-                                    ui::timeText(run.start, QLocale::ShortFormat),
-                                    ui::timeText(run.end, QLocale::ShortFormat)),
+                           QStringLiteral("<p style='white-space:pre'>") + text.toHtmlEscaped() +
+                               QStringLiteral("</p>"),
                            this);
         return true;
     }

@@ -5,6 +5,7 @@
 
 #include <set>
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
@@ -138,6 +139,8 @@ private slots:
         child<QComboBox>(driver.window(), "comboSeverity").setCurrentIndex(0);
         QCOMPARE(driver.rows("tableActivityLog"), all);
         QCOMPARE(count.text(), QStringLiteral("%1 rows").arg(all));
+        QCOMPARE(QAccessible::queryAccessibleInterface(&count)->text(QAccessible::Name),
+                 count.text());
     }
 
     void aSelectedRowStaysSelectedUnderAFilter() {
@@ -400,7 +403,10 @@ private slots:
             wizard.next();
             auto& box = child<QGroupBox>(*wizard.currentPage(), "RestoreSummaryBox");
             QVERIFY(box.isVisible());
-            const QString summary = child<QLabel>(box, "labelSummary").text();
+            auto& label = child<QLabel>(box, "labelSummary");
+            const QString summary = label.text();
+            QCOMPARE(QAccessible::queryAccessibleInterface(&label)->text(QAccessible::Name),
+                     summary);
             QVERIFY2(summary.contains(QStringLiteral("What: 1 file")), qPrintable(summary));
             QVERIFY(summary.contains(QStringLiteral("the original location")));
             child<QComboBox>(*wizard.currentPage(), "cmbRestoreReason").setCurrentIndex(1);

@@ -54,6 +54,13 @@ TEST_F(SetHealthTest, ASetThatWasBackedUpLastNightIsSafe) {
     EXPECT_FALSE(insight::needsAttention(judged()));
 }
 
+TEST_F(SetHealthTest, AnUnknownLastBackupIsNotTooOld) {
+    backedUpAt(0);
+    EXPECT_EQ(judged().reason, HealthReason::missedStart);
+    facts.isRunning = true;
+    EXPECT_EQ(judged().beneath, HealthState::Safe);
+}
+
 TEST_F(SetHealthTest, OutOfSyncComesFirst) {
     facts.info.in_sync = facts.info.has_items = false;
     EXPECT_EQ(state(), HealthState::NotInSync);

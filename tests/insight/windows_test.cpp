@@ -6,8 +6,11 @@
 #include <optional>
 
 #include <QAbstractItemModelTester>
+#include <QAccessible>
 #include <QClipboard>
+#include <QHelpEvent>
 #include <QMimeData>
+#include <QToolTip>
 #include <QtTest>
 
 #include "api/client_connection.h"
@@ -77,6 +80,28 @@ public:
     insight::HealthMonitor monitor;
 };
 
+/// A slice that was due would have run before.
+void letTimersFire() {
+    bool fired = false;
+    QTimer::singleShot(0, [&fired] { fired = true; });
+    QTRY_VERIFY(fired);
+}
+
+const insight::HealthRow& rowOf(const insight::HealthMonitor& monitor, std::int32_t id) {
+    return *std::find_if(monitor.rows().begin(), monitor.rows().end(),
+                         [id](const auto& row) { return row.facts.info.id == id; });
+}
+
+std::int32_t idNamed(const insight::HealthMonitor& monitor, std::string_view name) {
+    return std::find_if(monitor.rows().begin(), monitor.rows().end(),
+                        [name](const auto& row) { return row.facts.info.name == name; })
+        ->facts.info.id;
+}
+
+std::string spoken(QLabel& label) {
+    return QAccessible::queryAccessibleInterface(&label)->text(QAccessible::Name).toStdString();
+}
+
 BackupHealthWindow::Allowed everything(const insight::HealthRow&) {
     return {true, true};
 }
@@ -111,6 +136,14 @@ private slots:
     void setsStandWorstFirst();
     void schedulesAreReadOnceAndAgainWhenASetChanges();
     void readingCanBeCancelled();
+    void anotherSessionStartsWithNothing();
+    void aCancelledSetLeavesNoScheduleToTheNext();
+    void aChangedScheduleNoLongerJudges();
+    void theLogsPeriodChangesNoHealth();
+    void aHiddenWindowIsFilledWhenItIsShown();
+    void theSelectionFollowsItsSet();
+    void namesAreNoMarkup();
+    void labelsAreSpokenAsShown();
     void theButtonsNameTheSet();
     void failedBackupsAreExplained();
     void nextRunsShowOverlaps();
@@ -202,8 +235,168 @@ void InsightWindowsTest::readingCanBeCancelled() {
     QVERIFY(!monitor.isReading());
     QVERIFY(!child<QProgressBar>(window, "progressReading").isVisible());
     session.agent.clearCallLog();
-    QTest::qWait(50);
+    letTimersFire();
     QCOMPARE(session.methods(), std::vector<std::string>());
+}
+
+void InsightWindowsTest::anotherSessionStartsWithNothing() {
+    std::optional<Session> session(std::in_place, Scenario::Overdue);
+    Fed fed;
+    fed.monitor.watch();
+    QTRY_VERIFY_WITH_TIMEOUT(!fed.monitor.isReading(), patience);
+    fed.monitor.unwatch();
+    const std::int32_t id = idNamed(fed.monitor, simulator::health::old);
+    QVERIFY(rowOf(fed.monitor, id).plan);
+    QVERIFY(fed.monitor.healthClock().missedHours > 0);
+    fed.monitor.clear();
+    session.reset();
+    session.emplace(Scenario::Failed);
+    fed.beat();
+    // The set of the other agent has the same id.
+    QVERIFY(!rowOf(fed.monitor, id).isRead);
+    QVERIFY(!rowOf(fed.monitor, id).plan);
+    QCOMPARE(fed.monitor.healthClock().missedHours, 0);
+}
+
+void InsightWindowsTest::aCancelledSetLeavesNoScheduleToTheNext() {
+    Session session(Scenario::Overdue);
+    const auto sets = session::getConnection()->backup_sets_info();
+    const auto first = std::find_if(sets.begin(), sets.end(), insight::isScheduled);
+    const auto other = std::find_if(first, sets.end(), [&](const auto& set) {
+        return insight::isScheduled(set) && set.schedule_id != first->schedule_id;
+    });
+    QVERIFY(other != sets.end());
+    const auto called = [&](const char* method) {
+        const auto methods = session.methods();
+        return std::find(methods.begin(), methods.end(), method) != methods.end();
+    };
+    insight::HealthReader reader(session::getConnection);
+    reader.add(*first);
+    while (!called("getLastActivityOfType"))
+        QVERIFY(!reader.step());
+    reader.clear();
+    session.agent.clearCallLog();
+    reader.add(*other);
+    while (reader.left() > 0)
+        reader.step();
+    QVERIFY(called("getSchedule"));
+    QVERIFY(reader.detailsOf(other->id)->plan);
+    QVERIFY(!reader.detailsOf(first->id));
+}
+
+void InsightWindowsTest::aChangedScheduleNoLongerJudges() {
+    Session session(Scenario::Overdue);
+    Fed fed;
+    fed.monitor.watch();
+    QTRY_VERIFY_WITH_TIMEOUT(!fed.monitor.isReading(), patience);
+    fed.monitor.unwatch();
+    QCOMPARE(fed.monitor.count(), (insight::HealthCount{5, 2, 0}));
+    fed.monitor.scheduleChanged(idNamed(fed.monitor, simulator::health::old));
+    QCOMPARE(fed.monitor.count(), (insight::HealthCount{5, 1, 1}));
+    session.agent.withWorld([](simulator::World& world) {
+        world.setNamed(std::string(simulator::health::missed))->info.schedule_id += 100;
+    });
+    fed.beat();
+    QCOMPARE(fed.monitor.count(), (insight::HealthCount{5, 0, 2}));
+}
+
+void InsightWindowsTest::theLogsPeriodChangesNoHealth() {
+    const Session session(Scenario::Failed);
+    Fed fed;
+    const std::int32_t id = idNamed(fed.monitor, simulator::health::withErrors);
+    QCOMPARE(rowOf(fed.monitor, id).health.state, insight::HealthState::Safe);
+    hessiancln::activity_log_info backup;
+    backup.set_id = id;
+    backup.start_time = backup.end_time =
+        static_cast<std::int32_t>(QDateTime::currentSecsSinceEpoch());
+    backup.errors = 2;
+    const auto sets = session::getConnection()->backup_sets_info();
+    fed.monitor.takeActivities({backup}, {});
+    fed.monitor.takeSets(sets);
+    QCOMPARE(rowOf(fed.monitor, id).health.state, insight::HealthState::Failed);
+    fed.monitor.takeActivities({}, {});
+    fed.monitor.takeSets(sets);
+    QCOMPARE(rowOf(fed.monitor, id).health.state, insight::HealthState::Failed);
+}
+
+void InsightWindowsTest::aHiddenWindowIsFilledWhenItIsShown() {
+    const Session session(Scenario::Failed);
+    Fed fed;
+    BackupHealthWindow window(fed.monitor, everything);
+    const auto& table = child<QTableView>(window, "tableSets");
+    QCOMPARE(table.model()->rowCount(), 0);
+    window.show();
+    QTRY_VERIFY_WITH_TIMEOUT(!fed.monitor.isReading(), patience);
+    QCOMPARE(table.model()->rowCount(), 5);
+    window.hide();
+    fed.monitor.clear();
+    QCOMPARE(table.model()->rowCount(), 5);
+    window.show();
+    QCOMPARE(table.model()->rowCount(), 0);
+}
+
+void InsightWindowsTest::theSelectionFollowsItsSet() {
+    Session session(Scenario::Failed);
+    Fed fed;
+    BackupHealthWindow window(fed.monitor, everything);
+    window.show();
+    QTRY_VERIFY_WITH_TIMEOUT(!fed.monitor.isReading(), patience);
+    const auto& table = child<QTableView>(window, "tableSets");
+    QCOMPARE(table.selectionModel()->selectedRows().first().row(), 0);
+    const auto worst = fed.monitor.rows().front().facts.info;
+    session.agent.withWorld([&](simulator::World& world) {
+        auto& info = world.setNamed(worst.name)->info;
+        info.last_backup = info.last_successful_backup =
+            static_cast<std::int32_t>(QDateTime::currentSecsSinceEpoch());
+    });
+    fed.beat();
+    QVERIFY(fed.monitor.rows().front().facts.info.id != worst.id);
+    QSignalSpy backup(&window, &BackupHealthWindow::backupRequested);
+    QTest::mouseClick(&child<QPushButton>(window, "buttonBackup"), Qt::LeftButton);
+    QCOMPARE(backup.size(), 1);
+    QCOMPARE(backup[0][0].value<std::int32_t>(), worst.id);
+    // Opened again, the window starts with the worst set.
+    window.hide();
+    window.show();
+    QTRY_VERIFY_WITH_TIMEOUT(!fed.monitor.isReading(), patience);
+    QCOMPARE(table.selectionModel()->selectedRows().first().row(), 0);
+}
+
+void InsightWindowsTest::namesAreNoMarkup() {
+    WeekPicture picture;
+    picture.resize(700, 400);
+    picture.show();
+    const std::int64_t now = QDateTime::currentSecsSinceEpoch();
+    picture.showRuns({{1, "<b>x</b>", now, now + 6 * 86'400, false}}, now);
+    const QPoint middle(350, 200);
+    QHelpEvent help(QEvent::ToolTip, middle, picture.mapToGlobal(middle));
+    QCoreApplication::sendEvent(&picture, &help);
+    QVERIFY2(QToolTip::text().contains(QStringLiteral(">&lt;b&gt;x&lt;/b&gt;\n")),
+             qPrintable(QToolTip::text()));
+
+    const Session session(Scenario::Failed);
+    Fed fed;
+    BackupHealthWindow health(fed.monitor, everything);
+    const FindFileWindow find(session::getConnection);
+    QCOMPARE(child<QLabel>(health, "labelFailure").textFormat(), Qt::PlainText);
+    QCOMPARE(child<QLabel>(health, "labelHelp").textFormat(), Qt::PlainText);
+    QCOMPARE(find.findChild<QLabel*>(QStringLiteral("labelProgress"))->textFormat(), Qt::PlainText);
+}
+
+void InsightWindowsTest::labelsAreSpokenAsShown() {
+    const Session session(Scenario::Failed);
+    Fed fed;
+    BackupHealthWindow health(fed.monitor, everything);
+    health.show();
+    QTRY_VERIFY_WITH_TIMEOUT(!fed.monitor.isReading(), patience);
+    QCOMPARE(spoken(child<QLabel>(health, "labelSummary")),
+             std::string("3 of 5 sets need attention"));
+    QVERIFY(spoken(child<QLabel>(health, "labelHelp")).find("Back up now") != std::string::npos);
+    emit fed.monitor.failed(QStringLiteral("No connection"));
+    QCOMPARE(spoken(child<QLabel>(health, "labelFailure")), std::string("No connection"));
+    FindFileWindow find(session::getConnection);
+    child<QLabel>(find, "labelProgress").setText(QStringLiteral("1 file found"));
+    QCOMPARE(spoken(child<QLabel>(find, "labelProgress")), std::string("1 file found"));
 }
 
 void InsightWindowsTest::theButtonsNameTheSet() {
@@ -320,7 +513,7 @@ void InsightWindowsTest::aSearchIsCancelledAtOnce() {
     QVERIFY(child<QLabel>(window, "labelProgress").text().startsWith(QStringLiteral("Cancelled")));
     QTRY_COMPARE(session.views(), 0);
     session.agent.clearCallLog();
-    QTest::qWait(50);
+    letTimersFire();
     QCOMPARE(session.methods(), std::vector<std::string>());
 }
 

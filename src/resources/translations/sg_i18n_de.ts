@@ -321,10 +321,6 @@
         <translation>Zustand der Sicherungen</translation>
     </message>
     <message>
-        <source>Summary</source>
-        <translation>Zusammenfassung</translation>
-    </message>
-    <message>
         <source>Backup Se&amp;ts</source>
         <translation>Sicherungssä&amp;tze</translation>
     </message>
@@ -335,10 +331,6 @@
     <message>
         <source>What It Means</source>
         <translation>Was es bedeutet</translation>
-    </message>
-    <message>
-        <source>Why the set is in this state</source>
-        <translation>Warum der Satz in diesem Zustand ist</translation>
     </message>
     <message>
         <source>&amp;Backup</source>
@@ -383,10 +375,6 @@
     <message>
         <source>Cance&amp;l</source>
         <translation>A&amp;bbrechen</translation>
-    </message>
-    <message>
-        <source>What could not be read</source>
-        <translation>Was nicht gelesen werden konnte</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -1012,10 +1000,6 @@ Möchten Sie den Sicherungssatz entfernen?</translation>
     <message>
         <source>Files found</source>
         <translation>Gefundene Dateien</translation>
-    </message>
-    <message>
-        <source>Progress of the search</source>
-        <translation>Fortschritt der Suche</translation>
     </message>
     <message>
         <source>&amp;Generations</source>
@@ -2777,10 +2761,6 @@ Möchten Sie den Sicherungssatz entfernen?</translation>
         <translation>Fehler</translation>
     </message>
     <message>
-        <source>Rows shown and hidden</source>
-        <translation>Gezeigte und verborgene Zeilen</translation>
-    </message>
-    <message>
         <source>E&amp;xport...</source>
         <translation>E&amp;xportieren...</translation>
     </message>
@@ -3448,10 +3428,6 @@ Möchten Sie die Datenbank wirklich aus der Cloud retten?</translation>
     <message>
         <source>Summary</source>
         <translation>Zusammenfassung</translation>
-    </message>
-    <message>
-        <source>Summary of the restore</source>
-        <translation>Zusammenfassung der Wiederherstellung</translation>
     </message>
 </context>
 <context>
