@@ -45,7 +45,8 @@ QString lastAttemptText(const HealthRow& row) {
     if (const auto& attempt = row.facts.lastAttempt)
         return BackupHealthModel::tr("%1: %2", "time and outcome")
             .arg(shortTime(attempt->start),
-                 insight::outcomeText(attempt->errors, attempt->warnings));
+                 attempt->end < 1 ? BackupHealthModel::tr("running")
+                                  : insight::outcomeText(attempt->errors, attempt->warnings));
     const std::int64_t time = row.facts.info.last_backup;
     return time < 1 ? BackupHealthModel::tr("Never") : shortTime(time);
 }

@@ -43,6 +43,10 @@ QString failedHelp(const SetFacts& facts, const SetHealth& health) {
 }
 
 QString overdueHelp(const SetFacts& facts, const SetHealth& health, const HealthClock& clock) {
+    if (health.reason == HealthReason::missedStart && clock.missedHours == 1)
+        return Texts::tr("The last scheduled backup did not run, and the hour in which the agent "
+                         "makes up for it is over. Back up now, and check whether the computer is "
+                         "on at the scheduled time.");
     if (health.reason == HealthReason::missedStart)
         return Texts::tr("The last scheduled backup did not run, and the %1 hours in which the "
                          "agent makes up for it are over. Back up now, and check whether the "

@@ -3,7 +3,6 @@
 #include "insight/log_query.h"
 
 #include <QCoreApplication>
-#include <QStringList>
 
 #include "session/text.h"
 
@@ -11,24 +10,28 @@ namespace insight {
 
 namespace {
 
+struct Token {
+    QString text;
+    bool isWord = false; ///< begins with a quote, so it is no keyword
+};
+
 /// Splits at spaces outside quotes. Quotes are removed; an unclosed quote extends to the end of the
 /// text.
-QStringList tokensOf(const QString& text) {
-    QStringList tokens;
-    QString token;
+std::vector<Token> tokensOf(const QString& text) {
+    std::vector<Token> tokens(1);
     bool quoted = false;
     for (const QChar c : text) {
+        Token& token = tokens.back();
         if (c == QLatin1Char('"')) {
+            token.isWord = token.isWord || token.text.isEmpty();
             quoted = !quoted;
         } else if (c.isSpace() && !quoted) {
-            tokens.append(token);
-            token.clear();
+            tokens.emplace_back();
         } else {
-            token.append(c);
+            token.text.append(c);
         }
     }
-    tokens.append(token);
-    tokens.removeAll(QString());
+    std::erase_if(tokens, [](const Token& token) { return token.text.isEmpty(); });
     return tokens;
 }
 
@@ -67,8 +70,10 @@ LogKeywords LogKeywords::translated() {
 
 LogQuery parseLogQuery(const QString& text, const LogKeywords& keywords) {
     LogQuery query;
-    for (const QString& token : tokensOf(text))
-        if (isKeyword(token, QLatin1String("errors"), keywords.errors))
+    for (const auto& [token, isWord] : tokensOf(text))
+        if (isWord)
+            query.words.push_back(folded(token));
+        else if (isKeyword(token, QLatin1String("errors"), keywords.errors))
             query.withErrors = true;
         else if (isKeyword(token, QLatin1String("warnings"), keywords.warnings))
             query.withWarnings = true;

@@ -12,7 +12,8 @@ namespace insight {
 /// The search line of a log: words that must all be found, ignoring case.
 ///
 /// "name" searches all columns, "set:name" the name of the backup set, "type:name" the first
-/// column; "errors" and "warnings" keep rows that have some. A text in double quotes is one word.
+/// column; "errors" and "warnings" keep rows that have some. A text in double quotes is one word,
+/// and no keyword.
 struct LogQuery {
     std::vector<std::string> words; ///< case-folded, like the next members
     std::vector<std::string> sets;

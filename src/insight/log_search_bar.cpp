@@ -101,7 +101,7 @@ void LogSearchBar::showCount() {
     const int all = log_->allRows();
     ui_->labelCount->setText(
         shown == all
-            ? tr("%1 rows").arg(ui::numberText(all))
+            ? (all == 1 ? tr("1 row") : tr("%1 rows").arg(ui::numberText(all)))
             : tr("%1 shown, %2 hidden").arg(ui::numberText(shown), ui::numberText(all - shown)));
 }
 
@@ -116,6 +116,7 @@ void LogSearchBar::exportRows() {
     QFileDialog dialog(window(), tr("Export Log"), QDir::homePath(), tr("CSV Files (*.csv)"));
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setLabelText(QFileDialog::Accept, tr("&Save"));
     dialog.setDefaultSuffix(QStringLiteral("csv"));
     dialog.selectFile(QStringLiteral("log.csv"));
     ui::setStandardButtonPictures(dialog);

@@ -106,13 +106,14 @@ QByteArray SearchedRecords<R>::csv() const {
     QStringList header;
     for (int column = 0; column < model_.columnCount(); ++column)
         header.append(model_.headerData(column, Qt::Horizontal).toString());
-    QByteArray file = csvMark() + csvLine(header);
+    const QChar separator = csvSeparator(QLocale::system());
+    QByteArray file = csvMark() + csvLine(header, separator);
     for (int row = 0; row < model_.rowCount(); ++row) {
         const R& record = model_.records()[model_.recordOf(row)];
         QStringList cells;
         for (const models::RecordColumn<R>& column : model_.recordColumns())
             cells.append(exportedCell(column, record));
-        file += csvLine(cells);
+        file += csvLine(cells, separator);
     }
     return file;
 }

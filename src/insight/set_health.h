@@ -26,7 +26,7 @@ enum class HealthReason {
     missedStart, ///< the last start was missed by more than the agent's limit for missed schedules
 };
 
-/// A completed backup.
+/// A backup; its end is 0 while it is running.
 struct BackupAttempt {
     std::int32_t activityId = 0;
     std::int64_t start = 0;

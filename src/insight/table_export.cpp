@@ -92,11 +92,15 @@ QMimeData* clipboardData(const TextTable& table) {
     return data.release();
 }
 
-QByteArray csvLine(const QStringList& cells) {
+QChar csvSeparator(const QLocale& locale) {
+    return QLatin1Char(locale.decimalPoint() == QLatin1Char(',') ? ';' : ',');
+}
+
+QByteArray csvLine(const QStringList& cells, QChar separator) {
     QStringList written;
     for (const QString& cell : cells)
         written.append(csvCell(cell));
-    return written.join(QLatin1Char(',')).toUtf8() + "\r\n";
+    return written.join(separator).toUtf8() + "\r\n";
 }
 
 QString isoTime(qint64 seconds) {

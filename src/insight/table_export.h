@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QLocale>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -33,9 +34,14 @@ QString htmlTable(const TextTable& table);
 /// Both formats, for the clipboard; the caller owns the result.
 QMimeData* clipboardData(const TextTable& table);
 
-/// One line of CSV as in RFC 4180, with its line end. A text that a spreadsheet would interpret as
-/// a formula is prefixed with an apostrophe; a number isn't a formula.
-QByteArray csvLine(const QStringList& cells);
+/// What spreadsheets of this locale expect between two cells: a semicolon where a comma is part of
+/// numbers.
+QChar csvSeparator(const QLocale& locale);
+
+/// One line of CSV as in RFC 4180 but for the separator, with its line end. A text that a
+/// spreadsheet would interpret as a formula is prefixed with an apostrophe; a number isn't a
+/// formula.
+QByteArray csvLine(const QStringList& cells, QChar separator);
 
 /// A time in seconds since 1970 UTC in ISO 8601 format, local, with its offset from UTC.
 QString isoTime(qint64 seconds);

@@ -17,13 +17,14 @@ namespace {
 // Read when the first text is created.
 const bool localeIsSet = qputenv("LC_ALL", "en_US.UTF-8") && qputenv("TZ", "UTC");
 
-std::string help(const SetFacts& facts, HealthState state,
-                 HealthReason reason = HealthReason::none) {
+std::string help(const SetFacts& facts, HealthState state, HealthReason reason = HealthReason::none,
+                 std::int32_t missedHours = 4) {
     SetHealth health;
     health.state = facts.isRunning ? HealthState::Running : state;
     health.beneath = state;
     health.reason = reason;
-    return insight::helpText(facts, health, {1'000'000, 4, QTimeZone::utc()}).toStdString();
+    return insight::helpText(facts, health, {1'000'000, missedHours, QTimeZone::utc()})
+        .toStdString();
 }
 
 TEST(InsightTexts, Ages) {
@@ -98,6 +99,8 @@ TEST(InsightTexts, HelpSaysWhyAndWhatToDo) {
     EXPECT_THAT(help(facts, HealthState::Overdue, HealthReason::isTooOld), HasSubstr("3 days old"));
     EXPECT_THAT(help(facts, HealthState::Overdue, HealthReason::missedStart),
                 HasSubstr("the 4 hours"));
+    EXPECT_THAT(help(facts, HealthState::Overdue, HealthReason::missedStart, 1),
+                HasSubstr("the hour in which"));
     EXPECT_THAT(help(facts, HealthState::NotInSync), HasSubstr("Synchronize"));
     EXPECT_THAT(help(facts, HealthState::Recovered), HasSubstr("Edit its items"));
     EXPECT_THAT(help(facts, HealthState::Safe), HasSubstr("by schedule"));

@@ -3,9 +3,14 @@
 
 // When the search line prepares a search, which must not wait for the first key.
 
+#include <QDialogButtonBox>
+#include <QFileDialog>
 #include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
 #include <QStandardItemModel>
 #include <QTableView>
+#include <QTranslator>
 #include <QtTest>
 
 #include "insight/log_search_bar.h"
@@ -42,6 +47,8 @@ class LogSearchBarTest : public QObject {
 private slots:
     void aSearchIsPreparedWhenTheLineGetsTheFocus();
     void andAfterEachRefreshWhileItHasTheFocus();
+    void theNumberOfRowsHasASingular();
+    void theExportDialogIsTranslated();
 };
 
 namespace {
@@ -86,6 +93,37 @@ void LogSearchBarTest::andAfterEachRefreshWhileItHasTheFocus() {
     support::child<QLineEdit>(*window.bar, "editSearch").setFocus();
     window.model.setData(window.model.index(0, 0), QStringLiteral("new"));
     QTRY_COMPARE(window.preparations, 2);
+}
+
+void LogSearchBarTest::theNumberOfRowsHasASingular() {
+    Window window;
+    const auto& count = support::child<QLabel>(*window.bar, "labelCount");
+    QCOMPARE(count.text(), QStringLiteral("3 rows"));
+    window.model.removeRows(1, 2);
+    QCOMPARE(count.text(), QStringLiteral("1 row"));
+}
+
+void LogSearchBarTest::theExportDialogIsTranslated() {
+    /// Marks the texts of the search bar.
+    struct Marking : QTranslator {
+        QString translate(const char* context, const char* text, const char*, int) const override {
+            return QLatin1String(context) == QLatin1String("LogSearchBar")
+                       ? QLatin1Char('*') + QString::fromUtf8(text)
+                       : QString();
+        }
+        bool isEmpty() const override { return false; }
+    };
+    Marking marking;
+    QVERIFY(QCoreApplication::installTranslator(&marking));
+    Window window;
+    support::ModalDriver modals;
+    modals.expect(QStringLiteral("file"), support::isDialog<QFileDialog>, [](QWidget& dialog) {
+        const auto& box = support::child<QDialogButtonBox>(dialog, "buttonBox");
+        QCOMPARE(box.button(QDialogButtonBox::Save)->text(), QStringLiteral("*&Save"));
+        static_cast<QDialog&>(dialog).reject();
+    });
+    support::child<QPushButton>(*window.bar, "buttonExport").click();
+    QVERIFY(modals.done());
 }
 
 QTEST_MAIN(LogSearchBarTest)

@@ -41,6 +41,10 @@ TEST(LogQuery, Keywords) {
     EXPECT_TRUE(parsed("errors").withErrors);
     EXPECT_TRUE(parsed("Fehler").withErrors);
     EXPECT_TRUE(parsed("warnings").withWarnings);
+    // Quotes make a keyword a word.
+    EXPECT_EQ(parsed("\"errors\" \"set:mail").words,
+              (std::vector<std::string>{"errors", "set:mail"}));
+    EXPECT_FALSE(parsed("\"errors\"").withErrors);
     // An incomplete term matches everything while it is being typed.
     EXPECT_TRUE(parsed("set:").isEmpty());
     EXPECT_THAT(parsed("C:\\Data :x").words, ElementsAre("c:\\data", ":x"));

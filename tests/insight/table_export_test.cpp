@@ -13,13 +13,24 @@
 namespace {
 
 std::string line(const QStringList& cells) {
-    return insight::csvLine(cells).toStdString();
+    return insight::csvLine(cells, QLatin1Char(',')).toStdString();
 }
 
 TEST(Csv, CellsAreSeparatedByCommas) {
     EXPECT_EQ(line({QStringLiteral("a"), QString(), QStringLiteral("1")}), "a,,1\r\n");
     EXPECT_EQ(line({QStringLiteral("Größe")}), "Gr\xC3\xB6\xC3\x9F"
                                                "e\r\n");
+}
+
+TEST(Csv, TheLocaleChoosesTheSeparator) {
+    EXPECT_EQ(insight::csvSeparator(QLocale(QLocale::English, QLocale::UnitedStates)),
+              QLatin1Char(','));
+    EXPECT_EQ(insight::csvSeparator(QLocale(QLocale::German, QLocale::Germany)), QLatin1Char(';'));
+    EXPECT_EQ(insight::csvSeparator(QLocale(QLocale::German, QLocale::Switzerland)),
+              QLatin1Char(','));
+    EXPECT_EQ(insight::csvLine({QStringLiteral("a;b"), QStringLiteral("1")}, QLatin1Char(';'))
+                  .toStdString(),
+              "\"a;b\";1\r\n");
 }
 
 TEST(Csv, WhatSeparatesStandsInQuotes) {

@@ -145,6 +145,9 @@ private slots:
     void namesAreNoMarkup();
     void labelsAreSpokenAsShown();
     void theButtonsNameTheSet();
+    void theButtonsNameTheSetToSynchronize();
+    void theButtonsNameTheEvents();
+    void anAttemptWithoutAnEndIsRunning();
     void failedBackupsAreExplained();
     void nextRunsShowOverlaps();
     void aFileIsFoundInAThousandFolders();
@@ -414,6 +417,55 @@ void InsightWindowsTest::theButtonsNameTheSet() {
     QCOMPARE(backup[0][0].value<std::int32_t>(), id);
     QVERIFY(!child<QPushButton>(window, "buttonSync").isEnabled());
     QCOMPARE(sync.size(), 0);
+}
+
+void InsightWindowsTest::theButtonsNameTheSetToSynchronize() {
+    const Session session(Scenario::Failed);
+    Fed fed;
+    BackupHealthWindow window(fed.monitor, everything);
+    window.show();
+    QTRY_VERIFY_WITH_TIMEOUT(!fed.monitor.isReading(), patience);
+    child<QTableView>(window, "tableSets").selectRow(1);
+    QSignalSpy sync(&window, &BackupHealthWindow::syncRequested);
+    QTest::mouseClick(&child<QPushButton>(window, "buttonSync"), Qt::LeftButton);
+    QCOMPARE(sync.size(), 1);
+    QCOMPARE(sync[0][0].value<std::int32_t>(), fed.monitor.rows()[1].facts.info.id);
+}
+
+void InsightWindowsTest::theButtonsNameTheEvents() {
+    const Session session(Scenario::Failed);
+    Fed fed;
+    BackupHealthWindow window(fed.monitor, everything);
+    window.show();
+    QTRY_VERIFY_WITH_TIMEOUT(!fed.monitor.isReading(), patience);
+    std::vector<std::int32_t> requested;
+    connect(
+        &window, &BackupHealthWindow::eventsRequested, this,
+        [&](const insight::BackupAttempt& attempt) { requested.push_back(attempt.activityId); });
+    auto& table = child<QTableView>(window, "tableSets");
+    const auto showEventsOf = [&](std::string_view set) {
+        table.selectRow(column(table, BackupHealthModel::name).indexOf(name(set)));
+        QTest::mouseClick(&child<QPushButton>(window, "buttonEvents"), Qt::LeftButton);
+    };
+    showEventsOf(simulator::health::withErrors);
+    showEventsOf("Music"); // never backed up
+    const auto backup = session::getConnection()
+                            ->backup_set(idNamed(fed.monitor, simulator::health::withErrors))
+                            ->getLastActivityOfType(hessiancln::ActivityType::Backup);
+    QVERIFY(backup.id > 0);
+    QCOMPARE(requested, (std::vector<std::int32_t>{backup.id, 0}));
+}
+
+void InsightWindowsTest::anAttemptWithoutAnEndIsRunning() {
+    BackupHealthModel model;
+    std::vector<insight::HealthRow> rows(1);
+    rows.front().facts.lastAttempt = insight::BackupAttempt{7, 1'700'000'000, 0, 0, 0};
+    model.setRecords(rows);
+    const auto attempt = model.index(0, BackupHealthModel::lastAttempt);
+    QVERIFY(attempt.data().toString().endsWith(QStringLiteral(": running")));
+    rows.front().facts.lastAttempt->end = 1'700'000'600;
+    model.setRecords(rows);
+    QVERIFY(attempt.data().toString().endsWith(QStringLiteral(": no errors")));
 }
 
 void InsightWindowsTest::failedBackupsAreExplained() {

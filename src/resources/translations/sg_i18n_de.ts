@@ -248,6 +248,10 @@
         <translation>Unbekannt</translation>
     </message>
     <message>
+        <source>running</source>
+        <translation>läuft</translation>
+    </message>
+    <message>
         <source>Never</source>
         <translation>Nie</translation>
     </message>
@@ -2423,6 +2427,10 @@ Möchten Sie den Sicherungssatz entfernen?</translation>
         <translation>Die letzte Sicherung ist nicht gelungen. Sehen Sie sich die Ereignisse an, beheben Sie die Ursache und sichern Sie erneut.</translation>
     </message>
     <message>
+        <source>The last scheduled backup did not run, and the hour in which the agent makes up for it is over. Back up now, and check whether the computer is on at the scheduled time.</source>
+        <translation>Die letzte geplante Sicherung ist ausgefallen, und die Stunde, in der der Agent sie nachholt, ist vorbei. Sichern Sie jetzt, und prüfen Sie, ob der Computer zur geplanten Zeit eingeschaltet ist.</translation>
+    </message>
+    <message>
         <source>The last scheduled backup did not run, and the %1 hours in which the agent makes up for it are over. Back up now, and check whether the computer is on at the scheduled time.</source>
         <translation>Die letzte geplante Sicherung ist ausgefallen, und die %1 Stunden, in denen der Agent sie nachholt, sind vorbei. Sichern Sie jetzt, und prüfen Sie, ob der Computer zur geplanten Zeit eingeschaltet ist.</translation>
     </message>
@@ -2763,6 +2771,14 @@ Möchten Sie den Sicherungssatz entfernen?</translation>
     <message>
         <source>E&amp;xport...</source>
         <translation>E&amp;xportieren...</translation>
+    </message>
+    <message>
+        <source>1 row</source>
+        <translation>1 Zeile</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
     </message>
     <message>
         <source>%1 rows</source>
