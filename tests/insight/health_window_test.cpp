@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The windows with a simulated agent: their calls, and what they show.
+// The health window with a simulated agent: its calls, and what it shows.
 
 #include <optional>
 
@@ -21,48 +21,16 @@
 #include "session/connection.h"
 #include "simulator/world/health_scenarios.h"
 #include "simulator/world/world.h"
-#include "tests/support/gui_agent.h"
+#include "tests/insight/session_of_windows.h"
 #include "tests/support/gui_modal_driver.h"
 #include "ui/branding_resources.h"
 #include "ui/size_text.h"
-#include "wizards/select_generation_dlg.h"
-
-Q_DECLARE_METATYPE(std::optional<std::int32_t>)
 
 namespace {
 
 using simulator::Scenario;
 using support::child;
-
-constexpr int patience = 60'000;
-
-/// An agent with a session of the client.
-struct Session {
-    explicit Session(Scenario scenario)
-        : agent({.scenario = scenario}) {
-        session::connectToAgent("127.0.0.1:4411", "", "", 0);
-        agent.clearCallLog();
-    }
-    ~Session() { support::resetSession(); }
-
-    std::vector<std::string> methods() const {
-        std::vector<std::string> list;
-        for (const auto& call : agent.callLog())
-            if (call.method != "Release")
-                list.push_back(call.method);
-        return list;
-    }
-
-    /// References to views that the client holds.
-    int views() const {
-        const auto held = agent.liveObjects();
-        return static_cast<int>(std::count_if(held.begin(), held.end(), [](const auto& object) {
-            return object.rfind("BackupSetRestoreView ", 0) == 0;
-        }));
-    }
-
-    support::GuiAgent agent;
-};
+using namespace insight_windows;
 
 /// The monitor, fed as by the main window.
 class Fed {
@@ -79,13 +47,6 @@ public:
 
     insight::HealthMonitor monitor;
 };
-
-/// A slice that was due would have run before.
-void letTimersFire() {
-    bool fired = false;
-    QTimer::singleShot(0, [&fired] { fired = true; });
-    QTRY_VERIFY(fired);
-}
 
 const insight::HealthRow& rowOf(const insight::HealthMonitor& monitor, std::int32_t id) {
     return *std::find_if(monitor.rows().begin(), monitor.rows().end(),
@@ -106,31 +67,28 @@ BackupHealthWindow::Allowed everything(const insight::HealthRow&) {
     return {true, true};
 }
 
-QString cell(const QTableView& table, int row, int column) {
-    return table.model()->index(row, column).data().toString();
-}
+/// The window, shown until all sets have been read.
+struct OpenWindow {
+    explicit OpenWindow(Scenario scenario)
+        : session(scenario) {
+        window.show();
+        QTRY_VERIFY_WITH_TIMEOUT(!fed.monitor.isReading(), patience);
+    }
 
-QStringList column(const QTableView& table, int number) {
-    QStringList texts;
-    for (int row = 0; row < table.model()->rowCount(); ++row)
-        texts.append(cell(table, row, number));
-    return texts;
-}
-
-QString name(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
-}
+    Session session;
+    Fed fed;
+    BackupHealthWindow window{fed.monitor, everything};
+};
 
 } // namespace
 
-class InsightWindowsTest : public QObject {
+class HealthWindowTest : public QObject {
     Q_OBJECT
 private slots:
     void initTestCase() {
         resources::initPictures();
         ui::g_branding.load();
         qRegisterMetaType<std::int32_t>("std::int32_t");
-        qRegisterMetaType<std::optional<std::int32_t>>("std::optional<std::int32_t>");
     }
 
     void setsStandWorstFirst();
@@ -150,14 +108,11 @@ private slots:
     void anAttemptWithoutAnEndIsRunning();
     void failedBackupsAreExplained();
     void nextRunsShowOverlaps();
-    void aFileIsFoundInAThousandFolders();
-    void aSearchIsCancelledAtOnce();
-    void aGenerationLeadsToItsRestore();
     void rowsAreCopied();
     void aFilterHoldsRecordsBack();
 };
 
-void InsightWindowsTest::setsStandWorstFirst() {
+void HealthWindowTest::setsStandWorstFirst() {
     Session session(Scenario::Overdue);
     Fed fed;
     // Until the schedules are read, it isn't known whether a backup is overdue.
@@ -194,7 +149,7 @@ void InsightWindowsTest::setsStandWorstFirst() {
     QVERIFY(child<QLabel>(window, "labelHelp").text().contains(QStringLiteral("scheduled time")));
 }
 
-void InsightWindowsTest::schedulesAreReadOnceAndAgainWhenASetChanges() {
+void HealthWindowTest::schedulesAreReadOnceAndAgainWhenASetChanges() {
     Session session(Scenario::Overdue);
     Fed fed;
     session.agent.clearCallLog();
@@ -225,7 +180,7 @@ void InsightWindowsTest::schedulesAreReadOnceAndAgainWhenASetChanges() {
     QCOMPARE(std::count(methods.begin(), methods.end(), "getSchedule"), 1);
 }
 
-void InsightWindowsTest::readingCanBeCancelled() {
+void HealthWindowTest::readingCanBeCancelled() {
     Session session(Scenario::Large);
     insight::HealthMonitor monitor(session::getConnection,
                                    [] { return QDateTime::currentSecsSinceEpoch(); });
@@ -242,7 +197,7 @@ void InsightWindowsTest::readingCanBeCancelled() {
     QCOMPARE(session.methods(), std::vector<std::string>());
 }
 
-void InsightWindowsTest::anotherSessionStartsWithNothing() {
+void HealthWindowTest::anotherSessionStartsWithNothing() {
     std::optional<Session> session(std::in_place, Scenario::Overdue);
     Fed fed;
     fed.monitor.watch();
@@ -261,7 +216,7 @@ void InsightWindowsTest::anotherSessionStartsWithNothing() {
     QCOMPARE(fed.monitor.healthClock().missedHours, 0);
 }
 
-void InsightWindowsTest::aCancelledSetLeavesNoScheduleToTheNext() {
+void HealthWindowTest::aCancelledSetLeavesNoScheduleToTheNext() {
     Session session(Scenario::Overdue);
     const auto sets = session::getConnection()->backup_sets_info();
     const auto first = std::find_if(sets.begin(), sets.end(), insight::isScheduled);
@@ -287,7 +242,7 @@ void InsightWindowsTest::aCancelledSetLeavesNoScheduleToTheNext() {
     QVERIFY(!reader.detailsOf(first->id));
 }
 
-void InsightWindowsTest::aChangedScheduleNoLongerJudges() {
+void HealthWindowTest::aChangedScheduleNoLongerJudges() {
     Session session(Scenario::Overdue);
     Fed fed;
     fed.monitor.watch();
@@ -303,7 +258,7 @@ void InsightWindowsTest::aChangedScheduleNoLongerJudges() {
     QCOMPARE(fed.monitor.count(), (insight::HealthCount{5, 0, 2}));
 }
 
-void InsightWindowsTest::theLogsPeriodChangesNoHealth() {
+void HealthWindowTest::theLogsPeriodChangesNoHealth() {
     const Session session(Scenario::Failed);
     Fed fed;
     const std::int32_t id = idNamed(fed.monitor, simulator::health::withErrors);
@@ -322,7 +277,7 @@ void InsightWindowsTest::theLogsPeriodChangesNoHealth() {
     QCOMPARE(rowOf(fed.monitor, id).health.state, insight::HealthState::Failed);
 }
 
-void InsightWindowsTest::aHiddenWindowIsFilledWhenItIsShown() {
+void HealthWindowTest::aHiddenWindowIsFilledWhenItIsShown() {
     const Session session(Scenario::Failed);
     Fed fed;
     BackupHealthWindow window(fed.monitor, everything);
@@ -338,12 +293,11 @@ void InsightWindowsTest::aHiddenWindowIsFilledWhenItIsShown() {
     QCOMPARE(table.model()->rowCount(), 0);
 }
 
-void InsightWindowsTest::theSelectionFollowsItsSet() {
-    Session session(Scenario::Failed);
-    Fed fed;
-    BackupHealthWindow window(fed.monitor, everything);
-    window.show();
-    QTRY_VERIFY_WITH_TIMEOUT(!fed.monitor.isReading(), patience);
+void HealthWindowTest::theSelectionFollowsItsSet() {
+    OpenWindow open(Scenario::Failed);
+    Session& session = open.session;
+    Fed& fed = open.fed;
+    BackupHealthWindow& window = open.window;
     const auto& table = child<QTableView>(window, "tableSets");
     QCOMPARE(table.selectionModel()->selectedRows().first().row(), 0);
     const auto worst = fed.monitor.rows().front().facts.info;
@@ -365,7 +319,7 @@ void InsightWindowsTest::theSelectionFollowsItsSet() {
     QCOMPARE(table.selectionModel()->selectedRows().first().row(), 0);
 }
 
-void InsightWindowsTest::namesAreNoMarkup() {
+void HealthWindowTest::namesAreNoMarkup() {
     WeekPicture picture;
     picture.resize(700, 400);
     picture.show();
@@ -386,12 +340,10 @@ void InsightWindowsTest::namesAreNoMarkup() {
     QCOMPARE(find.findChild<QLabel*>(QStringLiteral("labelProgress"))->textFormat(), Qt::PlainText);
 }
 
-void InsightWindowsTest::labelsAreSpokenAsShown() {
-    const Session session(Scenario::Failed);
-    Fed fed;
-    BackupHealthWindow health(fed.monitor, everything);
-    health.show();
-    QTRY_VERIFY_WITH_TIMEOUT(!fed.monitor.isReading(), patience);
+void HealthWindowTest::labelsAreSpokenAsShown() {
+    OpenWindow open(Scenario::Failed);
+    Fed& fed = open.fed;
+    BackupHealthWindow& health = open.window;
     QCOMPARE(spoken(child<QLabel>(health, "labelSummary")),
              std::string("3 of 5 sets need attention"));
     QVERIFY(spoken(child<QLabel>(health, "labelHelp")).find("Back up now") != std::string::npos);
@@ -402,7 +354,7 @@ void InsightWindowsTest::labelsAreSpokenAsShown() {
     QCOMPARE(spoken(child<QLabel>(find, "labelProgress")), std::string("1 file found"));
 }
 
-void InsightWindowsTest::theButtonsNameTheSet() {
+void HealthWindowTest::theButtonsNameTheSet() {
     Session session(Scenario::Failed);
     Fed fed;
     BackupHealthWindow window(fed.monitor, [](const insight::HealthRow& row) {
@@ -419,12 +371,10 @@ void InsightWindowsTest::theButtonsNameTheSet() {
     QCOMPARE(sync.size(), 0);
 }
 
-void InsightWindowsTest::theButtonsNameTheSetToSynchronize() {
-    const Session session(Scenario::Failed);
-    Fed fed;
-    BackupHealthWindow window(fed.monitor, everything);
-    window.show();
-    QTRY_VERIFY_WITH_TIMEOUT(!fed.monitor.isReading(), patience);
+void HealthWindowTest::theButtonsNameTheSetToSynchronize() {
+    OpenWindow open(Scenario::Failed);
+    Fed& fed = open.fed;
+    BackupHealthWindow& window = open.window;
     child<QTableView>(window, "tableSets").selectRow(1);
     QSignalSpy sync(&window, &BackupHealthWindow::syncRequested);
     QTest::mouseClick(&child<QPushButton>(window, "buttonSync"), Qt::LeftButton);
@@ -432,12 +382,10 @@ void InsightWindowsTest::theButtonsNameTheSetToSynchronize() {
     QCOMPARE(sync[0][0].value<std::int32_t>(), fed.monitor.rows()[1].facts.info.id);
 }
 
-void InsightWindowsTest::theButtonsNameTheEvents() {
-    const Session session(Scenario::Failed);
-    Fed fed;
-    BackupHealthWindow window(fed.monitor, everything);
-    window.show();
-    QTRY_VERIFY_WITH_TIMEOUT(!fed.monitor.isReading(), patience);
+void HealthWindowTest::theButtonsNameTheEvents() {
+    OpenWindow open(Scenario::Failed);
+    Fed& fed = open.fed;
+    BackupHealthWindow& window = open.window;
     std::vector<std::int32_t> requested;
     connect(
         &window, &BackupHealthWindow::eventsRequested, this,
@@ -456,7 +404,7 @@ void InsightWindowsTest::theButtonsNameTheEvents() {
     QCOMPARE(requested, (std::vector<std::int32_t>{backup.id, 0}));
 }
 
-void InsightWindowsTest::anAttemptWithoutAnEndIsRunning() {
+void HealthWindowTest::anAttemptWithoutAnEndIsRunning() {
     BackupHealthModel model;
     std::vector<insight::HealthRow> rows(1);
     rows.front().facts.lastAttempt = insight::BackupAttempt{7, 1'700'000'000, 0, 0, 0};
@@ -468,12 +416,10 @@ void InsightWindowsTest::anAttemptWithoutAnEndIsRunning() {
     QVERIFY(attempt.data().toString().endsWith(QStringLiteral(": no errors")));
 }
 
-void InsightWindowsTest::failedBackupsAreExplained() {
-    Session session(Scenario::Failed);
-    Fed fed;
-    BackupHealthWindow window(fed.monitor, everything);
-    window.show();
-    QTRY_VERIFY_WITH_TIMEOUT(!fed.monitor.isReading(), patience);
+void HealthWindowTest::failedBackupsAreExplained() {
+    OpenWindow open(Scenario::Failed);
+    Fed& fed = open.fed;
+    BackupHealthWindow& window = open.window;
     auto& table = child<QTableView>(window, "tableSets");
     QCOMPARE(
         column(table, BackupHealthModel::state),
@@ -490,12 +436,9 @@ void InsightWindowsTest::failedBackupsAreExplained() {
     QCOMPARE(table.selectionModel()->selectedRows().first().row(), row);
 }
 
-void InsightWindowsTest::nextRunsShowOverlaps() {
-    Session session(Scenario::Overlapping);
-    Fed fed;
-    BackupHealthWindow window(fed.monitor, everything);
-    window.show();
-    QTRY_VERIFY_WITH_TIMEOUT(!fed.monitor.isReading(), patience);
+void HealthWindowTest::nextRunsShowOverlaps() {
+    OpenWindow open(Scenario::Overlapping);
+    BackupHealthWindow& window = open.window;
     const auto& runs = child<QTableView>(window, "tableRuns");
     const QStringList sets = column(runs, NextRunsModel::set);
     // Every evening, six times on each workday, and three times on two nights of the week.
@@ -527,81 +470,7 @@ void InsightWindowsTest::nextRunsShowOverlaps() {
     QVERIFY(picture.grab().toImage() != first);
 }
 
-void InsightWindowsTest::aFileIsFoundInAThousandFolders() {
-    Session session(Scenario::ManyFolders);
-    FindFileWindow window(session::getConnection);
-    window.setSetNames({{1, "Archive"}});
-    window.show();
-    QVERIFY(!child<QPushButton>(window, "buttonFind").isEnabled());
-    child<QLineEdit>(window, "editName").setText(QStringLiteral("needle*.odt"));
-    QTest::mouseClick(&child<QPushButton>(window, "buttonFind"), Qt::LeftButton);
-    QTRY_VERIFY_WITH_TIMEOUT(!window.isSearching(), patience);
-    const auto& table = child<QTableView>(window, "tableFound");
-    QCOMPARE(column(table, FoundFilesModel::name), QStringList(name(simulator::health::needle)));
-    QCOMPARE(cell(table, 0, FoundFilesModel::folder),
-             QStringLiteral("D:\\Archive\\Year 2019\\Case 98"));
-    QCOMPARE(cell(table, 0, FoundFilesModel::generations), QStringLiteral("1"));
-    QCOMPARE(cell(table, 0, FoundFilesModel::set), QStringLiteral("Archive"));
-    const auto methods = session.methods();
-    QCOMPARE(std::count(methods.begin(), methods.end(), "prepare_restore"), 1);
-    // The top level, the drive, the set's folder, and its content.
-    QCOMPARE(std::count(methods.begin(), methods.end(), "getSubItems"),
-             static_cast<std::ptrdiff_t>(simulator::health::folders + 3));
-    QCOMPARE(session.views(), 0);
-}
-
-void InsightWindowsTest::aSearchIsCancelledAtOnce() {
-    Session session(Scenario::ManyFolders);
-    FindFileWindow window(session::getConnection);
-    window.setSetNames({{1, "Archive"}});
-    window.show();
-    child<QLineEdit>(window, "editName").setText(QStringLiteral("letter"));
-    QTest::mouseClick(&child<QPushButton>(window, "buttonFind"), Qt::LeftButton);
-    QTRY_VERIFY_WITH_TIMEOUT(child<QTableView>(window, "tableFound").model()->rowCount() > 0,
-                             patience);
-    QVERIFY(window.isSearching());
-    QTest::mouseClick(&child<QPushButton>(window, "buttonCancel"), Qt::LeftButton);
-    QVERIFY(!window.isSearching());
-    QVERIFY(child<QLabel>(window, "labelProgress").text().startsWith(QStringLiteral("Cancelled")));
-    QTRY_COMPARE(session.views(), 0);
-    session.agent.clearCallLog();
-    letTimersFire();
-    QCOMPARE(session.methods(), std::vector<std::string>());
-}
-
-void InsightWindowsTest::aGenerationLeadsToItsRestore() {
-    Session session(Scenario::Generations);
-    FindFileWindow window(session::getConnection);
-    window.setSetNames({{1, "Two years of generations"}});
-    window.show();
-    QSignalSpy restore(&window, &FindFileWindow::restoreRequested);
-    child<QLineEdit>(window, "editName").setText(QStringLiteral("diary"));
-    QTest::mouseClick(&child<QPushButton>(window, "buttonFind"), Qt::LeftButton);
-    QTRY_VERIFY_WITH_TIMEOUT(!window.isSearching(), patience);
-    auto& table = child<QTableView>(window, "tableFound");
-    QCOMPARE(table.model()->rowCount(), 1);
-    table.selectRow(0);
-    const QStringList path{QStringLiteral("C:"), QStringLiteral("Users"), QStringLiteral("ann"),
-                           QStringLiteral("Diary.odt")};
-    QTest::mouseClick(&child<QPushButton>(window, "buttonRestore"), Qt::LeftButton);
-    QCOMPARE(restore.size(), 1);
-    QCOMPARE(restore[0][1].toStringList(), path);
-
-    support::ModalDriver modals;
-    modals.expect(QStringLiteral("generations"), support::isDialog<SelectGenerationDlg>,
-                  [](QWidget& dialog) {
-                      child<QTableView>(dialog, "listGenerations").selectRow(2);
-                      child<QPushButton>(dialog, "buttonSelect").click();
-                  });
-    QTest::mouseClick(&child<QPushButton>(window, "buttonGenerations"), Qt::LeftButton);
-    QVERIFY(modals.done());
-    QCOMPARE(restore.size(), 2);
-    QCOMPARE(restore[1][1].toStringList(), path);
-    QVERIFY(restore[1][2].value<std::optional<std::int32_t>>());
-    QCOMPARE(session.views(), 0);
-}
-
-void InsightWindowsTest::rowsAreCopied() {
+void HealthWindowTest::rowsAreCopied() {
     Session session(Scenario::Failed);
     Fed fed;
     BackupHealthWindow window(fed.monitor, everything);
@@ -616,7 +485,7 @@ void InsightWindowsTest::rowsAreCopied() {
     QVERIFY(QGuiApplication::clipboard()->mimeData()->hasHtml());
 }
 
-void InsightWindowsTest::aFilterHoldsRecordsBack() {
+void HealthWindowTest::aFilterHoldsRecordsBack() {
     BackupHealthModel model;
     const QAbstractItemModelTester tester(&model,
                                           QAbstractItemModelTester::FailureReportingMode::QtTest);
@@ -655,5 +524,5 @@ void InsightWindowsTest::aFilterHoldsRecordsBack() {
     QCOMPARE(model.rowOf(0), 0);
 }
 
-QTEST_MAIN(InsightWindowsTest)
-#include "windows_test.moc"
+QTEST_MAIN(HealthWindowTest)
+#include "health_window_test.moc"
