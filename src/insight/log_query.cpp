@@ -52,6 +52,18 @@ bool takeTerm(const QString& token, QLatin1String english, const QString& transl
     return true;
 }
 
+/// Adds what a keyword asks for to `query`; false for any other token.
+bool takeKeyword(const QString& token, const LogKeywords& keywords, LogQuery& query) {
+    if (isKeyword(token, QLatin1String("errors"), keywords.errors))
+        query.withErrors = true;
+    else if (isKeyword(token, QLatin1String("warnings"), keywords.warnings))
+        query.withWarnings = true;
+    else
+        return takeTerm(token, QLatin1String("set"), keywords.set, query.sets) ||
+               takeTerm(token, QLatin1String("type"), keywords.type, query.types);
+    return true;
+}
+
 } // namespace
 
 bool LogQuery::isEmpty() const {
@@ -71,14 +83,7 @@ LogKeywords LogKeywords::translated() {
 LogQuery parseLogQuery(const QString& text, const LogKeywords& keywords) {
     LogQuery query;
     for (const auto& [token, isWord] : tokensOf(text))
-        if (isWord)
-            query.words.push_back(folded(token));
-        else if (isKeyword(token, QLatin1String("errors"), keywords.errors))
-            query.withErrors = true;
-        else if (isKeyword(token, QLatin1String("warnings"), keywords.warnings))
-            query.withWarnings = true;
-        else if (!takeTerm(token, QLatin1String("set"), keywords.set, query.sets) &&
-                 !takeTerm(token, QLatin1String("type"), keywords.type, query.types))
+        if (isWord || !takeKeyword(token, keywords, query))
             query.words.push_back(folded(token));
     return query;
 }
