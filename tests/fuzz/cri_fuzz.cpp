@@ -45,6 +45,7 @@ std::vector<std::string> linesOf(std::string_view bytes, QIODevice::OpenMode mod
         const auto line = std::string(nameOf(entry.key)) + "=" + session::toWire(entry.value);
         fuzz::require(line.find('\n') == std::string::npos, "an entry is of one line");
         lines.push_back(line);
+        return true;
     });
     return lines;
 }
@@ -56,8 +57,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto lines = linesOf(fuzz::asText(data, size), QIODevice::Text);
     std::string again;
     for (const std::string& line : lines) {
-        // Invalid UTF-8 gets longer when it is replaced.
-        if (line.size() + 1 >= static_cast<std::size_t>(config::longestCriLine))
+        // Latin-1 gets longer as UTF-8.
+        if (line.size() + 1 >= static_cast<std::size_t>(config::longestLine))
             return 0;
         again += line + "\n";
     }
