@@ -15,22 +15,21 @@ namespace config {
 inline constexpr qint64 largestChosenFile = qint64(1024) * 1024;
 inline constexpr qint64 longestLine = qint64(64) * 1024; ///< with its end
 
-/// What became of the lines of a file; those without a letter aren't counted.
+/// Counts of the lines of a file, without blank ones.
 struct LinesRead {
     int taken = 0;
     int skipped = 0;
 };
 
-/// The first of the names that ends so, in whatever case; empty if none does.
+/// The first name with this ending, ignoring case; empty if there is no such name.
 QString firstFileEndingIn(QLatin1String ending, const QStringList& names);
 
-/// Opens a file for reading; false if that fails. Raises `std::runtime_error`, in words for the
-/// user, on what isn't a regular file, which might never end, on a file that is larger than
-/// `largestChosenFile`, and on a line that is longer than `longestLine`. What was read to find out
-/// has been wiped.
+/// Opens a file for reading; false if that fails. Throws `std::runtime_error`, with a text for the
+/// user, unless it is a regular file of at most `largestChosenFile` bytes whose lines have at most
+/// `longestLine` bytes. Wipes what it reads for these checks.
 bool openChosen(QFile& file, QIODevice::OpenMode mode);
 
-/// In UTF-8, or in Latin-1 if the bytes aren't UTF-8.
+/// Decodes UTF-8, or Latin-1 if the bytes aren't valid UTF-8.
 QString textOfLine(std::string_view bytes);
 bool isUtf8(std::string_view bytes);
 

@@ -11,9 +11,8 @@
 
 class QIODevice;
 
-/// Customer registration files: what a service provider hands out for the registration of an
-/// agent. One line for each thing, its key and its value with a "=" between them, in UTF-8, or in
-/// Latin-1 where a line isn't UTF-8.
+/// Customer registration files, which service providers issue for the registration of an agent.
+/// Each line is a key, a "=" and a value, in UTF-8, or in Latin-1 if the line isn't valid UTF-8.
 namespace config {
 
 enum class CriKey {
@@ -32,12 +31,12 @@ struct CriEntry {
     QString value; ///< may be an encryption key
 };
 
-/// What a line says; none if it has no "=" or its key is unknown.
+/// The entry in a line. No value without a "=" or with an unknown key.
 std::optional<CriEntry> criEntryOf(const QString& line);
 
-/// Hands over what the lines say, in their order, to `take`, which says whether it took it. A line
-/// that is longer than `longestLine` is passed over. `file` is open for reading, as text, and
-/// unbuffered if none of it is to stay in memory: what this function has read is wiped.
+/// Passes the entries, in their order, to `take`, which returns whether it took them. Skips lines
+/// longer than `longestLine`. `file` is open for reading, as text. This function wipes what it has
+/// read; open `file` unbuffered if nothing may stay in memory.
 LinesRead readCri(QIODevice& file, const std::function<bool(const CriEntry&)>& take);
 
 /// The cipher name for a number in such a file, which is one more than on the wire.

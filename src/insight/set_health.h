@@ -26,7 +26,7 @@ enum class HealthReason {
     missedStart, ///< the last start was missed by more than the agent's limit for missed schedules
 };
 
-/// A backup; its end is 0 while it is running.
+/// A backup. The end of a running one is 0.
 struct BackupAttempt {
     std::int32_t activityId = 0;
     std::int64_t start = 0;

@@ -43,7 +43,7 @@ struct StoredItems;
 } // namespace wizards
 
 /// What a backup set holds: which kinds of file, and from where. The agent stores no kinds of file,
-/// only paths and filters; file_type_expressions.h tells how the one becomes the other.
+/// only paths and filters; file_type_expressions.h converts between them.
 class ItemsSelectPage : public QWizardPage, public ui::GrowingPage {
     Q_OBJECT
 public:

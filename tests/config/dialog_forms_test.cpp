@@ -371,7 +371,7 @@ void DialogFormsTest::passwordsAreNeverTold() {
 }
 
 void DialogFormsTest::fieldsAreFilledAndWipedWithoutAWord() {
-    // Nobody listens in a test, but whoever did would have been replaced meanwhile.
+    // There are no listeners in a test, but any would have been replaced meanwhile.
     ui::SecretField field;
     const QAccessible::UpdateHandler telling = [](QAccessibleEvent*) {};
     const QAccessible::UpdateHandler before = QAccessible::installUpdateHandler(telling);

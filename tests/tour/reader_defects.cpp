@@ -88,7 +88,7 @@ QWidget* widgetAt(QLayoutItem* item) {
     return item ? item->widget() : nullptr;
 }
 
-/// The field that stands behind a label in the same row of a layout.
+/// The field that follows a label in the same row of a layout.
 const QWidget* fieldBehind(const QLabel& label) {
     for (const auto* layout : label.parentWidget()->findChildren<QLayout*>()) {
         const int index = layout->indexOf(const_cast<QLabel*>(&label));
