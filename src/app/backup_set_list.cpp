@@ -74,13 +74,13 @@ std::vector<hessiancln::backup_set_info> BackupSetList::records() const {
     std::vector<hessiancln::backup_set_info> records;
     records.reserve(static_cast<std::size_t>(count()));
     for (int row = 0; row < count(); ++row)
-        records.push_back(cardAt(row)->record());
+        records.push_back(rows_.set(row));
     return records;
 }
 
 bool BackupSetList::selectSet(std::int32_t setId) {
     for (int row = 0; row < count(); ++row)
-        if (cardAt(row)->record().id == setId) {
+        if (rows_.set(row).id == setId) {
             select(row);
             return true;
         }

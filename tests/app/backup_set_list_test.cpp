@@ -137,6 +137,20 @@ private slots:
         QCOMPARE(shown.highlighted().size(), 1);
     }
 
+    void setsWithoutACardAreKnownAndSelected() {
+        ShownList shown;
+        for (std::int32_t id = 0; id < 500; ++id)
+            shown.sets.push_back(fileSet(id));
+        QVERIFY(shown.list.rebuild());
+        const auto records = shown.list.records();
+        QCOMPARE(records.size(), std::size_t(500));
+        QCOMPARE(records.at(499).name, std::string("Set 499"));
+        QVERIFY(shown.list.selectSet(400));
+        QCOMPARE(shown.selectedId(), 400);
+        QVERIFY(!shown.list.selectSet(500));
+        QCOMPARE(shown.selectedId(), 400);
+    }
+
     void cardsComeWithALargerView() {
         ShownList shown;
         for (std::int32_t id = 0; id < 100; ++id)

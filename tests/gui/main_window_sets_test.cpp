@@ -86,6 +86,7 @@ private slots:
     void withoutASelectionTheListStaysWhereItIs();
     void surplusCardsGo();
     void aRowKeepsItsCard();
+    void manySetsAreListed();
     void aNewSetIsSelectedOnceItIsListed();
     void restoreNeedsWhatWasBackedUp();
     void aRunningActivityHoldsTheSet();
@@ -252,6 +253,23 @@ void MainWindowSetsTest::aRowKeepsItsCard() {
     driver_->beat();
     QCOMPARE(&driver_->card(1), card);
     QCOMPARE(driver_->cards(), cardsOf(*agent_));
+}
+
+void MainWindowSetsTest::manySetsAreListed() {
+    agent_->withWorld([](World& world) {
+        for (int i = 0; i < 300; ++i) {
+            simulator::BackupSetState added;
+            added.info.name = "Set " + std::to_string(i);
+            world.addSet(added);
+        }
+    });
+    driver_->beat();
+    const int last = driver_->sets().model()->rowCount() - 1;
+    QVERIFY(last >= 300);
+    driver_->sets().selectRow(last);
+    QCOMPARE(child<QLabel>(driver_->card(last), "labelSetName").text(), QStringLiteral("Set 299"));
+    driver_->beat();
+    QCOMPARE(driver_->selectedRow(), last);
 }
 
 void MainWindowSetsTest::aNewSetIsSelectedOnceItIsListed() {
