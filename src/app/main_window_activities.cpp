@@ -13,6 +13,7 @@
 #include "app/status_link.h"
 #include "app/tray_presence.h"
 #include "session/connection.h"
+#include "ui/later.h"
 #include "ui/locale_text.h"
 #include "ui_simple_gui_main_window.h"
 
@@ -89,12 +90,13 @@ void SimpleGUIMainWindow::sysTrayActivated(QSystemTrayIcon::ActivationReason rea
 
 void SimpleGUIMainWindow::sysTrayMessageClicked() {
     tray_->endReminder();
-    showLastNews();
+    // The desktop reports the click even during a call.
+    ui::later(*this, [this] { showLastNews(); });
 }
 
 void SimpleGUIMainWindow::showLastNews() {
     // Over a dialog there is no room for another one.
-    if (!tray_->lastNews() || !session::connectedToAgent() || QApplication::activeModalWidget())
+    if (!tray_->lastNews() || QApplication::activeModalWidget() || !session::connectedToAgent())
         return;
     showMainWindow();
     showEventsOf(tray_->lastNews());

@@ -17,6 +17,7 @@
 #include "app/login_check.h"
 #include "app/set_details_panel.h"
 #include "app/simple_gui_main_window.h"
+#include "app/tray_presence.h"
 #include "config/init_clnt_cfg_dlg.h"
 #include "session/connection.h"
 #include "session/integrated_logon.h"
@@ -79,6 +80,7 @@ void SimpleGUIMainWindow::OnDisconnect() {
 
 void SimpleGUIMainWindow::showNoSession() {
     connection_->end();
+    tray_->forgetNews();
     setWindowTitle(tr("Ostrand Backup"));
     showStatus(tr("Current connection terminated"));
     updateEnabling();

@@ -50,6 +50,8 @@ public:
     void announceEnd(const hessiancln::activity_log_info& ended, const QString& text);
     /// The activity of the last balloon, if that was about an end.
     const std::optional<hessiancln::activity_log_info>& lastNews() const { return lastNews_; }
+    /// The session that the news came from has ended.
+    void forgetNews() { lastNews_.reset(); }
     /// Shows a balloon saying where the window has gone, until `endReminder`.
     void remind();
     void endReminder() { showReminder_ = false; }

@@ -4,8 +4,10 @@
 // What the main window shows about the safety of data, beyond its tables.
 
 #include <set>
+#include <utility>
 
 #include <QAccessible>
+#include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
@@ -27,6 +29,7 @@
 #include <QTreeView>
 #include <QWizard>
 
+#include "app/call_gate.h"
 #include "app/event_log_viewer.h"
 #include "insight/backup_health_window.h"
 #include "insight/find_file_window.h"
@@ -35,13 +38,16 @@
 #include "simulator/world/world.h"
 #include "tests/support/gui_main_window.h"
 #include "tests/support/gui_modal_driver.h"
+#include "tests/support/gui_wait.h"
 #include "tests/support/gui_wizard.h"
 #include "wizards/select_generation_dlg.h"
 
 using simulator::Scenario;
 using simulator::World;
+using namespace std::chrono_literals;
 using support::child;
 using support::GuiAgent;
+using support::InTheWait;
 using support::isDialog;
 using support::MainWindowDriver;
 using support::methodsOf;
@@ -69,6 +75,16 @@ void waitForEnd(GuiAgent& agent) {
         });
         return !running;
     }());
+}
+
+/// A backup ends with three errors while the window is hidden, and the tray announces it.
+void announceErrors(MainWindowDriver& driver, GuiAgent& agent) {
+    driver.window().hide();
+    agent.withWorld([](World& world) { runOnce(world, hessiancln::ActivityType::Backup, 3); });
+    driver.beat();
+    driver.beat();
+    waitForEnd(agent);
+    driver.beat();
 }
 
 } // namespace
@@ -161,12 +177,7 @@ private slots:
         GuiAgent agent({.scenario = Scenario::Failed});
         MainWindowDriver driver;
         driver.logIn(agent);
-        driver.window().hide();
-        agent.withWorld([](World& world) { runOnce(world, hessiancln::ActivityType::Backup, 3); });
-        driver.beat();
-        driver.beat();
-        waitForEnd(agent);
-        driver.beat();
+        announceErrors(driver, agent);
         QCOMPARE(driver.tray().warnings.size(), 1);
         QCOMPARE(driver.tray().warnings.first().second,
                  QStringLiteral("Backup of 'Documents' ended with 3 errors"));
@@ -178,12 +189,50 @@ private slots:
             QVERIFY(child<QTableView>(dialog, "tableEvents").model()->rowCount() >= 3);
             child<QPushButton>(dialog, "buttonClose").click();
         });
-        driver.window().sysTrayMessageClicked();
+        emit driver.tray().messageClicked();
+        QCoreApplication::processEvents();
         QVERIFY(modals.done());
         // As any click on a balloon, it ends the reminder of the tray.
         const int balloons = driver.tray().balloons.size();
         driver.window().close();
         QCOMPARE(driver.tray().balloons.size(), balloons);
+    }
+
+    void aClickDuringACallShowsTheEventsAfterIt() {
+        GuiAgent agent({.scenario = Scenario::Failed});
+        app::CallGate gate({20ms, 20s});
+        MainWindowDriver driver;
+        driver.window().keepAliveBy(gate);
+        driver.logIn(agent);
+        announceErrors(driver, agent);
+        agent.inject("getTarnClientInfo", simulator::Delay{300ms});
+        bool clicked = false;
+        const InTheWait user([&] {
+            if (!std::exchange(clicked, true))
+                emit driver.tray().messageClicked();
+            QVERIFY(!QApplication::activeModalWidget());
+        });
+        driver.beat();
+        QVERIFY(clicked);
+        ModalDriver modals;
+        modals.expect(QStringLiteral("events"), isDialog<EventLogViewer>, [](QWidget& dialog) {
+            child<QPushButton>(dialog, "buttonClose").click();
+        });
+        QCoreApplication::processEvents();
+        QVERIFY(modals.done());
+    }
+
+    void aClickOnNewsOfAnEarlierSessionShowsNothing() {
+        GuiAgent agent({.scenario = Scenario::Failed});
+        MainWindowDriver driver;
+        driver.logIn(agent);
+        announceErrors(driver, agent);
+        driver.window().OnDisconnect();
+        driver.logIn(agent);
+        emit driver.tray().messageClicked();
+        QCoreApplication::processEvents();
+        QVERIFY(!driver.window().isVisible());
+        QCOMPARE(methodsOf(agent), std::vector<std::string>());
     }
 
     void inTheActiveWindowTheRowAndTheFieldShowIt() {
