@@ -3,13 +3,13 @@
 #include "api/backup_start_parameters.h"
 #include "api/generic_activity.h"
 #include "api/system_activity_manager.h"
-#include "tests/api/proxy_test.h"
+#include "tests/support/proxy_test.h"
 
 namespace {
 
 using namespace hessiancln;
 
-class ActivityTest : public ProxyTest {
+class ActivityTest : public support::ProxyTest {
 protected:
     const boost::shared_ptr<BackupStartParameters> parameters =
         proxyAt<BackupStartParameters>("here");

@@ -3,13 +3,13 @@
 #include "api/backup_set.h"
 
 #include "tests/api/golden_records.h"
-#include "tests/api/proxy_test.h"
+#include "tests/support/proxy_test.h"
 
 namespace {
 
 using namespace hessiancln;
 
-class BackupSetTest : public ProxyTest {
+class BackupSetTest : public support::ProxyTest {
 protected:
     const boost::shared_ptr<BackupSet> set = proxyAt<BackupSet>("here");
 };

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "api/client_connection.h"
-#include "tests/api/proxy_test.h"
+#include "tests/support/proxy_test.h"
 
 namespace {
 
@@ -49,7 +49,7 @@ static_assert(!detail::holdsProxies<std::vector<std::string>>());
 static_assert(!detail::holdsProxies<backup_set_overview_info>());
 static_assert(!detail::holdsProxies<std::vector<activity_log_info>>());
 
-class BindTest : public ProxyTest {
+class BindTest : public support::ProxyTest {
 protected:
     static Activity unbound() {
         return boost::make_shared<GenericActivity>("u", false, 0u, std::string());

@@ -7,7 +7,7 @@
 #include "api/auto_releaser.h"
 #include "api/backup_set.h"
 #include "hessian/serialize_exception.h"
-#include "tests/api/proxy_test.h"
+#include "tests/support/proxy_test.h"
 #include "transport/invoke_exception.h"
 
 namespace {
@@ -16,7 +16,7 @@ using namespace hessiancln;
 
 constexpr char types[] = "c 01 00 m 00 05 'types' z";
 
-class CheckedCastTest : public ProxyTest {
+class CheckedCastTest : public support::ProxyTest {
 protected:
     /// The text of the exception that the cast throws.
     std::string refusal() const {

@@ -3,13 +3,13 @@
 #include "api/client_connection.h"
 
 #include "tests/api/golden_records.h"
-#include "tests/api/proxy_test.h"
+#include "tests/support/proxy_test.h"
 
 namespace {
 
 using namespace hessiancln;
 
-class ClientConnectionTest : public ProxyTest {
+class ClientConnectionTest : public support::ProxyTest {
 protected:
     const boost::shared_ptr<ClientConnection> root = proxyAt<ClientConnection>("here");
 };

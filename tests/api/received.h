@@ -4,11 +4,11 @@
 
 #include <string>
 
-#include "tests/api/proxy_test.h"
+#include "tests/support/proxy_test.h"
 #include "transport/invoke_exception.h"
 
 /// Adds the checks that most tests of a remote class make of a result.
-class ReceivingTest : public ProxyTest {
+class ReceivingTest : public support::ProxyTest {
 protected:
     /// Checks that the proxy is the object at `url`, usable, and released on destruction, i.e. now.
     template <class Proxy>

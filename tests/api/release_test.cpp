@@ -7,7 +7,7 @@
 #include "api/checked_cast.h"
 #include "api/client_connection.h"
 #include "hessian/serialize_exception.h"
-#include "tests/api/proxy_test.h"
+#include "tests/support/proxy_test.h"
 #include "transport/invoke_exception.h"
 
 namespace {
@@ -18,7 +18,7 @@ constexpr char release[] = "c 01 00 m 00 07 'Release' z";
 
 /// Checks that the agent receives one release for each reference it handed out, when the last proxy
 /// is destroyed.
-class ReleaseTest : public ProxyTest {
+class ReleaseTest : public support::ProxyTest {
 protected:
     void expectBackupSet(std::string_view reference) const {
         expect("c 01 00 m 00 0A 'backup_set' I 00 00 00 01 z",

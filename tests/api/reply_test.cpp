@@ -7,7 +7,7 @@
 #include "api/client_connection.h"
 #include "hessian/serialize_exception.h"
 #include "tests/api/golden_records.h"
-#include "tests/api/proxy_test.h"
+#include "tests/support/proxy_test.h"
 #include "transport/invoke_exception.h"
 
 namespace {
@@ -18,7 +18,7 @@ constexpr char getID[] = "c 01 00 m 00 05 'getID' z";
 constexpr char stop[] = "c 01 00 m 00 04 'Stop' z";
 
 /// How methods handle good and bad replies, shown by one with a result and one without.
-class ReplyTest : public ProxyTest {
+class ReplyTest : public support::ProxyTest {
 protected:
     template <class Exception, class Call>
     static std::string textOf(Call call) {

@@ -6,7 +6,7 @@
 #include "api/backup_set_records.h"
 #include "api/event_records.h"
 #include "properties.h"
-#include "tests/hessian/sample_values.h"
+#include "tests/support/sample_values.h"
 
 namespace {
 
@@ -87,9 +87,9 @@ using ReadRecord = void (*)(std::string_view);
 
 /// Append only: the corpus refers to the indices.
 constexpr ReadRecord records[] = {
-    readRecord<codec_test::everything>,
-    readRecord<codec_test::label>,
-    readRecord<codec_test::nothing>,
+    readRecord<support::everything>,
+    readRecord<support::label>,
+    readRecord<support::nothing>,
     readRecord<hessiancln::activity_log_info>,
     readRecord<hessiancln::running_activity_info>,
     readRecord<hessiancln::backup_set_info>,

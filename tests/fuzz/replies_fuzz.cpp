@@ -1,14 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 #include "properties.h"
-#include "tests/hessian/sample_values.h"
+#include "tests/support/sample_values.h"
 
 namespace {
 
-using codec_test::Colour;
-using codec_test::Handle;
-using codec_test::label;
-using codec_test::point;
+using support::Colour;
+using support::Handle;
+using support::label;
+using support::point;
 
 /// Reads a reply as a caller does: header, fault or result, end.
 template <class T>

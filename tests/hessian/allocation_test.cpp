@@ -3,13 +3,14 @@
 #include <gtest/gtest.h>
 
 #include "allocation_count.h"
-#include "sample_values.h"
 #include "support.h"
+#include "tests/support/sample_values.h"
 
 /// The codec's allocations. In a separate program, as the count covers the whole process.
 namespace {
 
 using namespace codec_test;
+using namespace support;
 
 TEST(Allocation, IsCounted) {
     const std::size_t before = allocations;

@@ -2,13 +2,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <gtest/gtest.h>
 
-#include "sample_values.h"
 #include "support.h"
+#include "tests/support/sample_values.h"
 
 /// Differences between the wire format and published Hessian 1.0.
 namespace {
 
 using namespace codec_test;
+using namespace support;
 
 TEST(Dialect, CharactersBeyondTheBasicPlaneCountOnce) {
     EXPECT_EQ(written(std::string("\xF0\x9F\x98\x80")), bytes("53 00 01 F0 9F 98 80"));

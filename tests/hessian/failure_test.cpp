@@ -2,14 +2,15 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <gtest/gtest.h>
 
-#include "sample_values.h"
 #include "support.h"
+#include "tests/support/sample_values.h"
 
 /// Each message that the readers refuse, and the error text. Where two checks would fail, the row
 /// shows which one comes first.
 namespace {
 
 using namespace codec_test;
+using namespace support;
 using namespace hessianser;
 
 struct Row {

@@ -5,13 +5,14 @@
 
 #include <gtest/gtest.h>
 
-#include "sample_values.h"
 #include "support.h"
+#include "tests/support/sample_values.h"
 
 /// Lists beyond their plain form: what may precede the elements, and how large they grow.
 namespace {
 
 using namespace codec_test;
+using namespace support;
 using hessianser::readValue;
 
 using Numbers = std::vector<std::int32_t>;

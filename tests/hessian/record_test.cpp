@@ -2,13 +2,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <gtest/gtest.h>
 
-#include "sample_values.h"
 #include "support.h"
+#include "tests/support/sample_values.h"
 
 /// Records beyond their plain form: order, repetition, absence, and their descriptions.
 namespace {
 
 using namespace codec_test;
+using namespace support;
 using hessianser::readValue;
 
 constexpr const char* pointStart = "'Mt' 00 07 't.point' ";

@@ -2,14 +2,15 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <gtest/gtest.h>
 
-#include "sample_values.h"
 #include "support.h"
+#include "tests/support/sample_values.h"
 
 /// A message may end anywhere. Each proper prefix of a sample is refused, and nothing is read past
 /// its end.
 namespace {
 
 using namespace codec_test;
+using namespace support;
 using namespace hessianser;
 
 template <class Read>

@@ -4,14 +4,15 @@
 
 #include <gtest/gtest.h>
 
-#include "sample_values.h"
 #include "support.h"
+#include "tests/support/sample_values.h"
 
 /// The kinds of value and their wire forms: the bytes written, the computed size, and the value
 /// read back.
 namespace {
 
 using namespace codec_test;
+using namespace support;
 using hessianser::Binary;
 
 template <class T>

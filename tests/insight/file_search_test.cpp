@@ -6,11 +6,15 @@
 #include <boost/weak_ptr.hpp>
 
 #include "insight/file_search.h"
-#include "tests/models/viewing_agent.h"
+#include "tests/support/viewing_agent.h"
 
 using insight::FileSearch;
 using insight::FoundFile;
 using insight::NamePattern;
+using support::storedDrive;
+using support::storedFile;
+using support::storedFolder;
+using support::ViewingAgent;
 using testing::ElementsAre;
 
 namespace {

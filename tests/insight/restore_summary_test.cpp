@@ -6,12 +6,16 @@
 
 #include "insight/restore_summary.h"
 #include "models/backed_up_node.h"
-#include "tests/models/viewing_agent.h"
+#include "tests/support/viewing_agent.h"
 
 using insight::ChosenItems;
 using insight::RestoreSummary;
 using insight::RestoreTarget;
 using models::CheckState;
+using support::storedDrive;
+using support::storedFile;
+using support::storedFolder;
+using support::ViewingAgent;
 using testing::ElementsAre;
 
 namespace {

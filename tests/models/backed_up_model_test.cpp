@@ -22,11 +22,16 @@
 #include "models/tree_state_memo.h"
 #include "resources/pictures.h"
 #include "tests/models/shown_tree.h"
-#include "tests/models/viewing_agent.h"
+#include "tests/support/viewing_agent.h"
 #include "transport/invoke_exception.h"
 #include "ui/locale_text.h"
 
 namespace {
+
+using support::storedDrive;
+using support::storedFile;
+using support::storedFolder;
+using support::ViewingAgent;
 
 constexpr auto strict = QAbstractItemModelTester::FailureReportingMode::QtTest;
 

@@ -9,12 +9,16 @@
 #include <gtest/gtest.h>
 
 #include "models/backed_up_node.h"
-#include "tests/models/viewing_agent.h"
+#include "tests/support/viewing_agent.h"
 #include "transport/invoke_exception.h"
 
 namespace {
 
 using namespace models;
+using support::storedDrive;
+using support::storedFile;
+using support::storedFolder;
+using support::ViewingAgent;
 using testing::ElementsAre;
 using testing::IsEmpty;
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "wizards/cached_credentials.h"
 
-#include "tests/api/proxy_test.h"
+#include "tests/support/proxy_test.h"
 #include "transport/invoke_exception.h"
 
 namespace {
@@ -27,7 +27,7 @@ constexpr char keyFile[] = "c 01 00 m 00 18 'setCredentialsViaKeyFile' S 00 04 '
 constexpr char sudo[] = "c 01 00 m 00 09 'setSudoAs' S 00 06 'backup' S 00 06 'geheim' z";
 constexpr char access[] = "c 01 00 m 00 10 'setSSHAccessType' I 00 00 00 01 S 00 07 '/usr/py' z";
 
-class CachedCredentialsTest : public ProxyTest {
+class CachedCredentialsTest : public support::ProxyTest {
 protected:
     void rememberPassword() {
         agent->expect("windows", password, done);

@@ -5,7 +5,7 @@
 #include <stdexcept>
 
 #include "api/backup_set.h"
-#include "tests/api/proxy_test.h"
+#include "tests/support/proxy_test.h"
 
 namespace {
 
@@ -15,7 +15,7 @@ constexpr char askDetails[] = "c 01 00 m 00 0A 'getDetails' z";
 constexpr char none[] = "r 01 00 N z";
 constexpr char schedule[] = "r 01 00 r t 00 17 'com.norvel.api.Schedule' S 00 03 'sch' z";
 
-class RetentionTaskTest : public ProxyTest {
+class RetentionTaskTest : public support::ProxyTest {
 protected:
     const boost::shared_ptr<hessiancln::BackupSet> set = proxyAt<hessiancln::BackupSet>("here");
 };

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
-#include "tests/models/viewing_agent.h"
+#include "tests/support/viewing_agent.h"
 
 #include <stdexcept>
 #include <utility>
@@ -9,6 +9,8 @@
 
 #include "hessian/value.h"
 #include "transport/invoke_exception.h"
+
+namespace support {
 
 ViewingAgent::ViewingAgent()
     : ICallDispatcher(0, "") {}
@@ -47,3 +49,5 @@ std::string ViewingAgent::reply(const std::map<std::int64_t, Value>& values, std
     hessianser::writeEnd(written);
     return written;
 }
+
+} // namespace support

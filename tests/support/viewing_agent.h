@@ -12,6 +12,8 @@
 #include "api/backup_set_data_view.h"
 #include "transport/i_call_dispatcher.h"
 
+namespace support {
+
 /// An agent with one view of a set's content, which a test defines. It records its calls and
 /// refuses those it doesn't know.
 class ViewingAgent final : public hessiancln::ICallDispatcher {
@@ -51,3 +53,5 @@ inline hessiancln::SelectableItem storedFile(std::int64_t id, std::string name) 
 inline hessiancln::SelectableItem storedDrive(std::int64_t id, std::string name) {
     return {id, std::move(name), hessiancln::SelectableItemType::Drive, false, true};
 }
+
+} // namespace support

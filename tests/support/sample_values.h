@@ -13,7 +13,7 @@
 
 /// Sample descriptions in place of the real ones: one of each kind, small enough to type their
 /// bytes.
-namespace codec_test {
+namespace support {
 
 /// With holes: 1, and 3 to 16. Any other number reads as 17.
 enum class Colour : std::int32_t {};
@@ -89,13 +89,13 @@ struct label {
     bool operator==(const label&) const = default;
 };
 
-} // namespace codec_test
+} // namespace support
 
 template <>
-struct hessianser::RemoteTraits<codec_test::Handle> {
+struct hessianser::RemoteTraits<support::Handle> {
     static std::string typeName() { return "t.Handle"; }
-    static const std::string* url(const codec_test::Handle& handle) {
+    static const std::string* url(const support::Handle& handle) {
         return handle.url ? &*handle.url : nullptr;
     }
-    static codec_test::Handle fromUrl(std::string url) { return {std::move(url)}; }
+    static support::Handle fromUrl(std::string url) { return {std::move(url)}; }
 };

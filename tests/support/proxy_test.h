@@ -11,6 +11,8 @@
 
 #include "tests/support/scripted_dispatcher.h"
 
+namespace support {
+
 /// Base of tests that run one proxy against a scripted agent.
 class ProxyTest : public testing::Test {
 protected:
@@ -31,6 +33,7 @@ protected:
         agent->expect("here", request, reply);
     }
 
-    boost::shared_ptr<support::ScriptedDispatcher> agent =
-        boost::make_shared<support::ScriptedDispatcher>();
+    boost::shared_ptr<ScriptedDispatcher> agent = boost::make_shared<ScriptedDispatcher>();
 };
+
+} // namespace support
