@@ -52,7 +52,10 @@ public:
     void abandon();
 
 private:
-    using ResponseParser = boost::beast::http::response_parser<boost::beast::http::string_body>;
+    /// The reply may hold a key, so both the buffer that it is read into and its body are wiped.
+    using ResponseParser =
+        boost::beast::http::response_parser<boost::beast::http::basic_string_body<
+            char, std::char_traits<char>, base::WipingAllocator<char>>>;
     /// What follows an operation.
     using Next = void (HttpExchange::*)(const ErrorCode&);
 
@@ -88,7 +91,6 @@ private:
     const base::WipedAtEnd requestGuard_{request_};
     std::size_t sentSize_ = 0;
     ErrorCode sendError_;
-    /// The reply may hold a key, which the parser copies out of this buffer.
     boost::beast::basic_flat_buffer<base::WipingAllocator<char>> buffer_;
     ResponseParser parser_;
 
