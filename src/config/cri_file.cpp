@@ -91,7 +91,7 @@ LinesRead readCri(QIODevice& file, const std::function<bool(const CriEntry&)>& t
         std::string_view rest(block.data(), static_cast<std::size_t>(std::max<qint64>(size, 0)));
         while (!rest.empty()) {
             const std::string_view part = rest.substr(0, rest.find('\n'));
-            if (line.size() + part.size() < roomForLine)
+            if (line.size() + part.size() <= roomForLine)
                 line += part;
             else
                 tooLong = true;

@@ -152,7 +152,7 @@ TEST(CriFile, PassesOverALongLineOfAKnownKeyToo) {
 }
 
 TEST(CriFile, TakesALineOfTheLongestLength) {
-    const QByteArray value(static_cast<int>(config::longestLine) - 11, 'x');
+    const QByteArray value(static_cast<int>(config::longestLine) - 10, 'x');
     EXPECT_EQ(read("UserName=" + value + "\nAccountName=b\n"),
               (Entries{{CriKey::customerName, value.toStdString()}, {CriKey::accountNumber, "b"}}));
 }
