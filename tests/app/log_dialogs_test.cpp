@@ -121,6 +121,7 @@ private slots:
 void LogDialogsTest::theViewerIsLaidOutAsDesigned() {
     EventLogViewer viewer;
     QCOMPARE(viewer.windowTitle(), QStringLiteral("Event Log Viewer"));
+    support::compareWindowIcon(viewer);
     QCOMPARE(viewer.size(), QSize(869, 394));
     auto& table = child<QTableView>(viewer, "tableEvents");
     const int widths[] = {60, 220, 80, 100, 80, 80, 80, 1500};
@@ -276,6 +277,7 @@ void LogDialogsTest::theAboutBoxWithoutASession() {
     AboutDlg about;
     about.show();
     QCOMPARE(about.windowTitle(), QStringLiteral("Tarn-Mobile User"));
+    support::compareWindowIcon(about);
     auto& name = child<QLabel>(about, "labelName");
     QCOMPARE(name.text(), QStringLiteral("Tarn-Mobile User"));
     QCOMPARE(name.font().pointSize(), 16);
@@ -284,7 +286,8 @@ void LogDialogsTest::theAboutBoxWithoutASession() {
     QVERIFY(version.text().startsWith(QLatin1String("Version 14.2.0.0\n")));
     QVERIFY(version.text().contains(QLatin1String("\nRelease " TARN_RELEASE "\nCopyright")));
     QCOMPARE(version.font().pointSize(), 10);
-    QCOMPARE(child<QLabel>(about, "labelIcon").pixmap(Qt::ReturnByValue).width(), 64);
+    QCOMPARE(child<QLabel>(about, "labelIcon").pixmap(Qt::ReturnByValue).toImage(),
+             QIcon(QStringLiteral(":/icons/tarn_mobile_icon")).pixmap(64).toImage());
     QVERIFY(!child<QGroupBox>(about, "groupInfo").isVisible());
     auto& table = child<QTableView>(about, "tableInfo");
     QCOMPARE(table.columnWidth(0), 140);

@@ -9,6 +9,7 @@
 #include "tests/config/tfa_fixture.h"
 #include "tests/support/gui_form_texts.h"
 #include "tests/support/gui_main_window.h"
+#include "ui/branding_resources.h"
 
 using namespace steps;
 using simulator::Fault;
@@ -44,7 +45,10 @@ void select(QWidget& viewer, int row) {
 class TFADialogsTest : public QObject, private TFAFixture {
     Q_OBJECT
 private slots:
-    void initTestCase() { resources::initPictures(); }
+    void initTestCase() {
+        resources::initPictures();
+        ui::g_branding.load();
+    }
     void init() { start(); }
     void cleanup() { end(); }
 
@@ -126,6 +130,7 @@ void TFADialogsTest::aRowIsAdded() {
     withViewer([this](QWidget& viewer) {
         expectUser([](QWidget& dialog) {
             QCOMPARE(dialog.windowTitle(), q("Edit User Email"));
+            support::compareWindowIcon(dialog);
             QCOMPARE(child<QGroupBox>(dialog, "groupUser").title(), q("User and Email"));
             type(dialog, "editUsername", "Jürgen");
             type(dialog, "editEmail", "j@example.org");
@@ -471,6 +476,7 @@ void TFADialogsTest::anAgentWithoutAManagerOfCodesIsTold() {
 void TFADialogsTest::theCodeDialogSaysWhatItWants() {
     expectCode([](QWidget& dialog) {
         QCOMPARE(dialog.windowTitle(), q("Two-factor Authentication Validation"));
+        support::compareWindowIcon(dialog);
         QCOMPARE(child<QLabel>(dialog, "labelExplanation").text(),
                  q("An email with an authentication code has been sent to the following email "
                    "address. Enter the authentication code below, and then click Validate."));

@@ -108,8 +108,8 @@ private slots:
         QCOMPARE(child<QLineEdit>(dialog, "lineEditPassword").echoMode(), QLineEdit::Password);
         QCOMPARE(child<QPushButton>(dialog, "buttonLogin").minimumWidth(),
                  child<QPushButton>(dialog, "buttonQuit").minimumWidth());
-        QVERIFY(!child<QPushButton>(dialog, "buttonLogin").icon().isNull());
-        QVERIFY(!child<QPushButton>(dialog, "buttonQuit").icon().isNull());
+        support::compareIcon(dialog, "buttonLogin", ":/button/ok");
+        support::compareIcon(dialog, "buttonQuit", ":/button/cancel");
     }
 
     void hasItsSlotsInOrder() {

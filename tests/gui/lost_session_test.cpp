@@ -16,6 +16,7 @@
 #include "resources/pictures.h"
 #include "session/connection.h"
 #include "tests/support/gui_agent.h"
+#include "tests/support/gui_form_texts.h"
 #include "tests/support/gui_main_window.h"
 #include "tests/support/gui_modal_driver.h"
 #include "tests/support/gui_translation.h"
@@ -89,11 +90,12 @@ private:
 
 void LostSessionTest::theFieldSaysWhomTheWindowIsConnectedTo() {
     QCOMPARE(field().text(), q("Not connected"));
+    support::compareIcon(driver_->window(), "connectionField", ":/icons/disconnect");
     driver_->logIn(*agent_);
     QCOMPARE(field().text(), q("Connected to 127.0.0.1"));
     QVERIFY(field().accessibleName().startsWith(q("Connected to 127.0.0.1 as ")));
     QVERIFY(field().toolTip().contains(field().accessibleName()));
-    QVERIFY(!field().icon().isNull());
+    support::compareIcon(driver_->window(), "connectionField", ":/icons/connect");
     // At the right end.
     const QStatusBar& bar = *driver_->window().statusBar();
     QVERIFY(field().geometry().right() > bar.width() - 40);
@@ -110,6 +112,7 @@ void LostSessionTest::theFirstErrorStaysInTheField() {
              qPrintable(field().text()));
     QVERIFY(field().accessibleName().startsWith(q("The connection to 127.0.0.1 was lost at ")));
     QVERIFY(field().accessibleName().endsWith(faultText));
+    support::compareIcon(driver_->window(), "connectionField", ":/icons/event_warning.png");
     driver_->beat();
     driver_->beat();
     QVERIFY(field().text().endsWith(faultText));

@@ -12,6 +12,7 @@
 #include "resources/pictures.h"
 #include "simulator/world/health_scenarios.h"
 #include "tests/insight/session_of_windows.h"
+#include "tests/support/gui_form_texts.h"
 #include "tests/support/gui_modal_driver.h"
 #include "ui/branding_resources.h"
 #include "wizards/select_generation_dlg.h"
@@ -40,6 +41,7 @@ private slots:
 void FindFileWindowTest::aFileIsFoundInAThousandFolders() {
     Session session(Scenario::ManyFolders);
     FindFileWindow window(session::getConnection);
+    support::compareWindowIcon(window);
     window.setSetNames({{1, "Archive"}});
     window.show();
     QVERIFY(!child<QPushButton>(window, "buttonFind").isEnabled());

@@ -22,6 +22,7 @@
 #include "simulator/world/health_scenarios.h"
 #include "simulator/world/world.h"
 #include "tests/insight/session_of_windows.h"
+#include "tests/support/gui_form_texts.h"
 #include "tests/support/gui_modal_driver.h"
 #include "ui/branding_resources.h"
 #include "ui/size_text.h"
@@ -118,6 +119,7 @@ void HealthWindowTest::setsStandWorstFirst() {
     // Until the schedules are read, it isn't known whether a backup is overdue.
     QCOMPARE(fed.monitor.count(), (insight::HealthCount{5, 0, 4}));
     BackupHealthWindow window(fed.monitor, everything);
+    support::compareWindowIcon(window);
     window.show();
     QTRY_VERIFY_WITH_TIMEOUT(!fed.monitor.isReading(), patience);
     QCOMPARE(fed.monitor.count(), (insight::HealthCount{5, 2, 0}));

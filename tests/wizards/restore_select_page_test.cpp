@@ -17,6 +17,7 @@
 #include "tests/support/time_zone.h"
 #include "tests/wizards/page_fixture.h"
 #include "tests/wizards/selected_row_look.h"
+#include "ui/branding_resources.h"
 #include "wizards/field_memo.h"
 #include "wizards/restore_select_page.h"
 #include "wizards/select_generation_dlg.h"
@@ -57,6 +58,7 @@ void typeMinutes(QDateTimeEdit& field, const char* minutes) {
 class RestoreSelectPageTest : public QObject, private PageFixture {
     Q_OBJECT
 private slots:
+    void initTestCase() { ui::g_branding.load(); }
     void init() { start(); }
     void cleanup() { end(); }
 
@@ -378,6 +380,7 @@ void RestoreSelectPageTest::aGenerationOfTheHourThatComesTwice() {
 void RestoreSelectPageTest::textsOfTheGenerations() {
     SelectGenerationDlg dialog({{firstTime, firstTime, 0, 0}, {secondTime, secondTime, 2048, 10}});
     QCOMPARE(dialog.windowTitle(), q("Select a file generation to restore"));
+    support::compareWindowIcon(dialog);
     auto& table = child<QTableView>(dialog, "listGenerations");
     dialog.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
