@@ -38,6 +38,17 @@ struct ShownWindow {
     app::TrayPresence presence;
 };
 
+hessiancln::activity_log_info endOf(std::int32_t id, std::int32_t errors = 0) {
+    hessiancln::activity_log_info ended;
+    ended.id = id;
+    ended.errors = errors;
+    return ended;
+}
+
+Balloons activityBalloon(const QString& text) {
+    return {{QStringLiteral("Ostrand Backup Activity"), text}};
+}
+
 running_activity_info backupOf(std::int32_t setId) {
     running_activity_info activity;
     activity.type = hessiancln::ActivityType::Backup;
@@ -104,10 +115,8 @@ private slots:
         QCOMPARE(shown.icon->balloons, Balloons());
         shown.presence.hideWindow();
         shown.presence.announce({backupOf(1)}, {backupOf(2)});
-        QCOMPARE(
-            shown.icon->balloons,
-            (Balloons{{QStringLiteral("Ostrand Backup Activity"),
-                       QStringLiteral("Started - Backup - Documents\nCompleted - Backup\n")}}));
+        QCOMPARE(shown.icon->balloons, activityBalloon(QStringLiteral(
+                                           "Started - Backup - Documents\nCompleted - Backup\n")));
     }
 
     void aVisibleWindowBehindAnotherOneAnnounces() {
@@ -119,6 +128,64 @@ private slots:
         QCOMPARE(shown.icon->balloons.size(), 1);
         QCOMPARE(shown.icon->balloons.first().second,
                  QStringLiteral("Completed - Backup - Documents\n"));
+    }
+
+    void announcesAnEndWithErrorsAsAWarning() {
+        ShownWindow shown;
+        shown.presence.hideWindow();
+        const QString done = QStringLiteral("Restored without errors");
+        shown.presence.announceEnd(endOf(1), done);
+        QCOMPARE(shown.icon->balloons, activityBalloon(done));
+        QCOMPARE(shown.icon->warnings, Balloons());
+        const QString failed = QStringLiteral("One error");
+        shown.presence.announceEnd(endOf(2, 1), failed);
+        QCOMPARE(shown.icon->balloons, activityBalloon(done));
+        QCOMPARE(shown.icon->warnings, activityBalloon(failed));
+    }
+
+    void theLastEndIsTheNews() {
+        ShownWindow shown;
+        QVERIFY(!shown.presence.lastNews());
+        shown.presence.hideWindow();
+        shown.presence.announceEnd(endOf(1), QStringLiteral("Ended"));
+        shown.presence.announceEnd(endOf(2), QStringLiteral("Ended"));
+        QVERIFY(shown.presence.lastNews());
+        QCOMPARE(shown.presence.lastNews()->id, 2);
+    }
+
+    void anEndThatTheUserSeesIsNoNews() {
+        ShownWindow shown;
+        shown.presence.announceEnd(endOf(1), QStringLiteral("Ended"));
+        QCOMPARE(shown.icon->balloons, Balloons());
+        QVERIFY(!shown.presence.lastNews());
+    }
+
+    void anotherBalloonReplacesTheNews_data() {
+        QTest::addColumn<bool>("isReminder");
+        QTest::newRow("reminder") << true;
+        QTest::newRow("started activity") << false;
+    }
+
+    void anotherBalloonReplacesTheNews() {
+        QFETCH(bool, isReminder);
+        ShownWindow shown;
+        shown.presence.hideWindow();
+        shown.presence.announceEnd(endOf(1), QStringLiteral("Ended"));
+        if (isReminder)
+            shown.presence.remind();
+        else
+            shown.presence.announce({backupOf(1)}, {});
+        QCOMPARE(shown.icon->balloons.size(), 2);
+        QVERIFY(!shown.presence.lastNews());
+    }
+
+    void aDismissedReminderLeavesTheNews() {
+        ShownWindow shown;
+        shown.presence.hideWindow();
+        shown.presence.endReminder();
+        shown.presence.announceEnd(endOf(1), QStringLiteral("Ended"));
+        shown.presence.remind();
+        QVERIFY(shown.presence.lastNews());
     }
 };
 
