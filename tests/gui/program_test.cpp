@@ -117,7 +117,7 @@ private slots:
                 &SimpleGUIMainWindow::showMainWindow);
         Client second(qEnvironmentVariable("XDG_RUNTIME_DIR"), agent.port());
         QVERIFY(second.launch(arguments));
-        QTRY_COMPARE_WITH_TIMEOUT(second.state(), QProcess::NotRunning, 4500);
+        QTRY_COMPARE_WITH_TIMEOUT(second.state(), QProcess::NotRunning, 20'000);
         QCOMPARE(second.exitStatus(), QProcess::NormalExit);
         QCOMPARE(second.exitCode(), 0);
         QCOMPARE(messages.size(), 1);

@@ -17,6 +17,14 @@ using testing::ElementsAre;
 using testing::EndsWith;
 using testing::IsEmpty;
 
+/// Long enough for another thread to act in the meantime, on a busy machine too.
+constexpr auto longDelay = std::chrono::seconds(1);
+
+template <class Result>
+bool isUnderWay(const std::future<Result>& work) {
+    return work.wait_for(std::chrono::seconds(0)) == std::future_status::timeout;
+}
+
 class SessionLifetime : public session_tests::AgentTest {
 protected:
     void logInQuietly() {
@@ -140,9 +148,10 @@ TEST_F(SessionLifetime, DisconnectOverAStreamThatWasCut) {
 }
 
 TEST_F(SessionLifetime, LoginWhileTheMutexIsHeldMakesOthersWait) {
-    agent.inject("login", simulator::Delay{std::chrono::milliseconds(100)});
+    agent.inject("login", simulator::Delay{longDelay});
     auto login = std::async(std::launch::async, [this] { logIn(); });
     ASSERT_TRUE(agent.waitForCall("login"));
+    ASSERT_TRUE(isUnderWay(login));
     // Without the wait this would throw the exception of a missing session.
     EXPECT_TRUE(session::getConnection());
     login.get();
@@ -150,11 +159,12 @@ TEST_F(SessionLifetime, LoginWhileTheMutexIsHeldMakesOthersWait) {
 
 TEST_F(SessionLifetime, DisconnectLeavesACallUnderWayItsObject) {
     logInQuietly();
-    agent.inject("getTarnClientInfo", simulator::Delay{std::chrono::milliseconds(100)});
+    agent.inject("getTarnClientInfo", simulator::Delay{longDelay});
     auto call = std::async(std::launch::async,
                            [] { return session::getConnection()->getTarnClientInfo().size(); });
     ASSERT_TRUE(agent.waitForCall("getTarnClientInfo"));
     session::disconnectFromAgent();
+    EXPECT_TRUE(isUnderWay(call));
     EXPECT_GT(call.get(), 0u);
     EXPECT_THAT(agent.callTexts(),
                 ElementsAre("ClientConnection.getTarnClientInfo()", logout, release));

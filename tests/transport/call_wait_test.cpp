@@ -219,13 +219,15 @@ TEST_P(CallWait, GivingUpTheResolutionOfANameConnectsNowhere) {
 }
 
 TEST_P(CallWait, AFinishedCallCantBeGivenUp) {
-    LoopbackServer server(GetParam().mode, [](Peer& peer) {
+    Signal waiting;
+    LoopbackServer server(GetParam().mode, [&](Peer& peer) {
         GetParam().receiveCall(peer);
-        std::this_thread::sleep_for(50ms);
+        waiting.wait();
         peer.send(GetParam().reply()).receiveUntilClose();
     });
     ScriptedHook hook(
         [&](AwaitedCall& call) {
+            waiting.raise();
             while (!call.finished())
                 std::this_thread::yield();
             call.giveUp(goodbye);
@@ -233,6 +235,7 @@ TEST_P(CallWait, AFinishedCallCantBeGivenUp) {
         1ms);
     const WaitHookInstallation installed(hook);
     EXPECT_EQ(GetParam().dispatcher()->sendRequest(server.url(), "ping"), "pong");
+    EXPECT_EQ(hook.waits, 1);
 }
 
 TEST_P(CallWait, OtherThreadsSleepWithoutTheHook) {
