@@ -26,6 +26,7 @@ int runWindow(QtSingleApplication& application) {
     app::CallGate gate;
     SimpleGUIMainWindow window;
     window.keepAliveBy(gate);
+    ui::keepOnScreen(window);
     if (app::startsInTray(QCoreApplication::arguments()))
         window.hideMainWindow();
     else

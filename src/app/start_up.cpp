@@ -83,7 +83,6 @@ void applyStyleSheet(QApplication& application) {
 }
 
 void showAtOnce(QWidget& window) {
-    ui::keepOnScreen(window);
     window.show();
     const QDeadlineTimer deadline(timeToAppear);
     while (!window.windowHandle()->isExposed() && !deadline.hasExpired()) {
