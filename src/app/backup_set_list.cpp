@@ -91,6 +91,7 @@ void BackupSetList::clear() {
     abandonEditing();
     view_.clearSelection();
     show({});
+    pendingId_ = noSet;
     known_ = false;
 }
 

@@ -151,6 +151,14 @@ private slots:
         QCOMPARE(shown.selectedId(), 400);
     }
 
+    void aSetToSelectIsForgottenWithTheSession() {
+        ShownList shown;
+        shown.list.selectOnceListed(2);
+        shown.list.clear();
+        shown.rebuildWith({1, 2});
+        QCOMPARE(shown.list.selectedCard(), nullptr);
+    }
+
     void cardsComeWithALargerView() {
         ShownList shown;
         for (std::int32_t id = 0; id < 100; ++id)
