@@ -111,6 +111,9 @@ void BackupHealthWindow::showRows() {
     // The main window changes the rows on each heartbeat.
     if (!isVisible())
         return;
+    // The failure was one of the last session.
+    if (sets_.records().empty() && !monitor_.rows().empty())
+        ui_->labelFailure->clear();
     const insight::HealthRow* before = selectedRow();
     keepsSelection_ = keepsSelection_ && before;
     const std::int32_t id = keepsSelection_ ? before->facts.info.id : -1;

@@ -16,18 +16,16 @@ namespace {
 constexpr std::int64_t topLevel = -1;
 /// No file system is deeper; an agent that reports more has a cycle.
 constexpr std::uint16_t deepest = 1'024;
+/// More than a user looks through. Each takes memory and a call.
+constexpr std::size_t mostFound = 200'000;
 /// This many failures in a row are due to a lost connection, not to folders.
 constexpr int mostFailures = 50;
 
 QRegularExpression wholeName(const QString& pattern) {
-    QString expression;
-    for (const QChar c : pattern)
-        if (c == QLatin1Char('*'))
-            expression += QStringLiteral(".*");
-        else if (c == QLatin1Char('?'))
-            expression += QLatin1Char('.');
-        else
-            expression += QRegularExpression::escape(QString(c));
+    // Only these two are special; the expression escapes the others with a backslash.
+    QString expression = QRegularExpression::escape(pattern);
+    expression.replace(QStringLiteral("\\*"), QStringLiteral(".*"));
+    expression.replace(QStringLiteral("\\?"), QStringLiteral("."));
     return QRegularExpression(QRegularExpression::anchoredPattern(expression),
                               QRegularExpression::CaseInsensitiveOption |
                                   QRegularExpression::DotMatchesEverythingOption |
@@ -110,12 +108,24 @@ void FileSearch::lookInto(std::uint32_t place) {
             if (pattern_.matches(session::fromWire(item.name))) {
                 undetailed_.push_back(found_.size());
                 found_.push_back({setId_, item.id, place, std::move(item.name), -1, {}});
+                if (isFull())
+                    return stopLooking();
             }
         } else if (depth < deepest && seen_.insert(item.id).second) {
             waiting_.push_back(static_cast<std::uint32_t>(folders_.size()));
             folders_.push_back({item.id, place, depth, std::move(item.name)});
         }
     }
+}
+
+bool FileSearch::isFull() const {
+    return found_.size() >= mostFound;
+}
+
+/// What was found still gets its details.
+void FileSearch::stopLooking() {
+    waiting_.clear();
+    sets_.clear();
 }
 
 void FileSearch::askForGenerations(std::size_t place) {

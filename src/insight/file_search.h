@@ -68,6 +68,8 @@ public:
     void cancel();
 
     const std::vector<FoundFile>& found() const { return found_; }
+    /// It found the most that it takes (200,000 files), and looks no further.
+    bool isFull() const;
     /// The indices in `found` whose generations were read since the last call.
     std::vector<std::size_t> takeDetailed();
     std::size_t foldersSeen() const { return foldersSeen_; }
@@ -89,6 +91,7 @@ private:
     void lookOn();
     void lookInto(std::uint32_t folder);
     void askForGenerations(std::size_t place);
+    void stopLooking();
     void endSet();
 
     NamePattern pattern_;

@@ -92,10 +92,21 @@ void FindFileWindow::setUpTable() {
 void FindFileWindow::setSetNames(const insight::SetNames& names) {
     if (names == names_)
         return;
+    const bool begins = names_.empty();
     names_ = names;
     if (names_.empty())
         cancel();
+    else if (begins)
+        forgetFound();
     fillSets();
+}
+
+/// Another agent may have other sets under the same ids.
+void FindFileWindow::forgetFound() {
+    cancel();
+    found_.showSearch(nullptr, {});
+    search_.reset();
+    showProgress();
 }
 
 void FindFileWindow::fillSets() {
@@ -176,12 +187,14 @@ void FindFileWindow::showProgress() {
         text = tr("%1, %2 could not be read (%3)")
                    .arg(text, ui::numberText(static_cast<qint64>(search_->refused())),
                         session::fromWire(search_->failure()));
+    if (search_->isFull())
+        text = tr("%1, stopped because there are too many").arg(text);
     ui_->labelProgress->setText(text);
 }
 
 void FindFileWindow::updateEnabling() {
     const bool searching = isSearching();
-    const bool hasFile = selectedFile() != nullptr;
+    const bool hasFile = selectedFile() && !names_.empty();
     ui_->buttonFind->setEnabled(!searching && !names_.empty() &&
                                 !ui_->editName->text().trimmed().isEmpty());
     ui_->buttonCancel->setEnabled(searching);
@@ -196,7 +209,7 @@ const insight::FoundFile* FindFileWindow::selectedFile() const {
 
 void FindFileWindow::showGenerations() {
     const insight::FoundFile* selected = selectedFile();
-    if (!selected)
+    if (!selected || names_.empty())
         return;
     const insight::FoundFile file = *selected;
     const QStringList folders = search_->folderOf(file);

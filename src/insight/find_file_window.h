@@ -32,7 +32,8 @@ public:
     explicit FindFileWindow(Connect connect, QWidget* parent = nullptr);
     ~FindFileWindow() override;
 
-    /// The sets offered for selection.
+    /// The sets offered for selection; none while there is no session. What was found in the last
+    /// session goes when the next one begins.
     void setSetNames(const insight::SetNames& names);
     /// Selects one of them; all if it isn't listed.
     void chooseSet(std::int32_t setId);
@@ -60,6 +61,7 @@ private:
     void showProgress();
     void updateEnabling();
     void fillSets();
+    void forgetFound();
     void showGenerations();
     void restore();
     std::vector<std::int32_t> chosenSets() const;

@@ -201,7 +201,8 @@ std::vector<PlannedRun> HealthMonitor::nextRuns() const {
         if (!isScheduled(row.facts.info) || !row.plan)
             continue;
         ScheduledSet set{row.facts.info.id, row.facts.info.name, &row.plan->plan};
-        if (const auto& last = row.facts.lastAttempt; last && last->end > last->start)
+        if (const auto& last = row.facts.lastAttempt;
+            last && last->start >= 1 && last->end > last->start)
             set.duration = last->end - last->start;
         sets.push_back(std::move(set));
     }

@@ -113,6 +113,8 @@ void LogSearchBar::prepareSearch() {
 void LogSearchBar::exportRows() {
     if (!log_)
         return;
+    // The log may be cleared while the dialog is open.
+    const QByteArray rows = log_->csv();
     QFileDialog dialog(window(), tr("Export Log"), QDir::homePath(), tr("CSV Files (*.csv)"));
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
@@ -123,7 +125,6 @@ void LogSearchBar::exportRows() {
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return;
     const QString name = dialog.selectedFiles().first();
-    const QByteArray rows = log_->csv();
     QSaveFile file(name);
     if (!file.open(QIODevice::WriteOnly) || file.write(rows) != rows.size() || !file.commit())
         ui::showError(window(), tr("Error"),

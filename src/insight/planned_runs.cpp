@@ -18,7 +18,7 @@ std::vector<PlannedRun> runsOf(const ScheduledSet& set, std::int64_t from, std::
                                const QTimeZone& zone) {
     std::vector<PlannedRun> runs;
     for (const PlannedStart& start : startsBetween(*set.plan, from, until, zone)) {
-        std::int64_t end = start.start + std::max<std::int64_t>(set.duration, 1);
+        std::int64_t end = start.start + std::clamp<std::int64_t>(set.duration, 1, lookAhead);
         if (start.stop && *start.stop > start.start)
             end = std::min(end, *start.stop);
         runs.push_back({set.setId, set.name, start.start, end, false});

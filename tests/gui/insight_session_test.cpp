@@ -184,10 +184,17 @@ void InsightSessionTest::aNewSessionTakesTheWindowsOver() {
     driver_->trigger("actionBackup_Health");
     auto& health = *driver_->window().findChild<BackupHealthWindow*>();
     FindFileWindow& find = search("letter");
+    QTRY_VERIFY(found(find) > 0);
     const int height = find.height();
     driver_->trigger("actionLogout");
     QVERIFY(find.height() > height);
+    // What was found stays to be read, but there is no session to restore it in.
+    QVERIFY(found(find) > 0);
+    QVERIFY(!child<QPushButton>(find, "buttonRestore").isEnabled());
+    QVERIFY(!child<QPushButton>(find, "buttonGenerations").isEnabled());
     driver_->logIn(*agent_);
+    // The next agent may have another set under the same id.
+    QCOMPARE(found(find), 0);
     // The notes about the last session are gone.
     QTRY_VERIFY(!health.findChild<QWidget*>(QStringLiteral("sessionEndedLine")));
     QVERIFY(!find.findChild<QWidget*>(QStringLiteral("sessionEndedLine")));

@@ -215,9 +215,8 @@ private slots:
         driver.beat();
         QVERIFY(clicked);
         ModalDriver modals;
-        modals.expect(QStringLiteral("events"), isDialog<EventLogViewer>, [](QWidget& dialog) {
-            child<QPushButton>(dialog, "buttonClose").click();
-        });
+        modals.expect(QStringLiteral("events"), isDialog<EventLogViewer>,
+                      [](QWidget& dialog) { child<QPushButton>(dialog, "buttonClose").click(); });
         QCoreApplication::processEvents();
         QVERIFY(modals.done());
     }

@@ -38,6 +38,9 @@ TEST(NamePattern, APatternIsForTheWholeName) {
     EXPECT_TRUE(matches("a[1].*", "A[1].txt"));
     EXPECT_FALSE(matches("a[1].*", "a1.txt"));
     EXPECT_TRUE(matches("*", "two\nlines"));
+    EXPECT_TRUE(matches("a\\*", "a\\b"));
+    EXPECT_TRUE(matches("\U0001F600*", "\U0001F600 photo.jpg"));
+    EXPECT_FALSE(matches("\U0001F600*", "photo.jpg"));
 }
 
 class FileSearchTest : public testing::Test {
@@ -93,6 +96,20 @@ TEST_F(FileSearchTest, LooksIntoFoldersByTheirDepthAndAsksForDetailsInTurn) {
     EXPECT_THAT(paths(files), ElementsAre("D:\\Offer.pdf", "C:\\Users\\Old offer.docx"));
     EXPECT_EQ(files.foldersSeen(), 4u);
     EXPECT_EQ(files.refused(), 0u);
+}
+
+TEST_F(FileSearchTest, LooksNoFurtherThan200000Files) {
+    agent->items[-1] = {storedDrive(1, "C:")};
+    agent->items[1].assign(200'001, storedFile(2, "Offer.pdf"));
+    FileSearch files = search("offer", {7, 8});
+    for (int steps = 0; !files.isFull() && steps < 10; ++steps)
+        files.step();
+    EXPECT_TRUE(files.isFull());
+    EXPECT_EQ(files.found().size(), 200'000U);
+    files.step();
+    EXPECT_EQ(files.found().size(), 200'000U);
+    files.cancel();
+    EXPECT_THAT(opened, ElementsAre(7));
 }
 
 TEST_F(FileSearchTest, TheNewestGenerationIsShown) {

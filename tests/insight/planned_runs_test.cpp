@@ -55,6 +55,15 @@ TEST(PlannedRuns, RunsOfTwoSetsOverlap) {
     EXPECT_THAT(runs(3'601), ElementsAre("A 20:00-21:00!", "B 20:30-21:00!", "C 21:00-21:30!"));
 }
 
+TEST(PlannedRuns, ARunOfYearsEndsWithTheTable) {
+    const SchedulePlan plan{{weekly(everyDay, 20)}};
+    const std::int64_t from = at("2026-11-20T00:00:00Z");
+    const auto runs = insight::plannedRuns({{1, "A", &plan, 1'700'000'000}}, from,
+                                           at("2026-11-21T00:00:00Z"), utc);
+    ASSERT_EQ(runs.size(), 1U);
+    EXPECT_EQ(runs[0].end, at("2026-11-20T20:00:00Z") + 14 * 86'400);
+}
+
 TEST(PlannedRuns, RunsOfOneSetDoNotOverlap) {
     const SchedulePlan plan{{weekly(everyDay, 20), weekly(everyDay, 20, 10)}};
     const auto runs = insight::plannedRuns({{1, "A", &plan, 3'600}}, at("2026-11-20T00:00:00Z"),

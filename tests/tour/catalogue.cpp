@@ -10,10 +10,7 @@ namespace tour {
 
 const std::vector<Chapter>& catalogue() {
     static const std::vector<Chapter> chapters{
-        {"Start",
-         "",
-         "src/app/start_up.cpp",
-         {{"box-translation", "A missing translation"}}},
+        {"Start", "", "src/app/start_up.cpp", {{"box-translation", "A missing translation"}}},
         {"Login dialog",
          "LoginCheck",
          "src/app/login_check.ui",
@@ -59,7 +56,8 @@ const std::vector<Chapter>& catalogue() {
         {"Backup health",
          "BackupHealthWindow",
          "src/insight/backup_health_window.ui",
-         {{"health", "Sets, the most urgent first"}, {"health-runs", "The next runs, with overlaps"}}},
+         {{"health", "Sets, the most urgent first"},
+          {"health-runs", "The next runs, with overlaps"}}},
         {"Find a file",
          "FindFileWindow",
          "src/insight/find_file_window.ui",
@@ -215,7 +213,9 @@ const std::vector<Chapter>& catalogue() {
         {"Re-registration",
          "RegisterDlg",
          "src/config/register_dlg.ui",
-         {{"register", "Before the registration"}, {"register-done", "Registered"}, {"register-failed", "Refused"}}},
+         {{"register", "Before the registration"},
+          {"register-done", "Registered"},
+          {"register-failed", "Refused"}}},
         {"Admin times page",
          "AdminConfigPage",
          "src/config/admin_config_page.ui",

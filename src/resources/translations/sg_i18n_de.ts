@@ -1042,6 +1042,10 @@ Möchten Sie den Sicherungssatz entfernen?</translation>
         <translation>%1: %2 Dateien in %3 Ordnern gefunden</translation>
     </message>
     <message>
+        <source>%1, stopped because there are too many</source>
+        <translation>%1, angehalten, weil es zu viele sind</translation>
+    </message>
+    <message>
         <source>%1, %2 could not be read (%3)</source>
         <translation>%1, %2 konnten nicht gelesen werden (%3)</translation>
     </message>
