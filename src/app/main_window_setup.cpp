@@ -131,7 +131,7 @@ void SimpleGUIMainWindow::setUpTray(std::unique_ptr<app::TrayIcon> icon) {
     connect(&tray_->actionHide(), &QAction::triggered, this, &SimpleGUIMainWindow::hideMainWindow);
     connect(&tray_->icon(), &QSystemTrayIcon::activated, this,
             &SimpleGUIMainWindow::sysTrayActivated);
-    connect(&tray_->icon(), &QSystemTrayIcon::messageClicked, this,
+    connect(&tray_->icon(), &app::TrayIcon::balloonClicked, this,
             &SimpleGUIMainWindow::sysTrayMessageClicked);
 }
 

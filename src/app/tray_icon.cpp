@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "app/tray_icon.h"
 
+#include "app/notifications.h"
+#include "ui/later.h"
+
 namespace app {
 
 namespace {
@@ -10,16 +13,46 @@ constexpr int balloonTime = 10000;
 
 } // namespace
 
+TrayIcon::TrayIcon(QObject* parent)
+    : QSystemTrayIcon(parent) {
+    connect(this, &QSystemTrayIcon::messageClicked, this, [this] {
+        // On D-Bus Qt reports the clicks on the notifications of all programs.
+        if (!notifications_)
+            emit balloonClicked();
+    });
+}
+
+TrayIcon::~TrayIcon() = default;
+
 bool TrayIcon::isAvailable() const {
     return isSystemTrayAvailable();
 }
 
 void TrayIcon::showBalloon(const QString& title, const QString& text) {
-    showMessage(title, text, QSystemTrayIcon::Information, balloonTime);
+    announce(title, text, Information, "dialog-information");
 }
 
 void TrayIcon::showWarning(const QString& title, const QString& text) {
-    showMessage(title, text, QSystemTrayIcon::Warning, balloonTime);
+    announce(title, text, Warning, "dialog-warning");
+}
+
+void TrayIcon::announce(const QString& title, const QString& text, MessageIcon icon,
+                        const char* iconName) {
+    if (Notifications* service = notifications())
+        service->show(title, text, QLatin1String(iconName), balloonTime);
+    else
+        showMessage(title, text, icon, balloonTime);
+}
+
+Notifications* TrayIcon::notifications() {
+    if (notifications_)
+        return notifications_.get();
+    notifications_ = Notifications::ofDesktop();
+    // What follows a click may call the agent.
+    if (notifications_)
+        connect(notifications_.get(), &Notifications::clicked, this,
+                [this] { ui::later(*this, [this] { emit balloonClicked(); }); });
+    return notifications_.get();
 }
 
 } // namespace app

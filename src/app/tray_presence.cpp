@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "app/tray_presence.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QMenu>
+#include <QTimer>
 #include <QWidget>
+#include <QWindow>
 
 #include "app/open_backup_set.h"
 #include "session/text.h"
@@ -13,6 +15,8 @@
 namespace app {
 
 namespace {
+
+constexpr int timeToActivate = 300; ///< milliseconds
 
 QString productName() {
     return QStringLiteral("Tarn-Mobile User");
@@ -24,6 +28,22 @@ void letTheWindowHide() {
     // At logout Qt would close the window, which only hides, and treat that as a refusal to end the
     // desktop session.
     QGuiApplication::setFallbackSessionManagementEnabled(false);
+}
+
+/// Makes up for an activation that went wrong.
+void insistOnFocus(QWidget& window) {
+    if (!window.isVisible() || QApplication::activeWindow())
+        return;
+    if (window.windowHandle() == QGuiApplication::focusWindow()) {
+        // On a busy machine Qt gets the focus events of hiding and showing together, and takes the
+        // window to be what it was, namely inactive.
+        QApplication::setActiveWindow(&window);
+        return;
+    }
+    // A desktop refuses the focus to a program whose last event is older than what the user did
+    // elsewhere. By now there are newer ones.
+    window.activateWindow();
+    QApplication::alert(&window);
 }
 
 } // namespace
@@ -79,7 +99,13 @@ void TrayPresence::showWindow() {
         window_.showMaximized();
     else
         window_.showNormal();
+    bringToFront();
+}
+
+void TrayPresence::bringToFront() {
+    window_.raise();
     window_.activateWindow();
+    QTimer::singleShot(timeToActivate, &window_, [&window = window_] { insistOnFocus(window); });
 }
 
 void TrayPresence::hideWindow() {

@@ -37,7 +37,8 @@ public:
     /// Sets all texts in the current language.
     void setTexts();
 
-    /// Also restores a minimized window.
+    /// Also restores a minimized window. If the desktop refuses to activate the window, the window
+    /// asks for attention.
     void showWindow();
     /// Does nothing if the desktop has no tray to restore it from.
     void hideWindow();
@@ -58,6 +59,7 @@ public:
 
 private:
     void setUpMenu(QAction& quit);
+    void bringToFront();
     bool isUserLooking() const;
 
     QWidget& window_;

@@ -1,47 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 #include <QApplication>
-#include <QProcess>
 #include <QTest>
 
 #include "app/simple_gui_main_window.h"
 #include "resources/pictures.h"
+#include "tests/support/gui_display.h"
 
-namespace {
-
-/// A process that ends with this object.
-class Helper : public QProcess {
-public:
-    ~Helper() override {
-        terminate();
-        if (!waitForFinished(2000))
-            kill();
-        waitForFinished();
-    }
-
-    bool launch(const QString& program, const QStringList& arguments) {
-        start(program, arguments);
-        return waitForStarted();
-    }
-};
-
-/// A virtual display. It becomes the display of this process and its children.
-class Display : public Helper {
-public:
-    bool begin() {
-        if (!launch(QStringLiteral("Xvfb"),
-                    {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                     QStringLiteral("0"), QStringLiteral("1280x800x24"),
-                     QStringLiteral("-nolisten"), QStringLiteral("tcp")}))
-            return false;
-        QByteArray number;
-        while (!number.endsWith('\n') && waitForReadyRead(10'000))
-            number += readAllStandardOutput();
-        return number.endsWith('\n') && qputenv("DISPLAY", ":" + number.trimmed());
-    }
-};
-
-} // namespace
+using support::Helper;
 
 /// The icon in a real tray: embedded by a tray host, and clicked with the mouse.
 class TrayHostTest : public QObject {
@@ -66,12 +32,7 @@ private slots:
 
         QVERIFY(!window.close());
         QVERIFY(!window.isVisible());
-        const QPoint icon = tray.geometry().center();
-        Helper mouse;
-        QVERIFY(mouse.launch(QStringLiteral("xdotool"),
-                             {QStringLiteral("mousemove"), QString::number(icon.x()),
-                              QString::number(icon.y()), QStringLiteral("click"),
-                              QStringLiteral("1")}));
+        QVERIFY(support::clickAt(tray.geometry().center()));
         QTRY_VERIFY_WITH_TIMEOUT(window.isVisible(), 10'000);
     }
 
@@ -83,7 +44,7 @@ private:
 };
 
 int main(int argc, char** argv) {
-    Display display;
+    support::Display display;
     if (!display.begin())
         qFatal("Xvfb doesn't start");
     qputenv("QT_QPA_PLATFORM", "xcb");

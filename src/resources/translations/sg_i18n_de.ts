@@ -4731,6 +4731,13 @@ Klicken Sie hier, um diesen Hinweis nicht mehr zu sehen.</translation>
     </message>
 </context>
 <context>
+    <name>app::Notifications</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
     <name>getSetDataType</name>
     <message>
         <source>File System</source>

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <memory>
+
+#include <QObject>
+#include <QSet>
+#include <QString>
+
+namespace app {
+
+/// The notification service of a desktop whose tray is on D-Bus: `org.freedesktop.Notifications` of
+/// the Desktop Notifications Specification.
+///
+/// Qt shows the messages of its tray icon there too, but without a default action, so that most
+/// services report no click, and without escaping, so that names with `<` or `&` are read as
+/// mark-up.
+class Notifications : public QObject {
+    Q_OBJECT
+public:
+    /// Null if the desktop has no tray on D-Bus.
+    static std::unique_ptr<Notifications> ofDesktop();
+
+    /// Shows plain text. `icon` is a name of the Icon Naming Specification. A service that doesn't
+    /// answer shows nothing.
+    void show(const QString& title, const QString& text, const QString& icon, int milliseconds);
+
+signals:
+    /// A notification of this object was clicked.
+    void clicked();
+
+private slots:
+    void followAction(uint id, const QString& action);
+
+private:
+    Notifications();
+    void send(const QString& title, const QString& text, const QString& icon, int milliseconds,
+              const QStringList& capabilities);
+
+    QSet<uint> shown_;
+};
+
+} // namespace app

@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "tests/support/gui_display.h"
+
+#include <QPoint>
+
+namespace support {
+
+namespace {
+
+constexpr int limit = 10'000; ///< milliseconds
+
+} // namespace
+
+Helper::~Helper() {
+    terminate();
+    if (!waitForFinished(2000))
+        kill();
+    waitForFinished();
+}
+
+bool Helper::launch(const QString& program, const QStringList& arguments) {
+    start(program, arguments);
+    return waitForStarted();
+}
+
+QByteArray Helper::line() {
+    QByteArray text;
+    while (!text.endsWith('\n') && waitForReadyRead(limit))
+        text += readAllStandardOutput();
+    return text.endsWith('\n') ? text.trimmed() : QByteArray();
+}
+
+bool Display::begin() {
+    if (!launch(QStringLiteral("Xvfb"),
+                {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
+                 QStringLiteral("0"), QStringLiteral("1280x800x24"), QStringLiteral("-nolisten"),
+                 QStringLiteral("tcp")}))
+        return false;
+    const QByteArray number = line();
+    return !number.isEmpty() && qputenv("DISPLAY", ":" + number);
+}
+
+bool Bus::begin() {
+    if (!launch(QStringLiteral("dbus-daemon"),
+                {QStringLiteral("--session"), QStringLiteral("--nofork"),
+                 QStringLiteral("--nopidfile"), QStringLiteral("--print-address=1")}))
+        return false;
+    const QByteArray address = line();
+    return !address.isEmpty() && qputenv("DBUS_SESSION_BUS_ADDRESS", address);
+}
+
+bool clickAt(const QPoint& place) {
+    Helper mouse;
+    return mouse.launch(QStringLiteral("xdotool"),
+                        {QStringLiteral("mousemove"), QString::number(place.x()),
+                         QString::number(place.y()), QStringLiteral("click"),
+                         QStringLiteral("1")}) &&
+           mouse.waitForFinished(limit) && mouse.exitCode() == 0;
+}
+
+} // namespace support

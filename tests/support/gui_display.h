@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QProcess>
+
+/// The parts of a desktop that a test starts for itself.
+namespace support {
+
+/// A process that ends with this object.
+class Helper : public QProcess {
+public:
+    ~Helper() override;
+
+    bool launch(const QString& program, const QStringList& arguments);
+
+protected:
+    /// The next line of its output, without the line end; empty if it doesn't come.
+    QByteArray line();
+};
+
+/// A virtual display. It becomes the display of this process and its children.
+class Display : public Helper {
+public:
+    bool begin();
+};
+
+/// A D-Bus session. It becomes the session of this process and its children.
+class Bus : public Helper {
+public:
+    bool begin();
+};
+
+/// Moves the mouse to a place on the display and clicks.
+bool clickAt(const QPoint& place);
+
+} // namespace support
