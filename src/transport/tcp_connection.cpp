@@ -3,6 +3,7 @@
 #include "transport/tcp_connection.h"
 
 #include <limits>
+#include <new>
 #include <thread>
 
 #include <boost/asio/connect.hpp>
@@ -54,19 +55,28 @@ TcpConnection::Endpoints TcpConnection::resolve(const std::string& host, std::ui
 
 void TcpConnection::asyncResolve(const std::string& host, std::uint32_t port,
                                  const boost::shared_ptr<void>& owner, Resolved completion) {
-    const auto resolveAndTell = [host, port, completion = std::move(completion),
-                                 executor = stream_.get_executor()] {
-        ErrorCode error;
-        const Endpoints endpoints = resolve(host, port, error);
+    const auto post = [completion = std::move(completion), executor = stream_.get_executor()](
+                          const ErrorCode& error, const Endpoints& endpoints) {
         asio::post(executor, [=] { completion(error, endpoints); });
     };
+    const auto resolveAndPost = [host, port, post] {
+        ErrorCode error;
+        const Endpoints endpoints = resolve(host, port, error);
+        post(error, endpoints);
+    };
     if (isNumeric(host)) {
-        resolveAndTell();
+        resolveAndPost();
         return;
     }
     // A name resolution can't be cancelled. The thread is then abandoned with its share in the
     // owner, and the result that it posts never runs.
-    std::thread([owner, resolveAndTell] { resolveAndTell(); }).detach();
+    std::thread([owner, resolveAndPost, post] {
+        try {
+            resolveAndPost();
+        } catch (const std::bad_alloc&) {
+            post(asio::error::no_memory, {});
+        }
+    }).detach();
 }
 
 void TcpConnection::asyncConnect(const Endpoints& endpoints, Completion completion) {
