@@ -93,18 +93,21 @@ void SimpleGUIMainWindow::OnQuit() {
 void SimpleGUIMainWindow::checkInitialConfiguration() {
     if (!session::connectedToAgent())
         return;
+    QString cause;
     const bool known =
-        ui::remoteAction(*this, tr("Configuration Error"), ui::Cursor::arrow, [this] {
+        ui::remoteAction(*this, tr("Configuration Error"), ui::Cursor::arrow, [this, &cause] {
             try {
                 if (app::asksForInitialConfiguration(*session::getConnection()))
                     openInitialConfiguration();
             } catch (const std::exception& error) {
-                connection_->end(ui::errorText(error));
+                cause = ui::errorText(error);
                 throw;
             }
         });
-    if (!known)
-        OnDisconnect();
+    if (known)
+        return;
+    connection_->end(cause);
+    OnDisconnect();
 }
 
 void SimpleGUIMainWindow::openInitialConfiguration() {

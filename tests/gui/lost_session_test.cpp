@@ -5,6 +5,7 @@
 
 #include <QDialog>
 #include <QLabel>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTest>
@@ -141,9 +142,19 @@ void LostSessionTest::theUsersOwnDisconnectIsNoLoss() {
 
 void LostSessionTest::aFailedConfigurationIsACauseToo() {
     agent_->inject("getUserInfo", simulator::Fault{faultText.toStdString()});
-    modals_.expectErrorBox(q("Configuration Error"), faultText);
+    QString during;
+    modals_.expect(q("box"), isDialog<QMessageBox>, [&](QWidget& widget) {
+        auto& box = static_cast<QMessageBox&>(widget);
+        QCOMPARE(box.windowTitle(), q("Configuration Error"));
+        QCOMPARE(box.text(), faultText);
+        during = field().text();
+        QVERIFY(!notice().isVisible());
+        QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton);
+    });
     driver_->window().doLogin(true);
     QVERIFY(modals_.done());
+    // The session lasts until the box is closed.
+    QCOMPARE(during, q("Connected to 127.0.0.1"));
     QVERIFY(field().text().endsWith(faultText));
     QCOMPARE(driver_->status(), q("Current connection terminated"));
 }
