@@ -11,6 +11,7 @@
 #include "app/open_backup_set.h"
 #include "session/process_values.h"
 #include "session/text.h"
+#include "ui/later.h"
 #include "ui/remote_action.h"
 #include "ui_backup_set_view_item.h"
 
@@ -109,6 +110,8 @@ void BackupSetViewItem::startEditingSetName() {
 
 void BackupSetViewItem::endEditingSetName() {
     if (!editingName_ || sendingName_)
+        return;
+    if (ui::waitsForCall(*this, [this] { endEditingSetName(); }))
         return;
     hideNameEditor();
     sendName(nameEditor_->text().trimmed());

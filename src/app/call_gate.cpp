@@ -53,14 +53,19 @@ private:
     std::vector<QPointer<QWidget>> widgets_;
 };
 
+bool isShownWindow(const QWidget* widget) {
+    return widget && widget->isVisible() && !widget->isMinimized() &&
+           (widget->windowType() == Qt::Window || widget->windowType() == Qt::Dialog);
+}
+
 /// The frontmost window; null if all are hidden.
 QWidget* windowInFront() {
     if (QWidget* modal = QApplication::activeModalWidget(); modal && modal->isVisible())
         return modal;
+    if (QWidget* active = QApplication::activeWindow(); isShownWindow(active))
+        return active;
     const auto all = QApplication::topLevelWidgets();
-    const auto found = std::find_if(all.begin(), all.end(), [](const QWidget* widget) {
-        return widget->isVisible() && widget->windowType() == Qt::Window;
-    });
+    const auto found = std::find_if(all.begin(), all.end(), isShownWindow);
     return found == all.end() ? nullptr : *found;
 }
 
@@ -149,7 +154,10 @@ CallGate::Outcome CallGate::run(int flags, milliseconds limit) {
     loop_ = nullptr;
     if (code == wokenCode)
         return Outcome::woken;
-    return code == timeOutCode ? Outcome::timeOut : Outcome::programEnds;
+    if (code == timeOutCode)
+        return Outcome::timeOut;
+    quitRequested_ = true;
+    return Outcome::programEnds;
 }
 
 void CallGate::leave() {

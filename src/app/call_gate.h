@@ -44,6 +44,9 @@ public:
     /// From now on, abandons a silent agent without asking: the user is gone.
     void leaveSilentAgents() { leaving_ = true; }
 
+    /// Whether the program was asked to quit during a wait.
+    bool quitRequested() const { return quitRequested_; }
+
 protected:
     void timerEvent(QTimerEvent* event) override;
     void customEvent(QEvent* event) override;
@@ -62,6 +65,7 @@ private:
 
     Times times_;
     bool leaving_ = false;
+    bool quitRequested_ = false;
     WaitRules rules_;
     std::unique_ptr<WaitingPanel> panel_;
     hessiancln::WaitHookInstallation installation_;

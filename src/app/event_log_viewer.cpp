@@ -12,6 +12,7 @@
 #include "ui/branding_resources.h"
 #include "ui/empty_note.h"
 #include "ui/fitting_text_delegate.h"
+#include "ui/later.h"
 #include "ui/remote_action.h"
 #include "ui/table_columns.h"
 #include "ui_event_log_viewer.h"
@@ -65,6 +66,8 @@ void EventLogViewer::setNamesByActivity(insight::SetNames names) {
 }
 
 void EventLogViewer::refreshData() {
+    if (ui::waitsForCall(*this, [this] { refreshData(); }))
+        return;
     ui::remoteAction(*this, tr("Error"), ui::Cursor::arrow, [this] {
         const int id = ui_->spinActivityID->value();
         if (ui_->checkActivityID->isChecked() && id != 0)

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+#include <QAbstractButton>
+#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QKeySequence>
@@ -112,8 +114,11 @@ bool isMoveInMenu(const QEvent& event) {
     }
 }
 
-bool isTimerOfProgram(const QObject& receiver) {
-    return qobject_cast<const QTimer*>(&receiver) || receiver.inherits("QSingleShotTimer");
+/// Whether its timers run code of the program, or step and click on the user's behalf.
+bool actsOnTimers(const QObject& receiver) {
+    return qobject_cast<const QTimer*>(&receiver) || receiver.inherits("QSingleShotTimer") ||
+           qobject_cast<const QAbstractSpinBox*>(&receiver) ||
+           qobject_cast<const QAbstractButton*>(&receiver);
 }
 
 /// Makes a tree lay itself out immediately, perhaps during a layout that fetches rows.
@@ -129,9 +134,13 @@ HeldEvents::HeldEvents(const WaitRules& rules, const QWidget& panel, std::functi
     , panel_(panel)
     , escape_(std::move(escape)) {
     QCoreApplication::instance()->installEventFilter(this);
+    silenceActions();
 }
 
 HeldEvents::~HeldEvents() {
+    for (const auto& action : silenced_)
+        if (action)
+            action->blockSignals(false);
     QCoreApplication::instance()->removeEventFilter(this);
     for (Held& held : held_)
         if (held.receiver)
@@ -153,7 +162,7 @@ bool HeldEvents::eventFilter(QObject* watched, QEvent* event) {
     }
     // Timers fire again.
     if (type == QEvent::Timer)
-        return isTimerOfProgram(*watched);
+        return actsOnTimers(*watched) && !isInPanel(*watched);
     if (type == QEvent::Close && event->spontaneous()) {
         event->ignore();
         return true;
@@ -186,7 +195,7 @@ bool HeldEvents::holdsInput(QObject& receiver, QWidget* target, QEvent& event) {
 }
 
 bool HeldEvents::isAdmitted(QWidget& target, const QEvent& event) const {
-    if (&target == &panel_ || panel_.isAncestorOf(&target)) {
+    if (isInPanel(target)) {
         const auto* key = dynamic_cast<const QKeyEvent*>(&event);
         return !key || key->key() != Qt::Key_Escape;
     }
@@ -203,6 +212,21 @@ bool HeldEvents::isAdmitted(QWidget& target, const QEvent& event) const {
 bool HeldEvents::isAdmitted(const QAction* action) const {
     return std::find(rules_.admittedActions.begin(), rules_.admittedActions.end(), action) !=
            rules_.admittedActions.end();
+}
+
+bool HeldEvents::isInPanel(const QObject& receiver) const {
+    const auto* widget = qobject_cast<const QWidget*>(&receiver);
+    return widget && (widget == &panel_ || panel_.isAncestorOf(widget));
+}
+
+/// A screen reader, for example, triggers an action without any input.
+void HeldEvents::silenceActions() {
+    for (const QWidget* widget : QApplication::allWidgets())
+        for (QAction* action : widget->actions())
+            if (!action->signalsBlocked() && !isAdmitted(action)) {
+                action->blockSignals(true);
+                silenced_.emplace_back(action);
+            }
 }
 
 void HeldEvents::holdOnce(QObject& receiver, QEvent::Type type) {

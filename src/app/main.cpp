@@ -33,7 +33,7 @@ int runWindow(QtSingleApplication& application) {
         app::showAtOnce(window);
     QObject::connect(&application, &QtSingleApplication::messageReceived, &window,
                      &SimpleGUIMainWindow::showMainWindow);
-    const int status = app::runLoggedIn(window);
+    const int status = app::runLoggedIn(window, gate);
     gate.leaveSilentAgents();
     session::disconnectFromAgent();
     return status;

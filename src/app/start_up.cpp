@@ -16,6 +16,7 @@
 #include <QWidget>
 #include <QWindow>
 
+#include "app/call_gate.h"
 #include "app/simple_gui_main_window.h"
 #include "session/connection.h"
 #include "ui/error_box.h"
@@ -35,6 +36,8 @@ void prepareToolkit() {
     QApplication::setStyle(QStringLiteral("plastique"));
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    // A menu bar shown by the desktop would trigger commands during a call.
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     // Don't round 150 % to 200 %: the window wouldn't fit the screen.
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
@@ -91,16 +94,18 @@ void showAtOnce(QWidget& window) {
     }
 }
 
-void logInAtStart(SimpleGUIMainWindow& window) {
+void logInAtStart(SimpleGUIMainWindow& window, const CallGate* gate) {
     window.doLogin(true);
+    if (gate && gate->quitRequested())
+        return;
     // The return value says less than the session does.
     if (!session::connectedToAgent())
         window.doLogin(false);
 }
 
-int runLoggedIn(SimpleGUIMainWindow& window) {
+int runLoggedIn(SimpleGUIMainWindow& window, const CallGate& gate) {
     // The loop ignores a quit from before its start, so the login is the first thing it runs.
-    QTimer::singleShot(0, &window, [&window] { logInAtStart(window); });
+    QTimer::singleShot(0, &window, [&] { logInAtStart(window, &gate); });
     return QApplication::exec();
 }
 

@@ -13,6 +13,8 @@ class SimpleGUIMainWindow;
 /// The steps of start-up up to the event loop.
 namespace app {
 
+class CallGate;
+
 /// Sets what Qt reads while the application object is made: style, scaling by any factor, and no
 /// search for OpenGL. The toolkit's own dialogs keep no settings.
 void prepareToolkit();
@@ -39,11 +41,12 @@ void applyStyleSheet(QApplication& application);
 void showAtOnce(QWidget& window);
 
 /// Tries the agent on this machine first, and asks the user if that didn't start a session. If
-/// there still is none, the window stays as it is.
-void logInAtStart(SimpleGUIMainWindow& window);
+/// there still is none, the window stays as it is. With `gate`, a quit while the first login waits
+/// for the agent ends it there.
+void logInAtStart(SimpleGUIMainWindow& window, const CallGate* gate = nullptr);
 
 /// Logs in as above, then runs the event loop to its end and returns its status. A quit during the
 /// login dialog, for example from the tray, ends both.
-int runLoggedIn(SimpleGUIMainWindow& window);
+int runLoggedIn(SimpleGUIMainWindow& window, const CallGate& gate);
 
 } // namespace app

@@ -6,6 +6,8 @@
 
 #include <QElapsedTimer>
 
+#include "ui/later.h"
+
 namespace insight {
 
 namespace {
@@ -17,16 +19,21 @@ constexpr qint64 sliceMilliseconds = 30;
 
 Slices::Slices(std::function<bool()> step, QObject* parent)
     : QObject(parent)
-    , step_(std::move(step)) {
-    connect(&timer_, &QTimer::timeout, this, &Slices::doSlice);
-}
+    , step_(std::move(step)) {}
 
 void Slices::start() {
-    timer_.start(0);
+    running_ = true;
+    postSlice();
 }
 
-void Slices::stop() {
-    timer_.stop();
+void Slices::postSlice() {
+    if (std::exchange(posted_, true))
+        return;
+    ui::later(*this, [this] {
+        posted_ = false;
+        if (running_)
+            doSlice();
+    });
 }
 
 void Slices::doSlice() {
@@ -40,6 +47,8 @@ void Slices::doSlice() {
     emit progressed();
     if (!hasMore)
         emit finished();
+    else if (running_)
+        postSlice();
 }
 
 } // namespace insight

@@ -5,7 +5,6 @@
 #include <functional>
 
 #include <QObject>
-#include <QTimer>
 
 namespace insight {
 
@@ -20,8 +19,8 @@ public:
     explicit Slices(std::function<bool()> step, QObject* parent = nullptr);
 
     void start();
-    void stop();
-    bool isRunning() const { return timer_.isActive(); }
+    void stop() { running_ = false; }
+    bool isRunning() const { return running_; }
 
 signals:
     /// Emitted after each slice.
@@ -30,10 +29,12 @@ signals:
     void finished();
 
 private:
+    void postSlice();
     void doSlice();
 
     std::function<bool()> step_;
-    QTimer timer_;
+    bool running_ = false;
+    bool posted_ = false;
 };
 
 } // namespace insight

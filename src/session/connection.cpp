@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "session/connection.h"
 
+#include <cassert>
 #include <exception>
 #include <utility>
 
@@ -15,10 +16,12 @@
 #include "session/agent_url.h"
 #include "session/integrated_logon.h"
 #include "session/text.h"
+#include "transport/call_passage.h"
 #include "transport/raw_stream_dispatcher.h"
 
 namespace session {
 
+using hessiancln::CallPassage;
 using hessiancln::ClientConnection;
 using hessianser::serialize_exception;
 using Root = boost::shared_ptr<ClientConnection>;
@@ -51,6 +54,7 @@ void moveToRawStream(ClientConnection& root) {
 
 void connectToAgent(const std::string& address, const std::string& user,
                     const std::string& password, std::int32_t flag) {
+    assert(!CallPassage::underWay());
     std::string apiUrl;
     std::string baseUrl;
     normalizeAgentUrl(address, apiUrl, baseUrl);
@@ -76,6 +80,7 @@ void connectToAgent(const std::string& address, const std::string& user,
 }
 
 void disconnectFromAgent() {
+    assert(!CallPassage::underWay());
     const std::lock_guard lock(g_connectionMutex);
     if (!g_connection)
         return;
@@ -88,6 +93,7 @@ void disconnectFromAgent() {
 }
 
 Root getConnection() {
+    assert(!CallPassage::underWay());
     const std::lock_guard lock(g_connectionMutex);
     if (!g_connection)
         throw serialize_exception("No API connection exists");

@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "session/process_values.h"
 
+#include <cassert>
+
+#include "transport/call_passage.h"
+
 namespace session {
 
 boost::shared_ptr<hessiancln::ClientConnection> g_connection;
@@ -15,6 +19,7 @@ std::string g_currentUser;
 QString g_language;
 
 bool connectedToAgent() {
+    assert(!hessiancln::CallPassage::underWay());
     const std::lock_guard lock(g_connectionMutex);
     return g_connection != nullptr;
 }

@@ -21,7 +21,8 @@ namespace session {
 /// the whole program. Read it through `getConnection` and `connectedToAgent`.
 extern boost::shared_ptr<hessiancln::ClientConnection> g_connection;
 
-/// Guards every access to `g_connection`. Held throughout a login or logout.
+/// Guards every access to `g_connection`. Held throughout a login or logout, so what runs while
+/// this thread waits for the agent must not touch the session.
 extern std::mutex g_connectionMutex;
 
 /// The kind reported by the last agent tried, even if it was refused; see agent_kind.h.

@@ -7,6 +7,8 @@
 #include <QCoreApplication>
 #include <QObject>
 
+#include "transport/call_passage.h"
+
 namespace ui {
 
 namespace {
@@ -37,6 +39,13 @@ private:
 
 void later(QObject& context, std::function<void()> work) {
     QCoreApplication::postEvent(new Errand(context, std::move(work)), new QEvent(laterEventType()));
+}
+
+bool waitsForCall(QObject& context, std::function<void()> again) {
+    if (!hessiancln::CallPassage::underWay())
+        return false;
+    later(context, std::move(again));
+    return true;
 }
 
 QEvent::Type laterEventType() {

@@ -14,6 +14,13 @@ namespace ui {
 /// may call the agent: a queued call of Qt can't be deferred while another call is pending.
 void later(QObject& context, std::function<void()> work);
 
+/// Whether a call to the agent is under way; if so, `again` runs after it, as above. For handlers
+/// of what a wait lets through, like a lost focus:
+///
+///     if (ui::waitsForCall(*this, [this] { nameEdited(); }))
+///         return;
+bool waitsForCall(QObject& context, std::function<void()> again);
+
 /// The type of the event that runs such work. Posting it again postpones the work.
 QEvent::Type laterEventType();
 

@@ -4,6 +4,7 @@
 
 #include <optional>
 
+#include "transport/call_passage.h"
 #include "ui/error_box.h"
 #include "ui/wait_cursor.h"
 
@@ -11,6 +12,8 @@ namespace ui {
 
 bool remoteAction(QWidget& widget, const QString& title, Cursor cursor,
                   const std::function<void()>& work) {
+    if (hessiancln::CallPassage::underWay())
+        return false;
     std::optional<WaitCursor> waiting;
     if (cursor == Cursor::wait)
         waiting.emplace(widget);

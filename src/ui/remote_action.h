@@ -15,6 +15,8 @@ enum class Cursor { arrow, wait };
 /// Runs an action on the agent that a click started, under the wait cursor of `widget` if
 /// requested. An exception derived from `std::exception` ends it and is shown under `title`, with
 /// `widget` as the box's parent. Returns whether `work` succeeded.
+///
+/// During another call it does nothing and returns false: nobody could answer a box.
 bool remoteAction(QWidget& widget, const QString& title, Cursor cursor,
                   const std::function<void()>& work);
 

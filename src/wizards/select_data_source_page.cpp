@@ -12,6 +12,7 @@
 #include "session/connection.h"
 #include "session/required.h"
 #include "session/text.h"
+#include "ui/later.h"
 #include "ui/remote_action.h"
 #include "ui_select_data_source_page.h"
 #include "wizards/enter_simple_user_psw.h"
@@ -256,6 +257,8 @@ void SelectDataSourcePage::computerNameEdited() {
     // the user tabs through it: nothing was typed in these cases. A cancelled wizard hides its page
     // and discards the input.
     if (editing_ || ui_->editComputerName->isReadOnly() || isHidden())
+        return;
+    if (ui::waitsForCall(*this, [this] { computerNameEdited(); }))
         return;
     takeTypedComputer();
 }

@@ -21,6 +21,7 @@
 #include "models/tree_state_memo.h"
 #include "ui/empty_note.h"
 #include "ui/error_box.h"
+#include "ui/later.h"
 #include "ui/remote_action.h"
 #include "wizards/backup_time_span.h"
 #include "wizards/exact_time.h"
@@ -61,6 +62,8 @@ bool StoredItemsPage::validatePage() {
 }
 
 void StoredItemsPage::atField(const std::function<void()>& work) {
+    if (ui::waitsForCall(*this, [this, work] { atField(work); }))
+        return;
     if (ui::remoteAction(*window(), tr("Error"), ui::Cursor::arrow, work))
         return;
     filterOfView_.putBack();

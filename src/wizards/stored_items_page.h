@@ -64,7 +64,8 @@ protected:
     /// only until then. Throws what the call throws.
     void loadDateLimits(hessiancln::BackupSet& set, QDateTimeEdit& from,
                         std::initializer_list<QDateTimeEdit*> others);
-    /// Runs an action triggered by a field. A failure is shown.
+    /// Runs an action triggered by a field, after the call that is under way if there is one. A
+    /// failure is shown.
     void atField(const std::function<void()>& work);
     /// Whether the filter differs from the current view. The Return key makes a date field signal a
     /// change even if there is none.

@@ -9,6 +9,7 @@
 #include <QTranslator>
 #include <QWidget>
 
+#include "app/call_gate.h"
 #include "app/login_check.h"
 #include "app/simple_gui_main_window.h"
 #include "app/start_up.h"
@@ -170,6 +171,7 @@ private slots:
 
     void aQuitDuringTheLoginEndsTheProgram() {
         // There is no agent, so the login dialog opens.
+        const app::CallGate gate;
         SimpleGUIMainWindow window;
         QTimer quit;
         connect(&quit, &QTimer::timeout, [&] {
@@ -184,7 +186,7 @@ private slots:
             QApplication::closeAllWindows();
             QCoreApplication::quit();
         });
-        QCOMPARE(app::runLoggedIn(window), 0);
+        QCOMPARE(app::runLoggedIn(window, gate), 0);
         QVERIFY(!hung);
         QVERIFY(!QApplication::activeModalWidget());
         QVERIFY(!session::connectedToAgent());

@@ -5,66 +5,50 @@
 #include <csignal>
 #include <fstream>
 #include <memory>
+#include <utility>
 
 #include <QAction>
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenu>
-#include <QMenuBar>
 #include <QMessageBox>
 #include <QPointer>
 #include <QProcess>
 #include <QPushButton>
 #include <QTest>
-#include <QTimer>
 #include <QWindow>
 
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "app/call_gate.h"
 #include "app/login_check.h"
+#include "app/start_up.h"
+#include "insight/backup_health_window.h"
 #include "resources/pictures.h"
 #include "session/connection.h"
-#include "tests/support/gui_agent.h"
-#include "tests/support/gui_main_window.h"
+#include "tests/gui/waiting_fixture.h"
 #include "tests/support/gui_modal_driver.h"
 #include "tests/support/gui_port_redirect.h"
 #include "tests/support/gui_translation.h"
-#include "tests/support/gui_wait.h"
 #include "tests/support/held_names.h"
-#include "ui/later.h"
 
 using namespace std::chrono_literals;
+using gui_tests::Calls;
 using support::child;
 using support::clickDisconnect;
-using support::GuiAgent;
 using support::InTheWait;
 using support::isDialog;
 using support::leftAgent;
 using support::MainWindowDriver;
 using support::methodsOf;
 using support::ModalDriver;
+using support::PaintCount;
 using support::waitingPanel;
 using support::waitingText;
-using Calls = std::vector<std::string>;
 
 namespace {
 
 const QString firstText = QStringLiteral("The agent hasn't answered for N s.");
-const app::CallGate::Times quickTimes{20ms, 60ms};
-
-/// Counts the paint events of a widget.
-class Paints : public QObject {
-public:
-    explicit Paints(QWidget& widget) { widget.installEventFilter(this); }
-    bool eventFilter(QObject*, QEvent* event) override {
-        count += event->type() == QEvent::Paint;
-        return false;
-    }
-    int count = 0;
-};
 
 /// The memory of this process that is really there, in bytes; 0 under a sanitizer, which notes
 /// beside each block what may be done with it.
@@ -81,32 +65,14 @@ std::size_t residentMemory() {
 #endif
 }
 
-/// Clicks as the desktop would report it.
-void clickOnWindow(QWidget& window, QWidget& target) {
-    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {},
-                      target.mapTo(&window, target.rect().center()));
-}
-
 } // namespace
 
-class WaitingTest : public QObject {
+class WaitingTest : public QObject, private gui_tests::WaitingFixture {
     Q_OBJECT
 private slots:
     void initTestCase() { resources::initPictures(); }
-    void init() {
-        agent_ = std::make_unique<GuiAgent>();
-        gate_ = std::make_unique<app::CallGate>(quickTimes);
-        driver_ = std::make_unique<MainWindowDriver>();
-        driver_->window().keepAliveBy(*gate_);
-        driver_->logIn(*agent_);
-    }
-    void cleanup() {
-        QVERIFY(!waitingPanel());
-        driver_.reset();
-        gate_.reset();
-        QCOMPARE(agent_->violations(), Calls{});
-        agent_.reset();
-    }
+    void init() { setUp(); }
+    void cleanup() { tearDown(); }
 
     void aSilentAgentIsLeftByTheButton();
     void aSilentAgentIsLeftByEscape();
@@ -115,19 +81,12 @@ private slots:
     void thePanelCountsTheSeconds();
     void thePanelStaysInTheMiddle();
     void thePanelSpeaksGerman();
-    void inputDoesNothing();
-    void whatWasPressedBeforeIsReleasedAfterwards();
-    void keysDoNothing();
-    void theWindowCantBeClosed();
-    void heartbeatsAreMadeUpForOnce();
-    void postedWorkWaits();
-    void timersWait();
-    void deletionsWait();
     void quitWorks_data();
     void quitWorks();
-    void menusTriggerNothingButQuit();
     void aHiddenWindowShowsThePanelOnceItIsShown();
     void thePanelLiesOverTheDialogInFront();
+    void thePanelLiesOverAWindowBesideTheHiddenOne();
+    void aQuitDuringTheFirstLoginAsksForNoOther();
     void aNameThatIsntResolvedIsLeft();
     void nobodyIsAskedOnceTheProgramEnds();
     void anAgentThatIsSuspendedAnswersOnceItGoesOn();
@@ -135,9 +94,6 @@ private slots:
     void aReplyThatIsOnlyAnnouncedTakesNoMemory();
 
 private:
-    void beSilent(const char* method = "getTarnClientInfo") {
-        agent_->inject(method, simulator::Silence{});
-    }
     /// Ends each wait as soon as the panel appears.
     std::unique_ptr<InTheWait> leaveAtOnce() {
         return std::make_unique<InTheWait>([] {
@@ -161,10 +117,6 @@ private:
     /// Beats until the panel is there and the window has painted more than once under it, leaves
     /// the agent, and logs in again.
     void leaveAnAgentUnderPaints();
-
-    std::unique_ptr<GuiAgent> agent_;
-    std::unique_ptr<app::CallGate> gate_;
-    std::unique_ptr<MainWindowDriver> driver_;
 };
 
 void WaitingTest::aSilentAgentIsLeftByTheButton() {
@@ -209,7 +161,7 @@ void WaitingTest::aShorterWaitPaintsAndShowsNoPanel() {
     driver_->window().keepAliveBy(*gate_);
     driver_->logIn(*agent_);
     agent_->inject("getTarnClientInfo", simulator::Delay{200ms});
-    Paints paints(driver_->window());
+    PaintCount paints(driver_->window());
     bool shown = false;
     const InTheWait user([&] {
         shown = shown || waitingPanel();
@@ -267,153 +219,6 @@ void WaitingTest::thePanelSpeaksGerman() {
     QCOMPARE(beatAndLeave(), QStringLiteral("Der Agent antwortet seit N s nicht."));
 }
 
-void WaitingTest::inputDoesNothing() {
-    beSilent();
-    auto& window = driver_->window();
-    driver_->sets().selectRow(0);
-    agent_->clearCallLog();
-    int rounds = 0;
-    const InTheWait user([&] {
-        if (!waitingPanel())
-            return;
-        for (QWidget* tool : window.findChildren<QToolButton*>())
-            if (tool->isVisible() && tool->isEnabled())
-                clickOnWindow(window, *tool);
-        clickOnWindow(window, *driver_->sets().viewport());
-        QTest::mouseClick(
-            driver_->sets().viewport(), Qt::LeftButton, {},
-            driver_->sets().visualRect(driver_->sets().model()->index(1, 0)).center());
-        QCOMPARE(driver_->selectedRow(), 0);
-        if (++rounds == 3)
-            clickDisconnect();
-    });
-    driver_->beat();
-    QCOMPARE(rounds, 3);
-    QCOMPARE(methodsOf(*agent_), Calls{"getTarnClientInfo"});
-    QVERIFY(!QApplication::activeModalWidget());
-}
-
-void WaitingTest::whatWasPressedBeforeIsReleasedAfterwards() {
-    agent_->inject("getTarnClientInfo", simulator::Delay{300ms});
-    auto& window = driver_->window();
-    QPushButton button(QStringLiteral("Held"), &window);
-    button.setGeometry(20, 200, 100, 40);
-    button.show();
-    int clicks = 0;
-    connect(&button, &QPushButton::clicked, &button, [&] { ++clicks; });
-    const QPoint place = button.mapTo(&window, button.rect().center());
-    QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, place);
-    QVERIFY(button.isDown());
-    bool released = false;
-    const InTheWait user([&] {
-        if (!waitingPanel() || released)
-            return;
-        released = true;
-        QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, place);
-        QCOMPARE(clicks, 0);
-    });
-    driver_->beat();
-    QVERIFY(released);
-    QTRY_COMPARE(clicks, 1);
-    QVERIFY(!button.isDown());
-}
-
-void WaitingTest::keysDoNothing() {
-    agent_->inject("getTarnClientInfo", simulator::Delay{300ms});
-    auto& window = driver_->window();
-    QLineEdit field(&window);
-    field.show();
-    field.setFocus();
-    QTRY_VERIFY(field.hasFocus());
-    const InTheWait user([&] {
-        if (waitingPanel())
-            QTest::keyClick(window.windowHandle(), Qt::Key_X);
-    });
-    driver_->beat();
-    QCOMPARE(field.text(), QString());
-    QTest::keyClick(window.windowHandle(), Qt::Key_Y, {});
-    QCOMPARE(field.text(), QStringLiteral("y"));
-}
-
-void WaitingTest::theWindowCantBeClosed() {
-    agent_->inject("getTarnClientInfo", simulator::Delay{300ms});
-    bool closed = false;
-    const InTheWait user([&] {
-        if (!waitingPanel())
-            return;
-        QCloseEvent close;
-        QSpontaneKeyEvent::setSpontaneous(&close);
-        QCoreApplication::instance()->notify(driver_->window().windowHandle(), &close);
-        closed = true;
-        QVERIFY(!close.isAccepted());
-    });
-    driver_->beat();
-    QVERIFY(closed);
-    QVERIFY(driver_->window().isVisible());
-}
-
-void WaitingTest::heartbeatsAreMadeUpForOnce() {
-    agent_->inject("getTarnClientInfo", simulator::Delay{300ms});
-    int posted = 0;
-    const InTheWait user([&] {
-        if (++posted <= 5)
-            driver_->postBeat();
-        QVERIFY(methodsOf(*agent_).size() <= 1);
-    });
-    driver_->beat();
-    QVERIFY(posted >= 2);
-    agent_->clearCallLog();
-    QVERIFY(QTest::qWaitFor([&] { return !methodsOf(*agent_).empty(); }));
-    QCoreApplication::processEvents();
-    const auto calls = methodsOf(*agent_);
-    QCOMPARE(std::count(calls.begin(), calls.end(), "getTarnClientInfo"), std::ptrdiff_t(1));
-}
-
-void WaitingTest::postedWorkWaits() {
-    agent_->inject("getTarnClientInfo", simulator::Delay{200ms});
-    bool inWait = true;
-    int runs = 0;
-    QObject context;
-    const auto work = [&] {
-        ++runs;
-        inWait = hessiancln::CallPassage::underWay();
-    };
-    ui::later(context, work);
-    driver_->beat();
-    QCOMPARE(runs, 0);
-    QTRY_COMPARE(runs, 1);
-    QVERIFY(!inWait);
-}
-
-void WaitingTest::timersWait() {
-    agent_->inject("getTarnClientInfo", simulator::Delay{200ms});
-    int fired = 0;
-    QTimer timer;
-    connect(&timer, &QTimer::timeout, &timer, [&] { ++fired; });
-    timer.start(10);
-    QTimer::singleShot(30, &timer, [&] { ++fired; });
-    driver_->beat();
-    QCOMPARE(fired, 0);
-    QTRY_VERIFY(fired > 1);
-}
-
-void WaitingTest::deletionsWait() {
-    agent_->inject("getTarnClientInfo", simulator::Delay{200ms});
-    QPointer<QObject> doomed = new QObject;
-    bool asked = false;
-    const InTheWait user([&] {
-        if (std::exchange(asked, true))
-            return;
-        doomed->deleteLater();
-        QCoreApplication::sendPostedEvents(doomed, QEvent::DeferredDelete);
-        QVERIFY(doomed);
-    });
-    driver_->beat();
-    QVERIFY(asked);
-    QVERIFY(doomed);
-    QTRY_VERIFY(!doomed);
-}
-
 void WaitingTest::quitWorks_data() {
     QTest::addColumn<bool>("withPanel");
     QTest::newRow("before the panel") << false;
@@ -433,41 +238,6 @@ void WaitingTest::quitWorks() {
     driver_->postBeat();
     QCOMPARE(QCoreApplication::exec(), 0);
     QVERIFY(quit);
-    QCOMPARE(methodsOf(*agent_), Calls{"getTarnClientInfo"});
-}
-
-void WaitingTest::menusTriggerNothingButQuit() {
-    beSilent();
-    auto& window = driver_->window();
-    auto& menu = child<QMenu>(window, "menu_Application");
-    const auto click = [&](const char* action) {
-        const QRect row = menu.actionGeometry(&child<QAction>(window, action));
-        QTest::mouseClick(menu.windowHandle(), Qt::LeftButton, {}, row.center());
-    };
-    int step = 0;
-    const InTheWait user([&] {
-        if (!waitingPanel())
-            return;
-        if (step == 0) {
-            const QMenuBar& bar = *window.menuBar();
-            QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {},
-                              bar.actionGeometry(menu.menuAction()).center() + bar.pos());
-        } else if (step == 1) {
-            QVERIFY(menu.isVisible());
-            click("actionLogout");
-            QVERIFY(session::g_connection);
-        } else if (step == 2) {
-            QTest::keyClick(menu.windowHandle(), Qt::Key_D);
-            QVERIFY(session::g_connection);
-            if (!menu.isVisible())
-                menu.popup(window.mapToGlobal(QPoint()));
-            click("actionQuit");
-        }
-        ++step;
-    });
-    driver_->postBeat();
-    QCOMPARE(QCoreApplication::exec(), 0);
-    QCOMPARE(step, 3);
     QCOMPARE(methodsOf(*agent_), Calls{"getTarnClientInfo"});
 }
 
@@ -521,6 +291,38 @@ void WaitingTest::thePanelLiesOverTheDialogInFront() {
     QVERIFY2(said.startsWith(leftAgent), qPrintable(said));
 }
 
+void WaitingTest::thePanelLiesOverAWindowBesideTheHiddenOne() {
+    driver_->trigger("actionBackup_Health");
+    auto& health = child<BackupHealthWindow>(driver_->window(), "BackupHealthWindow");
+    QVERIFY(health.isVisible());
+    driver_->window().hideMainWindow();
+    agent_->inject("getTarnClientInfo", simulator::Delay{2s});
+    QPointer<QWidget> host;
+    const InTheWait user([&] {
+        if (!waitingPanel())
+            return;
+        host = waitingPanel()->parentWidget();
+        QTest::keyClick(health.windowHandle(), Qt::Key_Escape);
+    });
+    driver_->beat();
+    QCOMPARE(host.data(), &health);
+    QVERIFY(!session::connectedToAgent());
+}
+
+void WaitingTest::aQuitDuringTheFirstLoginAsksForNoOther() {
+    driver_->window().OnDisconnect();
+    agent_->clearCallLog();
+    beSilent("getTarnClientType");
+    bool quit = false;
+    const InTheWait user([&] {
+        if (!std::exchange(quit, true))
+            driver_->trigger("actionQuit");
+    });
+    QCOMPARE(app::runLoggedIn(driver_->window(), *gate_), 0);
+    QVERIFY(quit);
+    QCOMPARE(methodsOf(*agent_), Calls{"getTarnClientType"});
+}
+
 void WaitingTest::aNameThatIsntResolvedIsLeft() {
     driver_->window().OnDisconnect();
     support::HeldNames names;
@@ -568,7 +370,7 @@ void WaitingTest::anAgentThatIsSuspendedAnswersOnceItGoesOn() {
 }
 
 void WaitingTest::leaveAnAgentUnderPaints() {
-    Paints paints(driver_->window());
+    PaintCount paints(driver_->window());
     int underPanel = 0;
     {
         const InTheWait user([&] {

@@ -6,6 +6,7 @@
 #include "api/client_connection.h"
 #include "tests/session/agent_fixture.h"
 #include "tests/support/bytes.h"
+#include "transport/call_passage.h"
 #include "transport/invoke_exception.h"
 
 // The agent's calls and their order, from the login to the last release.
@@ -168,6 +169,19 @@ TEST_F(SessionLifetime, DisconnectLeavesACallUnderWayItsObject) {
     EXPECT_GT(call.get(), 0u);
     EXPECT_THAT(agent.callTexts(),
                 ElementsAre("ClientConnection.getTarnClientInfo()", logout, release));
+}
+
+TEST(SessionInsideACall, IsAnErrorOfThisProgram) {
+#ifdef NDEBUG
+    GTEST_SKIP() << "checked by assertions";
+#else
+    const hessiancln::CallPassage call;
+    const char* const assertion = "underWay";
+    EXPECT_DEATH(session::connectToAgent("127.0.0.1:1", "demo", "demo", 1), assertion);
+    EXPECT_DEATH(session::disconnectFromAgent(), assertion);
+    EXPECT_DEATH(session::getConnection(), assertion);
+    EXPECT_DEATH(session::connectedToAgent(), assertion);
+#endif
 }
 
 } // namespace

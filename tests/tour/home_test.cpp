@@ -12,10 +12,15 @@
 #include "tests/tour/album.h"
 #include "tests/tour/stories.h"
 
-/// The program keeps nothing in the user's home, whatever screens were open.
+/// The program keeps nothing in the user's home, whatever screens were open, and its menu bar stays
+/// in its window: the desktop would trigger commands even during a call.
 class HomeTest : public QObject {
     Q_OBJECT
 private slots:
+    void doesNotGetTheMenuBar() {
+        QVERIFY(QCoreApplication::testAttribute(Qt::AA_DontUseNativeMenuBar));
+    }
+
     void staysEmpty() {
         const QString home = QDir::homePath();
         QCOMPARE(QFile::encodeName(home), qgetenv("HOME"));

@@ -10,6 +10,7 @@
 
 #include "resources/pictures.h"
 #include "tests/support/gui_modal_driver.h"
+#include "transport/call_passage.h"
 #include "ui/error_box.h"
 #include "ui/message_box.h"
 #include "ui/remote_action.h"
@@ -50,6 +51,21 @@ private slots:
         }));
         QVERIFY(modals.done());
         QCOMPARE(window.cursor().shape(), Qt::ArrowCursor);
+    }
+
+    void duringACallItDoesNothing() {
+        QWidget window;
+        ModalDriver modals; // any box fails the test
+        bool ran = false;
+        {
+            const hessiancln::CallPassage call;
+            QVERIFY(!ui::remoteAction(window, QStringLiteral("Error"), ui::Cursor::wait, [&] {
+                ran = true;
+                throw std::runtime_error("x");
+            }));
+        }
+        QVERIFY(modals.done());
+        QVERIFY(!ran);
     }
 
     void saysThatThereWasNoReason_data() {

@@ -1,0 +1,369 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+// What has to wait while the agent doesn't answer: all that could lead to another call.
+#include <algorithm>
+#include <utility>
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPointer>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QStyleOptionSpinBox>
+#include <QTableView>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+#include <QWindow>
+
+#include "app/about_dlg.h"
+#include "app/backup_set_view_item.h"
+#include "app/open_backup_set.h"
+#include "insight/slices.h"
+#include "resources/pictures.h"
+#include "session/connection.h"
+#include "tests/gui/waiting_fixture.h"
+#include "tests/support/gui_modal_driver.h"
+#include "ui/later.h"
+#include "wizards/delete_select_page.h"
+
+using namespace std::chrono_literals;
+using gui_tests::Calls;
+using support::child;
+using support::clickDisconnect;
+using support::InTheWait;
+using support::isDialog;
+using support::methodsOf;
+using support::ModalDriver;
+using support::waitingPanel;
+
+namespace {
+
+/// Clicks as the desktop would report it.
+void clickOnWindow(QWidget& window, QWidget& target) {
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {},
+                      target.mapTo(&window, target.rect().center()));
+}
+
+} // namespace
+
+class HeldEventsTest : public QObject, private gui_tests::WaitingFixture {
+    Q_OBJECT
+private slots:
+    void initTestCase() { resources::initPictures(); }
+    void init() { setUp(); }
+    void cleanup() { tearDown(); }
+
+    void inputDoesNothing();
+    void whatWasPressedBeforeIsReleasedAfterwards();
+    void keysDoNothing();
+    void theWindowCantBeClosed();
+    void heartbeatsAreMadeUpForOnce();
+    void postedWorkWaits();
+    void timersWait();
+    void slicesWaitWithoutALoad();
+    void deletionsWait();
+    void menusTriggerNothingButQuit();
+    void commandsTriggeredWithoutInputDoNothing();
+    void theTypedNameIsSentAfterTheCall();
+    void aFieldThatLosesTheFocusWaits();
+    void anArrowThatIsHeldStepsNoFurther();
+
+private:
+    /// Calls of one method.
+    int count(const char* method) {
+        const auto calls = methodsOf(*agent_);
+        return static_cast<int>(std::count(calls.begin(), calls.end(), method));
+    }
+    /// A slow heartbeat, in which the user turns to another program.
+    void loseFocusDuringACall() {
+        agent_->inject("getTarnClientInfo", simulator::Delay{300ms});
+        bool away = false;
+        const InTheWait user([&] {
+            if (std::exchange(away, true))
+                return;
+            QVERIFY(QApplication::focusWidget());
+            QApplication::setActiveWindow(nullptr);
+            QVERIFY(!QApplication::focusWidget());
+        });
+        driver_->beat();
+        QVERIFY(away);
+    }
+};
+
+void HeldEventsTest::inputDoesNothing() {
+    beSilent();
+    auto& window = driver_->window();
+    driver_->sets().selectRow(0);
+    agent_->clearCallLog();
+    int rounds = 0;
+    const InTheWait user([&] {
+        if (!waitingPanel())
+            return;
+        for (QWidget* tool : window.findChildren<QToolButton*>())
+            if (tool->isVisible() && tool->isEnabled())
+                clickOnWindow(window, *tool);
+        clickOnWindow(window, *driver_->sets().viewport());
+        QTest::mouseClick(
+            driver_->sets().viewport(), Qt::LeftButton, {},
+            driver_->sets().visualRect(driver_->sets().model()->index(1, 0)).center());
+        QCOMPARE(driver_->selectedRow(), 0);
+        if (++rounds == 3)
+            clickDisconnect();
+    });
+    driver_->beat();
+    QCOMPARE(rounds, 3);
+    QCOMPARE(methodsOf(*agent_), Calls{"getTarnClientInfo"});
+    QVERIFY(!QApplication::activeModalWidget());
+}
+
+void HeldEventsTest::whatWasPressedBeforeIsReleasedAfterwards() {
+    agent_->inject("getTarnClientInfo", simulator::Delay{300ms});
+    auto& window = driver_->window();
+    QPushButton button(QStringLiteral("Held"), &window);
+    button.setGeometry(20, 200, 100, 40);
+    button.show();
+    int clicks = 0;
+    connect(&button, &QPushButton::clicked, &button, [&] { ++clicks; });
+    const QPoint place = button.mapTo(&window, button.rect().center());
+    QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, place);
+    QVERIFY(button.isDown());
+    bool released = false;
+    const InTheWait user([&] {
+        if (!waitingPanel() || released)
+            return;
+        released = true;
+        QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, place);
+        QCOMPARE(clicks, 0);
+    });
+    driver_->beat();
+    QVERIFY(released);
+    QTRY_COMPARE(clicks, 1);
+    QVERIFY(!button.isDown());
+}
+
+void HeldEventsTest::keysDoNothing() {
+    agent_->inject("getTarnClientInfo", simulator::Delay{300ms});
+    auto& window = driver_->window();
+    QLineEdit field(&window);
+    field.show();
+    field.setFocus();
+    QTRY_VERIFY(field.hasFocus());
+    const InTheWait user([&] {
+        if (waitingPanel())
+            QTest::keyClick(window.windowHandle(), Qt::Key_X);
+    });
+    driver_->beat();
+    QCOMPARE(field.text(), QString());
+    QTest::keyClick(window.windowHandle(), Qt::Key_Y, {});
+    QCOMPARE(field.text(), QStringLiteral("y"));
+}
+
+void HeldEventsTest::theWindowCantBeClosed() {
+    agent_->inject("getTarnClientInfo", simulator::Delay{300ms});
+    bool closed = false;
+    const InTheWait user([&] {
+        if (!waitingPanel())
+            return;
+        QCloseEvent close;
+        QSpontaneKeyEvent::setSpontaneous(&close);
+        QCoreApplication::instance()->notify(driver_->window().windowHandle(), &close);
+        closed = true;
+        QVERIFY(!close.isAccepted());
+    });
+    driver_->beat();
+    QVERIFY(closed);
+    QVERIFY(driver_->window().isVisible());
+}
+
+void HeldEventsTest::heartbeatsAreMadeUpForOnce() {
+    agent_->inject("getTarnClientInfo", simulator::Delay{300ms});
+    int posted = 0;
+    const InTheWait user([&] {
+        if (++posted <= 5)
+            driver_->postBeat();
+        QVERIFY(methodsOf(*agent_).size() <= 1);
+    });
+    driver_->beat();
+    QVERIFY(posted >= 2);
+    agent_->clearCallLog();
+    QVERIFY(QTest::qWaitFor([&] { return !methodsOf(*agent_).empty(); }));
+    QCoreApplication::processEvents();
+    const auto calls = methodsOf(*agent_);
+    QCOMPARE(std::count(calls.begin(), calls.end(), "getTarnClientInfo"), std::ptrdiff_t(1));
+}
+
+void HeldEventsTest::postedWorkWaits() {
+    agent_->inject("getTarnClientInfo", simulator::Delay{200ms});
+    bool inWait = true;
+    int runs = 0;
+    QObject context;
+    const auto work = [&] {
+        ++runs;
+        inWait = hessiancln::CallPassage::underWay();
+    };
+    ui::later(context, work);
+    driver_->beat();
+    QCOMPARE(runs, 0);
+    QTRY_COMPARE(runs, 1);
+    QVERIFY(!inWait);
+}
+
+void HeldEventsTest::timersWait() {
+    agent_->inject("getTarnClientInfo", simulator::Delay{200ms});
+    int fired = 0;
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, &timer, [&] { ++fired; });
+    timer.start(10);
+    QTimer::singleShot(30, &timer, [&] { ++fired; });
+    driver_->beat();
+    QCOMPARE(fired, 0);
+    QTRY_VERIFY(fired > 1);
+}
+
+void HeldEventsTest::deletionsWait() {
+    agent_->inject("getTarnClientInfo", simulator::Delay{200ms});
+    QPointer<QObject> doomed = new QObject;
+    bool asked = false;
+    const InTheWait user([&] {
+        if (std::exchange(asked, true))
+            return;
+        doomed->deleteLater();
+        QCoreApplication::sendPostedEvents(doomed, QEvent::DeferredDelete);
+        QVERIFY(doomed);
+    });
+    driver_->beat();
+    QVERIFY(asked);
+    QVERIFY(doomed);
+    QTRY_VERIFY(!doomed);
+}
+
+void HeldEventsTest::menusTriggerNothingButQuit() {
+    beSilent();
+    auto& window = driver_->window();
+    auto& menu = child<QMenu>(window, "menu_Application");
+    const auto click = [&](const char* action) {
+        const QRect row = menu.actionGeometry(&child<QAction>(window, action));
+        QTest::mouseClick(menu.windowHandle(), Qt::LeftButton, {}, row.center());
+    };
+    int step = 0;
+    const InTheWait user([&] {
+        if (!waitingPanel())
+            return;
+        if (step == 0) {
+            const QMenuBar& bar = *window.menuBar();
+            QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {},
+                              bar.actionGeometry(menu.menuAction()).center() + bar.pos());
+        } else if (step == 1) {
+            QVERIFY(menu.isVisible());
+            click("actionLogout");
+            QVERIFY(session::g_connection);
+        } else if (step == 2) {
+            QTest::keyClick(menu.windowHandle(), Qt::Key_D);
+            QVERIFY(session::g_connection);
+            if (!menu.isVisible())
+                menu.popup(window.mapToGlobal(QPoint()));
+            click("actionQuit");
+        }
+        ++step;
+    });
+    driver_->postBeat();
+    QCOMPARE(QCoreApplication::exec(), 0);
+    QCOMPARE(step, 3);
+    QCOMPARE(methodsOf(*agent_), Calls{"getTarnClientInfo"});
+}
+
+void HeldEventsTest::theTypedNameIsSentAfterTheCall() {
+    auto& card = driver_->card(0);
+    card.startEditingSetName();
+    child<QLineEdit>(card, "nameEditor").setText(QStringLiteral("Renamed"));
+    loseFocusDuringACall();
+    QCOMPARE(count("setName"), 0);
+    QTRY_COMPARE(count("setName"), 1);
+    QVERIFY(driver_->cards().first().startsWith(QStringLiteral("Renamed\n")));
+}
+
+void HeldEventsTest::aFieldThatLosesTheFocusWaits() {
+    DeleteSelectPage page(app::openBackupSet(driver_->card(0).record().id));
+    page.show();
+    child<QGroupBox>(page, "groupFilter").setChecked(true);
+    child<QCheckBox>(page, "checkKeep").setChecked(true);
+    auto& keep = child<QSpinBox>(page, "spinKeep");
+    page.activateWindow();
+    keep.setFocus();
+    QTRY_VERIFY(keep.hasFocus());
+    keep.selectAll();
+    QTest::keyClicks(&keep, QStringLiteral("7"));
+    agent_->clearCallLog();
+    loseFocusDuringACall();
+    QCOMPARE(count("prepare_delete"), 0);
+    QTRY_COMPARE(count("prepare_delete"), 1);
+    QCOMPARE(keep.value(), 7);
+}
+
+void HeldEventsTest::anArrowThatIsHeldStepsNoFurther() {
+    auto& window = driver_->window();
+    QSpinBox spin(&window);
+    spin.setMaximum(1'000'000);
+    spin.setGeometry(20, 200, 120, 40);
+    spin.show();
+    QStyleOptionSpinBox option;
+    option.initFrom(&spin);
+    option.subControls = QStyle::SC_All;
+    const QRect arrow =
+        spin.style()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxUp, &spin);
+    QTest::mousePress(&spin, Qt::LeftButton, {}, arrow.center());
+    QTRY_VERIFY(spin.value() > 2);
+    agent_->inject("getTarnClientInfo", simulator::Delay{600ms});
+    const int before = spin.value();
+    driver_->beat();
+    QCOMPARE(spin.value(), before);
+    QTRY_VERIFY(spin.value() > before);
+    QTest::mouseRelease(&spin, Qt::LeftButton, {}, arrow.center());
+}
+
+void HeldEventsTest::commandsTriggeredWithoutInputDoNothing() {
+    driver_->window().OnDisconnect();
+    agent_->inject("getTarnClientType", simulator::Delay{300ms});
+    agent_->clearCallLog();
+    QVERIFY(driver_->isEnabled("actionLogin"));
+    int rounds = 0;
+    const InTheWait user([&] {
+        if (++rounds > 3)
+            return;
+        for (const char* action : {"actionLogin", "action_About", "actionBackup_Now"})
+            driver_->trigger(action);
+        QVERIFY(!QApplication::activeModalWidget());
+    });
+    session::connectToAgent("127.0.0.1", "demo", "demo", 1);
+    QVERIFY(rounds > 0);
+    QCOMPARE(methodsOf(*agent_), (Calls{"getTarnClientType", "login"}));
+    // They do again once the call is over.
+    ModalDriver modals;
+    modals.expect(QStringLiteral("about"), isDialog<AboutDlg>,
+                  [](QWidget& dialog) { static_cast<QDialog&>(dialog).accept(); });
+    driver_->trigger("action_About");
+    QVERIFY(modals.done());
+}
+
+void HeldEventsTest::slicesWaitWithoutALoad() {
+    int steps = 0;
+    insight::Slices slices([&] { return ++steps < 5; });
+    slices.start();
+    agent_->inject("getTarnClientInfo", simulator::Delay{500ms});
+    int rounds = 0;
+    const InTheWait loop([&] { ++rounds; });
+    driver_->beat();
+    QCOMPARE(steps, 0);
+    QVERIFY2(rounds < 200, qPrintable(QString::number(rounds)));
+    QTRY_VERIFY(!slices.isRunning());
+    QCOMPARE(steps, 5);
+}
+
+QTEST_MAIN(HeldEventsTest)
+#include "held_events_test.moc"
