@@ -118,7 +118,7 @@ void CallGate::wait(hessiancln::AwaitedCall& call) noexcept {
         offerToLeave(call);
         call.onFinish({});
         QCoreApplication::removePostedEvents(this, wakeType);
-        panel_->showOver(nullptr, 0s);
+        panel_->showOver(nullptr, call.awaited(), 0s);
     }
     call_ = nullptr;
 }
@@ -137,7 +137,7 @@ void CallGate::offerToLeave(hessiancln::AwaitedCall& call) {
     if (!call.finished())
         closeDroppedList();
     while (!call.finished()) {
-        panel_->showOver(windowInFront(), elapsed());
+        panel_->showOver(windowInFront(), call.awaited(), elapsed());
         const auto untilNextSecond =
             std::chrono::ceil<milliseconds>(begin_ + elapsed() + 1s - Clock::now());
         if (leaving_ || run(QEventLoop::AllEvents, untilNextSecond) == Outcome::programEnds)
@@ -163,7 +163,9 @@ CallGate::Outcome CallGate::run(int flags, milliseconds limit) {
 void CallGate::leave() {
     if (!call_)
         return;
-    const QString text = tr("Disconnected, as the agent hadn't answered for %1 s.");
+    const QString text = call_->awaited() == hessiancln::Awaited::agent
+                             ? tr("Disconnected, as the agent hadn't answered for %1 s.")
+                             : tr("Disconnected, as the logon service hadn't answered for %1 s.");
     call_->giveUp(session::toWire(text.arg(elapsed().count())));
 }
 

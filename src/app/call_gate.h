@@ -16,9 +16,10 @@ class WaitingPanel;
 
 namespace app {
 
-/// Keeps the windows alive while the thread that creates this object waits for the agent. During a
-/// slow call they repaint but take no input; after a longer wait, a panel over the frontmost window
-/// lets the user disconnect from the agent. Quitting the program disconnects too.
+/// Keeps the windows alive while the thread that creates this object waits for the agent, or for
+/// the system's logon service. During a slow call they repaint but take no input; after a longer
+/// wait, a panel over the frontmost window lets the user disconnect. Quitting the program
+/// disconnects too.
 ///
 /// Without this object the thread just sleeps until each reply arrives.
 class CallGate : public QObject, private hessiancln::WaitHook {

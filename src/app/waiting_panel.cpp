@@ -29,7 +29,9 @@ WaitingPanel::WaitingPanel()
 
 WaitingPanel::~WaitingPanel() = default;
 
-void WaitingPanel::showOver(QWidget* host, std::chrono::seconds elapsed) {
+void WaitingPanel::showOver(QWidget* host, hessiancln::Awaited awaited,
+                            std::chrono::seconds elapsed) {
+    awaited_ = awaited;
     elapsed_ = elapsed;
     if (host != host_)
         setHost(host);
@@ -57,7 +59,10 @@ void WaitingPanel::setHost(QWidget* host) {
 }
 
 void WaitingPanel::setText() {
-    const QString text = tr("The agent hasn't answered for %1 s.").arg(elapsed_.count());
+    const QString sentence = awaited_ == hessiancln::Awaited::agent
+                                 ? tr("The agent hasn't answered for %1 s.")
+                                 : tr("The logon service hasn't answered for %1 s.");
+    const QString text = sentence.arg(elapsed_.count());
     ui_->labelWaiting->setText(text);
     setAccessibleName(text);
 }

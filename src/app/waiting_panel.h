@@ -8,12 +8,14 @@
 #include <QFrame>
 #include <QPointer>
 
+#include "transport/call_passage.h"
+
 namespace Ui {
 class WaitingPanel;
 }
 
-/// Shows how long the agent has been silent, and lets the user disconnect. Placed over the middle
-/// of a window; each update moves it to the frontmost one.
+/// Shows who has been silent for how long, and lets the user disconnect. Placed over the middle of
+/// a window; each update moves it to the frontmost one.
 class WaitingPanel : public QFrame {
     Q_OBJECT
 public:
@@ -21,7 +23,7 @@ public:
     ~WaitingPanel() override;
 
     /// Appears over `host`, or hides if it is null.
-    void showOver(QWidget* host, std::chrono::seconds elapsed);
+    void showOver(QWidget* host, hessiancln::Awaited awaited, std::chrono::seconds elapsed);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -38,5 +40,6 @@ private:
 
     std::unique_ptr<Ui::WaitingPanel> ui_;
     QPointer<QWidget> host_;
+    hessiancln::Awaited awaited_ = hessiancln::Awaited::agent;
     std::chrono::seconds elapsed_{0};
 };

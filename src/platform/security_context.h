@@ -26,7 +26,8 @@ struct SecurityHandle {
     bool held() const { return lower != 0 || upper != 0; }
 };
 
-/// The operations of the security interface, one function each. None of them throws.
+/// The operations of the security interface, one function each. None of them throws. Those of one
+/// logon may run on different threads, one after the other, and several logons at the same time.
 class SecurityOperations {
 public:
     virtual ~SecurityOperations() = default;

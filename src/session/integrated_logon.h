@@ -22,11 +22,12 @@ using platform::currentWindowsUser;
 bool integratedLogonAvailable();
 
 /// Exchanges tokens between this system and the agent until the security context is complete. `url`
-/// is the agent's base URL, `version` that of this client.
+/// is the agent's base URL, `version` that of this client. On a thread with a `WaitHook`, the
+/// operations run on another thread, and must outlive it.
 ///
 /// True: `connectionOut` is the session's root object from the agent's last answer, possibly null.
 /// False: the logon didn't complete, and `connectionOut` is unchanged; so it is if an exception of
-/// the remote call propagates.
+/// the remote call propagates, or the `invoke_exception` of a user who gives up.
 bool performIntegratedLogon(boost::shared_ptr<hessiancln::ClientConnection>& connectionOut,
                             hessiancln::ClientConnection& bootstrap, const std::string& url,
                             const std::string& version, platform::SecurityOperations& operations);

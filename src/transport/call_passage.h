@@ -8,12 +8,17 @@
 
 namespace hessiancln {
 
+/// Who lets a thread wait.
+enum class Awaited { agent, logonService };
+
 /// A call that a thread is waiting for.
 class AwaitedCall {
 public:
     AwaitedCall() = default;
     AwaitedCall(const AwaitedCall&) = delete;
     AwaitedCall& operator=(const AwaitedCall&) = delete;
+
+    virtual Awaited awaited() const = 0;
 
     virtual bool finished() const = 0;
 
@@ -23,8 +28,8 @@ public:
     virtual void onFinish(std::function<void()> wake) = 0;
 
     /// Ends the connection that carries the call, in whatever state it is. The call then fails with
-    /// an `invoke_exception` of this text, and nothing more is sent on that connection. Does
-    /// nothing to a finished call.
+    /// an `invoke_exception` of this text, and nothing more is sent on that connection. A call of
+    /// the local system is abandoned. Does nothing to a finished call.
     virtual void giveUp(const std::string& text) = 0;
 
 protected:

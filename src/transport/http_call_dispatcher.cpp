@@ -4,10 +4,8 @@
 
 #include <chrono>
 #include <memory>
-#include <thread>
 #include <utility>
 
-#include "base/secret.h"
 #include "transport/call_failure.h"
 #include "transport/call_passage.h"
 #include "transport/http_exchange.h"
@@ -26,23 +24,16 @@ struct Target {
     std::uint32_t port = 0;
 };
 
-/// Runs the exchange on a thread of its own while the caller waits with its hook. The thread is
-/// abandoned if the caller gives up; it owns all that it needs.
+/// Runs the exchange on a thread of its own while the caller waits with its hook.
 std::string carryBeside(const std::shared_ptr<HttpExchange>& exchange,
                         std::chrono::milliseconds waited) {
     const auto reply =
         std::make_shared<PendingReply>([exchange](const std::string&) { exchange->abandon(); });
-    std::thread([exchange, reply] {
-        try {
-            exchange->run();
-            std::string body = exchange->takeReply();
-            const base::WipedAtEnd guard(body); // unless the caller has taken it
-            reply->succeed(body);
-        } catch (...) {
-            reply->fail(std::current_exception());
-        }
-    }).detach();
-    return reply->wait(waited);
+    const auto runToEnd = [exchange] {
+        exchange->run();
+        return exchange->takeReply();
+    };
+    return waitForThread(reply, runToEnd, waited);
 }
 
 /// A quick exchange runs on the caller's thread: starting another one would slow it down.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "transport/pending_reply.h"
 
+#include <thread>
 #include <utility>
 
 #include "base/secret.h"
@@ -9,8 +10,9 @@
 
 namespace hessiancln {
 
-PendingReply::PendingReply(GiveUp giveUp)
-    : giveUp_(std::move(giveUp)) {}
+PendingReply::PendingReply(GiveUp giveUp, Awaited awaited)
+    : giveUp_(std::move(giveUp))
+    , awaited_(awaited) {}
 
 PendingReply::~PendingReply() {
     base::wipe(reply_);
@@ -88,6 +90,20 @@ void PendingReply::giveUp(const std::string& text) {
     } catch (const std::bad_alloc&) {
         // The caller returns anyway, and the connection stays as silent as it was.
     }
+}
+
+std::string waitForThread(const std::shared_ptr<PendingReply>& reply,
+                          std::function<std::string()> work, std::chrono::milliseconds waited) {
+    std::thread([reply, work = std::move(work)] {
+        try {
+            std::string result = work();
+            const base::WipedAtEnd guard(result); // unless the caller has taken it
+            reply->succeed(result);
+        } catch (...) {
+            reply->fail(std::current_exception());
+        }
+    }).detach();
+    return reply->wait(waited);
 }
 
 } // namespace hessiancln

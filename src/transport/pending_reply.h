@@ -6,6 +6,7 @@
 #include <condition_variable>
 #include <exception>
 #include <functional>
+#include <memory>
 #include <mutex>
 #include <optional>
 #include <string>
@@ -21,7 +22,7 @@ public:
     /// Ends the connection without waiting for it to close. Runs on the caller's thread.
     using GiveUp = std::function<void(const std::string& text)>;
 
-    explicit PendingReply(GiveUp giveUp);
+    explicit PendingReply(GiveUp giveUp, Awaited awaited = Awaited::agent);
     /// Wipes a reply that wasn't taken.
     ~PendingReply();
 
@@ -36,6 +37,7 @@ public:
     /// of the hook's patience that has already passed.
     std::string wait(std::chrono::milliseconds waited = {});
 
+    Awaited awaited() const override { return awaited_; }
     bool finished() const override;
     void onFinish(std::function<void()> wake) override;
     void giveUp(const std::string& text) override;
@@ -45,6 +47,7 @@ private:
     bool finish(Result setResult);
 
     const GiveUp giveUp_;
+    const Awaited awaited_;
     mutable std::mutex mutex_; ///< guards all members below
     std::condition_variable condition_;
     bool finished_ = false;
@@ -53,5 +56,10 @@ private:
     std::string reply_;
     std::function<void()> wake_;
 };
+
+/// Runs `work`, which returns the reply or throws, on a thread of its own, and waits for it as
+/// above. That thread is abandoned if the caller gives up, so `work` must own all that it needs.
+std::string waitForThread(const std::shared_ptr<PendingReply>& reply,
+                          std::function<std::string()> work, std::chrono::milliseconds waited = {});
 
 } // namespace hessiancln

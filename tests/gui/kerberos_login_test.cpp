@@ -1,5 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
+#include <atomic>
+#include <utility>
+
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLineEdit>
@@ -7,6 +10,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "app/call_gate.h"
 #include "app/login_check.h"
 #include "app/start_up.h"
 #include "platform/posix/spnego_operations.h"
@@ -15,16 +19,26 @@
 #include "session/text.h"
 #include "tests/support/child_process.h"
 #include "tests/support/clock_offset.h"
+#include "tests/support/forwarding_security_operations.h"
 #include "tests/support/gui_main_window.h"
 #include "tests/support/gui_modal_driver.h"
+#include "tests/support/gui_translation.h"
+#include "tests/support/gui_wait.h"
 #include "tests/support/kerberos_realm.h"
 #include "tests/support/security_operations_override.h"
 
 using support::child;
+using support::clickDisconnect;
 using support::ClockOffset;
 using support::GuiAgent;
+using support::InTheWait;
 using support::MainWindowDriver;
+using support::methodsOf;
 using support::ModalDriver;
+using support::PaintCount;
+using support::quickTimes;
+using support::waitingPanel;
+using support::waitingText;
 using namespace std::chrono_literals;
 
 namespace {
@@ -54,6 +68,33 @@ int count(const simulator::Simulator& agent, const std::string& method) {
     return found;
 }
 
+/// The system's own operations. A logon that was given up may still be using them.
+class CountedOperations : public support::ForwardingSecurityOperations {
+public:
+    CountedOperations()
+        : ForwardingSecurityOperations(platform::spnegoOperations()) {}
+
+    platform::SecurityStatus acquireCredentials(platform::SecurityHandle& credentials) override {
+        const auto status = ForwardingSecurityOperations::acquireCredentials(credentials);
+        held_ += credentials.held();
+        return status;
+    }
+    void release(platform::SecurityHandle& credentials,
+                 platform::SecurityHandle& context) override {
+        const bool held = credentials.held();
+        ForwardingSecurityOperations::release(credentials, context);
+        held_ -= held;
+    }
+
+    /// Returns whether no logon uses them any more.
+    bool waitForRelease() const {
+        return QTest::qWaitFor([this] { return held_ == 0; }, 60'000);
+    }
+
+private:
+    std::atomic<int> held_ = 0;
+};
+
 } // namespace
 
 /// Logging in with a Kerberos ticket, using the real windows.
@@ -63,6 +104,8 @@ private slots:
     void init() { realm_ = std::make_unique<support::KerberosRealm>(); }
     void cleanup() {
         support::resetSession();
+        realm_->stopKdc();
+        QVERIFY(operations_.waitForRelease());
         realm_.reset();
     }
 
@@ -233,6 +276,53 @@ private slots:
         QCOMPARE(count(agent, "sspi_login"), 2);
     }
 
+    void aSilentKdcLeavesTheWindowAlive() {
+        realm_->getTicket();
+        realm_->silenceKdc();
+        const GuiAgent agent(accepting(realm_->keyTable()));
+        app::CallGate gate(quickTimes);
+        MainWindowDriver driver;
+        driver.window().keepAliveBy(gate);
+        PaintCount paints(driver.window());
+        QString text;
+        const InTheWait user([&] {
+            if (!waitingPanel())
+                return;
+            if (std::exchange(text, waitingText()).isEmpty())
+                paints.count = 0;
+            driver.window().update();
+            if (paints.count >= 3)
+                clickDisconnect();
+        });
+        QVERIFY(!driver.window().doLogin(true));
+        QCOMPARE(text, QStringLiteral("The logon service hasn't answered for N s."));
+        const QString left =
+            QStringLiteral("Disconnected, as the logon service hadn't answered for ");
+        QVERIFY2(driver.status().startsWith(left), qPrintable(driver.status()));
+        QVERIFY(!session::connectedToAgent());
+        QCOMPARE(methodsOf(agent), std::vector<std::string>{"getTarnClientType"});
+    }
+
+    void aSilentKdcDoesntKeepTheProgramFromQuitting() {
+        realm_->getTicket();
+        realm_->silenceKdc();
+        const support::Translation german(QStringLiteral("de"));
+        const GuiAgent agent(accepting(realm_->keyTable()));
+        app::CallGate gate(quickTimes);
+        MainWindowDriver driver;
+        driver.window().keepAliveBy(gate);
+        QString text;
+        const InTheWait user([&] {
+            if (!waitingPanel())
+                return;
+            text = waitingText();
+            driver.trigger("actionQuit");
+        });
+        QCOMPARE(app::runLoggedIn(driver.window(), gate), 0);
+        QCOMPARE(text, QStringLiteral("Der Anmeldedienst antwortet seit N s nicht."));
+        QCOMPARE(methodsOf(agent), std::vector<std::string>{"getTarnClientType"});
+    }
+
     void theBoxIsThereWhileTheTicketIsValid() {
         const auto isOffered = [] {
             LoginCheck dialog;
@@ -286,7 +376,8 @@ private:
     }
 
     std::unique_ptr<support::KerberosRealm> realm_;
-    const support::SecurityOperationsOverride inUse_{&platform::spnegoOperations()};
+    CountedOperations operations_;
+    const support::SecurityOperationsOverride inUse_{&operations_};
 };
 
 QTEST_MAIN(KerberosLoginTest)

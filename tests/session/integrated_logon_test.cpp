@@ -11,14 +11,20 @@
 #include "api/client_connection.h"
 #include "hessian/serialize_exception.h"
 #include "tests/support/scripted_dispatcher.h"
+#include "tests/support/scripted_hook.h"
 #include "tests/support/scripted_security_operations.h"
 #include "tests/support/security_operations_override.h"
+#include "tests/support/signal.h"
+#include "transport/call_passage.h"
 #include "transport/invoke_exception.h"
 
 namespace {
 
+using hessiancln::AwaitedCall;
+using hessiancln::CallPassage;
 using hessiancln::ClientConnection;
 using support::ScriptedDispatcher;
+using support::ScriptedHook;
 using support::ScriptedSecurityOperations;
 
 constexpr auto more = platform::securityContinueNeeded;
@@ -229,6 +235,66 @@ TEST_F(IntegratedLogon, ContextThatPromisesTooMuchReadsAsWhatIsThere) {
     EXPECT_TRUE(logOn());
     EXPECT_EQ(system.asked[1].input, (ScriptedSecurityOperations::Bytes{
                                          0xCC, 0xDD, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}));
+}
+
+/// The system's logon service answers only when the test wants it to.
+class SlowOperations : public ScriptedSecurityOperations {
+public:
+    support::Signal answer;
+    support::Signal released;
+
+    platform::SecurityStatus
+    initializeContext(platform::SecurityHandle& credentials, platform::SecurityHandle& context,
+                      const std::string& targetName, std::span<std::uint8_t> input,
+                      std::span<std::uint8_t> output, std::uint32_t& outputSize) override {
+        EXPECT_TRUE(answer.wait());
+        return ScriptedSecurityOperations::initializeContext(credentials, context, targetName,
+                                                             input, output, outputSize);
+    }
+    void release(platform::SecurityHandle&, platform::SecurityHandle&) override {
+        released.raise();
+    }
+};
+
+class SlowIntegratedLogon : public IntegratedLogon {
+protected:
+    bool logOnSlowly(const ScriptedHook::Work& work) {
+        slow.rounds = {{complete, {0xAA, 0xAA}}};
+        ScriptedHook hook([&](AwaitedCall& call) {
+            EXPECT_EQ(call.awaited(), hessiancln::Awaited::logonService);
+            EXPECT_TRUE(CallPassage::underWay());
+            work(call);
+        });
+        const hessiancln::WaitHookInstallation installed(hook);
+        const bool done =
+            session::performIntegratedLogon(connection, bootstrap, "https://a:1", "13.0.0.0", slow);
+        EXPECT_EQ(hook.waits, 1);
+        return done;
+    }
+
+    SlowOperations slow;
+};
+
+TEST_F(SlowIntegratedLogon, WaitsWithTheHook) {
+    expectStep(frameA, answer(contextC, reference("s")));
+    ASSERT_TRUE(logOnSlowly([this](AwaitedCall&) { slow.answer.raise(); }));
+    EXPECT_EQ(connection->url(), "https://a:1/s");
+    agent->expectRelease("https://a:1/s");
+    connection.reset();
+    EXPECT_TRUE(slow.released.wait());
+}
+
+TEST_F(SlowIntegratedLogon, IsLeftToItsThreadByAUserWhoGivesUp) {
+    try {
+        logOnSlowly([](AwaitedCall& call) { call.giveUp("Enough of this"); });
+        FAIL() << "A logon that was given up has to raise";
+    } catch (const hessiancln::invoke_exception& failure) {
+        EXPECT_STREQ(failure.what(), "Enough of this");
+    }
+    EXPECT_FALSE(CallPassage::underWay());
+    EXPECT_EQ(connection->url(), "https://old");
+    slow.answer.raise();
+    EXPECT_TRUE(slow.released.wait());
 }
 
 TEST(IntegratedLogonOffer, FollowsTheOperationsInUse) {

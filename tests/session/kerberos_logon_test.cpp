@@ -12,6 +12,7 @@
 #include "simulator/objects/failures.h"
 #include "tests/session/agent_fixture.h"
 #include "tests/support/clock_offset.h"
+#include "tests/support/forwarding_security_operations.h"
 #include "tests/support/heap_in_use.h"
 #include "tests/support/kerberos_realm.h"
 #include "tests/support/secret_search.h"
@@ -32,37 +33,23 @@ using testing::SizeIs;
 using namespace std::chrono_literals;
 
 /// The system's own operations, recording all tokens that they write.
-class RecordingOperations : public platform::SecurityOperations {
+class RecordingOperations : public support::ForwardingSecurityOperations {
 public:
+    RecordingOperations()
+        : ForwardingSecurityOperations(*platform::securityOperations()) {}
+
     std::vector<std::string> tokens;
 
-    platform::SecurityStatus queryMaxTokenSize(std::uint32_t& size) override {
-        return system_.queryMaxTokenSize(size);
-    }
-    platform::SecurityStatus acquireCredentials(platform::SecurityHandle& credentials) override {
-        return system_.acquireCredentials(credentials);
-    }
     platform::SecurityStatus
     initializeContext(platform::SecurityHandle& credentials, platform::SecurityHandle& context,
                       const std::string& targetName, std::span<std::uint8_t> input,
                       std::span<std::uint8_t> output, std::uint32_t& outputSize) override {
-        const auto status =
-            system_.initializeContext(credentials, context, targetName, input, output, outputSize);
+        const auto status = ForwardingSecurityOperations::initializeContext(
+            credentials, context, targetName, input, output, outputSize);
         if (outputSize > 0)
             tokens.emplace_back(output.begin(), output.begin() + outputSize);
         return status;
     }
-    platform::SecurityStatus completeToken(platform::SecurityHandle& context,
-                                           std::span<std::uint8_t> token) override {
-        return system_.completeToken(context, token);
-    }
-    void release(platform::SecurityHandle& credentials,
-                 platform::SecurityHandle& context) override {
-        system_.release(credentials, context);
-    }
-
-private:
-    platform::SecurityOperations& system_ = *platform::securityOperations();
 };
 
 /// A base class, so that it exists before the agent, which takes its keys from it.

@@ -26,20 +26,26 @@ constexpr const char* password = "correct horse";
 /// A socket of 127.0.0.1.
 class LoopbackSocket {
 public:
-    LoopbackSocket()
-        : socket_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {}
+    explicit LoopbackSocket(int type = SOCK_STREAM)
+        : socket_(::socket(AF_INET, type | SOCK_CLOEXEC, 0)) {}
     LoopbackSocket(const LoopbackSocket&) = delete;
     LoopbackSocket& operator=(const LoopbackSocket&) = delete;
     ~LoopbackSocket() { ::close(socket_); }
 
     std::uint16_t freePort() const {
-        sockaddr_in address = at(0);
+        sockaddr_in address{};
         socklen_t size = sizeof address;
-        if (::bind(socket_, reinterpret_cast<sockaddr*>(&address), size) != 0 ||
-            ::getsockname(socket_, reinterpret_cast<sockaddr*>(&address), &size) != 0)
+        if (!bindTo(0) || ::getsockname(socket_, reinterpret_cast<sockaddr*>(&address), &size) != 0)
             throw std::runtime_error("no free port");
         return ntohs(address.sin_port);
     }
+
+    bool bindTo(std::uint16_t port) const {
+        const sockaddr_in address = at(port);
+        return ::bind(socket_, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
+    }
+
+    void listen() const { ::listen(socket_, SOMAXCONN); }
 
     bool reaches(std::uint16_t port) const {
         const sockaddr_in address = at(port);
@@ -71,6 +77,24 @@ void writeFile(const std::string& path, const std::string& text) {
 
 } // namespace
 
+/// Takes requests by TCP and by UDP.
+class KerberosRealm::SilentKdc {
+public:
+    SilentKdc()
+        : port_(stream_.freePort()) {
+        if (!datagrams_.bindTo(port_))
+            throw std::runtime_error("no port that is free for both protocols");
+        stream_.listen();
+    }
+
+    std::uint16_t port() const { return port_; }
+
+private:
+    const LoopbackSocket stream_;
+    const LoopbackSocket datagrams_{SOCK_DGRAM};
+    const std::uint16_t port_;
+};
+
 KerberosRealm::KerberosRealm()
     : folder_(temporaryFolder()) {
     setVariable("KRB5_CONFIG", file("krb5.conf"));
@@ -88,7 +112,7 @@ KerberosRealm::KerberosRealm()
 }
 
 KerberosRealm::~KerberosRealm() {
-    kdc_.reset();
+    stopKdc();
     for (const auto& [variable, value] : former_)
         if (value)
             ::setenv(variable.c_str(), value->c_str(), 1);
@@ -151,6 +175,17 @@ void KerberosRealm::startKdc() {
         said = kdc_->rest();
     }
     throw std::runtime_error("krb5kdc doesn't start: " + said);
+}
+
+void KerberosRealm::stopKdc() {
+    kdc_.reset();
+    silent_.reset();
+}
+
+void KerberosRealm::silenceKdc() {
+    stopKdc();
+    silent_ = std::make_unique<SilentKdc>();
+    writeConfiguration(silent_->port());
 }
 
 void KerberosRealm::administer(const std::string& query) {

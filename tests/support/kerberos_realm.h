@@ -45,12 +45,16 @@ public:
     void destroyTicket();
 
     /// From now on no new tickets are issued.
-    void stopKdc() { kdc_.reset(); }
+    void stopKdc();
+    /// The same, but requests reach a KDC, which never answers.
+    void silenceKdc();
 
     /// A file in the temporary folder.
     std::string file(const std::string& fileName) const { return (folder_ / fileName).string(); }
 
 private:
+    class SilentKdc;
+
     void setVariable(const std::string& variable, const std::string& value);
     void writeConfiguration(std::uint16_t port);
     void startKdc();
@@ -59,6 +63,7 @@ private:
     std::filesystem::path folder_;
     std::map<std::string, std::optional<std::string>> former_;
     std::unique_ptr<ChildProcess> kdc_;
+    std::unique_ptr<SilentKdc> silent_;
 };
 
 } // namespace support

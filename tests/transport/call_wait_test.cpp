@@ -12,6 +12,7 @@
 #include <unistd.h>
 
 #include "tests/support/held_names.h"
+#include "tests/support/scripted_hook.h"
 #include "tests/support/signal.h"
 #include "tests/transport/raw_stream_fixture.h"
 #include "transport/call_passage.h"
@@ -26,37 +27,11 @@ using support::HeldNames;
 using support::LoopbackServer;
 using support::Peer;
 using support::responseFrame;
+using support::ScriptedHook;
 using support::Signal;
 using Mode = LoopbackServer::Mode;
 
 const std::string goodbye = "Enough of this";
-
-/// Runs `work` in each wait, then sleeps until the call has finished.
-class ScriptedHook final : public WaitHook {
-public:
-    using Work = std::function<void(AwaitedCall&)>;
-    explicit ScriptedHook(Work work, std::chrono::milliseconds patience = 30ms)
-        : work_(std::move(work))
-        , patience_(patience) {}
-
-    std::chrono::milliseconds patience() const override { return patience_; }
-
-    void wait(AwaitedCall& call) noexcept override {
-        ++waits;
-        Signal finished;
-        call.onFinish([&] { finished.raise(); });
-        work_(call);
-        EXPECT_TRUE(finished.wait());
-        EXPECT_TRUE(call.finished());
-        call.onFinish({});
-    }
-
-    int waits = 0;
-
-private:
-    Work work_;
-    std::chrono::milliseconds patience_;
-};
 
 void leave(AwaitedCall& call) {
     call.giveUp(goodbye);

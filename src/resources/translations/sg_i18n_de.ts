@@ -4551,6 +4551,10 @@ Klicken Sie hier, um diesen Hinweis nicht mehr zu sehen.</translation>
         <source>The agent hasn&apos;t answered for %1 s.</source>
         <translation>Der Agent antwortet seit %1 s nicht.</translation>
     </message>
+    <message>
+        <source>The logon service hasn&apos;t answered for %1 s.</source>
+        <translation>Der Anmeldedienst antwortet seit %1 s nicht.</translation>
+    </message>
 </context>
 <context>
     <name>WeekPicture</name>
@@ -4680,6 +4684,10 @@ Klicken Sie hier, um diesen Hinweis nicht mehr zu sehen.</translation>
     <message>
         <source>Disconnected, as the agent hadn&apos;t answered for %1 s.</source>
         <translation>Getrennt, da der Agent %1 s lang nicht geantwortet hat.</translation>
+    </message>
+    <message>
+        <source>Disconnected, as the logon service hadn&apos;t answered for %1 s.</source>
+        <translation>Getrennt, da der Anmeldedienst %1 s lang nicht geantwortet hat.</translation>
     </message>
 </context>
 <context>
