@@ -22,6 +22,28 @@ std::optional<BackupAttempt> attemptOf(const hessiancln::activity_log_info& row)
 
 } // namespace
 
+/// What was received for the set that is being read, and the call to make next.
+struct HealthReader::Reading {
+    enum class Stage {
+        configuration, ///< before the first set only
+        missedHours,
+        open,
+        schedule,
+        plan,
+        attempt,
+        overview,
+        complete
+    };
+
+    Stage stage = Stage::open;
+    hessiancln::backup_set_info info;
+    boost::shared_ptr<hessiancln::ClientConfiguration> configuration;
+    boost::shared_ptr<hessiancln::BackupSet> set;
+    std::unique_ptr<PlanReader> planReader;
+    std::optional<std::int32_t> missedHours;
+    SetDetails details;
+};
+
 HealthReader::HealthReader(Connect connect)
     : connect_(std::move(connect)) {}
 
@@ -37,13 +59,12 @@ void HealthReader::add(const hessiancln::backup_set_info& set) {
     *same = set;
     // What was read of it may be out of date.
     if (same == waiting_.begin())
-        restart();
+        reading_.reset();
 }
 
 void HealthReader::clear() {
     waiting_.clear();
-    configuration_.reset();
-    restart();
+    reading_.reset();
 }
 
 void HealthReader::forget(std::int32_t setId) {
@@ -57,13 +78,6 @@ void HealthReader::forgetAll() {
     missedHours_.reset();
 }
 
-void HealthReader::restart() {
-    planReader_.reset();
-    set_.reset();
-    read_ = {};
-    stage_ = Stage::open;
-}
-
 const SetDetails* HealthReader::detailsOf(std::int32_t setId) const {
     const auto found = details_.find(setId);
     return found == details_.end() ? nullptr : &found->second;
@@ -72,85 +86,109 @@ const SetDetails* HealthReader::detailsOf(std::int32_t setId) const {
 std::optional<std::int32_t> HealthReader::step() {
     if (waiting_.empty())
         return std::nullopt;
-    if (!missedHours_) {
-        try {
-            askForMissedHours();
-        } catch (...) {
-            clear();
-            throw;
-        }
-        return std::nullopt;
+    if (!reading_) {
+        reading_ = std::make_shared<Reading>();
+        reading_->info = waiting_.front();
+        if (!missedHours_)
+            reading_->stage = Reading::Stage::configuration;
     }
-    const std::int32_t id = waiting_.front().id;
-    const auto endSet = [this] {
-        waiting_.pop_front();
-        restart();
-    };
+    // A copy, because another one may be begun during the call.
+    const auto reading = reading_;
     try {
-        call();
+        call(*reading);
     } catch (...) {
-        endSet();
+        if (reading == reading_)
+            skip(*reading);
         throw;
     }
-    if (stage_ != Stage::open)
+    return reading == reading_ ? take(*reading) : std::nullopt;
+}
+
+void HealthReader::call(Reading& reading) const {
+    using Stage = Reading::Stage;
+    switch (reading.stage) {
+    case Stage::configuration:
+        reading.configuration = required(connect_()->getConfigurationManager());
+        reading.stage = Stage::missedHours;
+        return;
+    case Stage::missedHours:
+        reading.missedHours = reading.configuration->getAdvancedConfigNumber("ScheduleMiss");
+        reading.configuration.reset();
+        reading.stage = Stage::open;
+        return;
+    case Stage::open: {
+        reading.set = required(connect_()->backup_set(reading.info.id));
+        if (const auto known = plans_.find(reading.info.schedule_id); known != plans_.end())
+            reading.details.plan = known->second;
+        const bool hasUnknownPlan = isScheduled(reading.info) && !reading.details.plan;
+        reading.stage = hasUnknownPlan ? Stage::schedule : Stage::attempt;
+        return;
+    }
+    case Stage::schedule:
+    case Stage::plan:
+        askForPlan(reading);
+        return;
+    case Stage::attempt:
+        reading.details.lastAttempt =
+            attemptOf(reading.set->getLastActivityOfType(hessiancln::ActivityType::Backup));
+        reading.stage = Stage::overview;
+        return;
+    case Stage::overview: {
+        const auto overview = reading.set->getOverview();
+        reading.details.leastGenerations = overview.min_gen;
+        reading.details.mostGenerations = overview.max_gen;
+        reading.stage = Stage::complete;
+        return;
+    }
+    case Stage::complete:
+        return;
+    }
+}
+
+void HealthReader::askForPlan(Reading& reading) const {
+    using Stage = Reading::Stage;
+    if (reading.stage == Stage::schedule) {
+        if (const auto schedule = reading.set->getSchedule())
+            reading.planReader = std::make_unique<PlanReader>(schedule);
+        else
+            reading.details.plan = std::make_shared<const KnownPlan>();
+        reading.stage = reading.planReader ? Stage::plan : Stage::attempt;
+        return;
+    }
+    reading.planReader->step();
+    if (!reading.planReader->isDone())
+        return;
+    const SchedulePlan& plan = reading.planReader->plan();
+    reading.details.plan =
+        std::make_shared<const KnownPlan>(KnownPlan{plan, longestInterval(plan)});
+    reading.stage = Stage::attempt;
+}
+
+std::optional<std::int32_t> HealthReader::take(Reading& reading) {
+    if (reading.missedHours)
+        missedHours_ = reading.missedHours;
+    if (reading.planReader && reading.details.plan)
+        plans_[reading.info.schedule_id] = reading.details.plan;
+    if (reading.stage != Reading::Stage::complete)
         return std::nullopt;
-    details_[id] = std::move(read_);
+    const std::int32_t id = reading.info.id;
+    details_[id] = std::move(reading.details);
     endSet();
     return id;
 }
 
-void HealthReader::askForMissedHours() {
-    if (!configuration_) {
-        configuration_ = required(connect_()->getConfigurationManager());
-        return;
-    }
-    missedHours_ = configuration_->getAdvancedConfigNumber("ScheduleMiss");
-    configuration_.reset();
+void HealthReader::skip(const Reading& reading) {
+    const bool isBeforeTheSets = reading.stage == Reading::Stage::configuration ||
+                                 reading.stage == Reading::Stage::missedHours;
+    if (isBeforeTheSets)
+        clear();
+    else
+        endSet();
 }
 
-void HealthReader::call() {
-    const auto& info = waiting_.front();
-    switch (stage_) {
-    case Stage::open: {
-        set_ = required(connect_()->backup_set(info.id));
-        const auto known = plans_.find(info.schedule_id);
-        if (known != plans_.end())
-            read_.plan = known->second;
-        stage_ = isScheduled(info) && !read_.plan ? Stage::schedule : Stage::attempt;
-        return;
-    }
-    case Stage::schedule:
-        if (const auto schedule = set_->getSchedule())
-            planReader_ = std::make_unique<PlanReader>(schedule);
-        else
-            read_.plan = std::make_shared<const KnownPlan>();
-        stage_ = planReader_ ? Stage::plan : Stage::attempt;
-        return;
-    case Stage::plan:
-        planReader_->step();
-        if (planReader_->isDone())
-            takePlan();
-        return;
-    case Stage::attempt:
-        read_.lastAttempt =
-            attemptOf(set_->getLastActivityOfType(hessiancln::ActivityType::Backup));
-        stage_ = Stage::overview;
-        return;
-    case Stage::overview: {
-        const auto overview = set_->getOverview();
-        read_.leastGenerations = overview.min_gen;
-        read_.mostGenerations = overview.max_gen;
-        stage_ = Stage::open;
-        return;
-    }
-    }
-}
-
-void HealthReader::takePlan() {
-    const SchedulePlan& plan = planReader_->plan();
-    read_.plan = std::make_shared<const KnownPlan>(KnownPlan{plan, longestInterval(plan)});
-    plans_[waiting_.front().schedule_id] = read_.plan;
-    stage_ = Stage::attempt;
+void HealthReader::endSet() {
+    waiting_.pop_front();
+    reading_.reset();
 }
 
 } // namespace insight

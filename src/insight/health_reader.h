@@ -39,6 +39,8 @@ struct SetDetails {
 };
 
 /// Queries the agent about sets, one call at a time. Reads a schedule shared by sets only once.
+/// Every function may also be called during a call, whose reply is then discarded if it no longer
+/// matters.
 class HealthReader {
 public:
     using Connection = boost::shared_ptr<hessiancln::ClientConnection>;
@@ -71,21 +73,19 @@ public:
     std::int32_t missedHours() const { return missedHours_.value_or(0); }
 
 private:
-    enum class Stage { open, schedule, plan, attempt, overview };
+    struct Reading;
 
-    void call();
-    /// Discards the data of an incomplete set.
-    void restart();
-    void takePlan();
-    void askForMissedHours();
+    void call(Reading& reading) const;
+    void askForPlan(Reading& reading) const;
+    /// Takes what is complete of it; the id of the set if that is all.
+    std::optional<std::int32_t> take(Reading& reading);
+    /// Gives up what can't be read.
+    void skip(const Reading& reading);
+    void endSet();
 
     Connect connect_;
     std::deque<hessiancln::backup_set_info> waiting_; ///< the first one is currently being read
-    Stage stage_ = Stage::open;
-    boost::shared_ptr<hessiancln::ClientConfiguration> configuration_;
-    boost::shared_ptr<hessiancln::BackupSet> set_;
-    std::unique_ptr<PlanReader> planReader_;
-    SetDetails read_;
+    std::shared_ptr<Reading> reading_;                ///< replies received for it; null before any
     std::optional<std::int32_t> missedHours_;
     std::map<std::int32_t, std::shared_ptr<const KnownPlan>> plans_; ///< by schedule
     std::map<std::int32_t, SetDetails> details_;                     ///< by set

@@ -12,15 +12,18 @@
 #include <QTableView>
 #include <QTest>
 
+#include "api/client_connection.h"
 #include "app/call_gate.h"
 #include "app/session_ended_line.h"
 #include "insight/backup_health_window.h"
 #include "insight/find_file_window.h"
+#include "insight/health_reader.h"
 #include "resources/pictures.h"
 #include "session/connection.h"
 #include "simulator/world/health_scenarios.h"
 #include "tests/support/gui_main_window.h"
 #include "tests/support/gui_modal_driver.h"
+#include "tests/support/gui_timers.h"
 #include "tests/support/gui_wait.h"
 
 using namespace std::chrono_literals;
@@ -64,6 +67,8 @@ private slots:
     void aSlowAgentIsSearchedToTheEnd();
     void aSilentAgentIsLeftInTheSearch();
     void aSilentAgentIsLeftWhileSchedulesAreRead();
+    void aReplyThatComesTooLateIsNotUsed_data();
+    void aReplyThatComesTooLateIsNotUsed();
     void disconnectEndsTheSearch();
     void aLostSessionEmptiesTheWindows();
     void aNewSessionTakesTheWindowsOver();
@@ -150,6 +155,39 @@ void InsightSessionTest::aSilentAgentIsLeftWhileSchedulesAreRead() {
     QVERIFY(!child<QPushButton>(health, "buttonBackup").isEnabled());
 }
 
+void InsightSessionTest::aReplyThatComesTooLateIsNotUsed_data() {
+    QTest::addColumn<QString>("method");
+    for (const char* method : {"getConfigurationManager", "getAdvancedConfigNumber", "backup_set",
+                               "getLastActivityOfType", "getOverview"})
+        QTest::newRow(method) << QString::fromLatin1(method);
+}
+
+void InsightSessionTest::aReplyThatComesTooLateIsNotUsed() {
+    QFETCH(QString, method);
+    insight::HealthReader reader(session::getConnection);
+    const auto set = session::getConnection()->backup_sets_info().front();
+    reader.add(set);
+    agent_->clearCallLog();
+    agent_->inject(method.toStdString(), simulator::Delay{200ms});
+    const auto isCalled = [&] {
+        const auto methods = methodsOf(*agent_);
+        return std::find(methods.begin(), methods.end(), method.toStdString()) != methods.end();
+    };
+    bool isForgotten = false;
+    const InTheWait user([&] {
+        if (!isCalled())
+            return;
+        reader.forgetAll();
+        isForgotten = true;
+    });
+    while (reader.left() > 0)
+        QVERIFY(!reader.step());
+    QVERIFY(isForgotten);
+    QVERIFY(!reader.detailsOf(set.id));
+    QCOMPARE(reader.missedHours(), 0);
+    QVERIFY(!reader.step());
+}
+
 void InsightSessionTest::disconnectEndsTheSearch() {
     const int before = views();
     FindFileWindow& find = search("letter");
@@ -162,7 +200,8 @@ void InsightSessionTest::disconnectEndsTheSearch() {
     QVERIFY(child<QLabel>(find, "labelProgress").text().startsWith(QStringLiteral("Cancelled")));
     QTRY_COMPARE(views(), before);
     agent_->clearCallLog();
-    QTest::qWait(50);
+    // A slice that was due would make a call.
+    support::letTimersFire();
     QCOMPARE(methodsOf(*agent_), Calls{});
 }
 

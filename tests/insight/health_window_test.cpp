@@ -24,6 +24,7 @@
 #include "tests/insight/session_of_windows.h"
 #include "tests/support/gui_form_texts.h"
 #include "tests/support/gui_modal_driver.h"
+#include "tests/support/gui_timers.h"
 #include "ui/branding_resources.h"
 #include "ui/size_text.h"
 
@@ -31,6 +32,7 @@ namespace {
 
 using simulator::Scenario;
 using support::child;
+using support::letTimersFire;
 using namespace insight_windows;
 
 /// The monitor, fed as by the main window.

@@ -8,7 +8,6 @@
 #include <vector>
 
 #include <QTableView>
-#include <QTimer>
 #include <QtTest>
 
 #include "session/connection.h"
@@ -46,13 +45,6 @@ struct Session {
 
     support::GuiAgent agent;
 };
-
-/// A slice that was due would have run before.
-inline void letTimersFire() {
-    bool fired = false;
-    QTimer::singleShot(0, [&fired] { fired = true; });
-    QTRY_VERIFY(fired);
-}
 
 inline QString cell(const QTableView& table, int row, int column) {
     return table.model()->index(row, column).data().toString();
