@@ -115,6 +115,8 @@ void CSingleStreamDispatcherConnection::WaitForStop() {
     if (thread_.joinable())
         thread_.join();
     open_ = false;
+    if (connection_)
+        connection_->close();
     connection_.reset();
     if (traceFailure)
         std::rethrow_exception(traceFailure);
@@ -224,7 +226,7 @@ bool CSingleStreamDispatcherConnection::createConnection() {
     try {
         asio::ssl::context context = makeTlsContext();
         trace_.detail("boost::asio::ssl::context created");
-        connection_ = std::make_unique<TcpConnection>(
+        connection_ = std::make_shared<TcpConnection>(
             io_, context, key_.useTls, [this] { terminate("Stream connection closed"); });
         return true;
     } catch (const boost::system::system_error& failure) {
@@ -242,7 +244,7 @@ bool CSingleStreamDispatcherConnection::createConnection() {
 std::optional<ErrorCode> CSingleStreamDispatcherConnection::await(
     const std::function<void(TcpConnection::Completion)>& start) {
     std::optional<ErrorCode> result;
-    start([&result](const ErrorCode& error) { result = error; });
+    start([&result, used = connection_](const ErrorCode& error) { result = error; });
     while (!result && io_.run_one() > 0) {
     }
     return result;

@@ -117,8 +117,6 @@ private:
     const ConnectionKey key_;
     const Tracer trace_;
 
-    boost::asio::io_context io_{1};
-    std::unique_ptr<TcpConnection> connection_;
     std::thread thread_;
     std::atomic<std::thread::id> streamThread_;
     std::atomic<bool> open_ = true;
@@ -143,6 +141,11 @@ private:
     std::uint64_t responseLength_ = 0;
     std::uint32_t checksum_ = 0;
     std::string data_; ///< the part of the reply received so far, with its checksum
+
+    // Some systems write to the buffers of an operation until it has ended, closed socket or not.
+    // Each operation holds the connection, and the context, which waits for their ends, goes first.
+    boost::asio::io_context io_{1};
+    std::shared_ptr<TcpConnection> connection_;
 };
 
 /// Runs a step of the connection's thread. An exception ends the stream, not the program.

@@ -117,10 +117,11 @@ void CSingleStreamDispatcherConnection::startWriting(bool writeCompleted) {
     }
     if (frame) {
         connection_->asyncWrite(
-            asio::buffer(frame->text()), [this](const ErrorCode& error, std::size_t) {
+            asio::buffer(frame->text()),
+            [this, used = connection_](const ErrorCode& error, std::size_t) {
                 guarded([&] {
                     if (error)
-                        connection_->shutDown(); // the pending read ends the stream
+                        connection_->endReading(); // the pending read ends the stream
                     startWriting(true);
                 });
             });
@@ -129,9 +130,10 @@ void CSingleStreamDispatcherConnection::startWriting(bool writeCompleted) {
 }
 
 void CSingleStreamDispatcherConnection::readResponseHeader() {
-    connection_->asyncRead(asio::buffer(header_), [this](const ErrorCode& error, std::size_t) {
-        guarded([&] { readResponseHeaderComplete(error); });
-    });
+    connection_->asyncRead(asio::buffer(header_),
+                           [this, used = connection_](const ErrorCode& error, std::size_t) {
+                               guarded([&] { readResponseHeaderComplete(error); });
+                           });
 }
 
 void CSingleStreamDispatcherConnection::readResponseHeaderComplete(const ErrorCode& error) {
@@ -157,7 +159,7 @@ void CSingleStreamDispatcherConnection::readData() {
     const std::size_t piece = std::min(responseLength_ + checksumSize - held, pieceSize);
     data_.resize(held + piece);
     connection_->asyncRead(asio::buffer(data_.data() + held, piece),
-                           [this, held](const ErrorCode& error, std::size_t) {
+                           [this, held, used = connection_](const ErrorCode& error, std::size_t) {
                                guarded([&] { readDataComplete(error, held); });
                            });
 }

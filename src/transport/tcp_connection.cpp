@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "transport/tcp_connection.h"
 
+#include <chrono>
 #include <limits>
 #include <new>
 #include <thread>
 
 #include <boost/asio/connect.hpp>
 #include <boost/asio/post.hpp>
+#include <boost/asio/ssl/error.hpp>
 
 namespace hessiancln {
 
@@ -37,6 +39,7 @@ asio::ssl::context makeTlsContext() {
 TcpConnection::TcpConnection(asio::io_context& io, asio::ssl::context& context, bool useTls,
                              FinishedHandler finished)
     : stream_(io, context)
+    , lastMoment_(io)
     , useTls_(useTls)
     , finished_(std::move(finished)) {}
 
@@ -102,9 +105,30 @@ void TcpConnection::shutDown() {
     socket().shutdown(Socket::shutdown_both, ignored);
 }
 
+void TcpConnection::endReading() {
+    shutDown();
+    // Where a shutdown doesn't end a pending read.
+    lastMoment_.expires_after(std::chrono::milliseconds(500));
+    lastMoment_.async_wait([this](const ErrorCode& cancelled) {
+        if (cancelled)
+            return;
+        readingEnded_ = true;
+        ErrorCode ignored;
+        socket().cancel(ignored);
+    });
+}
+
+ErrorCode TcpConnection::readError(const ErrorCode& error) const {
+    if (!readingEnded_ || error != asio::error::operation_aborted)
+        return error;
+    return useTls_ ? ErrorCode(asio::ssl::error::stream_truncated) : ErrorCode(asio::error::eof);
+}
+
 void TcpConnection::close() {
     ErrorCode ignored;
     socket().shutdown(Socket::shutdown_both, ignored);
+    // A large write may survive its socket.
+    socket().cancel(ignored);
     socket().close(ignored);
 }
 

@@ -12,6 +12,7 @@
 #include <boost/asio/read.hpp>
 #include <boost/asio/ssl/context.hpp>
 #include <boost/asio/ssl/stream.hpp>
+#include <boost/asio/steady_timer.hpp>
 #include <boost/asio/write.hpp>
 #include <boost/shared_ptr.hpp>
 
@@ -58,10 +59,14 @@ public:
     /// Reads until the buffer is full.
     template <class Buffer, class Handler>
     void asyncRead(const Buffer& buffer, Handler handler) {
+        const auto completion = [this, handler = std::move(handler)](const ErrorCode& error,
+                                                                     std::size_t size) {
+            handler(readError(error), size);
+        };
         if (useTls_)
-            boost::asio::async_read(stream_, buffer, std::move(handler));
+            boost::asio::async_read(stream_, buffer, completion);
         else
-            boost::asio::async_read(socket(), buffer, std::move(handler));
+            boost::asio::async_read(socket(), buffer, completion);
     }
 
     /// Writes the whole buffer.
@@ -73,8 +78,12 @@ public:
             boost::asio::async_write(socket(), buffer, std::move(handler));
     }
 
-    /// Shuts down both directions and leaves the socket open. Pending operations end with an error.
+    /// Shuts down both directions and leaves the socket open.
     void shutDown();
+
+    /// The same, for a stream that can't be written any more: a pending read takes what has arrived
+    /// and then ends as if the peer had closed, on some systems only after a moment.
+    void endReading();
 
     /// Never waits for the peer, so there is no TLS shutdown.
     void close();
@@ -83,7 +92,11 @@ public:
     void finish();
 
 private:
+    ErrorCode readError(const ErrorCode& error) const;
+
     TlsStream stream_;
+    boost::asio::steady_timer lastMoment_;
+    bool readingEnded_ = false;
     bool useTls_;
     FinishedHandler finished_;
 };

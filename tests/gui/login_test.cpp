@@ -25,6 +25,7 @@
 #include "tests/support/gui_translation.h"
 #include "tests/support/scripted_security_operations.h"
 #include "tests/support/security_operations_override.h"
+#include "tests/support/system/failures.h"
 
 using support::child;
 using support::GuiAgent;
@@ -268,8 +269,9 @@ private slots:
     }
 
     void anAbsentAgentIsTold() {
-        expectFailure(QStringLiteral(
-            "Failed to connect to '127.0.0.1' on port 4411. O/S error 111 (Connection refused)"));
+        expectFailure(
+            session::fromWire("Failed to connect to '127.0.0.1' on port 4411. O/S error " +
+                              support::failures::refused().told()));
     }
 
     void anAgentOfAnotherKindIsRefused() {

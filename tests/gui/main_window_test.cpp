@@ -21,6 +21,7 @@
 #include "tests/support/gui_agent.h"
 #include "tests/support/gui_main_window.h"
 #include "tests/support/gui_modal_driver.h"
+#include "tests/support/system/failures.h"
 
 using simulator::World;
 using support::cardsOf;
@@ -115,8 +116,9 @@ private slots:
 
     void tellsWhyTheFirstLoginFailed() {
         QVERIFY(!window().doLogin(true));
-        QCOMPARE(status(), QStringLiteral("Failed to connect to '127.0.0.1' on port 4411. O/S "
-                                          "error 111 (Connection refused)"));
+        QCOMPARE(status(),
+                 session::fromWire("Failed to connect to '127.0.0.1' on port 4411. O/S error " +
+                                   support::failures::refused().told()));
         QCOMPARE(window().windowTitle(), plainTitle);
     }
 

@@ -9,6 +9,7 @@
 #include "tests/support/bytes.h"
 #include "tests/support/scripted_security_operations.h"
 #include "tests/support/security_operations_override.h"
+#include "tests/support/system/failures.h"
 #include "transport/invoke_exception.h"
 
 // Servers that aren't agents, and agents with malformed replies. Replies are typed by hand.
@@ -49,8 +50,8 @@ WebServer::Handler answers(const std::string& first, const std::string& later) {
 TEST_F(FailedLogin, AtAClosedPort) {
     const std::string port = std::to_string(closedPort());
     EXPECT_EQ(loginAt<invoke_exception>("127.0.0.1:" + port),
-              "Failed to connect to '127.0.0.1' on port " + port +
-                  ". O/S error 111 (Connection refused)");
+              "Failed to connect to '127.0.0.1' on port " + port + ". O/S error " +
+                  support::failures::refused().told());
     expectNoSession();
     expectUntouchedKind();
 }

@@ -6,6 +6,7 @@
 #include "api/client_connection.h"
 #include "tests/session/agent_fixture.h"
 #include "tests/support/bytes.h"
+#include "tests/support/system/failures.h"
 #include "transport/call_passage.h"
 #include "transport/invoke_exception.h"
 
@@ -120,7 +121,7 @@ TEST_F(SessionLifetime, SecondLoginToADeadAgentLeavesNoSession) {
     stopAgent();
     EXPECT_EQ(textOf<invoke_exception>([this] { logIn(); }),
               "Failed to connect to '127.0.0.1' on port " + std::to_string(agent.port()) +
-                  ". O/S error 111 (Connection refused)");
+                  ". O/S error " + support::failures::refused().told());
     EXPECT_FALSE(session::connectedToAgent());
 }
 

@@ -15,6 +15,7 @@
 
 #include "tests/support/loopback_server.h"
 #include "tests/support/signal.h"
+#include "tests/support/system/failures.h"
 #include "tests/support/temporary_file.h"
 #include "transport/invoke_exception.h"
 #include "transport/plain_file_logger.h"
@@ -206,7 +207,7 @@ TEST_P(Http, ASilentServerRaisesAfterTheTimeOut) {
         peer.expectClose();
     });
     EXPECT_EQ(failureOf(server.url(), {.readTimeout = 300ms}),
-              "Failed to receive the HTTP response. Error 110 (Connection timed out)");
+              "Failed to receive the HTTP response. Error " + support::failures::timedOut().told());
     EXPECT_TRUE(server.waitForEnded(1));
 }
 
@@ -329,8 +330,8 @@ TEST(HttpFailures, APortOfZeroRaises) {
 TEST(HttpFailures, AClosedPortRaises) {
     const std::string port = std::to_string(support::closedPort());
     EXPECT_EQ(failureOf("https://127.0.0.1:" + port + "/"),
-              "Failed to connect to '127.0.0.1' on port " + port +
-                  ". O/S error 111 (Connection refused)");
+              "Failed to connect to '127.0.0.1' on port " + port + ". O/S error " +
+                  support::failures::refused().told());
 }
 
 TEST(HttpFailures, APortThatCannotExistRaises) {
@@ -365,7 +366,7 @@ TEST(HttpFailures, AServerThatIsSilentInTheHandshakeRaisesAfterTheTimeOut) {
     support::Signal done;
     LoopbackServer server(Mode::tls, [&](Peer&) { done.wait(); });
     EXPECT_EQ(failureOf(server.url(), {.readTimeout = 300ms}),
-              "SSL Handshake failed. Error 110 (Connection timed out)");
+              "SSL Handshake failed. Error " + support::failures::timedOut().told());
     done.raise();
 }
 

@@ -10,6 +10,7 @@
 
 #include "tests/support/bytes.h"
 #include "tests/support/signal.h"
+#include "tests/support/system/failures.h"
 #include "tests/support/system/sockets.h"
 #include "tests/transport/raw_stream_fixture.h"
 #include "transport/raw_stream_dispatcher.h"
@@ -51,8 +52,8 @@ TEST_P(RawStreamFailures, AClosedPort) {
     const std::string port = std::to_string(support::closedPort());
     CRawStreamDispacher dispatcher(0, "", true);
     EXPECT_EQ(failureOf(dispatcher, scheme + "://127.0.0.1:" + port + "/api"),
-              "Failed to connect to '127.0.0.1' on port " + port +
-                  ". O/S error 111 (Connection refused)");
+              "Failed to connect to '127.0.0.1' on port " + port + ". O/S error " +
+                  support::failures::refused().told());
 }
 
 TEST_P(RawStreamFailures, AHostThatCannotExist) {
@@ -94,11 +95,12 @@ TEST_P(RawStreamFailures, APeerThatClosesPolitely) {
 }
 
 TEST_P(RawStreamFailures, APeerThatResets) {
+    const auto [number, text] = support::failures::reset();
     EXPECT_EQ(failureWith([](Peer& peer) {
                   peer.open().receiveFrame();
                   peer.reset();
               }),
-              "Receive failed (header): Connection reset by peer (104)");
+              "Receive failed (header): " + text + " (" + std::to_string(number) + ")");
 }
 
 TEST_P(RawStreamFailures, APeerThatClosesWithinTheHeader) {
