@@ -9,7 +9,6 @@
 
 #include <QList>
 #include <QObject>
-#include <QStringList>
 
 #include "api/activity_records.h"
 #include "insight/backup_health_window.h"
@@ -62,8 +61,7 @@ signals:
     void syncRequested(std::int32_t setId);
     /// Requests the events of the activity, or of the last days without one.
     void eventsRequested(const std::optional<hessiancln::activity_log_info>& activity);
-    void restoreRequested(std::int32_t setId, const QStringList& path,
-                          std::optional<std::int32_t> upTo);
+    void restoreRequested(std::int32_t setId, const wizards::RestoreFile& file);
     /// An activity worth reporting has ended; the text describes the result.
     void activityEnded(const hessiancln::activity_log_info& ended, const QString& text);
 

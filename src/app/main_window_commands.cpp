@@ -135,15 +135,14 @@ void SimpleGUIMainWindow::OnRestore() {
     runOnSelectedSet(restoreFrom, tr("%1: Restore started for '%2'"));
 }
 
-void SimpleGUIMainWindow::restoreFile(std::int32_t setId, const QStringList& path,
-                                      std::optional<std::int32_t> upTo) {
+void SimpleGUIMainWindow::restoreFile(std::int32_t setId, const wizards::RestoreFile& file) {
     ui::remoteAction(*this, tr("Error"), ui::Cursor::arrow, [&] {
         const auto sets = sets_->records();
         const auto listed = std::ranges::find(sets, setId, &hessiancln::backup_set_info::id);
         // A copy: the list changes while the wizard is open.
         const auto set = listed == sets.end() ? hessiancln::backup_set_info() : *listed;
         follow(wizards::restoreFromSet(*this, app::openBackupSet(setId), insight::addRestoreSummary,
-                                       wizards::RestoreFile{path, upTo}),
+                                       file),
                set, tr("%1: Restore started for '%2'"));
     });
 }

@@ -43,6 +43,10 @@ struct backup_set_info;
 struct running_activity_info;
 } // namespace hessiancln
 
+namespace wizards {
+struct RestoreFile;
+}
+
 /// The program's one top-level window: the backup sets of the connected agent, its activities, and
 /// the commands on them. It stores no connection state; it always asks the session.
 ///
@@ -142,7 +146,7 @@ private slots:
     // What other windows and news ask for.
     void backUpSet(std::int32_t setId);
     void syncSet(std::int32_t setId);
-    void restoreFile(std::int32_t setId, const QStringList& path, std::optional<std::int32_t> upTo);
+    void restoreFile(std::int32_t setId, const wizards::RestoreFile& file);
     void showEventsOf(const std::optional<hessiancln::activity_log_info>& activity);
     void announceEnd(const hessiancln::activity_log_info& ended, const QString& text);
     void showLastNews();

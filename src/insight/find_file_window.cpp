@@ -19,6 +19,7 @@
 #include "ui/remote_action.h"
 #include "ui/table_columns.h"
 #include "ui_find_file_window.h"
+#include "wizards/restore_flow.h"
 #include "wizards/select_generation_dlg.h"
 
 using session::required;
@@ -225,16 +226,24 @@ void FindFileWindow::showGenerations() {
         return;
     SelectGenerationDlg dialog(*generations, this);
     const bool accepted = dialog.exec() == QDialog::Accepted;
-    if (const auto chosen = dialog.chosenTime(); accepted && chosen)
-        emit restoreRequested(file.setId, folders + QStringList(session::fromWire(file.name)),
-                              chosen);
+    const auto chosen = dialog.chosenTime();
+    if (!accepted || !chosen)
+        return;
+    const auto same =
+        std::ranges::find(*generations, *chosen, &hessiancln::file_generations::backup_time);
+    emit restoreRequested(
+        file.setId, {folders + QStringList(session::fromWire(file.name)), chosen, same->data_size});
 }
 
 void FindFileWindow::restore() {
-    if (const insight::FoundFile* file = selectedFile())
-        emit restoreRequested(file->setId,
-                              search_->folderOf(*file) + QStringList(session::fromWire(file->name)),
-                              std::nullopt);
+    const insight::FoundFile* file = selectedFile();
+    if (!file)
+        return;
+    wizards::RestoreFile latest{
+        search_->folderOf(*file) + QStringList(session::fromWire(file->name)), {}, {}};
+    if (file->generations > 0)
+        latest.size = file->newest.data_size;
+    emit restoreRequested(file->setId, latest);
 }
 
 /// Escape cancels a running search; otherwise it closes the window.

@@ -5,10 +5,8 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
-#include <optional>
 
 #include <QDialog>
-#include <QStringList>
 
 #include "insight/found_files_model.h"
 #include "insight/slices.h"
@@ -18,6 +16,9 @@ class ClientConnection;
 }
 namespace Ui {
 class FindFileWindow;
+}
+namespace wizards {
+struct RestoreFile;
 }
 
 /// Searches the content of sets for files by name. Results appear as they are found; the search
@@ -41,10 +42,7 @@ public:
     bool isSearching() const { return slices_.isRunning(); }
 
 signals:
-    /// Requests a restore of the file at the path, as of a time (seconds since 1970 UTC), or its
-    /// latest version.
-    void restoreRequested(std::int32_t setId, const QStringList& path,
-                          std::optional<std::int32_t> upTo);
+    void restoreRequested(std::int32_t setId, const wizards::RestoreFile& file);
 
 protected:
     void changeEvent(QEvent* event) override;

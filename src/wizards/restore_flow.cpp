@@ -84,7 +84,7 @@ std::optional<Activity> restoreFromSet(QWidget& parent, const Set& set,
     if (prepare)
         prepare(pages);
     if (file)
-        pages.items.tick(file->path, file->upTo);
+        pages.items.tick(*file);
     if (!wizard.run())
         return std::nullopt;
     return wizard.restore();

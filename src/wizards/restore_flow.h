@@ -40,6 +40,7 @@ struct RestorePages {
 struct RestoreFile {
     QStringList path; ///< from the top of the set
     std::optional<std::int32_t> upTo;
+    std::optional<std::int64_t> size; ///< of that version, in bytes; no value if unknown
 };
 
 /// Lets the user restore from a set, with `parent` as the parent. Returns no value if the user

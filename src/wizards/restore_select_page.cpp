@@ -21,6 +21,7 @@
 #include "ui_restore_select_page.h"
 #include "wizards/backup_time_span.h"
 #include "wizards/exact_time.h"
+#include "wizards/restore_flow.h"
 #include "wizards/select_generation_dlg.h"
 
 using session::required;
@@ -218,14 +219,16 @@ void RestoreSelectPage::letChooseGeneration(std::int64_t file, const QStringList
     model().setData(found, true, Qt::CheckStateRole);
 }
 
-bool RestoreSelectPage::tick(const QStringList& path, std::optional<std::int32_t> upTo) {
-    if (upTo)
-        limitTo(*upTo);
-    if (path.isEmpty())
+bool RestoreSelectPage::tick(const wizards::RestoreFile& file) {
+    if (file.upTo)
+        limitTo(*file.upTo);
+    if (file.path.isEmpty())
         return false;
-    const QModelIndex found = fileAt(model(), path);
+    const QModelIndex found = fileAt(model(), file.path);
     if (!found.isValid())
         return false;
+    if (file.size)
+        sizes_[model().nodeOf(found).item().id] = *file.size;
     const QModelIndex folder = folders().mapFromSource(found.parent());
     ui_->treeSelection->selectionModel()->setCurrentIndex(folder,
                                                           QItemSelectionModel::ClearAndSelect);

@@ -25,6 +25,9 @@ class RestoreActivityInitiator;
 namespace Ui {
 class RestoreSelectPage;
 }
+namespace wizards {
+struct RestoreFile;
+}
 
 /// What is to be restored of a set, and as it was when.
 class RestoreSelectPage : public StoredItemsPage, public ui::GrowingPage {
@@ -39,10 +42,8 @@ public:
     /// Throws what the calls throw.
     boost::shared_ptr<hessiancln::RestoreActivityInitiator> prepareRestore();
 
-    /// Checks and shows the file at the path from the top of the set, as of `upTo` (seconds since
-    /// 1970 UTC) or its latest version. Returns false if it doesn't exist. Throws what the calls
-    /// throw.
-    bool tick(const QStringList& path, std::optional<std::int32_t> upTo);
+    /// Checks and shows the file. Returns false if it doesn't exist. Throws what the calls throw.
+    bool tick(const wizards::RestoreFile& file);
 
     /// The root of the tree that contains the checked items.
     BackedUpNode& root() const;
@@ -50,7 +51,8 @@ public:
     bool isWholeSet() const;
     /// Seconds since 1970 UTC; 0 without a limit.
     std::int32_t upTo() const { return span().to; }
-    /// The size in bytes of a file whose generation was selected; no value for others.
+    /// The size in bytes of a file whose generation was selected, or that was ticked with its size;
+    /// no value for others.
     std::optional<std::int64_t> knownSize(std::int64_t file) const;
 
     QSize largestSize() const override;

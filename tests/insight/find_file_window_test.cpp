@@ -14,14 +14,24 @@
 #include "tests/insight/session_of_windows.h"
 #include "tests/support/gui_form_texts.h"
 #include "tests/support/gui_modal_driver.h"
+#include "tests/support/gui_timers.h"
 #include "ui/branding_resources.h"
+#include "ui/size_text.h"
+#include "wizards/restore_flow.h"
 #include "wizards/select_generation_dlg.h"
 
-Q_DECLARE_METATYPE(std::optional<std::int32_t>)
+Q_DECLARE_METATYPE(wizards::RestoreFile)
 
 using simulator::Scenario;
 using support::child;
+using support::letTimersFire;
 using namespace insight_windows;
+
+namespace {
+
+constexpr int fileSizeColumn = 1; ///< of the list of generations
+
+} // namespace
 
 class FindFileWindowTest : public QObject {
     Q_OBJECT
@@ -30,7 +40,7 @@ private slots:
         resources::initPictures();
         ui::g_branding.load();
         qRegisterMetaType<std::int32_t>("std::int32_t");
-        qRegisterMetaType<std::optional<std::int32_t>>("std::optional<std::int32_t>");
+        qRegisterMetaType<wizards::RestoreFile>("wizards::RestoreFile");
     }
 
     void aFileIsFoundInAThousandFolders();
@@ -97,19 +107,29 @@ void FindFileWindowTest::aGenerationLeadsToItsRestore() {
                            QStringLiteral("Diary.odt")};
     QTest::mouseClick(&child<QPushButton>(window, "buttonRestore"), Qt::LeftButton);
     QCOMPARE(restore.size(), 1);
-    QCOMPARE(restore[0][1].toStringList(), path);
+    const auto latest = restore[0][1].value<wizards::RestoreFile>();
+    QCOMPARE(latest.path, path);
+    QVERIFY(!latest.upTo);
+    QCOMPARE(ui::sizeToString(static_cast<double>(latest.size.value())),
+             cell(table, 0, FoundFilesModel::size));
 
     support::ModalDriver modals;
+    QString size;
     modals.expect(QStringLiteral("generations"), support::isDialog<SelectGenerationDlg>,
-                  [](QWidget& dialog) {
-                      child<QTableView>(dialog, "listGenerations").selectRow(2);
+                  [&size](QWidget& dialog) {
+                      auto& list = child<QTableView>(dialog, "listGenerations");
+                      list.selectRow(2);
+                      size = cell(list, 2, fileSizeColumn);
                       child<QPushButton>(dialog, "buttonSelect").click();
                   });
     QTest::mouseClick(&child<QPushButton>(window, "buttonGenerations"), Qt::LeftButton);
     QVERIFY(modals.done());
     QCOMPARE(restore.size(), 2);
-    QCOMPARE(restore[1][1].toStringList(), path);
-    QVERIFY(restore[1][2].value<std::optional<std::int32_t>>());
+    const auto older = restore[1][1].value<wizards::RestoreFile>();
+    QCOMPARE(older.path, path);
+    QVERIFY(older.upTo.has_value());
+    QVERIFY(older.size != latest.size);
+    QCOMPARE(ui::sizeToString(static_cast<double>(older.size.value())), size);
     QCOMPARE(session.views(), 0);
 }
 
