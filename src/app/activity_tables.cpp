@@ -73,6 +73,8 @@ void ActivityTables::refresh() {
 void ActivityTables::clear() {
     log_.clear();
     running_.clear();
+    // A note in the empty log depends on the session.
+    widgets_.log.viewport()->update();
 }
 
 bool ActivityTables::anyRunningSelected() const {

@@ -139,6 +139,20 @@ static_assert(ui::areInOrder(columnTable));
 EventLogModel::EventLogModel(QObject* parent)
     : RecordTableModel(columnTable, parent) {}
 
+QStringList EventLogModel::typeLabels() {
+    QStringList labels;
+    for (const Severity& severity : severities)
+        labels << tr(severity.label);
+    return labels;
+}
+
+QStringList EventLogModel::categoryLabels() {
+    QStringList labels;
+    for (const char* category : categories)
+        labels << tr(category);
+    return labels;
+}
+
 void EventLogModel::refresh(std::int32_t from, std::int32_t to, std::int32_t activityId) {
     setRecords(session::getConnection()->event_log(from, to, activityId));
 }

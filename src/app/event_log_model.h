@@ -16,4 +16,8 @@ public:
     /// Queries the agent, either by the times, in seconds since 1970 UTC, or by the activity; the
     /// unused values are 0. Throws what the call throws, leaving the rows unchanged.
     void refresh(std::int32_t from, std::int32_t to, std::int32_t activityId);
+
+    /// All texts of the columns `type` and `category`.
+    static QStringList typeLabels();
+    static QStringList categoryLabels();
 };

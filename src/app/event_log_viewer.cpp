@@ -10,9 +10,9 @@
 
 #include "session/wire_time.h"
 #include "ui/branding_resources.h"
-#include "ui/empty_note.h"
 #include "ui/fitting_text_delegate.h"
 #include "ui/later.h"
+#include "ui/locale_text.h"
 #include "ui/remote_action.h"
 #include "ui/table_columns.h"
 #include "ui_event_log_viewer.h"
@@ -42,8 +42,16 @@ void EventLogViewer::setUpTable() {
                                    new ui::FittingTextDelegate(&table, Qt::ElideMiddle));
     table.sortByColumn(EventLogModel::time, Qt::DescendingOrder);
     ui_->searchEvents->attach(
-        table, std::make_unique<insight::SearchedRecords<hessiancln::event_log_info>>(model_));
-    new ui::EmptyNote(table, [] { return tr("No events match the viewing filter."); });
+        table, std::make_unique<insight::SearchedRecords<hessiancln::event_log_info>>(model_),
+        [] { return tr("No events match the viewing filter."); });
+}
+
+/// For the texts of this language and font.
+void EventLogViewer::makeRoom() {
+    QTableView& table = *ui_->tableEvents;
+    ui::makeRoom(table, EventLogModel::type, EventLogModel::typeLabels(), true);
+    ui::makeRoom(table, EventLogModel::time, ui::timeTextSamples(QLocale::LongFormat));
+    ui::makeRoom(table, EventLogModel::category, EventLogModel::categoryLabels());
 }
 
 void EventLogViewer::showFor(const QDateTime& from, const QDateTime& to, std::int32_t activityId) {
@@ -58,6 +66,7 @@ void EventLogViewer::showFor(const QDateTime& from, const QDateTime& to, std::in
         ui_->checkActivityID->setChecked(activityId != 0);
     }
     updateEnabling();
+    makeRoom();
     refreshData();
 }
 

@@ -40,6 +40,7 @@ private slots:
 
 private:
     void setUpTable();
+    void makeRoom();
 
     std::unique_ptr<Ui::EventLogViewer> ui_;
     EventLogModel model_;

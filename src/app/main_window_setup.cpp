@@ -15,6 +15,7 @@
 #include "app/simple_gui_main_window.h"
 #include "app/status_link.h"
 #include "app/tray_presence.h"
+#include "session/process_values.h"
 #include "ui/branding_resources.h"
 #include "ui_simple_gui_main_window.h"
 
@@ -85,7 +86,10 @@ void SimpleGUIMainWindow::setUpInsight() {
     ui_->searchActivityLog->attach(
         *ui_->tableActivityLog,
         std::make_unique<insight::SearchedRecords<hessiancln::activity_log_info>>(
-            activities_->log()));
+            activities_->log()),
+        [] {
+            return session::connectedToAgent() ? tr("No activities in this period.") : QString();
+        });
     statusLink_ = new app::StatusLink(*ui_->statusbar);
     insight_ = std::make_unique<app::InsightWindows>(
         *this, *ui_->statusbar, *ui_->searchActivityLog, [this](const insight::HealthRow& row) {

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "config/tfa_users_viewer.h"
 
+#include <algorithm>
+
 #include <QDir>
 #include <QEvent>
 #include <QFile>
@@ -47,7 +49,12 @@ void TFAUsersViewer::setUpTable() {
     ui::setUpTable(table, model_);
     connect(table.selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &TFAUsersViewer::updateEnabling);
+    connect(table.selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &TFAUsersViewer::selectSomeRow);
     connect(&model_, &QAbstractItemModel::modelReset, this, &TFAUsersViewer::updateEnabling);
+    connect(&model_, &QAbstractItemModel::modelReset, this, &TFAUsersViewer::selectSomeRow);
+    for (const auto change : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
+        connect(&model_, change, this, &TFAUsersViewer::selectSomeRow);
     connect(&table, &QTableView::doubleClicked, this, &TFAUsersViewer::on_btnEdit_clicked);
     updateEnabling();
 }
@@ -59,6 +66,13 @@ void TFAUsersViewer::read() {
 int TFAUsersViewer::selectedRow() const {
     const QModelIndexList rows = ui_->tableUsers->selectionModel()->selectedRows();
     return rows.isEmpty() ? -1 : rows.first().row();
+}
+
+/// The current row has a frame, so it looks selected even if it isn't, as after the table got the
+/// focus.
+void TFAUsersViewer::selectSomeRow() {
+    if (selectedRow() < 0 && model_.rowCount() > 0)
+        ui_->tableUsers->selectRow(std::max(ui_->tableUsers->currentIndex().row(), 0));
 }
 
 void TFAUsersViewer::updateEnabling() {

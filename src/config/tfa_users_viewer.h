@@ -39,6 +39,7 @@ private:
     void read();
     void read(QFile& file);
     int selectedRow() const;
+    void selectSomeRow();
     void updateEnabling();
 
     std::unique_ptr<Ui::TFAUsersViewer> ui_;

@@ -10,11 +10,14 @@
 #include <QDir>
 #include <QEvent>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QKeyEvent>
 #include <QSaveFile>
+#include <QStandardPaths>
 #include <QTableView>
 
 #include "insight/copy_rows.h"
+#include "ui/empty_note.h"
 #include "ui/error_box.h"
 #include "ui/locale_text.h"
 #include "ui/standard_buttons.h"
@@ -47,6 +50,12 @@ void selectRecords(QTableView& table, const insight::SearchedLog& log,
     table.scrollTo(rows.indexes().first());
 }
 
+/// The user's folder for documents, or the home directory without one.
+QString documents() {
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QFileInfo(folder).isDir() ? folder : QDir::homePath();
+}
+
 } // namespace
 
 LogSearchBar::LogSearchBar(QWidget* parent)
@@ -62,10 +71,16 @@ LogSearchBar::LogSearchBar(QWidget* parent)
 
 LogSearchBar::~LogSearchBar() = default;
 
-void LogSearchBar::attach(QTableView& table, std::unique_ptr<insight::SearchedLog> log) {
+void LogSearchBar::attach(QTableView& table, std::unique_ptr<insight::SearchedLog> log,
+                          std::function<QString()> emptyLog) {
     table_ = &table;
     log_ = std::move(log);
     insight::copyRows(table);
+    new ui::EmptyNote(table, [this, emptyLog = std::move(emptyLog)] {
+        if (log_->allRows() > 0)
+            return tr("No rows match the search.");
+        return emptyLog ? emptyLog() : QString();
+    });
     const QAbstractItemModel* model = &log_->model();
     connect(model, &QAbstractItemModel::modelReset, this, &LogSearchBar::showCount);
     connect(model, &QAbstractItemModel::rowsInserted, this, &LogSearchBar::showCount);
@@ -115,7 +130,7 @@ void LogSearchBar::exportRows() {
         return;
     // The log may be cleared while the dialog is open.
     const QByteArray rows = log_->csv();
-    QFileDialog dialog(window(), tr("Export Log"), QDir::homePath(), tr("CSV Files (*.csv)"));
+    QFileDialog dialog(window(), tr("Export Log"), documents(), tr("CSV Files (*.csv)"));
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setLabelText(QFileDialog::Accept, tr("&Save"));

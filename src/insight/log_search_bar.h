@@ -24,8 +24,10 @@ public:
     ~LogSearchBar() override;
 
     /// Filters the log in `table` from now on; both must outlive this. Also enables copying
-    /// selected rows.
-    void attach(QTableView& table, std::unique_ptr<insight::SearchedLog> log);
+    /// selected rows, and shows a note in the table if it has no rows: that none matches the
+    /// search, or, for a log without rows, the text of `emptyLog`.
+    void attach(QTableView& table, std::unique_ptr<insight::SearchedLog> log,
+                std::function<QString()> emptyLog = {});
 
     /// The names that "set:" searches, by the keys of the rows; searches again if they have
     /// changed.

@@ -6,6 +6,7 @@
 
 #include "models/checkable_node.h"
 #include "models/item_pixmap.h"
+#include "ui/picture_delegate.h"
 
 /// The layout of an item.
 struct CSelectDisplayDelegate::Parts {
@@ -26,7 +27,8 @@ void CSelectDisplayDelegate::paint(QPainter* painter, const QStyleOptionViewItem
     drawBackground(painter, look, index);
     if (const QVariant state = index.data(Qt::CheckStateRole); state.isValid())
         drawCheck(painter, look, parts.box, static_cast<Qt::CheckState>(state.toInt()));
-    painter->drawPixmap(parts.picture.topLeft(), index.data(Qt::DecorationRole).value<QPixmap>());
+    painter->drawPixmap(parts.picture.topLeft(),
+                        ui::pictureInRow(index.data(Qt::DecorationRole).value<QPixmap>(), look));
     drawDisplay(painter, look, parts.text, index.data().toString());
     drawFocus(painter, look, parts.text);
     painter->restore();

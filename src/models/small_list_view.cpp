@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "models/small_list_view.h"
 
-#include "models/picture_delegate.h"
+#include "ui/picture_delegate.h"
 
 CSmallListView::CSmallListView(QWidget* parent)
     : QListView(parent) {
     setUniformItemSizes(true);
-    setItemDelegate(new models::PictureDelegate(this));
+    setItemDelegate(new ui::PictureDelegate(this));
 }
 
 QSize CSmallListView::sizeHint() const {

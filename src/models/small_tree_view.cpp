@@ -3,12 +3,12 @@
 #include "models/small_tree_view.h"
 
 #include "models/asterisk_key.h"
-#include "models/picture_delegate.h"
+#include "ui/picture_delegate.h"
 
 CSmallTreeView::CSmallTreeView(QWidget* parent)
     : QTreeView(parent) {
     setUniformRowHeights(true);
-    setItemDelegate(new models::PictureDelegate(this));
+    setItemDelegate(new ui::PictureDelegate(this));
     models::expandOneLevelByAsterisk(*this);
 }
 

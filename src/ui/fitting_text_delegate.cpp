@@ -22,7 +22,7 @@ const QStyle& styleOf(const QStyleOptionViewItem& option) {
 } // namespace
 
 FittingTextDelegate::FittingTextDelegate(QObject* parent, Qt::TextElideMode cut)
-    : QStyledItemDelegate(parent)
+    : PictureDelegate(parent)
     , cut_(cut) {}
 
 QStyleOptionViewItem FittingTextDelegate::fitted(const QStyleOptionViewItem& option,
@@ -62,7 +62,7 @@ bool FittingTextDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
             return true;
         }
     }
-    return QStyledItemDelegate::helpEvent(event, view, option, index);
+    return PictureDelegate::helpEvent(event, view, option, index);
 }
 
 } // namespace ui

@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <QStyledItemDelegate>
+#include "ui/picture_delegate.h"
 
 namespace ui {
 
 /// Draws text slightly too wide for its cell in a narrower font. Text that is still too wide is
 /// elided, and a tool tip shows it in full, unless the cell has a tool tip of its own.
-class FittingTextDelegate : public QStyledItemDelegate {
+class FittingTextDelegate : public PictureDelegate {
     Q_OBJECT
 public:
     /// `cut` specifies where text that is too wide is elided.

@@ -4,6 +4,7 @@
 
 #include <QLocale>
 #include <QString>
+#include <QStringList>
 
 /// Numbers and times formatted in the system's locale.
 namespace ui {
@@ -12,5 +13,7 @@ QString numberText(qint64 number);
 
 /// A time in seconds since 1970 UTC, shown as local time.
 QString timeText(qint64 seconds, QLocale::FormatType format);
+/// Samples of such texts, the longest among them: with each month, and each day of the week.
+QStringList timeTextSamples(QLocale::FormatType format);
 
 } // namespace ui

@@ -14,6 +14,18 @@ QHash<QString, QIcon>& icons() {
     return icons;
 }
 
+bool isSign(const QString& resource) {
+    return resource.startsWith(QLatin1String(":/icons/event_")) ||
+           resource.startsWith(QLatin1String(":/icons/health_"));
+}
+
+QIcon iconOf(const QString& resource) {
+    QIcon icon(resource);
+    if (isSign(resource))
+        icon.addFile(resource, {}, QIcon::Selected);
+    return icon;
+}
+
 } // namespace
 
 QIcon sharedIcon(const QString& resource) {
@@ -22,7 +34,7 @@ QIcon sharedIcon(const QString& resource) {
     // Pictures must not outlive the application object.
     if (icons().isEmpty())
         qAddPostRoutine([] { icons().clear(); });
-    return *icons().insert(resource, QIcon(resource));
+    return *icons().insert(resource, iconOf(resource));
 }
 
 } // namespace ui

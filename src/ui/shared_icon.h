@@ -8,7 +8,7 @@
 namespace ui {
 
 /// The icon of a resource, read once per application object: views request the same few icons for
-/// each cell they paint.
+/// each cell they paint. A sign, whose colours have a meaning, looks the same in a selected row.
 QIcon sharedIcon(const QString& resource);
 
 } // namespace ui

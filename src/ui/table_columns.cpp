@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QHeaderView>
 #include <QStyle>
+#include <QStyleOptionViewItem>
 #include <QTableView>
 
 #include "ui/fitting_text_delegate.h"
@@ -39,6 +40,29 @@ QVariant headerOf(const QAbstractItemModel& model, const TableColumn& column, in
 
 QVariant alignmentOf(const TableColumn& column) {
     return column.alignment ? QVariant(static_cast<int>(column.alignment)) : QVariant();
+}
+
+void makeRoom(QTableView& table, int column, const QStringList& texts, bool hasPicture) {
+    QStyleOptionViewItem cell;
+    cell.initFrom(&table);
+    cell.widget = &table;
+    cell.font = table.font();
+    cell.features = QStyleOptionViewItem::HasDisplay;
+    if (hasPicture) {
+        const int edge = table.style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, &table);
+        cell.features |= QStyleOptionViewItem::HasDecoration;
+        cell.decorationPosition = QStyleOptionViewItem::Left;
+        cell.decorationSize = {edge, edge};
+    }
+    int width = table.columnWidth(column);
+    for (const QString& text : texts) {
+        cell.text = text;
+        const QSize size =
+            table.style()->sizeFromContents(QStyle::CT_ItemViewItem, &cell, {}, &table);
+        // The line between two columns takes a pixel.
+        width = std::max(width, size.width() + 1);
+    }
+    table.setColumnWidth(column, width);
 }
 
 void setUpTable(QTableView& table, QAbstractItemModel& model) {

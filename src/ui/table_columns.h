@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <QStringList>
 #include <QVariant>
 
 class QAbstractItemModel;
@@ -51,5 +52,8 @@ QVariant alignmentOf(const TableColumn& column);
 /// Sets up a table in the program's common style: each column as wide as the header or its title
 /// requires, titles on the left, and text that is too wide drawn by `FittingTextDelegate`.
 void setUpTable(QTableView& table, QAbstractItemModel& model);
+/// Widens a column, if necessary, so that a cell with any of the texts shows it in full, beside a
+/// picture if `hasPicture`.
+void makeRoom(QTableView& table, int column, const QStringList& texts, bool hasPicture = false);
 
 } // namespace ui

@@ -12,12 +12,12 @@
 
 #include "api/client_connection.h"
 #include "models/asterisk_key.h"
-#include "models/picture_delegate.h"
 #include "models/restore_destination_directory_only_model.h"
 #include "models/restore_destination_model.h"
 #include "session/connection.h"
 #include "session/required.h"
 #include "session/text.h"
+#include "ui/picture_delegate.h"
 #include "ui/remote_action.h"
 #include "ui_restore_directory_destination.h"
 #include "wizards/local_path.h"
@@ -52,7 +52,7 @@ RestoreDirectoryDestination::RestoreDirectoryDestination(QWidget* parent)
     showSubdirectory();
     QTreeView* tree = ui_->treeAvailableDirectories;
     tree->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    tree->setItemDelegate(new models::PictureDelegate(tree));
+    tree->setItemDelegate(new ui::PictureDelegate(tree));
     models::expandOneLevelByAsterisk(*tree);
     connect(tree, &QTreeView::expanded, this, [tree](const QModelIndex& index) {
         tree->scrollTo(index, QAbstractItemView::PositionAtTop);

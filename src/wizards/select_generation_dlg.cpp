@@ -5,26 +5,9 @@
 #include <QEvent>
 
 #include "models/generation_select_model.h"
-#include "models/picture_delegate.h"
 #include "ui/branding_resources.h"
-#include "ui/fitting_text_delegate.h"
 #include "ui/table_columns.h"
 #include "ui_select_generation_dlg.h"
-
-namespace {
-
-class GenerationDelegate : public ui::FittingTextDelegate {
-public:
-    using FittingTextDelegate::FittingTextDelegate;
-
-protected:
-    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
-        FittingTextDelegate::initStyleOption(option, index);
-        models::lightenSelected(*option, index);
-    }
-};
-
-} // namespace
 
 SelectGenerationDlg::SelectGenerationDlg(const models::Generations& generations, QWidget* parent)
     : QDialog(parent)
@@ -43,7 +26,6 @@ SelectGenerationDlg::~SelectGenerationDlg() = default;
 void SelectGenerationDlg::setUpTable() {
     QTableView& table = *ui_->listGenerations;
     ui::setUpTable(table, *model_);
-    table.setItemDelegate(new GenerationDelegate(&table));
     table.resizeRowsToContents();
     connect(table.selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &SelectGenerationDlg::updateEnabling);

@@ -6,12 +6,12 @@
 
 #include "api/client_connection.h"
 #include "models/asterisk_key.h"
-#include "models/picture_delegate.h"
 #include "models/restore_destination_directory_only_model.h"
 #include "models/restore_destination_model.h"
 #include "session/connection.h"
 #include "session/required.h"
 #include "session/text.h"
+#include "ui/picture_delegate.h"
 #include "ui_set_options_page.h"
 #include "wizards/local_path.h"
 #include "wizards/select_data_source_page.h"
@@ -24,7 +24,7 @@ SetOptionsPage::SetOptionsPage(QWidget* parent)
     ui_->setupUi(this);
     QTreeView* tree = ui_->treeAvailableDirectories;
     tree->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    tree->setItemDelegate(new models::PictureDelegate(tree));
+    tree->setItemDelegate(new ui::PictureDelegate(tree));
     models::expandOneLevelByAsterisk(*tree);
     connect(tree, &QTreeView::expanded, this, &SetOptionsPage::treeExpanded);
     showFolderIfWanted();

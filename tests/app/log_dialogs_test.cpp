@@ -18,6 +18,7 @@
 #include "resources/pictures.h"
 #include "tests/support/gui_form_texts.h"
 #include "tests/support/gui_modal_driver.h"
+#include "tests/support/gui_translation.h"
 #include "ui/branding_resources.h"
 #include "ui/fitting_text_delegate.h"
 
@@ -112,6 +113,9 @@ private slots:
     void theButtonClosesTheViewer();
     void aTextThatIsALittleTooWideIsDrawnNarrower();
     void aTextThatIsMuchTooWideIsCutAndHasAToolTip();
+    void timesAndLabelsAreShownInFull_data();
+    void timesAndLabelsAreShownInFull();
+    void theTabKeyPassesTheSearchBeforeTheTable();
     void everyWidgetHasAName();
     void theAboutBoxWithoutASession();
     void theAgentsInformationLeavesOutWhatIsForPrograms();
@@ -264,6 +268,52 @@ void LogDialogsTest::aTextThatIsMuchTooWideIsCutAndHasAToolTip() {
     QVERIFY(!ui::FittingTextDelegate::showsAll(time));
     QCOMPARE(time.textElideMode, Qt::ElideMiddle);
     QVERIFY(viewer.toolTip(EventLogModel::time).contains(time.text));
+}
+
+void LogDialogsTest::timesAndLabelsAreShownInFull_data() {
+    QTest::addColumn<QString>("language");
+    QTest::newRow("English") << QString();
+    for (const QString& language : support::languages())
+        QTest::newRow(qPrintable(language)) << language;
+}
+
+void LogDialogsTest::timesAndLabelsAreShownInFull() {
+    QFETCH(QString, language);
+    std::unique_ptr<support::Translation> texts;
+    if (!language.isEmpty())
+        texts = std::make_unique<support::Translation>(language);
+    ViewerOfOne viewer;
+    support::ModalDriver modals;
+    modals.expectErrorBox(EventLogViewer::tr("Error"), QStringLiteral("No API connection exists"));
+    viewer.showFor(from, to, 0);
+    QVERIFY(modals.done());
+    hessiancln::event_log_info event = warning();
+    event.when = 1790183417; // a Wednesday in September
+    event.category = hessiancln::EventCategory::OperatingSystem;
+    viewer.model().setRecords({event});
+    for (const int column : {EventLogModel::type, EventLogModel::time, EventLogModel::category}) {
+        const QStyleOptionViewItem cell = viewer.cell(column);
+        QVERIFY2(ui::FittingTextDelegate::showsAll(cell), qPrintable(cell.text));
+        QCOMPARE(cell.font.stretch(), viewer.table().font().stretch());
+    }
+}
+
+void LogDialogsTest::theTabKeyPassesTheSearchBeforeTheTable() {
+    ViewerOfOne viewer;
+    const QWidget* first = &child<QWidget>(viewer, "editSearch");
+    QStringList order;
+    const QWidget* widget = first;
+    do {
+        if (widget->isVisible() && widget->isEnabled() && !widget->focusProxy() &&
+            (widget->focusPolicy() & Qt::TabFocus) != 0)
+            order << widget->objectName();
+        widget = widget->nextInFocusChain();
+    } while (widget != first);
+    QCOMPARE(order, QStringList({QStringLiteral("editSearch"), QStringLiteral("comboSeverity"),
+                                 QStringLiteral("buttonExport"), QStringLiteral("tableEvents"),
+                                 QStringLiteral("timeFrom"), QStringLiteral("timeTo"),
+                                 QStringLiteral("checkActivityID"),
+                                 QStringLiteral("spinActivityID"), QStringLiteral("buttonClose")}));
 }
 
 void LogDialogsTest::everyWidgetHasAName() {

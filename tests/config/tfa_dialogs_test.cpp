@@ -62,6 +62,7 @@ private slots:
     void theSelectedRowIsEdited();
     void aDoubleClickEditsToo();
     void theSelectedRowIsDeleted();
+    void theRowThatLooksSelectedIsSelected();
     void withoutASelectionNothingIsEditedOrDeleted();
     void aFileIsImported_data();
     void aFileIsImported();
@@ -243,6 +244,36 @@ void TFADialogsTest::theSelectedRowIsDeleted() {
         QCOMPARE(rows(viewer), QStringList(q("bob;;bob@example.org")));
     });
     QCOMPARE(agent_->callTexts(), reading);
+}
+
+/// The current row has a frame.
+void TFADialogsTest::theRowThatLooksSelectedIsSelected() {
+    const auto selectedIs = [](QWidget& viewer, int row) {
+        const auto& table = child<QTableView>(viewer, "tableUsers");
+        const QModelIndexList rows = table.selectionModel()->selectedRows();
+        QCOMPARE(rows.size(), 1);
+        QCOMPARE(rows.first().row(), row);
+        QCOMPARE(table.currentIndex().row(), row);
+        QVERIFY(child<QPushButton>(viewer, "btnEdit").isEnabled());
+        QVERIFY(child<QPushButton>(viewer, "btnDelete").isEnabled());
+    };
+    withViewer([&](QWidget& viewer) {
+        selectedIs(viewer, 0);
+        press(viewer, "btnDelete");
+        selectedIs(viewer, 0);
+        press(viewer, "btnDelete");
+        QVERIFY(!child<QPushButton>(viewer, "btnEdit").isEnabled());
+        QVERIFY(!child<QPushButton>(viewer, "btnDelete").isEnabled());
+        expectUser([](QWidget& dialog) {
+            type(dialog, "editUsername", "dan");
+            type(dialog, "editEmail", "dan@example.org");
+            press(dialog, "btnOK");
+        });
+        press(viewer, "btnAdd");
+        viewer.activateWindow();
+        child<QTableView>(viewer, "tableUsers").setFocus();
+        selectedIs(viewer, 0);
+    });
 }
 
 void TFADialogsTest::withoutASelectionNothingIsEditedOrDeleted() {

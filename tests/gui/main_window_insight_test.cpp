@@ -11,6 +11,7 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDateTimeEdit>
 #include <QFile>
 #include <QFileDialog>
 #include <QGroupBox>
@@ -149,7 +150,15 @@ private slots:
         QCOMPARE(driver.rows("tableActivityLog"), 2);
         line.setText(QStringLiteral("set:\"ended with errors\""));
         QCOMPARE(driver.rows("tableActivityLog"), 1);
+        child<QTabWidget>(driver.window(), "tabWidget").setCurrentIndex(1);
+        auto& table = child<QTableView>(driver.window(), "tableActivityLog");
+        auto& note = child<QLabel>(table, "emptyNote");
+        QVERIFY(!note.isVisible());
+        line.setText(QStringLiteral("no such word"));
+        QTRY_VERIFY(note.isVisible());
+        QCOMPARE(note.text(), QStringLiteral("No rows match the search."));
         line.clear();
+        QTRY_VERIFY(!note.isVisible());
         child<QComboBox>(driver.window(), "comboSeverity").setCurrentIndex(1);
         QCOMPARE(driver.rows("tableActivityLog"), 3);
         child<QComboBox>(driver.window(), "comboSeverity").setCurrentIndex(0);
@@ -157,6 +166,25 @@ private slots:
         QCOMPARE(count.text(), QStringLiteral("%1 rows").arg(all));
         QCOMPARE(QAccessible::queryAccessibleInterface(&count)->text(QAccessible::Name),
                  count.text());
+    }
+
+    void aPeriodWithoutActivitiesSaysSo() {
+        GuiAgent agent({.scenario = Scenario::Failed});
+        MainWindowDriver driver;
+        auto& window = driver.window();
+        child<QTabWidget>(window, "tabWidget").setCurrentIndex(1);
+        const auto& note =
+            child<QLabel>(child<QTableView>(window, "tableActivityLog"), "emptyNote");
+        driver.logIn(agent);
+        for (const char* field : {"dateTimeFrom", "dateTimeTo"})
+            child<QDateTimeEdit>(window, field).setDateTime(QDateTime({2001, 1, 1}, {0, 0}));
+        driver.beat();
+        QCOMPARE(driver.rows("tableActivityLog"), 0);
+        QTRY_VERIFY(note.isVisible());
+        QCOMPARE(note.text(), QStringLiteral("No activities in this period."));
+        // Without a session, nothing is known about the period.
+        driver.window().OnDisconnect();
+        QTRY_VERIFY(!note.isVisible());
     }
 
     void aSelectedRowStaysSelectedUnderAFilter() {
@@ -376,6 +404,9 @@ private slots:
             QCOMPARE(activities.size(), std::size_t{1});
             line.setText(QStringLiteral("set:nobody"));
             QCOMPARE(events.rowCount(), 0);
+            const auto& note = child<QLabel>(dialog, "emptyNote");
+            QTRY_VERIFY(note.isVisible());
+            QCOMPARE(note.text(), QStringLiteral("No rows match the search."));
             child<QPushButton>(dialog, "buttonClose").click();
         });
         driver.window().ShowEventLog();
@@ -458,6 +489,7 @@ private slots:
             QCOMPARE(QAccessible::queryAccessibleInterface(&label)->text(QAccessible::Name),
                      summary);
             QVERIFY2(summary.contains(QStringLiteral("What: 1 file")), qPrintable(summary));
+            QVERIFY2(summary.contains(QStringLiteral("Size: 105.15 KB")), qPrintable(summary));
             QVERIFY(summary.contains(QStringLiteral("the original location")));
             child<QComboBox>(*wizard.currentPage(), "cmbRestoreReason").setCurrentIndex(1);
             wizard.button(QWizard::FinishButton)->click();

@@ -9,7 +9,9 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QStandardItemModel>
+#include <QStandardPaths>
 #include <QTableView>
+#include <QTemporaryDir>
 #include <QTranslator>
 #include <QtTest>
 
@@ -49,6 +51,7 @@ private slots:
     void andAfterEachRefreshWhileItHasTheFocus();
     void theNumberOfRowsHasASingular();
     void theExportDialogIsTranslated();
+    void theExportStartsInTheFolderForDocuments();
 };
 
 namespace {
@@ -124,6 +127,29 @@ void LogSearchBarTest::theExportDialogIsTranslated() {
     });
     support::child<QPushButton>(*window.bar, "buttonExport").click();
     QVERIFY(modals.done());
+}
+
+void LogSearchBarTest::theExportStartsInTheFolderForDocuments() {
+    const QTemporaryDir home;
+    const auto putBack = qScopeGuard([before = qgetenv("HOME")] { qputenv("HOME", before); });
+    qputenv("HOME", QFile::encodeName(home.path()));
+    const auto startOfExport = [] {
+        Window window;
+        QString folder;
+        support::ModalDriver modals;
+        modals.expect(QStringLiteral("file"), support::isDialog<QFileDialog>, [&](QWidget& dialog) {
+            folder = static_cast<QFileDialog&>(dialog).directory().absolutePath();
+            static_cast<QDialog&>(dialog).reject();
+        });
+        support::child<QPushButton>(*window.bar, "buttonExport").click();
+        return folder;
+    };
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    if (!QFileInfo(documents).isDir()) {
+        QCOMPARE(startOfExport(), QDir::homePath());
+        QVERIFY(QDir().mkpath(documents));
+    }
+    QCOMPARE(startOfExport(), documents);
 }
 
 QTEST_MAIN(LogSearchBarTest)

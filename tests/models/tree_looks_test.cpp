@@ -181,16 +181,22 @@ void TreeLooksTest::theAsteriskKeyExpandsOneLevel() {
 
 void TreeLooksTest::thePictureOfASelectedRowStandsOut_data() {
     QTest::addColumn<bool>("asTree");
-    QTest::newRow("tree") << true;
-    QTest::newRow("list") << false;
+    QTest::addColumn<bool>("asItems");
+    QTest::newRow("tree") << true << false;
+    QTest::newRow("tree of items to back up") << true << true;
+    QTest::newRow("list") << false << false;
 }
 
 void TreeLooksTest::thePictureOfASelectedRowStandsOut() {
     QFETCH(bool, asTree);
+    QFETCH(bool, asItems);
     CSmallTreeView tree;
     CSmallListView list;
     QAbstractItemView& view =
         asTree ? static_cast<QAbstractItemView&>(tree) : static_cast<QAbstractItemView&>(list);
+    CSelectDisplayDelegate delegate;
+    if (asItems)
+        view.setItemDelegate(&delegate);
     const QColor row = view.palette().color(QPalette::Highlight);
     // Only the picture is visible, in the colour of the row.
     QPixmap picture(16, 16);

@@ -2,11 +2,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ui/elided_label.h"
 
-#include <QHelpEvent>
 #include <QPixmap>
 #include <QTest>
-#include <QTextDocument>
-#include <QToolTip>
+
+#include "tests/support/gui_tool_tip.h"
 
 namespace {
 
@@ -16,17 +15,6 @@ const QString wholeText = QStringLiteral("Everything that the accounts need");
 void place(QLabel& label, const QString& text, double part) {
     label.setText(text);
     label.resize(qRound(label.sizeHint().width() * part), label.sizeHint().height());
-}
-
-/// The visible text of the tool tip shown on hovering; empty if there is none.
-QString tipOf(QWidget& widget) {
-    QHelpEvent rest(QEvent::ToolTip, {3, 3}, widget.mapToGlobal({3, 3}));
-    QCoreApplication::sendEvent(&widget, &rest);
-    if (!rest.isAccepted())
-        return {};
-    QTextDocument shown;
-    shown.setHtml(QToolTip::text());
-    return shown.toPlainText();
 }
 
 } // namespace
@@ -85,9 +73,9 @@ private slots:
         ui::ElidedLabel label;
         place(label, wholeText, 0.5);
         label.show();
-        QCOMPARE(tipOf(label), wholeText);
+        QCOMPARE(support::tipOf(label, {3, 3}), wholeText);
         place(label, wholeText, 1);
-        QCOMPARE(tipOf(label), QString());
+        QCOMPARE(support::tipOf(label, {3, 3}), QString());
     }
 
     void markupIsText() {
@@ -96,7 +84,7 @@ private slots:
         const QString text = QStringLiteral("<b>Everything that the accounts need</b>");
         place(label, text, 0.5);
         label.show();
-        QCOMPARE(tipOf(label), text);
+        QCOMPARE(support::tipOf(label, {3, 3}), text);
     }
 
     void aToolTipOfItsOwnComesFirst() {
@@ -104,7 +92,7 @@ private slots:
         place(label, wholeText, 0.5);
         label.setToolTip(QStringLiteral("Own"));
         label.show();
-        QCOMPARE(tipOf(label), QStringLiteral("Own"));
+        QCOMPARE(support::tipOf(label, {3, 3}), QStringLiteral("Own"));
     }
 };
 

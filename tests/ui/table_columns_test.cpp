@@ -4,10 +4,14 @@
 
 #include <QAbstractTableModel>
 #include <QHeaderView>
+#include <QStandardItemModel>
 #include <QTableView>
 #include <QtTest>
 
+#include "resources/pictures.h"
+#include "tests/support/gui_selected_row_look.h"
 #include "ui/fitting_text_delegate.h"
+#include "ui/shared_icon.h"
 #include "ui/table_columns.h"
 
 namespace {
@@ -56,11 +60,43 @@ public:
     }
 };
 
+/// A table with two rows that have this picture, the first one selected.
+struct RowsWithPicture {
+    explicit RowsWithPicture(const QIcon& icon)
+        : model(2, 1) {
+        ui::setUpTable(table, model);
+        table.setAlternatingRowColors(false);
+        table.setShowGrid(false);
+        for (const int row : {0, 1})
+            model.setData(model.index(row, 0), icon, Qt::DecorationRole);
+        table.show();
+        table.clearFocus();
+        table.selectionModel()->select(model.index(0, 0), QItemSelectionModel::ClearAndSelect);
+    }
+
+    /// The number of orange pixels in a row.
+    int orange(int row) {
+        const QImage look = table.viewport()->grab(table.visualRect(model.index(row, 0))).toImage();
+        int count = 0;
+        for (int x = 0; x < look.width(); ++x)
+            for (int y = 0; y < look.height(); ++y) {
+                const QColor color = look.pixelColor(x, y);
+                count += color.hue() > 10 && color.hue() < 50 && color.saturation() > 150;
+            }
+        return count;
+    }
+
+    QStandardItemModel model;
+    QTableView table;
+};
+
 } // namespace
 
 class TableColumnsTest : public QObject {
     Q_OBJECT
 private slots:
+    void initTestCase() { resources::initPictures(); }
+
     void theHeaderHasTitlesAndWidths() {
         const Model model;
         QCOMPARE(ui::headerOf(model, columnTable[size], Qt::DisplayRole).toString(),
@@ -106,6 +142,35 @@ private slots:
         table.horizontalHeader()->setFont(large);
         ui::setUpTable(table, model);
         QCOMPARE(table.columnWidth(size), 70);
+    }
+
+    void thePictureOfASelectedRowIsAsLightAsItsText() {
+        RowsWithPicture rows(ui::sharedIcon(QStringLiteral(":/tree/file")));
+        // The lines of a text file, which styles would draw in the colour of the row.
+        QVERIFY(lightPointsOfPicture(rows.table, rows.model.index(0, 0)) > 20);
+    }
+
+    void aSignKeepsItsColoursInASelectedRow() {
+        RowsWithPicture rows(ui::sharedIcon(QStringLiteral(":/icons/event_warning.png")));
+        QVERIFY(rows.orange(1) > 50);
+        // The pixels at its edge mix with the colour of the row.
+        QVERIFY(rows.orange(0) > rows.orange(1) * 3 / 4);
+    }
+
+    void aColumnIsWidenedForItsTextsOnly() {
+        RowsWithPicture rows(ui::sharedIcon(QStringLiteral(":/tree/file")));
+        rows.table.setColumnWidth(0, 70);
+        const QString text = QStringLiteral("wider than 70 pixels");
+        ui::makeRoom(rows.table, 0, {QStringLiteral("x"), text, QStringLiteral("y")}, true);
+        const int width = rows.table.columnWidth(0);
+        QVERIFY(width > 70);
+        rows.model.setData(rows.model.index(0, 0), text);
+        rows.table.resizeColumnToContents(0);
+        // Without lines between the columns, a cell needs a pixel less.
+        QCOMPARE(width, rows.table.columnWidth(0) + 1);
+        rows.table.setColumnWidth(0, width);
+        ui::makeRoom(rows.table, 0, {QStringLiteral("x")}, true);
+        QCOMPARE(rows.table.columnWidth(0), width);
     }
 
     void aTitleThatNeedsMoreWidthGetsIt() {

@@ -20,7 +20,7 @@
 #include "simulator/world/world.h"
 #include "tests/support/gui_agent.h"
 #include "tests/support/gui_modal_driver.h"
-#include "tests/wizards/selected_row_look.h"
+#include "tests/support/gui_selected_row_look.h"
 #include "ui/wizard_frame.h"
 #include "wizards/select_data_source_page.h"
 #include "wizards/set_name_page.h"

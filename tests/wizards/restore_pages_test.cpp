@@ -12,9 +12,9 @@
 #include <QStackedWidget>
 #include <QTreeView>
 
+#include "tests/support/gui_selected_row_look.h"
 #include "tests/support/gui_tree.h"
 #include "tests/wizards/page_fixture.h"
-#include "tests/wizards/selected_row_look.h"
 #include "wizards/restore_directory_destination.h"
 #include "wizards/restore_location_page.h"
 #include "wizards/select_data_source_page.h"

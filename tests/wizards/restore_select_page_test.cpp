@@ -13,10 +13,10 @@
 #include <QTreeView>
 
 #include "tests/support/gui_form_texts.h"
+#include "tests/support/gui_selected_row_look.h"
 #include "tests/support/gui_tree.h"
 #include "tests/support/time_zone.h"
 #include "tests/wizards/page_fixture.h"
-#include "tests/wizards/selected_row_look.h"
 #include "ui/branding_resources.h"
 #include "wizards/field_memo.h"
 #include "wizards/restore_select_page.h"

@@ -119,7 +119,7 @@
     </message>
     <message>
         <source>%1 second(s)</source>
-        <translation>%1 Sekunde(n)</translation>
+        <translation>%1 Sek.</translation>
     </message>
     <message>
         <source>Type</source>
@@ -821,7 +821,7 @@ Möchten Sie den Sicherungssatz entfernen?</translation>
     </message>
     <message>
         <source>Warn</source>
-        <translation>Warn</translation>
+        <translation>Warnung</translation>
     </message>
     <message>
         <source>Err</source>
@@ -2581,15 +2581,15 @@ Möchten Sie den Sicherungssatz entfernen?</translation>
     </message>
     <message>
         <source>The backup set needs attention</source>
-        <translation>Der Sicherungssatz braucht Aufmerksamkeit</translation>
+        <translation>Sicherungssatz prüfen</translation>
     </message>
     <message>
         <source>1 of %1 sets needs attention</source>
-        <translation>1 von %1 Sätzen braucht Aufmerksamkeit</translation>
+        <translation>1 von %1 Sätzen prüfen</translation>
     </message>
     <message>
         <source>%1 of %2 sets need attention</source>
-        <translation>%1 von %2 Sätzen brauchen Aufmerksamkeit</translation>
+        <translation>%1 von %2 Sätzen prüfen</translation>
     </message>
     <message>
         <source>1 set, no failure</source>
@@ -2740,6 +2740,10 @@ Möchten Sie den Sicherungssatz entfernen?</translation>
 </context>
 <context>
     <name>LogSearchBar</name>
+    <message>
+        <source>No rows match the search.</source>
+        <translation>Keine Zeile entspricht der Suche.</translation>
+    </message>
     <message>
         <source>Sea&amp;rch:</source>
         <translation>S&amp;uche:</translation>
@@ -3950,6 +3954,10 @@ Bitte wählen Sie einen anderen Namen.</translation>
 </context>
 <context>
     <name>SimpleGUIMainWindow</name>
+    <message>
+        <source>No activities in this period.</source>
+        <translation>Keine Aktivitäten in diesem Zeitraum.</translation>
+    </message>
     <message>
         <source>Ostrand Backup</source>
         <translation>Ostrand Backup</translation>
