@@ -5,7 +5,7 @@
 #include <QListView>
 
 /// A list that a layout can shrink to any size. Its rows have a uniform height, so that the view
-/// doesn't have to measure each of them.
+/// doesn't have to measure each of them. Screen readers see the rows below its root.
 class CSmallListView : public QListView {
     Q_OBJECT
 public:

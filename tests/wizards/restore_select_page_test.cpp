@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
+#include <QAccessible>
 #include <QCheckBox>
 #include <QDateTimeEdit>
 #include <QGroupBox>
@@ -70,6 +71,7 @@ private slots:
     void aTypedDateCountsWithoutLeavingItsField();
     void theGenerationsWantAFile();
     void aFileThatTheFilterHidesHasNoGenerations();
+    void aScreenReaderSeesTheFilesOfTheFolder();
     void theGenerationsOfNoFileAreNotShown();
     void theGenerationInTheFilterIsMarked();
     void aGenerationOfAForgottenBackup();
@@ -237,6 +239,31 @@ void RestoreSelectPageTest::aFileThatTheFilterHidesHasNoGenerations() {
     filter.setText(q("*"));
     QVERIFY(!list.selectionModel()->hasSelection());
     QVERIFY(!button.isEnabled());
+}
+
+void RestoreSelectPageTest::aScreenReaderSeesTheFilesOfTheFolder() {
+    const Set set = setWithFiles();
+    change(documents, [](simulator::BackupSetState& state, simulator::World&) {
+        for (const char* path : {"C:\\docs\\c.txt", "C:\\docs\\d.ods"})
+            state.stored->addFile(path, {{firstTime, firstTime + 60, 10, 8}});
+    });
+    RestoreSelectPage page(set);
+    auto& tree = child<QTreeView>(page, "treeSelection");
+    auto& face = *QAccessible::queryAccessibleInterface(&child<QListView>(page, "listSelection"));
+    const auto texts = [&face] {
+        QStringList texts;
+        for (int row = 0; row < face.tableInterface()->rowCount(); ++row)
+            texts << face.tableInterface()->cellAt(row, 0)->text(QAccessible::Name);
+        return texts;
+    };
+    tree.expand(rowAt(tree, "C:"));
+    tree.setCurrentIndex(rowAt(tree, "C:/docs"));
+    QCOMPARE(texts(), QStringList({q("b.txt"), q("c.txt"), q("d.ods")}));
+    child<QLineEdit>(page, "editFilter").setText(q("*.ods"));
+    QCOMPARE(texts(), QStringList(q("d.ods")));
+    tree.setCurrentIndex(rowAt(tree, "C:"));
+    child<QLineEdit>(page, "editFilter").setText(q("*"));
+    QCOMPARE(texts(), QStringList(q("notes.txt")));
 }
 
 void RestoreSelectPageTest::theGenerationsOfNoFileAreNotShown() {
