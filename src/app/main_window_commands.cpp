@@ -1,8 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 // The main window's slots that act on sets.
-#include <algorithm>
-
 #include <QContextMenuEvent>
 #include <QDateTime>
 #include <QMenu>
@@ -43,6 +41,22 @@ auto restoreFrom(QWidget& parent, const boost::shared_ptr<hessiancln::BackupSet>
     return wizards::restoreFromSet(parent, set, insight::addRestoreSummary);
 }
 
+auto restoreOf(const wizards::RestoreFile& file) {
+    return [file](QWidget& parent, const boost::shared_ptr<hessiancln::BackupSet>& set) {
+        return wizards::restoreFromSet(parent, set, insight::addRestoreSummary, file);
+    };
+}
+
+/// The record of a set, which has only its id if the list no longer contains it.
+hessiancln::backup_set_info recordOf(std::int32_t id, const app::BackupSetList& list) {
+    for (const auto& set : list.records())
+        if (set.id == id)
+            return set;
+    hessiancln::backup_set_info unlisted;
+    unlisted.id = id;
+    return unlisted;
+}
+
 void editItems(QWidget& parent, const hessiancln::backup_set_info& set) {
     const wizards::SetFeatures features = wizards::readSetFeatures();
     wizards::editItems(parent, features, app::openBackupSet(set.id), set.has_items);
@@ -80,14 +94,15 @@ void SimpleGUIMainWindow::startOnSelectedSet(StartOnSet* begin, ui::Cursor curso
     });
 }
 
-void SimpleGUIMainWindow::runOnSelectedSet(RunOnSet* wizard, const QString& status) {
-    commandSelectedSet(tr("Error"), ui::Cursor::arrow, [this, wizard, &status](const auto& set) {
-        follow(wizard(*this, app::openBackupSet(set.id)), set, status);
+void SimpleGUIMainWindow::runOnSelectedSet(const Wizard& wizard, const QString& status) {
+    commandSelectedSet(tr("Error"), ui::Cursor::arrow, [this, &wizard, &status](const auto& set) {
+        runOnSet(wizard, set, status);
     });
 }
 
-void SimpleGUIMainWindow::follow(const Started& activity, const hessiancln::backup_set_info& set,
-                                 const QString& status) {
+void SimpleGUIMainWindow::runOnSet(const Wizard& wizard, const hessiancln::backup_set_info& set,
+                                   const QString& status) {
+    const Started activity = wizard(*this, app::openBackupSet(set.id));
     if (!activity)
         return;
     refreshAll();
@@ -137,13 +152,7 @@ void SimpleGUIMainWindow::OnRestore() {
 
 void SimpleGUIMainWindow::restoreFile(std::int32_t setId, const wizards::RestoreFile& file) {
     ui::remoteAction(*this, tr("Error"), ui::Cursor::arrow, [&] {
-        const auto sets = sets_->records();
-        const auto listed = std::ranges::find(sets, setId, &hessiancln::backup_set_info::id);
-        // A copy: the list changes while the wizard is open.
-        const auto set = listed == sets.end() ? hessiancln::backup_set_info() : *listed;
-        follow(wizards::restoreFromSet(*this, app::openBackupSet(setId), insight::addRestoreSummary,
-                                       file),
-               set, tr("%1: Restore started for '%2'"));
+        runOnSet(restoreOf(file), recordOf(setId, *sets_), tr("%1: Restore started for '%2'"));
     });
 }
 

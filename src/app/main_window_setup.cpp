@@ -5,6 +5,7 @@
 #include <QMenu>
 #include <QScreen>
 
+#include "app/activity_news.h"
 #include "app/activity_tables.h"
 #include "app/backup_set_list.h"
 #include "app/call_gate.h"
@@ -13,7 +14,6 @@
 #include "app/insight_windows.h"
 #include "app/set_details_panel.h"
 #include "app/simple_gui_main_window.h"
-#include "app/status_link.h"
 #include "app/tray_presence.h"
 #include "session/process_values.h"
 #include "ui/branding_resources.h"
@@ -41,9 +41,7 @@ void SimpleGUIMainWindow::setUpBranding() {
     setWindowIcon(ui::g_branding.applicationIcon());
     ui_->actionLogo->setIcon(ui::g_branding.logoIcon());
     ui_->actionLogo->setToolTip(ui::g_branding.description());
-}
-
-void SimpleGUIMainWindow::setUpToolBars() {
+    // The logo's bar stands at the right end.
     ui_->toolBar->addWidget(new Filler(ui_->toolBar));
     ui_->toolBarLogo->setMinimumWidth(ui_->toolBarLogo->sizeHint().width());
 }
@@ -90,7 +88,7 @@ void SimpleGUIMainWindow::setUpInsight() {
         [] {
             return session::connectedToAgent() ? tr("No activities in this period.") : QString();
         });
-    statusLink_ = new app::StatusLink(*ui_->statusbar);
+    setUpNews();
     insight_ = std::make_unique<app::InsightWindows>(
         *this, *ui_->statusbar, *ui_->searchActivityLog, [this](const insight::HealthRow& row) {
             app::EnableInputs in = enableInputs();
@@ -112,12 +110,22 @@ void SimpleGUIMainWindow::setUpInsight() {
             &SimpleGUIMainWindow::backUpSet);
     connect(insight_.get(), &app::InsightWindows::syncRequested, this,
             &SimpleGUIMainWindow::syncSet);
-    connect(insight_.get(), &app::InsightWindows::eventsRequested, this,
-            &SimpleGUIMainWindow::showEventsOf);
+    connect(insight_.get(), &app::InsightWindows::eventsRequested, news_.get(),
+            &app::ActivityNews::showEventsOf);
     connect(insight_.get(), &app::InsightWindows::restoreRequested, this,
             &SimpleGUIMainWindow::restoreFile);
-    connect(insight_.get(), &app::InsightWindows::activityEnded, this,
-            &SimpleGUIMainWindow::announceEnd);
+    connect(insight_.get(), &app::InsightWindows::activityEnded, news_.get(),
+            &app::ActivityNews::announceEnd);
+}
+
+void SimpleGUIMainWindow::setUpNews() {
+    news_ = std::make_unique<app::ActivityNews>(*this, *ui_->statusbar, [this] {
+        return insight_->namesByActivity(activities_->log().records(),
+                                         activities_->running().records());
+    });
+    connect(news_.get(), &app::ActivityNews::statusChanged, this, &SimpleGUIMainWindow::showStatus);
+    connect(news_.get(), &app::ActivityNews::windowWanted, this,
+            &SimpleGUIMainWindow::showMainWindow);
 }
 
 void SimpleGUIMainWindow::setUpGeometry() {
@@ -133,6 +141,8 @@ void SimpleGUIMainWindow::setUpTray(std::unique_ptr<app::TrayIcon> icon) {
     tray_ = std::make_unique<app::TrayPresence>(*this, *ui_->actionQuit, std::move(icon));
     connect(&tray_->actionShow(), &QAction::triggered, this, &SimpleGUIMainWindow::showMainWindow);
     connect(&tray_->actionHide(), &QAction::triggered, this, &SimpleGUIMainWindow::hideMainWindow);
+    connect(insight_.get(), &app::InsightWindows::activityEnded, this,
+            [this](const auto& ended, const QString& text) { tray_->announceEnd(ended, text); });
     connect(&tray_->icon(), &QSystemTrayIcon::activated, this,
             &SimpleGUIMainWindow::sysTrayActivated);
     connect(&tray_->icon(), &app::TrayIcon::balloonClicked, this,

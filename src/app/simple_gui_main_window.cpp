@@ -5,13 +5,13 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 
+#include "app/activity_news.h"
 #include "app/activity_tables.h"
 #include "app/backup_set_list.h"
 #include "app/connection_display.h"
 #include "app/enable_state.h"
 #include "app/insight_windows.h"
 #include "app/set_details_panel.h"
-#include "app/status_link.h"
 #include "app/tray_presence.h"
 #include "session/process_values.h"
 #include "ui/branding_resources.h"
@@ -27,7 +27,6 @@ SimpleGUIMainWindow::SimpleGUIMainWindow(QWidget* parent, std::unique_ptr<app::T
     ui_->pageProperties->resize(ui_->pageProperties->layout()->sizeHint());
     ui::letContentScroll(*ui_->pageProperties);
     setUpBranding();
-    setUpToolBars();
     setUpActivities();
     setUpBackupSets();
     setUpInsight();

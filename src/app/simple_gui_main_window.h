@@ -24,13 +24,13 @@ class SimpleGUIMainWindow;
 }
 
 namespace app {
+class ActivityNews;
 class ActivityTables;
 class BackupSetList;
 class CallGate;
 class ConnectionDisplay;
 class InsightWindows;
 class SetDetailsPanel;
-class StatusLink;
 class TrayPresence;
 struct EnableInputs;
 } // namespace app
@@ -38,7 +38,6 @@ struct EnableInputs;
 namespace hessiancln {
 class BackupSet;
 class GenericActivity;
-struct activity_log_info;
 struct backup_set_info;
 struct running_activity_info;
 } // namespace hessiancln
@@ -51,8 +50,8 @@ struct RestoreFile;
 /// the commands on them. It stores no connection state; it always asks the session.
 ///
 /// Everything with its own state is a class beside it: the list of cards, the details of the
-/// selected set, the tables of activities, the presence in the tray, the health of sets and the
-/// heartbeat. They don't know each other; the window connects them.
+/// selected set, the tables of activities, the news about them, the presence in the tray, the
+/// health of sets and the heartbeat. They don't know each other; the window connects them.
 ///
 /// On each heartbeat it queries the agent for everything again. There are no other updates.
 /// Heartbeats also arrive in the event loop of an open dialog, so no code here may hold on to a
@@ -143,20 +142,17 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private slots:
-    // What other windows and news ask for.
+    // What other windows ask for.
     void backUpSet(std::int32_t setId);
     void syncSet(std::int32_t setId);
     void restoreFile(std::int32_t setId, const wizards::RestoreFile& file);
-    void showEventsOf(const std::optional<hessiancln::activity_log_info>& activity);
-    void announceEnd(const hessiancln::activity_log_info& ended, const QString& text);
-    void showLastNews();
 
 private:
     void setUpBranding();
-    void setUpToolBars();
     void setUpActivities();
     void setUpBackupSets();
     void setUpInsight();
+    void setUpNews();
     void setUpGeometry();
     void setUpConnection();
     void setUpTray(std::unique_ptr<app::TrayIcon> icon);
@@ -179,13 +175,14 @@ private:
     /// Starts an activity on the selected set; `status` gets the time and the name of the set.
     using StartOnSet = boost::shared_ptr<hessiancln::GenericActivity>(std::int32_t setId);
     void startOnSelectedSet(StartOnSet* begin, ui::Cursor cursor, const QString& status);
-    /// Runs a wizard on the selected set. Where it started an activity, shows what the agent has
-    /// now, and then `status`.
+    /// Runs a wizard on a set. Where it started an activity, shows what the agent has now, and then
+    /// `status`.
     using Started = std::optional<boost::shared_ptr<hessiancln::GenericActivity>>;
-    using RunOnSet = Started(QWidget& parent, const boost::shared_ptr<hessiancln::BackupSet>& set);
-    void runOnSelectedSet(RunOnSet* wizard, const QString& status);
-    void follow(const Started& activity, const hessiancln::backup_set_info& set,
-                const QString& status);
+    using Wizard = std::function<Started(QWidget& parent,
+                                         const boost::shared_ptr<hessiancln::BackupSet>& set)>;
+    void runOnSet(const Wizard& wizard, const hessiancln::backup_set_info& set,
+                  const QString& status);
+    void runOnSelectedSet(const Wizard& wizard, const QString& status);
     /// Edits the selected set, and shows its details again if the edit was finished. The set's id;
     /// -1 without a set.
     using EditSet = bool(QWidget& parent, const boost::shared_ptr<hessiancln::BackupSet>& set);
@@ -201,7 +198,7 @@ private:
     QMenu* setMenu_ = nullptr;                     ///< a child of the window
     app::ConnectionDisplay* connection_ = nullptr; ///< belongs to the status bar
     std::unique_ptr<app::InsightWindows> insight_;
-    app::StatusLink* statusLink_ = nullptr; ///< owned by the status bar
+    std::unique_ptr<app::ActivityNews> news_;
     app::Heartbeat heartbeat_;
     QString status_;         ///< text of the status bar, which menu tips temporarily replace
     QString refreshFailure_; ///< failure of the last refresh; empty if it succeeded

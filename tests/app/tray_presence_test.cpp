@@ -179,6 +179,14 @@ private slots:
         QVERIFY(!shown.presence.lastNews());
     }
 
+    void theEndOfTheSessionLeavesNoNews() {
+        ShownWindow shown;
+        shown.presence.hideWindow();
+        shown.presence.announceEnd(endOf(1), QStringLiteral("Ended"));
+        shown.presence.forgetNews();
+        QVERIFY(!shown.presence.lastNews());
+    }
+
     void aDismissedReminderLeavesTheNews() {
         ShownWindow shown;
         shown.presence.hideWindow();
