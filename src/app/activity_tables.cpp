@@ -67,13 +67,15 @@ void ActivityTables::refresh() {
     followTheDay();
     log_.refresh(session::wireTime(widgets_.from.dateTime()),
                  session::wireTime(widgets_.to.dateTime()));
+    logKnown_ = true;
     running_.refresh();
 }
 
 void ActivityTables::clear() {
     log_.clear();
+    logKnown_ = false;
     running_.clear();
-    // A note in the empty log depends on the session.
+    // A note in the empty log depends on whether it is known.
     widgets_.log.viewport()->update();
 }
 

@@ -37,6 +37,9 @@ public:
     /// Queries the agent, for the log first. Throws what the calls throw.
     void refresh();
     void clear();
+    /// Whether the log is what the agent last returned. Doesn't ask the session, whose lock is held
+    /// while the window paints during a login.
+    bool isLogKnown() const { return logKnown_; }
 
     bool anyRunningSelected() const;
     /// Ids of the selected running activities, in top to bottom order.
@@ -54,6 +57,7 @@ private:
     Today today_;
     LogSpan span_; ///< last span not set by the user
     ActivityLogModel log_;
+    bool logKnown_ = false;
     RunningActivitiesModel running_;
 };
 

@@ -15,7 +15,6 @@
 #include "app/set_details_panel.h"
 #include "app/simple_gui_main_window.h"
 #include "app/tray_presence.h"
-#include "session/process_values.h"
 #include "ui/branding_resources.h"
 #include "ui_simple_gui_main_window.h"
 
@@ -85,8 +84,8 @@ void SimpleGUIMainWindow::setUpInsight() {
         *ui_->tableActivityLog,
         std::make_unique<insight::SearchedRecords<hessiancln::activity_log_info>>(
             activities_->log()),
-        [] {
-            return session::connectedToAgent() ? tr("No activities in this period.") : QString();
+        [this] {
+            return activities_->isLogKnown() ? tr("No activities in this period.") : QString();
         });
     setUpNews();
     insight_ = std::make_unique<app::InsightWindows>(

@@ -15,6 +15,8 @@
 #include <QPointer>
 #include <QProcess>
 #include <QPushButton>
+#include <QTabWidget>
+#include <QTableView>
 #include <QTest>
 #include <QWindow>
 
@@ -78,6 +80,7 @@ private slots:
     void aSilentAgentIsLeftByEscape();
     void thePanelGoesWhenTheAnswerComes();
     void aShorterWaitPaintsAndShowsNoPanel();
+    void anEmptyLogIsPaintedDuringALogin();
     void thePanelCountsTheSeconds();
     void thePanelStaysInTheMiddle();
     void thePanelSpeaksGerman();
@@ -171,6 +174,22 @@ void WaitingTest::aShorterWaitPaintsAndShowsNoPanel() {
     QVERIFY(!shown);
     QVERIFY2(paints.count >= 2, qPrintable(QString::number(paints.count)));
     QVERIFY(session::connectedToAgent());
+}
+
+void WaitingTest::anEmptyLogIsPaintedDuringALogin() {
+    SimpleGUIMainWindow& window = driver_->window();
+    window.OnDisconnect();
+    child<QTabWidget>(window, "tabWidget").setCurrentIndex(1);
+    QWidget& log = *child<QTableView>(window, "tableActivityLog").viewport();
+    agent_->inject("login", simulator::Delay{200ms});
+    PaintCount paints(log);
+    bool painted = false;
+    const InTheWait user([&] {
+        painted = painted || paints.count > 0;
+        log.update();
+    });
+    QVERIFY(window.doLogin(true));
+    QVERIFY(painted);
 }
 
 void WaitingTest::thePanelCountsTheSeconds() {
