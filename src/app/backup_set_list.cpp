@@ -82,9 +82,10 @@ bool BackupSetList::selectSet(std::int32_t setId) {
     for (int row = 0; row < count(); ++row)
         if (rows_.set(row).id == setId) {
             select(row);
-            return true;
+            break;
         }
-    return false;
+    // Listeners may have refreshed the list.
+    return selectedId() == setId;
 }
 
 void BackupSetList::clear() {
@@ -150,7 +151,7 @@ std::int32_t BackupSetList::selectedId() const {
 }
 
 void BackupSetList::select(int row) {
-    const QModelIndex index = rows_.index(row);
+    const QPersistentModelIndex index = rows_.index(row);
     needCard(row).setSelected(true);
     view_.selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect |
                                                        QItemSelectionModel::Rows);

@@ -44,7 +44,8 @@ public:
 
     /// The card of the first selected row, or null. The next rebuild may delete it.
     BackupSetViewItem* selectedCard() const;
-    /// Selects the set with this id. Returns false if it isn't listed.
+    /// Selects the set with this id. Returns false if it isn't listed, or no longer is after the
+    /// listeners.
     bool selectSet(std::int32_t setId);
     /// Selects the set with this id as soon as a rebuild finds it.
     void selectOnceListed(std::int32_t setId) { pendingId_ = setId; }

@@ -1,11 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 // The main window's slots that act on sets.
+#include <algorithm>
+#include <stdexcept>
+
 #include <QContextMenuEvent>
 #include <QDateTime>
 #include <QMenu>
 
 #include "app/activity_commands.h"
+#include "app/activity_tables.h"
 #include "app/backup_set_list.h"
 #include "app/insight_windows.h"
 #include "app/open_backup_set.h"
@@ -47,14 +51,22 @@ auto restoreOf(const wizards::RestoreFile& file) {
     };
 }
 
-/// The record of a set, which has only its id if the list no longer contains it.
-hessiancln::backup_set_info recordOf(std::int32_t id, const app::BackupSetList& list) {
-    for (const auto& set : list.records())
-        if (set.id == id)
-            return set;
-    hessiancln::backup_set_info unlisted;
-    unlisted.id = id;
-    return unlisted;
+/// The record of a set to restore from. Throws the reason if it can't be done now: other windows
+/// don't disable the command.
+hessiancln::backup_set_info restorableSet(std::int32_t id, const app::BackupSetList& list,
+                                          const app::ActivityTables& activities) {
+    using Window = SimpleGUIMainWindow;
+    const auto sets = list.records();
+    const auto set = std::ranges::find(sets, id, &hessiancln::backup_set_info::id);
+    if (set == sets.end())
+        throw std::runtime_error(session::toWire(Window::tr("The backup set no longer exists.")));
+    if (activities.running().hasActivityOnSet(id))
+        throw std::runtime_error(
+            session::toWire(Window::tr("An activity is running on the backup set.")));
+    if (!set->in_sync)
+        throw std::runtime_error(session::toWire(
+            Window::tr("The backup set isn't in sync. Synchronize it, then try again.")));
+    return *set;
 }
 
 void editItems(QWidget& parent, const hessiancln::backup_set_info& set) {
@@ -152,7 +164,8 @@ void SimpleGUIMainWindow::OnRestore() {
 
 void SimpleGUIMainWindow::restoreFile(std::int32_t setId, const wizards::RestoreFile& file) {
     ui::remoteAction(*this, tr("Error"), ui::Cursor::arrow, [&] {
-        runOnSet(restoreOf(file), recordOf(setId, *sets_), tr("%1: Restore started for '%2'"));
+        runOnSet(restoreOf(file), restorableSet(setId, *sets_, *activities_),
+                 tr("%1: Restore started for '%2'"));
     });
 }
 

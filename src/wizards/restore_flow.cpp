@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "wizards/restore_flow.h"
 
+#include <stdexcept>
+
 #include <QCoreApplication>
 #include <QWizard>
 
 #include "api/backup_set.h"
+#include "session/text.h"
 #include "ui/message_box.h"
 #include "ui/wizard_frame.h"
 #include "wizards/restore_directory_destination.h"
@@ -83,8 +86,8 @@ std::optional<Activity> restoreFromSet(QWidget& parent, const Set& set,
     const RestorePages pages = wizard.pages(status);
     if (prepare)
         prepare(pages);
-    if (file)
-        pages.items.tick(*file);
+    if (file && !pages.items.tick(*file))
+        throw std::runtime_error(session::toWire(Texts::tr("The file is no longer stored.")));
     if (!wizard.run())
         return std::nullopt;
     return wizard.restore();

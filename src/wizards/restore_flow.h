@@ -46,7 +46,7 @@ struct RestoreFile {
 /// Lets the user restore from a set, with `parent` as the parent. Returns no value if the user
 /// cancelled or the set is empty; otherwise the agent's activity, to be kept until it is shown, or
 /// null if there is nothing to do. `prepare` can extend the pages before they are shown. Throws
-/// what the calls throw.
+/// what the calls throw, and std::runtime_error if the file is no longer stored.
 std::optional<boost::shared_ptr<hessiancln::GenericActivity>>
 restoreFromSet(QWidget& parent, const boost::shared_ptr<hessiancln::BackupSet>& set,
                const std::function<void(const RestorePages&)>& prepare = {},

@@ -151,6 +151,19 @@ private slots:
         QCOMPARE(shown.selectedId(), 400);
     }
 
+    void aSetThatGoesWhileItIsSelectedIsNotSelected() {
+        ShownList shown;
+        shown.rebuildWith({1, 2, 3});
+        const auto rebuildWithoutIt =
+            connect(&shown.list, &app::BackupSetList::selectionChanged, &shown.list, [&shown] {
+                shown.sets = {fileSet(1), fileSet(3)};
+                shown.list.rebuild();
+            });
+        QVERIFY(!shown.list.selectSet(2));
+        disconnect(rebuildWithoutIt);
+        QVERIFY(shown.list.selectSet(1));
+    }
+
     void aSetToSelectIsForgottenWithTheSession() {
         ShownList shown;
         shown.list.selectOnceListed(2);

@@ -500,6 +500,55 @@ private slots:
                      QStringLiteral("Restore started for 'Two years of generations'")),
                  qPrintable(driver.status()));
     }
+
+    void aFoundFileThatCannotBeRestoredSaysWhy_data() {
+        QTest::addColumn<QString>("change");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("not in sync")
+            << QStringLiteral("sync")
+            << QStringLiteral("The backup set isn't in sync. Synchronize it, then try again.");
+        QTest::newRow("busy") << QStringLiteral("activity")
+                              << QStringLiteral("An activity is running on the backup set.");
+        QTest::newRow("no set") << QStringLiteral("set")
+                                << QStringLiteral("The backup set no longer exists.");
+        QTest::newRow("no file") << QStringLiteral("file")
+                                 << QStringLiteral("The file is no longer stored.");
+    }
+
+    void aFoundFileThatCannotBeRestoredSaysWhy() {
+        QFETCH(const QString, change);
+        QFETCH(const QString, text);
+        GuiAgent agent({.scenario = Scenario::Generations});
+        MainWindowDriver driver;
+        driver.logIn(agent);
+        driver.trigger("actionFind_File");
+        auto* find = driver.window().findChild<FindFileWindow*>();
+        child<QLineEdit>(*find, "editName").setText(QStringLiteral("diary"));
+        child<QPushButton>(*find, "buttonFind").click();
+        QTRY_VERIFY(!find->isSearching());
+        child<QTableView>(*find, "tableFound").selectRow(0);
+
+        agent.withWorld([&change](World& world) {
+            const auto set = world.sets().front();
+            if (change == QLatin1String("sync"))
+                set->info.in_sync = false;
+            else if (change == QLatin1String("activity"))
+                world.start(world.backupOf(set, "anna"));
+            else if (change == QLatin1String("set")) {
+                world.removeSet(set->info.id);
+                world.addSet(simulator::BackupSetState());
+            } else
+                set->stored->addFolder("C:\\Users\\ann").children.clear();
+        });
+        driver.beat();
+        agent.clearCallLog();
+        ModalDriver modals;
+        modals.expectErrorBox(QStringLiteral("Error"), text);
+        child<QPushButton>(*find, "buttonRestore").click();
+        QVERIFY(modals.done());
+        const auto methods = methodsOf(agent);
+        QVERIFY(std::count(methods.begin(), methods.end(), "restore") == 0);
+    }
 };
 
 QTEST_MAIN(MainWindowInsightTest)

@@ -4343,6 +4343,22 @@ Klicken Sie hier, um diesen Hinweis nicht mehr zu sehen.</translation>
         <translation>Der gewählte Sicherungssatz hat keine gesicherten Daten.</translation>
     </message>
     <message>
+        <source>The file is no longer stored.</source>
+        <translation>Die Datei ist nicht mehr gespeichert.</translation>
+    </message>
+    <message>
+        <source>The backup set no longer exists.</source>
+        <translation>Den Sicherungssatz gibt es nicht mehr.</translation>
+    </message>
+    <message>
+        <source>An activity is running on the backup set.</source>
+        <translation>Auf dem Sicherungssatz läuft eine Aktivität.</translation>
+    </message>
+    <message>
+        <source>The backup set isn't in sync. Synchronize it, then try again.</source>
+        <translation>Der Sicherungssatz ist nicht synchron. Synchronisieren Sie ihn, und versuchen Sie es dann erneut.</translation>
+    </message>
+    <message>
         <source>&amp;View</source>
         <translation>Ansich&amp;t</translation>
     </message>
