@@ -35,16 +35,20 @@ activity_log_info endOf(ActivityType type) {
     return ended;
 }
 
-/// A visible window with the news in its status bar.
+/// A visible window in a session, with the news in its status bar.
 struct ShownWindow {
     ShownWindow() {
+        session::connectToAgent(agent.address(), "demo", "demo", 1);
         QObject::connect(
             &news, &app::ActivityNews::statusChanged, window.statusBar(),
             [this](const QString& status) { window.statusBar()->showMessage(status); });
         window.show();
     }
+    ~ShownWindow() { support::resetSession(); }
+
     QToolButton& link() { return child<QToolButton>(window, "buttonStatusEvents"); }
 
+    simulator::Simulator agent;
     QMainWindow window;
     app::ActivityNews news{window, *window.statusBar(), [] {
                                return insight::SetNames{{endedId, "Documents"}};
@@ -58,15 +62,7 @@ class ActivityNewsTest : public QObject {
     Q_OBJECT
 private slots:
     void initTestCase() { resources::initPictures(); }
-    void init() {
-        agent_ = std::make_unique<simulator::Simulator>();
-        session::connectToAgent(agent_->address(), "demo", "demo", 1);
-    }
-    void cleanup() {
-        support::resetSession();
-        agent_.reset();
-        QVERIFY(modals_.done());
-    }
+    void cleanup() { QVERIFY(modals_.done()); }
 
     void theEndOfARestoreLeadsToItsEvents();
     void anotherEndIsNotInTheStatusBar();
@@ -86,7 +82,6 @@ private:
         });
     }
 
-    std::unique_ptr<simulator::Simulator> agent_;
     ModalDriver modals_;
 };
 
@@ -109,7 +104,7 @@ void ActivityNewsTest::anotherEndIsNotInTheStatusBar() {
 
 void ActivityNewsTest::withoutAnActivityTheEventsOfTwoDaysAreShown() {
     ShownWindow shown;
-    agent_->clearCallLog();
+    shown.agent.clearCallLog();
     const QDateTime today = QDate::currentDate().startOfDay();
     expectEvents(false);
     shown.news.showEventsOf(std::nullopt);
@@ -117,7 +112,7 @@ void ActivityNewsTest::withoutAnActivityTheEventsOfTwoDaysAreShown() {
     const auto call = QStringLiteral("ClientConnection.event_log(%1, %2, 0)")
                           .arg(today.addDays(-1).toSecsSinceEpoch())
                           .arg(today.addDays(1).toSecsSinceEpoch() - 1);
-    QCOMPARE(agent_->callTexts(), std::vector{call.toStdString()});
+    QCOMPARE(shown.agent.callTexts(), std::vector{call.toStdString()});
 }
 
 void ActivityNewsTest::newsBringUpTheWindowAndTheEvents() {
