@@ -87,51 +87,76 @@ LangString ProgramOptions ${LANG_ENGLISH} "--lang en"
 LangString ProgramOptions ${LANG_GERMAN} "--lang de"
 
 ; Asks every running program from this folder to end, as at the end of a session, and waits for it.
-; $R0 is the number of programs still running.
+; Its process may outlive its windows, and keeps the files in use until its end.
 !macro CloseFunctions un
-Function ${un}EachRunning ; $R9: what to do with a window: 0 count, 1 ask to end
+; Whether process $3 runs the program from this folder: $4 is 1 or 0.
+Function ${un}IsOurs
+    Push $5
+    Push $6
+    StrCpy $4 0
+    ; PROCESS_QUERY_LIMITED_INFORMATION
+    System::Call 'kernel32::OpenProcess(i 0x1000, i 0, i r3) p .r5'
+    ${If} $5 <> 0
+        System::Call 'kernel32::QueryFullProcessImageNameW(p r5, i 0, w .r6, *i ${NSIS_MAX_STRLEN})'
+        System::Call 'kernel32::CloseHandle(p r5)'
+        ${If} $6 == "$INSTDIR\${PROGRAM}"
+            StrCpy $4 1
+        ${EndIf}
+    ${EndIf}
+    Pop $6
+    Pop $5
+FunctionEnd
+
+; $R0: the number of processes.
+Function ${un}CountRunning
     StrCpy $R0 0
+    ; TH32CS_SNAPPROCESS
+    System::Call 'kernel32::CreateToolhelp32Snapshot(i 2, i 0) p .r0'
+    System::Alloc 568 ; a PROCESSENTRY32W
+    Pop $1
+    System::Call '*$1(i 568)'
+    System::Call 'kernel32::Process32FirstW(p r0, p r1) i .r2'
+    ${DoWhile} $2 <> 0
+        System::Call '*$1(i, i, i .r3)'
+        Call ${un}IsOurs
+        IntOp $R0 $R0 + $4
+        System::Call 'kernel32::Process32NextW(p r0, p r1) i .r2'
+    ${Loop}
+    System::Free $1
+    System::Call 'kernel32::CloseHandle(p r0)'
+FunctionEnd
+
+Function ${un}AskToEnd
     StrCpy $0 0
     ${Do}
         System::Call 'user32::FindWindowExW(p 0, p r0, p 0, p 0) p .r0'
         ${If} $0 = 0
             ${Break}
         ${EndIf}
-        System::Call 'user32::GetWindowThreadProcessId(p r0, *i .r1)'
-        System::Call 'kernel32::OpenProcess(i 0x1000, i 0, i r1) p .r2'
-        ${If} $2 <> 0
-            StrCpy $3 ${NSIS_MAX_STRLEN}
-            StrCpy $4 ""
-            System::Call 'kernel32::QueryFullProcessImageNameW(p r2, i 0, w .r4, *i r3)'
-            System::Call 'kernel32::CloseHandle(p r2)'
-            ${If} $4 == "$INSTDIR\${PROGRAM}"
-                IntOp $R0 $R0 + 1
-                ${If} $R9 = 1
-                    ; ENDSESSION_CLOSEAPP
-                    System::Call 'user32::SendMessageTimeoutW(p r0, i ${WM_QUERYENDSESSION}, p 0, p 1, i 2, i 5000, *p .r5)'
-                    System::Call 'user32::PostMessageW(p r0, i ${WM_ENDSESSION}, p 1, p 1)'
-                ${EndIf}
+        System::Call 'user32::GetWindowThreadProcessId(p r0, *i .r3)'
+        Call ${un}IsOurs
+        ${If} $4 = 1
+            ; The last arguments are ENDSESSION_CLOSEAPP, SMTO_ABORTIFHUNG and the limit in milliseconds.
+            System::Call 'user32::SendMessageTimeoutW(p r0, i ${WM_QUERYENDSESSION}, p 0, p 1, i 2, i 5000, *p .r5)'
+            ${If} $5 <> 0
+                System::Call 'user32::PostMessageW(p r0, i ${WM_ENDSESSION}, p 1, p 1)'
             ${EndIf}
         ${EndIf}
     ${Loop}
 FunctionEnd
 
 Function ${un}CloseProgram
-    StrCpy $R9 0
-    Call ${un}EachRunning
+    Call ${un}CountRunning
     ${If} $R0 = 0
         Return
     ${EndIf}
     MessageBox MB_OKCANCEL|MB_ICONEXCLAMATION $(IsRunning) /SD IDOK IDOK ask
     Abort
     ask:
-    StrCpy $R9 1
-    Call ${un}EachRunning
-    StrCpy $R9 0
-    StrCpy $R8 0
+    Call ${un}AskToEnd
     ${For} $R8 1 60
         Sleep 250
-        Call ${un}EachRunning
+        Call ${un}CountRunning
         ${If} $R0 = 0
             Return
         ${EndIf}

@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <exception>
 #include <iostream>
+#include <string>
 #include <string_view>
 
 #include <sys/wait.h>
@@ -17,6 +18,19 @@ namespace {
 
 constexpr int badCommandLine = 2;
 constexpr int notStarted = 127;
+
+constexpr const char* usage =
+    R"(usage: tarn_in_realm [OPTION]... COMMAND...
+
+  --ticket          the user has a ticket
+  --user NAME       of that name
+  --expired         the ticket has expired
+  --service-ticket  the user has a ticket for the agent as well
+  --wrong-key       the agent has another key
+  --kdc-gone        no one issues tickets any more
+  --kdc-silent      whoever asks for one waits
+  --kdc-ahead       the clock of the issuer is ahead by an hour
+)";
 
 int run(char** command) {
     const pid_t child = ::fork();
@@ -30,21 +44,43 @@ int run(char** command) {
     return WEXITSTATUS(status);
 }
 
+/// Applies the options in their order, and returns the command after them.
+char** prepare(support::KerberosRealm& realm, char** argument) {
+    std::string user = support::KerberosRealm::user;
+    for (; *argument && std::string_view(*argument).starts_with("--"); ++argument) {
+        const std::string_view option = *argument;
+        if (option == "--user" && argument[1])
+            realm.addUser(user = *++argument);
+        else if (option == "--ticket")
+            realm.getTicket(user);
+        else if (option == "--expired")
+            realm.getExpiredTicket();
+        else if (option == "--service-ticket")
+            realm.getServiceTicket();
+        else if (option == "--wrong-key")
+            ::setenv("TARN_KEY_TABLE", realm.wrongKeyTable().c_str(), 1);
+        else if (option == "--kdc-gone")
+            realm.stopKdc();
+        else if (option == "--kdc-silent")
+            realm.silenceKdc();
+        else if (option == "--kdc-ahead")
+            realm.restartKdcAhead();
+        else
+            return nullptr;
+    }
+    return *argument ? argument : nullptr;
+}
+
 } // namespace
 
-int main(int argc, char** argv) {
-    const bool withTicket = argc > 1 && std::string_view(argv[1]) == "--ticket";
-    char** const command = argv + (withTicket ? 2 : 1);
-    if (!*command) {
-        std::cerr << "usage: tarn_in_realm [--ticket] COMMAND...\n";
-        return badCommandLine;
-    }
+int main(int, char** argv) {
     try {
         support::KerberosRealm realm;
-        if (withTicket)
-            realm.getTicket();
         ::setenv("TARN_KEY_TABLE", realm.keyTable().c_str(), 1);
-        return run(command);
+        if (char** const command = prepare(realm, argv + 1))
+            return run(command);
+        std::cerr << usage;
+        return badCommandLine;
     } catch (const std::exception& failure) {
         std::cerr << "tarn_in_realm: " << failure.what() << '\n';
         return 1;

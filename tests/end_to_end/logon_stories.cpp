@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 
 // The story of a user who is known to the system, and of one who isn't.
+#include <memory>
+
 #include <QCheckBox>
 #include <QDialog>
 #include <QGroupBox>
@@ -90,8 +92,8 @@ void givePassword(Player& player) {
     pressLogin(player);
 }
 
-/// A box that says why, or a window without a session; then the dialog once more.
-void seeFailure(Player& player) {
+/// A box that says why, or a window without a session, or with one.
+void seeOutcome(Player& player) {
     player.then(q("what the system makes of it"), looks(timeForPainting));
     player.then(q("what comes of it"), [&player] {
         if (auto* box = modal<QMessageBox>()) {
@@ -101,11 +103,19 @@ void seeFailure(Player& player) {
         }
         if (modal<QWidget>())
             return false;
-        player.note(q("no session"));
+        player.note(q(rows("backupSetsView") > 0 ? "logged in" : "no session"));
         noteWindow(player);
-        return trigger("actionLogin");
+        return true;
     });
-    player.then(q("the dialog again"), [] { return loginDialog() != nullptr; });
+}
+
+/// Opens it unless it is still there.
+void seeDialogAgain(Player& player) {
+    player.then(q("the dialog again"), [] {
+        if (!modal<QWidget>())
+            trigger("actionLogin");
+        return loginDialog() != nullptr;
+    });
 }
 
 void quit(Player& player) {
@@ -132,10 +142,35 @@ void playTicket(Player& player) {
 void playNoTicket(Player& player) {
     seeDialog(player, "login-without-ticket");
     pressLogin(player);
-    seeFailure(player);
+    seeOutcome(player);
+    seeDialogAgain(player);
     givePassword(player);
     seeSets(player, "by a password");
     quit(player);
+}
+
+void playLogon(Player& player) {
+    const auto asked = std::make_shared<bool>(false);
+    player.then(q("the end of the start"), [asked] {
+        *asked = loginDialog() != nullptr;
+        return *asked || rows("backupSetsView") > 0;
+    });
+    player.then(q("its painting"), looks(timeForPainting));
+    player.then(q("what it shows"), [&player, asked] {
+        if (!*asked)
+            return true;
+        player.note(q("asked"));
+        noteWindow(player);
+        noteDialog(player, *loginDialog());
+        player.take(*loginDialog(), q("logon-asked"));
+        return click(loginDialog()->findChild<QPushButton*>(q("buttonLogin")));
+    });
+    seeOutcome(player);
+    player.then(q("the end"), [] {
+        if (auto* dialog = loginDialog())
+            click(dialog->findChild<QPushButton*>(q("buttonQuit")));
+        return trigger("actionQuit");
+    });
 }
 
 } // namespace end_to_end

@@ -23,6 +23,10 @@ public:
             playTicket(*player);
         else if (story == QLatin1String("tarnnoticket"))
             playNoTicket(*player);
+        else if (story == QLatin1String("tarnlogon"))
+            playLogon(*player);
+        else if (story == QLatin1String("tarnstay"))
+            playStay(*player);
         else
             playWork(*player);
         player->play();

@@ -135,4 +135,15 @@ void playWork(Player& player) {
     quit(player);
 }
 
+void playStay(Player& player) {
+    logIn(player);
+    player.then(q("the about command"), [] { return trigger("action_About"); });
+    player.then(q("the about box"), [&player] {
+        if (!modal<QDialog>())
+            return false;
+        player.note(q("logged in"));
+        return true;
+    });
+}
+
 } // namespace end_to_end

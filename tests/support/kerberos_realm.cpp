@@ -113,11 +113,8 @@ KerberosRealm::KerberosRealm()
 
 KerberosRealm::~KerberosRealm() {
     stopKdc();
-    for (const auto& [variable, value] : former_)
-        if (value)
-            ::setenv(variable.c_str(), value->c_str(), 1);
-        else
-            ::unsetenv(variable.c_str());
+    while (!former_.empty())
+        restoreVariable(former_.begin()->first);
     std::error_code ignored;
     fs::remove_all(folder_, ignored);
 }
@@ -126,6 +123,14 @@ void KerberosRealm::setVariable(const std::string& variable, const std::string& 
     const char* former = std::getenv(variable.c_str());
     former_[variable] = former ? std::optional<std::string>(former) : std::nullopt;
     ::setenv(variable.c_str(), value.c_str(), 1);
+}
+
+void KerberosRealm::restoreVariable(const std::string& variable) {
+    const auto former = former_.extract(variable);
+    if (const std::optional<std::string>& value = former.mapped())
+        ::setenv(former.key().c_str(), value->c_str(), 1);
+    else
+        ::unsetenv(former.key().c_str());
 }
 
 void KerberosRealm::writeConfiguration(std::uint16_t port) {
@@ -207,6 +212,29 @@ void KerberosRealm::addUser(const std::string& userName) {
 
 void KerberosRealm::getTicket(const std::string& userName) {
     runProgram("/usr/bin/kinit", {"-l", "10h", userName}, std::string(password) + "\n");
+}
+
+void KerberosRealm::getExpiredTicket() {
+    using namespace std::chrono_literals;
+    runProgram("/usr/bin/kinit", {"-l", "1s", user}, std::string(password) + "\n");
+    const auto deadline = std::chrono::steady_clock::now() + 20s;
+    while (ChildProcess("/usr/bin/klist", {"-s"}).status() == 0) {
+        if (std::chrono::steady_clock::now() > deadline)
+            throw std::runtime_error("the ticket doesn't expire");
+        std::this_thread::sleep_for(100ms);
+    }
+}
+
+void KerberosRealm::restartKdcAhead() {
+    const std::string fakeTime = "/usr/lib/x86_64-linux-gnu/faketime/libfaketime.so.1";
+    if (!fs::exists(fakeTime))
+        throw std::runtime_error("no libfaketime");
+    stopKdc();
+    setVariable("LD_PRELOAD", fakeTime);
+    setVariable("FAKETIME", "+1h");
+    startKdc();
+    restoreVariable("LD_PRELOAD");
+    restoreVariable("FAKETIME");
 }
 
 void KerberosRealm::getServiceTicket() {

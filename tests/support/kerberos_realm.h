@@ -40,6 +40,8 @@ public:
     /// Gets the user a ticket-granting ticket, which is valid for ten hours. The user needs no more
     /// than that: the ticket for the service is derived from it.
     void getTicket(const std::string& userName = user);
+    /// Gets the user one, and waits until it has expired, which takes seconds.
+    void getExpiredTicket();
     /// Adds a ticket for the service, as after a login to it.
     void getServiceTicket();
     void destroyTicket();
@@ -48,6 +50,8 @@ public:
     void stopKdc();
     /// The same, but requests reach a KDC, which never answers.
     void silenceKdc();
+    /// From now on the clock of the KDC is ahead by an hour. Needs libfaketime.
+    void restartKdcAhead();
 
     /// A file in the temporary folder.
     std::string file(const std::string& fileName) const { return (folder_ / fileName).string(); }
@@ -56,6 +60,7 @@ private:
     class SilentKdc;
 
     void setVariable(const std::string& variable, const std::string& value);
+    void restoreVariable(const std::string& variable);
     void writeConfiguration(std::uint16_t port);
     void startKdc();
     void administer(const std::string& query);

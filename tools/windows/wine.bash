@@ -1,0 +1,136 @@
+# SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+# SPDX-License-Identifier: Apache-2.0
+#
+# For scripts that let a user work under Wine, with a simulated agent: sourced in the root of the
+# sources. They call `begin` first, then `start_wine`, and set `program` to the client's path.
+# shellcheck shell=bash
+
+linux=$PWD/build/dev
+windows=$PWD/build/windows
+story=$windows/story
+# In no code page.
+user="Jürgen Ωmega"
+agent=
+server=
+program=
+
+# build_for_linux TARGET...: builds the agent and these targets.
+build_for_linux() {
+    tools/install-packages build screen test
+    cmake --preset dev >/dev/null
+    cmake --build --preset dev --target tarn-agent-simulator tarn_in_realm "$@"
+}
+
+# begin SCRIPT ARGUMENT...: starts the script again in a network of its own, with a home of its own.
+begin() {
+    if [ -z "${TARN_OWN_NETWORK-}" ]; then
+        tools/install-packages screen test windows windows-test
+        # The client looks for its agent at a fixed port, which is free in a private network namespace.
+        exec env TARN_OWN_NETWORK=yes unshare --net "$@"
+    fi
+    ip link set lo up
+    work=$(mktemp -d)
+    mkdir -m 700 "$work/home"
+    export HOME=$work/home USER=$user LC_ALL=C.UTF-8 WINEPREFIX=$work/prefix WINEDEBUG=-all \
+        WINEDLLOVERRIDES="mscoree,mshtml,winemenubuilder.exe="
+    export linux story work program
+    export -f wait_until with_agent play_windows windows_path
+    trap finish EXIT
+}
+
+finish() {
+    [ -z "$agent" ] || kill "$agent" 2>/dev/null || true
+    wineserver -k 2>/dev/null || true
+    [ -z "$server" ] || kill "$server" 2>/dev/null || true
+    rm -rf "$work"
+}
+
+fail() {
+    echo "$(basename "$0"): $*" >&2
+    exit 1
+}
+
+# wait_until SECONDS COMMAND...
+wait_until() {
+    local deadline=$((SECONDS + $1))
+    shift
+    until "$@"; do
+        [ $SECONDS -lt $deadline ] || return 1
+        sleep 0.2
+    done
+}
+
+# A display, and a Wine that takes itself for Windows 10.
+start_wine() {
+    Xvfb -displayfd 3 -screen 0 1600x1000x24 -nolisten tcp 3>"$work/display" 2>/dev/null &
+    server=$!
+    wait_until 30 test -s "$work/display" || fail "no display"
+    DISPLAY=:$(cat "$work/display")
+    export DISPLAY
+    wineboot --init >/dev/null 2>&1
+    wine reg add 'HKCU\Software\Wine' /v Version /d win10 /f >/dev/null
+    # Wine has no font of its own for what a program doesn't paint itself.
+    local font
+    for font in "Segoe UI" Tahoma "MS Shell Dlg" "MS Shell Dlg 2" "MS Sans Serif"; do
+        wine reg add 'HKCU\Software\Wine\Fonts\Replacements' /v "$font" /d "DejaVu Sans" /f >/dev/null
+    done
+}
+
+# with_agent LOG COMMAND...: while the command runs, an agent that a backup keeps busy for a while. In
+# a Kerberos realm it accepts logons. AGENT_OPTIONS and AGENT_CLOCK, as in +1h, are its own.
+with_agent() {
+    local log=$1 status=0 options=() clock=()
+    shift
+    read -ra options <<<"${AGENT_OPTIONS-}"
+    if [ -n "${AGENT_CLOCK-}" ]; then
+        clock=(LD_PRELOAD=/usr/lib/x86_64-linux-gnu/faketime/libfaketimeMT.so.1
+            "FAKETIME=$AGENT_CLOCK" FAKETIME_DONT_FAKE_MONOTONIC=1)
+    fi
+    env ${clock[@]+"${clock[@]}"} "$linux/bin/tarn-agent-simulator" --no-guest --speed 10 \
+        --log "$log" ${options[@]+"${options[@]}"} \
+        ${TARN_KEY_TABLE:+--accept-logon "$TARN_KEY_TABLE"} >"$work/agent" 2>&1 &
+    agent=$!
+    wait_until 20 grep -q http "$work/agent" || { cat "$work/agent" >&2; return 1; }
+    timeout 900 "$@" || status=$?
+    kill "$agent"
+    wait "$agent" || true
+    agent=
+    return "$status"
+}
+
+windows_path() { echo "Z:${1//\//\\}"; }
+
+# play_windows STORY FOLDER [LANGUAGE]: what the shortcut does. Wine follows it by its path in the
+# ANSI code page, where an Omega is lost.
+play_windows() {
+    mkdir -p "$2"
+    cd "$(dirname "$program")"
+    WINEQT_PLUGIN_PATH=$(windows_path "$story") WINEQT_QPA_GENERIC_PLUGINS="$1:$(windows_path "$2")" \
+        wine tarn-mobile-user.exe --lang "${3-en}"
+}
+
+# in_realm OPTION... -- LOG FUNCTION ARGUMENT...: an exported function with an agent and Wine in a
+# Kerberos realm of their own. The options are those of tarn_in_realm.
+in_realm() {
+    local options=()
+    while [ "$1" != -- ]; do
+        options+=("$1")
+        shift
+    done
+    shift
+    # What Wine keeps running knows nothing of the realm.
+    wineserver -k || true
+    wineserver -w
+    "$linux/bin/tarn_in_realm" ${options[@]+"${options[@]}"} \
+        bash -c 'with_agent "$1" bash -c '"'"'"$@"'"'"' _ "${@:2}"' _ "$@"
+}
+
+# Everything that an installation could leave behind: files, and the registry without its times.
+state() {
+    wineserver -w
+    (
+        cd "$WINEPREFIX"
+        find drive_c -path '*/Temp/*' -prune -o -print | sort
+        sed -e 's/\] [0-9]*$/]/' -e '/^#time=/d' system.reg user.reg
+    )
+}
