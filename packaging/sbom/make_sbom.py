@@ -3,9 +3,10 @@
 # SPDX-License-Identifier: Apache-2.0
 """Writes the bill of materials of a release as SPDX 2.3 JSON.
 
-components.json declares what the programs contain and link. This script compares it with the
-libraries recorded by the linker in each program and with the objects and archives that it read. It
-fails on anything undeclared, and on a declared library that no program links.
+A file like components.json declares what the programs contain and link. This script compares it with
+the libraries recorded by the linker in each program and with the objects and archives that it read.
+It fails on anything undeclared, and on a declared library that no program links. Libraries of the
+operating system, which nobody ships, are declared by their names only.
 """
 import argparse
 import datetime
@@ -63,11 +64,12 @@ def owner(linked, name):
     return None
 
 
-def taken_components(options, linked):
+def taken_components(options, linked, system):
     """The linked components of each program. Ends the process on a mismatch."""
     taken, problems = {}, []
     for program, file, inputs in options.program:
         names = shared_libraries(options.objdump, file) | linked_in(inputs, options.build)
+        names -= set(system)
         owners = {name: owner(linked, name) for name in names}
         problems += [f"{program} links {name}, which no component declares"
                      for name in sorted(names) if owners[name] is None]
@@ -111,8 +113,9 @@ def created(date):
 
 
 def document(options, declared, taken):
-    versions = dict(options.version)
     others = declared["contained"] + declared["linked"]
+    versions = {component["id"]: component.get("version") for component in others}
+    versions.update(options.version)
     missing = [component["id"] for component in others if not versions.get(component["id"])]
     if missing:
         sys.exit(f"{options.components}: no version of {', '.join(missing)}")
@@ -143,7 +146,7 @@ def document(options, declared, taken):
 def main():
     options = parse_arguments()
     declared = json.loads(options.components.read_text(encoding="utf-8"))
-    taken = taken_components(options, declared["linked"])
+    taken = taken_components(options, declared["linked"], declared.get("system", []))
     text = json.dumps(document(options, declared, taken), indent=2) + "\n"
     options.out.write_text(text, encoding="utf-8")
 
