@@ -5,12 +5,10 @@
 #include <memory>
 
 #include <QApplication>
-#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QSettings>
 #include <QTextStream>
-#include <QThread>
 #include <QTimer>
 #include <QTranslator>
 #include <QWidget>
@@ -25,7 +23,6 @@
 namespace {
 
 constexpr int timeToAppear = 500;
-constexpr int timeBetweenLooks = 10;
 
 } // namespace
 
@@ -87,11 +84,12 @@ void applyStyleSheet(QApplication& application) {
 
 void showAtOnce(QWidget& window) {
     window.show();
-    const QDeadlineTimer deadline(timeToAppear);
-    while (!window.windowHandle()->isExposed() && !deadline.hasExpired()) {
-        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-        QThread::msleep(timeBetweenLooks);
-    }
+    QTimer deadline; // its event ends the wait
+    deadline.setSingleShot(true);
+    deadline.start(timeToAppear);
+    while (!window.windowHandle()->isExposed() && deadline.isActive())
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
+                                        QEventLoop::WaitForMoreEvents);
 }
 
 void logInAtStart(SimpleGUIMainWindow& window, const CallGate* gate) {

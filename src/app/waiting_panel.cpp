@@ -20,9 +20,6 @@ constexpr int gap = 8; ///< to the sides of a small window
 WaitingPanel::WaitingPanel()
     : ui_(std::make_unique<Ui::WaitingPanel>()) {
     ui_->setupUi(this);
-    const int size = style()->pixelMetric(QStyle::PM_LargeIconSize);
-    ui_->labelPicture->setPixmap(
-        style()->standardIcon(QStyle::SP_MessageBoxInformation).pixmap(size));
     connect(ui_->buttonDisconnect, &QPushButton::clicked, this, &WaitingPanel::disconnectClicked);
     hide();
 }
@@ -38,6 +35,7 @@ void WaitingPanel::showOver(QWidget* host, hessiancln::Awaited awaited,
     if (!host_)
         return;
     setText();
+    setPicture();
     const bool wasVisible = isVisible();
     // Fonts are known only for visible widgets.
     show();
@@ -65,6 +63,15 @@ void WaitingPanel::setText() {
     const QString text = sentence.arg(elapsed_.count());
     ui_->labelWaiting->setText(text);
     setAccessibleName(text);
+}
+
+/// Not in the constructor: the search in the themes of the desktop would delay the program's start.
+void WaitingPanel::setPicture() {
+    if (!ui_->labelPicture->pixmap(Qt::ReturnByValue).isNull())
+        return;
+    const int size = style()->pixelMetric(QStyle::PM_LargeIconSize);
+    ui_->labelPicture->setPixmap(
+        style()->standardIcon(QStyle::SP_MessageBoxInformation).pixmap(size));
 }
 
 void WaitingPanel::place() {

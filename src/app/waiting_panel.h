@@ -36,6 +36,7 @@ protected:
 private:
     void setHost(QWidget* host);
     void setText();
+    void setPicture();
     void place();
 
     std::unique_ptr<Ui::WaitingPanel> ui_;

@@ -154,6 +154,13 @@ void LogSearchBar::keyPressEvent(QKeyEvent* event) {
         QWidget::keyPressEvent(event);
 }
 
+void LogSearchBar::showEvent(QShowEvent* event) {
+    // Not in the form: the search for its picture in the themes of the desktop would delay the
+    // program's start.
+    ui_->editSearch->setClearButtonEnabled(true);
+    QWidget::showEvent(event);
+}
+
 bool LogSearchBar::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::FocusIn && log_)
         log_->prepare();

@@ -112,6 +112,8 @@ private:
             if (!waitingPanel())
                 return;
             text = waitingText();
+            const auto& picture = support::child<QLabel>(*waitingPanel(), "labelPicture");
+            QVERIFY(!picture.pixmap(Qt::ReturnByValue).isNull());
             clickDisconnect();
         });
         driver_->beat();

@@ -52,6 +52,7 @@ private slots:
     void theNumberOfRowsHasASingular();
     void theExportDialogIsTranslated();
     void theExportStartsInTheFolderForDocuments();
+    void aHiddenBarLooksForNoPicture();
 };
 
 namespace {
@@ -150,6 +151,15 @@ void LogSearchBarTest::theExportStartsInTheFolderForDocuments() {
         QVERIFY(QDir().mkpath(documents));
     }
     QCOMPARE(startOfExport(), documents);
+}
+
+/// The search in the desktop's themes would delay the start of the program.
+void LogSearchBarTest::aHiddenBarLooksForNoPicture() {
+    LogSearchBar bar;
+    const auto& line = support::child<QLineEdit>(bar, "editSearch");
+    QVERIFY(!line.isClearButtonEnabled());
+    bar.show();
+    QVERIFY(line.isClearButtonEnabled());
 }
 
 QTEST_MAIN(LogSearchBarTest)
