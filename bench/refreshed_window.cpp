@@ -25,19 +25,6 @@ double seconds(Clock::duration time) {
     return std::chrono::duration<double>(time).count();
 }
 
-template <class Widget>
-Widget& child(const QWidget& window, const char* name) {
-    auto* found = window.findChild<Widget*>(QLatin1String(name));
-    if (!found)
-        throw std::runtime_error(std::string("The window has no ") + name);
-    return *found;
-}
-
-void showDates(const SimpleGUIMainWindow& window, int from, int to) {
-    child<QDateTimeEdit>(window, "dateTimeFrom").setDateTime(QDate(from, 1, 1).startOfDay());
-    child<QDateTimeEdit>(window, "dateTimeTo").setDateTime(QDate(to, 1, 1).startOfDay());
-}
-
 using Calls = std::vector<TimedCall>;
 
 Calls::const_iterator findCall(const Calls& calls, std::string_view method) {
@@ -71,9 +58,14 @@ RefreshTimes timesOf(const Calls& calls, Clock::time_point begin, Clock::time_po
 
 } // namespace
 
+void RefreshedWindow::showDates(int from, int to) {
+    child<QDateTimeEdit>("dateTimeFrom").setDateTime(QDate(from, 1, 1).startOfDay());
+    child<QDateTimeEdit>("dateTimeTo").setDateTime(QDate(to, 1, 1).startOfDay());
+}
+
 RefreshedWindow::RefreshedWindow(std::uint16_t port) {
     window_.installEventFilter(this);
-    showDates(window_, 2000, 2038);
+    showDates(2000, 2038);
     window_.show();
     QCoreApplication::processEvents();
     session::connectToAgent("127.0.0.1:" + std::to_string(port), "demo", "demo", 1);
@@ -81,7 +73,10 @@ RefreshedWindow::RefreshedWindow(std::uint16_t port) {
     timer_ = boost::make_shared<CallTimer>(root->getDispatcher());
     root->setDispatcher(timer_);
     firstRefresh_ = refreshUntilShown();
-    child<QTableView>(window_, "backupSetsView").selectRow(0);
+    firstOwn_ = firstRefresh_;
+    for (const TimedCall& call : timer_->take())
+        firstOwn_ -= seconds(call.end - call.begin);
+    child<QTableView>("backupSetsView").selectRow(0);
     // The first refresh also paints the changes due to the selection.
     refreshUntilShown();
     timer_->take();
@@ -116,13 +111,11 @@ double RefreshedWindow::decodeLog() {
 }
 
 std::size_t RefreshedWindow::logRows() const {
-    return static_cast<std::size_t>(
-        child<QTableView>(window_, "tableActivityLog").model()->rowCount());
+    return static_cast<std::size_t>(child<QTableView>("tableActivityLog").model()->rowCount());
 }
 
 std::size_t RefreshedWindow::setRows() const {
-    return static_cast<std::size_t>(
-        child<QTableView>(window_, "backupSetsView").model()->rowCount());
+    return static_cast<std::size_t>(child<QTableView>("backupSetsView").model()->rowCount());
 }
 
 std::vector<BackupSetViewItem*> RefreshedWindow::cards() const {
@@ -142,8 +135,9 @@ void RefreshedWindow::spoilCards() {
 std::vector<std::int64_t> RefreshedWindow::pictureKeys() const {
     std::vector<std::int64_t> keys;
     for (const BackupSetViewItem* card : cards())
-        keys.push_back(
-            child<QLabel>(*card, "labelImageDisplay").pixmap(Qt::ReturnByValue).cacheKey());
+        keys.push_back(card->findChild<QLabel*>(QStringLiteral("labelImageDisplay"))
+                           ->pixmap(Qt::ReturnByValue)
+                           .cacheKey());
     return keys;
 }
 

@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <stdexcept>
+#include <string>
 #include <vector>
 
 #include <QObject>
@@ -47,6 +49,8 @@ public:
 
     /// What the first refresh took, which has made the cards near the view.
     double firstRefresh() const { return firstRefresh_; }
+    /// The same without the time in which calls waited for their replies.
+    double firstOwnTime() const { return firstOwn_; }
 
     /// Runs one heartbeat until its result is on the screen. Throws `std::runtime_error` if it
     /// didn't make all of its calls.
@@ -54,6 +58,14 @@ public:
 
     /// The time to decode the whole log, in seconds.
     double decodeLog();
+
+    /// The widget of that name. Throws `std::runtime_error` if there is none.
+    template <class Widget>
+    Widget& child(const char* name) const {
+        if (auto* found = window_.findChild<Widget*>(QLatin1String(name)))
+            return *found;
+        throw std::runtime_error(std::string("The window has no ") + name);
+    }
 
     std::size_t logRows() const;
     std::size_t setRows() const;
@@ -67,12 +79,14 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void showDates(int from, int to);
     double refreshUntilShown();
     std::vector<std::int64_t> pictureKeys() const;
 
     boost::shared_ptr<CallTimer> timer_;
     SimpleGUIMainWindow window_;
     double firstRefresh_ = 0;
+    double firstOwn_ = 0;
     std::size_t cardEvents_ = 0;
 };
 
