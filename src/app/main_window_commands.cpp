@@ -55,17 +55,17 @@ auto restoreOf(const wizards::RestoreFile& file) {
 /// don't disable the command.
 hessiancln::backup_set_info restorableSet(std::int32_t id, const app::BackupSetList& list,
                                           const app::ActivityTables& activities) {
-    using Window = SimpleGUIMainWindow;
     const auto sets = list.records();
     const auto set = std::ranges::find(sets, id, &hessiancln::backup_set_info::id);
     if (set == sets.end())
-        throw std::runtime_error(session::toWire(Window::tr("The backup set no longer exists.")));
+        throw std::runtime_error(
+            session::toWire(SimpleGUIMainWindow::tr("The backup set no longer exists.")));
     if (activities.running().hasActivityOnSet(id))
         throw std::runtime_error(
-            session::toWire(Window::tr("An activity is running on the backup set.")));
+            session::toWire(SimpleGUIMainWindow::tr("An activity is running on the backup set.")));
     if (!set->in_sync)
-        throw std::runtime_error(session::toWire(
-            Window::tr("The backup set isn't in sync. Synchronize it, then try again.")));
+        throw std::runtime_error(session::toWire(SimpleGUIMainWindow::tr(
+            "The backup set isn't in sync. Synchronize it, then try again.")));
     return *set;
 }
 
