@@ -5,6 +5,7 @@
 #include "app/simple_gui_main_window.h"
 #include "app/start_up.h"
 #include "base/product.h"
+#include "platform/file_dialog_history.h"
 #include "platform/foreground.h"
 #include "platform/standard_streams.h"
 #include "resources/pictures.h"
@@ -50,6 +51,7 @@ int main(int argc, char** argv) {
     app::applyStyleSheet(application);
     if (application.sendMessage(QString(), answerTime))
         return 0;
+    const platform::NoFileDialogHistory noHistory;
     session::g_language = app::languageOf(QCoreApplication::arguments());
     app::installTranslation(application, session::g_language);
     return runWindow(application);

@@ -38,8 +38,11 @@ void prepareToolkit() {
     // Don't round 150 % to 200 %: the window wouldn't fit the screen.
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    // At the end of the user's session Qt would close the main window, which refuses to, and
+    // thereby keep the user logged in.
+    QGuiApplication::setFallbackSessionManagementEnabled(false);
     // Qt's file dialog would keep the last folders in the user's home. Nothing can be written below
-    // what is no folder.
+    // what is no folder. On Windows this has no effect: see platform::NoFileDialogHistory.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
     // On X11 Qt looks for OpenGL, which takes time and memory and isn't used here.
     if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION"))

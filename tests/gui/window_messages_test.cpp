@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
-// What Windows goes by when it says that a program doesn't respond.
+// What Windows and an installer go by: whether the program responds, and whether it lets a session
+// end.
 #include <atomic>
 #include <memory>
 #include <thread>
@@ -10,6 +11,7 @@
 #include <windows.h>
 
 #include "app/call_gate.h"
+#include "app/start_up.h"
 #include "resources/pictures.h"
 #include "session/connection.h"
 #include "tests/support/gui_agent.h"
@@ -22,6 +24,9 @@ namespace {
 
 /// The time after which Windows takes a thread for hung, in milliseconds.
 constexpr UINT patience = 5000;
+
+/// An application is asked to make room for its update.
+constexpr LPARAM endOfSession = 1; // ENDSESSION_CLOSEAPP
 
 /// A window of this thread, which asks for no display.
 class MessageWindow {
@@ -90,7 +95,36 @@ private slots:
         QCOMPARE(int(sender->answered), 20);
         QVERIFY(!session::connectedToAgent());
     }
+
+    void theEndOfTheSessionIsAllowedAndEndsTheProgram() {
+        support::MainWindowDriver driver;
+        driver.window().show();
+        const auto handle = reinterpret_cast<HWND>(driver.window().winId());
+        std::atomic<LRESULT> allowed = -1;
+        std::thread system;
+        QTimer::singleShot(0, &driver.window(), [&] {
+            system = std::thread([&] {
+                allowed = SendMessageW(handle, WM_QUERYENDSESSION, 0, endOfSession);
+                PostMessageW(handle, WM_ENDSESSION, TRUE, endOfSession);
+            });
+        });
+        QTimer tooLate;
+        tooLate.start(10s);
+        connect(&tooLate, &QTimer::timeout, qApp, [] { QCoreApplication::exit(1); });
+        const int status = QApplication::exec();
+        system.join();
+        QCOMPARE(status, 0);
+        QCOMPARE(LRESULT(allowed), LRESULT(TRUE));
+        QVERIFY(driver.window().isVisible());
+    }
 };
 
-QTEST_MAIN(WindowMessagesTest)
+int main(int argc, char** argv) {
+    // The offscreen platform has no messages of the session.
+    qputenv("QT_QPA_PLATFORM", "windows");
+    app::prepareToolkit();
+    QApplication application(argc, argv);
+    WindowMessagesTest test;
+    return QTest::qExec(&test, argc, argv);
+}
 #include "window_messages_test.moc"

@@ -7,6 +7,7 @@
 
 #include "platform/administrators.h"
 #include "platform/event_log.h"
+#include "platform/file_dialog_history.h"
 #include "platform/process_id.h"
 #include "platform/session_folder.h"
 #include "platform/user_name.h"
@@ -65,6 +66,60 @@ TEST(SessionFilePrefix, NamesTheFolderAndTheSession) {
     const std::string prefix = platform::sessionFilePrefix();
     EXPECT_TRUE(prefix.ends_with("/session-" + std::to_string(session) + '-')) << prefix;
     EXPECT_EQ(prefix.find('\\'), std::string::npos) << prefix;
+}
+
+/// Of the current user; removed at the end of the test.
+class Key {
+public:
+    explicit Key(const wchar_t* path)
+        : path_(path) {}
+    Key(const Key&) = delete;
+    Key& operator=(const Key&) = delete;
+    ~Key() { RegDeleteTreeW(HKEY_CURRENT_USER, path_); }
+
+    static bool exists(const wchar_t* path) {
+        HKEY key = nullptr;
+        const bool found =
+            RegOpenKeyExW(HKEY_CURRENT_USER, path, 0, KEY_READ, &key) == ERROR_SUCCESS;
+        RegCloseKey(key);
+        return found;
+    }
+
+    static void create(const wchar_t* path) {
+        HKEY key = nullptr;
+        ASSERT_EQ(RegCreateKeyW(HKEY_CURRENT_USER, path, &key), ERROR_SUCCESS);
+        RegCloseKey(key);
+    }
+
+private:
+    const wchar_t* path_;
+};
+
+constexpr const wchar_t* ofTheToolkit = L"Software\\QtProject";
+constexpr const wchar_t* ofTheDialog = L"Software\\QtProject\\OrganizationDefaults\\FileDialog";
+
+TEST(NoFileDialogHistory, RemovesWhatWasStoredMeanwhile) {
+    const Key key(ofTheToolkit);
+    ASSERT_FALSE(Key::exists(ofTheToolkit));
+    {
+        const platform::NoFileDialogHistory none;
+        Key::create(ofTheDialog);
+    }
+    EXPECT_FALSE(Key::exists(ofTheToolkit));
+}
+
+TEST(NoFileDialogHistory, LeavesWhatOthersHadStored) {
+    const Key key(ofTheToolkit);
+    Key::create(L"Software\\QtProject\\Other");
+    {
+        const platform::NoFileDialogHistory none;
+        Key::create(ofTheDialog);
+    }
+    EXPECT_TRUE(Key::exists(L"Software\\QtProject\\Other"));
+    EXPECT_FALSE(Key::exists(ofTheDialog));
+    Key::create(ofTheDialog);
+    { const platform::NoFileDialogHistory none; }
+    EXPECT_TRUE(Key::exists(ofTheDialog));
 }
 
 } // namespace

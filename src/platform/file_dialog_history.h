@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <memory>
+
+namespace platform {
+
+/// Keeps no trace of the folders that the user opens: at its end it removes what the toolkit's file
+/// dialog has stored about them, unless other programs had stored some before. Does nothing where
+/// the toolkit can be told to store it nowhere.
+class NoFileDialogHistory {
+public:
+    NoFileDialogHistory();
+    NoFileDialogHistory(const NoFileDialogHistory&) = delete;
+    NoFileDialogHistory& operator=(const NoFileDialogHistory&) = delete;
+    ~NoFileDialogHistory();
+
+private:
+    struct Found;
+    std::unique_ptr<Found> found_;
+};
+
+} // namespace platform
