@@ -167,8 +167,11 @@ void HealthReader::askForPlan(Reading& reading) const {
 std::optional<std::int32_t> HealthReader::take(Reading& reading) {
     if (reading.missedHours)
         missedHours_ = reading.missedHours;
-    if (reading.planReader && reading.details.plan)
+    // Once: the user may change the schedule while the rest of the set is read.
+    if (reading.planReader && reading.details.plan) {
         plans_[reading.info.schedule_id] = reading.details.plan;
+        reading.planReader.reset();
+    }
     if (reading.stage != Reading::Stage::complete)
         return std::nullopt;
     const std::int32_t id = reading.info.id;
