@@ -54,7 +54,7 @@ void moveToRawStream(ClientConnection& root) {
 
 void connectToAgent(const std::string& address, const std::string& user,
                     const std::string& password, std::int32_t flag) {
-    assert(!CallPassage::underWay());
+    CallPassage::refuseInside();
     std::string apiUrl;
     std::string baseUrl;
     normalizeAgentUrl(address, apiUrl, baseUrl);
@@ -81,6 +81,8 @@ void connectToAgent(const std::string& address, const std::string& user,
 
 void disconnectFromAgent() {
     assert(!CallPassage::underWay());
+    if (CallPassage::underWay())
+        return;
     const std::lock_guard lock(g_connectionMutex);
     if (!g_connection)
         return;
@@ -93,7 +95,7 @@ void disconnectFromAgent() {
 }
 
 Root getConnection() {
-    assert(!CallPassage::underWay());
+    CallPassage::refuseInside();
     const std::lock_guard lock(g_connectionMutex);
     if (!g_connection)
         throw serialize_exception("No API connection exists");

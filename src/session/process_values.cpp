@@ -20,7 +20,12 @@ QString g_language;
 
 bool connectedToAgent() {
     assert(!hessiancln::CallPassage::underWay());
-    const std::lock_guard lock(g_connectionMutex);
+    std::unique_lock lock(g_connectionMutex, std::defer_lock);
+    // A login or logout of this thread holds the lock.
+    if (!hessiancln::CallPassage::underWay())
+        lock.lock();
+    else if (!lock.try_lock())
+        return false;
     return g_connection != nullptr;
 }
 

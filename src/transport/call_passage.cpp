@@ -25,10 +25,14 @@ WaitHookInstallation::~WaitHookInstallation() {
 }
 
 CallPassage::CallPassage() {
+    refuseInside();
+    inCall = true;
+}
+
+void CallPassage::refuseInside() {
     assert(!inCall && "a call inside a call");
     if (inCall)
         throw invoke_exception("Another call to the agent is still under way");
-    inCall = true;
 }
 
 CallPassage::~CallPassage() {

@@ -74,6 +74,8 @@ public:
 
     /// Whether this thread is in a call and so must not begin another one.
     static bool underWay();
+    /// Fails as a nested call would, if one is under way.
+    static void refuseInside();
 
     /// The hook of this thread, or null.
     static WaitHook* hook();
