@@ -55,6 +55,8 @@ auto restoreOf(const wizards::RestoreFile& file) {
 /// don't disable the command.
 hessiancln::backup_set_info restorableSet(std::int32_t id, const app::BackupSetList& list,
                                           const app::ActivityTables& activities) {
+    // The list is empty without a session, which is the reason to name.
+    session::getConnection();
     const auto sets = list.records();
     const auto set = std::ranges::find(sets, id, &hessiancln::backup_set_info::id);
     if (set == sets.end())

@@ -57,6 +57,11 @@ void CBackedUpDataModel::fetchTopLevel() {
     LazyTreeModel::fetch(nodeOf({}));
 }
 
+void CBackedUpDataModel::rethrowFailure() const {
+    if (failure_)
+        std::rethrow_exception(failure_);
+}
+
 bool CBackedUpDataModel::hasSelection() const {
     return nodeOf({}).checkState() != CheckState::Unchecked;
 }
@@ -88,6 +93,7 @@ void CBackedUpDataModel::fetch(models::LazyNode& node) const {
     try {
         LazyTreeModel::fetch(node);
     } catch (const std::exception& error) {
+        failure_ = std::current_exception();
         announceFetched(node);
         auto* model = const_cast<CBackedUpDataModel*>(this);
         const auto tell = [model, text = ui::errorText(error)] { emit model->fetchFailed(text); };

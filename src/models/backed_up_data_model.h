@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <exception>
 #include <functional>
 #include <vector>
 
@@ -46,6 +47,9 @@ public:
     /// view is working and can't handle an exception, so `fetchFailed` reports it.
     void fetchTopLevel();
 
+    /// Throws what the latest failed fetch of a folder threw; does nothing if all succeeded.
+    void rethrowFailure() const;
+
     bool hasSelection() const;
     bool allSelected() const;
     /// The ids to send to the agent; see `models::selectedIds`.
@@ -68,4 +72,6 @@ protected:
 
 private:
     std::function<void(models::CheckableNode&)> listener();
+
+    mutable std::exception_ptr failure_; ///< of the latest failed fetch
 };

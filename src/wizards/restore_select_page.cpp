@@ -225,8 +225,10 @@ bool RestoreSelectPage::tick(const wizards::RestoreFile& file) {
     if (file.path.isEmpty())
         return false;
     const QModelIndex found = fileAt(model(), file.path);
-    if (!found.isValid())
+    if (!found.isValid()) {
+        model().rethrowFailure();
         return false;
+    }
     if (file.size)
         sizes_[model().nodeOf(found).item().id] = *file.size;
     const QModelIndex folder = folders().mapFromSource(found.parent());

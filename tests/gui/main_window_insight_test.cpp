@@ -41,6 +41,7 @@
 #include "tests/support/gui_modal_driver.h"
 #include "tests/support/gui_wait.h"
 #include "tests/support/gui_wizard.h"
+#include "wizards/restore_flow.h"
 #include "wizards/select_generation_dlg.h"
 
 using simulator::Scenario;
@@ -548,6 +549,39 @@ private slots:
         QVERIFY(modals.done());
         const auto methods = methodsOf(agent);
         QVERIFY(std::count(methods.begin(), methods.end(), "restore") == 0);
+    }
+
+    void aFailedReadIsNotAMissingFile() {
+        GuiAgent agent({.scenario = Scenario::Generations});
+        MainWindowDriver driver;
+        driver.logIn(agent);
+        driver.trigger("actionFind_File");
+        auto* find = driver.window().findChild<FindFileWindow*>();
+        child<QLineEdit>(*find, "editName").setText(QStringLiteral("diary"));
+        child<QPushButton>(*find, "buttonFind").click();
+        QTRY_VERIFY(!find->isSearching());
+        child<QTableView>(*find, "tableFound").selectRow(0);
+        // The second folder on the way to the file.
+        agent.inject("getSubItems", simulator::Fault{"Out of order."}, simulator::Times::Once, 1);
+        ModalDriver modals;
+        modals.expectErrorBox(QStringLiteral("Error"), QStringLiteral("Out of order."));
+        child<QPushButton>(*find, "buttonRestore").click();
+        QVERIFY(modals.done());
+        QCOMPARE(agent.waitingInjections(), std::size_t(0));
+    }
+
+    void aRestoreAfterTheSessionNamesTheReason() {
+        GuiAgent agent({.scenario = Scenario::Generations});
+        MainWindowDriver driver;
+        driver.logIn(agent);
+        driver.trigger("actionFind_File");
+        auto* find = driver.window().findChild<FindFileWindow*>();
+        driver.trigger("actionLogout");
+        ModalDriver modals;
+        modals.expectErrorBox(QStringLiteral("Error"), QStringLiteral("No API connection exists"));
+        emit find->restoreRequested(1,
+                                    {{QStringLiteral("C:"), QStringLiteral("Diary.odt")}, {}, {}});
+        QVERIFY(modals.done());
     }
 };
 
