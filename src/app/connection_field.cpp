@@ -29,7 +29,7 @@ QIcon pictureOf(Kind kind) {
 } // namespace
 
 ConnectionField::ConnectionField(QWidget* parent)
-    : QToolButton(parent) {
+    : ElidedToolButton(parent) {
     setObjectName(QStringLiteral("connectionField"));
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     setAutoRaise(true);
@@ -48,9 +48,7 @@ void ConnectionField::show(const ConnectionState& state) {
 void ConnectionField::setTexts() {
     const bool connected = state_.kind == Kind::connected;
     setIcon(pictureOf(state_.kind));
-    // Text from outside may contain a button's mnemonic marker.
-    const QString text = fontMetrics().elidedText(shortText(state_), Qt::ElideRight, widest);
-    setText(QString(text).replace(QLatin1Char('&'), QLatin1String("&&")));
+    setPlainText(fontMetrics().elidedText(shortText(state_), Qt::ElideRight, widest));
     QString whole = wholeText(state_);
     setAccessibleName(whole);
     if (!connected)
@@ -60,7 +58,7 @@ void ConnectionField::setTexts() {
 }
 
 void ConnectionField::changeEvent(QEvent* event) {
-    QToolButton::changeEvent(event);
+    ElidedToolButton::changeEvent(event);
     if (event->type() == QEvent::LanguageChange || event->type() == QEvent::FontChange)
         setTexts();
 }
@@ -69,7 +67,7 @@ void ConnectionField::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         click();
     else
-        QToolButton::keyPressEvent(event);
+        ElidedToolButton::keyPressEvent(event);
 }
 
 } // namespace app

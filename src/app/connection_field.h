@@ -2,16 +2,15 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <QToolButton>
-
 #include "app/connection_state.h"
+#include "ui/elided_tool_button.h"
 
 namespace app {
 
 /// The field of the status bar that shows the state of the connection: abbreviated, with a picture,
 /// and in full in its tool tip and for screen readers. A click or Return requests a connection if
 /// there is none.
-class ConnectionField : public QToolButton {
+class ConnectionField : public ui::ElidedToolButton {
     Q_OBJECT
 public:
     explicit ConnectionField(QWidget* parent = nullptr);

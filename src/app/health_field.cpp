@@ -10,7 +10,7 @@
 namespace app {
 
 HealthField::HealthField(QWidget* parent)
-    : QToolButton(parent) {
+    : ElidedToolButton(parent) {
     setObjectName(QStringLiteral("healthField"));
     setAutoRaise(true);
     setFocusPolicy(Qt::TabFocus);
@@ -31,7 +31,7 @@ void HealthField::showNothing() {
 
 void HealthField::setTexts() {
     const QString text = isKnown_ ? insight::summaryText(count_) : tr("Not connected");
-    setText(text);
+    setPlainText(text);
     setIcon(ui::sharedIcon(isKnown_ ? insight::summaryIcon(count_)
                                     : QStringLiteral(":/icons/event_info.png")));
     setAccessibleName(tr("Backup health: %1").arg(text));
@@ -43,7 +43,7 @@ void HealthField::setTexts() {
 void HealthField::changeEvent(QEvent* event) {
     if (event->type() == QEvent::LanguageChange)
         setTexts();
-    QToolButton::changeEvent(event);
+    ElidedToolButton::changeEvent(event);
 }
 
 } // namespace app

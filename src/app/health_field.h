@@ -2,14 +2,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <QToolButton>
-
 #include "insight/set_health.h"
+#include "ui/elided_tool_button.h"
 
 namespace app {
 
 /// A one-line health summary of all sets for the status bar; a click requests details.
-class HealthField : public QToolButton {
+class HealthField : public ui::ElidedToolButton {
     Q_OBJECT
 public:
     explicit HealthField(QWidget* parent = nullptr);

@@ -13,9 +13,11 @@
 #include "app/enable_state.h"
 #include "app/insight_windows.h"
 #include "app/set_details_panel.h"
+#include "app/sets_splitter.h"
 #include "app/simple_gui_main_window.h"
 #include "app/tray_presence.h"
 #include "ui/branding_resources.h"
+#include "ui/wrapping_row.h"
 #include "ui_simple_gui_main_window.h"
 
 namespace {
@@ -46,6 +48,7 @@ void SimpleGUIMainWindow::setUpBranding() {
 }
 
 void SimpleGUIMainWindow::setUpActivities() {
+    ui::letRowWrap(*ui_->layoutRange);
     activities_ = std::make_unique<app::ActivityTables>(
         app::ActivityTables::Widgets{*ui_->tableCurrentActivities, *ui_->tableActivityLog,
                                      *ui_->dateTimeFrom, *ui_->dateTimeTo});
@@ -134,6 +137,7 @@ void SimpleGUIMainWindow::setUpGeometry() {
     ui_->splitterSetView->setSizes({setsWidth, detailsWidth});
     ui_->splitterSetView->setStretchFactor(0, 1);
     ui_->splitterSetView->setStretchFactor(1, 0);
+    new app::SetsSplitter(*ui_->splitterSetView, *ui_->pageProperties);
 }
 
 void SimpleGUIMainWindow::setUpTray(std::unique_ptr<app::TrayIcon> icon) {

@@ -21,6 +21,7 @@
 #include "ui/error_box.h"
 #include "ui/locale_text.h"
 #include "ui/standard_buttons.h"
+#include "ui/wrapping_row.h"
 #include "ui_log_search_bar.h"
 
 namespace {
@@ -62,6 +63,7 @@ LogSearchBar::LogSearchBar(QWidget* parent)
     : QWidget(parent)
     , ui_(std::make_unique<Ui::LogSearchBar>()) {
     ui_->setupUi(this);
+    ui::letRowWrap(*ui_->layoutSearch);
     connect(ui_->editSearch, &QLineEdit::textChanged, this, &LogSearchBar::applyFilter);
     connect(ui_->comboSeverity, qOverload<int>(&QComboBox::currentIndexChanged), this,
             &LogSearchBar::applyFilter);
@@ -146,6 +148,17 @@ void LogSearchBar::exportRows() {
                       tr("The file '%1' cannot be written: %2").arg(name, file.errorString()));
 }
 
+/// A splitter or a tab around it asks for no height at a width, and a hidden tab has any width.
+void LogSearchBar::reserveHeight() {
+    if (isVisible())
+        setMinimumHeight(heightForWidth(width()));
+}
+
+void LogSearchBar::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    reserveHeight();
+}
+
 void LogSearchBar::keyPressEvent(QKeyEvent* event) {
     // In a dialog the key would trigger the default button.
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
@@ -159,6 +172,7 @@ void LogSearchBar::showEvent(QShowEvent* event) {
     // program's start.
     ui_->editSearch->setClearButtonEnabled(true);
     QWidget::showEvent(event);
+    reserveHeight();
 }
 
 bool LogSearchBar::eventFilter(QObject* watched, QEvent* event) {

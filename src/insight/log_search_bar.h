@@ -35,6 +35,7 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -42,6 +43,7 @@ protected:
 private:
     void applyFilter();
     void showCount();
+    void reserveHeight();
     void prepareSearch();
     void exportRows();
 
