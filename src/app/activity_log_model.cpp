@@ -5,6 +5,7 @@
 #include <array>
 
 #include <QBrush>
+#include <QGuiApplication>
 
 #include "api/client_connection.h"
 #include "session/connection.h"
@@ -12,6 +13,7 @@
 #include "ui/activity_type_text.h"
 #include "ui/duration_text.h"
 #include "ui/locale_text.h"
+#include "ui/readable_colour.h"
 
 namespace {
 
@@ -122,8 +124,8 @@ QVariant ActivityLogModel::rowData(const R& record, int role) const {
     if (role != Qt::ForegroundRole)
         return {};
     if (record.errors >= 1)
-        return QBrush(Qt::red);
+        return QBrush(ui::readable(Qt::red, QGuiApplication::palette()));
     if (record.warnings >= 1)
-        return QBrush(Qt::darkYellow);
+        return QBrush(ui::readable(Qt::darkYellow, QGuiApplication::palette()));
     return {};
 }

@@ -3,6 +3,7 @@
 #include "app/backup_set_view_item.h"
 
 #include <QContextMenuEvent>
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
@@ -55,11 +56,17 @@ void BackupSetViewItem::applyLook(const app::SetCardLook& look) {
     // The list is rebuilt every few seconds, and style sheets and pictures are expensive.
     if (look == look_)
         return;
-    if (look.styleSheet != look_.styleSheet)
-        setStyleSheet(look.styleSheet);
     ui_->labelImageDisplay->setPixmap(app::setCardPicture(look));
     look_ = look;
+    applyStyleSheet();
     showToolTip();
+}
+
+void BackupSetViewItem::applyStyleSheet() {
+    const bool selected = backgroundRole() == QPalette::Highlight;
+    const QString sheet = app::setCardStyleSheet(look_, QGuiApplication::palette(), selected);
+    if (sheet != styleSheet())
+        setStyleSheet(sheet);
 }
 
 void BackupSetViewItem::showToolTip() {
@@ -72,6 +79,7 @@ void BackupSetViewItem::showToolTip() {
 
 void BackupSetViewItem::setSelected(bool selected) {
     setBackgroundRole(selected ? QPalette::Highlight : QPalette::NoRole);
+    applyStyleSheet();
 }
 
 QLineEdit& BackupSetViewItem::nameEditor() {
@@ -163,4 +171,6 @@ void BackupSetViewItem::changeEvent(QEvent* event) {
         showToolTip();
     }
     QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        applyStyleSheet();
 }

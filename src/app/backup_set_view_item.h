@@ -59,6 +59,7 @@ private slots:
 private:
     void render();
     void applyLook(const app::SetCardLook& look);
+    void applyStyleSheet();
     void showToolTip();
     void hideNameEditor();
     void sendName(const QString& name);

@@ -3,6 +3,7 @@
 #include "app/set_card_look.h"
 
 #include "ui/grey_overlay_pixmap.h"
+#include "ui/readable_colour.h"
 
 namespace app {
 
@@ -34,6 +35,17 @@ SetCardLook setCardLook(const hessiancln::backup_set_info& set, bool centrallyMa
 QPixmap setCardPicture(const SetCardLook& look) {
     return look.overlay.isEmpty() ? QPixmap(look.icon)
                                   : ui::greyOverlayPixmap(look.icon, look.overlay);
+}
+
+QString setCardStyleSheet(const SetCardLook& look, const QPalette& palette, bool selected) {
+    if (look.styleSheet.isEmpty() || !ui::isDark(palette))
+        return look.styleSheet;
+    const QPalette::ColorRole behind = selected ? QPalette::Highlight : QPalette::Base;
+    return QStringLiteral("QLabel#labelSetName, QLabel#labelAdditionalInfo { color: %1; } "
+                          "QLineEdit { color: %2; selection-color: %3; }")
+        .arg(ui::readable(Qt::red, palette, behind).name(),
+             ui::readable(Qt::red, palette, QPalette::Base).name(),
+             ui::readable(Qt::red, palette, QPalette::Highlight).name());
 }
 
 } // namespace app

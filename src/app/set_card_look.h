@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <QPalette>
 #include <QPixmap>
 #include <QString>
 
@@ -22,5 +23,8 @@ struct SetCardLook {
 SetCardLook setCardLook(const hessiancln::backup_set_info& set, bool centrallyManaged);
 
 QPixmap setCardPicture(const SetCardLook& look);
+
+/// The style sheet of the look, on a dark palette with a red that can be read on the card.
+QString setCardStyleSheet(const SetCardLook& look, const QPalette& palette, bool selected);
 
 } // namespace app

@@ -22,6 +22,7 @@
 #include "ui/branding_resources.h"
 #include "ui/error_box.h"
 #include "ui/message_box.h"
+#include "ui/red_label.h"
 #include "ui/remote_action.h"
 #include "ui/screen_fit.h"
 #include "ui/standard_buttons.h"
@@ -62,6 +63,8 @@ InitClntCfgDlg::InitClntCfgDlg(bool initial, QWidget* parent)
     , ui_(std::make_unique<Ui::InitClntCfgDlg>())
     , initial_(initial) {
     ui_->setupUi(this);
+    ui::keepRedReadable(*ui_->labWarning);
+    ui::keepRedReadable(*ui_->labWarningMsg);
     ui::letContentScroll(*this, ui_->layoutButtons);
     setWindowIcon(ui::g_branding.applicationIcon());
     addCodes();

@@ -5,11 +5,13 @@
 #include <array>
 
 #include <QBrush>
+#include <QGuiApplication>
 #include <QPalette>
 
 #include "insight/insight_texts.h"
 #include "session/text.h"
 #include "ui/locale_text.h"
+#include "ui/readable_colour.h"
 #include "ui/shared_icon.h"
 #include "ui/size_text.h"
 
@@ -131,11 +133,11 @@ QVariant BackupHealthModel::rowData(const HealthRow& row, int role) const {
     switch (row.health.state) {
     case HealthState::NeverBackedUp:
     case HealthState::Failed:
-        return QBrush(Qt::red);
+        return QBrush(ui::readable(Qt::red, QGuiApplication::palette()));
     case HealthState::Overdue:
     case HealthState::NotInSync:
     case HealthState::Recovered:
-        return QBrush(Qt::darkYellow);
+        return QBrush(ui::readable(Qt::darkYellow, QGuiApplication::palette()));
     case HealthState::Running:
     case HealthState::Safe:
         break;

@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "models/item_pixmap.h"
 
+#include <QGuiApplication>
 #include <QIcon>
 #include <QImage>
 #include <QPainter>
 #include <QPixmapCache>
 
+#include "ui/readable_colour.h"
 #include "ui/shared_icon.h"
 
 namespace models {
@@ -59,10 +61,14 @@ QPixmap itemPixmap(SelectableItemType type, bool noAccess) {
     const QPixmap base = resourcePixmap(resource);
     if (!noAccess || base.isNull())
         return base;
-    const QString key = QStringLiteral("NO_ACCESS") + resource;
+    const QPixmap sign = resourcePixmap(QStringLiteral(":/tree/no_access"));
+    QString key = QStringLiteral("NO_ACCESS") + resource;
+    // The pictures follow the palette.
+    if (ui::isDark(QGuiApplication::palette()))
+        key += QStringLiteral(" on dark");
     QPixmap composed;
     if (!QPixmapCache::find(key, &composed)) {
-        composed = compose(base, resourcePixmap(QStringLiteral(":/tree/no_access")));
+        composed = compose(base, sign);
         QPixmapCache::insert(key, composed);
     }
     return composed;

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "resources/pictures.h"
 
-#include <QtGlobal>
+#include <QtPlugin>
+
+Q_IMPORT_PLUGIN(PaletteIconPlugin)
 
 // The macro declares a function, so it can't be used inside a namespace.
 static void initPicturesResource() {

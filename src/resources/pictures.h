@@ -4,9 +4,9 @@
 
 namespace resources {
 
-/// Registers the pictures with Qt's resource system. A linker drops unreferenced resources of a
-/// static library; each program and test that shows pictures must call this once, before its first
-/// window.
+/// Registers the pictures with Qt's resource system, and icons that follow the palette. A
+/// linker drops unreferenced resources of a static library; each program and test that shows
+/// pictures must call this once, before its first window.
 void initPictures();
 
 } // namespace resources

@@ -2,16 +2,31 @@
 # SPDX-License-Identifier: Apache-2.0
 
 # Draws every picture of TABLE at its size and at twice its size into OUT, and writes
-# OUT/pictures.qrc with the resource names. Qt finds the larger one by its "@2x".
+# OUT/pictures.qrc with the resource names. Qt finds the larger one by its "@2x". A picture that is
+# tinted is drawn once more for dark palettes, below "dark".
 
 file(REMOVE_RECURSE ${OUT})
 file(STRINGS ${TABLE} rows REGEX "^[a-z]")
 set(entries "")
 
-function(draw source width height file)
+function(draw tint width height file)
     execute_process(
-        COMMAND ${RSVG_CONVERT} --stylesheet ${TINT} -w ${width} -h ${height} ${source} -o ${file}
+        COMMAND ${RSVG_CONVERT} --stylesheet ${tint} -w ${width} -h ${height} ${source} -o ${file}
         COMMAND_ERROR_IS_FATAL ANY)
+endfunction()
+
+# Draws a row's picture in both sizes; `top` is empty or "dark/".
+function(draw_both tint top)
+    file(MAKE_DIRECTORY ${OUT}/${top}${folder})
+    math(EXPR width2 "2 * ${width}")
+    math(EXPR height2 "2 * ${height}")
+    draw(${tint} ${width} ${height} ${OUT}/${top}${folder}/${name}.png)
+    draw(${tint} ${width2} ${height2} ${OUT}/${top}${folder}/${name}@2x.png)
+    foreach(scale "" "@2x")
+        set(path ${top}${folder}/${name}${scale})
+        string(APPEND entries "  <file alias=\"${path}${suffix}\">${path}.png</file>\n")
+    endforeach()
+    set(entries "${entries}" PARENT_SCOPE)
 endfunction()
 
 foreach(row IN LISTS rows)
@@ -32,15 +47,11 @@ foreach(row IN LISTS rows)
     else()
         set(source ${THEME}/${source})
     endif()
-    math(EXPR width2 "2 * ${width}")
-    math(EXPR height2 "2 * ${height}")
-    file(MAKE_DIRECTORY ${OUT}/${folder})
-    draw(${source} ${width} ${height} ${OUT}/${folder}/${name}.png)
-    draw(${source} ${width2} ${height2} ${OUT}/${folder}/${name}@2x.png)
-    foreach(scale "" "@2x")
-        string(APPEND entries
-            "  <file alias=\"${folder}/${name}${scale}${suffix}\">${folder}/${name}${scale}.png</file>\n")
-    endforeach()
+    draw_both(${TINT} "")
+    file(STRINGS ${source} tinted REGEX "ColorScheme-Text" LIMIT_COUNT 1)
+    if(tinted)
+        draw_both(${TINT_ON_DARK} "dark/")
+    endif()
 endforeach()
 
 file(WRITE ${OUT}/pictures.qrc

@@ -12,6 +12,7 @@
 #include "session/required.h"
 #include "session/text.h"
 #include "ui/picture_delegate.h"
+#include "ui/red_label.h"
 #include "ui_set_options_page.h"
 #include "wizards/local_path.h"
 #include "wizards/select_data_source_page.h"
@@ -22,6 +23,7 @@ SetOptionsPage::SetOptionsPage(QWidget* parent)
     , osType_(session::required(session::getConnection()->getConfigurationManager())
                   ->getClientOSType()) {
     ui_->setupUi(this);
+    ui::keepRedReadable(*ui_->labWarning);
     QTreeView* tree = ui_->treeAvailableDirectories;
     tree->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     tree->setItemDelegate(new ui::PictureDelegate(tree));

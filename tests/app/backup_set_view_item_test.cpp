@@ -14,6 +14,7 @@
 #include "session/process_values.h"
 #include "tests/support/gui_modal_driver.h"
 #include "ui/elided_label.h"
+#include "ui/readable_colour.h"
 
 namespace {
 
@@ -66,6 +67,7 @@ private slots:
 
     void showsTheSet();
     void showsItsStateByPictureColourAndToolTip();
+    void itsRedIsReadOnADarkDesktop();
     void anUnchangedCardIsNotDrawnAnew();
     void aCardThatRecoversLosesItsColour();
     void markupInANameIsText();
@@ -124,6 +126,29 @@ void BackupSetViewItemTest::showsItsStateByPictureColourAndToolTip() {
     QVERIFY(picture() != healthy && picture() != recovered);
     QVERIFY(card.styleSheet().contains(QLatin1String("color: red")));
     QVERIFY(card.toolTip().isEmpty());
+}
+
+void BackupSetViewItemTest::itsRedIsReadOnADarkDesktop() {
+    QPalette dark(QColor("#31363b"), QColor("#2a2e32"));
+    for (const auto role : {QPalette::Base, QPalette::AlternateBase})
+        dark.setColor(role, "#2a2e32");
+    ShownCard shown;
+    auto set = healthySet();
+    set.in_sync = false;
+    shown.card.setRecord(set);
+    const auto contrast = [&] {
+        return ui::contrast(shown.name().palette().color(shown.name().foregroundRole()),
+                            shown.card.palette().color(shown.card.backgroundRole()));
+    };
+    const QString documented = shown.card.styleSheet();
+    QCOMPARE(shown.name().palette().color(QPalette::WindowText), QColor(Qt::red));
+    // The desktop changes while the program runs.
+    QApplication::setPalette(dark);
+    QTRY_VERIFY(contrast() >= 4.5);
+    shown.card.setSelected(true);
+    QTRY_VERIFY(contrast() >= 4.5);
+    QApplication::setPalette(QPalette());
+    QTRY_COMPARE(shown.card.styleSheet(), documented);
 }
 
 void BackupSetViewItemTest::anUnchangedCardIsNotDrawnAnew() {

@@ -31,11 +31,11 @@ QByteArray Helper::line() {
     return text.endsWith('\n') ? text.trimmed() : QByteArray();
 }
 
-bool Display::begin() {
+bool Display::begin(const QSize& size) {
+    const QString screen = QStringLiteral("%1x%2x24").arg(size.width()).arg(size.height());
     if (!launch(QStringLiteral("Xvfb"),
                 {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                 QStringLiteral("0"), QStringLiteral("1280x800x24"), QStringLiteral("-nolisten"),
-                 QStringLiteral("tcp")}))
+                 QStringLiteral("0"), screen, QStringLiteral("-nolisten"), QStringLiteral("tcp")}))
         return false;
     const QByteArray number = line();
     return !number.isEmpty() && qputenv("DISPLAY", ":" + number);

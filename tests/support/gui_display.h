@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QProcess>
+#include <QSize>
 
 /// The parts of a desktop that a test starts for itself.
 namespace support {
@@ -22,7 +23,8 @@ protected:
 /// A virtual display. It becomes the display of this process and its children.
 class Display : public Helper {
 public:
-    bool begin();
+    /// `size` in pixels.
+    bool begin(const QSize& size = {1280, 800});
 };
 
 /// A D-Bus session. It becomes the session of this process and its children.

@@ -8,14 +8,17 @@
 #include <QTest>
 
 #include "tests/tour/catalogue.h"
+#include "tests/tour/contrast_defects.h"
 #include "tests/tour/defects.h"
 #include "tests/tour/reader_defects.h"
+#include "ui/readable_colour.h"
 
 namespace tour {
 
 namespace {
 
 constexpr int timeToRest = 150;
+constexpr int timeToAppear = 2000;
 
 bool shows(const QWidget& widget, const char* className) {
     if (widget.inherits(className))
@@ -62,11 +65,17 @@ void Album::take(QWidget& shown, const char* screen) {
     // One layout may trigger another.
     for (int i = 0; i < 3; ++i)
         QCoreApplication::processEvents();
+    if (!QTest::qWaitForWindowExposed(shown.window(), timeToAppear))
+        defects_ << name + QStringLiteral(": isn't on the screen");
     boxTexts_ << textsOf(shown);
     titles_[name] = shown.windowTitle();
     seenTexts_[name] = tour::seenTexts(shown);
     for (const QString& defect : defectsOf(shown) + readerDefectsOf(shown))
         defects_ << name + QStringLiteral(": ") + defect;
+    // On a light palette some colours are documented.
+    if (ui::isDark(QGuiApplication::palette()))
+        for (const QString& defect : contrastDefectsOf(shown))
+            defects_ << name + QStringLiteral(": ") + defect;
     // By then late changes have arrived and are in the picture.
     if (folder_)
         QTest::qWait(timeToRest);

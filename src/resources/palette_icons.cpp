@@ -1,0 +1,142 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "resources/palette_icons.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QPainter>
+#include <QPixmapCache>
+#include <QStyle>
+#include <QStyleOption>
+
+namespace resources {
+
+namespace {
+
+QString darkTwin(const QString& file) {
+    return QStringLiteral(":/dark") + file.mid(1);
+}
+
+/// A file in its own pixels, whatever scale it is for.
+QPixmap load(const QString& file) {
+    QPixmap pixmap(file);
+    pixmap.setDevicePixelRatio(1);
+    return pixmap;
+}
+
+bool isTextLight(QIcon::Mode mode) {
+    const auto role = mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::WindowText;
+    return QGuiApplication::palette().color(QPalette::Active, role).lightnessF() > 0.5;
+}
+
+bool fits(const QSize& drawing, const QSize& size) {
+    return drawing.width() >= size.width() && drawing.height() >= size.height();
+}
+
+/// Never larger than the drawing.
+QSize shownSize(const QSize& drawing, const QSize& size) {
+    return fits(size, drawing) ? drawing : drawing.scaled(size, Qt::KeepAspectRatio);
+}
+
+QPixmap shown(const QPixmap& drawing, const QSize& size, QIcon::Mode mode) {
+    QPixmap result = size == drawing.size()
+                         ? drawing
+                         : drawing.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    if (mode != QIcon::Disabled)
+        return result;
+    QStyleOption option;
+    option.palette = QGuiApplication::palette();
+    return QApplication::style()->generatedIconPixmap(mode, result, &option);
+}
+
+} // namespace
+
+const PaletteIconEngine::Drawing* PaletteIconEngine::drawingFor(const QSize& size,
+                                                                QIcon::Mode mode) const {
+    const Drawing* best = nullptr;
+    for (const Drawing& drawing : drawings_) {
+        if (drawing.mode != mode)
+            continue;
+        if (!best || (fits(drawing.onLight.size(), size)
+                          ? !fits(best->onLight.size(), size) ||
+                                fits(best->onLight.size(), drawing.onLight.size())
+                          : fits(drawing.onLight.size(), best->onLight.size())))
+            best = &drawing;
+    }
+    return best || mode == QIcon::Normal ? best : drawingFor(size, QIcon::Normal);
+}
+
+void PaletteIconEngine::paint(QPainter* painter, const QRect& rect, QIcon::Mode mode,
+                              QIcon::State state) {
+    const qreal ratio = QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps)
+                            ? painter->device()->devicePixelRatioF()
+                            : 1.0;
+    painter->drawPixmap(rect, pixmap(rect.size() * ratio, mode, state));
+}
+
+QPixmap PaletteIconEngine::pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) {
+    const Drawing* drawing = drawingFor(size, mode);
+    if (!drawing)
+        return {};
+    const QPixmap& picture = isTextLight(mode) ? drawing->onDark : drawing->onLight;
+    const QSize wanted = shownSize(picture.size(), size);
+    // A drawing for this very mode isn't changed.
+    const QIcon::Mode change = drawing->mode == mode ? QIcon::Normal : mode;
+    if (change != QIcon::Disabled && wanted == picture.size())
+        return picture;
+    const QString key = QStringLiteral("palette_icon_%1_%2_%3x%4_%5")
+                            .arg(picture.cacheKey())
+                            .arg(change)
+                            .arg(wanted.width())
+                            .arg(wanted.height())
+                            .arg(QGuiApplication::palette().cacheKey());
+    QPixmap result;
+    if (!QPixmapCache::find(key, &result)) {
+        result = shown(picture, wanted, change);
+        QPixmapCache::insert(key, result);
+    }
+    return result;
+}
+
+QSize PaletteIconEngine::actualSize(const QSize& size, QIcon::Mode mode, QIcon::State) {
+    const Drawing* drawing = drawingFor(size, mode);
+    return drawing ? shownSize(drawing->onLight.size(), size) : QSize();
+}
+
+QList<QSize> PaletteIconEngine::availableSizes(QIcon::Mode mode, QIcon::State) const {
+    QList<QSize> sizes;
+    for (const Drawing& drawing : drawings_)
+        if (drawing.mode == mode)
+            sizes << drawing.onLight.size();
+    return sizes;
+}
+
+void PaletteIconEngine::addFile(const QString& file, const QSize&, QIcon::Mode mode, QIcon::State) {
+    const QPixmap onLight = load(file);
+    const QPixmap onDark = load(darkTwin(file));
+    if (!onLight.isNull())
+        drawings_.append({mode, onLight, onDark.isNull() ? onLight : onDark});
+}
+
+void PaletteIconEngine::addPixmap(const QPixmap& pixmap, QIcon::Mode mode, QIcon::State) {
+    drawings_.erase(std::remove_if(drawings_.begin(), drawings_.end(),
+                                   [mode](const Drawing& drawing) { return drawing.mode == mode; }),
+                    drawings_.end());
+    drawings_.append({mode, pixmap, pixmap});
+}
+
+QString PaletteIconEngine::key() const {
+    return QStringLiteral("PaletteIconEngine");
+}
+
+QIconEngine* PaletteIconEngine::clone() const {
+    return new PaletteIconEngine(*this);
+}
+
+QIconEngine* PaletteIconPlugin::create(const QString& file) {
+    // Without an engine from here Qt uses its own.
+    const bool hasTwin = file.startsWith(QLatin1String(":/")) && QFile::exists(darkTwin(file));
+    return hasTwin ? new PaletteIconEngine : nullptr;
+}
+
+} // namespace resources

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QIconEngine>
+#include <QIconEnginePlugin>
+#include <QPixmap>
+#include <QVector>
+
+namespace resources {
+
+/// The picture of an icon that exists twice: for dark text on a light palette, and, as the same
+/// resource below `:/dark`, for light text on a dark one. Which one is shown follows the palette of
+/// the program, also while it runs; in a selected row it follows the text of the selection.
+class PaletteIconEngine : public QIconEngine {
+public:
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override;
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override;
+    QSize actualSize(const QSize& size, QIcon::Mode mode, QIcon::State state) override;
+    QList<QSize> availableSizes(QIcon::Mode mode, QIcon::State state) const override;
+    void addFile(const QString& file, const QSize& size, QIcon::Mode mode,
+                 QIcon::State state) override;
+    /// A picture for both palettes, in place of those of its mode.
+    void addPixmap(const QPixmap& pixmap, QIcon::Mode mode, QIcon::State state) override;
+    QString key() const override;
+    QIconEngine* clone() const override;
+
+private:
+    struct Drawing {
+        QIcon::Mode mode;
+        QPixmap onLight;
+        QPixmap onDark;
+    };
+    /// The one for a mode that needs the least scaling down to a size in pixels; null if there is
+    /// none.
+    const Drawing* drawingFor(const QSize& size, QIcon::Mode mode) const;
+
+    QVector<Drawing> drawings_;
+};
+
+/// Makes Qt use this engine for each `QIcon` of a resource that has a dark twin.
+class PaletteIconPlugin : public QIconEnginePlugin {
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID QIconEngineFactoryInterface_iid FILE "palette_icons.json")
+public:
+    QIconEngine* create(const QString& file) override;
+};
+
+} // namespace resources

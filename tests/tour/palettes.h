@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QPalette>
+
+namespace tour {
+
+/// Light text on dark grey, as on the dark desktops of KDE and GNOME.
+QPalette darkPalette();
+
+/// White text on black.
+QPalette highContrastPalette();
+
+/// Gives the program the palette that the variable TARN_LOOK names, `dark` or `contrast`, if any.
+void applyLook();
+
+} // namespace tour
