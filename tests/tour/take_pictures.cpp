@@ -3,7 +3,7 @@
 // Takes a picture of every screen of the program, or writes the page that shows them all:
 //   take_pictures <folder> [<translation file>|pseudo]
 //   take_pictures --index <folder of the English ones> <folder of the German ones> >docs/tour.md
-// The look depends on the display; see tools/pictures.
+// The look depends on the display, on QT_SCALE_FACTOR and on TARN_LOOK; see tools/pictures.
 #include <cstdio>
 
 #include <QApplication>
@@ -15,6 +15,7 @@
 #include "resources/pictures.h"
 #include "tests/tour/album.h"
 #include "tests/tour/catalogue.h"
+#include "tests/tour/palettes.h"
 #include "tests/tour/pseudo_language.h"
 #include "tests/tour/stories.h"
 #include "ui/screen_fit.h"
@@ -60,6 +61,15 @@ void writeTableOfScreens() {
     std::puts("");
 }
 
+void writeLooks() {
+    std::puts("## On other desktops\n\n"
+              "A dark desktop, and screens at 150 and at 200 %. "
+              "`tools/pictures --scale 1.5 --look dark FOLDER`\ntakes every screen so.\n");
+    for (const char* look : {"dark", "150", "200"})
+        for (const char* screen : {"main-window", "new-set-items", "login"})
+            std::printf("![](tour/%s/%s.png)\n\n", look, screen);
+}
+
 void writeIndex(const Titles& english, const Titles& german) {
     std::puts(
         "# Every screen\n\n"
@@ -72,6 +82,7 @@ void writeIndex(const Titles& english, const Titles& german) {
         for (const tour::Screen& screen : chapter.screens)
             writeScreen(screen, english, german);
     }
+    writeLooks();
 }
 
 } // namespace
@@ -85,6 +96,7 @@ int main(int argc, char** argv) {
     app::prepareToolkit();
     QApplication application(argc, argv);
     ui::keepDialogsOnScreen(application);
+    tour::applyLook();
     resources::initPictures();
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() < 2) {
