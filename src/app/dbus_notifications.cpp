@@ -77,13 +77,24 @@ void Notifications::send(const QString& title, const QString& text, const QStrin
     call<uint>(*this, "Notify",
                {QCoreApplication::applicationName(), uint{0}, icon, title,
                 readsMarkup ? text.toHtmlEscaped() : text, actions, hints, milliseconds},
-               [this](uint id) { shown_.insert(id); });
+               [this](uint id) { follow(id); });
+}
+
+void Notifications::follow(uint id) {
+    shown_.insert(id);
+    if (id == clickedUnknown_)
+        emit clicked();
 }
 
 void Notifications::followAction(uint id, const QString& action) {
-    // The service reports the clicks on the notifications of all programs.
-    if (shown_.contains(id) && action == QLatin1String(defaultAction))
+    if (action != QLatin1String(defaultAction))
+        return;
+    // The service reports the clicks on the notifications of all programs, and Qt may deliver a
+    // click before the reply with the notification's id.
+    if (shown_.contains(id))
         emit clicked();
+    else
+        clickedUnknown_ = id;
 }
 
 } // namespace app

@@ -38,7 +38,11 @@ private:
     void send(const QString& title, const QString& text, const QString& icon, int milliseconds,
               const QStringList& capabilities);
 
+    /// Counts clicks on this notification from now on.
+    void follow(uint id);
+
     QSet<uint> shown_;
+    uint clickedUnknown_ = 0; ///< the last id clicked that isn't among them; 0 is none
 };
 
 } // namespace app
