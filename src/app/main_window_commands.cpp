@@ -19,6 +19,7 @@
 #include "session/process_values.h"
 #include "session/text.h"
 #include "ui/error_box.h"
+#include "ui/later.h"
 #include "ui/locale_text.h"
 #include "ui_simple_gui_main_window.h"
 #include "wizards/delete_flow.h"
@@ -201,6 +202,9 @@ void SimpleGUIMainWindow::on_btnSchedule_clicked() {
 
 void SimpleGUIMainWindow::OnBackupSetSelectionChanged(const QItemSelection&,
                                                       const QItemSelection&) {
+    // A screen reader can select a row during a wait.
+    if (ui::waitsForCall(*this, [this] { OnBackupSetSelectionChanged({}, {}); }))
+        return;
     showSetDetails();
     updateEnabling();
 }

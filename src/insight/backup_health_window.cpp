@@ -13,6 +13,7 @@
 #include "insight/copy_rows.h"
 #include "insight/insight_texts.h"
 #include "ui/branding_resources.h"
+#include "ui/later.h"
 #include "ui/shared_icon.h"
 #include "ui/table_columns.h"
 #include "ui_backup_health_window.h"
@@ -141,6 +142,9 @@ void BackupHealthWindow::select(std::int32_t setId) {
 
 void BackupHealthWindow::showSelected() {
     if (isRefilling_)
+        return;
+    // A screen reader can select a row during a wait.
+    if (ui::waitsForCall(*this, [this] { showSelected(); }))
         return;
     const insight::HealthRow* row = selectedRow();
     ui_->labelHelp->setText(row ? insight::helpText(row->facts, row->health, monitor_.healthClock())

@@ -2,12 +2,15 @@
 // SPDX-License-Identifier: Apache-2.0
 // What has to wait while the agent doesn't answer: all that could lead to another call.
 #include <algorithm>
+#include <functional>
 #include <utility>
 
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -20,10 +23,13 @@
 #include <QTimer>
 #include <QToolButton>
 #include <QWindow>
+#include <QWizard>
 
 #include "app/about_dlg.h"
 #include "app/backup_set_view_item.h"
+#include "app/event_log_viewer.h"
 #include "app/open_backup_set.h"
+#include "insight/backup_health_window.h"
 #include "insight/slices.h"
 #include "resources/pictures.h"
 #include "session/connection.h"
@@ -31,6 +37,7 @@
 #include "tests/support/gui_modal_driver.h"
 #include "ui/later.h"
 #include "wizards/delete_select_page.h"
+#include "wizards/select_data_source_page.h"
 
 using namespace std::chrono_literals;
 using gui_tests::Calls;
@@ -48,6 +55,13 @@ namespace {
 void clickOnWindow(QWidget& window, QWidget& target) {
     QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {},
                       target.mapTo(&window, target.rect().center()));
+}
+
+/// Selects a row as a screen reader does, without any input.
+void selectByReader(QTableView& table, int row) {
+    QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(&table);
+    QVERIFY(reader && reader->tableInterface());
+    QVERIFY(reader->tableInterface()->selectRow(row));
 }
 
 } // namespace
@@ -72,9 +86,27 @@ private slots:
     void commandsTriggeredWithoutInputDoNothing();
     void theTypedNameIsSentAfterTheCall();
     void aFieldThatLosesTheFocusWaits();
+    void aComputerNameThatLosesTheFocusWaits();
     void anArrowThatIsHeldStepsNoFurther();
+    void aScreenReaderSelectsASet();
+    void aScreenReaderSelectsARowOfTheHealthWindow();
+    void aScreenReaderFiltersTheEventLog();
+    void anAnimatedClickWaits();
 
 private:
+    /// Runs `act` once in a slow heartbeat, and checks that it leads to no call there.
+    void duringACall(const std::function<void()>& act) {
+        agent_->clearCallLog();
+        agent_->inject("getTarnClientInfo", simulator::Delay{300ms});
+        int rounds = 0;
+        const InTheWait user([&] {
+            if (++rounds == 1)
+                act();
+            QCOMPARE(methodsOf(*agent_), Calls{"getTarnClientInfo"});
+        });
+        driver_->beat();
+        QVERIFY(rounds > 1);
+    }
     /// Calls of one method.
     int count(const char* method) {
         const auto calls = methodsOf(*agent_);
@@ -325,6 +357,78 @@ void HeldEventsTest::anArrowThatIsHeldStepsNoFurther() {
     QCOMPARE(spin.value(), before);
     QTRY_VERIFY(spin.value() > before);
     QTest::mouseRelease(&spin, Qt::LeftButton, {}, arrow.center());
+}
+
+void HeldEventsTest::aComputerNameThatLosesTheFocusWaits() {
+    QWizard wizard;
+    wizard.addPage(new SelectDataSourcePage([](const std::string&) { return true; }));
+    wizard.show();
+    wizard.activateWindow();
+    auto& name = child<QLineEdit>(wizard, "editComputerName");
+    name.setFocus();
+    QTRY_VERIFY(name.hasFocus());
+    name.selectAll();
+    QTest::keyClicks(&name, QStringLiteral("localhost"));
+    agent_->clearCallLog();
+    loseFocusDuringACall();
+    QCOMPARE(count("expandToFullPath"), 0);
+    QTRY_COMPARE(count("expandToFullPath"), 1);
+}
+
+void HeldEventsTest::aScreenReaderSelectsASet() {
+    driver_->sets().selectRow(0);
+    const QStringList before = driver_->details();
+    duringACall([&] {
+        selectByReader(driver_->sets(), 1);
+        QCOMPARE(driver_->details(), before);
+    });
+    QCOMPARE(driver_->selectedRow(), 1);
+    agent_->clearCallLog();
+    // What the selection had to leave out.
+    QTRY_VERIFY(count("getOverview") > 0);
+    QVERIFY(driver_->details() != before);
+}
+
+void HeldEventsTest::aScreenReaderSelectsARowOfTheHealthWindow() {
+    driver_->trigger("actionBackup_Health");
+    auto& health = child<BackupHealthWindow>(driver_->window(), "BackupHealthWindow");
+    auto& sets = child<QTableView>(health, "tableSets");
+    auto& help = child<QLabel>(health, "labelHelp");
+    QTRY_VERIFY(!child<QWidget>(health, "progressReading").isVisible());
+    sets.selectRow(0);
+    const QString before = help.text();
+    const int last = sets.model()->rowCount() - 1;
+    duringACall([&] {
+        selectByReader(sets, last);
+        QCOMPARE(help.text(), before);
+    });
+    QTRY_VERIFY(help.text() != before);
+}
+
+void HeldEventsTest::aScreenReaderFiltersTheEventLog() {
+    EventLogViewer viewer;
+    viewer.show();
+    child<QCheckBox>(viewer, "checkActivityID").click();
+    QAccessibleInterface* number =
+        QAccessible::queryAccessibleInterface(&child<QSpinBox>(viewer, "spinActivityID"));
+    QVERIFY(number && number->valueInterface());
+    duringACall([&] { number->valueInterface()->setCurrentValue(7); });
+    QCOMPARE(count("event_log"), 0);
+    QTRY_COMPARE(count("event_log"), 1);
+}
+
+void HeldEventsTest::anAnimatedClickWaits() {
+    QPushButton button(QStringLiteral("Pressed"), &driver_->window());
+    button.show();
+    int clicks = 0;
+    bool inWait = true;
+    connect(&button, &QPushButton::clicked, &button, [&] {
+        ++clicks;
+        inWait = hessiancln::CallPassage::underWay();
+    });
+    duringACall([&] { button.animateClick(1); });
+    QTRY_COMPARE(clicks, 1);
+    QVERIFY(!inWait);
 }
 
 void HeldEventsTest::commandsTriggeredWithoutInputDoNothing() {
