@@ -5,15 +5,18 @@
 
 #include <QDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QTableView>
 #include <QTest>
 #include <QWizard>
 
 #include "app/connection_field.h"
 #include "app/login_check.h"
 #include "app/session_ended_line.h"
+#include "insight/find_file_window.h"
 #include "resources/pictures.h"
 #include "session/connection.h"
 #include "tests/support/gui_agent.h"
@@ -21,6 +24,7 @@
 #include "tests/support/gui_main_window.h"
 #include "tests/support/gui_modal_driver.h"
 #include "tests/support/gui_translation.h"
+#include "wizards/select_generation_dlg.h"
 
 using support::child;
 using support::GuiAgent;
@@ -64,6 +68,7 @@ private slots:
     void aListThatWasAlwaysEmptySaysNothing();
     void anOpenDialogSaysSoAtItsTop_data();
     void anOpenDialogSaysSoAtItsTop();
+    void theGenerationsOfAFoundFileSaySo();
     void allOfItSpeaksGerman();
 
 private:
@@ -76,6 +81,7 @@ private:
         driver_->beat();
         QVERIFY(!session::connectedToAgent());
     }
+    void loseUnder(QDialog& dialog);
     void expectLogin() {
         modals_.expect(q("login"), isDialog<LoginCheck>, [this](QWidget& dialog) {
             ++logins_;
@@ -226,7 +232,8 @@ void LostSessionTest::anOpenDialogSaysSoAtItsTop_data() {
     for (const char* slot : {"on_btnSchedule_clicked", "on_btnRetention_clicked", "ShowEventLog",
                              "on_actionAdmin_triggered", "on_actionLDAP_Account_triggered",
                              "on_action_Recovery_triggered", "on_actionRegister_triggered",
-                             "on_actionRegistration_Info_triggered"})
+                             "on_actionRegistration_Info_triggered", "OnNewBackupSet",
+                             "on_btnItems_clicked", "OnRestore", "OnDelete"})
         QTest::newRow(slot) << q(slot);
 }
 
@@ -237,34 +244,60 @@ void LostSessionTest::anOpenDialogSaysSoAtItsTop() {
     bool open = false;
     modals_.expect(slot, isDialog<QDialog>, [&](QWidget& dialog) {
         open = true;
-        QCoreApplication::processEvents();
-        const int height = dialog.height();
-        const auto* wizard = qobject_cast<QWizard*>(&dialog);
-        const bool couldGoOn = wizard && wizard->button(QWizard::NextButton)->isEnabled();
-        lose();
-        auto* line = dialog.findChild<app::SessionEndedLine*>();
-        QVERIFY(line);
-        QVERIFY(line->isVisible());
-        QCOMPARE(child<QLabel>(*line, "labelSessionEnded").text(),
-                 q("The session has ended: Out of order."));
-        QCOMPARE(line->geometry().topLeft(), QPoint(0, 0));
-        QCOMPARE(line->width(), dialog.width());
-        QCoreApplication::processEvents();
-        QVERIFY(dialog.height() > height);
-        // No other widget is under it.
-        for (const QWidget* other : dialog.findChildren<QWidget*>())
-            if (other->isVisible() && !line->isAncestorOf(other) && other != line &&
-                other->children().isEmpty())
-                QVERIFY2(!QRect(other->mapTo(&dialog, QPoint()), other->size())
-                              .intersects(line->geometry()),
-                         qPrintable(other->objectName()));
-        if (wizard)
-            QCOMPARE(wizard->button(QWizard::NextButton)->isEnabled(), couldGoOn);
-        static_cast<QDialog&>(dialog).reject();
+        loseUnder(static_cast<QDialog&>(dialog));
     });
     QVERIFY(QMetaObject::invokeMethod(&driver_->window(), qPrintable(slot)));
     QVERIFY(modals_.done());
     QVERIFY(open);
+}
+
+void LostSessionTest::theGenerationsOfAFoundFileSaySo() {
+    agent_.reset();
+    agent_ = std::make_unique<GuiAgent>(
+        simulator::Options{.scenario = simulator::Scenario::Generations});
+    driver_->logIn(*agent_);
+    driver_->trigger("actionFind_File");
+    auto& find = child<FindFileWindow>(driver_->window(), "FindFileWindow");
+    child<QLineEdit>(find, "editName").setText(q("diary"));
+    child<QPushButton>(find, "buttonFind").click();
+    QTRY_VERIFY(!find.isSearching());
+    bool open = false;
+    modals_.expect(q("generations"), isDialog<SelectGenerationDlg>, [&](QWidget& dialog) {
+        open = true;
+        QVERIFY(child<QTableView>(dialog, "listGenerations").model()->rowCount() > 1);
+        loseUnder(static_cast<QDialog&>(dialog));
+    });
+    child<QPushButton>(find, "buttonGenerations").click();
+    QVERIFY(modals_.done());
+    QVERIFY(open);
+}
+
+/// Loses the session and checks the dialog's line; closes the dialog.
+void LostSessionTest::loseUnder(QDialog& dialog) {
+    QCoreApplication::processEvents();
+    const int height = dialog.height();
+    const auto* wizard = qobject_cast<QWizard*>(&dialog);
+    const bool couldGoOn = wizard && wizard->button(QWizard::NextButton)->isEnabled();
+    lose();
+    auto* line = dialog.findChild<app::SessionEndedLine*>();
+    QVERIFY(line);
+    QVERIFY(line->isVisible());
+    QCOMPARE(child<QLabel>(*line, "labelSessionEnded").text(),
+             q("The session has ended: Out of order."));
+    QCOMPARE(line->geometry().topLeft(), QPoint(0, 0));
+    QCOMPARE(line->width(), dialog.width());
+    QCoreApplication::processEvents();
+    QVERIFY(dialog.height() > height);
+    // No other widget is under it.
+    for (const QWidget* other : dialog.findChildren<QWidget*>())
+        if (other->isVisible() && !line->isAncestorOf(other) && other != line &&
+            other->children().isEmpty())
+            QVERIFY2(
+                !QRect(other->mapTo(&dialog, QPoint()), other->size()).intersects(line->geometry()),
+                qPrintable(other->objectName()));
+    if (wizard)
+        QCOMPARE(wizard->button(QWizard::NextButton)->isEnabled(), couldGoOn);
+    dialog.reject();
 }
 
 void LostSessionTest::allOfItSpeaksGerman() {

@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPointer>
 #include <QProcess>
@@ -86,6 +87,7 @@ private slots:
     void thePanelSpeaksGerman();
     void quitWorks_data();
     void quitWorks();
+    void quitOfTheTrayMenuWorks();
     void aHiddenWindowShowsThePanelOnceItIsShown();
     void thePanelLiesOverTheDialogInFront();
     void thePanelLiesOverAWindowBesideTheHiddenOne();
@@ -262,6 +264,29 @@ void WaitingTest::quitWorks() {
     QCOMPARE(methodsOf(*agent_), Calls{"getTarnClientInfo"});
 }
 
+void WaitingTest::quitOfTheTrayMenuWorks() {
+    beSilent();
+    auto& menu = child<QMenu>(driver_->window(), "menuTray");
+    int step = 0;
+    const InTheWait user([&] {
+        if (!waitingPanel())
+            return;
+        ++step;
+        if (step == 1)
+            menu.popup(driver_->window().mapToGlobal(QPoint()));
+        else if (step == 2) {
+            QVERIFY(menu.isVisible());
+            const QRect quit =
+                menu.actionGeometry(&child<QAction>(driver_->window(), "actionQuit"));
+            QTest::mouseClick(menu.windowHandle(), Qt::LeftButton, {}, quit.center());
+        }
+    });
+    driver_->postBeat();
+    QCOMPARE(QCoreApplication::exec(), 0);
+    QCOMPARE(step, 2);
+    QCOMPARE(methodsOf(*agent_), Calls{"getTarnClientInfo"});
+}
+
 void WaitingTest::aHiddenWindowShowsThePanelOnceItIsShown() {
     beSilent();
     driver_->window().hideMainWindow();
@@ -377,13 +402,21 @@ void WaitingTest::anAgentThatIsSuspendedAnswersOnceItGoesOn() {
     int status = 0;
     QCOMPARE(::waitpid(id, &status, WUNTRACED | __WALL), id);
     QVERIFY(WIFSTOPPED(status));
+    PaintCount paints(driver_->window());
     int rounds = 0;
+    bool continued = false;
     const InTheWait user([&] {
-        if (waitingPanel() && ++rounds == 1)
+        if (!waitingPanel() || continued)
+            return;
+        if (++rounds == 1)
+            paints.count = 0;
+        driver_->window().update();
+        continued = paints.count >= 3;
+        if (continued)
             ::kill(id, SIGCONT);
     });
     driver_->beat();
-    QVERIFY(rounds > 0);
+    QVERIFY(continued);
     QVERIFY(session::connectedToAgent());
     driver_->window().OnDisconnect();
     agent.terminate();
