@@ -7,6 +7,7 @@
 #include <QMessageBox>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QSemaphore>
 #include <QSpinBox>
 #include <QTabWidget>
 #include <QTableView>
@@ -171,6 +172,45 @@ void takeFailures(Photographer& photographer, const QString& refusal) {
     photographer.run("OnDelete", "delete-question");
 }
 
+/// Doesn't answer until it is released.
+struct SilentLogonService : support::ScriptedSecurityOperations {
+    platform::SecurityStatus
+    initializeContext(platform::SecurityHandle& credentials, platform::SecurityHandle& context,
+                      const std::string& targetName, std::span<std::uint8_t> input,
+                      std::span<std::uint8_t> output, std::uint32_t& outputSize) override {
+        answers.acquire();
+        return ScriptedSecurityOperations::initializeContext(credentials, context, targetName,
+                                                             input, output, outputSize);
+    }
+    void release(platform::SecurityHandle&, platform::SecurityHandle&) override {
+        released.release();
+    }
+
+    QSemaphore answers;
+    QSemaphore released;
+};
+
+/// A login without a password whose logon service falls silent.
+void takeSilentLogonService(Album& album) {
+    SilentLogonService service;
+    const support::SecurityOperationsOverride system(&service);
+    app::CallGate gate;
+    Photographer photographer(album);
+    photographer.window().keepAliveBy(gate);
+    {
+        const support::InTheWait user([&] {
+            if (!support::waitingPanel())
+                return;
+            photographer.take(photographer.window(), "main-window-waiting-logon");
+            support::clickDisconnect();
+        });
+        photographer.window().doLogin(true);
+    }
+    // The thread that was left behind still uses the service.
+    service.answers.release();
+    service.released.acquire();
+}
+
 /// An agent that falls silent, and the session afterwards.
 void takeSilence(Album& album) {
     app::CallGate gate;
@@ -226,6 +266,7 @@ void takeMainWindow(Album& album) {
         photographer.take(photographer.window(), "main-window-central");
     }
     takeSilence(album);
+    takeSilentLogonService(album);
     Photographer photographer(album);
     photographer.logIn();
     photographer.take(photographer.window(), "main-window-sets");
