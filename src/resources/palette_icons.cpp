@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QImageReader>
 #include <QPainter>
 #include <QPixmapCache>
 #include <QStyle>
@@ -17,9 +18,13 @@ QString darkTwin(const QString& file) {
     return QStringLiteral(":/dark") + file.mid(1);
 }
 
+/// The format of all pictures. Without it Qt would load its plug-ins for all the others, because
+/// the names have no suffix.
+constexpr const char* format = "png";
+
 /// A file in its own pixels, whatever scale it is for.
 QPixmap load(const QString& file) {
-    QPixmap pixmap(file);
+    QPixmap pixmap(file, format);
     pixmap.setDevicePixelRatio(1);
     return pixmap;
 }
@@ -51,16 +56,43 @@ QPixmap shown(const QPixmap& drawing, const QSize& size, QIcon::Mode mode) {
 
 } // namespace
 
+PaletteIconEngine::Drawing::Drawing(QIcon::Mode mode, const QString& file)
+    : mode_(mode)
+    , file_(file) {}
+
+PaletteIconEngine::Drawing::Drawing(QIcon::Mode mode, const QPixmap& picture)
+    : mode_(mode)
+    , size_(picture.size())
+    , onLight_(picture)
+    , onDark_(picture) {}
+
+QSize PaletteIconEngine::Drawing::size() const {
+    if (!size_.isValid())
+        size_ = QImageReader(file_, format).size();
+    return size_;
+}
+
+const QPixmap& PaletteIconEngine::Drawing::onLight() const {
+    if (onLight_.isNull())
+        onLight_ = load(file_);
+    return onLight_;
+}
+
+const QPixmap& PaletteIconEngine::Drawing::onDark() const {
+    if (onDark_.isNull())
+        onDark_ = load(darkTwin(file_));
+    return onDark_.isNull() ? onLight() : onDark_;
+}
+
 const PaletteIconEngine::Drawing* PaletteIconEngine::drawingFor(const QSize& size,
                                                                 QIcon::Mode mode) const {
     const Drawing* best = nullptr;
     for (const Drawing& drawing : drawings_) {
-        if (drawing.mode != mode)
+        if (drawing.mode() != mode)
             continue;
-        if (!best || (fits(drawing.onLight.size(), size)
-                          ? !fits(best->onLight.size(), size) ||
-                                fits(best->onLight.size(), drawing.onLight.size())
-                          : fits(drawing.onLight.size(), best->onLight.size())))
+        if (!best || (fits(drawing.size(), size)
+                          ? !fits(best->size(), size) || fits(best->size(), drawing.size())
+                          : fits(drawing.size(), best->size())))
             best = &drawing;
     }
     return best || mode == QIcon::Normal ? best : drawingFor(size, QIcon::Normal);
@@ -78,10 +110,10 @@ QPixmap PaletteIconEngine::pixmap(const QSize& size, QIcon::Mode mode, QIcon::St
     const Drawing* drawing = drawingFor(size, mode);
     if (!drawing)
         return {};
-    const QPixmap& picture = isTextLight(mode) ? drawing->onDark : drawing->onLight;
+    const QPixmap& picture = isTextLight(mode) ? drawing->onDark() : drawing->onLight();
     const QSize wanted = shownSize(picture.size(), size);
     // A drawing for this very mode isn't changed.
-    const QIcon::Mode change = drawing->mode == mode ? QIcon::Normal : mode;
+    const QIcon::Mode change = drawing->mode() == mode ? QIcon::Normal : mode;
     if (change != QIcon::Disabled && wanted == picture.size())
         return picture;
     const QString key = QStringLiteral("palette_icon_%1_%2_%3x%4_%5")
@@ -100,29 +132,28 @@ QPixmap PaletteIconEngine::pixmap(const QSize& size, QIcon::Mode mode, QIcon::St
 
 QSize PaletteIconEngine::actualSize(const QSize& size, QIcon::Mode mode, QIcon::State) {
     const Drawing* drawing = drawingFor(size, mode);
-    return drawing ? shownSize(drawing->onLight.size(), size) : QSize();
+    return drawing ? shownSize(drawing->size(), size) : QSize();
 }
 
 QList<QSize> PaletteIconEngine::availableSizes(QIcon::Mode mode, QIcon::State) const {
     QList<QSize> sizes;
     for (const Drawing& drawing : drawings_)
-        if (drawing.mode == mode)
-            sizes << drawing.onLight.size();
+        if (drawing.mode() == mode)
+            sizes << drawing.size();
     return sizes;
 }
 
 void PaletteIconEngine::addFile(const QString& file, const QSize&, QIcon::Mode mode, QIcon::State) {
-    const QPixmap onLight = load(file);
-    const QPixmap onDark = load(darkTwin(file));
-    if (!onLight.isNull())
-        drawings_.append({mode, onLight, onDark.isNull() ? onLight : onDark});
+    if (QFile::exists(file))
+        drawings_.append({mode, file});
 }
 
 void PaletteIconEngine::addPixmap(const QPixmap& pixmap, QIcon::Mode mode, QIcon::State) {
-    drawings_.erase(std::remove_if(drawings_.begin(), drawings_.end(),
-                                   [mode](const Drawing& drawing) { return drawing.mode == mode; }),
-                    drawings_.end());
-    drawings_.append({mode, pixmap, pixmap});
+    drawings_.erase(
+        std::remove_if(drawings_.begin(), drawings_.end(),
+                       [mode](const Drawing& drawing) { return drawing.mode() == mode; }),
+        drawings_.end());
+    drawings_.append({mode, pixmap});
 }
 
 QString PaletteIconEngine::key() const {

@@ -26,10 +26,23 @@ public:
     QIconEngine* clone() const override;
 
 private:
-    struct Drawing {
-        QIcon::Mode mode;
-        QPixmap onLight;
-        QPixmap onDark;
+    /// Read from its file when it is first shown, and only for the palette that it is shown on.
+    class Drawing {
+    public:
+        Drawing(QIcon::Mode mode, const QString& file);
+        Drawing(QIcon::Mode mode, const QPixmap& picture);
+        QIcon::Mode mode() const { return mode_; }
+        /// In its own pixels, whatever scale it is for.
+        QSize size() const;
+        const QPixmap& onLight() const;
+        const QPixmap& onDark() const;
+
+    private:
+        QIcon::Mode mode_;
+        QString file_;
+        mutable QSize size_;
+        mutable QPixmap onLight_;
+        mutable QPixmap onDark_;
     };
     /// The one for a mode that needs the least scaling down to a size in pixels; null if there is
     /// none.
