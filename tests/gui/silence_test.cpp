@@ -8,7 +8,6 @@
 #include <set>
 #include <vector>
 
-#include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -93,6 +92,10 @@ QString differingText(const Outcome& outcome, const Outcome& faulted) {
     for (int i = 0; i < faulted.boxes.size(); ++i)
         if (faulted.boxes[i].contains(cause) && outcome.boxes.value(i) != faulted.boxes[i])
             return faulted.boxes[i];
+    // A session that survives a fault makes more calls, which change the status.
+    if (faulted.status.contains(cause) && outcome.calls == faulted.calls &&
+        outcome.status != faulted.status)
+        return faulted.status;
     return {};
 }
 
