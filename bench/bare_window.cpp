@@ -1,14 +1,22 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The least that a program with a Qt window does: the reference for the start of the client.
+// The least that a program with a Qt window of the client's kind does: a menu, a line of text, and
+// nothing else. Without any text it wouldn't even load a font. The reference for the start of the
+// client.
 
 #include <QApplication>
+#include <QLabel>
 #include <QMainWindow>
+#include <QMenuBar>
 
 int main(int argc, char** argv) {
+    // As in the client: Qt doesn't ask the desktop whether it shows menu bars.
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     const QApplication application(argc, argv);
     QMainWindow window;
+    window.menuBar()->addMenu(QStringLiteral("&File"))->addAction(QStringLiteral("&Quit"));
+    window.setCentralWidget(new QLabel(QStringLiteral("Ready"), &window));
     window.resize(1000, 600);
     window.show();
     return QApplication::exec();

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The client beside a program that shows an empty Qt window: the time from its start to its first
-// paint, its private memory, and how often it wakes up while nobody uses it. Needs a display. The
-// client finds no agent, and waits with its login dialog open.
+// The client beside a program with a bare Qt window, a menu and a line of text: the time from its
+// start to its first paint, its private memory, and how often it wakes up while nobody uses it.
+// Needs a display. The client finds no agent, and waits with its login dialog open.
 
 #include <chrono>
 #include <cstdlib>
@@ -51,12 +51,14 @@ public:
     /// Seconds of processor time until then.
     double processorTime() const { return processorTime_; }
 
-    /// Memory that no other process shares, in KiB.
+    /// Memory that it has filled itself, in KiB. Unchanged pages of a program's files don't count:
+    /// whether another process shares them depends on what else happens to run, and the system can
+    /// drop them.
     double privateMemory() const {
         std::ifstream map(folder() / "smaps_rollup");
         double sum = 0;
         for (std::string line; std::getline(map, line);)
-            if (line.starts_with("Private_"))
+            if (line.starts_with("Anonymous:"))
                 sum += std::stod(line.substr(line.find(':') + 1));
         return sum;
     }
