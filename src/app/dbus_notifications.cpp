@@ -61,7 +61,7 @@ Notifications::Notifications() {
 void Notifications::show(const QString& title, const QString& text, const QString& icon,
                          int milliseconds) {
     // The service may have been replaced since the last time.
-    call<QStringList>(*this, "GetCapabilities", {}, [=](const QStringList& capabilities) {
+    call<QStringList>(*this, "GetCapabilities", {}, [=, this](const QStringList& capabilities) {
         send(title, text, icon, milliseconds, capabilities);
     });
 }
