@@ -19,7 +19,7 @@ struct Texts {
 } // namespace
 
 void editAdminTimes(QWidget& parent) {
-    QWizard wizard(&parent);
+    ui::Wizard wizard(&parent);
     ui::frameWizard(wizard, Texts::tr("Configuration Wizard"),
                     QStringLiteral(":/images/wizard_retention"));
     auto* page = new AdminConfigPage(&wizard);

@@ -6,7 +6,6 @@
 #include <QPixmap>
 #include <QPushButton>
 #include <QShowEvent>
-#include <QWizard>
 
 #include "ui/branding_resources.h"
 #include "ui/later.h"
@@ -46,6 +45,13 @@ void setButton(QWizard& wizard, QWizard::WizardButton which, const QString& text
 }
 
 } // namespace
+
+Wizard::~Wizard() {
+    hide();
+    QCoreApplication::removePostedEvents(this);
+    for (QObject* part : findChildren<QObject*>())
+        QCoreApplication::removePostedEvents(part);
+}
 
 void frameWizard(QWizard& wizard, const QString& title, const QString& watermark) {
     wizard.setWindowTitle(title);

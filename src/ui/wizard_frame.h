@@ -5,12 +5,20 @@
 #include <exception>
 
 #include <QString>
+#include <QWizard>
 
 class QShowEvent;
-class QWidget;
-class QWizard;
 
 namespace ui {
+
+/// A wizard whose pages release objects of the agent when they are destroyed. The events that are
+/// delivered during such a call must not reach widgets that are half gone, so its destructor first
+/// drops what is posted to any of its widgets.
+class Wizard : public QWizard {
+public:
+    using QWizard::QWizard;
+    ~Wizard() override;
+};
 
 /// Gives a wizard the common look: the icon, the four buttons, its title and the picture beside its
 /// pages, which `watermark` names in the resources.

@@ -30,7 +30,7 @@ bool confirmsRemoval(QWidget& parent) {
 }
 
 std::optional<Activity> runWizard(QWidget& parent, const Set& set) {
-    QWizard wizard(&parent);
+    ui::Wizard wizard(&parent);
     ui::frameWizard(wizard, Texts::tr("Delete from backup set"),
                     QStringLiteral(":/images/wizard_delete"));
     auto* page = new DeleteSelectPage(set, &wizard);

@@ -34,7 +34,7 @@ public:
 
 private:
     const SetFeatures features_;
-    QWizard wizard_;
+    ui::Wizard wizard_;
     SelectDataSourcePage* source_; ///< owned by the wizard, like all pages
     ItemsSelectPage* items_;
     SetOptionsPage* options_ = nullptr; ///< null if the agent has none

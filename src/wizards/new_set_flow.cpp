@@ -42,7 +42,7 @@ private:
     boost::shared_ptr<hessiancln::BackupSet> createEmptySet();
 
     const SetFeatures features_;
-    QWizard wizard_;
+    ui::Wizard wizard_;
     SelectDataSourcePage* source_; ///< owned by the wizard, like all pages
     ItemsSelectPage* items_;
     SetOptionsPage* options_ = nullptr; ///< null if the agent has none

@@ -36,7 +36,7 @@ public:
     Activity restore();
 
 private:
-    QWizard wizard_;
+    ui::Wizard wizard_;
     RestoreSelectPage* items_; ///< owned by the wizard, like all pages
     RestoreLocationPage* location_;
     SelectDataSourcePage* source_;

@@ -22,7 +22,7 @@ struct Texts {
 } // namespace
 
 bool editRetention(QWidget& parent, const boost::shared_ptr<hessiancln::BackupSet>& set) {
-    QWizard wizard(&parent);
+    ui::Wizard wizard(&parent);
     ui::frameWizard(wizard, Texts::tr("Retention Rule Wizard"),
                     QStringLiteral(":/images/wizard_retention"));
     auto* page = new RetentionSelectPage(&wizard);

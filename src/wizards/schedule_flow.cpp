@@ -21,7 +21,7 @@ struct Texts {
 } // namespace
 
 bool editSchedule(QWidget& parent, const boost::shared_ptr<hessiancln::BackupSet>& set) {
-    QWizard wizard(&parent);
+    ui::Wizard wizard(&parent);
     ui::frameWizard(wizard, Texts::tr("Schedule Wizard"),
                     QStringLiteral(":/images/wizard_schedule"));
     auto* page = new ScheduleSelectPage(&wizard);

@@ -18,6 +18,29 @@ QImage pictureOf(QWizard& wizard, QWizard::WizardButton which) {
     return pictureOf(static_cast<QPushButton*>(wizard.button(which))->icon());
 }
 
+/// Delivers events while it is destroyed, as a page does that waits for the agent.
+class WaitingPart : public QWidget {
+public:
+    using QWidget::QWidget;
+    ~WaitingPart() override { QCoreApplication::sendPostedEvents(); }
+};
+
+class CountingPart : public QWidget {
+public:
+    CountingPart(QWidget* parent, int& events)
+        : QWidget(parent)
+        , events_(events) {}
+
+protected:
+    bool event(QEvent* event) override {
+        events_ += event->type() == QEvent::User ? 1 : 0;
+        return QWidget::event(event);
+    }
+
+private:
+    int& events_;
+};
+
 } // namespace
 
 class WizardFrameTest : public QObject {
@@ -46,6 +69,17 @@ private slots:
         ui::frameWizard(wizard, QStringLiteral("Wizard"), QStringLiteral(":/images/wizard_newset"));
         QCOMPARE(pictureOf(wizard, QWizard::BackButton), pictureOf(QIcon(back)));
         QCOMPARE(pictureOf(wizard, QWizard::NextButton), pictureOf(QIcon(next)));
+    }
+
+    void noEventReachesPartsThatAreDestroyed() {
+        int events = 0;
+        {
+            ui::Wizard wizard;
+            new WaitingPart(&wizard);
+            QCoreApplication::postEvent(new CountingPart(&wizard, events),
+                                        new QEvent(QEvent::User));
+        }
+        QCOMPARE(events, 0);
     }
 };
 
