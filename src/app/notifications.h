@@ -10,8 +10,8 @@
 
 namespace app {
 
-/// The notification service of a desktop whose tray is on D-Bus: `org.freedesktop.Notifications` of
-/// the Desktop Notifications Specification.
+/// The notification service of a desktop whose tray is on D-Bus, `org.freedesktop.Notifications` as
+/// defined by freedesktop.org.
 ///
 /// Qt shows the messages of its tray icon there too, but without a default action, so that most
 /// services report no click, and without escaping, so that names with `<` or `&` are read as
@@ -22,7 +22,7 @@ public:
     /// Null if the desktop has no tray on D-Bus.
     static std::unique_ptr<Notifications> ofDesktop();
 
-    /// Shows plain text. `icon` is a name of the Icon Naming Specification. A service that doesn't
+    /// Shows plain text. `icon` is a name from the desktop's icon theme. A service that doesn't
     /// answer shows nothing.
     void show(const QString& title, const QString& text, const QString& icon, int milliseconds);
 

@@ -8,7 +8,7 @@ namespace platform {
 
 /// Keeps no trace of the folders that the user opens: at its end it removes what the toolkit's file
 /// dialog has stored about them, unless other programs had stored some before. Does nothing where
-/// the toolkit can be told to store it nowhere.
+/// the toolkit can be set to store it nowhere.
 class NoFileDialogHistory {
 public:
     NoFileDialogHistory();

@@ -28,7 +28,7 @@ public:
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
-        // By a change of the language the label gets its text anew, before this.
+        // After a change of language, the label has its new text before this runs.
         if (event->type() == QEvent::PaletteChange || event->type() == QEvent::LanguageChange)
             apply();
         return QObject::eventFilter(watched, event);

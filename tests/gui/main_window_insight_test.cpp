@@ -89,6 +89,18 @@ void announceErrors(MainWindowDriver& driver, GuiAgent& agent) {
     driver.beat();
 }
 
+/// Find File, with the stored file "Diary.odt" found and selected.
+FindFileWindow& findDiary(MainWindowDriver& driver) {
+    driver.trigger("actionFind_File");
+    auto& find = *driver.window().findChild<FindFileWindow*>();
+    child<QLineEdit>(find, "editName").setText(QStringLiteral("diary"));
+    child<QPushButton>(find, "buttonFind").click();
+    if (!QTest::qWaitFor([&find] { return !find.isSearching(); }))
+        qFatal("The search doesn't end");
+    child<QTableView>(find, "tableFound").selectRow(0);
+    return find;
+}
+
 } // namespace
 
 class MainWindowInsightTest : public QObject {
@@ -468,13 +480,8 @@ private slots:
         GuiAgent agent({.scenario = Scenario::Generations});
         MainWindowDriver driver;
         driver.logIn(agent);
-        driver.trigger("actionFind_File");
-        auto* find = driver.window().findChild<FindFileWindow*>();
-        QVERIFY(find && find->isVisible());
-        child<QLineEdit>(*find, "editName").setText(QStringLiteral("diary"));
-        child<QPushButton>(*find, "buttonFind").click();
-        QTRY_VERIFY(!find->isSearching());
-        child<QTableView>(*find, "tableFound").selectRow(0);
+        FindFileWindow& find = findDiary(driver);
+        QVERIFY(find.isVisible());
 
         ModalDriver modals;
         modals.expect(QStringLiteral("restore"), isDialog<QWizard>, [](QWidget& dialog) {
@@ -495,7 +502,7 @@ private slots:
             child<QComboBox>(*wizard.currentPage(), "cmbRestoreReason").setCurrentIndex(1);
             wizard.button(QWizard::FinishButton)->click();
         });
-        child<QPushButton>(*find, "buttonRestore").click();
+        child<QPushButton>(find, "buttonRestore").click();
         QVERIFY(modals.done());
         QVERIFY2(driver.status().endsWith(
                      QStringLiteral("Restore started for 'Two years of generations'")),
@@ -522,12 +529,7 @@ private slots:
         GuiAgent agent({.scenario = Scenario::Generations});
         MainWindowDriver driver;
         driver.logIn(agent);
-        driver.trigger("actionFind_File");
-        auto* find = driver.window().findChild<FindFileWindow*>();
-        child<QLineEdit>(*find, "editName").setText(QStringLiteral("diary"));
-        child<QPushButton>(*find, "buttonFind").click();
-        QTRY_VERIFY(!find->isSearching());
-        child<QTableView>(*find, "tableFound").selectRow(0);
+        FindFileWindow& find = findDiary(driver);
 
         agent.withWorld([&change](World& world) {
             const auto set = world.sets().front();
@@ -545,27 +547,22 @@ private slots:
         agent.clearCallLog();
         ModalDriver modals;
         modals.expectErrorBox(QStringLiteral("Error"), text);
-        child<QPushButton>(*find, "buttonRestore").click();
+        child<QPushButton>(find, "buttonRestore").click();
         QVERIFY(modals.done());
         const auto methods = methodsOf(agent);
-        QVERIFY(std::count(methods.begin(), methods.end(), "restore") == 0);
+        QVERIFY(std::count(methods.begin(), methods.end(), "start") == 0);
     }
 
     void aFailedReadIsNotAMissingFile() {
         GuiAgent agent({.scenario = Scenario::Generations});
         MainWindowDriver driver;
         driver.logIn(agent);
-        driver.trigger("actionFind_File");
-        auto* find = driver.window().findChild<FindFileWindow*>();
-        child<QLineEdit>(*find, "editName").setText(QStringLiteral("diary"));
-        child<QPushButton>(*find, "buttonFind").click();
-        QTRY_VERIFY(!find->isSearching());
-        child<QTableView>(*find, "tableFound").selectRow(0);
+        FindFileWindow& find = findDiary(driver);
         // The second folder on the way to the file.
         agent.inject("getSubItems", simulator::Fault{"Out of order."}, simulator::Times::Once, 1);
         ModalDriver modals;
         modals.expectErrorBox(QStringLiteral("Error"), QStringLiteral("Out of order."));
-        child<QPushButton>(*find, "buttonRestore").click();
+        child<QPushButton>(find, "buttonRestore").click();
         QVERIFY(modals.done());
         QCOMPARE(agent.waitingInjections(), std::size_t(0));
     }
