@@ -33,9 +33,11 @@ QByteArray Helper::line() {
 
 bool Display::begin(const QSize& size) {
     const QString screen = QStringLiteral("%1x%2x24").arg(size.width()).arg(size.height());
+    // Without "-noreset" the end of the last client closes connections that are being opened.
     if (!launch(QStringLiteral("Xvfb"),
-                {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                 QStringLiteral("0"), screen, QStringLiteral("-nolisten"), QStringLiteral("tcp")}))
+                {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-noreset"),
+                 QStringLiteral("-screen"), QStringLiteral("0"), screen,
+                 QStringLiteral("-nolisten"), QStringLiteral("tcp")}))
         return false;
     const QByteArray number = line();
     return !number.isEmpty() && qputenv("DISPLAY", ":" + number);

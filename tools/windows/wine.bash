@@ -62,7 +62,7 @@ wait_until() {
 
 # A display, and a Wine that takes itself for Windows 10.
 start_wine() {
-    Xvfb -displayfd 3 -screen 0 1600x1000x24 -nolisten tcp 3>"$work/display" 2>/dev/null &
+    Xvfb -displayfd 3 -noreset -screen 0 1600x1000x24 -nolisten tcp 3>"$work/display" 2>/dev/null &
     server=$!
     wait_until 30 test -s "$work/display" || fail "no display"
     DISPLAY=:$(cat "$work/display")
