@@ -5,8 +5,10 @@
 
 A file like components.json declares what the programs contain and link. This script compares it with
 the libraries recorded by the linker in each program and with the objects and archives that it read.
-It fails on anything undeclared, and on a declared library that no program links. Libraries of the
-operating system, which nobody ships, are declared by their names only.
+It fails on anything undeclared, and on a declared library that no program links. A library with code
+in its headers has its C++ namespace in the declaration: a program that defines functions of that
+namespace contains the library. Libraries of the operating system, which nobody ships, are declared by
+their names only.
 """
 import argparse
 import datetime
@@ -36,6 +38,7 @@ def parse_arguments():
     parser.add_argument("--version", action="append", nargs=2, default=[],
                         metavar=("ID", "VERSION"), help="version of a component")
     parser.add_argument("--objdump", default="objdump")
+    parser.add_argument("--nm", default="nm")
     parser.add_argument("--out", type=pathlib.Path, required=True)
     return parser.parse_args()
 
@@ -44,6 +47,19 @@ def shared_libraries(objdump, program):
     """The names of the shared libraries that a program loads."""
     dump = subprocess.run([objdump, "-p", program], check=True, capture_output=True, text=True)
     return set(SHARED.findall(dump.stdout))
+
+
+def included(nm, program, linked):
+    """The declared libraries from whose headers a program took functions."""
+    wanted = [component for component in linked if "namespace" in component]
+    if not wanted:
+        return set()
+    names = subprocess.run([nm, "--demangle", "--defined-only", "--format=posix", program],
+                           check=True, capture_output=True, text=True).stdout
+    if not names:
+        sys.exit(f"{program}: no symbols; the bill of materials needs the program before it is stripped")
+    return {component["id"] for component in wanted
+            if re.search(rf"^{re.escape(component['namespace'])}::", names, re.MULTILINE)}
 
 
 def linked_in(inputs, build):
@@ -73,7 +89,8 @@ def taken_components(options, linked, system):
         owners = {name: owner(linked, name) for name in names}
         problems += [f"{program} links {name}, which no component declares"
                      for name in sorted(names) if owners[name] is None]
-        taken[program] = sorted({found for found in owners.values() if found})
+        found = {component for component in owners.values() if component}
+        taken[program] = sorted(found | included(options.nm, file, linked))
     used = {component for components in taken.values() for component in components}
     problems += [f"no program links {component['id']}, which is declared"
                  for component in linked if component["id"] not in used]
