@@ -22,7 +22,7 @@ QString darkTwin(const QString& file) {
 /// the names have no suffix.
 constexpr const char* format = "png";
 
-/// A file in its own pixels, whatever scale it is for.
+/// A file in its own pixels, at any scale.
 QPixmap load(const QString& file) {
     QPixmap pixmap(file, format);
     pixmap.setDevicePixelRatio(1);
@@ -112,7 +112,7 @@ QPixmap PaletteIconEngine::pixmap(const QSize& size, QIcon::Mode mode, QIcon::St
         return {};
     const QPixmap& picture = isTextLight(mode) ? drawing->onDark() : drawing->onLight();
     const QSize wanted = shownSize(picture.size(), size);
-    // A drawing for this very mode isn't changed.
+    // A drawing for exactly this mode isn't changed.
     const QIcon::Mode change = drawing->mode() == mode ? QIcon::Normal : mode;
     if (change != QIcon::Disabled && wanted == picture.size())
         return picture;
@@ -165,7 +165,7 @@ QIconEngine* PaletteIconEngine::clone() const {
 }
 
 QIconEngine* PaletteIconPlugin::create(const QString& file) {
-    // Without an engine from here Qt uses its own.
+    // If this returns null, Qt uses its own engine.
     const bool hasTwin = file.startsWith(QLatin1String(":/")) && QFile::exists(darkTwin(file));
     return hasTwin ? new PaletteIconEngine : nullptr;
 }

@@ -10,8 +10,8 @@
 namespace resources {
 
 /// The picture of an icon that exists twice: for dark text on a light palette, and, as the same
-/// resource below `:/dark`, for light text on a dark one. Which one is shown follows the palette of
-/// the program, also while it runs; in a selected row it follows the text of the selection.
+/// resource below `:/dark`, for light text on a dark one. The choice follows the program's current
+/// palette; in a selected row, it follows the colour of the selected text.
 class PaletteIconEngine : public QIconEngine {
 public:
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override;
@@ -20,19 +20,19 @@ public:
     QList<QSize> availableSizes(QIcon::Mode mode, QIcon::State state) const override;
     void addFile(const QString& file, const QSize& size, QIcon::Mode mode,
                  QIcon::State state) override;
-    /// A picture for both palettes, in place of those of its mode.
+    /// Replaces the pictures of a mode, for both palettes.
     void addPixmap(const QPixmap& pixmap, QIcon::Mode mode, QIcon::State state) override;
     QString key() const override;
     QIconEngine* clone() const override;
 
 private:
-    /// Read from its file when it is first shown, and only for the palette that it is shown on.
+    /// Loaded on first use, per palette.
     class Drawing {
     public:
         Drawing(QIcon::Mode mode, const QString& file);
         Drawing(QIcon::Mode mode, const QPixmap& picture);
         QIcon::Mode mode() const { return mode_; }
-        /// In its own pixels, whatever scale it is for.
+        /// In its own pixels, at any scale.
         QSize size() const;
         const QPixmap& onLight() const;
         const QPixmap& onDark() const;
@@ -44,8 +44,8 @@ private:
         mutable QPixmap onLight_;
         mutable QPixmap onDark_;
     };
-    /// The one for a mode that needs the least scaling down to a size in pixels; null if there is
-    /// none.
+    /// The smallest drawing for a mode that is at least `size` pixels large, or else the largest
+    /// one. Without one for this mode, that for `QIcon::Normal`; null without a drawing.
     const Drawing* drawingFor(const QSize& size, QIcon::Mode mode) const;
 
     QVector<Drawing> drawings_;

@@ -27,7 +27,7 @@ bool isReasonableImage(QByteArray& bytes) {
                                                        BrandingResources::mostPixels);
 }
 
-/// The image of an entry, stretched to `size`; null if there is none.
+/// The image in an entry, stretched to `size`; null without a usable image.
 QPixmap picture(const ZipReader& file, const char* entry, QSize size) {
     QByteArray bytes = file.read(entry);
     QPixmap pixmap;

@@ -24,7 +24,7 @@ EmptyNote::EmptyNote(QAbstractItemView& view, std::function<QString()> text)
 }
 
 bool EmptyNote::eventFilter(QObject* watched, QEvent* event) {
-    // A view paints itself whenever it has other rows, and nothing may change meanwhile.
+    // A view repaints after each change of its rows, and no widget may change during a paint.
     if (event->type() == QEvent::Paint && wantedText() != (isHidden() ? QString() : text()))
         QMetaObject::invokeMethod(this, &EmptyNote::update, Qt::QueuedConnection);
     if (event->type() == QEvent::Resize)

@@ -10,12 +10,12 @@ class QAbstractItemView;
 
 namespace ui {
 
-/// What stands in a view that has no rows, so that it isn't taken for one that is still being
-/// filled. Belongs to the view.
+/// The note in a view without rows, so that users don't think that it is still loading. Owned by
+/// the view.
 class EmptyNote : public QLabel {
     Q_OBJECT
 public:
-    /// `text` is asked each time; nothing is shown where it is empty.
+    /// Calls `text` for each update; without a text, the note is hidden.
     EmptyNote(QAbstractItemView& view, std::function<QString()> text);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -11,13 +11,13 @@ namespace ui {
 
 namespace {
 
-/// What was there before. Null: Qt's own way to the screen reader.
+/// The previous handler; null for Qt's default.
 QAccessible::UpdateHandler next = nullptr;
 
 void announceMasked(QAccessibleEvent* event);
 
 void passOn(QAccessibleEvent& event) {
-    // Qt names no way to its own announcements but to have no handler for the time.
+    // Qt's default can only be reached while no handler is installed.
     QAccessible::installUpdateHandler(next);
     QAccessible::updateAccessibility(&event);
     QAccessible::installUpdateHandler(announceMasked);
@@ -28,8 +28,7 @@ const SecretField* hidingField(const QAccessibleEvent& event) {
     return field && field->echoMode() != QLineEdit::Normal ? field : nullptr;
 }
 
-/// As many of the characters in which the field shows a text as the text has; none, if it shows
-/// nothing.
+/// The text replaced by mask characters; empty if the field shows nothing.
 QString mask(const SecretField& field, const QString& text) {
     if (field.echoMode() == QLineEdit::NoEcho)
         return {};
@@ -45,25 +44,25 @@ void announceMasked(QAccessibleEvent* event) {
     QObject* object = event->object();
     switch (event->type()) {
     case QAccessible::TextInserted: {
-        const auto& told = static_cast<const QAccessibleTextInsertEvent&>(*event);
-        QAccessibleTextInsertEvent masked(object, told.changePosition(),
-                                          mask(*field, told.textInserted()));
-        masked.setCursorPosition(told.cursorPosition());
+        const auto& edit = static_cast<const QAccessibleTextInsertEvent&>(*event);
+        QAccessibleTextInsertEvent masked(object, edit.changePosition(),
+                                          mask(*field, edit.textInserted()));
+        masked.setCursorPosition(edit.cursorPosition());
         return passOn(masked);
     }
     case QAccessible::TextRemoved: {
-        const auto& told = static_cast<const QAccessibleTextRemoveEvent&>(*event);
-        QAccessibleTextRemoveEvent masked(object, told.changePosition(),
-                                          mask(*field, told.textRemoved()));
-        masked.setCursorPosition(told.cursorPosition());
+        const auto& edit = static_cast<const QAccessibleTextRemoveEvent&>(*event);
+        QAccessibleTextRemoveEvent masked(object, edit.changePosition(),
+                                          mask(*field, edit.textRemoved()));
+        masked.setCursorPosition(edit.cursorPosition());
         return passOn(masked);
     }
     case QAccessible::TextUpdated: {
-        const auto& told = static_cast<const QAccessibleTextUpdateEvent&>(*event);
-        QAccessibleTextUpdateEvent masked(object, told.changePosition(),
-                                          mask(*field, told.textRemoved()),
-                                          mask(*field, told.textInserted()));
-        masked.setCursorPosition(told.cursorPosition());
+        const auto& edit = static_cast<const QAccessibleTextUpdateEvent&>(*event);
+        QAccessibleTextUpdateEvent masked(object, edit.changePosition(),
+                                          mask(*field, edit.textRemoved()),
+                                          mask(*field, edit.textInserted()));
+        masked.setCursorPosition(edit.cursorPosition());
         return passOn(masked);
     }
     case QAccessible::ValueChanged: {

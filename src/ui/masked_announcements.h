@@ -4,10 +4,10 @@
 
 namespace ui {
 
-/// Qt announces each edit of a field to screen readers, on a bus on which others may listen, in the
-/// letters that were typed or that went, even if the field hides them. From here on the edits of
-/// every `SecretField` that hides what it holds are announced in the character that it shows in
-/// their place; all else is passed on as it is. Takes effect once, however often it is called.
+/// Qt announces each edit of a field to screen readers with the inserted and removed text, even if
+/// the field hides it, on a bus that other programs can read. After this call, edits of a
+/// `SecretField` that hides its content are announced with its mask character; everything else is
+/// passed on unchanged. Idempotent.
 void maskAnnouncements();
 
 } // namespace ui

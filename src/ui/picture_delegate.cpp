@@ -8,7 +8,7 @@
 namespace ui {
 namespace {
 
-// The share of the text colour that leaves a picture its shades.
+// The share of the text colour; less than 1, to preserve the picture's shades.
 constexpr double lightShare = 0.75;
 
 bool isSelected(const QStyleOptionViewItem& row) {

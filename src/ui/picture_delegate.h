@@ -6,11 +6,11 @@
 
 namespace ui {
 
-/// The picture of a row, as light as the row's text if the row is selected. Styles would tint it
-/// with the colour of the row, in which its thin lines get lost.
+/// The picture of a row; in a selected row, blended with the colour of the text. Styles would tint
+/// it with the row's colour, which hides thin lines.
 QPixmap pictureInRow(const QPixmap& picture, const QStyleOptionViewItem& row);
 
-/// Draws the picture of a selected row as light as its text, except for signs (see
+/// Blends the picture of a selected row with the colour of its text, except for signs (see
 /// `ui::sharedIcon`), which keep their colours.
 class PictureDelegate : public QStyledItemDelegate {
     Q_OBJECT

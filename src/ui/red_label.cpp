@@ -22,7 +22,7 @@ public:
     explicit RedReader(QLabel& label)
         : QObject(&label)
         , label_(label)
-        , documentedSheet_(label.styleSheet()) {
+        , formSheet_(label.styleSheet()) {
         label.installEventFilter(this);
         apply();
     }
@@ -37,8 +37,8 @@ public:
 private:
     void apply() {
         const QColor red = readable(Qt::red, QGuiApplication::palette(), QPalette::Window);
-        const QString sheet = documentedSheet_.isEmpty() || red == QColor(Qt::red)
-                                  ? documentedSheet_
+        const QString sheet = formSheet_.isEmpty() || red == QColor(Qt::red)
+                                  ? formSheet_
                                   : QStringLiteral("color: %1;").arg(red.name());
         if (label_.styleSheet() != sheet)
             label_.setStyleSheet(sheet);
@@ -51,7 +51,7 @@ private:
     }
 
     QLabel& label_;
-    QString documentedSheet_;
+    QString formSheet_;
     QString shown_ = redInText(); ///< the colour in the text
 };
 

@@ -19,16 +19,17 @@ namespace ui {
 
 namespace {
 
-/// Borders and title bar, which have no size before the window is on the screen.
+/// Borders and title bar, whose size is unknown before the window is on the screen.
 constexpr QSize frame(8, 42);
 
-/// Wants as much room as what it shows, or as it was given, and needs little of it.
+/// Has the size hint of its content, or the wanted size if that is larger, and a small minimum
+/// size.
 class ContentArea : public QScrollArea {
 public:
     explicit ContentArea(QWidget& page)
         : QScrollArea(&page) {
         setFrameShape(NoFrame);
-        // It is no station on the way from field to field, and scrolls to where that leads.
+        // Not a tab stop: it scrolls to the field that gets the focus.
         setFocusPolicy(Qt::NoFocus);
         auto* content = new QWidget(this);
         content->setLayout(page.layout());
@@ -60,8 +61,8 @@ public:
 private:
     static constexpr QSize smallest{200, 80};
 
-    /// As small as it may be before it scrolls, which the scroll area doesn't do to texts that
-    /// wrap.
+    /// Fits the content to the viewport; below its minimum size, it scrolls. `QScrollArea` itself
+    /// would scroll wrapped texts already below their preferred height.
     void fitContent() {
         const QLayout& layout = *widget()->layout();
         const int width = std::max(viewport()->width(), layout.totalMinimumSize().width());
@@ -81,7 +82,7 @@ QSize roomOf(const QWidget& window) {
                   : QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
 }
 
-/// Just before a dialog is shown, when it has its size and not yet its place.
+/// Acts just before a dialog is shown: it has its size, but no position yet.
 class AtShow : public QObject {
 public:
     using QObject::QObject;
@@ -99,7 +100,7 @@ private:
     }
 };
 
-/// A dialog with content that may scroll would open without a look at what that needs.
+/// Without this, a dialog with scrolling content would open without regard to the content's size.
 class OpensWhole : public AtShow {
 public:
     OpensWhole(QDialog& dialog, const ContentArea& area)
@@ -116,7 +117,7 @@ private:
     const ContentArea& area_;
 };
 
-/// The first time only: later it has the size that the user has given it.
+/// The first time only: later, the wizard keeps the size that the user gave it.
 class OneSize : public AtShow {
 public:
     OneSize(QWizard& wizard, int spare)
@@ -125,7 +126,7 @@ public:
         , spare_(spare) {}
 
 private:
-    /// With the pages as small as they may be.
+    /// With the pages at their minimum height.
     int leastHeight() const {
         const QPixmap watermark = wizard_.pixmap(QWizard::WatermarkPixmap);
         const int beside = watermark.height() / std::max(1, qRound(watermark.devicePixelRatio()));
@@ -137,18 +138,17 @@ private:
         if (isDone_)
             return;
         isDone_ = true;
-        // Beside a watermark a wizard takes for its least height what it wants, unless it is given
-        // another one.
+        // With a watermark, a wizard uses its size hint as minimum height unless one is set.
         dialog.setMinimumHeight(leastHeight());
         dialog.resize(dialog.sizeHint().boundedTo(roomOf(dialog)));
     }
 
     QWizard& wizard_;
-    int spare_; ///< by which a page may be lower than it wants to be
+    int spare_; ///< by how much a page may be lower than its size hint
     bool isDone_ = false;
 };
 
-/// The content area of a page, which it gets if it has none.
+/// The content area of a page; creates it if necessary.
 ContentArea& contentAreaOf(QWidget& page) {
     for (auto* area : page.findChildren<QScrollArea*>(QString(), Qt::FindDirectChildrenOnly))
         if (auto* own = dynamic_cast<ContentArea*>(area))

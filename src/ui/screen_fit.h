@@ -10,36 +10,34 @@ class QRect;
 class QWidget;
 class QWizard;
 
-/// Windows on small screens: they get no larger than the screen, and what has no room scrolls.
+/// Keeps windows within small screens: content that doesn't fit scrolls.
 namespace ui {
 
-/// The largest size that a window may have on a screen with that much room, so that its frame has
-/// room too.
+/// The maximum size of a window on a screen with this available size, leaving room for its frame.
 QSize largestWindow(const QRect& available);
 
-/// Makes a window, before it is shown, no larger than its screen.
+/// Shrinks a window that is larger than its screen. Call this before showing it.
 void keepOnScreen(QWidget& window);
 
-/// From here on each dialog of the program opens no larger than its screen.
+/// After this call, no dialog of the program opens larger than its screen.
 void keepDialogsOnScreen(QApplication& application);
 
-/// Lets the content of a page or a dialog scroll where it has too little room. A dialog opens large
-/// enough for its content if the screen is. If it ends with a row of buttons, those stay where they
-/// are.
+/// Makes the content of a page or dialog scroll if it doesn't fit. A dialog opens large enough for
+/// its content if the screen permits. `buttons`, the row at its end, doesn't scroll.
 void letContentScroll(QWidget& page, QLayout* buttons = nullptr);
 void letContentScroll(QWidget& page, QWidget& buttons);
 
-/// A page that shows more later than it does at first.
+/// A page that may grow after it is first shown.
 class GrowingPage {
 public:
     virtual ~GrowingPage() = default;
 
-    /// What it wants when it shows all that it may.
+    /// Its size hint at its largest, with all widgets visible.
     virtual QSize largestSize() const = 0;
 };
 
-/// Lets the pages of a wizard scroll, and gives it one size, in which all of them have room if the
-/// screen has it.
+/// Makes the pages of a wizard scroll, and gives it one size, in which all of them fit if the
+/// screen permits.
 void giveOneSize(QWizard& wizard);
 
 } // namespace ui

@@ -55,12 +55,12 @@ void SecretField::wipe() {
 
 void SecretField::replace(const QString& fresh) {
     QString held = text();
-    QString shown = displayText(); // another copy, unless it is hidden
+    QString shown = displayText(); // another copy, unless the content is hidden
     const bool changes = held != fresh;
     const Silence silence;
     {
         const QSignalBlocker quiet(this);
-        // Emptying a field drops its edit history but keeps the memory, so that the next edits
+        // Clearing a field drops its edit history but keeps the memory, so that the next edits
         // overwrite it.
         setText(QString());
         insert(QString(std::min(roomForEdits, maxLength()), QLatin1Char(' ')));

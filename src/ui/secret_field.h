@@ -8,9 +8,9 @@
 
 namespace ui {
 
-/// A field for a password, a key or a code, which wipes what it held when it is emptied, filled
-/// again or goes. To screen readers it announces what a user types in the characters that it shows,
-/// and nothing of what the functions of this class do.
+/// A field for a password, a key or a code. It wipes its content when it is cleared, replaced or
+/// destroyed. Screen readers get the typed text masked, and no notification of changes made by the
+/// functions of this class.
 ///
 /// Qt records each edit for undo. This field allocates the history in advance and overwrites it, up
 /// to `roomForEdits` edits. CONTRIBUTING.md lists what remains in memory.

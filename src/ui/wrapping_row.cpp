@@ -17,11 +17,11 @@ namespace {
 
 struct Cell {
     std::unique_ptr<QLayoutItem> item;
-    bool grows = false; ///< takes the width that the others of its line leave
+    bool grows = false; ///< takes the remaining width of its line
 };
 
 using Cells = std::vector<Cell>;
-/// Some cells in a row, the end excluded.
+/// Consecutive cells, excluding `end`.
 struct Line {
     Cells::const_iterator begin, end;
 };
@@ -43,7 +43,7 @@ int wanted(const Cell& cell) {
     return std::max(least(cell), cell.item->sizeHint().width());
 }
 
-/// Below it, it takes a line of its own.
+/// The width below which a cell moves to the next line.
 int useful(const Cell& cell) {
     return cell.grows ? (least(cell) + wanted(cell)) / 2 : least(cell);
 }
@@ -128,7 +128,7 @@ private:
         return lines;
     }
 
-    /// Behind the labels and spaces at a place, and what follows them.
+    /// The end of the group that starts at `cell`: labels and spacers, and the cell after them.
     Cells::const_iterator endOfGroup(Cells::const_iterator cell) const {
         while (belongsToNext(*cell) && cell + 1 != cells_.end())
             ++cell;

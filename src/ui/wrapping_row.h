@@ -6,8 +6,8 @@ class QHBoxLayout;
 
 namespace ui {
 
-/// Lets a row of a form continue on further lines where it is too narrow for one. A label stays
-/// beside what it is for. To be called once the row has its widgets.
+/// Wraps a row of a form onto more lines when it is too narrow. A label stays beside its field.
+/// Call this after adding the widgets.
 void letRowWrap(QHBoxLayout& row);
 
 } // namespace ui

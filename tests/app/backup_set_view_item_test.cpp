@@ -140,7 +140,7 @@ void BackupSetViewItemTest::itsRedIsReadOnADarkDesktop() {
         return ui::contrast(shown.name().palette().color(shown.name().foregroundRole()),
                             shown.card.palette().color(shown.card.backgroundRole()));
     };
-    const QString documented = shown.card.styleSheet();
+    const QString formSheet = shown.card.styleSheet();
     QCOMPARE(shown.name().palette().color(QPalette::WindowText), QColor(Qt::red));
     // The desktop changes while the program runs.
     QApplication::setPalette(dark);
@@ -148,7 +148,7 @@ void BackupSetViewItemTest::itsRedIsReadOnADarkDesktop() {
     shown.card.setSelected(true);
     QTRY_VERIFY(contrast() >= 4.5);
     QApplication::setPalette(QPalette());
-    QTRY_COMPARE(shown.card.styleSheet(), documented);
+    QTRY_COMPARE(shown.card.styleSheet(), formSheet);
 }
 
 void BackupSetViewItemTest::anUnchangedCardIsNotDrawnAnew() {
