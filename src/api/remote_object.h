@@ -65,7 +65,7 @@ public:
     const std::string& url() const { return url_; }
 
     /// Sends a complete call and stores the whole reply in `response`. Creates a dispatcher first
-    /// if there is none, which isn't thread-safe.
+    /// if the object has none yet, which isn't thread-safe.
     void sendCall(const std::string& request, std::string& response);
 
     boost::shared_ptr<ICallDispatcher> getDispatcher() const { return dispatcher_; }

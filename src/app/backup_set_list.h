@@ -64,11 +64,11 @@ private:
     bool keyPressed(const QKeyEvent& key);
     void showContextMenu(BackupSetViewItem& card);
     void show(std::vector<hessiancln::backup_set_info> sets);
-    /// Makes the cards that are missing in and around the part of the view that is seen.
+    /// Creates the missing cards in and around the visible part of the view.
     void addCardsNearView();
-    /// Makes the card if there is none yet.
+    /// Creates the card if the row has none yet.
     BackupSetViewItem& needCard(int row);
-    BackupSetViewItem* cardAt(int row) const; ///< null if there is none yet
+    BackupSetViewItem* cardAt(int row) const; ///< null if the row has none yet
     int selectedRow() const;                  ///< -1 if none is selected
     std::int32_t selectedId() const;
     void select(int row);

@@ -8,8 +8,8 @@
 namespace app {
 
 /// The field of the status bar that shows the state of the connection: abbreviated, with a picture,
-/// and in full in its tool tip and for screen readers. A click or Return requests a connection if
-/// there is none.
+/// and in full in its tool tip and for screen readers. A click or Return requests a connection
+/// while the program is disconnected.
 class ConnectionField : public ui::ElidedToolButton {
     Q_OBJECT
 public:

@@ -39,8 +39,8 @@ LoginCheck::LoginCheck(QWidget* parent)
     const QStringList domains = session::readDomainList("127.0.0.1");
     if (!domains.isEmpty())
         addDomains(domains);
-    // A form that did so would do it before the group has its fields, which a screen reader that is
-    // there would then take for empty space.
+    // Not in the form: it would disable the group before it has its fields, and a running screen
+    // reader would treat them as empty.
     ui_->groupLoginInfo->setEnabled(false);
     if (!session::integratedLogonAvailable())
         withoutIntegratedLogon();
@@ -59,7 +59,7 @@ void LoginCheck::addDomains(const QStringList& domains) {
     comboDomain_->setObjectName(QStringLiteral("comboDomain"));
     labelDomain_->setBuddy(comboDomain_);
     comboDomain_->addItems(domains);
-    // The dialog is as wide as its texts want, not as any domain of the agent does.
+    // The width of the dialog depends on its texts, not on the agent's domains.
     comboDomain_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     comboDomain_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     ui_->formLayout->insertRow(0, labelDomain_, comboDomain_);
@@ -79,7 +79,7 @@ void LoginCheck::withoutIntegratedLogon() {
     ui_->chkSSPILogin->hide();
 }
 
-/// The specified size fits the English texts in a common font. Grows where texts don't fit.
+/// The form's preset size fits the English texts in a common font. Grows if the texts don't fit.
 void LoginCheck::fitToTexts() {
     const int button = std::max(ui_->buttonLogin->minimumSizeHint().width(),
                                 ui_->buttonQuit->minimumSizeHint().width());

@@ -21,7 +21,7 @@ class LoginCheck;
 class LoginCheck : public QDialog {
     Q_OBJECT
 public:
-    /// Asks the agent on this machine for its domains, which may take until a transport's time-out.
+    /// Asks the agent on this machine for its domains, which may take until a transport times out.
     explicit LoginCheck(QWidget* parent = nullptr);
     ~LoginCheck() override;
 

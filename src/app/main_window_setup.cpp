@@ -26,8 +26,8 @@ constexpr int windowWidth = 1000;
 constexpr int setsWidth = 650;
 constexpr int detailsWidth = 350;
 
-/// Wants all the width that there is, and needs none. In a row of tool bars the last one gets what
-/// the others don't want; with this in the first bar, the last one stands at the right end.
+/// Expands to all available width and has no minimum. In a row of tool bars the last one gets the
+/// remaining width; with this spacer in the first bar, the last one is at the right end.
 class Filler : public QWidget {
 public:
     using QWidget::QWidget;
@@ -42,7 +42,7 @@ void SimpleGUIMainWindow::setUpBranding() {
     setWindowIcon(ui::g_branding.applicationIcon());
     ui_->actionLogo->setIcon(ui::g_branding.logoIcon());
     ui_->actionLogo->setToolTip(ui::g_branding.description());
-    // The logo's bar stands at the right end.
+    // Puts the logo's bar at the right end.
     ui_->toolBar->addWidget(new Filler(ui_->toolBar));
     ui_->toolBarLogo->setMinimumWidth(ui_->toolBarLogo->sizeHint().width());
 }

@@ -42,7 +42,7 @@ private:
     void follow(uint id);
 
     QSet<uint> shown_;
-    uint clickedUnknown_ = 0; ///< the last id clicked that isn't among them; 0 is none
+    uint clickedUnknown_ = 0; ///< the last id clicked that isn't among them; initially 0
 };
 
 } // namespace app

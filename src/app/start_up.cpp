@@ -42,7 +42,7 @@ void prepareToolkit() {
     // thereby keep the user logged in.
     QGuiApplication::setFallbackSessionManagementEnabled(false);
     // Qt's file dialog would keep the last folders in the user's home. Nothing can be written below
-    // what is no folder. On Windows this has no effect: see platform::NoFileDialogHistory.
+    // a path that isn't a folder. On Windows this has no effect: see platform::NoFileDialogHistory.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
     // On X11 Qt looks for OpenGL, which takes time and memory and isn't used here.
     if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION"))

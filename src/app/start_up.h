@@ -15,7 +15,7 @@ namespace app {
 
 class CallGate;
 
-/// Sets what Qt reads while the application object is made: style, scaling by any factor, and no
+/// Sets what Qt reads while the application object is created: style, scaling by any factor, and no
 /// search for OpenGL. The toolkit's own dialogs keep no settings.
 void prepareToolkit();
 
@@ -36,13 +36,13 @@ void installTranslation(QApplication& application, const QString& language);
 void applyStyleSheet(QApplication& application);
 
 /// Shows `window`, no larger than its screen, and returns when it has been painted, or after half a
-/// second where nobody lets it appear. What follows may block for as long as an agent stays silent.
-/// Input has to wait.
+/// second if the desktop doesn't show it. The next step may block while an agent doesn't answer.
+/// Doesn't process input.
 void showAtOnce(QWidget& window);
 
 /// Tries the agent on this machine first, and asks the user if that didn't start a session. If
-/// there still is none, the window stays as it is. With `gate`, a quit while the first login waits
-/// for the agent ends it there.
+/// that fails too, the window stays disconnected. With `gate`, quitting during the first login
+/// skips the second.
 void logInAtStart(SimpleGUIMainWindow& window, const CallGate* gate = nullptr);
 
 /// Logs in as above, then runs the event loop to its end and returns its status. A quit during the

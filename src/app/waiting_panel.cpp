@@ -13,7 +13,7 @@
 namespace {
 
 constexpr int usualWidth = 340;
-constexpr int gap = 8; ///< to the sides of a small window
+constexpr int gap = 8; ///< on both sides, in a small window
 
 } // namespace
 

@@ -14,15 +14,15 @@ namespace Ui {
 class WaitingPanel;
 }
 
-/// Shows who has been silent for how long, and lets the user disconnect. Placed over the middle of
-/// a window; each update moves it to the frontmost one.
+/// Shows what the program is waiting for, and for how long, and lets the user disconnect. Placed
+/// over the middle of a window; each update moves it to the frontmost one.
 class WaitingPanel : public QFrame {
     Q_OBJECT
 public:
     WaitingPanel();
     ~WaitingPanel() override;
 
-    /// Appears over `host`, or hides if it is null.
+    /// Shows the panel over `host`, or hides it if `host` is null.
     void showOver(QWidget* host, hessiancln::Awaited awaited, std::chrono::seconds elapsed);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -49,7 +49,7 @@ QString firstFileEndingIn(QLatin1String ending, const QStringList& names) {
 }
 
 bool openChosen(QFile& file, QIODevice::OpenMode mode) {
-    // Before it is opened: that alone takes for ever for a pipe which nobody writes to.
+    // Before opening it: opening a pipe without a writer blocks forever.
     const QFileInfo info(file.fileName());
     if (info.exists() && !info.isFile())
         refuse(Texts::tr("\"%1\" is not a regular file."), file);

@@ -13,7 +13,7 @@ class QFile;
 namespace config {
 
 inline constexpr qint64 largestChosenFile = qint64(1024) * 1024;
-inline constexpr qint64 longestLine = qint64(64) * 1024; ///< with its end
+inline constexpr qint64 longestLine = qint64(64) * 1024; ///< including its end
 
 /// Counts of the lines of a file, without blank ones.
 struct LinesRead {

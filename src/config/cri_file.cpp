@@ -70,7 +70,7 @@ std::optional<CriEntry> criEntryOf(const QString& line) {
 
 LinesRead readCri(QIODevice& file, const std::function<bool(const CriEntry&)>& take) {
     LinesRead lines;
-    // Read through memory of our own, which neither grows nor goes without being wiped.
+    // Read into buffers that are never reallocated, and wiped at the end.
     std::string block(4096, '\0');
     const base::WipedAtEnd blockGuard(block);
     std::string line;

@@ -42,7 +42,7 @@ LinesRead readCri(QIODevice& file, const std::function<bool(const CriEntry&)>& t
 /// The cipher name for a number in such a file, which is one more than on the wire.
 QString keyTypeOfCri(const QString& number);
 
-/// The home directory of a logged-in user, where such files are looked for.
+/// The home directory of a logged-in user, where the search for such files starts.
 QString homeOfLogin(const QString& user);
 
 } // namespace config

@@ -42,7 +42,7 @@ hessiancln::KeyEncryptionType chosenType(const QComboBox& combo) {
     return hessiancln::keyEncryptionFromName(session::toWire(combo.currentText()));
 }
 
-/// Clears the choice if there is no such text.
+/// Clears the selection if no item has this text.
 void choose(QComboBox& combo, const QString& text) {
     combo.setCurrentIndex(combo.findText(text));
 }
@@ -51,7 +51,7 @@ void chooseCode(QComboBox& combo, std::int32_t code) {
     combo.setCurrentIndex(combo.findData(code));
 }
 
-/// 0 without a choice.
+/// 0 if nothing is selected.
 std::int32_t chosenCode(const QComboBox& combo) {
     return combo.currentData().toInt();
 }
@@ -132,8 +132,8 @@ void InitClntCfgDlg::showUserInfo(const hessiancln::user_info& info) {
 
 QString InitClntCfgDlg::chooseCriFile() {
     const QString home = config::homeOfLogin(session::fromWire(session::currentUser()));
-    // One that isn't there would be taken for the name of a file, and nobody has the one without a
-    // name, as after an integrated logon.
+    // The dialog would treat a missing folder as a file name. After an integrated logon there is no
+    // user name, and so no home.
     const bool isHome = !session::currentUser().empty() && QFileInfo(home).isDir();
     QFileDialog dialog(this, tr("Please choose CRI file"), isHome ? home : QDir::homePath(),
                        tr("CRI Files (*.cri)"));
@@ -165,7 +165,7 @@ void InitClntCfgDlg::read(QFile& file) {
         tr("Values taken: %1. Lines not taken: %2.").arg(lines.taken).arg(lines.skipped));
 }
 
-/// A key that the user can't change is none of a file's either.
+/// A file can't set an encryption key that the user can't change.
 bool InitClntCfgDlg::mayChange(const config::CriEntry& entry) const {
     using config::CriKey;
     const CriKey key = entry.key;

@@ -37,11 +37,11 @@ std::optional<hessiancln::user_email> userEmailOf(const QString& line) {
 }
 
 UserEmailList readUserEmails(QIODevice& file) {
-    // A line end is no single byte in all encodings.
+    // In some encodings a line end has several bytes.
     file.setTextModeEnabled(false);
     const QByteArray bytes = file.readAll();
     QTextStream text(bytes);
-    // The mark of another encoding goes before.
+    // A byte order mark takes precedence.
     text.setCodec(isUtf8({bytes.constData(), static_cast<std::size_t>(bytes.size())})
                       ? "UTF-8"
                       : "ISO-8859-1");

@@ -21,9 +21,9 @@ struct UserEmailList {
     LinesRead lines;
 };
 
-/// The good rows of a file, in its order. Lines without a row and rows that break a rule are left
-/// out. The file is UTF-16 or UTF-32 if it begins with the mark of that, else UTF-8, or Latin-1 if
-/// it isn't UTF-8. The device is open for reading, as text.
+/// The valid rows of a file, in its order. Invalid lines and rows are skipped. The file is UTF-16
+/// or UTF-32 if it begins with the byte order mark of that encoding, else UTF-8, or Latin-1 if it
+/// isn't valid UTF-8. `file` is open for reading, as text.
 UserEmailList readUserEmails(QIODevice& file);
 
 } // namespace config

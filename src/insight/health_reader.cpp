@@ -57,7 +57,7 @@ void HealthReader::add(const hessiancln::backup_set_info& set) {
         return;
     }
     *same = set;
-    // What was read of it may be out of date.
+    // The data read so far may be out of date.
     if (same == waiting_.begin())
         reading_.reset();
 }
@@ -92,7 +92,7 @@ std::optional<std::int32_t> HealthReader::step() {
         if (!missedHours_)
             reading_->stage = Reading::Stage::configuration;
     }
-    // A copy, because another one may be begun during the call.
+    // A copy, because another reading may begin during the call.
     const auto reading = reading_;
     try {
         call(*reading);
@@ -167,7 +167,7 @@ void HealthReader::askForPlan(Reading& reading) const {
 std::optional<std::int32_t> HealthReader::take(Reading& reading) {
     if (reading.missedHours)
         missedHours_ = reading.missedHours;
-    // Once: the user may change the schedule while the rest of the set is read.
+    // Only once: the user may change the schedule while the rest of the set is read.
     if (reading.planReader && reading.details.plan) {
         plans_[reading.info.schedule_id] = reading.details.plan;
         reading.planReader.reset();

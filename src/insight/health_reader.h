@@ -57,7 +57,7 @@ public:
     void clear();
     /// Discards the details of a set.
     void forget(std::int32_t setId);
-    /// Empties the queue and discards all that was read, which is of no use to another session.
+    /// Empties the queue and discards all data read so far, for example at the end of a session.
     void forgetAll();
     /// Number of sets still to read.
     std::size_t left() const { return waiting_.size(); }
@@ -77,9 +77,9 @@ private:
 
     void call(Reading& reading) const;
     void askForPlan(Reading& reading) const;
-    /// Takes what is complete of it; the id of the set if that is all.
+    /// Stores the completed parts; returns the id of the set once it is complete.
     std::optional<std::int32_t> take(Reading& reading);
-    /// Gives up what can't be read.
+    /// Drops the set whose data can't be read; before the first set, all sets.
     void skip(const Reading& reading);
     void endSet();
 

@@ -12,10 +12,10 @@
 
 namespace insight {
 
-/// How long the next runs are looked ahead, in seconds: 14 days.
+/// How far to look ahead for the next runs, in seconds: 14 days.
 inline constexpr std::int64_t lookAhead = std::int64_t(14) * 86'400;
 
-/// A run that nothing is known of yet is taken to last that long, in seconds.
+/// The assumed duration of a run without history, in seconds.
 inline constexpr std::int64_t assumedDuration = std::int64_t(30) * 60;
 
 /// A set that a schedule backs up.

@@ -45,11 +45,11 @@ struct PlannedStart {
 std::vector<PlannedStart> startsBetween(const SchedulePlan& plan, std::int64_t from,
                                         std::int64_t until, const QTimeZone& zone);
 
-/// The last start at or before `time`; no value if there was none in the previous 70 days.
+/// The last start at or before `time`; no value without a start in the previous 70 days.
 std::optional<std::int64_t> lastStart(const SchedulePlan& plan, std::int64_t time,
                                       const QTimeZone& zone);
 
-/// The first start at or after `from`; no value if there is none in the next 70 days.
+/// The first start at or after `from`; no value without a start in the next 70 days.
 std::optional<std::int64_t> nextStart(const SchedulePlan& plan, std::int64_t from,
                                       const QTimeZone& zone);
 

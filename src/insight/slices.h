@@ -8,9 +8,9 @@
 
 namespace insight {
 
-/// Does long work of the GUI thread in slices, between which the window answers: a few steps at a
-/// time, for 30 milliseconds at most but for the last of them. A step makes at most one or two
-/// calls to the agent.
+/// Runs long work on the GUI thread in slices, so that the window stays responsive: several steps
+/// per slice, none started after 30 milliseconds. A step makes at most one or two calls to the
+/// agent.
 class Slices : public QObject {
     Q_OBJECT
 public:
@@ -25,7 +25,7 @@ public:
 signals:
     /// Emitted after each slice.
     void progressed();
-    /// Emitted when a step had nothing left to do; not after `stop`.
+    /// Emitted after the last step; not after `stop`.
     void finished();
 
 private:

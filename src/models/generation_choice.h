@@ -16,7 +16,7 @@ using Generations = std::vector<hessiancln::file_generations>;
 /// Newest first; those with equal times keep their order.
 Generations newestFirst(Generations generations);
 
-/// The index of the newest one backed up between `from` and `to`, inclusive; -1 if there is none.
+/// The index of the newest one backed up between `from` and `to`, inclusive; -1 without one.
 int newestInRange(const Generations& generations, std::int32_t from, std::int32_t to);
 
 /// Whether the span up to `to` includes the generation of the time `chosen` and no newer one.

@@ -42,8 +42,8 @@ DeleteSelectPage::~DeleteSelectPage() = default;
 
 void DeleteSelectPage::setUpFilter() {
     using Page = DeleteSelectPage;
-    // A form that did so would do it before the group has its fields, which a screen reader that is
-    // there would then take for empty space. Each field goes with its own check box, too.
+    // Not in the form: it would disable the group before it has its fields, and a running screen
+    // reader would treat them as empty. Each field also depends on its own check box.
     ui_->groupFilter->setChecked(false);
     connect(ui_->groupFilter, &QGroupBox::toggled, this, &Page::toggleFiltering);
     connect(ui_->checkFrom, &QCheckBox::toggled, this, &Page::toggleFrom);
@@ -105,7 +105,7 @@ void DeleteSelectPage::changeFilter() {
 }
 
 void DeleteSelectPage::fieldsPutBack() {
-    // A group that is off has disabled them, and enables them when it is on again.
+    // An unchecked group has disabled them, and enables them when it is checked again.
     if (!ui_->groupFilter->isChecked())
         return;
     ui_->dateFrom->setEnabled(ui_->checkFrom->isChecked());

@@ -31,7 +31,7 @@ namespace {
 
 constexpr int marginsOfHead = 60;
 
-/// How wide the text has to be for two lines, the most that the head of a wizard shows.
+/// The width at which the text fits on two lines, the maximum of a wizard's header.
 int widthOnTwoLines(const QString& text, const QFontMetrics& metrics) {
     const int three = 3 * metrics.lineSpacing() - metrics.leading();
     int width = metrics.horizontalAdvance(text) / 2;
@@ -81,7 +81,7 @@ QSize RestoreDirectoryDestination::largestSize() const {
     return sizeHint().expandedTo(minimumSizeHint());
 }
 
-/// So wide that the head of the wizard, which stands over the picture too, can name the directory.
+/// Wide enough for the directory in the wizard's header, which also spans the picture.
 QSize RestoreDirectoryDestination::minimumSizeHint() const {
     const QPixmap picture = wizard() ? wizard()->pixmap(QWizard::WatermarkPixmap) : QPixmap();
     const int beside = qRound(picture.width() / picture.devicePixelRatio());

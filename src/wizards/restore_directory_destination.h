@@ -16,8 +16,8 @@ namespace Ui {
 class RestoreDirectoryDestination;
 }
 
-/// The directory that data is restored to. A restore makes a directory of its own in there, whose
-/// name is fixed for as long as the page lives.
+/// The directory that data is restored to. A restore creates its own subdirectory there, whose name
+/// is fixed for the lifetime of the page.
 class RestoreDirectoryDestination : public QWizardPage, public ui::GrowingPage {
     Q_OBJECT
 public:

@@ -31,7 +31,7 @@ public:
                                  QWidget* parent = nullptr);
     ~RestoreLocationPage() override;
 
-    /// Ids of the pages that follow; -1, the default, if there is none.
+    /// Ids of the pages that follow; -1, the default, if the wizard has no such page.
     void setDataSourcePageId(int id) { dataSourcePageId_ = id; }
     void setDirectoryPageId(int id) { directoryPageId_ = id; }
 

@@ -90,7 +90,7 @@ void RestoreSelectPage::changeEvent(QEvent* event) {
     QWizardPage::changeEvent(event);
 }
 
-/// With the filter, also while it is hidden.
+/// Includes the filter even while it is hidden.
 QSize RestoreSelectPage::largestSize() const {
     QSize size = sizeHint();
     if (!ui_->filterDisplay->isHidden())
@@ -283,7 +283,7 @@ bool RestoreSelectPage::narrowTo(std::int32_t chosen, const CGenerationSelectMod
     return isOlder || isHidden;
 }
 
-/// As if the user had, but a failure goes to the caller. The filter's old values could hide the
+/// As if by the user, but a failure goes to the caller. The filter's old values could hide the
 /// items shown now, so they aren't restored.
 void RestoreSelectPage::switchFilterOn() {
     if (ui_->checkFilter->isChecked())

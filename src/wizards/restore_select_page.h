@@ -29,7 +29,7 @@ namespace wizards {
 struct RestoreFile;
 }
 
-/// What is to be restored of a set, and as it was when.
+/// What to restore from a set, and as of which time.
 class RestoreSelectPage : public StoredItemsPage, public ui::GrowingPage {
     Q_OBJECT
 public:

@@ -253,7 +253,7 @@ void SelectDataSourcePage::enableConnectAs() {
 }
 
 void SelectDataSourcePage::computerNameEdited() {
-    // A field loses the focus to the very box that reports its failure, and a read-only one when
+    // A field loses the focus to the box that reports its failure, and a read-only one when
     // the user tabs through it: nothing was typed in these cases. A cancelled wizard hides its page
     // and discards the input.
     if (editing_ || ui_->editComputerName->isReadOnly() || isHidden())
@@ -316,7 +316,7 @@ void SelectDataSourcePage::OnShowNetDiscoveryTree() {
     ui_->groupDataSource->setSizePolicy(policy);
 }
 
-/// With the tree, also while it is hidden.
+/// Includes the tree even while it is hidden.
 QSize SelectDataSourcePage::largestSize() const {
     QSize size = sizeHint();
     if (ui_->treeNetworkDiscovery->isHidden())

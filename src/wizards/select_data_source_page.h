@@ -34,8 +34,8 @@ bool isLocalComputer(const QString& source);
 } // namespace wizards
 
 /// Which computer a set backs up, and with which login. The page owns the browser of its wizard,
-/// and writes each change of the credentials to it at once: only so can the next page look into
-/// the computer. What is wrong with the credentials is shown in a box; the page stays usable.
+/// and writes each change of the credentials to it immediately, because the next page needs access
+/// to the computer. Errors in the credentials are shown in a box; the page stays usable.
 class SelectDataSourcePage : public QWizardPage, public ui::GrowingPage {
     Q_OBJECT
 public:

@@ -60,7 +60,7 @@ private:
     bool isFolderWanted() const;
     void showFolderIfWanted();
     void showFolder(bool shown);
-    /// Selects the folder or its deepest existing ancestor. False if there is none.
+    /// Selects the folder or its deepest existing ancestor. Returns false if neither exists.
     bool moveTreeToPath();
 
     std::unique_ptr<Ui::SetOptionsPage> ui_;

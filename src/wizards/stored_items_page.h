@@ -64,11 +64,11 @@ protected:
     /// only until then. Throws what the call throws.
     void loadDateLimits(hessiancln::BackupSet& set, QDateTimeEdit& from,
                         std::initializer_list<QDateTimeEdit*> others);
-    /// Runs an action triggered by a field, after the call that is under way if there is one. A
-    /// failure is shown.
+    /// Runs an action triggered by a field, after the current call if one is running. A failure is
+    /// shown.
     void atField(const std::function<void()>& work);
     /// Whether the filter differs from the current view. The Return key makes a date field signal a
-    /// change even if there is none.
+    /// change even if its date is unchanged.
     bool filterChanged() const { return filterOfView_.differs(); }
     /// Override to update what depends on the fields of the filter, which were reset.
     virtual void fieldsPutBack() = 0;
