@@ -8,7 +8,7 @@
 
 namespace simulator {
 
-/// The method name, read from the head of a call. Throws `Violation` if there is none.
+/// The method name, read from the head of a call. Throws `Violation` without a complete head.
 std::string readCallHead(hessianser::Cursor& in);
 
 } // namespace simulator

@@ -137,9 +137,9 @@ on 127.0.0.1 only.
                        of all kinds) or many-folders (100,000 files in 1,000
                        folders)
   --client-type NUMBER
-                       kind of agent, instead of the scenario's: 8 and 9 are
+                       kind of agent, overriding the scenario: 8 and 9 are
                        mobile, 14 is a notebook
-  --os-type NUMBER     operating system, instead of the scenario's: 0 is
+  --os-type NUMBER     operating system, overriding the scenario: 0 is
                        Windows, 1 and 2 are Unix
   --without-tool NUMBER
                        turn off a tool; can be repeated. Without tool 8, sets

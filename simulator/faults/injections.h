@@ -42,13 +42,13 @@ struct Delay {
     std::chrono::milliseconds time;
 };
 
-/// The reply comes byte by byte, with so much time between them.
+/// The reply arrives byte by byte, with this interval.
 struct Drip {
     std::chrono::milliseconds interval;
 };
 
-/// The head of a frame announces a reply of so many bytes, and nothing comes behind it. Waits for a
-/// call over the stream.
+/// The head of a frame announces a reply of this many bytes, and nothing follows. Applies to a call
+/// over the stream.
 struct Announcement {
     std::uint64_t bytes;
 };

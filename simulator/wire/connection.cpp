@@ -76,7 +76,7 @@ private:
     struct Outgoing {
         std::string bytes;
         bool last;
-        std::chrono::milliseconds drip; ///< between two bytes, unless there is none
+        std::chrono::milliseconds drip; ///< interval between two bytes; 0 sends all at once
         std::size_t written = 0;
     };
 

@@ -26,9 +26,9 @@ struct CallMessage {
 struct Answer {
     std::string message;
     std::chrono::milliseconds delay{0};
-    /// Between two bytes, unless there is none.
+    /// Interval between two bytes; 0 sends all at once.
     std::chrono::milliseconds drip{0};
-    /// In the head of a frame, of which nothing else comes.
+    /// Size in the head of a frame; nothing else of it is sent.
     std::optional<std::uint64_t> announced;
     bool silent = false;
     /// Replaces the body, over HTTP.

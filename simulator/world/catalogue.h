@@ -30,13 +30,13 @@ public:
     bool holds(const Pointer& one) const {
         return std::find(all_.begin(), all_.end(), one) != all_.end();
     }
-    /// Null if there is none.
+    /// Null if no object has this id.
     Pointer find(std::int32_t id) const {
         const auto found =
             std::find_if(all_.begin(), all_.end(), [id](const auto& one) { return one->id == id; });
         return found == all_.end() ? nullptr : *found;
     }
-    /// Null if there is none.
+    /// Null if no object has this name.
     Pointer find(const std::string& name) const {
         const auto found = std::find_if(all_.begin(), all_.end(),
                                         [&name](const auto& one) { return one->name == name; });

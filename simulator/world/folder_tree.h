@@ -48,7 +48,7 @@ private:
 
     bool same(std::string_view one, std::string_view other) const;
     Node& make(std::string_view path);
-    /// The index of the child; the number of children if there is none.
+    /// The index of the child; the number of children if none has this name.
     std::size_t indexOf(const Node& parent, std::string_view name) const;
     bool isFolderOfBulk(const Node& parent, std::string_view name) const;
 

@@ -32,7 +32,7 @@ struct ScheduleState {
     std::int32_t cpuThrottle = 100; ///< percent
 };
 
-/// The type of the first detail; the one beyond all others if there is none.
+/// The type of the first detail; without details, the reserved value above all declared ones.
 inline hessiancln::ScheduleDetailType typeOf(const ScheduleState& schedule) {
     return schedule.details.empty() ? hessianser::reservedValue<hessiancln::ScheduleDetailType>()
                                     : schedule.details.front()->type;

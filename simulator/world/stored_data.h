@@ -67,7 +67,7 @@ struct StoredAmount {
     std::int64_t bytes = 0;
     std::int64_t storedBytes = 0;
     std::int32_t closedFolders = 0;    ///< inaccessible folders
-    std::int32_t leastGenerations = 0; ///< of any file; 0 if there is none
+    std::int32_t leastGenerations = 0; ///< of any file; 0 without files
     std::int32_t mostGenerations = 0;
 };
 

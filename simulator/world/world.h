@@ -81,9 +81,9 @@ public:
 
     /// In list order.
     const std::vector<Set>& sets() const { return sets_; }
-    /// Null if there is none.
+    /// Null if no set has this id.
     Set set(std::int32_t id) const;
-    /// Null if there is none. Names are case-insensitive.
+    /// Null if no set has this name. Names are case-insensitive.
     Set setNamed(const std::string& name) const;
     /// The set's entry in lists.
     hessiancln::backup_set_info infoOf(const BackupSetState& set) const;
@@ -112,7 +112,7 @@ public:
     /// The events of one activity, or of the span if `activityId` is 0.
     Rows<hessiancln::event_log_info> eventLog(std::int32_t from, std::int32_t to,
                                               std::int32_t activityId) const;
-    /// The newest row of that kind for that set; an empty row if there is none.
+    /// The newest row of that kind for that set; an empty row if the log has no such row.
     hessiancln::activity_log_info lastActivity(std::int32_t setId,
                                                hessiancln::ActivityType type) const;
 
