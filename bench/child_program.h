@@ -24,7 +24,7 @@ public:
     ~ChildProgram();
 
     pid_t id() const { return child_; }
-    /// The next line of its output. Throws `std::runtime_error` if there is none within a minute.
+    /// The next line of its output. Throws `std::runtime_error` after a minute without one.
     std::string readLine() const;
     /// Ends its input.
     void closeInput();

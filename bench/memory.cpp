@@ -21,7 +21,7 @@ double memory(std::string_view field) {
     for (std::string line; std::getline(status, line);)
         if (line.starts_with(field))
             return std::stod(line.substr(field.size())) * 1024;
-    throw std::runtime_error("This system doesn't tell the memory of a process");
+    throw std::runtime_error("This system doesn't report the memory of a process");
 }
 
 } // namespace bench

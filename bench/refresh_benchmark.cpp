@@ -47,7 +47,7 @@ void addWarnings(simulator::World& world) {
     }
 }
 
-/// The agent's clock stands still, so that all replies have the same length.
+/// The agent's clock is stopped, so that all replies have the same length.
 void serveAgent(simulator::Scenario scenario, const bench::ServerProcess::Listening& listening) {
     simulator::Options options;
     options.scenario = scenario;

@@ -59,7 +59,7 @@ public:
     /// The time to decode the whole log, in seconds.
     double decodeLog();
 
-    /// The widget of that name. Throws `std::runtime_error` if there is none.
+    /// The widget of that name. Throws `std::runtime_error` without such a widget.
     template <class Widget>
     Widget& child(const char* name) const {
         if (auto* found = window_.findChild<Widget*>(QLatin1String(name)))

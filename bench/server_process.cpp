@@ -43,7 +43,7 @@ ServerProcess::ServerProcess(const std::function<void(const Listening&)>& serve)
     const bool listens = child_ > 0 && ::read(reports[0], &port_, sizeof port_) == sizeof port_;
     ::close(reports[0]);
     if (child_ < 0)
-        throw std::runtime_error("No process for a server");
+        throw std::runtime_error("Can't start a process for a server");
     if (!listens) {
         ::waitpid(child_, nullptr, 0);
         throw std::runtime_error("A server didn't start");
@@ -59,7 +59,7 @@ double ServerProcess::processorTime() const {
     clockid_t clock{};
     timespec used{};
     if (::clock_getcpuclockid(child_, &clock) != 0 || ::clock_gettime(clock, &used) != 0)
-        throw std::runtime_error("This system doesn't tell the time that a server has used");
+        throw std::runtime_error("This system doesn't report the CPU time of a server");
     return static_cast<double>(used.tv_sec) + static_cast<double>(used.tv_nsec) * 1e-9;
 }
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 // The client beside a program with a bare Qt window, a menu and a line of text: the time from its
-// start to its first paint, its private memory, and how often it wakes up while nobody uses it.
+// start to its first paint, its private memory, and how often it wakes up while idle.
 // Needs a display. The client finds no agent, and waits with its login dialog open.
 
 #include <chrono>

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Of the benchmarks that show widgets: on a screen that nobody sees, with the program's pictures.
+// Main function of the benchmarks that show widgets: on an offscreen display, with the program's
+// pictures.
 
 #include <QApplication>
 
