@@ -35,7 +35,7 @@ const std::map<std::string, QString> renamedCountries{
     {"Turkey", QStringLiteral("TUR")},
 };
 
-/// The documented names in their documented order.
+/// The expected names in their expected order.
 const char* const namesInOrder =
     "Afghanistan;Åland Islands;Albania;Algeria;American Samoa;Andorra;Angola;Anguilla;"
     "Antarctica;Antigua and Barbuda;Argentina;Armenia;Aruba;Australia;Austria;Azerbaijan;"

@@ -10,8 +10,8 @@
 #include "config/recovery_dlg.h"
 #include "config/register_dlg.h"
 #include "tests/config/registration_fixture.h"
+#include "tests/support/gui_exposed_text.h"
 #include "tests/support/gui_form_texts.h"
-#include "tests/support/gui_told_text.h"
 #include "ui/secret_field.h"
 
 using namespace steps;

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Runs a command inside a Kerberos realm of its own, which ends with it. The variable
-// TARN_KEY_TABLE names the keys of the agent there.
+// Runs a command in a Kerberos realm of its own, which ends with the command. The variable
+// TARN_KEY_TABLE names the agent's key table.
 #include <cstdlib>
 #include <exception>
 #include <iostream>
@@ -22,14 +22,16 @@ constexpr int notStarted = 127;
 constexpr const char* usage =
     R"(usage: tarn_in_realm [OPTION]... COMMAND...
 
-  --ticket          the user has a ticket
-  --user NAME       of that name
-  --expired         the ticket has expired
-  --service-ticket  the user has a ticket for the agent as well
-  --wrong-key       the agent has another key
-  --kdc-gone        no one issues tickets any more
-  --kdc-silent      whoever asks for one waits
-  --kdc-ahead       the clock of the issuer is ahead by an hour
+Options apply in their order.
+
+  --user NAME       add a user, for a later --ticket
+  --ticket          get a ticket for the user
+  --expired         get a ticket that has expired
+  --service-ticket  get a ticket for the agent as well
+  --wrong-key       give the agent a key that doesn't match
+  --kdc-gone        stop the KDC
+  --kdc-silent      replace the KDC by one that never answers
+  --kdc-ahead       set the clock of the KDC ahead by an hour
 )";
 
 int run(char** command) {

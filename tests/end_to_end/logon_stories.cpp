@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The story of a user who is known to the system, and of one who isn't.
+// The stories of logins as the system's user, and of logins without a ticket.
 #include <memory>
 
 #include <QCheckBox>
@@ -20,7 +20,7 @@ namespace end_to_end {
 
 namespace {
 
-constexpr int timeForPainting = 3; // looks
+constexpr int timeForPainting = 3; // in looks
 
 QDialog* loginDialog() {
     auto* dialog = modal<QDialog>();
@@ -65,7 +65,7 @@ void openDialog(Player& player) {
 void seeDialog(Player& player, const char* picture) {
     player.then(q("the login dialog"), [] { return loginDialog() != nullptr; });
     player.then(q("its painting"), looks(timeForPainting));
-    player.then(q("what it shows"), [&player, picture] {
+    player.then(q("the contents of the dialog"), [&player, picture] {
         noteDialog(player, *loginDialog());
         noteWindow(player);
         player.take(*loginDialog(), q(picture));
@@ -92,10 +92,10 @@ void givePassword(Player& player) {
     pressLogin(player);
 }
 
-/// A box that says why, or a window without a session, or with one.
+/// Records an error box, or the window with or without a session.
 void seeOutcome(Player& player) {
-    player.then(q("what the system makes of it"), looks(timeForPainting));
-    player.then(q("what comes of it"), [&player] {
+    player.then(q("the reply"), looks(timeForPainting));
+    player.then(q("the outcome"), [&player] {
         if (auto* box = modal<QMessageBox>()) {
             player.note(q("refused: ") + box->windowTitle() + q(": ") + box->text());
             player.take(*box, q("logon-refused"));
@@ -109,7 +109,7 @@ void seeOutcome(Player& player) {
     });
 }
 
-/// Opens it unless it is still there.
+/// Opens the dialog unless it is still open.
 void seeDialogAgain(Player& player) {
     player.then(q("the dialog again"), [] {
         if (!modal<QWidget>())
@@ -151,12 +151,12 @@ void playNoTicket(Player& player) {
 
 void playLogon(Player& player) {
     const auto asked = std::make_shared<bool>(false);
-    player.then(q("the end of the start"), [asked] {
+    player.then(q("the end of the start-up"), [asked] {
         *asked = loginDialog() != nullptr;
         return *asked || rows("backupSetsView") > 0;
     });
     player.then(q("its painting"), looks(timeForPainting));
-    player.then(q("what it shows"), [&player, asked] {
+    player.then(q("the contents of the dialog"), [&player, asked] {
         if (!*asked)
             return true;
         player.note(q("asked"));

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Logs on to an agent many times, and prints what the process grew by: with the user's account,
-// where it first prints what the security interface returns, or with a name and a password. An
-// address of http has no cache of TLS sessions.
+// Logs in to an agent many times, and prints how much memory the process gained: with a name and a
+// password, or as the system's user; then it first prints what the security interface returns. With
+// an http address there is no TLS session cache.
 #include <cstdio>
 #include <cstdlib>
 #include <exception>

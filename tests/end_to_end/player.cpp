@@ -21,7 +21,7 @@ constexpr int statusOfAFailure = 3;
 [[noreturn]] void fail(const QString& text) {
     std::fprintf(stderr, "story: %s\n", qPrintable(text));
     std::fflush(stderr);
-    // Skips all clean-up of the program, so that its last calls are those of the story.
+    // Skips the program's clean-up, so that its last calls are those of the story.
     std::_Exit(statusOfAFailure);
 }
 
@@ -47,7 +47,7 @@ void Player::tick() {
         return;
     if (!steps_.front().step()) {
         if (deadline_.hasExpired())
-            fail(QStringLiteral("this didn't come: ") + steps_.front().name);
+            fail(QStringLiteral("timed out waiting for ") + steps_.front().name);
         return;
     }
     steps_.pop_front();

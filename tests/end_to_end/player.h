@@ -14,18 +14,18 @@ class QWidget;
 
 namespace end_to_end {
 
-/// Plays a user in an unmodified program: each step waits until what it needs is there, then acts.
-/// A step that waits for too long ends the program with status 3.
+/// Plays a user in an unmodified program: each step waits for what it needs, then acts. A step that
+/// times out ends the program with status 3.
 class Player : public QObject {
     Q_OBJECT
 public:
-    /// True when the step has been done.
+    /// Returns true once the step is done.
     using Step = std::function<bool()>;
 
     explicit Player(QString pictures);
 
     void then(const QString& name, Step step);
-    /// Starts with the event loop.
+    /// The first step runs in the event loop.
     void play();
 
     /// Saves a picture of the widget under that name.

@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 
-// A plug-in of Qt that an unchanged client loads when QT_QPA_GENERIC_PLUGINS names it with one of
-// its stories and the folder for the pictures, as in "tarnstory:FOLDER". It plays one user from the
-// start to the end.
+// A Qt plug-in. An unmodified client loads it when QT_QPA_GENERIC_PLUGINS names one of its stories
+// and the folder for the pictures, as in "tarnstory:FOLDER". It plays one user from start to exit.
 #include <memory>
 
 #include <QGenericPlugin>

@@ -8,14 +8,14 @@
 
 #include "tests/end_to_end/player.h"
 
-/// What a user sees, and can press.
+/// What a user can see and press.
 namespace end_to_end {
 
 inline QString q(const char* text) {
     return QString::fromLatin1(text);
 }
 
-/// The window of that kind that is shown; null if there is none.
+/// The visible window of that class; null without one.
 template <class Widget>
 Widget* topLevel() {
     for (QWidget* widget : QApplication::topLevelWidgets())
@@ -24,23 +24,23 @@ Widget* topLevel() {
     return nullptr;
 }
 
-/// The dialog in front, if it is of that kind.
+/// The active modal dialog if it is of that class, else null.
 template <class Widget>
 Widget* modal() {
     return qobject_cast<Widget*>(QApplication::activeModalWidget());
 }
 
-/// Of a table in the main window.
+/// The row count of a table in the main window.
 int rows(const char* table);
 
-/// Triggers an action of the main window from the event loop, as what it leads to may be modal.
-/// False while it can't be reached.
+/// Triggers an action of the main window from the event loop, because it may open a modal dialog.
+/// Returns false while the user can't reach the action.
 bool trigger(const char* action);
 
-/// Likewise.
+/// Likewise for a button.
 bool click(QAbstractButton* button);
 
-/// True when it has been asked so often, so that what appeared has been painted.
+/// True after this many calls, so that new widgets have been painted.
 Player::Step looks(int count);
 
 } // namespace end_to_end

@@ -6,20 +6,20 @@ namespace end_to_end {
 
 class Player;
 
-/// Logs in with a password, backs up, makes a set and deletes it, and quits.
+/// Logs in with a password, backs up, creates a set and deletes it, and quits.
 void playWork(Player& player);
 
-/// Logs in with a password, notes it, and has the about box open when the program is asked to end.
+/// Logs in with a password, records it, and leaves the about box open until the program is closed.
 void playStay(Player& player);
 
-/// Is logged on at the start, by the operating system's account; then by the dialog, with its box
-/// checked, and with a password.
+/// Is logged in at the start as the system's user, then through the dialog with its box checked,
+/// then with a password.
 void playTicket(Player& player);
 
-/// Is asked at the start for want of a ticket, tries all the same, and then gives a password.
+/// Without a ticket, gets the login dialog; tries without a password anyway, then enters one.
 void playNoTicket(Player& player);
 
-/// Notes what the start leads to; if to the login dialog, also what its box leads to. Then quits.
+/// Records the outcome of the start and, if that is the login dialog, of its box. Then quits.
 void playLogon(Player& player);
 
 } // namespace end_to_end

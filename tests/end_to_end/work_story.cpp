@@ -77,7 +77,7 @@ void readAbout(Player& player) {
     player.then(q("the end of the about box"), [] { return !modal<QWidget>(); });
 }
 
-/// One step for all pages: true when the wizard's last button has been clicked.
+/// One step for all pages: returns true once the wizard's last button has been clicked.
 Player::Step throughPages(Player& player) {
     return [&player, seen = -1]() mutable {
         auto* wizard = modal<QWizard>();

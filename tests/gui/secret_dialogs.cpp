@@ -6,7 +6,7 @@
 //
 //     secret_dialogs DIALOG AGENT-PORT SEED [FILE]
 //
-// It prints "typed" and "closed", and waits for a line of input after each.
+// It prints "typed" and "closed", and waits for a line of input after each of them.
 #include <cstdlib>
 #include <iostream>
 #include <map>
@@ -43,7 +43,7 @@ void say(const char* word) {
     std::getline(std::cin, line);
 }
 
-/// Waits as well, so that the memory can be looked at.
+/// Waits too, so that the memory can be searched.
 [[noreturn]] void giveUp(const QString& why) {
     say(qPrintable(why));
     std::_Exit(1);
@@ -93,7 +93,7 @@ void confirmMessages() {
     QObject::connect(timer, &QTimer::timeout, timer, [] {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         const bool isError = box && box->icon() == QMessageBox::Critical;
-        // The one error that a test brings about: the program goes on after it.
+        // The only error that a test provokes: the program continues after it.
         if (isError && box->text().endsWith(QStringLiteral(" has a line of more than 64 KiB.")))
             say(qPrintable(box->text()));
         else if (isError)
@@ -165,7 +165,7 @@ void sshIdentity() {
     });
 }
 
-/// The agent asks for it only behind a login of its own.
+/// The agent asks for it only after a login of its own.
 void sudo(const char* button) {
     tryLogin([button](SelectDataSourcePage& source) {
         whenOpen<CSSHConnectAsDlg>([](CSSHConnectAsDlg& dialog) {
@@ -207,7 +207,7 @@ void registration(std::initializer_list<const char*> fields, const char* button)
     fillAndPress<InitClntCfgDlg>(fields, button)(dialog);
 }
 
-/// The key has come from the agent when it refuses the rest.
+/// The agent sends the key, then refuses the next call.
 void unreadRegistration() {
     try {
         InitClntCfgDlg dialog(true);
@@ -242,7 +242,7 @@ void code() {
         giveUp(QStringLiteral("the agent refuses the code"));
 }
 
-/// Runs what is known under that name, in a session.
+/// Runs the function for that dialog, in a session.
 void open(const QString& dialog, const QString& file) {
     const std::map<QString, std::function<void()>> dialogs = {
         {QStringLiteral("simple"), simple},

@@ -35,7 +35,7 @@ public:
         waitForFinished();
     }
 
-    /// The next word it prints, or the error if there is none.
+    /// The next word that it prints, or the error if it prints nothing within 20 seconds.
     QString next() {
         while (!canReadLine() && waitForReadyRead(20'000)) {
         }
@@ -72,8 +72,8 @@ bool wasCalled(const Simulator& agent, const char* method) {
 
 } // namespace
 
-/// A secret that is typed into a dialog, or that it reads from the agent or a file, is nowhere in
-/// the memory of the process once the dialog has closed.
+/// A secret that the user types into a dialog, or that the dialog reads from the agent or a file,
+/// is nowhere in the memory of the process once the dialog has closed.
 class SecretsTest : public QObject {
     Q_OBJECT
 private slots:
@@ -97,14 +97,15 @@ void SecretsTest::initTestCase() {
         QSKIP("the memory of a process can't be read");
 }
 
-/// A file with that key, and a name behind it, by which the dialog shows that it has read it all.
+/// A file with that key and, after it, a name by which the dialog shows that it has read
+/// everything.
 QString SecretsTest::cri(const std::string& key) {
     const QString path = folder_.filePath(QStringLiteral("a.cri"));
     const auto lines =
         QByteArray::fromStdString("PrivateEncKey=" + key + "\nUserName=Read to the end\n");
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(lines) != lines.size())
-        qFatal("No file can be written");
+        qFatal("Can't write a file");
     return path;
 }
 
@@ -144,7 +145,7 @@ void SecretsTest::prepare(const QString& dialog, const std::string& secret, Worl
     }
 }
 
-/// The file that the dialog reads, if it does; the path of it.
+/// Creates the file that the dialog reads, and returns its path; empty if it reads no file.
 QString SecretsTest::criFor(const QString& dialog, const std::string& secret) {
     if (dialog == QStringLiteral("keyReplacedFromFile"))
         return cri("another key");
@@ -153,7 +154,7 @@ QString SecretsTest::criFor(const QString& dialog, const std::string& secret) {
     return dialog.startsWith(QStringLiteral("keyFromFile")) ? cri(secret) : QString();
 }
 
-/// Where the dialog doesn't only go on when the agent has found it right.
+/// Checks that the secret arrived, for dialogs that also continue without the agent's approval.
 void SecretsTest::verifyArrived(const QString& dialog, const std::string& secret,
                                 Simulator& agent) {
     if (dialog == QStringLiteral("accountValidated"))
@@ -190,7 +191,8 @@ void SecretsTest::leaveTheMemoryWithTheirDialog() {
     Client client(
         {dialog, QString::number(agent.port()), QString::number(seed), criFor(dialog, secret)});
     QCOMPARE(client.next(), QStringLiteral("typed"));
-    // Or the search finds nothing anyway. What failed has already gone.
+    // The search below proves nothing unless this one finds the secret. After a failed call, the
+    // secret is already gone.
     QVERIFY(client.findings(secret).empty() == fails);
     client.goOn();
     QCOMPARE(client.next(), QStringLiteral("closed"));
@@ -207,7 +209,7 @@ void SecretsTest::ofAnOverlongLineNeverStayInMemory() {
                    QString::number(seed), cri(std::string(70'000, '.') + secret + secret)});
     QVERIFY(client.next().endsWith(QStringLiteral(" has a line of more than 64 KiB.")));
     client.goOn();
-    // Nothing of it is taken.
+    // The dialog takes no value from the file.
     QCOMPARE(client.next(), QStringLiteral("the file isn't read to its end"));
     const auto left = client.findings(secret);
     QVERIFY2(left.empty(), listed(left).constData());

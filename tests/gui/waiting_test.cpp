@@ -53,8 +53,8 @@ namespace {
 
 const QString firstText = QStringLiteral("The agent hasn't answered for N s.");
 
-/// The memory of this process that is really there, in bytes; 0 under a sanitizer, which notes
-/// beside each block what may be done with it.
+/// The resident memory of this process, in bytes; 0 under a sanitizer, whose shadow memory would
+/// distort it.
 std::size_t residentMemory() {
 #ifdef TARN_SANITIZED
     return 0;
@@ -63,7 +63,7 @@ std::size_t residentMemory() {
     std::size_t whole = 0;
     std::size_t resident = 0;
     if (!(pages >> whole >> resident))
-        qFatal("The system doesn't say what memory is there");
+        qFatal("The system doesn't report the resident memory");
     return resident * static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
 #endif
 }
@@ -107,7 +107,7 @@ private:
         });
     }
 
-    /// What the panel says when the user leaves by its button.
+    /// Beats, disconnects through the panel's button, and returns the panel's text.
     QString beatAndLeave() {
         QString text;
         const InTheWait user([&] {
@@ -121,8 +121,8 @@ private:
         driver_->beat();
         return text;
     }
-    /// Beats until the panel is there and the window has painted more than once under it, leaves
-    /// the agent, and logs in again.
+    /// Beats until the panel is visible and the window has repainted under it, disconnects, and
+    /// logs in again.
     void leaveAnAgentUnderPaints();
 };
 
@@ -381,7 +381,8 @@ void WaitingTest::aNameThatIsntResolvedIsLeft() {
 void WaitingTest::nobodyIsAskedOnceTheProgramEnds() {
     gate_->leaveSilentAgents();
     beSilent("logout");
-    const InTheWait user([] { QVERIFY2(!waitingPanel(), "nobody is there to be asked"); });
+    const InTheWait user(
+        [] { QVERIFY2(!waitingPanel(), "the panel is visible though the program ends"); });
     session::disconnectFromAgent();
     QVERIFY(!session::connectedToAgent());
     QCOMPARE(methodsOf(*agent_).back(), std::string("logout"));

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
-// What Windows and an installer go by: whether the program responds, and whether it lets a session
-// end.
+// The messages by which Windows and installers judge a program: whether it responds, and whether it
+// lets a session end.
 #include <atomic>
 #include <memory>
 #include <thread>
@@ -22,13 +22,13 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// The time after which Windows takes a thread for hung, in milliseconds.
+/// The time after which Windows considers a thread hung, in milliseconds.
 constexpr UINT patience = 5000;
 
-/// An application is asked to make room for its update.
+/// An application is asked to close for its update.
 constexpr LPARAM endOfSession = 1; // ENDSESSION_CLOSEAPP
 
-/// A window of this thread, which asks for no display.
+/// A message-only window of this thread, which needs no display.
 class MessageWindow {
 public:
     MessageWindow()
@@ -44,7 +44,7 @@ private:
     HWND handle_;
 };
 
-/// Sends message after message to a window, each when the one before was answered.
+/// Sends messages to a window, waiting for each answer.
 class Sender {
 public:
     Sender(HWND window, int count)
@@ -120,7 +120,7 @@ private slots:
 };
 
 int main(int argc, char** argv) {
-    // The offscreen platform has no messages of the session.
+    // The offscreen platform doesn't handle the messages of a session's end.
     qputenv("QT_QPA_PLATFORM", "windows");
     app::prepareToolkit();
     QApplication application(argc, argv);

@@ -7,7 +7,7 @@
 #include <QStyleOption>
 #include <QTreeView>
 
-/// The index at a slash-separated path of names; aborts the test program if there is none.
+/// The index at a slash-separated path of names; aborts the test program if it doesn't exist.
 inline QModelIndex indexAt(const QAbstractItemModel& model, const char* path) {
     QModelIndex index;
     for (const QString& name : QString::fromUtf8(path).split(QLatin1Char('/'))) {

@@ -44,7 +44,7 @@ public:
         gss_import_name(&minor, &bytes, GSS_KRB5_NT_PRINCIPAL_NAME, target_.place());
     }
 
-    /// The next token to send; empty if there is none.
+    /// The next token to send; empty if the agent needs no more.
     std::string next(std::string received = {}) {
         gss_buffer_desc input{received.size(), received.data()};
         gss::Buffer sent;

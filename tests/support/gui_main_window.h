@@ -39,8 +39,8 @@ private:
     bool available_;
 };
 
-/// The main window, shown, and what a test does to it and sees of it. Its heart beats only when
-/// the test says so.
+/// The main window, shown, with what a test does to it and reads from it. Heartbeats come only from
+/// the test.
 class MainWindowDriver {
 public:
     explicit MainWindowDriver(bool trayAvailable = true);

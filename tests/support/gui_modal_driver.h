@@ -62,7 +62,7 @@ bool isDialog(QWidget& widget) {
     return qobject_cast<Dialog*>(&widget) != nullptr;
 }
 
-/// The only descendant of that class and name. Aborts the test program if there is none.
+/// The only descendant of that class and name. Aborts the test program without a match.
 template <class Widget>
 Widget& child(QObject& parent, const char* name) {
     auto* found = parent.findChild<Widget*>(QString::fromLatin1(name));

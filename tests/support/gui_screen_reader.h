@@ -6,8 +6,9 @@
 
 namespace support {
 
-/// A screen reader that is connected while it lives: it looks at each widget as soon as that says
-/// anything, as the ones of the desktops do, and keeps the texts that it hears. One at a time.
+/// A screen reader, connected for the lifetime of this object. Like desktop screen readers, it
+/// inspects each widget that emits an event. It records the announced texts. Only one may exist at
+/// a time.
 class ScreenReader {
 public:
     ScreenReader();

@@ -10,8 +10,8 @@
 
 namespace support {
 
-/// The visible text of the tool tip shown on hovering over that point of the widget; empty if there
-/// is none.
+/// The visible text of the tool tip shown on hovering over that point of the widget; empty without
+/// a tool tip.
 inline QString tipOf(QWidget& widget, QPoint at) {
     QHelpEvent rest(QEvent::ToolTip, at, widget.mapToGlobal(at));
     QCoreApplication::sendEvent(&widget, &rest);

@@ -21,7 +21,7 @@ namespace support {
 using AtPage = std::function<void(QWizardPage&)>;
 
 /// Goes through the pages of an open wizard and finishes it; cancels it if it doesn't let the user
-/// go on. Whether it was finished.
+/// continue. Returns whether it was finished.
 bool finishWizard(QWidget& wizard, const AtPage& atPage = {});
 
 /// Goes on by `page` pages and cancels.

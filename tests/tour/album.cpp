@@ -72,11 +72,11 @@ void Album::take(QWidget& shown, const char* screen) {
     seenTexts_[name] = tour::seenTexts(shown);
     for (const QString& defect : defectsOf(shown) + readerDefectsOf(shown))
         defects_ << name + QStringLiteral(": ") + defect;
-    // On a light palette some colours are documented.
+    // On a light palette some colours are fixed.
     if (ui::isDark(QGuiApplication::palette()))
         for (const QString& defect : contrastDefectsOf(shown))
             defects_ << name + QStringLiteral(": ") + defect;
-    // By then late changes have arrived and are in the picture.
+    // Waits for late changes, so that the picture shows them.
     if (folder_)
         QTest::qWait(timeToRest);
     const QPixmap picture = shown.grab();

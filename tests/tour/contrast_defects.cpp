@@ -21,14 +21,14 @@ QColor colourOf(const QWidget& widget, QPalette::ColorRole role) {
     return widget.palette().color(QPalette::Active, role);
 }
 
-/// Of a label's text, which may name it.
+/// The colour of a label's text, which may set it by markup.
 QColor colourOf(const QLabel& label) {
     static const QRegularExpression inText(QStringLiteral("color=(#\\w+)"));
     const auto named = inText.match(label.text());
     return named.hasMatch() ? QColor(named.captured(1)) : colourOf(label, label.foregroundRole());
 }
 
-/// The colour behind a widget that paints none itself.
+/// The colour behind a widget without a background of its own.
 QColor behind(const QWidget& widget) {
     const QWidget* at = &widget;
     while (!at->isWindow() && !at->autoFillBackground() && at->parentWidget())
@@ -43,7 +43,7 @@ QString defect(const QWidget& widget, const QString& text, const QColor& fore, c
         .arg(widget.objectName(), text, fore.name(), back.name());
 }
 
-/// The rows that are seen, selected or not.
+/// The visible rows, as if none were selected.
 QStringList defectsOfRows(const QAbstractItemView& view) {
     QStringList found;
     const QModelIndex first = view.indexAt({0, 0});
@@ -77,7 +77,7 @@ QString defectOf(const QWidget& widget) {
     const auto* button = qobject_cast<const QAbstractButton*>(&widget);
     if (!button)
         return {};
-    // Check boxes, radio buttons and tool buttons are painted on what is behind them.
+    // Check boxes, radio buttons and tool buttons are painted on the background of their parent.
     const bool isPush = qobject_cast<const QPushButton*>(button);
     return defect(widget, button->text(),
                   colourOf(widget, isPush ? QPalette::ButtonText : widget.foregroundRole()),

@@ -8,8 +8,8 @@ class QWidget;
 
 namespace tour {
 
-/// The texts on a screen that don't stand out from their background, as far as palettes say it.
-/// Those of disabled widgets needn't.
+/// The texts on a screen with too little contrast to their background, according to the palettes.
+/// Excludes disabled widgets.
 QStringList contrastDefectsOf(const QWidget& shown);
 
 } // namespace tour

@@ -61,8 +61,8 @@ bool isCut(const QTabBar& tabs) {
     return tabs.count() > 0 && !tabs.rect().contains(tabs.tabRect(tabs.count() - 1));
 }
 
-/// The title of the first column that is too narrow for it; empty if there is none. English titles
-/// have preset widths.
+/// The title of the first column that is too narrow for it; empty if every title fits. English
+/// titles have preset widths.
 QString cutTitle(const QHeaderView& header) {
     for (int section = 0; section < header.count(); ++section) {
         const QString title = header.model()->headerData(section, header.orientation()).toString();

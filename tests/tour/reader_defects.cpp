@@ -32,7 +32,7 @@ namespace {
 
 using Roles = std::vector<QAccessible::Role>;
 
-/// What a widget may be to a screen reader; empty where that is all the same.
+/// The roles that a widget may have for a screen reader; empty if any role is right.
 Roles fittingRoles(const QWidget& widget) {
     if (const auto* label = qobject_cast<const QLabel*>(&widget))
         return label->text().isEmpty() ? Roles{QAccessible::Graphic, QAccessible::StaticText}
@@ -73,13 +73,13 @@ bool isReachedByTab(const QWidget& widget) {
     return widget.isEnabled() && (widget.focusPolicy() & Qt::TabFocus) && !widget.focusProxy();
 }
 
-/// Something that a label may name.
+/// Whether a label may name the widget.
 bool isField(const QWidget* widget) {
     return qobject_cast<const QLineEdit*>(widget) || qobject_cast<const QComboBox*>(widget) ||
            qobject_cast<const QAbstractSpinBox*>(widget);
 }
 
-/// The screen reader knows the box, which has the text of its field.
+/// Screen readers see only the spin box, which exposes its field's text.
 bool isPartOfASpinBox(const QWidget& widget) {
     return qobject_cast<const QAbstractSpinBox*>(widget.parentWidget());
 }
@@ -109,7 +109,7 @@ const QWidget* fieldBehind(const QLabel& label) {
     return nullptr;
 }
 
-/// Whether the screen reader says the label when it comes to the field.
+/// Whether a screen reader announces the label when the field gets the focus.
 bool belongsTo(const QLabel& label, QWidget& field) {
     const auto* face = QAccessible::queryAccessibleInterface(&field);
     const auto relations =
@@ -125,7 +125,7 @@ QString nameOf(const QWidget& widget) {
                                          QLatin1String(widget.metaObject()->className()));
 }
 
-/// Without the marks of letters that are keys.
+/// Without the markers of mnemonics.
 QString plain(QString title) {
     static const QRegularExpression mark(QStringLiteral("&(.)"));
     return title.replace(mark, QStringLiteral("\\1"));
@@ -134,9 +134,9 @@ QString plain(QString title) {
 QStringList defectsOfLabel(const QLabel& label) {
     QStringList defects;
     if (label.buddy() && label.buddy()->isVisible() && !belongsTo(label, *label.buddy()))
-        defects << nameOf(label) + QStringLiteral(" isn't said with its field");
+        defects << nameOf(label) + QStringLiteral(" isn't announced with its field");
     const QWidget* field = fieldBehind(label);
-    // A label may lead to the button of a field that can't be changed; the field has a name then.
+    // The mnemonic of a label may be for the button of a read-only field, which then has a name.
     const bool isNamed = label.buddy() == field || !field || !field->accessibleName().isEmpty();
     const bool isQts = label.window()->inherits("QFileDialog");
     if (isField(field) && field->isVisible() && !isNamed && !isQts)
@@ -147,18 +147,18 @@ QStringList defectsOfLabel(const QLabel& label) {
 QStringList defectsOfWidget(QWidget& widget) {
     auto* face = QAccessible::queryAccessibleInterface(&widget);
     if (!face)
-        return {nameOf(widget) + QStringLiteral(" isn't there")};
+        return {nameOf(widget) + QStringLiteral(" isn't accessible")};
     QStringList defects;
     if (!fits(face->role(), fittingRoles(widget)))
         defects << QStringLiteral("%1 has the role %2")
                        .arg(nameOf(widget), QString::number(face->role(), 16));
     if (isReachedByTab(widget) && face->text(QAccessible::Name).isEmpty())
         defects << nameOf(widget) + QStringLiteral(" has no name");
-    // An area that scrolls is one, by its role, to Qt; its name says what it has.
+    // Qt gives a scroll area that role; its name must describe the content.
     if (isReachedByTab(widget) && fittingRoles(widget).empty() &&
         !qobject_cast<const QScrollArea*>(&widget) &&
         (face->role() == QAccessible::Client || face->role() == QAccessible::NoRole))
-        defects << nameOf(widget) + QStringLiteral(" is a filler");
+        defects << nameOf(widget) + QStringLiteral(" has no specific role");
     if (qobject_cast<const QLineEdit*>(&widget) && !face->textInterface())
         defects << nameOf(widget) + QStringLiteral(" has no text");
     if (const auto* label = qobject_cast<const QLabel*>(&widget))

@@ -8,9 +8,8 @@ class QWidget;
 
 namespace tour {
 
-/// What a user of a screen reader would miss in a widget and all that it holds: widgets of another
-/// role than they have on the screen, without a name where the Tab key leads, and labels that don't
-/// belong to their field.
+/// The accessibility defects of a widget and its children: roles that differ from the visible ones,
+/// tab stops without a name, and labels that don't belong to their field.
 QStringList readerDefectsOf(const QWidget& shown);
 
 } // namespace tour

@@ -223,7 +223,7 @@ TEST(ICallDispatcher, ThatOnlySentRequestsHasNoThreadToJoin) {
     EchoDispatcher dispatcher;
     dispatcher.gate.raise();
     EXPECT_EQ(dispatcher.sendRequest("url", "request"), "request");
-    dispatcher.stopConnections(); // there are none, so nothing happens
+    dispatcher.stopConnections(); // without connections, nothing happens
     EXPECT_EQ(dispatcher.sendRequest("url", "request"), "request");
     EXPECT_EQ(dispatcher.threads(), 1u);
 }

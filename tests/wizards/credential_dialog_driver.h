@@ -4,7 +4,7 @@
 
 #include <QString>
 
-#include "tests/support/gui_told_text.h"
+#include "tests/support/gui_exposed_text.h"
 
 class QWidget;
 

@@ -51,7 +51,8 @@ public:
         return text;
     }
 
-    /// The row of a folder, given by its names from the top down. Ends the test if there is none.
+    /// The row of a folder, given by its names from the top down. Ends the test if it doesn't
+    /// exist.
     QModelIndex folder(const QStringList& names) {
         QModelIndex index;
         for (const QString& name : names) {

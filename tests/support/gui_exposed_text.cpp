@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
-#include "tests/support/gui_told_text.h"
+#include "tests/support/gui_exposed_text.h"
 
 #include <QAccessible>
 #include <QLineEdit>
