@@ -101,7 +101,7 @@ function(_tarn_moc name)
 endfunction()
 
 # tarn_left_out(<name> ...): tests, or files of a test as in test_simulator.program_test, that aren't
-# built for this system. The run under Wine wants a reason for each of them.
+# built for this system. The run under Wine requires a reason for each of them.
 function(tarn_left_out)
     foreach(name IN LISTS ARGN)
         add_test(NAME ${name} COMMAND ${name}.exe)

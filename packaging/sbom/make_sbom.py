@@ -7,8 +7,8 @@ A file like components.json declares what the programs contain and link. This sc
 the libraries recorded by the linker in each program and with the objects and archives that it read.
 It fails on anything undeclared, and on a declared library that no program links. A library with code
 in its headers has its C++ namespace in the declaration: a program that defines functions of that
-namespace contains the library. Libraries of the operating system, which nobody ships, are declared by
-their names only.
+namespace contains the library. Libraries of the operating system, which no package contains, are
+declared by their names only.
 """
 import argparse
 import datetime

@@ -205,7 +205,7 @@ private:
         });
     }
 
-    /// At once if there is no time to pass.
+    /// Calls `act` after this time; immediately if it is 0.
     template <class Act>
     void after(std::chrono::milliseconds time, Act act) {
         if (time.count() == 0)

@@ -31,7 +31,7 @@
 
 namespace {
 
-/// The key that leads to a deletion isn't disabled with the command.
+/// The Delete key works even while the command is disabled.
 bool refusesDeletion(const BackupSetViewItem* card) {
     return card && session::g_isCentrallyManaged && card->record().is_created_by_policy;
 }
@@ -102,7 +102,7 @@ void SimpleGUIMainWindow::commandSelectedSet(const QString& errorTitle, ui::Curs
 void SimpleGUIMainWindow::startOnSelectedSet(StartOnSet* begin, ui::Cursor cursor,
                                              const QString& status) {
     commandSelectedSet(tr("Error"), cursor, [this, begin, &status](const auto& set) {
-        // Kept for as long as the activity is spoken of.
+        // Holds the activity's object until the status is shown.
         const auto activity = begin(set.id);
         RefreshActivityLogs();
         showStatus(startedText(status, set));

@@ -133,7 +133,7 @@ bool HealthMonitor::step() {
     return reader_.left() > 0;
 }
 
-/// Once per slice, as each time costs as much as there are sets.
+/// Once per slice, because the cost grows with the number of sets.
 void HealthMonitor::takeDetails() {
     if (!std::exchange(hasNewDetails_, false))
         return;

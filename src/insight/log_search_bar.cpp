@@ -148,7 +148,7 @@ void LogSearchBar::exportRows() {
                       tr("The file '%1' cannot be written: %2").arg(name, file.errorString()));
 }
 
-/// A splitter or a tab around it asks for no height at a width, and a hidden tab has any width.
+/// A splitter or a tab ignores height-for-width, and the width of a hidden tab is arbitrary.
 void LogSearchBar::reserveHeight() {
     if (isVisible())
         setMinimumHeight(heightForWidth(width()));

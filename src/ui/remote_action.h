@@ -16,7 +16,7 @@ enum class Cursor { arrow, wait };
 /// requested. An exception derived from `std::exception` ends it and is shown under `title`, with
 /// `widget` as the box's parent. Returns whether `work` succeeded.
 ///
-/// During another call it does nothing and returns false: nobody could answer a box.
+/// During another call it does nothing and returns false: the user couldn't answer a box.
 bool remoteAction(QWidget& widget, const QString& title, Cursor cursor,
                   const std::function<void()>& work);
 

@@ -213,7 +213,7 @@ private slots:
         shown.icon->showBalloon(q("A later balloon"), QString());
         QTRY_COMPARE(desktop->service.shown().size(), 3);
         QCOMPARE(desktop->service.shown().last().title, q("A later balloon"));
-        // Qt's own icon hears of the click too.
+        // Qt's own icon receives the click too.
         QCOMPARE(shown.clicks.size(), 1);
     }
 

@@ -166,7 +166,7 @@ private slots:
 
     void startsInThePasswordOfTheCurrentUser() {
         if (currentUser().isEmpty())
-            QSKIP("This system can't tell the current user");
+            QSKIP("This system doesn't report the current user");
         LoginCheck dialog;
         dialog.show();
         QVERIFY(QTest::qWaitForWindowActive(&dialog));

@@ -57,7 +57,7 @@ using support::ModalDriver;
 
 namespace {
 
-/// An activity that ends at once, with so many errors.
+/// Starts a short activity that ends with this many errors.
 void runOnce(World& world, hessiancln::ActivityType type, std::int32_t errors) {
     simulator::ActivityPlan plan = world.backupOf(world.sets().front(), "anna");
     plan.type = type;

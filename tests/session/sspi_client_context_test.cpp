@@ -54,7 +54,7 @@ TEST_F(SspiContext, LaterRoundPassesContextAndToken) {
     EXPECT_THAT(system.operations, ElementsAre("query", "acquire", "round", "round"));
     EXPECT_TRUE(system.asked[1].withContext);
     EXPECT_EQ(system.asked[1].input, (Bytes{7, 8, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}))
-        << "The input is described by its room, and nothing stands behind the token";
+        << "The input has the size of its buffer, and nothing follows the token";
     EXPECT_EQ(outToken(), Bytes{2});
 }
 

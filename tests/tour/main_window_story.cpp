@@ -247,7 +247,7 @@ void takeStart(Album& album) {
     });
     app::installTranslation(*qApp, q("xx"));
     if (!modals.done())
-        qFatal("Missing texts aren't told of");
+        qFatal("Missing texts aren't reported");
 }
 
 void takeMainWindow(Album& album) {

@@ -15,7 +15,7 @@
 
 namespace {
 
-/// A page that wants that much room.
+/// A page with a content of this minimum size.
 QWizardPage* newPage(int width, int height) {
     auto* page = new QWizardPage;
     page->setTitle(QStringLiteral("Page"));
@@ -84,7 +84,7 @@ private slots:
         layout->addLayout(buttons);
         const QSize wanted = dialog.sizeHint();
         ui::letContentScroll(dialog, buttons);
-        // It wants what it wanted before, but for the style's spaces, and needs less.
+        // The size hint is unchanged except for the style's margins; the minimum is smaller.
         QVERIFY((dialog.sizeHint() - wanted).width() < 10);
         QVERIFY(qAbs((dialog.sizeHint() - wanted).height()) < 10);
         QVERIFY(dialog.minimumSizeHint().height() < 400);
