@@ -105,7 +105,7 @@ void SimpleGUIMainWindow::startOnSelectedSet(StartOnSet* begin, ui::Cursor curso
         // Holds the activity's object until the status is shown.
         const auto activity = begin(set.id);
         RefreshActivityLogs();
-        showStatus(startedText(status, set));
+        showStarted(startedText(status, set));
     });
 }
 
@@ -121,9 +121,10 @@ void SimpleGUIMainWindow::runOnSet(const Wizard& wizard, const hessiancln::backu
     if (!activity)
         return;
     refreshAll();
-    // A failure of the refresh takes precedence.
-    if (session::connectedToAgent() && refreshFailure_.isEmpty())
-        showStatus(startedText(status, set));
+    // Without an activity the wizard ended with nothing to do. A failure of the refresh takes
+    // precedence.
+    if (*activity && refreshFailure_.isEmpty())
+        showStarted(startedText(status, set));
 }
 
 std::int32_t SimpleGUIMainWindow::editSelectedSet(EditSet* edit) {

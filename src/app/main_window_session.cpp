@@ -69,6 +69,11 @@ void SimpleGUIMainWindow::showStatus(const QString& text) {
     ui_->statusbar->repaint();
 }
 
+void SimpleGUIMainWindow::showStarted(const QString& text) {
+    if (session::connectedToAgent())
+        showStatus(text);
+}
+
 void SimpleGUIMainWindow::OnConnect() {
     doLogin(false);
 }
@@ -127,8 +132,9 @@ void SimpleGUIMainWindow::startDailyAdmin() {
     ui::remoteAction(*this, tr("Error"), ui::Cursor::arrow, [this] {
         const auto activity = app::startDailyAdmin();
         RefreshActivityLogs();
-        showStatus(tr("%1: Daily admin started.")
-                       .arg(ui::timeText(QDateTime::currentSecsSinceEpoch(), QLocale::LongFormat)));
+        showStarted(
+            tr("%1: Daily admin started.")
+                .arg(ui::timeText(QDateTime::currentSecsSinceEpoch(), QLocale::LongFormat)));
     });
 }
 

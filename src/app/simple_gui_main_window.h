@@ -161,6 +161,9 @@ private:
     void showSession(const QString& server, const QString& user);
     void showNoSession();
     void showStatus(const QString& text);
+    /// Shows that an activity was started, unless the session has ended in the refresh after it,
+    /// whose text stays.
+    void showStarted(const QString& text);
     void openInitialConfiguration();
 
     /// Reads something in the session, or ends the session if that fails.
@@ -175,8 +178,8 @@ private:
     /// Starts an activity on the selected set; `status` gets the time and the name of the set.
     using StartOnSet = boost::shared_ptr<hessiancln::GenericActivity>(std::int32_t setId);
     void startOnSelectedSet(StartOnSet* begin, ui::Cursor cursor, const QString& status);
-    /// Runs a wizard on a set. Where it started an activity, shows what the agent has now, and then
-    /// `status`.
+    /// Runs a wizard on a set. If it was finished, shows what the agent has now; if it started an
+    /// activity, also shows `status`.
     using Started = std::optional<boost::shared_ptr<hessiancln::GenericActivity>>;
     using Wizard = std::function<Started(QWidget& parent,
                                          const boost::shared_ptr<hessiancln::BackupSet>& set)>;

@@ -201,11 +201,13 @@ void DeleteTest::cancellingTheCodeRemovesNothing() {
         world.twoFactor = true;
         giveOwnPlans(world);
     });
+    const QString statusBefore = test_.driver->status();
     expectRemovalQuestion(QMessageBox::Yes);
     test_.expectCode(false);
     test_.run("OnDelete");
     const Calls requested{"ClientConnection.getTFAManager()", "TFAManager.requestCode(2)"};
     QCOMPARE(difference(calls(), askedFirst + requested), QString());
+    QCOMPARE(test_.driver->status(), statusBefore);
 }
 
 void DeleteTest::aSetOfThePolicyIsLeftAlone() {
@@ -289,6 +291,7 @@ void DeleteTest::leavingAQuestionDeletesNothing() {
         test_.driver->sets().selectRow(gui::setRow);
         test_.expectWizard(gui::checkAll);
     }
+    const QString statusBefore = test_.driver->status();
     test_.modals->expect(q("question"), isDialog<QMessageBox>, leave);
     // Inside the event loop that ends here, as in the program.
     QTimer::singleShot(0, &test_.driver->window(), [this] {
@@ -298,6 +301,7 @@ void DeleteTest::leavingAQuestionDeletesNothing() {
     QCoreApplication::exec();
     QCOMPARE(difference(calls(), hasFiles ? gui::wizardOpened + gui::refreshed : askedFirst),
              QString());
+    QCOMPARE(test_.driver->status(), statusBefore);
 }
 
 void DeleteTest::aFilterThatCantBeSwitchedOnStaysDisabled() {

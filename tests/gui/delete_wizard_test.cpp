@@ -216,11 +216,13 @@ void DeleteWizardTest::theCodeComesBeforeTheDeletion() {
 
 void DeleteWizardTest::cancellingTheCodeDeletesNothing() {
     protect();
+    const QString statusBefore = test_.driver->status();
     test_.expectWizard([](QWizardPage& page) { check(page, "D:"); });
     test_.expectCode(false);
     test_.run("OnDelete");
     const Calls asked{"ClientConnection.getTFAManager()", "TFAManager.requestCode(2)"};
     QCOMPARE(difference(calls(), wizardOpened + asked + refreshed), QString());
+    QCOMPARE(test_.driver->status(), statusBefore);
 }
 
 void DeleteWizardTest::cancellingTheWizardDeletesNothing() {
@@ -248,12 +250,14 @@ void DeleteWizardTest::everythingWithoutTheRemoval() {
 
 void DeleteWizardTest::cancellingTheCodeAfterYesRemovesNothing() {
     protect();
+    const QString statusBefore = test_.driver->status();
     test_.expectWizard(checkAll);
     expectRemovalQuestion(QMessageBox::Yes);
     test_.expectCode(false);
     test_.run("OnDelete");
     const Calls asked{"ClientConnection.getTFAManager()", "TFAManager.requestCode(2)"};
     QCOMPARE(difference(calls(), wizardOpened + asked + refreshed), QString());
+    QCOMPARE(test_.driver->status(), statusBefore);
 }
 
 void DeleteWizardTest::aFilterNeverOffersTheRemoval() {

@@ -80,6 +80,8 @@ private slots:
     void aHeartbeatAsksInOrder();
     void theAgentAndItsActivitiesEndTheSession_data();
     void theAgentAndItsActivitiesEndTheSession();
+    void noActivityIsAnnouncedAtTheEndOfTheSession_data();
+    void noActivityIsAnnouncedAtTheEndOfTheSession();
     void theListAloneIsForgiven_data();
     void theListAloneIsForgiven();
     void theDetailsShowABox_data();
@@ -154,6 +156,23 @@ void MainWindowFaultsTest::theAgentAndItsActivitiesEndTheSession() {
     driver_->logIn(*agent_);
     QCOMPARE(driver_->cards(), cardsOf(*agent_));
     QVERIFY(driver_->rows("tableActivityLog") > 0);
+}
+
+void MainWindowFaultsTest::noActivityIsAnnouncedAtTheEndOfTheSession_data() {
+    using Start = void (SimpleGUIMainWindow::*)();
+    QTest::addColumn<Start>("start");
+    QTest::newRow("backup") << &SimpleGUIMainWindow::OnBackupNow;
+    QTest::newRow("synchronization") << &SimpleGUIMainWindow::OnSync;
+    QTest::newRow("daily admin") << &SimpleGUIMainWindow::startDailyAdmin;
+}
+
+void MainWindowFaultsTest::noActivityIsAnnouncedAtTheEndOfTheSession() {
+    QFETCH(void(SimpleGUIMainWindow::*)(), start);
+    inject(QStringLiteral("activity_log"), simulator::Fault{"Out of order."});
+    (driver_->window().*start)();
+    QCOMPARE(agent_->waitingInjections(), std::size_t(0));
+    QCOMPARE(driver_->status(), QStringLiteral("Current connection terminated"));
+    checkSessionHasEnded();
 }
 
 void MainWindowFaultsTest::theListAloneIsForgiven_data() {

@@ -378,10 +378,12 @@ void RestoreWizardTest::aGroupThatHoldsNothingRestoresNothing() {
         if (qobject_cast<RestoreSelectPage*>(&page))
             test_.agent->inject("getSubItems", support::emptyList());
     });
+    const QString statusBefore = test_.driver->status();
     test_.run("OnRestore");
     QCOMPARE(difference(calls(), restoreOpenedCalls + Calls{"BackupSetRestoreView.getSubItems(0)"} +
                                      refreshedAfterRestore),
              QString());
+    QCOMPARE(test_.driver->status(), statusBefore);
 }
 
 void RestoreWizardTest::aSetWithoutDataHasNoWizard() {
