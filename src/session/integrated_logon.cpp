@@ -54,7 +54,11 @@ bool performIntegratedLogon(boost::shared_ptr<ClientConnection>& connectionOut,
     while (!context->done() && runRound(context) && !context->outToken().empty()) {
         auto answer = bootstrap.sspi_login(url, version, frameToken(context->outToken()));
         root = std::move(answer.conn);
-        context->setInToken(framedToken(answer.context));
+        const auto token = framedToken(answer.context);
+        // A round without a token would begin the exchange again, perhaps for ever.
+        if (!context->done() && token.empty())
+            return false;
+        context->setInToken(token);
     }
     if (!context->done())
         return false;

@@ -220,12 +220,24 @@ TEST_F(IntegratedLogon, MalformedAnswerPassesThrough) {
     EXPECT_EQ(connection->url(), "https://old");
 }
 
-TEST_F(IntegratedLogon, ContextTooShortForAFrameReadsAsNoToken) {
-    system.rounds = {{more, {0xAA, 0xAA}}, {complete, {0xBB, 0xBB}}};
-    expectStep(frameA, answer("B 00 03 01 00 00", noReference));
-    expectStep(frameB, answer("B 00 00", noReference));
-    EXPECT_TRUE(logOn());
-    EXPECT_TRUE(system.asked[1].input.empty());
+TEST_F(IntegratedLogon, AnswerWithoutATokenEndsAnIncompleteContext) {
+    for (const char* context : {"B 00 00", "B 00 03 01 00 00", "B 00 04 00 00 00 00"}) {
+        system.rounds = {{more, {0xAA, 0xAA}}, {complete, {0xBB, 0xBB}}};
+        system.asked.clear();
+        expectStep(frameA, answer(context, reference("s")));
+        agent->expectRelease("https://a:1/s");
+        EXPECT_FALSE(logOn()) << context;
+        EXPECT_EQ(system.asked.size(), 1u) << context;
+        EXPECT_EQ(connection->url(), "https://old");
+    }
+}
+
+TEST_F(IntegratedLogon, CompleteContextNeedsNoFurtherToken) {
+    for (const char* context : {"B 00 00", "B 00 03 01 00 00"}) {
+        system.rounds = {{complete, {0xAA, 0xAA}}};
+        expectStep(frameA, answer(context, noReference));
+        EXPECT_TRUE(logOn()) << context;
+    }
 }
 
 TEST_F(IntegratedLogon, ContextThatPromisesTooMuchReadsAsWhatIsThere) {
