@@ -21,7 +21,7 @@ namespace {
 
 constexpr std::int32_t noSet = -1;
 constexpr int noRow = -1;
-/// Above and below what is seen, so that a turn of the wheel finds them made.
+/// Cards created above and below the visible part, so that scrolling finds them ready.
 constexpr int rowsNear = 20;
 
 bool holdsOtherThanFiles(const hessiancln::backup_set_info& set) {
@@ -110,7 +110,7 @@ void BackupSetList::show(std::vector<hessiancln::backup_set_info> sets) {
 void BackupSetList::addCardsNearView() {
     if (count() == 0)
         return;
-    // Behind the last row there is nothing.
+    // -1 below the last row.
     const int last = view_.rowAt(view_.viewport()->height() - 1);
     const int from = std::max(view_.rowAt(0), 0) - rowsNear;
     const int to = (last < 0 ? count() - 1 : last) + rowsNear;

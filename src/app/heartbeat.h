@@ -27,7 +27,7 @@ public:
     /// The unique type of the events.
     int eventType() const { return eventType_; }
 
-    /// Nothing, once it was stopped.
+    /// Does nothing after `stop`.
     void start();
     /// Ends the thread. Posted events stay in the receiver's queue.
     void stop();

@@ -24,7 +24,7 @@ SetCardLook setCardLook(const hessiancln::backup_set_info& set, bool centrallyMa
 
 QPixmap setCardPicture(const SetCardLook& look);
 
-/// The style sheet of the look, on a dark palette with a red that can be read on the card.
+/// The style sheet of the look, on a dark palette with a red that is readable on the card.
 QString setCardStyleSheet(const SetCardLook& look, const QPalette& palette, bool selected);
 
 } // namespace app

@@ -66,7 +66,7 @@ public:
         QWidget* parent = nullptr,
         std::unique_ptr<app::TrayIcon> tray = std::make_unique<app::TrayIcon>(),
         app::Heartbeat::Sleep sleep = app::Heartbeat::sleepOneSecond);
-    /// Ends the heartbeat thread. Events that are still in the queue die with the window.
+    /// Ends the heartbeat thread. Events still in the queue are discarded with the window.
     ~SimpleGUIMainWindow() override;
 
     /// Logs in: at start-up to the agent on this machine, without asking; otherwise through the
@@ -142,7 +142,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private slots:
-    // What other windows ask for.
+    // Requests of other windows.
     void backUpSet(std::int32_t setId);
     void syncSet(std::int32_t setId);
     void restoreFile(std::int32_t setId, const wizards::RestoreFile& file);

@@ -35,8 +35,8 @@ void insistOnFocus(QWidget& window) {
     if (!window.isVisible() || QApplication::activeWindow())
         return;
     if (window.windowHandle() == QGuiApplication::focusWindow()) {
-        // On a busy machine Qt gets the focus events of hiding and showing together, and takes the
-        // window to be what it was, namely inactive.
+        // On a busy machine Qt gets the focus events of hiding and showing together, and
+        // assumes that the window is still inactive.
         QApplication::setActiveWindow(&window);
         return;
     }

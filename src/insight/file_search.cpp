@@ -122,7 +122,7 @@ bool FileSearch::isFull() const {
     return found_.size() >= mostFound;
 }
 
-/// What was found still gets its details.
+/// Files found so far still get their details.
 void FileSearch::stopLooking() {
     waiting_.clear();
     sets_.clear();

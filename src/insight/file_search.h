@@ -68,7 +68,7 @@ public:
     void cancel();
 
     const std::vector<FoundFile>& found() const { return found_; }
-    /// It found the most that it takes (200,000 files), and looks no further.
+    /// Whether the search has stopped at its maximum of 200,000 files.
     bool isFull() const;
     /// The indices in `found` whose generations were read since the last call.
     std::vector<std::size_t> takeDetailed();

@@ -33,8 +33,8 @@ public:
     explicit FindFileWindow(Connect connect, QWidget* parent = nullptr);
     ~FindFileWindow() override;
 
-    /// The sets offered for selection; none while there is no session. What was found in the last
-    /// session goes when the next one begins.
+    /// The sets offered for selection; none while there is no session. Results of the last
+    /// session are discarded when the next one begins.
     void setSetNames(const insight::SetNames& names);
     /// Selects one of them; all if it isn't listed.
     void chooseSet(std::int32_t setId);

@@ -23,7 +23,7 @@ HealthReason overdueReason(const SetFacts& facts, const HealthClock& clock) {
     const std::int64_t lastGood = facts.info.last_successful_backup;
     if (lastGood >= 1 && clock.now - lastGood > 2 * *facts.interval)
         return HealthReason::isTooOld;
-    // What works on the set may be the backup in question.
+    // The running activity may be the backup in question.
     if (facts.isRunning)
         return HealthReason::none;
     // A start that the agent may still make up for isn't missed.

@@ -5,10 +5,10 @@
 #include <QColor>
 #include <QPalette>
 
-/// Colours that mean something, on the palette of any desktop.
+/// Colours with a meaning, readable on the palette of any desktop.
 namespace ui {
 
-/// The contrast of a text that everyone can read (WCAG 2.1, 1.4.3).
+/// The minimum contrast of readable text (WCAG 2.1, 1.4.3).
 constexpr double readableContrast = 4.5;
 
 /// The contrast ratio of two opaque colours, from 1 to 21 (WCAG 2.1).
@@ -18,7 +18,7 @@ double contrast(const QColor& one, const QColor& other);
 bool isDark(const QPalette& palette);
 
 /// A text colour for a background of the palette: `wanted` itself on a light palette, and on a dark
-/// one with as much white or black in it as it needs to be read. `Base` includes `AlternateBase`,
+/// one mixed with as much white or black as readability requires. `Base` includes `AlternateBase`,
 /// the other colour of a table's rows.
 QColor readable(const QColor& wanted, const QPalette& palette,
                 QPalette::ColorRole background = QPalette::Base);

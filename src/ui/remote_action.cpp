@@ -21,7 +21,7 @@ bool remoteAction(QWidget& widget, const QString& title, Cursor cursor,
         work();
         return true;
     } catch (const std::exception& error) {
-        // From here on, only the user is waited for.
+        // From here on, the program only waits for the user.
         waiting.reset();
         showError(&widget, title, errorText(error));
         return false;

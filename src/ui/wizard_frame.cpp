@@ -31,7 +31,7 @@ QPixmap picture(const QString& resource) {
     if (ratio <= 1 || large.isNull())
         return QPixmap(resource);
     const QSizeF size = large.size() * ratio / large.devicePixelRatio();
-    // A label would leave out pixels.
+    // A label would scale it without smoothing.
     large = large.scaled(size.toSize(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     large.setDevicePixelRatio(ratio);
     return large;
@@ -57,7 +57,7 @@ void frameWizard(QWizard& wizard, const QString& title, const QString& watermark
     wizard.setWindowTitle(title);
     wizard.setWindowIcon(g_branding.applicationIcon());
     wizard.setPixmap(QWizard::WatermarkPixmap, picture(watermark));
-    // Where one reads from right to left, forward is to the left.
+    // In right-to-left layouts, forward is to the left.
     const bool mirrored = wizard.layoutDirection() == Qt::RightToLeft;
     const QString left = QStringLiteral(":/button/back");
     const QString right = QStringLiteral(":/button/forward");

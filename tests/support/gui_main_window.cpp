@@ -19,7 +19,7 @@ namespace support {
 
 namespace {
 
-/// A second that only the end of the thread interrupts.
+/// Replaces the wait between heartbeats; only the end of the thread interrupts it.
 void sleepWithoutEnd() {
     boost::this_thread::sleep_until(boost::chrono::steady_clock::time_point::max());
 }

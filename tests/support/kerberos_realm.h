@@ -40,7 +40,7 @@ public:
     /// Gets the user a ticket-granting ticket, which is valid for ten hours. The user needs no more
     /// than that: the ticket for the service is derived from it.
     void getTicket(const std::string& userName = user);
-    /// Gets the user one, and waits until it has expired, which takes seconds.
+    /// Gets a ticket for the user, and waits until it has expired, which takes seconds.
     void getExpiredTicket();
     /// Adds a ticket for the service, as after a login to it.
     void getServiceTicket();

@@ -251,8 +251,8 @@ void TourTest::inAPseudoLanguage() {
     tour::takeAll(album);
     QCoreApplication::removeTranslator(&language);
     checkAllIsTaken(album);
-    // Its letters are those of the English texts, so that its keys are, too. No language has as
-    // long words on the smallest screen.
+    // Its letters and so its mnemonics are those of the English texts. No real language has words as
+    // long on the smallest screen.
     for (const QString& defect : album.defects())
         if (!defect.contains(q(" stands for ")) && !defect.contains(q(": needs ")))
             QTest::qFail(qPrintable(defect), __FILE__, __LINE__);
@@ -279,8 +279,8 @@ void TourTest::everyFormHasAChapter() {
     QCOMPARE(chapters, forms);
 }
 
-/// A widget that is made in a disabled one says so, to a screen reader that is there, before it is
-/// what it will be.
+/// A widget that is created in a disabled one emits an event, so that a running screen reader
+/// inspects it before it is complete.
 void TourTest::noFormDisablesWhatIsStillEmpty() {
     QCOMPARE(containersSwitchedOff(
                  q("<widget name='box'><property name='checked'><bool>false</bool></property>"
