@@ -18,9 +18,9 @@ class QTableView;
 namespace app {
 
 /// The cards of the agent's file sets in a table view: a row each, in the agent's order. Sets of
-/// anything else aren't listed. A row gets its card when it comes near the visible part of the view,
-/// and keeps it from one rebuild to the next; the selection stays with its set. F2 renames the
-/// selected set; the menu key and Shift+F10 request its context menu.
+/// anything else aren't listed. A row gets its card when it comes near the visible part of the
+/// view, and keeps it from one rebuild to the next; the selection stays with its set. F2 renames
+/// the selected set; the menu key and Shift+F10 request its context menu.
 class BackupSetList : public QObject {
     Q_OBJECT
 public:

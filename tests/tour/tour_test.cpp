@@ -251,8 +251,8 @@ void TourTest::inAPseudoLanguage() {
     tour::takeAll(album);
     QCoreApplication::removeTranslator(&language);
     checkAllIsTaken(album);
-    // Its letters and so its mnemonics are those of the English texts. No real language has words as
-    // long on the smallest screen.
+    // Its letters and so its mnemonics are those of the English texts. No real language has words
+    // as long on the smallest screen.
     for (const QString& defect : album.defects())
         if (!defect.contains(q(" stands for ")) && !defect.contains(q(": needs ")))
             QTest::qFail(qPrintable(defect), __FILE__, __LINE__);
