@@ -63,8 +63,6 @@ HttpExchange::HttpExchange(bool useTls, const HttpLimits& limits, Tracer trace)
     , timer_(io_)
     , connection_(io_, context_, useTls) {
     parser_.body_limit(limits_.largestContent);
-    // A short body would be stored in the string object itself, which nothing wipes.
-    parser_.get().body().reserve(1024);
 }
 
 void HttpExchange::start(const std::string& host, std::uint32_t port, const std::string& path,
@@ -94,8 +92,7 @@ bool HttpExchange::runFor(std::chrono::milliseconds time) {
 std::string HttpExchange::takeReply() {
     if (failure_)
         std::rethrow_exception(std::exchange(failure_, nullptr));
-    const auto& body = parser_.get().body();
-    return {body.begin(), body.end()};
+    return std::move(parser_.get().body().text);
 }
 
 void HttpExchange::abandon() {

@@ -18,12 +18,12 @@
 #include <boost/beast/core/flat_buffer.hpp>
 #include <boost/beast/http/message.hpp>
 #include <boost/beast/http/parser.hpp>
-#include <boost/beast/http/string_body.hpp>
 
 #include "base/secret.h"
 #include "transport/http_call_dispatcher.h"
 #include "transport/tcp_connection.h"
 #include "transport/tracer.h"
+#include "transport/wiped_body.h"
 
 namespace hessiancln {
 
@@ -43,8 +43,8 @@ public:
     /// Runs the exchange for this time at most. Returns whether it has ended.
     bool runFor(std::chrono::milliseconds time);
 
-    /// The body of the response, after the end. Throws `invoke_exception` unless the response is
-    /// complete with status 200.
+    /// Moves out the body of the response, after the end. Throws `invoke_exception` unless the
+    /// response is complete with status 200.
     std::string takeReply();
 
     /// Closes the connection from another thread and prevents further sending. The exchange then
@@ -53,9 +53,7 @@ public:
 
 private:
     /// The reply may hold a key, so both the buffer that it is read into and its body are wiped.
-    using ResponseParser =
-        boost::beast::http::response_parser<boost::beast::http::basic_string_body<
-            char, std::char_traits<char>, base::WipingAllocator<char>>>;
+    using ResponseParser = boost::beast::http::response_parser<WipedBody>;
     /// What follows an operation.
     using Next = void (HttpExchange::*)(const ErrorCode&);
 
