@@ -23,8 +23,9 @@ public:
     virtual bool finished() const = 0;
 
     /// Runs `wake` on any thread once the call has finished, or immediately if it already has.
-    /// `wake` must not block. An empty `wake` unregisters: after this returns, the previous one
-    /// won't run.
+    /// `wake` must not block, and isn't repeated if it throws `std::bad_alloc`: a hook therefore
+    /// also asks `finished` from time to time. An empty `wake` unregisters: after this returns, the
+    /// previous one won't run.
     virtual void onFinish(std::function<void()> wake) = 0;
 
     /// Ends the connection that carries the call, in whatever state it is. The call then fails with

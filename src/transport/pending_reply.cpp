@@ -27,11 +27,20 @@ bool PendingReply::finish(Result setResult) {
             return false;
         setResult();
         finished_ = true;
-        if (wake_)
-            wake_();
+        wake();
     }
     condition_.notify_one();
     return true;
+}
+
+/// With the mutex locked.
+void PendingReply::wake() {
+    try {
+        if (wake_)
+            wake_();
+    } catch (const std::bad_alloc&) {
+        // Without memory to be woken, the hook notices when it looks again.
+    }
 }
 
 void PendingReply::succeed(std::string& reply) {
@@ -78,8 +87,8 @@ bool PendingReply::finished() const {
 void PendingReply::onFinish(std::function<void()> wake) {
     const std::lock_guard lock(mutex_);
     wake_ = std::move(wake);
-    if (finished_ && wake_)
-        wake_();
+    if (finished_)
+        this->wake();
 }
 
 void PendingReply::giveUp(const std::string& text) {

@@ -45,6 +45,7 @@ public:
 private:
     template <class Result>
     bool finish(Result setResult);
+    void wake();
 
     const GiveUp giveUp_;
     const Awaited awaited_;

@@ -28,6 +28,19 @@ bool isNumeric(const std::string& host) {
     return !error;
 }
 
+/// Posts as soon as there is memory for it: the caller waits for nothing else.
+template <class Post>
+void postAtLast(const Post& post) {
+    for (;;) {
+        try {
+            post();
+            return;
+        } catch (const std::bad_alloc&) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        }
+    }
+}
+
 } // namespace
 
 asio::ssl::context makeTlsContext() {
@@ -77,7 +90,7 @@ void TcpConnection::asyncResolve(const std::string& host, std::uint32_t port,
         try {
             resolveAndPost();
         } catch (const std::bad_alloc&) {
-            post(asio::error::no_memory, {});
+            postAtLast([&post] { post(asio::error::no_memory, {}); });
         }
     }).detach();
 }

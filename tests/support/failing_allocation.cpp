@@ -7,18 +7,20 @@
 
 namespace {
 
-thread_local std::size_t allocationsLeft = 0; // 0: none fails
+thread_local std::size_t allocationsLeft = 0; // before the first that fails
+thread_local std::size_t failuresLeft = 0;
 thread_local bool failed = false;
 
 } // namespace
 
-support::FailingAllocation::FailingAllocation(std::size_t nth) {
+support::FailingAllocation::FailingAllocation(std::size_t nth, std::size_t count) {
     failed = false;
-    allocationsLeft = nth;
+    allocationsLeft = nth - 1;
+    failuresLeft = count;
 }
 
 support::FailingAllocation::~FailingAllocation() {
-    allocationsLeft = 0;
+    failuresLeft = 0;
 }
 
 bool support::FailingAllocation::hasFailed() const {
@@ -26,7 +28,10 @@ bool support::FailingAllocation::hasFailed() const {
 }
 
 void* operator new(std::size_t size) {
-    if (allocationsLeft > 0 && --allocationsLeft == 0) {
+    if (allocationsLeft > 0) {
+        --allocationsLeft;
+    } else if (failuresLeft > 0) {
+        --failuresLeft;
         failed = true;
         throw std::bad_alloc();
     }

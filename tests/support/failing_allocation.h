@@ -7,10 +7,11 @@
 namespace support {
 
 /// Makes the n-th allocation (from 1) that the current thread makes during the lifetime of this
-/// object fail. The program then uses the `operator new` of failing_allocation.cpp.
+/// object fail, and with a `count` those that follow it. The program then uses the `operator new`
+/// of failing_allocation.cpp.
 class FailingAllocation {
 public:
-    explicit FailingAllocation(std::size_t nth);
+    explicit FailingAllocation(std::size_t nth, std::size_t count = 1);
     FailingAllocation(const FailingAllocation&) = delete;
     FailingAllocation& operator=(const FailingAllocation&) = delete;
     ~FailingAllocation();

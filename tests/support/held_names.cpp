@@ -7,6 +7,7 @@
 #include <condition_variable>
 #include <mutex>
 #include <string_view>
+#include <utility>
 
 #include <dlfcn.h>
 #include <netdb.h>
@@ -19,6 +20,7 @@ std::mutex mutex;
 std::condition_variable changed;
 bool holding = false;
 int held = 0;
+std::function<void()> runAtEnd;
 
 int resolveAsEver(const char* node, const char* service, const addrinfo* hints,
                   addrinfo** results) {
@@ -38,21 +40,30 @@ getaddrinfo(const char* node, const char* service, const addrinfo* hints, addrin
     changed.wait(lock, [] { return !holding; });
     --held;
     changed.notify_all();
+    if (runAtEnd)
+        runAtEnd();
     return EAI_NONAME;
 }
 
 namespace support {
 
-HeldNames::HeldNames() {
+HeldNames::HeldNames(std::function<void()> atEnd) {
     const std::lock_guard lock(mutex);
     holding = true;
+    runAtEnd = std::move(atEnd);
 }
 
 HeldNames::~HeldNames() {
+    letGo();
     std::unique_lock lock(mutex);
+    changed.wait(lock, [] { return held == 0; });
+    runAtEnd = nullptr;
+}
+
+void HeldNames::letGo() {
+    const std::lock_guard lock(mutex);
     holding = false;
     changed.notify_all();
-    changed.wait(lock, [] { return held == 0; });
 }
 
 bool HeldNames::waitForHeld(int count) {

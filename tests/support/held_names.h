@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <functional>
+
 namespace support {
 
 /// Makes the system's resolver hang on each name under ".held" for the lifetime of the object. All
@@ -9,13 +11,17 @@ namespace support {
 /// the resolver.
 class HeldNames {
 public:
-    HeldNames();
+    /// `atEnd` runs on each thread that leaves the resolver.
+    explicit HeldNames(std::function<void()> atEnd = {});
     HeldNames(const HeldNames&) = delete;
     HeldNames& operator=(const HeldNames&) = delete;
     ~HeldNames();
 
     /// Waits until `count` threads hang in the resolver.
     bool waitForHeld(int count);
+
+    /// From now on nothing hangs; the names still don't exist.
+    void letGo();
 };
 
 } // namespace support

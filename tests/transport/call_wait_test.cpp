@@ -17,6 +17,8 @@
 #include "tests/transport/raw_stream_fixture.h"
 #include "transport/call_passage.h"
 #include "transport/http_call_dispatcher.h"
+#include "transport/invoke_exception.h"
+#include "transport/pending_reply.h"
 #include "transport/raw_stream_dispatcher.h"
 
 namespace {
@@ -191,6 +193,14 @@ TEST_P(CallWait, GivingUpTheResolutionOfANameConnectsNowhere) {
         EXPECT_EQ(failureOf(*dispatcher, server.url("/api", "agent.held")), goodbye);
     }
     EXPECT_EQ(server.connections(), 0u);
+}
+
+TEST(PendingReply, EndsWithoutMemoryToWakeItsHook) {
+    PendingReply reply([](const std::string&) {});
+    reply.onFinish([] { throw std::bad_alloc(); });
+    EXPECT_TRUE(reply.fail("No more"));
+    EXPECT_TRUE(reply.finished());
+    EXPECT_THROW(reply.wait(), invoke_exception);
 }
 
 TEST_P(CallWait, AFinishedCallCantBeGivenUp) {
