@@ -30,10 +30,8 @@ struct SecurityHandle {
 /// logon may run on different threads, one after the other, and several logons at the same time.
 class SecurityOperations {
 public:
-    virtual ~SecurityOperations() = default;
-
-    /// Whether the user of this process can log on now. On Linux this requires a valid Kerberos
-    /// ticket.
+    /// Whether the user of this process can log on now. Asks no other machine. On Linux this
+    /// requires a valid Kerberos ticket, or a client key table, with which a logon gets one.
     virtual bool available() { return true; }
 
     /// The largest token of the "Negotiate" package, in bytes.
@@ -61,9 +59,14 @@ public:
         static_cast<void>(credentials);
         static_cast<void>(context);
     }
+
+protected:
+    /// Not virtual, so that the operations of a system have a trivial destructor.
+    ~SecurityOperations() = default;
 };
 
-/// The operations of this system. Lives as long as the process.
+/// The operations of this system. They are never destroyed, not even when the process exits: a
+/// logon that was abandoned may still be running.
 SecurityOperations* securityOperations();
 
 } // namespace platform

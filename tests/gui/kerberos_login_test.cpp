@@ -276,8 +276,17 @@ private slots:
         QCOMPARE(count(agent, "sspi_login"), 2);
     }
 
+    void aSilentKdcLeavesTheWindowAlive_data() {
+        QTest::addColumn<bool>("withTicket");
+        QTest::newRow("with a ticket") << true;
+        QTest::newRow("with client keys") << false;
+    }
     void aSilentKdcLeavesTheWindowAlive() {
-        realm_->getTicket();
+        QFETCH(bool, withTicket);
+        if (withTicket)
+            realm_->getTicket();
+        else
+            realm_->writeClientKeys();
         realm_->silenceKdc();
         const GuiAgent agent(accepting(realm_->keyTable()));
         app::CallGate gate(quickTimes);

@@ -3,6 +3,7 @@
 #include "platform/security_context.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -88,6 +89,21 @@ TEST(LogonOffer, AsksNobodyForTheTicket) {
     EXPECT_TRUE(isAvailable());
 }
 
+TEST(LogonOffer, IsMadeWithClientKeys) {
+    support::KerberosRealm realm;
+    realm.writeClientKeys();
+    EXPECT_TRUE(isAvailable());
+    EXPECT_FALSE(std::filesystem::exists(realm.file("tickets"))) << "only a logon gets one";
+}
+
+TEST(LogonOffer, AsksNoSilentKdcForATicket) {
+    support::KerberosRealm realm;
+    realm.writeClientKeys();
+    realm.silenceKdc();
+    EXPECT_TRUE(isAvailable());
+    EXPECT_FALSE(realm.silentKdcWasAsked());
+}
+
 TEST(LogonOffer, IsNotMadeOnASystemWithoutKerberos) {
     ::setenv("KRB5_CONFIG", "/nonexistent", 1);
     ::setenv("KRB5CCNAME", "FILE:/nonexistent", 1);
@@ -170,6 +186,12 @@ TEST_F(SecurityContext, TakesATokenInARoomThatIsLarger) {
 TEST_F(SecurityContext, HasNoCredentialsWithoutATicket) {
     EXPECT_EQ(acquire(), noCredentials);
     EXPECT_FALSE(credentials.held());
+}
+
+TEST_F(SecurityContext, GetsItsTicketWithClientKeys) {
+    realm.writeClientKeys();
+    ASSERT_EQ(acquire(), platform::securityOk);
+    EXPECT_EQ(round(), platform::securityContinueNeeded);
 }
 
 TEST_F(SecurityContext, HasNoCredentialsWhenTheTicketHasExpired) {

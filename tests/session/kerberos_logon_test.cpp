@@ -104,6 +104,12 @@ TEST_F(KerberosLogon, IsDoneInOneStepAndMovesToTheStream) {
     EXPECT_FALSE(session::getConnection()->getTarnClientInfo().empty());
 }
 
+TEST_F(KerberosLogon, GetsItsTicketWithClientKeys) {
+    realm.writeClientKeys();
+    logOn();
+    EXPECT_TRUE(session::connectedToAgent());
+}
+
 TEST_F(KerberosLogon, IsThatOfAUserWithLettersBeyondAscii) {
     realm.addUser("Jörg-Žofie");
     realm.getTicket("Jörg-Žofie");

@@ -11,6 +11,7 @@ class ForwardingSecurityOperations : public platform::SecurityOperations {
 public:
     explicit ForwardingSecurityOperations(platform::SecurityOperations& target)
         : target_(target) {}
+    virtual ~ForwardingSecurityOperations() = default;
 
     bool available() override { return target_.available(); }
     platform::SecurityStatus queryMaxTokenSize(std::uint32_t& size) override {

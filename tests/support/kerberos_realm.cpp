@@ -11,6 +11,7 @@
 
 #include <arpa/inet.h>
 #include <netinet/in.h>
+#include <poll.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -46,6 +47,12 @@ public:
     }
 
     void listen() const { ::listen(socket_, SOMAXCONN); }
+
+    /// Whether a datagram or a connection has come in.
+    bool wasReached() const {
+        pollfd state{socket_, POLLIN, 0};
+        return ::poll(&state, 1, 0) > 0;
+    }
 
     bool reaches(std::uint16_t port) const {
         const sockaddr_in address = at(port);
@@ -88,6 +95,7 @@ public:
     }
 
     std::uint16_t port() const { return port_; }
+    bool wasAsked() const { return stream_.wasReached() || datagrams_.wasReached(); }
 
 private:
     const LoopbackSocket stream_;
@@ -101,7 +109,7 @@ KerberosRealm::KerberosRealm()
     setVariable("KRB5_KDC_PROFILE", file("kdc.conf"));
     setVariable("KRB5CCNAME", "FILE:" + file("tickets"));
     setVariable("KRB5_KTNAME", "FILE:" + file("no.keytab"));
-    setVariable("KRB5_CLIENT_KTNAME", "FILE:" + file("no.keytab"));
+    setVariable("KRB5_CLIENT_KTNAME", "FILE:" + file("client.keytab"));
     setVariable("KRB5RCACHENAME", "file2:" + file("replays"));
     writeConfiguration(0);
     runProgram("/usr/sbin/kdb5_util", {"-r", name, "create", "-s", "-P", "master"});
@@ -193,6 +201,10 @@ void KerberosRealm::silenceKdc() {
     writeConfiguration(silent_->port());
 }
 
+bool KerberosRealm::silentKdcWasAsked() const {
+    return silent_->wasAsked();
+}
+
 void KerberosRealm::administer(const std::string& query) {
     runProgram("/usr/sbin/kadmin.local", {"-r", name, "-q", query});
 }
@@ -243,6 +255,10 @@ void KerberosRealm::getServiceTicket() {
 
 void KerberosRealm::destroyTicket() {
     fs::remove(file("tickets"));
+}
+
+void KerberosRealm::writeClientKeys() {
+    administer(std::string("ktadd -norandkey -k ") + file("client.keytab") + " " + user);
 }
 
 } // namespace support

@@ -45,11 +45,15 @@ public:
     /// Adds a ticket for the service, as after a login to it.
     void getServiceTicket();
     void destroyTicket();
+    /// Writes the user's keys into the client key table, with which a logon gets its own ticket.
+    void writeClientKeys();
 
     /// From now on no new tickets are issued.
     void stopKdc();
     /// The same, but requests reach a KDC, which never answers.
     void silenceKdc();
+    /// Whether a request has reached the silent KDC.
+    bool silentKdcWasAsked() const;
     /// From now on the clock of the KDC is ahead by an hour. Needs libfaketime.
     void restartKdcAhead();
 

@@ -32,6 +32,8 @@ public:
         std::size_t outputRoom;
     };
 
+    virtual ~ScriptedSecurityOperations() = default;
+
     std::uint32_t maxTokenSize = 16;
     platform::SecurityStatus queryStatus = platform::securityOk;
     platform::SecurityStatus acquireStatus = platform::securityOk;

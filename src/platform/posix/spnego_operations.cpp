@@ -4,9 +4,11 @@
 
 #include <algorithm>
 #include <bit>
+#include <type_traits>
 
 #include <gssapi/gssapi_ext.h>
 #include <gssapi/gssapi_krb5.h>
+#include <krb5.h>
 
 #include "platform/posix/der_token.h"
 #include "platform/posix/gss_handles.h"
@@ -55,13 +57,15 @@ Handle fromHandle(const SecurityHandle& handle) {
 }
 
 /// Kerberos within SPNEGO only: other mechanisms would use the password. Fails without a valid
-/// ticket.
-OM_uint32 acquire(gss::Credentials& acquired) {
+/// ticket. If the store includes a client key table, this may ask the KDC for a ticket, and so take
+/// as long as the KDC does.
+OM_uint32 acquire(gss_const_key_value_set_t store, gss::Credentials& acquired) {
     OM_uint32 minor = 0;
     gss_OID_set_desc negotiation{1, &spnego};
     gss::Credentials credentials;
-    OM_uint32 major = gss_acquire_cred(&minor, GSS_C_NO_NAME, GSS_C_INDEFINITE, &negotiation,
-                                       GSS_C_INITIATE, credentials.place(), nullptr, nullptr);
+    OM_uint32 major =
+        gss_acquire_cred_from(&minor, GSS_C_NO_NAME, GSS_C_INDEFINITE, &negotiation, GSS_C_INITIATE,
+                              store, credentials.place(), nullptr, nullptr);
     if (GSS_ERROR(major))
         return major;
     gss_OID_set_desc kerberos{1, gss_mech_krb5};
@@ -76,6 +80,28 @@ OM_uint32 acquire(gss::Credentials& acquired) {
     return major;
 }
 
+bool hasTicket() {
+    gss_key_value_element_desc noKeys{"client_keytab", "MEMORY:none"};
+    const gss_key_value_set_desc store{1, &noKeys};
+    gss::Credentials credentials;
+    return !GSS_ERROR(acquire(&store, credentials));
+}
+
+/// Whether there is a client key table with a key.
+bool hasClientKeys() {
+    krb5_context context = nullptr;
+    if (krb5_init_context(&context) != 0)
+        return false;
+    krb5_keytab table = nullptr;
+    bool found = false;
+    if (krb5_kt_client_default(context, &table) == 0) {
+        found = krb5_kt_have_content(context, table) == 0;
+        krb5_kt_close(context, table);
+    }
+    krb5_free_context(context);
+    return found;
+}
+
 /// Imports the text as a principal name, which no name service may rewrite.
 OM_uint32 importName(std::string text, gss::Name& name) {
     OM_uint32 minor = 0;
@@ -85,10 +111,7 @@ OM_uint32 importName(std::string text, gss::Name& name) {
 
 class SpnegoOperations final : public SecurityOperations {
 public:
-    bool available() override {
-        gss::Credentials credentials;
-        return !GSS_ERROR(acquire(credentials));
-    }
+    bool available() override { return hasTicket() || hasClientKeys(); }
 
     SecurityStatus queryMaxTokenSize(std::uint32_t& maxTokenSize) override {
         maxTokenSize = largestToken;
@@ -97,7 +120,7 @@ public:
 
     SecurityStatus acquireCredentials(SecurityHandle& credentials) override {
         gss::Credentials acquired;
-        const OM_uint32 major = acquire(acquired);
+        const OM_uint32 major = acquire(GSS_C_NO_CRED_STORE, acquired);
         if (!GSS_ERROR(major))
             credentials = toHandle(acquired.take());
         return statusOf(major);
@@ -150,6 +173,9 @@ private:
         context = {};
     }
 };
+
+static_assert(std::is_trivially_destructible_v<SpnegoOperations>,
+              "An abandoned logon may use them while the process exits");
 
 } // namespace
 

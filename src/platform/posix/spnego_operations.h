@@ -6,8 +6,8 @@
 
 namespace platform {
 
-/// The security operations on GSSAPI: Kerberos negotiated by SPNEGO (RFC 4178). They live as long
-/// as the process.
+/// The security operations on GSSAPI: Kerberos negotiated by SPNEGO (RFC 4178). They are
+/// never destroyed.
 SecurityOperations& spnegoOperations();
 
 } // namespace platform
