@@ -53,9 +53,11 @@ std::unique_ptr<Notifications> Notifications::ofDesktop() {
 }
 
 Notifications::Notifications() {
-    QDBusConnection::sessionBus().connect(service(), path(), service(),
-                                          QStringLiteral("ActionInvoked"), this,
-                                          SLOT(followAction(uint, QString)));
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    bus.connect(service(), path(), service(), QStringLiteral("ActionInvoked"), this,
+                SLOT(followAction(uint, QString)));
+    bus.connect(service(), path(), service(), QStringLiteral("NotificationClosed"), this,
+                SLOT(forget(uint, uint)));
 }
 
 void Notifications::show(const QString& title, const QString& text, const QString& icon,
@@ -81,7 +83,8 @@ void Notifications::send(const QString& title, const QString& text, const QStrin
 }
 
 void Notifications::follow(uint id) {
-    shown_.insert(id);
+    if (id != closedUnknown_)
+        shown_.insert(id);
     if (id == clickedUnknown_)
         emit clicked();
 }
@@ -93,8 +96,14 @@ void Notifications::followAction(uint id, const QString& action) {
     // click before the reply with the notification's id.
     if (shown_.contains(id))
         emit clicked();
-    else
+    else if (id != closedUnknown_)
         clickedUnknown_ = id;
+}
+
+void Notifications::forget(uint id, uint) {
+    // As above, it may come before the reply.
+    if (!shown_.remove(id))
+        closedUnknown_ = id;
 }
 
 } // namespace app

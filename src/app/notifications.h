@@ -32,6 +32,7 @@ signals:
 
 private slots:
     void followAction(uint id, const QString& action);
+    void forget(uint id, uint reason);
 
 private:
     Notifications();
@@ -41,8 +42,10 @@ private:
     /// Counts clicks on this notification from now on.
     void follow(uint id);
 
-    QSet<uint> shown_;
-    uint clickedUnknown_ = 0; ///< the last id clicked that isn't among them; initially 0
+    QSet<uint> shown_; ///< ids; the service may reuse them once the notification is closed
+    // The last ids clicked and closed that aren't among them; initially 0.
+    uint clickedUnknown_ = 0;
+    uint closedUnknown_ = 0;
 };
 
 } // namespace app
