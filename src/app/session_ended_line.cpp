@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "app/session_ended_line.h"
 
+#include <algorithm>
+
 #include <QApplication>
 #include <QDialog>
 #include <QEvent>
@@ -10,9 +12,11 @@
 #include <QLabel>
 #include <QLayout>
 #include <QMessageBox>
+#include <QScreen>
 #include <QWizard>
 
 #include "ui/plain_tool_tip.h"
+#include "ui/screen_fit.h"
 
 namespace app {
 
@@ -53,7 +57,7 @@ void SessionEndedLine::removeFromOpenWindows() {
             continue;
         auto* line = window->findChild<SessionEndedLine*>(QString(), Qt::FindDirectChildrenOnly);
         if (line)
-            line->makeRoom(0);
+            line->giveRoomBack();
         delete line;
     }
 }
@@ -93,25 +97,41 @@ void SessionEndedLine::setText(const QString& text) {
 
 /// Done once, for the dialog's current width; a text that needs more lines later is cut off.
 void SessionEndedLine::makeRoom() {
-    makeRoom(heightForWidth(dialog_.width()));
+    height_ = heightForWidth(dialog_.width());
+    const int freed = std::clamp(height_, 0, largestFreed());
+    // Before the margin, which would make the dialog grow to its least size.
+    grown_ += ui::growOnScreen(dialog_, std::max(freed - freed_, 0));
+    setFreed(freed);
 }
 
-void SessionEndedLine::makeRoom(int needed) {
-    const int more = needed - room_;
-    room_ = needed;
+void SessionEndedLine::giveRoomBack() {
+    setFreed(0);
+    if (dialog_.minimumHeight() == dialog_.maximumHeight())
+        dialog_.setFixedHeight(dialog_.height() - grown_);
+    else
+        dialog_.resize(dialog_.width(), dialog_.height() - grown_);
+}
+
+void SessionEndedLine::setFreed(int height) {
     QWidget& content = contentOf(dialog_);
     const QMargins margins = content.contentsMargins();
-    const bool fixed = dialog_.minimumHeight() == dialog_.maximumHeight();
-    content.setContentsMargins(margins.left(), margins.top() + more, margins.right(),
+    content.setContentsMargins(margins.left(), margins.top() + height - freed_, margins.right(),
                                margins.bottom());
-    if (fixed)
-        dialog_.setFixedHeight(dialog_.height() + more);
-    else
-        dialog_.resize(dialog_.width(), dialog_.height() + more);
+    freed_ = height;
+}
+
+/// With which the dialog still fits its screen.
+int SessionEndedLine::largestFreed() const {
+    const QScreen* screen = dialog_.screen();
+    if (!screen)
+        return height_;
+    const QLayout* layout = contentOf(dialog_).layout();
+    const int least = layout ? layout->totalMinimumSize().height() - freed_ : 0;
+    return std::max(ui::largestWindow(screen->availableGeometry()).height() - least, 0);
 }
 
 void SessionEndedLine::place() {
-    setGeometry(0, 0, dialog_.width(), room_);
+    setGeometry(0, 0, dialog_.width(), height_);
 }
 
 bool SessionEndedLine::eventFilter(QObject* watched, QEvent* event) {

@@ -10,7 +10,8 @@ class QLabel;
 namespace app {
 
 /// A line at the top of an open dialog or wizard saying that the session has ended. The dialog
-/// grows by its height; everything else stays as it is.
+/// grows by its height, and everything else stays as it is. Where the screen has no room for that,
+/// the content gives way as far as it can, and the line covers the rest.
 class SessionEndedLine : public QFrame {
     Q_OBJECT
 public:
@@ -28,12 +29,16 @@ private:
 
     void setText(const QString& text);
     void makeRoom();
-    void makeRoom(int needed);
+    void giveRoomBack();
+    void setFreed(int height);
+    int largestFreed() const;
     void place();
 
     QDialog& dialog_;
     QLabel& label_;
-    int room_ = 0; ///< height added to the dialog for the line
+    int height_ = 0;
+    int freed_ = 0; ///< height at the top of the content that is kept free for the line
+    int grown_ = 0; ///< by which the dialog is higher for the line
 };
 
 } // namespace app

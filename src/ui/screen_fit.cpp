@@ -175,6 +175,21 @@ void keepOnScreen(QWidget& window) {
     window.move(room.topLeft() + QPoint((room.width() - size.width()) / 2, 0));
 }
 
+int growOnScreen(QWidget& window, int height) {
+    const QRect room =
+        window.screen() ? window.screen()->availableGeometry() : QRect(QPoint(), window.size());
+    const int grown = std::clamp(largestWindow(room).height() - window.height(), 0, height);
+    if (window.minimumHeight() == window.maximumHeight())
+        window.setFixedHeight(window.height() + grown);
+    else
+        window.resize(window.width(), window.height() + grown);
+    const QRect whole = window.frameGeometry();
+    const int below = std::min(whole.bottom() - room.bottom(), whole.top() - room.top());
+    if (below > 0)
+        window.move(window.pos() - QPoint(0, below));
+    return grown;
+}
+
 void keepDialogsOnScreen(QApplication& application) {
     application.installEventFilter(new AtShow(&application));
 }

@@ -19,6 +19,10 @@ QSize largestWindow(const QRect& available);
 /// Shrinks a window that is larger than its screen. Call this before showing it.
 void keepOnScreen(QWidget& window);
 
+/// Makes a visible window up to `height` higher, as far as its screen has room, and moves it up if
+/// it would extend below the screen. Returns by how much it has grown.
+int growOnScreen(QWidget& window, int height);
+
 /// After this call, no dialog of the program opens larger than its screen.
 void keepDialogsOnScreen(QApplication& application);
 

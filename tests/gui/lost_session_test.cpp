@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 // What the user sees of a lost session, and the ways back.
+#include <algorithm>
 #include <memory>
 
 #include <QDialog>
@@ -8,6 +9,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTableView>
 #include <QTest>
@@ -24,6 +26,7 @@
 #include "tests/support/gui_main_window.h"
 #include "tests/support/gui_modal_driver.h"
 #include "tests/support/gui_translation.h"
+#include "ui/screen_fit.h"
 #include "wizards/select_generation_dlg.h"
 
 using support::child;
@@ -287,7 +290,10 @@ void LostSessionTest::loseUnder(QDialog& dialog) {
     QCOMPARE(line->geometry().topLeft(), QPoint(0, 0));
     QCOMPARE(line->width(), dialog.width());
     QCoreApplication::processEvents();
-    QVERIFY(dialog.height() > height);
+    // The wizards for sets may fill the screen of a test.
+    const int largest = ui::largestWindow(dialog.screen()->availableGeometry()).height();
+    QVERIFY(dialog.height() > height || height >= largest);
+    QVERIFY(dialog.height() <= std::max(height, largest));
     // No other widget is under it.
     for (const QWidget* other : dialog.findChildren<QWidget*>())
         if (other->isVisible() && !line->isAncestorOf(other) && other != line &&
