@@ -41,6 +41,8 @@ SimpleGUIMainWindow::SimpleGUIMainWindow(QWidget* parent, std::unique_ptr<app::T
 SimpleGUIMainWindow::~SimpleGUIMainWindow() {
     heartbeat_.stop();
     sets_->abandonEditing();
+    // What it is still reading is released on the agent, which takes the window alive.
+    insight_->clear();
 }
 
 app::EnableInputs SimpleGUIMainWindow::enableInputs() const {

@@ -73,7 +73,11 @@ FindFileWindow::FindFileWindow(Connect connect, QWidget* parent)
 }
 
 FindFileWindow::~FindFileWindow() {
+    // Releasing the view may wait for the agent, during which the window gets events. So nothing of
+    // it may be gone before.
+    slices_.stop();
     found_.showSearch(nullptr, {});
+    search_.reset();
 }
 
 void FindFileWindow::setUpTable() {

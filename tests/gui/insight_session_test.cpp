@@ -5,12 +5,14 @@
 
 #include <memory>
 
+#include <QEventLoop>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
 #include <QTableView>
 #include <QTest>
+#include <QTimer>
 
 #include "api/client_connection.h"
 #include "app/call_gate.h"
@@ -74,6 +76,8 @@ private slots:
     void aNewSessionTakesTheWindowsOver();
     void closingReleasesTheViews();
     void escapeCancelsAndThenCloses();
+    void nothingIsGoneWhileTheEndReleasesAView();
+    void nothingIsGoneWhileTheEndReleasesASet();
 
 private:
     FindFileWindow& search(const char* name) {
@@ -94,6 +98,19 @@ private:
         return static_cast<int>(std::count_if(held.begin(), held.end(), [](const auto& object) {
             return object.rfind("BackupSetRestoreView ", 0) == 0;
         }));
+    }
+
+    /// Destroys the window with a slow release. Returns whether `part` was there all that time.
+    bool outlivesTheRelease(const QPointer<QObject>& part) {
+        agent_->inject("Release", simulator::Delay{300ms});
+        int rounds = 0;
+        bool isThere = true;
+        const InTheWait loop([&] {
+            ++rounds;
+            isThere = isThere && part;
+        });
+        driver_.reset();
+        return rounds > 0 && isThere;
     }
 
     std::unique_ptr<GuiAgent> agent_;
@@ -262,6 +279,32 @@ void InsightSessionTest::escapeCancelsAndThenCloses() {
     QVERIFY(find.isVisible());
     QTest::keyClick(&find, Qt::Key_Escape);
     QVERIFY(!find.isVisible());
+}
+
+void InsightSessionTest::nothingIsGoneWhileTheEndReleasesAView() {
+    FindFileWindow& find = search("letter");
+    QTRY_VERIFY(found(find) > 0);
+    QVERIFY(find.isSearching());
+    QVERIFY(outlivesTheRelease(child<QTableView>(find, "tableFound").model()));
+}
+
+void InsightSessionTest::nothingIsGoneWhileTheEndReleasesASet() {
+    agent_->inject("getLastActivityOfType", simulator::Delay{100ms});
+    QEventLoop loop;
+    bool isHalfRead = false;
+    {
+        // That step ends its slice; the set stays open for the next.
+        const InTheWait user([&] {
+            isHalfRead = methodsOf(*agent_).back() == "getLastActivityOfType";
+            if (isHalfRead)
+                loop.quit();
+        });
+        QTimer::singleShot(patience, &loop, &QEventLoop::quit);
+        driver_->trigger("actionBackup_Health");
+        loop.exec();
+    }
+    QVERIFY(isHalfRead);
+    QVERIFY(outlivesTheRelease(driver_->window().findChild<BackupHealthWindow*>()));
 }
 
 QTEST_MAIN(InsightSessionTest)
