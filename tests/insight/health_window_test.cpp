@@ -98,7 +98,6 @@ private slots:
     void schedulesAreReadOnceAndAgainWhenASetChanges();
     void readingCanBeCancelled();
     void anotherSessionStartsWithNothing();
-    void aCancelledSetLeavesNoScheduleToTheNext();
     void aChangedScheduleNoLongerJudges();
     void theLogsPeriodChangesNoHealth();
     void aHiddenWindowIsFilledWhenItIsShown();
@@ -218,32 +217,6 @@ void HealthWindowTest::anotherSessionStartsWithNothing() {
     QVERIFY(!rowOf(fed.monitor, id).isRead);
     QVERIFY(!rowOf(fed.monitor, id).plan);
     QCOMPARE(fed.monitor.healthClock().missedHours, 0);
-}
-
-void HealthWindowTest::aCancelledSetLeavesNoScheduleToTheNext() {
-    Session session(Scenario::Overdue);
-    const auto sets = session::getConnection()->backup_sets_info();
-    const auto first = std::find_if(sets.begin(), sets.end(), insight::isScheduled);
-    const auto other = std::find_if(first, sets.end(), [&](const auto& set) {
-        return insight::isScheduled(set) && set.schedule_id != first->schedule_id;
-    });
-    QVERIFY(other != sets.end());
-    const auto called = [&](const char* method) {
-        const auto methods = session.methods();
-        return std::find(methods.begin(), methods.end(), method) != methods.end();
-    };
-    insight::HealthReader reader(session::getConnection);
-    reader.add(*first);
-    while (!called("getLastActivityOfType"))
-        QVERIFY(!reader.step());
-    reader.clear();
-    session.agent.clearCallLog();
-    reader.add(*other);
-    while (reader.left() > 0)
-        reader.step();
-    QVERIFY(called("getSchedule"));
-    QVERIFY(reader.detailsOf(other->id)->plan);
-    QVERIFY(!reader.detailsOf(first->id));
 }
 
 void HealthWindowTest::aChangedScheduleNoLongerJudges() {
