@@ -138,9 +138,12 @@ HeldEvents::HeldEvents(const WaitRules& rules, const QWidget& panel, std::functi
 }
 
 HeldEvents::~HeldEvents() {
-    for (const auto& action : silenced_)
-        if (action)
-            action->blockSignals(false);
+    for (const auto& [action, checked] : silenced_) {
+        if (!action)
+            continue;
+        action->setChecked(checked);
+        action->blockSignals(false);
+    }
     QCoreApplication::instance()->removeEventFilter(this);
     for (Held& held : held_)
         if (held.receiver)
@@ -219,13 +222,14 @@ bool HeldEvents::isInPanel(const QObject& receiver) const {
     return widget && (widget == &panel_ || panel_.isAncestorOf(widget));
 }
 
-/// A screen reader, for example, triggers an action without any input.
+/// A screen reader, for example, triggers an action without any input. A checkable one still
+/// changes its state.
 void HeldEvents::silenceActions() {
     for (const QWidget* widget : QApplication::allWidgets())
         for (QAction* action : widget->actions())
             if (!action->signalsBlocked() && !isAdmitted(action)) {
                 action->blockSignals(true);
-                silenced_.emplace_back(action);
+                silenced_.push_back({action, action->isChecked()});
             }
 }
 

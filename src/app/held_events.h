@@ -30,7 +30,7 @@ struct WaitRules {
 /// needs to paint, to move windows and to quit. For a nested event loop.
 ///
 /// Input is refused, except for `panel`, for the tray and, through menus, for the admitted actions.
-/// Other actions don't emit signals, whatever triggers them.
+/// Other actions don't emit signals, whatever triggers them, and end up checked as they were.
 /// The following are held and delivered after this object is destroyed: the posted events of the
 /// rules, deletions, and the release of keys and buttons pressed before.
 class HeldEvents : public QObject {
@@ -48,6 +48,11 @@ private:
         std::unique_ptr<QEvent> event;
     };
 
+    struct Silenced {
+        QPointer<QAction> action;
+        bool checked;
+    };
+
     bool holdsInput(QObject& receiver, QWidget* target, QEvent& event);
     bool isAdmitted(QWidget& target, const QEvent& event) const;
     bool isAdmitted(const QAction* action) const;
@@ -62,7 +67,7 @@ private:
     std::vector<Held> held_;
     std::set<std::pair<QObject*, QEvent::Type>> heldOnce_;
     std::vector<QPointer<QObject>> doomed_;
-    std::vector<QPointer<QAction>> silenced_;
+    std::vector<Silenced> silenced_;
     std::set<int> pressedKeys_; ///< during the lifetime of this object
 };
 

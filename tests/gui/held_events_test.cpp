@@ -31,16 +31,16 @@
 #include "app/open_backup_set.h"
 #include "insight/backup_health_window.h"
 #include "insight/slices.h"
-#include "resources/pictures.h"
 #include "session/connection.h"
-#include "tests/gui/waiting_fixture.h"
 #include "tests/support/gui_modal_driver.h"
+#include "tests/support/gui_wait.h"
+#include "tests/support/gui_waiting_fixture.h"
 #include "ui/later.h"
 #include "wizards/delete_select_page.h"
 #include "wizards/select_data_source_page.h"
 
 using namespace std::chrono_literals;
-using gui_tests::Calls;
+using support::Calls;
 using support::child;
 using support::clickDisconnect;
 using support::InTheWait;
@@ -66,13 +66,9 @@ void selectByReader(QTableView& table, int row) {
 
 } // namespace
 
-class HeldEventsTest : public QObject, private gui_tests::WaitingFixture {
+class HeldEventsTest : public support::WaitingFixture {
     Q_OBJECT
 private slots:
-    void initTestCase() { resources::initPictures(); }
-    void init() { setUp(); }
-    void cleanup() { tearDown(); }
-
     void inputDoesNothing();
     void whatWasPressedBeforeIsReleasedAfterwards();
     void keysDoNothing();
@@ -84,6 +80,7 @@ private slots:
     void deletionsWait();
     void menusTriggerNothingButQuit();
     void commandsTriggeredWithoutInputDoNothing();
+    void aCheckableCommandStaysAsItWas();
     void theTypedNameIsSentAfterTheCall();
     void aFieldThatLosesTheFocusWaits();
     void aComputerNameThatLosesTheFocusWaits();
@@ -453,6 +450,22 @@ void HeldEventsTest::commandsTriggeredWithoutInputDoNothing() {
                   [](QWidget& dialog) { static_cast<QDialog&>(dialog).accept(); });
     driver_->trigger("action_About");
     QVERIFY(modals.done());
+}
+
+void HeldEventsTest::aCheckableCommandStaysAsItWas() {
+    QAction action(&driver_->window());
+    action.setCheckable(true);
+    driver_->window().addAction(&action);
+    bool state = false; // of the program
+    connect(&action, &QAction::toggled, &action, [&state](bool checked) { state = checked; });
+    duringACall([&] { action.trigger(); });
+    QVERIFY(!state);
+    QVERIFY(!action.isChecked());
+    action.trigger();
+    QVERIFY(state);
+    duringACall([&] { action.setChecked(false); });
+    QVERIFY(state);
+    QVERIFY(action.isChecked());
 }
 
 void HeldEventsTest::slicesWaitWithoutALoad() {

@@ -27,16 +27,16 @@
 #include "app/login_check.h"
 #include "app/start_up.h"
 #include "insight/backup_health_window.h"
-#include "resources/pictures.h"
 #include "session/connection.h"
-#include "tests/gui/waiting_fixture.h"
 #include "tests/support/gui_modal_driver.h"
 #include "tests/support/gui_port_redirect.h"
 #include "tests/support/gui_translation.h"
+#include "tests/support/gui_wait.h"
+#include "tests/support/gui_waiting_fixture.h"
 #include "tests/support/held_names.h"
 
 using namespace std::chrono_literals;
-using gui_tests::Calls;
+using support::Calls;
 using support::child;
 using support::clickDisconnect;
 using support::InTheWait;
@@ -70,13 +70,9 @@ std::size_t residentMemory() {
 
 } // namespace
 
-class WaitingTest : public QObject, private gui_tests::WaitingFixture {
+class WaitingTest : public support::WaitingFixture {
     Q_OBJECT
 private slots:
-    void initTestCase() { resources::initPictures(); }
-    void init() { setUp(); }
-    void cleanup() { tearDown(); }
-
     void aSilentAgentIsLeftByTheButton();
     void aSilentAgentIsLeftByEscape();
     void thePanelGoesWhenTheAnswerComes();

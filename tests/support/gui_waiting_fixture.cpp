@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "tests/support/gui_waiting_fixture.h"
+
+#include <QTest>
+
+#include "resources/pictures.h"
+#include "tests/support/gui_wait.h"
+
+namespace support {
+
+void WaitingFixture::initTestCase() {
+    resources::initPictures();
+}
+
+void WaitingFixture::init() {
+    agent_ = std::make_unique<GuiAgent>();
+    gate_ = std::make_unique<app::CallGate>(quickTimes);
+    driver_ = std::make_unique<MainWindowDriver>();
+    driver_->window().keepAliveBy(*gate_);
+    driver_->logIn(*agent_);
+}
+
+void WaitingFixture::cleanup() {
+    QVERIFY(!waitingPanel());
+    driver_.reset();
+    gate_.reset();
+    QCOMPARE(agent_->violations(), Calls{});
+    agent_.reset();
+}
+
+void WaitingFixture::beSilent(const char* method) {
+    agent_->inject(method, simulator::Silence{});
+}
+
+} // namespace support
