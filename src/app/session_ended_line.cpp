@@ -99,7 +99,7 @@ void SessionEndedLine::setText(const QString& text) {
 void SessionEndedLine::makeRoom() {
     height_ = heightForWidth(dialog_.width());
     const int freed = std::clamp(height_, 0, largestFreed());
-    // Before the margin, which would make the dialog grow to its least size.
+    // Before the margin, which would make the dialog grow to its minimum size.
     grown_ += ui::growOnScreen(dialog_, std::max(freed - freed_, 0));
     setFreed(freed);
 }
@@ -120,7 +120,7 @@ void SessionEndedLine::setFreed(int height) {
     freed_ = height;
 }
 
-/// With which the dialog still fits its screen.
+/// The largest freed height with which the dialog still fits its screen.
 int SessionEndedLine::largestFreed() const {
     const QScreen* screen = dialog_.screen();
     if (!screen)

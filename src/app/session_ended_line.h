@@ -10,8 +10,8 @@ class QLabel;
 namespace app {
 
 /// A line at the top of an open dialog or wizard saying that the session has ended. The dialog
-/// grows by its height, and everything else stays as it is. Where the screen has no room for that,
-/// the content gives way as far as it can, and the line covers the rest.
+/// grows by its height, and everything else stays as it is. If the screen is too small for that,
+/// the content shrinks to its minimum, and the line covers the rest.
 class SessionEndedLine : public QFrame {
     Q_OBJECT
 public:

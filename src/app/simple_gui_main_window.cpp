@@ -41,7 +41,7 @@ SimpleGUIMainWindow::SimpleGUIMainWindow(QWidget* parent, std::unique_ptr<app::T
 SimpleGUIMainWindow::~SimpleGUIMainWindow() {
     heartbeat_.stop();
     sets_->abandonEditing();
-    // What it is still reading is released on the agent, which takes the window alive.
+    // Releases objects that are still being read. During these calls, the window must be complete.
     insight_->clear();
 }
 

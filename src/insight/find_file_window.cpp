@@ -73,8 +73,8 @@ FindFileWindow::FindFileWindow(Connect connect, QWidget* parent)
 }
 
 FindFileWindow::~FindFileWindow() {
-    // Releasing the view may wait for the agent, during which the window gets events. So nothing of
-    // it may be gone before.
+    // Releasing the view may wait for the agent, and the window gets events meanwhile. So it must
+    // still be complete.
     slices_.stop();
     found_.showSearch(nullptr, {});
     search_.reset();

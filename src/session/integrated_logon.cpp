@@ -55,7 +55,7 @@ bool performIntegratedLogon(boost::shared_ptr<ClientConnection>& connectionOut,
         auto answer = bootstrap.sspi_login(url, version, frameToken(context->outToken()));
         root = std::move(answer.conn);
         const auto token = framedToken(answer.context);
-        // A round without a token would begin the exchange again, perhaps for ever.
+        // A round without a token would begin the exchange again, perhaps forever.
         if (!context->done() && token.empty())
             return false;
         context->setInToken(token);

@@ -65,7 +65,7 @@ void ItemsSelectPage::changeEvent(QEvent* event) {
     QWizardPage::changeEvent(event);
 }
 
-/// With the tree, also while it is hidden.
+/// Includes the tree even while it is hidden.
 QSize ItemsSelectPage::largestSize() const {
     QSize size = sizeHint();
     if (ui_->treeComputer->isHidden())

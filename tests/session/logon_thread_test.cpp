@@ -21,7 +21,7 @@ using hessiancln::AwaitedCall;
 using hessiancln::ClientConnection;
 using support::ScriptedHook;
 
-/// The system's own operations; raises a signal when the logon has let go of them.
+/// The system's own operations; raises a signal when the logon has released them.
 class ReleasedOperations final : public support::ForwardingSecurityOperations {
 public:
     ReleasedOperations()

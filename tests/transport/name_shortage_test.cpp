@@ -26,8 +26,8 @@ std::string failureOf(ICallDispatcher& dispatcher) {
     }
 }
 
-/// Of a call whose name is resolved by a thread that then gets no memory, four times in a row: for
-/// the result, and to report that.
+/// The failure of a call whose name is resolved by a thread that then gets no memory four times in
+/// a row: for the result, and to report that.
 std::string failureWithoutMemory(ICallDispatcher& dispatcher) {
     std::unique_ptr<support::FailingAllocation> failing;
     support::HeldNames names(
