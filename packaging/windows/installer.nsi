@@ -1,13 +1,14 @@
 ; SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 ; SPDX-License-Identifier: Apache-2.0
 ;
-; The installer. tools/windows/installer gives VERSION, PROGRAM_FOLDER, FILE_LIST, ICON, LICENSE, SIGN
-; and OUTPUT.
+; The installer. tools/windows/pack gives VERSION, LISTS, ICON, LICENSE, SIGN and OUTPUT.
 
 Target amd64-unicode
 Unicode true
 SetCompressor /SOLID lzma
 ManifestDPIAware true
+; A file that can't be written ends a silent installation, too.
+AllowSkipFiles off
 
 !define NAME "Tarn-Mobile User"
 !define PROGRAM "tarn-mobile-user.exe"
@@ -21,6 +22,8 @@ ManifestDPIAware true
 !define MULTIUSER_USE_PROGRAMFILES64
 !define MULTIUSER_INSTALLMODE_COMMANDLINE
 !define MULTIUSER_INSTALLMODE_INSTDIR "${NAME}"
+!define MULTIUSER_INSTALLMODE_FUNCTION ModeChosen
+!define MULTIUSER_INSTALLMODE_UNFUNCTION un.ModeChosen
 !define MULTIUSER_INSTALLMODE_INSTDIR_REGISTRY_KEY "${UNINSTALL_KEY}"
 !define MULTIUSER_INSTALLMODE_INSTDIR_REGISTRY_VALUENAME InstallLocation
 !define MULTIUSER_INSTALLMODE_DEFAULT_REGISTRY_KEY "${UNINSTALL_KEY}"
@@ -32,8 +35,16 @@ ManifestDPIAware true
 !include LogicLib.nsh
 !include Sections.nsh
 !include WinMessages.nsh
-; Defines the macros InstallFiles and RemoveFiles.
-!include "${FILE_LIST}"
+!include WinVer.nsh
+; Defines the macros InstallFiles, RemoveFiles and ForEachLanguage.
+!include "${LISTS}"
+
+; The folder of the command line, or of the uninstaller; empty if there is none.
+Var GivenFolder
+; Where the program is installed; empty if it isn't.
+Var OldFolder
+; The language of the program, as in "--lang de".
+Var Code
 
 Name "${NAME} ${VERSION}"
 OutFile "${OUTPUT}"
@@ -63,129 +74,67 @@ VIAddVersionKey LegalCopyright "Copyright 2026 The Tarn-Mobile User authors"
 !insertmacro MUI_UNPAGE_CONFIRM
 !insertmacro MUI_UNPAGE_INSTFILES
 
-!insertmacro MUI_LANGUAGE English
-!insertmacro MUI_LANGUAGE German
-
-LangString DesktopIcon ${LANG_ENGLISH} "Desktop icon"
-LangString DesktopIcon ${LANG_GERMAN} "Symbol auf dem Desktop"
-LangString StartAtLogOn ${LANG_ENGLISH} "Start at log-on"
-LangString StartAtLogOn ${LANG_GERMAN} "Start bei der Anmeldung"
-LangString AboutProgram ${LANG_ENGLISH} "The program, its user guide and its entry in the Start menu."
-LangString AboutProgram ${LANG_GERMAN} "Das Programm, sein Handbuch und sein Eintrag im Startmenü."
-LangString AboutDesktopIcon ${LANG_ENGLISH} "A shortcut on the desktop."
-LangString AboutDesktopIcon ${LANG_GERMAN} "Eine Verknüpfung auf dem Desktop."
-LangString AboutStartAtLogOn ${LANG_ENGLISH} "Starts the program in the notification area when you log on to Windows."
-LangString AboutStartAtLogOn ${LANG_GERMAN} "Startet das Programm im Infobereich, wenn Sie sich bei Windows anmelden."
-LangString IsRunning ${LANG_ENGLISH} "${NAME} is running and has to be closed. Close it now?"
-LangString IsRunning ${LANG_GERMAN} "${NAME} läuft und muss beendet werden. Jetzt beenden?"
-LangString StillRuns ${LANG_ENGLISH} "${NAME} is still running. Quit it from its icon in the notification area, then try again."
-LangString StillRuns ${LANG_GERMAN} "${NAME} läuft noch. Beenden Sie es über sein Symbol im Infobereich und versuchen Sie es erneut."
-LangString OnlyFrom10 ${LANG_ENGLISH} "${NAME} needs Windows 10 or later."
-LangString OnlyFrom10 ${LANG_GERMAN} "${NAME} benötigt Windows 10 oder neuer."
-; The options that start the program in the installer's language.
-LangString ProgramOptions ${LANG_ENGLISH} "--lang en"
-LangString ProgramOptions ${LANG_GERMAN} "--lang de"
-
-; Asks every running program from this folder to end, as at the end of a session, and waits for it.
-; Its process may outlive its windows, and keeps the files in use until its end.
-!macro CloseFunctions un
-; Whether process $3 runs the program from this folder: $4 is 1 or 0.
-Function ${un}IsOurs
-    Push $5
-    Push $6
-    StrCpy $4 0
-    ; PROCESS_QUERY_LIMITED_INFORMATION
-    System::Call 'kernel32::OpenProcess(i 0x1000, i 0, i r3) p .r5'
-    ${If} $5 <> 0
-        System::Call 'kernel32::QueryFullProcessImageNameW(p r5, i 0, w .r6, *i ${NSIS_MAX_STRLEN})'
-        System::Call 'kernel32::CloseHandle(p r5)'
-        ${If} $6 == "$INSTDIR\${PROGRAM}"
-            StrCpy $4 1
-        ${EndIf}
-    ${EndIf}
-    Pop $6
-    Pop $5
-FunctionEnd
-
-; $R0: the number of processes.
-Function ${un}CountRunning
-    StrCpy $R0 0
-    ; TH32CS_SNAPPROCESS
-    System::Call 'kernel32::CreateToolhelp32Snapshot(i 2, i 0) p .r0'
-    System::Alloc 568 ; a PROCESSENTRY32W
-    Pop $1
-    System::Call '*$1(i 568)'
-    System::Call 'kernel32::Process32FirstW(p r0, p r1) i .r2'
-    ${DoWhile} $2 <> 0
-        System::Call '*$1(i, i, i .r3)'
-        Call ${un}IsOurs
-        IntOp $R0 $R0 + $4
-        System::Call 'kernel32::Process32NextW(p r0, p r1) i .r2'
-    ${Loop}
-    System::Free $1
-    System::Call 'kernel32::CloseHandle(p r0)'
-FunctionEnd
-
-Function ${un}AskToEnd
-    StrCpy $0 0
-    ${Do}
-        System::Call 'user32::FindWindowExW(p 0, p r0, p 0, p 0) p .r0'
-        ${If} $0 = 0
-            ${Break}
-        ${EndIf}
-        System::Call 'user32::GetWindowThreadProcessId(p r0, *i .r3)'
-        Call ${un}IsOurs
-        ${If} $4 = 1
-            ; The last arguments are ENDSESSION_CLOSEAPP, SMTO_ABORTIFHUNG and the limit in milliseconds.
-            System::Call 'user32::SendMessageTimeoutW(p r0, i ${WM_QUERYENDSESSION}, p 0, p 1, i 2, i 5000, *p .r5)'
-            ${If} $5 <> 0
-                System::Call 'user32::PostMessageW(p r0, i ${WM_ENDSESSION}, p 1, p 1)'
-            ${EndIf}
-        ${EndIf}
-    ${Loop}
-FunctionEnd
-
-Function ${un}CloseProgram
-    Call ${un}CountRunning
-    ${If} $R0 = 0
-        Return
-    ${EndIf}
-    MessageBox MB_OKCANCEL|MB_ICONEXCLAMATION $(IsRunning) /SD IDOK IDOK ask
-    Abort
-    ask:
-    Call ${un}AskToEnd
-    ${For} $R8 1 60
-        Sleep 250
-        Call ${un}CountRunning
-        ${If} $R0 = 0
-            Return
-        ${EndIf}
-    ${Next}
-    MessageBox MB_RETRYCANCEL|MB_ICONSTOP $(StillRuns) /SD IDCANCEL IDRETRY ask
-    SetErrorLevel 2
-    Quit
-FunctionEnd
+; With the language, its file defines LANGUAGE_CODE and the texts below in it.
+!macro AddLanguage code
+    !include "texts/${code}.nsh"
 !macroend
-!insertmacro CloseFunctions ""
-!insertmacro CloseFunctions "un."
+!insertmacro ForEachLanguage AddLanguage
+
+!include close_program.nsh
 
 ; The shortcut starts in the program's folder, where its translations and branding are.
 !macro Shortcut path options
-    CreateShortcut "${path}" "$INSTDIR\${PROGRAM}" "${options}" "$INSTDIR\${PROGRAM}" 0
+    CreateShortcut "${path}" "$INSTDIR\${PROGRAM}" "--lang $Code${options}" "$INSTDIR\${PROGRAM}" 0
 !macroend
+
+; A chosen folder that holds other files gets a folder of the program's own.
+Function UseOwnFolder
+    ${If} ${FileExists} "$INSTDIR\${PROGRAM}"
+        Return
+    ${EndIf}
+    ${DirState} $INSTDIR $0
+    ${If} $0 = 1
+        StrCpy $INSTDIR "$INSTDIR\${NAME}"
+    ${EndIf}
+FunctionEnd
+
+Function CloseOldAndNew
+    StrCpy $Folder $INSTDIR
+    Call CloseProgram
+    ${If} $OldFolder != ""
+        StrCpy $Folder $OldFolder
+        Call CloseProgram
+    ${EndIf}
+FunctionEnd
+
+; Removes the installed version, as files that only that one has would remain otherwise. It keeps the
+; shortcuts, wherever the user has put them.
+Function RemoveOld
+    ${If} $OldFolder == ""
+    ${OrIfNot} ${FileExists} "$OldFolder\uninstall.exe"
+        Return
+    ${EndIf}
+    ExecWait '"$OldFolder\uninstall.exe" /S /Upgrade /$MultiUser.InstallMode _?=$OldFolder' $0
+    ${If} $0 <> 0
+        MessageBox MB_OK|MB_ICONSTOP $(StillRuns) /SD IDOK
+        SetErrorLevel 2
+        Quit
+    ${EndIf}
+    ; It can't remove itself while it runs.
+    Delete "$OldFolder\uninstall.exe"
+    RMDir "$OldFolder"
+FunctionEnd
 
 Section "!${NAME}" WithProgram
     SectionIn RO
-    Call CloseProgram
-    SetOutPath "$INSTDIR"
-    ; Otherwise files that only the older version has would remain.
-    ${If} ${FileExists} "$INSTDIR\uninstall.exe"
-        ExecWait '"$INSTDIR\uninstall.exe" /S /Upgrade /$MultiUser.InstallMode _?=$INSTDIR'
-    ${EndIf}
+    Call UseOwnFolder
+    Call CloseOldAndNew
+    Call RemoveOld
+    SetErrorLevel 5
     !insertmacro InstallFiles
     SetOutPath "$INSTDIR"
     WriteUninstaller "$INSTDIR\uninstall.exe"
-    !insertmacro Shortcut "$SMPROGRAMS\${NAME}.lnk" "$(ProgramOptions)"
+    !insertmacro Shortcut "$SMPROGRAMS\${NAME}.lnk" ""
 
     WriteRegStr SHCTX "${UNINSTALL_KEY}" DisplayName "${NAME}"
     WriteRegStr SHCTX "${UNINSTALL_KEY}" DisplayVersion "${VERSION}"
@@ -194,6 +143,7 @@ Section "!${NAME}" WithProgram
     WriteRegStr SHCTX "${UNINSTALL_KEY}" InstallLocation "$INSTDIR"
     WriteRegStr SHCTX "${UNINSTALL_KEY}" UninstallString '"$INSTDIR\uninstall.exe" /$MultiUser.InstallMode'
     WriteRegStr SHCTX "${UNINSTALL_KEY}" QuietUninstallString '"$INSTDIR\uninstall.exe" /$MultiUser.InstallMode /S'
+    WriteRegStr SHCTX "${UNINSTALL_KEY}" Language "$Code"
     WriteRegDWORD SHCTX "${UNINSTALL_KEY}" NoModify 1
     WriteRegDWORD SHCTX "${UNINSTALL_KEY}" NoRepair 1
     ${GetSize} "$INSTDIR" "/S=0K" $0 $1 $2
@@ -204,14 +154,25 @@ Section "!${NAME}" WithProgram
         WriteRegExpandStr HKLM "${EVENT_SOURCE}" EventMessageFile "$INSTDIR\${PROGRAM}"
         WriteRegDWORD HKLM "${EVENT_SOURCE}" TypesSupported 1
     ${EndIf}
+    SetErrorLevel 0
 SectionEnd
 
 Section /o $(DesktopIcon) WithDesktopIcon
-    !insertmacro Shortcut "$DESKTOP\${NAME}.lnk" "$(ProgramOptions)"
+    !insertmacro Shortcut "$DESKTOP\${NAME}.lnk" ""
 SectionEnd
 
 Section /o $(StartAtLogOn) WithStartAtLogOn
-    !insertmacro Shortcut "$SMSTARTUP\${NAME}.lnk" "$(ProgramOptions) --tray"
+    !insertmacro Shortcut "$SMSTARTUP\${NAME}.lnk" " --tray"
+SectionEnd
+
+; What an earlier installation made and the user no longer wants.
+Section -Unselected
+    ${IfNot} ${SectionIsSelected} ${WithDesktopIcon}
+        Delete "$DESKTOP\${NAME}.lnk"
+    ${EndIf}
+    ${IfNot} ${SectionIsSelected} ${WithStartAtLogOn}
+        Delete "$SMSTARTUP\${NAME}.lnk"
+    ${EndIf}
 SectionEnd
 
 !insertmacro MUI_FUNCTION_DESCRIPTION_BEGIN
@@ -228,29 +189,80 @@ SectionEnd
     ${IfNot} ${Errors}
     ${OrIf} ${FileExists} "${made}"
         !insertmacro SelectSection ${section}
+    ${Else}
+        !insertmacro UnselectSection ${section}
+    ${EndIf}
+!macroend
+
+; The language $1, if there is such a one.
+!macro UseLanguage code
+    ${If} $1 == ${code}
+        StrCpy $LANGUAGE ${LANGUAGE_${code}}
+    ${EndIf}
+!macroend
+
+!macro UseCode code
+    ${If} $LANGUAGE = ${LANGUAGE_${code}}
+        StrCpy $Code ${code}
+    ${EndIf}
+!macroend
+
+; The languages of the command line, of the earlier installation, or of Windows, in this order.
+Function ChooseCode
+    !insertmacro ForEachLanguage UseCode
+    ClearErrors
+    ${GetOptions} $0 "/LANG=" $1
+    ${If} ${Errors}
+        ReadRegStr $1 SHCTX "${UNINSTALL_KEY}" Language
+        ${If} $1 != ""
+            StrCpy $Code $1
+        ${EndIf}
+    ${EndIf}
+FunctionEnd
+
+; Called at the start, and when the user has chosen for whom to install.
+Function ModeChosen
+    ReadRegStr $OldFolder SHCTX "${UNINSTALL_KEY}" InstallLocation
+    ${If} $GivenFolder != ""
+        StrCpy $INSTDIR $GivenFolder
+    ${EndIf}
+    ${GetParameters} $0
+    Call ChooseCode
+    !insertmacro Choose ${WithDesktopIcon} "/DESKTOPICON" "$DESKTOP\${NAME}.lnk"
+    !insertmacro Choose ${WithStartAtLogOn} "/STARTATLOGON" "$SMSTARTUP\${NAME}.lnk"
+FunctionEnd
+
+; MultiUser.nsh would show a message even in a silent installation.
+!macro RefuseWithoutRights un
+    UserInfo::GetAccountType
+    Pop $0
+    ${If} $0 != Admin
+    ${AndIf} $0 != Power
+        ${GetParameters} $1
+        ${${un}StrStr} $2 $1 "/AllUsers"
+        ${If} $2 != ""
+            MessageBox MB_OK|MB_ICONSTOP $(NeedsRights) /SD IDOK
+            SetErrorLevel 4
+            Quit
+        ${EndIf}
     ${EndIf}
 !macroend
 
 Function .onInit
+    ${GetParameters} $0
+    ${GetOptions} $0 "/LANG=" $1
+    !insertmacro ForEachLanguage UseLanguage
+    ; The first version in which the program's code page is UTF-8, as its manifest demands.
     ${IfNot} ${AtLeastWin10}
-        MessageBox MB_OK|MB_ICONSTOP $(OnlyFrom10) /SD IDOK
+    ${OrIfNot} ${AtLeastBuild} 18362
+        MessageBox MB_OK|MB_ICONSTOP $(TooOld) /SD IDOK
         SetErrorLevel 3
         Quit
     ${EndIf}
     SetRegView 64
+    !insertmacro RefuseWithoutRights ""
+    StrCpy $GivenFolder $INSTDIR
     !insertmacro MULTIUSER_INIT
-    ${GetParameters} $0
-    ClearErrors
-    ${GetOptions} $0 "/LANG=" $1
-    ${IfNot} ${Errors}
-        ${If} $1 == de
-            StrCpy $LANGUAGE ${LANG_GERMAN}
-        ${Else}
-            StrCpy $LANGUAGE ${LANG_ENGLISH}
-        ${EndIf}
-    ${EndIf}
-    !insertmacro Choose ${WithDesktopIcon} "/DESKTOPICON" "$DESKTOP\${NAME}.lnk"
-    !insertmacro Choose ${WithStartAtLogOn} "/STARTATLOGON" "$SMSTARTUP\${NAME}.lnk"
 FunctionEnd
 
 Function StartProgram
@@ -259,21 +271,51 @@ Function StartProgram
     Exec '"$WINDIR\explorer.exe" "$SMPROGRAMS\${NAME}.lnk"'
 FunctionEnd
 
+; The folder of the uninstaller is the one to remove, even if the program was installed elsewhere
+; later.
+Function un.ModeChosen
+    ReadRegStr $OldFolder SHCTX "${UNINSTALL_KEY}" InstallLocation
+    StrCpy $INSTDIR $GivenFolder
+FunctionEnd
+
+; $0: whether the registry and the shortcuts are about the program in this folder.
+Function un.IsRegistered
+    StrCpy $0 1
+    StrCpy $6 "$INSTDIR\uninstall.exe"
+    Call un.Identify
+    StrCpy $1 $6
+    StrCpy $6 "$OldFolder\uninstall.exe"
+    Call un.Identify
+    ${If} $6 != ""
+    ${AndIf} $6 != $1
+        StrCpy $0 0
+    ${EndIf}
+FunctionEnd
+
 Function un.onInit
     SetRegView 64
+    !insertmacro RefuseWithoutRights Un
+    StrCpy $GivenFolder $INSTDIR
     !insertmacro MULTIUSER_UNINIT
+    Call un.IsRegistered
+    ${If} $0 = 0
+        Call un.MultiUser.InstallMode.CurrentUser
+    ${EndIf}
 FunctionEnd
 
 Section Uninstall
+    StrCpy $Folder $INSTDIR
     Call un.CloseProgram
+    Call un.IsRegistered
+    StrCpy $R1 $0
     !insertmacro RemoveFiles
     Delete "$INSTDIR\uninstall.exe"
     RMDir "$INSTDIR"
     ${GetParameters} $0
     ClearErrors
     ${GetOptions} $0 "/Upgrade" $1
-    ; An upgrade keeps the shortcuts, wherever the user has put them.
     ${If} ${Errors}
+    ${AndIf} $R1 = 1
         Delete "$SMPROGRAMS\${NAME}.lnk"
         Delete "$DESKTOP\${NAME}.lnk"
         Delete "$SMSTARTUP\${NAME}.lnk"

@@ -45,6 +45,9 @@ public:
     /// From now on, abandons a silent agent without asking: the user is gone.
     void leaveSilentAgents() { leaving_ = true; }
 
+    /// Whether a call waits for its reply. Another one would fail.
+    bool waiting() const { return call_ != nullptr; }
+
     /// Whether the program was asked to quit during a wait.
     bool quitRequested() const { return quitRequested_; }
 

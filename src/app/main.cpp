@@ -7,6 +7,7 @@
 #include "base/product.h"
 #include "platform/file_dialog_history.h"
 #include "platform/foreground.h"
+#include "platform/library_search.h"
 #include "platform/standard_streams.h"
 #include "resources/pictures.h"
 #include "session/connection.h"
@@ -18,6 +19,7 @@ constexpr int answerTime = 5000;
 
 /// Settings that must be made before the application object exists.
 void prepareApplication() {
+    platform::restrictLibrarySearch();
     platform::fillStandardStreams();
     platform::allowSetForeground();
     app::prepareToolkit();
@@ -29,14 +31,14 @@ int runWindow(QtSingleApplication& application) {
     window.keepAliveBy(gate);
     ui::keepOnScreen(window);
     if (app::startsInTray(QCoreApplication::arguments()))
-        window.hideMainWindow();
+        app::startInTray(window);
     else
         app::showAtOnce(window);
+    app::logOutAtQuit(application, gate);
     QObject::connect(&application, &QtSingleApplication::messageReceived, &window,
                      &SimpleGUIMainWindow::showMainWindow);
     const int status = app::runLoggedIn(window, gate);
-    gate.leaveSilentAgents();
-    session::disconnectFromAgent();
+    app::logOut(gate);
     return status;
 }
 
@@ -51,7 +53,8 @@ int main(int argc, char** argv) {
     app::applyStyleSheet(application);
     if (application.sendMessage(QString(), answerTime))
         return 0;
-    const platform::NoFileDialogHistory noHistory;
+    platform::NoFileDialogHistory noHistory;
+    QObject::connect(&application, &QCoreApplication::aboutToQuit, [&] { noHistory.forget(); });
     session::g_language = app::languageOf(QCoreApplication::arguments());
     app::installTranslation(application, session::g_language);
     return runWindow(application);

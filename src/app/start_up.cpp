@@ -95,6 +95,28 @@ void showAtOnce(QWidget& window) {
                                         QEventLoop::WaitForMoreEvents);
 }
 
+void startInTray(SimpleGUIMainWindow& window) {
+    window.hideMainWindow();
+    // Otherwise Windows would know no window of ours but the tray's, which ignores the end of the
+    // desktop session.
+    window.winId();
+}
+
+void logOut(CallGate& gate) {
+    gate.leaveSilentAgents();
+    session::disconnectFromAgent();
+}
+
+void logOutAtQuit(QCoreApplication& application, CallGate& gate) {
+    QObject::connect(&application, &QCoreApplication::aboutToQuit, &gate, [&gate] {
+        // A call that runs now ends by itself when the event loops do.
+        if (gate.waiting())
+            gate.leaveSilentAgents();
+        else
+            logOut(gate);
+    });
+}
+
 void logInAtStart(SimpleGUIMainWindow& window, const CallGate* gate) {
     window.doLogin(true);
     if (gate && gate->quitRequested())

@@ -7,6 +7,7 @@
 #include <QSystemTrayIcon>
 
 class QApplication;
+class QCoreApplication;
 class QWidget;
 class SimpleGUIMainWindow;
 
@@ -39,6 +40,17 @@ void applyStyleSheet(QApplication& application);
 /// second if the desktop doesn't show it. The next step may block while an agent doesn't answer.
 /// Doesn't process input.
 void showAtOnce(QWidget& window);
+
+/// Hides `window` from its first moment on. The system can address it nevertheless, for example
+/// with the end of the desktop session.
+void startInTray(SimpleGUIMainWindow& window);
+
+/// Logs out of the agent.
+void logOut(CallGate& gate);
+
+/// Logs out as soon as the application is about to quit. At the end of the desktop session, some
+/// systems kill a process right after that.
+void logOutAtQuit(QCoreApplication& application, CallGate& gate);
 
 /// Tries the agent on this machine first, and asks the user if that didn't start a session. If
 /// that fails too, the window stays disconnected. With `gate`, quitting during the first login

@@ -133,7 +133,6 @@ void LogSearchBar::exportRows() {
     // The log may be cleared while the dialog is open.
     const QByteArray rows = log_->csv();
     QFileDialog dialog(window(), tr("Export Log"), documents(), tr("CSV Files (*.csv)"));
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setLabelText(QFileDialog::Accept, tr("&Save"));
     dialog.setDefaultSuffix(QStringLiteral("csv"));

@@ -6,15 +6,17 @@
 
 namespace platform {
 
-/// Keeps no trace of the folders that the user opens: at its end it removes what the toolkit's file
-/// dialog has stored about them, unless other programs had stored some before. Does nothing where
-/// the toolkit can be set to store it nowhere.
+/// Keeps no trace of the folders that the user opens: removes what the toolkit's file dialog has
+/// stored about them, at its end and when asked to, unless other programs had stored some before.
+/// Does nothing where the toolkit can be set to store it nowhere.
 class NoFileDialogHistory {
 public:
     NoFileDialogHistory();
     NoFileDialogHistory(const NoFileDialogHistory&) = delete;
     NoFileDialogHistory& operator=(const NoFileDialogHistory&) = delete;
     ~NoFileDialogHistory();
+
+    void forget();
 
 private:
     struct Found;

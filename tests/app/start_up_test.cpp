@@ -1,5 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
+#include <chrono>
+#include <utility>
+
 #include <QDir>
 #include <QFile>
 #include <QMessageBox>
@@ -14,10 +17,16 @@
 #include "app/simple_gui_main_window.h"
 #include "app/start_up.h"
 #include "resources/pictures.h"
+#include "session/connection.h"
 #include "session/process_values.h"
+#include "tests/support/gui_agent.h"
+#include "tests/support/gui_main_window.h"
 #include "tests/support/gui_modal_driver.h"
 #include "tests/support/gui_translation.h"
+#include "tests/support/gui_wait.h"
 #include "ui/size_text.h"
+
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -25,6 +34,11 @@ void write(const QString& name, const QByteArray& bytes) {
     QFile file(name);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
         qFatal("Can't write %s", qPrintable(name));
+}
+
+/// As Qt does at the end of the desktop session, and of the event loop.
+void announceQuit() {
+    QVERIFY(QMetaObject::invokeMethod(qApp, "aboutToQuit"));
 }
 
 class PaintCount : public QWidget {
@@ -167,6 +181,45 @@ private slots:
         app::showAtOnce(window);
         QVERIFY(window.isVisible());
         QVERIFY(window.paints > 0);
+    }
+
+    void theSystemKnowsAWindowThatStartsInTheTray() {
+        SimpleGUIMainWindow window;
+        app::startInTray(window);
+        QVERIFY(!window.isVisible());
+        QVERIFY(window.internalWinId() != 0);
+    }
+
+    void logsOutBeforeTheEventLoopEnds() {
+        support::GuiAgent agent;
+        support::MainWindowDriver driver;
+        app::CallGate gate;
+        app::logOutAtQuit(*qApp, gate);
+        driver.logIn(agent);
+        QVERIFY(session::connectedToAgent());
+        announceQuit();
+        QVERIFY(!session::connectedToAgent());
+        QCOMPARE(support::methodsOf(agent), std::vector<std::string>{"logout"});
+    }
+
+    void aQuitDuringACallLeavesASilentAgentAndMakesNoOtherCall() {
+        support::GuiAgent agent;
+        support::MainWindowDriver driver;
+        app::CallGate gate({20ms, 60ms});
+        app::logOutAtQuit(*qApp, gate);
+        driver.window().keepAliveBy(gate);
+        driver.logIn(agent);
+        agent.inject("getTarnClientInfo", simulator::Silence{});
+        bool announced = false;
+        const support::InTheWait user([&] {
+            if (!std::exchange(announced, true))
+                announceQuit();
+        });
+        driver.beat();
+        QVERIFY(announced);
+        QVERIFY(!session::connectedToAgent());
+        for (const std::string& method : support::methodsOf(agent))
+            QVERIFY(method.find("logout") == std::string::npos);
     }
 
     void aQuitDuringTheLoginEndsTheProgram() {

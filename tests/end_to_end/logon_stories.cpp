@@ -12,6 +12,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QTableView>
 
 #include "tests/end_to_end/screen.h"
 #include "tests/end_to_end/stories.h"
@@ -123,6 +124,21 @@ void quit(Player& player) {
 }
 
 } // namespace
+
+void playTray(Player& player) {
+    player.then(q("the sets behind the hidden window"), [&player] {
+        for (QWidget* widget : QApplication::topLevelWidgets()) {
+            if (!qobject_cast<QMainWindow*>(widget) || widget->isVisible())
+                continue;
+            const auto* sets = widget->findChild<QTableView*>(q("backupSetsView"));
+            if (!sets->model() || sets->model()->rowCount() == 0)
+                continue;
+            player.note(q("logged in"));
+            return true;
+        }
+        return false;
+    });
+}
 
 void playTicket(Player& player) {
     seeSets(player, "at the start");

@@ -26,6 +26,8 @@ public:
             playLogon(*player);
         else if (story == QLatin1String("tarnstay"))
             playStay(*player);
+        else if (story == QLatin1String("tarntray"))
+            playTray(*player);
         else
             playWork(*player);
         player->play();

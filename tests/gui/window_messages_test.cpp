@@ -96,6 +96,18 @@ private slots:
         QVERIFY(!session::connectedToAgent());
     }
 
+    /// Windows may kill the process once its windows have answered.
+    void theEndOfTheSessionLogsOutBeforeItsMessageIsAnswered() {
+        support::GuiAgent agent;
+        support::MainWindowDriver driver;
+        app::CallGate gate;
+        app::logOutAtQuit(*qApp, gate);
+        driver.logIn(agent);
+        SendMessageW(reinterpret_cast<HWND>(driver.window().winId()), WM_ENDSESSION, TRUE, 0);
+        QCOMPARE(support::methodsOf(agent), std::vector<std::string>{"logout"});
+        QVERIFY(!session::connectedToAgent());
+    }
+
     void theEndOfTheSessionIsAllowedAndEndsTheProgram() {
         support::MainWindowDriver driver;
         driver.window().show();

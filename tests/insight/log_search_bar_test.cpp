@@ -139,7 +139,9 @@ void LogSearchBarTest::theExportStartsInTheFolderForDocuments() {
         QString folder;
         support::ModalDriver modals;
         modals.expect(QStringLiteral("file"), support::isDialog<QFileDialog>, [&](QWidget& dialog) {
-            folder = static_cast<QFileDialog&>(dialog).directory().absolutePath();
+            auto& files = static_cast<QFileDialog&>(dialog);
+            QVERIFY(!files.testOption(QFileDialog::DontUseNativeDialog));
+            folder = files.directory().absolutePath();
             static_cast<QDialog&>(dialog).reject();
         });
         support::child<QPushButton>(*window.bar, "buttonExport").click();

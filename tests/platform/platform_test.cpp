@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/foreground.h"
+#include "platform/library_search.h"
 #include "platform/process_id.h"
 #include "platform/security_context.h"
 
@@ -30,6 +31,11 @@ TEST(SecurityOperations, AreThereOnEverySystem) {
 
 TEST(Foreground, MayBePassedAtAnyTime) {
     EXPECT_NO_THROW(platform::allowSetForeground());
+}
+
+TEST(LibrarySearch, MayBeRestrictedMoreThanOnce) {
+    EXPECT_NO_THROW(platform::restrictLibrarySearch());
+    EXPECT_NO_THROW(platform::restrictLibrarySearch());
 }
 
 } // namespace

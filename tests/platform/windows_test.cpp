@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
+#include <filesystem>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -8,6 +9,7 @@
 #include "platform/administrators.h"
 #include "platform/event_log.h"
 #include "platform/file_dialog_history.h"
+#include "platform/library_search.h"
 #include "platform/process_id.h"
 #include "platform/session_folder.h"
 #include "platform/user_name.h"
@@ -58,14 +60,45 @@ TEST(Administrators, HoldNoEmptyNameAndNoneWithAZeroInside) {
     EXPECT_FALSE(platform::isAdministrator(std::string("Administrator\0x", 15)));
 }
 
+bool loads(const wchar_t* name) {
+    const HMODULE library = LoadLibraryW(name);
+    if (library)
+        FreeLibrary(library);
+    return library != nullptr;
+}
+
+TEST(LibrarySearch, FindsNothingInTheCurrentDirectory) {
+    wchar_t program[MAX_PATH];
+    ASSERT_GT(GetModuleFileNameW(nullptr, program, MAX_PATH), 0u);
+    const auto library = std::filesystem::path(program).parent_path() / "libwinpthread-1.dll";
+    const auto folder = std::filesystem::temp_directory_path() / "tarn-planted";
+    std::filesystem::create_directory(folder);
+    std::filesystem::copy_file(library, folder / "tarn_planted.dll",
+                               std::filesystem::copy_options::overwrite_existing);
+    std::filesystem::current_path(folder);
+    EXPECT_TRUE(loads(L"tarn_planted.dll"));
+    platform::restrictLibrarySearch();
+    EXPECT_FALSE(loads(L"tarn_planted.dll"));
+    std::filesystem::current_path(folder.parent_path());
+    std::filesystem::remove_all(folder);
+}
+
 TEST(SessionFilePrefix, NamesTheFolderAndTheSession) {
-    wchar_t folder[MAX_PATH + 1];
-    ASSERT_GT(GetTempPathW(MAX_PATH + 1, folder), 0u);
     DWORD session = 0;
     ASSERT_TRUE(ProcessIdToSessionId(GetCurrentProcessId(), &session));
     const std::string prefix = platform::sessionFilePrefix();
     EXPECT_TRUE(prefix.ends_with("/session-" + std::to_string(session) + '-')) << prefix;
     EXPECT_EQ(prefix.find('\\'), std::string::npos) << prefix;
+    const std::filesystem::path folder =
+        std::filesystem::path(platform::toWide(prefix)).parent_path();
+    EXPECT_TRUE(std::filesystem::is_directory(folder)) << prefix;
+}
+
+TEST(SessionFilePrefix, IsTheSameWhateverTheEnvironmentSays) {
+    const std::string expected = platform::sessionFilePrefix();
+    for (const char* variable : {"TEMP", "TMP", "LOCALAPPDATA", "USERPROFILE"})
+        setEnvironment(variable, "C:\\elsewhere");
+    EXPECT_EQ(platform::sessionFilePrefix(), expected);
 }
 
 /// Of the current user; removed at the end of the test.
@@ -105,6 +138,14 @@ TEST(NoFileDialogHistory, RemovesWhatWasStoredMeanwhile) {
         const platform::NoFileDialogHistory none;
         Key::create(ofTheDialog);
     }
+    EXPECT_FALSE(Key::exists(ofTheToolkit));
+}
+
+TEST(NoFileDialogHistory, ForgetsWhenAskedTo) {
+    const Key key(ofTheToolkit);
+    platform::NoFileDialogHistory none;
+    Key::create(ofTheDialog);
+    none.forget();
     EXPECT_FALSE(Key::exists(ofTheToolkit));
 }
 

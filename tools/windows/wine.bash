@@ -100,13 +100,16 @@ with_agent() {
 
 windows_path() { echo "Z:${1//\//\\}"; }
 
-# play_windows STORY FOLDER [LANGUAGE]: what the shortcut does. Wine follows it by its path in the
-# ANSI code page, where an Omega is lost.
+# play_windows STORY FOLDER [LANGUAGE [OPTION]...]: what the shortcut does. Wine follows it by its path
+# in the ANSI code page, where an Omega is lost.
 play_windows() {
-    mkdir -p "$2"
+    local name=$1 folder=$2 language=${3-en}
+    shift $(($# < 3 ? $# : 3))
+    mkdir -p "$folder"
     cd "$(dirname "$program")"
-    WINEQT_PLUGIN_PATH=$(windows_path "$story") WINEQT_QPA_GENERIC_PLUGINS="$1:$(windows_path "$2")" \
-        wine tarn-mobile-user.exe --lang "${3-en}"
+    WINEQT_PLUGIN_PATH=$(windows_path "$story") \
+        WINEQT_QPA_GENERIC_PLUGINS="$name:$(windows_path "$folder")" \
+        wine tarn-mobile-user.exe --lang "$language" "$@"
 }
 
 # in_realm OPTION... -- LOG FUNCTION ARGUMENT...: an exported function with an agent and Wine in a
@@ -125,12 +128,63 @@ in_realm() {
         bash -c 'with_agent "$1" bash -c '"'"'"$@"'"'"' _ "${@:2}"' _ "$@"
 }
 
-# Everything that an installation could leave behind: files, and the registry without its times.
+# state FILE: writes everything that an installation could leave behind, sorted: the files, and the
+# keys and values of the registry, each value after its key.
 state() {
     wineserver -w
     (
         cd "$WINEPREFIX"
-        find drive_c -path '*/Temp/*' -prune -o -print | sort
-        sed -e 's/\] [0-9]*$/]/' -e '/^#time=/d' system.reg user.reg
-    )
+        # What an uninstaller leaves until the next start: Wine tries to remove the folder before the
+        # file in it.
+        find drive_c -name '~nsu*.tmp' -empty -prune -o -type f -printf '%p=%s\n' -o -printf '%p\n'
+        awk '/^\[/ { key = FILENAME " " substr($0, 1, match($0, /\] [0-9]+$/) ? RSTART : length($0)); print key; next }
+            /^["@ ]/ { printf "%s\t%s", key, $0; while (/\\$/ && (getline) > 0) printf "%s", $0; print "" }' \
+            system.reg user.reg
+    ) | sort >"$1"
+}
+
+# changes BEFORE AFTER: the lines that only one of two states has.
+changes() { LC_ALL=C comm -3 <(LC_ALL=C sort "$1") <(LC_ALL=C sort "$2") | sed 's/^\t//'; }
+
+# Without the value.
+names() { sed 's/=.*//' | LC_ALL=C sort -u; }
+
+# start_again: as Windows does with a restart, Wine then removes the files that programs have left for
+# that.
+start_again() {
+    wineserver -k || true
+    wineserver -w
+    wineboot --init >/dev/null 2>&1
+    wineserver -w
+}
+
+# The names of what Wine itself changes: when it starts, and when one of its own programs shows a
+# window. Folders and keys that every Windows has are made first.
+learn_noise() {
+    wine reg add 'HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall' /f >/dev/null
+    mkdir -p "$WINEPREFIX/drive_c/users/$user/AppData/Local/Programs"
+    start_again
+    state "$work/quiet"
+    : >"$work/noise"
+    local window
+    for window in Notepad 'About Wine'; do
+        case $window in
+            Notepad) wine notepad & ;;
+            *) wine winver & ;;
+        esac
+        wait_until 60 xdotool search --name "$window" >/dev/null || fail "Wine shows no window"
+        wineserver -k
+        start_again
+        state "$work/noisy"
+        changes "$work/quiet" "$work/noisy" | names >>"$work/noise"
+    done
+}
+
+# expect_unchanged BEFORE AFTER: nothing but Wine's own noise may differ.
+expect_unchanged() {
+    local line changed=
+    while read -r line; do
+        grep -qxF -e "$(names <<<"$line")" "$work/noise" || { echo "$line" >&2; changed=yes; }
+    done < <(changes "$1" "$2")
+    [ -z "$changed" ]
 }

@@ -10,4 +10,6 @@ NoFileDialogHistory::NoFileDialogHistory() = default;
 
 NoFileDialogHistory::~NoFileDialogHistory() = default;
 
+void NoFileDialogHistory::forget() {}
+
 } // namespace platform

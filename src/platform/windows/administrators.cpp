@@ -6,9 +6,11 @@
 #include <span>
 #include <vector>
 
+#define SECURITY_WIN32
 #include <windows.h>
 
 #include <lm.h>
+#include <security.h>
 
 #include "platform/windows/wide_text.h"
 
@@ -53,6 +55,35 @@ bool isGroup(const wchar_t* name, PSID wanted) {
     return found && EqualSid(sid.data(), wanted);
 }
 
+/// The account of this process with its domain, as in DOMAIN\name; empty if unknown.
+std::wstring qualifiedAccount() {
+    ULONG size = 0;
+    GetUserNameExW(NameSamCompatible, nullptr, &size);
+    std::wstring account(size, L'\0');
+    if (!GetUserNameExW(NameSamCompatible, account.data(), &size))
+        return {};
+    account.resize(size);
+    return account;
+}
+
+/// Whether the qualified account has this name in its domain.
+bool isNameOf(const std::wstring& account, const std::wstring& name) {
+    const std::size_t separator = account.find(L'\\');
+    return separator != std::wstring::npos &&
+           CompareStringOrdinal(account.c_str() + separator + 1, -1, name.c_str(), -1, TRUE) ==
+               CSTR_EQUAL;
+}
+
+NET_API_STATUS readGroups(const std::wstring& account, OwnedGroups& groups, DWORD& count) {
+    LPBYTE buffer = nullptr;
+    DWORD total = 0;
+    const NET_API_STATUS status =
+        NetUserGetLocalGroups(nullptr, account.c_str(), 0, LG_INCLUDE_INDIRECT, &buffer,
+                              MAX_PREFERRED_LENGTH, &count, &total);
+    groups.reset(reinterpret_cast<LOCALGROUP_USERS_INFO_0*>(buffer));
+    return status;
+}
+
 } // namespace
 
 bool isAdministrator(const std::string& user) {
@@ -60,13 +91,15 @@ bool isAdministrator(const std::string& user) {
     // An embedded zero would truncate the name on its way to the system.
     if (name.empty() || name.find(L'\0') != std::wstring::npos)
         return false;
-    LPBYTE buffer = nullptr;
+    OwnedGroups groups;
     DWORD count = 0;
-    DWORD total = 0;
-    const NET_API_STATUS status =
-        NetUserGetLocalGroups(nullptr, name.c_str(), 0, LG_INCLUDE_INDIRECT, &buffer,
-                              MAX_PREFERRED_LENGTH, &count, &total);
-    const OwnedGroups groups(reinterpret_cast<LOCALGROUP_USERS_INFO_0*>(buffer));
+    NET_API_STATUS status = readGroups(name, groups, count);
+    if (status == NERR_UserNotFound) {
+        // Without a domain, only the accounts of this machine are found.
+        const std::wstring account = qualifiedAccount();
+        if (isNameOf(account, name))
+            status = readGroups(account, groups, count);
+    }
     if (status != NERR_Success || !groups)
         return false;
     const OwnedSid administrators = administratorsSid();

@@ -38,6 +38,10 @@ NoFileDialogHistory::NoFileDialogHistory()
 }
 
 NoFileDialogHistory::~NoFileDialogHistory() {
+    forget();
+}
+
+void NoFileDialogHistory::forget() {
     if (found_->firstMissing)
         RegDeleteTreeW(HKEY_CURRENT_USER, found_->firstMissing);
 }

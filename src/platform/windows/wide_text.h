@@ -7,7 +7,7 @@
 
 namespace platform {
 
-/// Converts UTF-8 to the system's own text and back. Invalid text becomes empty.
+/// Converts UTF-8 to the system's own text and back. Invalid parts become U+FFFD.
 std::wstring toWide(std::string_view utf8);
 std::string toUtf8(std::wstring_view wide);
 

@@ -1,0 +1,14 @@
+; SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+; SPDX-License-Identifier: Apache-2.0
+!insertmacro MUI_LANGUAGE English
+!define LANGUAGE_en ${LANG_ENGLISH}
+
+LangString DesktopIcon ${LANG_ENGLISH} "Desktop icon"
+LangString StartAtLogOn ${LANG_ENGLISH} "Start at log-on"
+LangString AboutProgram ${LANG_ENGLISH} "The program, its user guide and its entry in the Start menu."
+LangString AboutDesktopIcon ${LANG_ENGLISH} "A shortcut on the desktop."
+LangString AboutStartAtLogOn ${LANG_ENGLISH} "Starts the program in the notification area when you log on to Windows."
+LangString IsRunning ${LANG_ENGLISH} "${NAME} is running and has to be closed. Close it now?"
+LangString StillRuns ${LANG_ENGLISH} "${NAME} is still running. Quit it from its icon in the notification area, then try again."
+LangString TooOld ${LANG_ENGLISH} "${NAME} needs Windows 10, version 1903, or later."
+LangString NeedsRights ${LANG_ENGLISH} "Only an administrator can install or remove ${NAME} for all users."
