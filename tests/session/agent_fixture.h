@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include <gmock/gmock.h>
 
@@ -22,8 +23,8 @@ protected:
 
     void TearDown() override {
         session::g_connection.reset();
-        if (!agentGone)
-            EXPECT_THAT(agent.liveObjects(), testing::IsEmpty());
+        using Objects = std::vector<std::string>;
+        EXPECT_THAT(agentGone ? Objects() : agent.liveObjects(), testing::IsEmpty());
         EXPECT_THAT(agent.violations(), testing::IsEmpty());
         EXPECT_EQ(agent.waitingInjections(), 0u);
     }

@@ -26,15 +26,15 @@ std::string ViewingAgent::takeCalls() {
 }
 
 std::string ViewingAgent::sendRequest(const std::string&, const std::string& request) {
-    constexpr std::string_view items("c\x01\0m\0\x0bgetSubItems", 17);
-    constexpr std::string_view versions("c\x01\0m\0\x12getItemGenerations", 24);
+    constexpr std::string_view askForItems("c\x01\0m\0\x0bgetSubItems", 17);
+    constexpr std::string_view askForVersions("c\x01\0m\0\x12getItemGenerations", 24);
     hessianser::Cursor in(request);
-    const bool ofItems = in.startsWith(items);
-    if (!ofItems && !in.startsWith(versions))
+    const bool ofItems = in.startsWith(askForItems);
+    if (!ofItems && !in.startsWith(askForVersions))
         throw std::logic_error("no such method");
-    in.skip(ofItems ? items.size() : versions.size());
+    in.skip(ofItems ? askForItems.size() : askForVersions.size());
     const auto id = hessianser::readValue<std::int64_t>(in);
-    return ofItems ? reply(this->items, id, "") : reply(generations, id, "g");
+    return ofItems ? reply(items, id, "") : reply(generations, id, "g");
 }
 
 template <class Value>

@@ -18,17 +18,14 @@ QStringList lettersIn(const QStringList& texts) {
     return texts.filter(QRegularExpression(q("[a-z0-9]")));
 }
 
-struct ShownField {
-    explicit ShownField(QLineEdit& field)
-        : field(field) {
-        field.setEchoMode(QLineEdit::Password);
-        field.show();
-        if (!QTest::qWaitForWindowActive(&field))
-            qFatal("The field doesn't become active");
-        field.setFocus();
-    }
-    QLineEdit& field;
-};
+/// Shows a password field that has the focus.
+void showFocused(QLineEdit& field) {
+    field.setEchoMode(QLineEdit::Password);
+    field.show();
+    if (!QTest::qWaitForWindowActive(&field))
+        qFatal("The field doesn't become active");
+    field.setFocus();
+}
 
 void editInEveryWay(QLineEdit& field) {
     QTest::keyClicks(&field, q("secret"));
@@ -49,7 +46,7 @@ private slots:
     void aPlainFieldIsHeard() {
         const support::ScreenReader reader;
         QLineEdit field;
-        const ShownField shown(field);
+        showFocused(field);
         editInEveryWay(field);
         QVERIFY(lettersIn(reader.heard()).size() > 5);
     }
@@ -57,7 +54,7 @@ private slots:
     void whatIsTypedIsHeardMasked() {
         support::ScreenReader reader;
         ui::SecretField field;
-        const ShownField shown(field);
+        showFocused(field);
         QTest::keyClick(&field, Qt::Key_S);
         QCOMPARE(reader.heard(), QStringList{field.displayText()});
         editInEveryWay(field);
@@ -68,7 +65,7 @@ private slots:
     void whatWasStoredIsNotHeardAsItGoes() {
         support::ScreenReader reader;
         ui::SecretField field;
-        const ShownField shown(field);
+        showFocused(field);
         field.setSecret("stored");
         QCOMPARE(lettersIn(reader.heard()), QStringList());
         field.selectAll();
@@ -83,7 +80,7 @@ private slots:
         support::ScreenReader reader;
         const ui::SecretField secret;
         QLineEdit name;
-        const ShownField shown(name);
+        showFocused(name);
         name.setEchoMode(QLineEdit::Normal);
         reader.forget();
         QTest::keyClick(&name, Qt::Key_A);

@@ -251,10 +251,10 @@ void RestoreSelectPageTest::aScreenReaderSeesTheFilesOfTheFolder() {
     auto& tree = child<QTreeView>(page, "treeSelection");
     auto& face = *QAccessible::queryAccessibleInterface(&child<QListView>(page, "listSelection"));
     const auto texts = [&face] {
-        QStringList texts;
+        QStringList rows;
         for (int row = 0; row < face.tableInterface()->rowCount(); ++row)
-            texts << face.tableInterface()->cellAt(row, 0)->text(QAccessible::Name);
-        return texts;
+            rows << face.tableInterface()->cellAt(row, 0)->text(QAccessible::Name);
+        return rows;
     };
     tree.expand(rowAt(tree, "C:"));
     tree.setCurrentIndex(rowAt(tree, "C:/docs"));
