@@ -3,8 +3,6 @@
 
 // What a call leaves in the memory that it frees.
 #include <cstddef>
-#include <cstdlib>
-#include <new>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -13,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/loopback_server.h"
+#include "tests/support/watched_allocation.h"
 #include "transport/http_call_dispatcher.h"
 #include "transport/invoke_exception.h"
 
@@ -41,32 +40,13 @@ public:
     int blocksWithSecret() const { return findings; }
 };
 
-// Each block is preceded by its size.
-constexpr std::size_t headSize = alignof(std::max_align_t);
-
 } // namespace
 
-void* operator new(std::size_t size) {
-    auto* const block = static_cast<char*>(std::malloc(headSize + size));
-    if (!block)
-        throw std::bad_alloc();
-    new (block) std::size_t(size);
-    return block + headSize;
-}
+void support::allocated(std::size_t) noexcept {}
 
-void operator delete(void* memory) noexcept {
-    if (!memory)
-        return;
-    char* const block = static_cast<char*>(memory) - headSize;
-    const std::size_t size = *reinterpret_cast<std::size_t*>(block);
-    if (!sought.empty() &&
-        std::string_view(static_cast<char*>(memory), size).find(sought) != std::string_view::npos)
+void support::freed(const char* block, std::size_t size) noexcept {
+    if (!sought.empty() && std::string_view(block, size).find(sought) != std::string_view::npos)
         ++findings;
-    std::free(block);
-}
-
-void operator delete(void* memory, std::size_t) noexcept {
-    operator delete(memory);
 }
 
 namespace {

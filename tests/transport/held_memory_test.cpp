@@ -4,13 +4,12 @@
 // How much memory a call takes at a time.
 #include <algorithm>
 #include <cstddef>
-#include <cstdlib>
-#include <new>
 #include <string>
 
 #include <gtest/gtest.h>
 
 #include "tests/support/loopback_server.h"
+#include "tests/support/watched_allocation.h"
 #include "transport/http_call_dispatcher.h"
 
 namespace {
@@ -19,31 +18,15 @@ namespace {
 thread_local std::ptrdiff_t held = 0;
 thread_local std::ptrdiff_t mostHeld = 0;
 
-// Each block is preceded by its size.
-constexpr std::size_t headSize = alignof(std::max_align_t);
-
 } // namespace
 
-void* operator new(std::size_t size) {
-    auto* const block = static_cast<char*>(std::malloc(headSize + size));
-    if (!block)
-        throw std::bad_alloc();
-    new (block) std::size_t(size);
+void support::allocated(std::size_t size) noexcept {
     held += static_cast<std::ptrdiff_t>(size);
     mostHeld = std::max(mostHeld, held);
-    return block + headSize;
 }
 
-void operator delete(void* memory) noexcept {
-    if (!memory)
-        return;
-    char* const block = static_cast<char*>(memory) - headSize;
-    held -= static_cast<std::ptrdiff_t>(*reinterpret_cast<std::size_t*>(block));
-    std::free(block);
-}
-
-void operator delete(void* memory, std::size_t) noexcept {
-    operator delete(memory);
+void support::freed(const char*, std::size_t size) noexcept {
+    held -= static_cast<std::ptrdiff_t>(size);
 }
 
 namespace {
