@@ -17,13 +17,13 @@ using Kind = ConnectionState::Kind;
 QIcon pictureOf(Kind kind) {
     switch (kind) {
     case Kind::connected:
-        return QIcon(QStringLiteral(":/icons/connect"));
+        return QIcon(QStringLiteral(":/icons/connect.png"));
     case Kind::lost:
         return QIcon(QStringLiteral(":/icons/event_warning.png"));
     case Kind::notConnected:
         break;
     }
-    return QIcon(QStringLiteral(":/icons/disconnect"));
+    return QIcon(QStringLiteral(":/icons/disconnect.png"));
 }
 
 } // namespace

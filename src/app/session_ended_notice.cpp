@@ -30,7 +30,7 @@ SessionEndedNotice::SessionEndedNotice(QAbstractItemView& list)
     label_.setAlignment(Qt::AlignCenter);
     label_.setWordWrap(true);
     button_.setObjectName(QStringLiteral("buttonConnect"));
-    button_.setIcon(QIcon(QStringLiteral(":/icons/connect")));
+    button_.setIcon(QIcon(QStringLiteral(":/icons/connect.png")));
     connect(&button_, &QPushButton::clicked, this, &SessionEndedNotice::connectWanted);
     auto* layout = new QVBoxLayout(this);
     layout->setSpacing(12);

@@ -16,7 +16,7 @@ StatusLink::StatusLink(QStatusBar& bar)
     , bar_(bar)
     , button_(*new QToolButton(&bar)) {
     button_.setObjectName(QStringLiteral("buttonStatusEvents"));
-    button_.setIcon(QIcon(QStringLiteral(":/button/event_log")));
+    button_.setIcon(QIcon(QStringLiteral(":/button/event_log.png")));
     button_.setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     button_.setAutoRaise(true);
     button_.setFocusPolicy(Qt::TabFocus);

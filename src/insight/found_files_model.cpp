@@ -105,7 +105,7 @@ QVariant FoundFilesModel::data(const QModelIndex& index, int role) const {
     if (role == Qt::DisplayRole)
         return text(at(index.row()), index.column());
     if (role == Qt::DecorationRole && index.column() == name)
-        return ui::sharedIcon(QStringLiteral(":/tree/file"));
+        return ui::sharedIcon(QStringLiteral(":/tree/file.png"));
     if (role == Qt::TextAlignmentRole)
         return ui::alignmentOf(columnTable[static_cast<std::size_t>(index.column())]);
     return {};

@@ -140,7 +140,7 @@ QString stateIcon(HealthState state) {
     case HealthState::Safe:
         break;
     }
-    return QStringLiteral(":/icons/health_safe");
+    return QStringLiteral(":/icons/health_safe.png");
 }
 
 QString roughDuration(std::int64_t seconds) {

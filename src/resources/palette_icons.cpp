@@ -4,7 +4,6 @@
 
 #include <QApplication>
 #include <QFile>
-#include <QImageReader>
 #include <QPainter>
 #include <QPixmapCache>
 #include <QStyle>
@@ -38,6 +37,11 @@ bool fits(const QSize& drawing, const QSize& size) {
     return drawing.width() >= size.width() && drawing.height() >= size.height();
 }
 
+/// Whether a drawing needs less scaling down to `size` than another one.
+bool isBetter(const QSize& drawing, const QSize& other, const QSize& size) {
+    return fits(drawing, size) ? !fits(other, size) || fits(other, drawing) : fits(drawing, other);
+}
+
 /// Never larger than the drawing.
 QSize shownSize(const QSize& drawing, const QSize& size) {
     return fits(size, drawing) ? drawing : drawing.scaled(size, Qt::KeepAspectRatio);
@@ -62,14 +66,11 @@ PaletteIconEngine::Drawing::Drawing(QIcon::Mode mode, const QString& file)
 
 PaletteIconEngine::Drawing::Drawing(QIcon::Mode mode, const QPixmap& picture)
     : mode_(mode)
-    , size_(picture.size())
     , onLight_(picture)
     , onDark_(picture) {}
 
-QSize PaletteIconEngine::Drawing::size() const {
-    if (!size_.isValid())
-        size_ = QImageReader(file_, format).size();
-    return size_;
+const QPixmap& PaletteIconEngine::Drawing::onPalette(QIcon::Mode mode) const {
+    return isTextLight(mode) ? onDark() : onLight();
 }
 
 const QPixmap& PaletteIconEngine::Drawing::onLight() const {
@@ -79,9 +80,11 @@ const QPixmap& PaletteIconEngine::Drawing::onLight() const {
 }
 
 const QPixmap& PaletteIconEngine::Drawing::onDark() const {
-    if (onDark_.isNull())
-        onDark_ = load(darkTwin(file_));
-    return onDark_.isNull() ? onLight() : onDark_;
+    if (onDark_.isNull()) {
+        const QString twin = darkTwin(file_);
+        onDark_ = QFile::exists(twin) ? load(twin) : onLight();
+    }
+    return onDark_;
 }
 
 const PaletteIconEngine::Drawing* PaletteIconEngine::drawingFor(const QSize& size,
@@ -90,9 +93,7 @@ const PaletteIconEngine::Drawing* PaletteIconEngine::drawingFor(const QSize& siz
     for (const Drawing& drawing : drawings_) {
         if (drawing.mode() != mode)
             continue;
-        if (!best || (fits(drawing.size(), size)
-                          ? !fits(best->size(), size) || fits(best->size(), drawing.size())
-                          : fits(drawing.size(), best->size())))
+        if (!best || isBetter(drawing.size(), best->size(), size))
             best = &drawing;
     }
     return best || mode == QIcon::Normal ? best : drawingFor(size, QIcon::Normal);
@@ -110,7 +111,7 @@ QPixmap PaletteIconEngine::pixmap(const QSize& size, QIcon::Mode mode, QIcon::St
     const Drawing* drawing = drawingFor(size, mode);
     if (!drawing)
         return {};
-    const QPixmap& picture = isTextLight(mode) ? drawing->onDark() : drawing->onLight();
+    const QPixmap& picture = drawing->onPalette(mode);
     const QSize wanted = shownSize(picture.size(), size);
     // A drawing for exactly this mode isn't changed.
     const QIcon::Mode change = drawing->mode() == mode ? QIcon::Normal : mode;
@@ -165,9 +166,10 @@ QIconEngine* PaletteIconEngine::clone() const {
 }
 
 QIconEngine* PaletteIconPlugin::create(const QString& file) {
-    // If this returns null, Qt uses its own engine.
-    const bool hasTwin = file.startsWith(QLatin1String(":/")) && QFile::exists(darkTwin(file));
-    return hasTwin ? new PaletteIconEngine : nullptr;
+    const bool isOurs = file.startsWith(QLatin1String(":/")) &&
+                        !file.startsWith(QLatin1String(":/qt-project.org/")) && QFile::exists(file);
+    // If this returns null, Qt uses its own engine, which reads each picture at once.
+    return isOurs ? new PaletteIconEngine : nullptr;
 }
 
 } // namespace resources

@@ -9,9 +9,9 @@
 
 namespace resources {
 
-/// The picture of an icon that exists twice: for dark text on a light palette, and, as the same
-/// resource below `:/dark`, for light text on a dark one. The choice follows the program's current
-/// palette; in a selected row, it follows the colour of the selected text.
+/// The picture of an icon, which may exist twice: for dark text on a light palette, and, as the
+/// same resource below `:/dark`, for light text on a dark one. The choice follows the program's
+/// current palette; in a selected row, it follows the colour of the selected text.
 class PaletteIconEngine : public QIconEngine {
 public:
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override;
@@ -33,14 +33,15 @@ private:
         Drawing(QIcon::Mode mode, const QPixmap& picture);
         QIcon::Mode mode() const { return mode_; }
         /// In its own pixels, at any scale.
-        QSize size() const;
+        QSize size() const { return onPalette(mode_).size(); }
+        const QPixmap& onPalette(QIcon::Mode mode) const;
+
+    private:
         const QPixmap& onLight() const;
         const QPixmap& onDark() const;
 
-    private:
         QIcon::Mode mode_;
         QString file_;
-        mutable QSize size_;
         mutable QPixmap onLight_;
         mutable QPixmap onDark_;
     };
@@ -51,7 +52,7 @@ private:
     QVector<Drawing> drawings_;
 };
 
-/// Makes Qt use this engine for each `QIcon` of a resource that has a dark twin.
+/// Makes Qt use this engine for each `QIcon` of a picture of the program.
 class PaletteIconPlugin : public QIconEnginePlugin {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID QIconEngineFactoryInterface_iid FILE "palette_icons.json")

@@ -3,7 +3,8 @@
 
 # Draws every picture of TABLE at its size and at twice its size into OUT, and writes
 # OUT/pictures.qrc with the resource names. Qt finds the larger one by its "@2x". A picture that is
-# tinted is drawn once more for dark palettes, below "dark".
+# tinted is drawn once more for dark palettes, below "dark". A name without a suffix also exists with
+# ".png": for an icon without one Qt looks into the files of the MIME database.
 
 file(REMOVE_RECURSE ${OUT})
 file(STRINGS ${TABLE} rows REGEX "^[a-z]")
@@ -24,7 +25,9 @@ function(draw_both tint top)
     draw(${tint} ${width2} ${height2} ${OUT}/${top}${folder}/${name}@2x.png)
     foreach(scale "" "@2x")
         set(path ${top}${folder}/${name}${scale})
-        string(APPEND entries "  <file alias=\"${path}${suffix}\">${path}.png</file>\n")
+        foreach(suffix IN LISTS suffixes)
+            string(APPEND entries "  <file alias=\"${path}${suffix}\">${path}.png</file>\n")
+        endforeach()
     endforeach()
     set(entries "${entries}" PARENT_SCOPE)
 endfunction()
@@ -35,7 +38,10 @@ foreach(row IN LISTS rows)
     endif()
     set(folder ${CMAKE_MATCH_1})
     set(name ${CMAKE_MATCH_2})
-    set(suffix "${CMAKE_MATCH_3}")
+    set(suffixes "${CMAKE_MATCH_3}")
+    if("${suffixes}" STREQUAL "")
+        set(suffixes "" .png)
+    endif()
     set(source ${CMAKE_MATCH_4})
     set(width ${CMAKE_MATCH_5})
     set(height "${CMAKE_MATCH_7}")

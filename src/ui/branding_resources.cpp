@@ -40,10 +40,10 @@ QPixmap picture(const ZipReader& file, const char* entry, QSize size) {
 
 void BrandingResources::setDefaults() {
     applicationIcon_ = QIcon();
-    applicationIcon_.addFile(QStringLiteral(":/icons/tarn_mobile_icon"), {}, QIcon::Normal);
+    applicationIcon_.addFile(QStringLiteral(":/icons/tarn_mobile_icon.png"), {}, QIcon::Normal);
     logoIcon_ = QIcon();
     for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Disabled})
-        logoIcon_.addFile(QStringLiteral(":/icons/norvel_logo"), {}, mode);
+        logoIcon_.addFile(QStringLiteral(":/icons/norvel_logo.png"), {}, mode);
     strings_ = {{QStringLiteral("DESCRIPTION"), QStringLiteral("Norvel Inc")},
                 {QStringLiteral("HOMEPAGEURL"), QStringLiteral(TARN_HOME_PAGE_URL)}};
 }

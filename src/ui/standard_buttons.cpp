@@ -17,8 +17,8 @@ bool agrees(QDialogButtonBox::ButtonRole role) {
 } // namespace
 
 void setStandardButtonPictures(QDialog& dialog) {
-    const QIcon yes(QStringLiteral(":/button/ok"));
-    const QIcon no(QStringLiteral(":/button/cancel"));
+    const QIcon yes(QStringLiteral(":/button/ok.png"));
+    const QIcon no(QStringLiteral(":/button/cancel.png"));
     for (auto* box : dialog.findChildren<QDialogButtonBox*>())
         for (QAbstractButton* button : box->buttons())
             button->setIcon(agrees(box->buttonRole(button)) ? yes : no);

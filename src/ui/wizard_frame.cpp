@@ -59,14 +59,14 @@ void frameWizard(QWizard& wizard, const QString& title, const QString& watermark
     wizard.setPixmap(QWizard::WatermarkPixmap, picture(watermark));
     // In right-to-left layouts, forward is to the left.
     const bool mirrored = wizard.layoutDirection() == Qt::RightToLeft;
-    const QString left = QStringLiteral(":/button/back");
-    const QString right = QStringLiteral(":/button/forward");
+    const QString left = QStringLiteral(":/button/back.png");
+    const QString right = QStringLiteral(":/button/forward.png");
     setButton(wizard, QWizard::BackButton, WizardButtonText::tr("&Back"), mirrored ? right : left);
     setButton(wizard, QWizard::NextButton, WizardButtonText::tr("&Next"), mirrored ? left : right);
     setButton(wizard, QWizard::FinishButton, WizardButtonText::tr("&Finish"),
-              QStringLiteral(":/button/ok"));
+              QStringLiteral(":/button/ok.png"));
     setButton(wizard, QWizard::CancelButton, WizardButtonText::tr("&Cancel"),
-              QStringLiteral(":/button/cancel"));
+              QStringLiteral(":/button/cancel.png"));
     // A click on it doesn't move the focus, so an unfinished field sends no request to the agent.
     wizard.button(QWizard::CancelButton)->setFocusPolicy(Qt::TabFocus);
 }

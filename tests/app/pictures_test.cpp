@@ -86,11 +86,12 @@ private slots:
         QVERIFY(!plain.isNull());
         const QString suffix =
             name.endsWith(QLatin1String(".png")) ? QStringLiteral(".png") : QString();
-        const QString twice =
-            path.left(path.size() - suffix.size()) + QStringLiteral("@2x") + suffix;
-        const QImage large(twice);
+        const QString bare = path.left(path.size() - suffix.size());
+        const QImage large(bare + QStringLiteral("@2x") + suffix);
         QCOMPARE(large.size(), 2 * plain.size());
         QVERIFY(showsSomething(large));
+        QCOMPARE(QImage(bare + QStringLiteral(".png")), QImage(path));
+        QCOMPARE(QImage(bare + QStringLiteral("@2x.png")), large);
     }
 
     void aSuffixMayBeLeftOut() {
@@ -173,11 +174,17 @@ private slots:
         QVERIFY(icon.pixmap(16, QIcon::Disabled).toImage() != picture(icon));
     }
 
+    void hasTheSizesOfAPlainIcon_data() {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("in two colours") << QStringLiteral(":/button/ok.png");
+        QTest::newRow("in one") << QStringLiteral(":/tree/folder.png");
+    }
     void hasTheSizesOfAPlainIcon() {
+        QFETCH(QString, name);
         QApplication::setPalette(lightPalette);
         QIcon plain;
-        plain.addPixmap(QPixmap(QStringLiteral(":/button/ok")));
-        const QIcon icon(QStringLiteral(":/button/ok"));
+        plain.addPixmap(QPixmap(name));
+        const QIcon icon(name);
         QCOMPARE(icon.availableSizes(), plain.availableSizes());
         for (const int size : {8, 16, 24, 100}) {
             QCOMPARE(icon.actualSize({size, size}), plain.actualSize({size, size}));
@@ -190,6 +197,16 @@ private slots:
             QPainter second(&expected);
             plain.paint(&second, expected.rect());
             QCOMPARE(painted, expected);
+        }
+    }
+
+    void isTheSameOnEachPaletteIfItHasOneColour() {
+        const QString name = QStringLiteral(":/tree/folder.png");
+        const QIcon icon(name);
+        for (const QPalette& palette : {lightPalette, darkPalette}) {
+            QApplication::setPalette(palette);
+            for (const auto mode : {QIcon::Normal, QIcon::Selected})
+                QCOMPARE(icon.pixmap(16, mode).toImage(), QPixmap(name).toImage());
         }
     }
 
