@@ -5,7 +5,7 @@
 #include <utility>
 
 #include <QDateTime>
-#include <QEvent>
+#include <QKeyEvent>
 #include <QSignalBlocker>
 
 #include "session/wire_time.h"
@@ -54,6 +54,10 @@ void EventLogViewer::makeRoom() {
     ui::makeRoom(table, EventLogModel::category, EventLogModel::categoryLabels());
 }
 
+std::array<QAbstractSpinBox*, 3> EventLogViewer::fieldsOfFilter() const {
+    return {ui_->timeFrom, ui_->timeTo, ui_->spinActivityID};
+}
+
 void EventLogViewer::showFor(const QDateTime& from, const QDateTime& to, std::int32_t activityId) {
     {
         // The whole filter is one request to the agent.
@@ -93,6 +97,22 @@ void EventLogViewer::updateEnabling() {
     for (QWidget* widget :
          std::initializer_list<QWidget*>{ui_->labelFrom, ui_->timeFrom, ui_->labelTo, ui_->timeTo})
         widget->setEnabled(!byActivity);
+}
+
+void EventLogViewer::done(int result) {
+    // A field that is hidden commits what is typed.
+    for (QAbstractSpinBox* field : fieldsOfFilter())
+        field->blockSignals(true);
+    QDialog::done(result);
+    for (QAbstractSpinBox* field : fieldsOfFilter())
+        field->blockSignals(false);
+}
+
+void EventLogViewer::keyPressEvent(QKeyEvent* event) {
+    // The Return key after a time commits it. The dialog would close, too.
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!isReturn || !qobject_cast<QAbstractSpinBox*>(focusWidget()))
+        QDialog::keyPressEvent(event);
 }
 
 void EventLogViewer::changeEvent(QEvent* event) {

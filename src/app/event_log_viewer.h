@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <array>
 #include <memory>
 
 #include <QDialog>
@@ -9,6 +10,7 @@
 #include "app/event_log_model.h"
 #include "insight/row_index.h"
 
+class QAbstractSpinBox;
 class QDateTime;
 
 namespace Ui {
@@ -31,8 +33,11 @@ public:
 
     EventLogModel& model() { return model_; }
 
+    void done(int result) override;
+
 protected:
     void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private slots:
     void refreshData();
@@ -40,6 +45,7 @@ private slots:
 
 private:
     void setUpTable();
+    std::array<QAbstractSpinBox*, 3> fieldsOfFilter() const;
     void makeRoom();
 
     std::unique_ptr<Ui::EventLogViewer> ui_;

@@ -62,6 +62,9 @@ bool StoredItemsPage::validatePage() {
 }
 
 void StoredItemsPage::atField(const std::function<void()>& work) {
+    // A field that is hidden commits what is typed, also when the wizard is left.
+    if (wizard() && !isVisible())
+        return;
     if (ui::waitsForCall(*this, [this, work] { atField(work); }))
         return;
     if (ui::remoteAction(*window(), tr("Error"), ui::Cursor::arrow, work))

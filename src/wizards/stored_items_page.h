@@ -64,8 +64,8 @@ protected:
     /// only until then. Throws what the call throws.
     void loadDateLimits(hessiancln::BackupSet& set, QDateTimeEdit& from,
                         std::initializer_list<QDateTimeEdit*> others);
-    /// Runs an action triggered by a field, after the current call if one is running. A failure is
-    /// shown.
+    /// Runs an action triggered by a field, after the current call if one is running, while the
+    /// wizard shows the page. A failure is shown.
     void atField(const std::function<void()>& work);
     /// Whether the filter differs from the current view. The Return key makes a date field signal a
     /// change even if its date is unchanged.

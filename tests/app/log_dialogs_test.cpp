@@ -110,6 +110,9 @@ private slots:
     void anActivityIdSwitchesTheTimesOff();
     void idZeroSwitchesTheFilterByActivityOff();
     void eachChangeOfTheFilterAsksOnce();
+    void whatIsTypedAsksOnceAtItsEnd();
+    void whatIsHalfTypedGoesWithTheViewer_data();
+    void whatIsHalfTypedGoesWithTheViewer();
     void theButtonClosesTheViewer();
     void aTextThatIsALittleTooWideIsDrawnNarrower();
     void aTextThatIsMuchTooWideIsCutAndHasAToolTip();
@@ -230,6 +233,48 @@ void LogDialogsTest::eachChangeOfTheFilterAsksOnce() {
     expectNoSession(modals);
     child<QSpinBox>(viewer, "spinActivityID").setValue(5);
     QVERIFY(modals.done());
+}
+
+void LogDialogsTest::whatIsTypedAsksOnceAtItsEnd() {
+    EventLogViewer viewer;
+    viewer.show();
+    support::ModalDriver modals; // any box fails the test
+    expectNoSession(modals);
+    child<QCheckBox>(viewer, "checkActivityID").click();
+    QVERIFY(modals.done());
+    auto& id = child<QSpinBox>(viewer, "spinActivityID");
+    id.setFocus();
+    id.selectAll();
+    QTest::keyClicks(&id, QStringLiteral("1201"));
+    expectNoSession(modals);
+    QTest::keyClick(&id, Qt::Key_Return);
+    QVERIFY(modals.done());
+    QCOMPARE(id.value(), 1201);
+    QVERIFY(viewer.isVisible());
+}
+
+void LogDialogsTest::whatIsHalfTypedGoesWithTheViewer_data() {
+    QTest::addColumn<QString>("name");
+    for (const char* name : {"timeFrom", "timeTo"})
+        QTest::newRow(name) << QString::fromLatin1(name);
+}
+
+void LogDialogsTest::whatIsHalfTypedGoesWithTheViewer() {
+    QFETCH(QString, name);
+    const support::ModalDriver modals; // any box fails the test
+    for (const bool byButton : {true, false}) {
+        EventLogViewer viewer;
+        viewer.show();
+        auto* field = viewer.findChild<QDateTimeEdit*>(name);
+        field->setSelectedSection(QDateTimeEdit::DaySection);
+        QTest::keyClicks(field,
+                         field->date().day() == 15 ? QStringLiteral("16") : QStringLiteral("15"));
+        if (byButton)
+            QTest::mouseClick(&child<QPushButton>(viewer, "buttonClose"), Qt::LeftButton);
+        else
+            viewer.close();
+        QVERIFY(!viewer.isVisible());
+    }
 }
 
 void LogDialogsTest::theButtonClosesTheViewer() {

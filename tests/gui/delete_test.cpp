@@ -90,6 +90,8 @@ private slots:
     void aFaultOfTheRemoval();
     void leavingAQuestionDeletesNothing_data();
     void leavingAQuestionDeletesNothing();
+    void aFieldThatIsHalfTypedGoesWithTheWizard_data();
+    void aFieldThatIsHalfTypedGoesWithTheWizard();
     void aFilterThatCantBeSwitchedOnStaysDisabled();
     void eachValueOfTheFilterAsksAnew();
     void aSetThatGoesUnderTheWizard();
@@ -302,6 +304,23 @@ void DeleteTest::leavingAQuestionDeletesNothing() {
     QCOMPARE(difference(calls(), hasFiles ? gui::wizardOpened + gui::refreshed : askedFirst),
              QString());
     QCOMPARE(test_.driver->status(), statusBefore);
+}
+
+void DeleteTest::aFieldThatIsHalfTypedGoesWithTheWizard_data() {
+    support::addWaysToLeave();
+}
+
+void DeleteTest::aFieldThatIsHalfTypedGoesWithTheWizard() {
+    QFETCH(support::Leave, leave);
+    start([](World& world) { gui::store(world); });
+    test_.driver->sets().selectRow(gui::setRow);
+    for (const auto& [box, field] :
+         {std::pair("checkTo", "dateTo"), std::pair("checkKeep", "spinKeep")}) {
+        test_.expectHalfTyped(field, q("5"), leave, [box = box](QWizardPage& page) {
+            gui::switchOn(*page.window(), box);
+        });
+        test_.run("OnDelete");
+    }
 }
 
 void DeleteTest::aFilterThatCantBeSwitchedOnStaysDisabled() {

@@ -29,9 +29,6 @@ using support::difference;
 using support::isDialog;
 using support::ModalDriver;
 using Calls = std::vector<std::string>;
-using Leave = std::function<void(QWizard&)>; ///< how the user closes a wizard
-
-Q_DECLARE_METATYPE(Leave)
 
 Q_DECLARE_METATYPE(simulator::Scenario)
 Q_DECLARE_METATYPE(std::vector<std::string>)
@@ -256,31 +253,14 @@ void NewSetFlowTest::treesScrollToWhatIsLookedAt() {
 }
 
 void NewSetFlowTest::aWizardThatIsLeftAsksForNothing_data() {
-    QTest::addColumn<Leave>("leave");
-    QTest::newRow("Escape") << Leave(
-        [](QWizard& wizard) { QTest::keyClick(wizard.focusWidget(), Qt::Key_Escape); });
-    QTest::newRow("Cancel") << Leave([](QWizard& wizard) {
-        QTest::mouseClick(wizard.button(QWizard::CancelButton), Qt::LeftButton);
-    });
-    QTest::newRow("the title bar's cross") << Leave([](QWizard& wizard) { wizard.close(); });
+    support::addWaysToLeave();
 }
 
 /// A half-typed name doesn't trigger a look-up of the computer.
 void NewSetFlowTest::aWizardThatIsLeftAsksForNothing() {
-    QFETCH(Leave, leave);
+    QFETCH(support::Leave, leave);
     test_.start();
-    test_.modals->expect(q("wizard"), isDialog<QWizard>, [&](QWidget& widget) {
-        widget.activateWindow();
-        QTRY_COMPARE(QApplication::activeWindow(), &widget);
-        auto& computer = child<QLineEdit>(widget, "editComputerName");
-        computer.setFocus();
-        QVERIFY(computer.hasFocus());
-        QTest::keyClicks(&computer, q("files"));
-        test_.agent->clearCallLog();
-        leave(static_cast<QWizard&>(widget));
-        QVERIFY(!widget.isVisible());
-        QCOMPARE(difference(callsOf(*test_.agent), {}), QString());
-    });
+    test_.expectHalfTyped("editComputerName", q("files"), leave);
     test_.run("OnNewBackupSet");
 }
 

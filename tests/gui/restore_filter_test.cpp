@@ -81,6 +81,8 @@ private slots:
     void aChangedFilterKeepsTheTreeAndDropsTheMarks();
     void theFileFilterIsKept();
     void datesReachTheAgent();
+    void aDateThatIsHalfTypedGoesWithTheWizard_data() { support::addWaysToLeave(); }
+    void aDateThatIsHalfTypedGoesWithTheWizard();
     void theTreeScrollsToWhatIsLookedAt();
     void theUserSeesThatAViewTakesItsTime();
 
@@ -344,6 +346,15 @@ void RestoreFilterTest::datesReachTheAgent() {
                              "BackupSet.prepare_restore(0, 1760000000, 1760000000)"}),
                  QString());
     });
+}
+
+void RestoreFilterTest::aDateThatIsHalfTypedGoesWithTheWizard() {
+    QFETCH(support::Leave, leave);
+    test_.expectHalfTyped("dateTo", q("5"), leave, [](QWizardPage& page) {
+        box(page, "checkFilter").click();
+        box(page, "checkTo").click();
+    });
+    test_.run("OnRestore");
 }
 
 void RestoreFilterTest::theTreeScrollsToWhatIsLookedAt() {

@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include <QAbstractButton>
-#include <QCoreApplication>
+#include <QApplication>
 #include <QEvent>
 #include <QLineEdit>
 #include <QPushButton>
@@ -72,6 +72,16 @@ void nameNewSet(QWizardPage& page) {
         name->setText(QStringLiteral("  New one "));
 }
 
+void addWaysToLeave() {
+    QTest::addColumn<Leave>("leave");
+    QTest::newRow("Escape") << Leave(
+        [](QWizard& wizard) { QTest::keyClick(wizard.focusWidget(), Qt::Key_Escape); });
+    QTest::newRow("Cancel") << Leave([](QWizard& wizard) {
+        QTest::mouseClick(wizard.button(QWizard::CancelButton), Qt::LeftButton);
+    });
+    QTest::newRow("the title bar's cross") << Leave([](QWizard& wizard) { wizard.close(); });
+}
+
 void WizardTest::start(simulator::Scenario scenario,
                        const std::function<void(simulator::World&)>& change) {
     agent = std::make_unique<GuiAgent>(simulator::Options{.scenario = scenario});
@@ -105,6 +115,24 @@ void WizardTest::run(const char* slot) {
 void WizardTest::expectWizard(const AtPage& atPage) {
     modals->expect(QStringLiteral("wizard"), isDialog<QWizard>,
                    [atPage](QWidget& wizard) { QVERIFY(finishWizard(wizard, atPage)); });
+}
+
+void WizardTest::expectHalfTyped(const char* field, const QString& text, const Leave& leave,
+                                 const AtPage& atPage) {
+    modals->expect(QStringLiteral("wizard"), isDialog<QWizard>, [=, this](QWidget& widget) {
+        auto& wizard = static_cast<QWizard&>(widget);
+        wizard.activateWindow();
+        QTRY_COMPARE(QApplication::activeWindow(), &widget);
+        leaveBehind(wizard, atPage);
+        auto& typed = child<QWidget>(wizard, field);
+        typed.setFocus();
+        QVERIFY(typed.hasFocus());
+        agent->clearCallLog();
+        QTest::keyClicks(&typed, text);
+        leave(wizard);
+        QVERIFY(!wizard.isVisible());
+        QCOMPARE(difference(callsOf(*agent), {}), QString());
+    });
 }
 
 void WizardTest::expectCode(bool given) {

@@ -30,6 +30,12 @@ void cancelWizard(QWidget& wizard, int page, const AtPage& atPage = {});
 /// Types the name "  New one " on the page that wants a name.
 void nameNewSet(QWizardPage& page);
 
+/// How the user closes a wizard without finishing it.
+using Leave = std::function<void(QWizard&)>;
+
+/// The data of a test for each of the ways, in the column "leave".
+void addWaysToLeave();
+
 /// A main window that is logged in to an agent, and the user in front of it.
 class WizardTest {
 public:
@@ -44,6 +50,10 @@ public:
     void run(const char* slot);
     /// A wizard that can be finished.
     void expectWizard(const AtPage& atPage = nameNewSet);
+    /// A wizard that is left right after a text was typed into a field, which makes no call.
+    /// `atPage` comes first.
+    void expectHalfTyped(const char* field, const QString& text, const Leave& leave,
+                         const AtPage& atPage = {});
     /// The prompt for a code, which is answered or cancelled.
     void expectCode(bool given);
     QStringList setNames();
@@ -77,3 +87,5 @@ std::vector<std::string> callsOfRefresh(std::int32_t selectedSet);
 std::vector<std::string> callsForCode();
 
 } // namespace support
+
+Q_DECLARE_METATYPE(support::Leave)
