@@ -47,6 +47,7 @@ int runWindow(QtSingleApplication& application) {
 int main(int argc, char** argv) {
     prepareApplication();
     QtSingleApplication application(argc, argv);
+    app::adjustToolkit(application);
     QGuiApplication::setDesktopFileName(QLatin1String(product::applicationId));
     resources::initPictures();
     ui::keepDialogsOnScreen(application);

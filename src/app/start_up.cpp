@@ -15,9 +15,11 @@
 #include <QWindow>
 
 #include "app/call_gate.h"
+#include "app/even_scale.h"
 #include "app/simple_gui_main_window.h"
 #include "session/connection.h"
 #include "ui/error_box.h"
+#include "ui/outlined_indicators.h"
 #include "ui/screen_fit.h"
 
 namespace {
@@ -47,6 +49,11 @@ void prepareToolkit() {
     // On X11 Qt looks for OpenGL, which takes time and memory and isn't used here.
     if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION"))
         qputenv("QT_XCB_GL_INTEGRATION", "none");
+}
+
+void adjustToolkit(QApplication& application) {
+    scaleEvenly(application);
+    ui::outlineIndicators(application);
 }
 
 QString languageOf(const QStringList& arguments) {

@@ -20,6 +20,10 @@ class CallGate;
 /// search for OpenGL. The toolkit's own dialogs keep no settings.
 void prepareToolkit();
 
+/// Sets what needs the application object and no window: even scaling, and frames of check boxes
+/// that can be seen.
+void adjustToolkit(QApplication& application);
+
 /// The language code after the first "--lang". Empty for the built-in English: without such an
 /// option, without a value, and for the code "en".
 QString languageOf(const QStringList& arguments);

@@ -65,6 +65,20 @@ private slots:
         directory_.reset();
     }
 
+    void theToolkitScalesByAnyFactorAndLooksForNoOpenGl() {
+        QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+            Qt::HighDpiScaleFactorRoundingPolicy::Round);
+        qunsetenv("QT_XCB_GL_INTEGRATION");
+        app::prepareToolkit();
+        QCOMPARE(QGuiApplication::highDpiScaleFactorRoundingPolicy(),
+                 Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+        QCOMPARE(qgetenv("QT_XCB_GL_INTEGRATION"), QByteArray("none"));
+        qputenv("QT_XCB_GL_INTEGRATION", "xcb_glx");
+        app::prepareToolkit();
+        QCOMPARE(qgetenv("QT_XCB_GL_INTEGRATION"), QByteArray("xcb_glx"));
+        qunsetenv("QT_XCB_GL_INTEGRATION");
+    }
+
     void startsInTheTrayOnlyIfAskedAndThereIsOne() {
         const QString program = QStringLiteral("tarn-mobile-user");
         const QString option = QStringLiteral("--tray");

@@ -31,13 +31,13 @@ QByteArray Helper::line() {
     return text.endsWith('\n') ? text.trimmed() : QByteArray();
 }
 
-bool Display::begin(const QSize& size) {
+bool Display::begin(const QSize& size, int dots) {
     const QString screen = QStringLiteral("%1x%2x24").arg(size.width()).arg(size.height());
     // Without "-noreset" the end of the last client closes connections that are being opened.
     if (!launch(QStringLiteral("Xvfb"),
                 {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-noreset"),
-                 QStringLiteral("-screen"), QStringLiteral("0"), screen,
-                 QStringLiteral("-nolisten"), QStringLiteral("tcp")}))
+                 QStringLiteral("-screen"), QStringLiteral("0"), screen, QStringLiteral("-dpi"),
+                 QString::number(dots), QStringLiteral("-nolisten"), QStringLiteral("tcp")}))
         return false;
     const QByteArray number = line();
     return !number.isEmpty() && qputenv("DISPLAY", ":" + number);

@@ -23,8 +23,8 @@ protected:
 /// A virtual display. It becomes the display of this process and its children.
 class Display : public Helper {
 public:
-    /// `size` in pixels.
-    bool begin(const QSize& size = {1280, 800});
+    /// `size` in pixels, `dots` per inch.
+    bool begin(const QSize& size = {1280, 800}, int dots = 100);
 };
 
 /// A D-Bus session. It becomes the session of this process and its children.

@@ -39,12 +39,14 @@ private slots:
 int main(int argc, char** argv) {
     const QTemporaryDir home;
     qputenv("HOME", QFile::encodeName(home.path()));
-    qunsetenv("XDG_CONFIG_HOME");
-    qunsetenv("XDG_DATA_HOME");
+    for (const char* folder :
+         {"XDG_CACHE_HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"})
+        qunsetenv(folder);
     // In package builds. It makes Fontconfig reject the cache of the system and write another one.
     qunsetenv("SOURCE_DATE_EPOCH");
     app::prepareToolkit();
     QApplication application(argc, argv);
+    app::adjustToolkit(application);
     resources::initPictures();
     HomeTest test;
     return QTest::qExec(&test, argc, argv);

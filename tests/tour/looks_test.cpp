@@ -4,19 +4,35 @@
 #include <QApplication>
 #include <QTest>
 
+#include "app/set_card_look.h"
 #include "app/start_up.h"
 #include "resources/pictures.h"
 #include "tests/support/gui_display.h"
+#include "tests/support/gui_palettes.h"
 #include "tests/tour/album.h"
-#include "tests/tour/palettes.h"
 #include "tests/tour/stories.h"
 
 /// Every screen of the program looks as it should on other desktops than the usual one.
 class LooksTest : public QObject {
     Q_OBJECT
 private slots:
+    void aCardHasASharpPicture_data() {
+        QTest::addColumn<QString>("overlay");
+        QTest::newRow("plain") << QString();
+        QTest::newRow("with a sign") << QStringLiteral(":/icons/overlay_sync.png");
+    }
+    void aCardHasASharpPicture() {
+        QFETCH(QString, overlay);
+        app::SetCardLook look;
+        look.icon = QStringLiteral(":/icons/backup_set_icon.png");
+        look.overlay = overlay;
+        const QPixmap picture = app::setCardPicture(look);
+        QCOMPARE(picture.devicePixelRatio(), qApp->devicePixelRatio());
+        QCOMPARE(picture.width(), qRound(48 * qApp->devicePixelRatio()));
+    }
+
     void haveNoDefects() {
-        QVERIFY(qApp->devicePixelRatio() >= qEnvironmentVariable("QT_SCALE_FACTOR").toDouble());
+        QCOMPARE(qApp->devicePixelRatio(), qEnvironmentVariable("QT_SCALE_FACTOR").toDouble());
         tour::Album album(QStringLiteral("Out of order."));
         tour::takeAll(album);
         QCOMPARE(album.missing(), QStringList());
@@ -36,7 +52,8 @@ int main(int argc, char** argv) {
     qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
     app::prepareToolkit();
     QApplication application(argc, argv);
-    tour::applyLook();
+    app::adjustToolkit(application);
+    support::applyLook();
     resources::initPictures();
     LooksTest test;
     return QTest::qExec(&test, argc, argv);

@@ -13,9 +13,9 @@
 
 #include "app/start_up.h"
 #include "resources/pictures.h"
+#include "tests/support/gui_palettes.h"
 #include "tests/tour/album.h"
 #include "tests/tour/catalogue.h"
-#include "tests/tour/palettes.h"
 #include "tests/tour/pseudo_language.h"
 #include "tests/tour/stories.h"
 #include "ui/screen_fit.h"
@@ -95,8 +95,9 @@ int main(int argc, char** argv) {
     }
     app::prepareToolkit();
     QApplication application(argc, argv);
+    app::adjustToolkit(application);
     ui::keepDialogsOnScreen(application);
-    tour::applyLook();
+    support::applyLook();
     resources::initPictures();
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() < 2) {

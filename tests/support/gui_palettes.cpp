@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
-#include "tests/tour/palettes.h"
+#include "tests/support/gui_palettes.h"
 
 #include <QApplication>
 
-namespace tour {
+namespace support {
 
 namespace {
 
@@ -52,4 +52,4 @@ void applyLook() {
         qFatal("There is no look %s", look.constData());
 }
 
-} // namespace tour
+} // namespace support

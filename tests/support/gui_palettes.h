@@ -4,7 +4,7 @@
 
 #include <QPalette>
 
-namespace tour {
+namespace support {
 
 /// Light text on dark grey, as on the dark desktops of KDE and GNOME.
 QPalette darkPalette();
@@ -15,4 +15,4 @@ QPalette highContrastPalette();
 /// Gives the program the palette that the variable TARN_LOOK names, `dark` or `contrast`, if any.
 void applyLook();
 
-} // namespace tour
+} // namespace support

@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+class QApplication;
+
+namespace ui {
+
+/// On a dark palette Qt's own style frames check boxes and radio buttons in a shade that nobody
+/// sees. From here on, their frames have a shade of the text. Other styles stay as they are.
+void outlineIndicators(QApplication& application);
+
+} // namespace ui
