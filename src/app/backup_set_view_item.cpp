@@ -171,6 +171,9 @@ void BackupSetViewItem::changeEvent(QEvent* event) {
         showToolTip();
     }
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange)
+    if (event->type() == QEvent::PaletteChange) {
         applyStyleSheet();
+        if (!look_.icon.isEmpty())
+            ui_->labelImageDisplay->setPixmap(app::setCardPicture(look_));
+    }
 }

@@ -134,10 +134,21 @@ void SimpleGUIMainWindow::setUpGeometry() {
     resize(windowWidth, height());
     if (const QScreen* screen = QGuiApplication::primaryScreen())
         move(screen->availableGeometry().center() - rect().center());
-    ui_->splitterSetView->setSizes({setsWidth, detailsWidth});
+    ui_->splitterSetView->setSizes(sizesOfSplitter());
     ui_->splitterSetView->setStretchFactor(0, 1);
     ui_->splitterSetView->setStretchFactor(1, 0);
     new app::SetsSplitter(*ui_->splitterSetView, *ui_->pageProperties);
+}
+
+QList<int> SimpleGUIMainWindow::sizesOfSplitter() const {
+    const QMargins around = ui_->centralwidget->layout()->contentsMargins();
+    const int room =
+        windowWidth - around.left() - around.right() - ui_->splitterSetView->handleWidth();
+    const int share = room * detailsWidth / (setsWidth + detailsWidth);
+    // In another language the details may need more.
+    const int needed = ui_->pageProperties->sizeHint().width();
+    return needed <= share ? QList<int>{setsWidth, detailsWidth}
+                           : QList<int>{room - needed, needed};
 }
 
 void SimpleGUIMainWindow::setUpTray(std::unique_ptr<app::TrayIcon> icon) {

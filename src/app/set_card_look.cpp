@@ -4,6 +4,7 @@
 
 #include "ui/grey_overlay_pixmap.h"
 #include "ui/readable_colour.h"
+#include "ui/shared_icon.h"
 
 namespace app {
 
@@ -33,7 +34,7 @@ SetCardLook setCardLook(const hessiancln::backup_set_info& set, bool centrallyMa
 }
 
 QPixmap setCardPicture(const SetCardLook& look) {
-    return look.overlay.isEmpty() ? QPixmap(look.icon)
+    return look.overlay.isEmpty() ? ui::sharedPixmap(look.icon)
                                   : ui::greyOverlayPixmap(look.icon, look.overlay);
 }
 

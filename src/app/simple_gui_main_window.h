@@ -154,6 +154,7 @@ private:
     void setUpInsight();
     void setUpNews();
     void setUpGeometry();
+    QList<int> sizesOfSplitter() const;
     void setUpConnection();
     void setUpTray(std::unique_ptr<app::TrayIcon> icon);
 

@@ -9,8 +9,8 @@
 
 #include "api/data_source_browser.h"
 #include "models/computer_tree_item.h"
-#include "models/item_pixmap.h"
 #include "session/text.h"
+#include "ui/shared_icon.h"
 
 CComputerTreeModel::CComputerTreeModel(boost::shared_ptr<hessiancln::DataSourceBrowser> browser,
                                        QObject* parent)
@@ -30,9 +30,8 @@ QVariant CComputerTreeModel::data(const QModelIndex& index, int role) const {
     if (role == Qt::DisplayRole)
         return session::fromWire(nodeAt(index).name());
     if (role == Qt::DecorationRole)
-        return models::resourcePixmap(isComputer(index)
-                                          ? QStringLiteral(":icons/browse_computer.png")
-                                          : QStringLiteral(":icons/browse_network.png"));
+        return ui::sharedPixmap(isComputer(index) ? QStringLiteral(":icons/browse_computer.png")
+                                                  : QStringLiteral(":icons/browse_network.png"));
     return {};
 }
 

@@ -7,8 +7,8 @@
 
 #include <QPixmap>
 
-#include "models/item_pixmap.h"
 #include "ui/locale_text.h"
+#include "ui/shared_icon.h"
 #include "ui/size_text.h"
 #include "ui/table_columns.h"
 
@@ -59,9 +59,8 @@ QVariant CGenerationSelectModel::data(const QModelIndex& index, int role) const 
     case Qt::DecorationRole:
         if (index.column() != BackupTime)
             return {};
-        return models::resourcePixmap(index.row() == selected_
-                                          ? QStringLiteral(":/tree/selected_file")
-                                          : QStringLiteral(":/tree/file"));
+        return ui::sharedPixmap(index.row() == selected_ ? QStringLiteral(":/tree/selected_file")
+                                                         : QStringLiteral(":/tree/file"));
     case Qt::TextAlignmentRole:
         return ui::alignmentOf(columnAt(index.column()));
     default:

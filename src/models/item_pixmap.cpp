@@ -3,7 +3,6 @@
 #include "models/item_pixmap.h"
 
 #include <QGuiApplication>
-#include <QIcon>
 #include <QImage>
 #include <QPainter>
 #include <QPixmapCache>
@@ -46,22 +45,16 @@ QPixmap compose(const QPixmap& base, const QPixmap& sign) {
 
 } // namespace
 
-QPixmap resourcePixmap(const QString& resource) {
-    const QIcon icon = ui::sharedIcon(resource);
-    const auto sizes = icon.availableSizes();
-    return sizes.isEmpty() ? QPixmap() : icon.pixmap(sizes.front());
-}
-
 QSize sizeOnScreen(const QPixmap& pixmap) {
     return (QSizeF(pixmap.size()) / pixmap.devicePixelRatio()).toSize();
 }
 
 QPixmap itemPixmap(SelectableItemType type, bool noAccess) {
     const QString resource = resourceOf(type);
-    const QPixmap base = resourcePixmap(resource);
+    const QPixmap base = ui::sharedPixmap(resource);
     if (!noAccess || base.isNull())
         return base;
-    const QPixmap sign = resourcePixmap(QStringLiteral(":/tree/no_access"));
+    const QPixmap sign = ui::sharedPixmap(QStringLiteral(":/tree/no_access"));
     QString key = QStringLiteral("NO_ACCESS") + resource;
     // The pictures follow the palette.
     if (ui::isDark(QGuiApplication::palette()))

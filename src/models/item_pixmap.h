@@ -8,9 +8,6 @@
 
 namespace models {
 
-/// The picture of a resource in its original size at the screen's resolution; null if missing.
-QPixmap resourcePixmap(const QString& resource);
-
 /// The size of a picture in layout pixels, each of which has several device pixels on a dense
 /// screen.
 QSize sizeOnScreen(const QPixmap& pixmap);

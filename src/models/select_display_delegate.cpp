@@ -7,6 +7,7 @@
 #include "models/checkable_node.h"
 #include "models/item_pixmap.h"
 #include "ui/picture_delegate.h"
+#include "ui/shared_icon.h"
 
 /// The layout of an item.
 struct CSelectDisplayDelegate::Parts {
@@ -57,7 +58,7 @@ void CSelectDisplayDelegate::drawCheck(QPainter* painter, const QStyleOptionView
         return;
     }
     QItemDelegate::drawCheck(painter, option, rect, Qt::Unchecked);
-    const QPixmap sign = models::resourcePixmap(QStringLiteral(":/tree/exclusion"));
+    const QPixmap sign = ui::sharedPixmap(QStringLiteral(":/tree/exclusion"));
     const QSize size = models::sizeOnScreen(sign);
     painter->drawPixmap(rect.right() - size.width(), rect.bottom() - size.height(), sign);
 }

@@ -2,31 +2,44 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ui/error_box.h"
 
+#include <algorithm>
 #include <memory>
 
 #include <QCoreApplication>
 #include <QGridLayout>
 #include <QLabel>
 #include <QMessageBox>
+#include <QScreen>
 #include <QScrollArea>
 
 #include "session/text.h"
+#include "ui/screen_fit.h"
 #include "ui/standard_buttons.h"
 
 namespace ui {
 
 namespace {
 
-constexpr int mostCharacters = 2000;
-constexpr int mostLines = 20;
 constexpr QSize textSize(480, 240);
+constexpr int widestBox = 500;  ///< of a text that wraps, in Qt
+constexpr int besideText = 100; ///< in a box: picture and margins
+constexpr int tallestText = 320;
+constexpr int mostCharacters = 4000; ///< which needn't be measured
 
 struct Texts {
     Q_DECLARE_TR_FUNCTIONS(ErrorBox)
 };
 
-bool isLong(const QString& text) {
-    return text.size() > mostCharacters || text.count(QLatin1Char('\n')) >= mostLines;
+/// Whether a text is taller than a box should be, or than half of its screen.
+bool isLong(const QMessageBox& box) {
+    if (box.text().size() > mostCharacters)
+        return true;
+    const QWidget* place = box.parentWidget() ? box.parentWidget() : &box;
+    const QSize room = largestWindow(place->screen()->availableGeometry());
+    const int width = std::min(room.width() / 2, widestBox) - besideText;
+    const QRect lines = box.fontMetrics().boundingRect(QRect(0, 0, width, QWIDGETSIZE_MAX),
+                                                       Qt::TextWrapAnywhere, box.text());
+    return lines.height() > std::min(room.height() / 2, tallestText);
 }
 
 /// A box grows with its text, which would push the button below a long one off the screen.
@@ -55,7 +68,7 @@ void showError(QWidget* parent, const QString& title, const QString& text) {
     QMessageBox box(QMessageBox::Critical, title, text, QMessageBox::Ok, parent);
     box.setTextFormat(Qt::PlainText);
     setStandardButtonPictures(box);
-    if (isLong(text))
+    if (isLong(box))
         letTextScroll(box);
     box.exec();
 }

@@ -3,20 +3,24 @@
 #include "ui/grey_overlay_pixmap.h"
 
 #include <map>
-#include <utility>
+#include <tuple>
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
+
+#include "ui/readable_colour.h"
+#include "ui/shared_icon.h"
 
 namespace ui {
 
 namespace {
 
-using Names = std::pair<QString, QString>;
+/// Of the base and of the overlay, and whether they are for a dark palette.
+using Key = std::tuple<QString, QString, bool>;
 
-std::map<Names, QPixmap>& composed() {
-    static std::map<Names, QPixmap> composed;
+std::map<Key, QPixmap>& composed() {
+    static std::map<Key, QPixmap> composed;
     return composed;
 }
 
@@ -48,13 +52,15 @@ QPixmap compose(const QPixmap& base, const QPixmap& overlay) {
 } // namespace
 
 QPixmap greyOverlayPixmap(const QString& base, const QString& overlay) {
-    const Names names(base, overlay);
-    if (const auto found = composed().find(names); found != composed().end())
+    const Key key(base, overlay, isDark(QGuiApplication::palette()));
+    if (const auto found = composed().find(key); found != composed().end())
         return found->second;
     // Pictures must not outlive the application object.
     if (composed().empty())
         qAddPostRoutine([] { composed().clear(); });
-    return composed().emplace(names, compose(QPixmap(base), QPixmap(overlay))).first->second;
+    return composed()
+        .emplace(key, compose(sharedPixmap(base), sharedPixmap(overlay)))
+        .first->second;
 }
 
 } // namespace ui

@@ -7,8 +7,8 @@
 
 namespace ui {
 
-/// The picture `base` in grey with `overlay` in its lower right corner; both are resources. Each
-/// pair is composed once per application object.
+/// The picture `base` in grey with `overlay` in its lower right corner; both are resources, and
+/// follow the program's palette. Each pair is composed once per application object.
 QPixmap greyOverlayPixmap(const QString& base, const QString& overlay);
 
 } // namespace ui

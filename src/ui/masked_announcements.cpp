@@ -14,6 +14,8 @@ namespace {
 /// The previous handler; null for Qt's default.
 QAccessible::UpdateHandler next = nullptr;
 
+int users = 0;
+
 void announceMasked(QAccessibleEvent* event);
 
 void passOn(QAccessibleEvent& event) {
@@ -77,10 +79,20 @@ void announceMasked(QAccessibleEvent* event) {
 
 } // namespace
 
-void maskAnnouncements() {
+MaskedAnnouncements::MaskedAnnouncements() {
+    ++users;
     const QAccessible::UpdateHandler before = QAccessible::installUpdateHandler(announceMasked);
     if (before != announceMasked)
         next = before;
+}
+
+MaskedAnnouncements::~MaskedAnnouncements() {
+    if (--users > 0)
+        return;
+    const QAccessible::UpdateHandler last = QAccessible::installUpdateHandler(next);
+    // A later handler stays.
+    if (last != announceMasked)
+        QAccessible::installUpdateHandler(last);
 }
 
 } // namespace ui

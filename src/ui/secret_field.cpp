@@ -9,7 +9,6 @@
 
 #include "session/secret_text.h"
 #include "session/text.h"
-#include "ui/masked_announcements.h"
 
 namespace ui {
 
@@ -32,7 +31,6 @@ private:
 
 SecretField::SecretField(QWidget* parent)
     : QLineEdit(parent) {
-    maskAnnouncements();
     replace(QString());
 }
 

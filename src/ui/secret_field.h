@@ -5,6 +5,7 @@
 #include <QLineEdit>
 
 #include "base/secret.h"
+#include "ui/masked_announcements.h"
 
 namespace ui {
 
@@ -32,6 +33,8 @@ public:
 
 private:
     void replace(const QString& text);
+
+    const MaskedAnnouncements masked_;
 };
 
 } // namespace ui

@@ -37,4 +37,10 @@ QIcon sharedIcon(const QString& resource) {
     return *icons().insert(resource, iconOf(resource));
 }
 
+QPixmap sharedPixmap(const QString& resource) {
+    const QIcon icon = sharedIcon(resource);
+    const auto sizes = icon.availableSizes();
+    return sizes.isEmpty() ? QPixmap() : icon.pixmap(sizes.front());
+}
+
 } // namespace ui

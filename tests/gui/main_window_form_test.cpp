@@ -10,6 +10,8 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSplitter>
 #include <QTabBar>
 #include <QTabWidget>
@@ -289,6 +291,10 @@ private slots:
         SimpleGUIMainWindow fresh;
         QCOMPARE(child<QMenu>(fresh, "menu_Help").title(), QStringLiteral("&Hilfe"));
         QCOMPARE(fresh.windowTitle(), QStringLiteral("Ostrand Backup"));
+        fresh.show();
+        const auto* details = child<QWidget>(fresh, "pageProperties").findChild<QScrollArea*>();
+        QVERIFY(details);
+        QTRY_VERIFY(!details->horizontalScrollBar()->isVisible());
     }
 
 private:

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Enforces the direction of includes, where a folder may include only folders below it, and the
-// names of icons.
+// Enforces the direction of includes, where a folder may include only folders below it, the
+// names of icons, and the options of file dialogs.
 
 #include <algorithm>
 #include <filesystem>
@@ -193,6 +193,24 @@ TEST(Layout, HeadersThatOthersIncludeKeepTheNetworkLibraryOut) {
             EXPECT_EQ(ourFolder(include.target), include.folder)
                 << include.file << " includes " << include.target;
         }
+}
+
+TEST(Layout, AFileDialogIsNotTheDesktopsOwn) {
+    // That one would keep a list of recently used files in the user's home.
+    static const std::regex dialog(R"(\bQFileDialog \w+\()");
+    int found = 0;
+    for (const auto& entry : fs::recursive_directory_iterator(root / "src")) {
+        if (entry.path().extension() != ".cpp")
+            continue;
+        std::ifstream in(entry.path());
+        const std::string text(std::istreambuf_iterator<char>(in), {});
+        EXPECT_EQ(text.find("QFileDialog::get"), std::string::npos) << entry.path();
+        if (!std::regex_search(text, dialog))
+            continue;
+        ++found;
+        EXPECT_NE(text.find("QFileDialog::DontUseNativeDialog"), std::string::npos) << entry.path();
+    }
+    EXPECT_GE(found, 3);
 }
 
 TEST(Layout, AnIconIsNamedWithItsSuffix) {

@@ -17,7 +17,6 @@
 #include "models/backedup_data_file_filter_model.h"
 #include "models/display_path.h"
 #include "models/generation_select_model.h"
-#include "models/item_pixmap.h"
 #include "models/small_tree_view.h"
 #include "models/tree_state_memo.h"
 #include "resources/pictures.h"
@@ -25,6 +24,7 @@
 #include "tests/support/viewing_agent.h"
 #include "transport/invoke_exception.h"
 #include "ui/locale_text.h"
+#include "ui/shared_icon.h"
 
 namespace {
 
@@ -48,7 +48,7 @@ int state(const QAbstractItemModel& model, const char* path) {
 }
 
 QImage imageOf(const QString& resource) {
-    return models::resourcePixmap(resource).toImage();
+    return ui::sharedPixmap(resource).toImage();
 }
 
 /// The selected rows of a tree, by their paths.

@@ -170,6 +170,7 @@ private slots:
 
     void aLongTextFitsTheScreen_data() {
         QTest::addColumn<QString>("text");
+        QTest::newRow("wide letters") << QStringLiteral("WWWWWWWWW ").repeated(190);
         QTest::newRow("one line") << QString(65536, QLatin1Char('W'));
         QTest::newRow("words") << QStringLiteral("word ").repeated(13000);
         QTest::newRow("lines") << QStringLiteral("at line\n").repeated(6000);

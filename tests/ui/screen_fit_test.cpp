@@ -65,6 +65,18 @@ private slots:
         QCOMPARE(window.geometry(), QRect(100, 100, 300, 300));
     }
 
+    void aWindowGrowsNoFurtherThanItsScreen() {
+        QDialog window;
+        window.setGeometry(10, 300, 300, 400);
+        window.show();
+        const QRect room = window.screen()->availableGeometry();
+        QCOMPARE(ui::growOnScreen(window, 30), 30);
+        QCOMPARE(window.height(), 430);
+        QCOMPARE(ui::growOnScreen(window, 5000), ui::largestWindow(room).height() - 430);
+        QCOMPARE(window.height(), ui::largestWindow(room).height());
+        QVERIFY(room.contains(window.frameGeometry()));
+    }
+
     void aDialogThatFitsKeepsItsSize() {
         QDialog dialog;
         dialog.resize(300, 200);

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QtTest>
@@ -25,6 +26,12 @@ void showFocused(QLineEdit& field) {
     if (!QTest::qWaitForWindowActive(&field))
         qFatal("The field doesn't become active");
     field.setFocus();
+}
+
+QAccessible::UpdateHandler updateHandler() {
+    const auto handler = QAccessible::installUpdateHandler(nullptr);
+    QAccessible::installUpdateHandler(handler);
+    return handler;
 }
 
 void editInEveryWay(QLineEdit& field) {
@@ -74,6 +81,17 @@ private slots:
         QCOMPARE(field.text(), q("n"));
         field.wipe();
         QCOMPARE(lettersIn(reader.heard()), QStringList());
+    }
+
+    void withoutAFieldNothingIsPassedOn() {
+        const support::ScreenReader reader;
+        const auto hears = updateHandler();
+        {
+            const ui::SecretField one;
+            { const ui::SecretField other; }
+            QVERIFY(updateHandler() != hears);
+        }
+        QVERIFY(updateHandler() == hears);
     }
 
     void otherFieldsAreHeardAsBefore() {
