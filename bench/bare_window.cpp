@@ -11,7 +11,9 @@
 #include <QMenuBar>
 
 int main(int argc, char** argv) {
-    // As in the client: Qt doesn't ask the desktop whether it shows menu bars.
+    // As in the client: Qt neither looks for OpenGL nor asks the desktop whether it shows menu
+    // bars.
+    qputenv("QT_XCB_GL_INTEGRATION", "none");
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     const QApplication application(argc, argv);
     QMainWindow window;

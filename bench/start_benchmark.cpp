@@ -3,18 +3,19 @@
 
 // The client beside a program with a bare Qt window, a menu and a line of text: the time from its
 // start to its first paint, its private memory, and how often it wakes up while idle.
-// Needs a display. The client finds no agent, and waits with its login dialog open.
+// Needs a display. The client finds no agent, and waits with its login dialog open, in which a
+// cursor blinks. With a session only the heartbeat is left.
 
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <string>
 #include <thread>
 
 #include <benchmark/benchmark.h>
 
 #include "child_program.h"
+#include "process_watch.h"
 
 namespace {
 
@@ -33,8 +34,7 @@ double now() {
 void watchStart(int output) {
     ::setenv("QT_PLUGIN_PATH", (programs.parent_path() / "watch").c_str(), 1);
     ::setenv("QT_QPA_GENERIC_PLUGINS", ("startwatch:" + std::to_string(output)).c_str(), 1);
-    // The reference does without OpenGL, too.
-    ::setenv("QT_XCB_GL_INTEGRATION", "none", 1);
+    ::unsetenv("QT_XCB_GL_INTEGRATION");
 }
 
 /// A running program that loads the watch over its start.
@@ -51,56 +51,30 @@ public:
     /// Seconds of processor time until then.
     double processorTime() const { return processorTime_; }
 
-    /// Memory that it has filled itself, in KiB. Unchanged pages of a program's files don't count:
-    /// whether another process shares them depends on what else happens to run, and the system can
-    /// drop them.
-    double privateMemory() const {
-        std::ifstream map(folder() / "smaps_rollup");
-        double sum = 0;
-        for (std::string line; std::getline(map, line);)
-            if (line.starts_with("Anonymous:"))
-                sum += std::stod(line.substr(line.find(':') + 1));
-        return sum;
-    }
-
-    /// How often its threads have stopped waiting so far.
-    double wakeUps() const {
-        double sum = 0;
-        for (const auto& thread : std::filesystem::directory_iterator(folder() / "task")) {
-            std::ifstream status(thread.path() / "status");
-            for (std::string line; std::getline(status, line);)
-                if (line.starts_with("voluntary_ctxt_switches:"))
-                    sum += std::stod(line.substr(line.find(':') + 1));
-        }
-        return sum;
-    }
+    pid_t id() const { return program_.id(); }
 
 private:
-    std::filesystem::path folder() const { return "/proc/" + std::to_string(program_.id()); }
-
     double begin_;
     bench::ChildProgram program_;
     double firstPaint_;
     double processorTime_;
 };
 
+void idle(benchmark::State& state, pid_t process) {
+    std::this_thread::sleep_for(settleTime);
+    state.counters["private_kib"] = bench::privateMemory(process);
+    const bench::Idleness idleness = bench::watchIdling(process, idleTime);
+    state.counters["wake_ups"] = idleness.wakeUps;
+    state.counters["moments"] = idleness.moments;
+}
+
 void measure(benchmark::State& state, const char* program) {
-    double memory = 0;
-    double busy = 0;
-    double wakeUps = 0;
     for (auto round : state) {
         const Started started(program);
         state.SetIterationTime(started.firstPaint());
-        busy = started.processorTime();
-        std::this_thread::sleep_for(settleTime);
-        memory = started.privateMemory();
-        const double before = started.wakeUps();
-        std::this_thread::sleep_for(idleTime);
-        wakeUps = started.wakeUps() - before;
+        state.counters["busy"] = started.processorTime() * 1e3;
+        idle(state, started.id());
     }
-    state.counters["busy"] = busy * 1e3;
-    state.counters["private_kib"] = memory;
-    state.counters["wake_ups"] = wakeUps / Seconds(idleTime).count();
 }
 
 void startClient(benchmark::State& state) {
@@ -111,8 +85,23 @@ void startBareWindow(benchmark::State& state) {
     measure(state, "bare_window");
 }
 
+/// Not its start: the main window with a session, in front of which nobody sits.
+void connectedWindow(benchmark::State& state) {
+    for (auto round : state) {
+        const bench::ChildProgram agent({programs / "tarn-agent-simulator"});
+        const std::string url = agent.readLine();
+        const bench::ChildProgram window(
+            {programs / "connected_window", url.substr(url.rfind(':') + 1)});
+        window.readLine();
+        idle(state, window.id());
+        state.SetIterationTime(Seconds(idleTime).count());
+        state.counters["busy"] = 0; // each benchmark has the same columns
+    }
+}
+
 BENCHMARK(startClient)->UseManualTime()->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(startBareWindow)->UseManualTime()->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(connectedWindow)->UseManualTime()->Iterations(1)->Unit(benchmark::kMillisecond);
 
 } // namespace
 
