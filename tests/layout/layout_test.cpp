@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Enforces the direction of includes, where a folder may include only folders below it, the
-// names of icons, and the options of file dialogs.
+// Enforces the direction of includes, where a folder may include only folders below it, and
+// what forms and file dialogs have in common.
 
 #include <algorithm>
 #include <filesystem>
@@ -211,6 +211,26 @@ TEST(Layout, AFileDialogIsNotTheDesktopsOwn) {
         EXPECT_NE(text.find("QFileDialog::DontUseNativeDialog"), std::string::npos) << entry.path();
     }
     EXPECT_GE(found, 3);
+}
+
+TEST(Layout, AFieldThatHidesItsTextIsASecretField) {
+    // Qt announces to screen readers what is typed into any other.
+    static const std::string widget = "<widget class=\"";
+    int found = 0;
+    for (const auto& entry : fs::recursive_directory_iterator(root / "src")) {
+        if (entry.path().extension() != ".ui")
+            continue;
+        std::ifstream in(entry.path());
+        const std::string text(std::istreambuf_iterator<char>(in), {});
+        for (auto at = text.find("\"echoMode\""); at != std::string::npos;
+             at = text.find("\"echoMode\"", at + 1)) {
+            ++found;
+            const auto begin = text.rfind(widget, at) + widget.size();
+            EXPECT_EQ(text.substr(begin, text.find('"', begin) - begin), "ui::SecretField")
+                << entry.path();
+        }
+    }
+    EXPECT_GE(found, 5);
 }
 
 TEST(Layout, AnIconIsNamedWithItsSuffix) {
