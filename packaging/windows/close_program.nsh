@@ -1,13 +1,13 @@
 ; SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 ; SPDX-License-Identifier: Apache-2.0
 ;
-; Asks every running program from the folder $Folder to end, as at the end of a session, and waits
-; until its file is no longer in use. Programs in other sessions can't be asked.
+; Closes every running instance in the folder $Folder, as Windows does at sign-out, and waits until
+; the program's file is no longer in use. Instances in other sessions can't be closed.
 
 Var Folder
 
 !macro CloseFunctions un
-; $R0: whether the program in $Folder is running, perhaps in another session.
+; Sets $R0 to 1 if the program in $Folder is running, perhaps in another session, else to 0.
 Function ${un}LookIfRunning
     StrCpy $R0 0
     ; GENERIC_WRITE, sharing everything, OPEN_EXISTING
@@ -20,8 +20,8 @@ Function ${un}LookIfRunning
     ${EndIf}
 FunctionEnd
 
-; Replaces the path $6 by what identifies the file, which may have several paths; by nothing if there
-; is no such file.
+; Replaces the path $6 by the identity of the file, which may have several paths; by an empty text if
+; the file doesn't exist.
 Function ${un}Identify
     System::Call 'kernel32::CreateFileW(w r6, i 0, i 7, p 0, i 3, i 0, p 0) p .r7'
     StrCpy $6 ""
@@ -39,7 +39,7 @@ Function ${un}Identify
     System::Call 'kernel32::CloseHandle(p r7)'
 FunctionEnd
 
-; $4: whether process $3 runs the file identified by $2.
+; Sets $4 to 1 if process $3 runs the file with the identity $2, else to 0.
 Function ${un}IsOurs
     StrCpy $4 0
     ; PROCESS_QUERY_LIMITED_INFORMATION
@@ -54,7 +54,7 @@ Function ${un}IsOurs
     ${EndIf}
 FunctionEnd
 
-; Finds all windows before it asks the first, as those of a program that ends disappear.
+; Finds all windows before it closes the first: those of a program that exits disappear.
 Function ${un}AskToEnd
     StrCpy $6 "$Folder\${PROGRAM}"
     Call ${un}Identify

@@ -1,13 +1,13 @@
 ; SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 ; SPDX-License-Identifier: Apache-2.0
 ;
-; The installer. tools/windows/pack gives VERSION, LISTS, ICON, LICENSE, SIGN and OUTPUT.
+; The installer. tools/windows/pack defines VERSION, LISTS, ICON, LICENSE, SIGN and OUTPUT.
 
 Target amd64-unicode
 Unicode true
 SetCompressor /SOLID lzma
 ManifestDPIAware true
-; A file that can't be written ends a silent installation, too.
+; A file that can't be written aborts a silent installation, too.
 AllowSkipFiles off
 
 !define NAME "Tarn-Mobile User"
@@ -15,7 +15,7 @@ AllowSkipFiles off
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Tarn-Mobile User"
 !define EVENT_SOURCE "SYSTEM\CurrentControlSet\Services\EventLog\Application\HessianClientAPI"
 
-; For all users if the user has the rights, otherwise for this user only; a page asks if both are
+; For all users if the user has administrator rights, otherwise for this user only; a page asks if both are
 ; possible.
 !define MULTIUSER_EXECUTIONLEVEL Highest
 !define MULTIUSER_MUI
@@ -39,7 +39,7 @@ AllowSkipFiles off
 ; Defines the macros InstallFiles, RemoveFiles and ForEachLanguage.
 !include "${LISTS}"
 
-; The folder of the command line, or of the uninstaller; empty if there is none.
+; The folder from the command line, or that of the uninstaller; otherwise empty.
 Var GivenFolder
 ; Where the program is installed; empty if it isn't.
 Var OldFolder
@@ -74,7 +74,7 @@ VIAddVersionKey LegalCopyright "Copyright 2026 The Tarn-Mobile User authors"
 !insertmacro MUI_UNPAGE_CONFIRM
 !insertmacro MUI_UNPAGE_INSTFILES
 
-; With the language, its file defines LANGUAGE_CODE and the texts below in it.
+; Each file adds a language with its texts, and defines LANGUAGE_CODE.
 !macro AddLanguage code
     !include "texts/${code}.nsh"
 !macroend
@@ -87,7 +87,7 @@ VIAddVersionKey LegalCopyright "Copyright 2026 The Tarn-Mobile User authors"
     CreateShortcut "${path}" "$INSTDIR\${PROGRAM}" "--lang $Code${options}" "$INSTDIR\${PROGRAM}" 0
 !macroend
 
-; A chosen folder that holds other files gets a folder of the program's own.
+; If the chosen folder contains other files, the program gets a subfolder.
 Function UseOwnFolder
     ${If} ${FileExists} "$INSTDIR\${PROGRAM}"
         Return
@@ -107,8 +107,8 @@ Function CloseOldAndNew
     ${EndIf}
 FunctionEnd
 
-; Removes the installed version, as files that only that one has would remain otherwise. It keeps the
-; shortcuts, wherever the user has put them.
+; Removes the installed version; otherwise, files that only that version has would remain. The
+; shortcuts are kept, wherever the user has put them.
 Function RemoveOld
     ${If} $OldFolder == ""
     ${OrIfNot} ${FileExists} "$OldFolder\uninstall.exe"
@@ -165,7 +165,7 @@ Section /o $(StartAtLogOn) WithStartAtLogOn
     !insertmacro Shortcut "$SMSTARTUP\${NAME}.lnk" " --tray"
 SectionEnd
 
-; What an earlier installation made and the user no longer wants.
+; Removes the shortcuts of an earlier installation that the user has deselected.
 Section -Unselected
     ${IfNot} ${SectionIsSelected} ${WithDesktopIcon}
         Delete "$DESKTOP\${NAME}.lnk"
@@ -194,7 +194,7 @@ SectionEnd
     ${EndIf}
 !macroend
 
-; The language $1, if there is such a one.
+; Selects the language $1 if it exists.
 !macro UseLanguage code
     ${If} $1 == ${code}
         StrCpy $LANGUAGE ${LANGUAGE_${code}}
@@ -207,7 +207,7 @@ SectionEnd
     ${EndIf}
 !macroend
 
-; The languages of the command line, of the earlier installation, or of Windows, in this order.
+; Selects the language of the command line, of the earlier installation, or of Windows, in this order.
 Function ChooseCode
     !insertmacro ForEachLanguage UseCode
     ClearErrors
@@ -220,7 +220,7 @@ Function ChooseCode
     ${EndIf}
 FunctionEnd
 
-; Called at the start, and when the user has chosen for whom to install.
+; Called at the start, and after the user has chosen who to install for.
 Function ModeChosen
     ReadRegStr $OldFolder SHCTX "${UNINSTALL_KEY}" InstallLocation
     ${If} $GivenFolder != ""
@@ -252,7 +252,7 @@ Function .onInit
     ${GetParameters} $0
     ${GetOptions} $0 "/LANG=" $1
     !insertmacro ForEachLanguage UseLanguage
-    ; The first version in which the program's code page is UTF-8, as its manifest demands.
+    ; The first version in which the program's code page is UTF-8, as its manifest requires.
     ${IfNot} ${AtLeastWin10}
     ${OrIfNot} ${AtLeastBuild} 18362
         MessageBox MB_OK|MB_ICONSTOP $(TooOld) /SD IDOK
@@ -278,7 +278,7 @@ Function un.ModeChosen
     StrCpy $INSTDIR $GivenFolder
 FunctionEnd
 
-; $0: whether the registry and the shortcuts are about the program in this folder.
+; Sets $0 to 1 if the registry and the shortcuts belong to the program in this folder, else to 0.
 Function un.IsRegistered
     StrCpy $0 1
     StrCpy $6 "$INSTDIR\uninstall.exe"

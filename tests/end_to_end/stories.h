@@ -12,7 +12,7 @@ void playWork(Player& player);
 /// Logs in with a password, records it, and leaves the about box open until the program is closed.
 void playStay(Player& player);
 
-/// Is logged in at the start, behind a window that stays hidden, and records it.
+/// Is logged in at the start while the window stays hidden, and records it.
 void playTray(Player& player);
 
 /// Is logged in at the start as the system's user, then through the dialog with its box checked,

@@ -1,14 +1,14 @@
 # SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 # SPDX-License-Identifier: Apache-2.0
 #
-# For scripts that let a user work under Wine, with a simulated agent: sourced in the root of the
-# sources. They call `begin` first, then `start_wine`, and set `program` to the client's path.
+# For scripts that play a user under Wine, with a simulated agent. Source it in the root of the
+# sources, call `begin`, then `start_wine`, and set `program` to the client's path.
 # shellcheck shell=bash
 
 linux=$PWD/build/dev
 windows=$PWD/build/windows
 story=$windows/story
-# In no code page.
+# A name that no ANSI code page can encode.
 user="Jürgen Ωmega"
 agent=
 server=
@@ -21,7 +21,7 @@ build_for_linux() {
     cmake --build --preset dev --target tarn-agent-simulator tarn_in_realm "$@"
 }
 
-# begin SCRIPT ARGUMENT...: starts the script again in a network of its own, with a home of its own.
+# begin SCRIPT ARGUMENT...: restarts the script in a private network, with a home of its own.
 begin() {
     if [ -z "${TARN_OWN_NETWORK-}" ]; then
         tools/install-packages screen test windows windows-test
@@ -60,7 +60,7 @@ wait_until() {
     done
 }
 
-# A display, and a Wine that takes itself for Windows 10.
+# Starts a display, and Wine as Windows 10.
 start_wine() {
     Xvfb -displayfd 3 -noreset -screen 0 1600x1000x24 -nolisten tcp 3>"$work/display" 2>/dev/null &
     server=$!
@@ -69,15 +69,16 @@ start_wine() {
     export DISPLAY
     wineboot --init >/dev/null 2>&1
     wine reg add 'HKCU\Software\Wine' /v Version /d win10 /f >/dev/null
-    # Wine has no font of its own for what a program doesn't paint itself.
+    # Wine has no fonts of its own for native controls.
     local font
     for font in "Segoe UI" Tahoma "MS Shell Dlg" "MS Shell Dlg 2" "MS Sans Serif"; do
         wine reg add 'HKCU\Software\Wine\Fonts\Replacements' /v "$font" /d "DejaVu Sans" /f >/dev/null
     done
 }
 
-# with_agent LOG COMMAND...: while the command runs, an agent that a backup keeps busy for a while. In
-# a Kerberos realm it accepts logons. AGENT_OPTIONS and AGENT_CLOCK, as in +1h, are its own.
+# with_agent LOG COMMAND...: runs the command beside a simulated agent whose backups take a while. In a
+# Kerberos realm it accepts logons. AGENT_OPTIONS are its options, and AGENT_CLOCK is the offset of its
+# clock, as in +1h.
 with_agent() {
     local log=$1 status=0 options=() clock=()
     shift
@@ -100,8 +101,8 @@ with_agent() {
 
 windows_path() { echo "Z:${1//\//\\}"; }
 
-# play_windows STORY FOLDER [LANGUAGE [OPTION]...]: what the shortcut does. Wine follows it by its path
-# in the ANSI code page, where an Omega is lost.
+# play_windows STORY FOLDER [LANGUAGE [OPTION]...]: starts the client as the shortcut does. Wine would
+# resolve the shortcut in the ANSI code page, which has no Omega.
 play_windows() {
     local name=$1 folder=$2 language=${3-en}
     shift $(($# < 3 ? $# : 3))
@@ -112,7 +113,7 @@ play_windows() {
         wine tarn-mobile-user.exe --lang "$language" "$@"
 }
 
-# in_realm OPTION... -- LOG FUNCTION ARGUMENT...: an exported function with an agent and Wine in a
+# in_realm OPTION... -- LOG FUNCTION ARGUMENT...: runs an exported function with an agent and Wine in a
 # Kerberos realm of their own. The options are those of tarn_in_realm.
 in_realm() {
     local options=()
@@ -121,7 +122,7 @@ in_realm() {
         shift
     done
     shift
-    # What Wine keeps running knows nothing of the realm.
+    # Wine's running services don't have the realm's environment.
     wineserver -k || true
     wineserver -w
     "$linux/bin/tarn_in_realm" ${options[@]+"${options[@]}"} \
@@ -134,8 +135,8 @@ state() {
     wineserver -w
     (
         cd "$WINEPREFIX"
-        # What an uninstaller leaves until the next start: Wine tries to remove the folder before the
-        # file in it.
+        # Without what an uninstaller leaves until the next start: Wine tries to remove the folder
+        # before the file in it.
         find drive_c -name '~nsu*.tmp' -empty -prune -o -type f -printf '%p=%s\n' -o -printf '%p\n'
         awk '/^\[/ { key = FILENAME " " substr($0, 1, match($0, /\] [0-9]+$/) ? RSTART : length($0)); print key; next }
             /^["@ ]/ { printf "%s\t%s", key, $0; while (/\\$/ && (getline) > 0) printf "%s", $0; print "" }' \
@@ -143,14 +144,13 @@ state() {
     ) | sort >"$1"
 }
 
-# changes BEFORE AFTER: the lines that only one of two states has.
+# changes BEFORE AFTER: prints the lines that only one of two states has.
 changes() { LC_ALL=C comm -3 <(LC_ALL=C sort "$1") <(LC_ALL=C sort "$2") | sed 's/^\t//'; }
 
 # Without the value.
 names() { sed 's/=.*//' | LC_ALL=C sort -u; }
 
-# start_again: as Windows does with a restart, Wine then removes the files that programs have left for
-# that.
+# start_again: like a restart of Windows, removes the files that programs have scheduled for it.
 start_again() {
     wineserver -k || true
     wineserver -w
@@ -158,8 +158,8 @@ start_again() {
     wineserver -w
 }
 
-# The names of what Wine itself changes: when it starts, and when one of its own programs shows a
-# window. Folders and keys that every Windows has are made first.
+# Records what Wine itself changes: when it starts, and when one of its own programs shows a window.
+# Creates the folders and keys that every Windows has first.
 learn_noise() {
     wine reg add 'HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall' /f >/dev/null
     mkdir -p "$WINEPREFIX/drive_c/users/$user/AppData/Local/Programs"
