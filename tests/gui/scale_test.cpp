@@ -43,7 +43,7 @@ public:
     }
 };
 
-/// The size of the visible window with that title; empty if there is none.
+/// The size of the visible window with that title; empty without such a window.
 QSize sizeOfWindow(const QString& title) {
     QProcess search;
     search.start(QStringLiteral("xdotool"),
