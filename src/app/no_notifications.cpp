@@ -15,4 +15,6 @@ void Notifications::show(const QString&, const QString&, const QString&, int) {}
 
 void Notifications::followAction(uint, const QString&) {}
 
+void Notifications::forget(uint, uint) {}
+
 } // namespace app

@@ -129,6 +129,13 @@ in_realm() {
         bash -c 'with_agent "$1" bash -c '"'"'"$@"'"'"' _ "${@:2}"' _ "$@"
 }
 
+# The installer that tools/windows/installer has built, and its version.
+find_installer() {
+    version=$(sed -n 's/^CMAKE_PROJECT_VERSION:[^=]*=//p' "$windows/CMakeCache.txt")
+    installer=$windows/tarn-mobile-user-$version-setup.exe
+    [ -e "$installer" ] || fail "there is no installer: tools/windows/installer builds it"
+}
+
 # state FILE: writes everything that an installation could leave behind, sorted: the files, and the
 # keys and values of the registry, each value after its key.
 state() {
