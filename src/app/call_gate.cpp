@@ -3,6 +3,7 @@
 #include "app/call_gate.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include <QApplication>
@@ -29,6 +30,13 @@ constexpr int wokenCode = 0x57414b45;
 constexpr int timeOutCode = 0x54494d45;
 
 const auto wakeType = static_cast<QEvent::Type>(QEvent::registerEventType());
+/// Delivered once the thread is back in its event loop.
+const auto chainEndType = static_cast<QEvent::Type>(QEvent::registerEventType());
+
+/// Qt collects requests to paint for 5 ms.
+constexpr auto timeToPaint = 15ms;
+/// Between looks at a button that is held down.
+constexpr auto timeToLook = 20ms;
 
 /// Disables updates of widgets that are in the middle of painting themselves.
 class PaintingWidgets {
@@ -88,7 +96,7 @@ CallGate::CallGate()
 
 CallGate::CallGate(const Times& times)
     : times_(times)
-    , rules_{{ui::laterEventType()}, {}}
+    , rules_{{ui::laterEventType(), chainEndType}, {}}
     , panel_(std::make_unique<WaitingPanel>())
     , installation_(*this) {
     connect(panel_.get(), &WaitingPanel::disconnectClicked, this, &CallGate::leave);
@@ -104,9 +112,22 @@ void CallGate::admit(QAction& action) {
     rules_.admittedActions.emplace_back(&action);
 }
 
+milliseconds CallGate::patience() {
+    callBegin_ = Clock::now();
+    if (!chainBegin_) {
+        chainBegin_ = painted_ = callBegin_;
+        announced_ = left_ = false;
+        QCoreApplication::postEvent(this, new QEvent(chainEndType));
+    }
+    if (left_)
+        return 0ms;
+    return std::max(times_.untilPainting - duration_cast<milliseconds>(callBegin_ - painted_), 0ms);
+}
+
 void CallGate::wait(hessiancln::AwaitedCall& call) noexcept {
-    begin_ = Clock::now() - times_.untilPainting;
     call_ = &call;
+    // A call in a chain may end before anything is painted.
+    leastEnd_ = callBegin_ == chainBegin_ ? Moment() : Clock::now() + timeToPaint;
     {
         const PaintingWidgets asTheyAre;
         const HeldEvents held(rules_, *panel_, [this] {
@@ -114,40 +135,51 @@ void CallGate::wait(hessiancln::AwaitedCall& call) noexcept {
                 leave();
         });
         call.onFinish([this] { wake(*this); });
-        keepPainting(call);
-        offerToLeave(call);
+        if (left_)
+            leave();
+        keepPainting();
+        offerToLeave();
         call.onFinish({});
         QCoreApplication::removePostedEvents(this, wakeType);
-        panel_->showOver(nullptr, call.awaited(), 0s);
+        panel_->hideFromHost();
     }
     call_ = nullptr;
+    painted_ = Clock::now();
 }
 
 /// Input stays in the queue, as during a short call.
-void CallGate::keepPainting(hessiancln::AwaitedCall& call) {
-    const auto due = begin_ + times_.untilPanel;
-    while (!call.finished() && Clock::now() < due) {
-        const auto rest = std::chrono::ceil<milliseconds>(due - Clock::now());
-        if (run(QEventLoop::ExcludeUserInputEvents, rest) == Outcome::programEnds)
+void CallGate::keepPainting() {
+    const auto due = *chainBegin_ + times_.untilPanel;
+    while (goesOn() && Clock::now() < due)
+        if (run(QEventLoop::ExcludeUserInputEvents, due) == Outcome::programEnds)
             leave();
-    }
 }
 
-void CallGate::offerToLeave(hessiancln::AwaitedCall& call) {
-    if (!call.finished())
+void CallGate::offerToLeave() {
+    if (goesOn())
         closeDroppedList();
-    while (!call.finished()) {
-        panel_->showOver(windowInFront(), call.awaited(), elapsed());
-        const auto untilNextSecond =
-            std::chrono::ceil<milliseconds>(begin_ + elapsed() + 1s - Clock::now());
-        if (leaving_ || run(QEventLoop::AllEvents, untilNextSecond) == Outcome::programEnds)
+    while (goesOn()) {
+        panel_->showOver(windowInFront(), {call_->awaited(), answersSlowly(), elapsed()});
+        if (!std::exchange(announced_, true))
+            panel_->announce();
+        const Moment nextSecond = awaitedSince() + elapsed() + 1s;
+        if (leaving_ || run(QEventLoop::AllEvents, nextSecond) == Outcome::programEnds)
             leave();
     }
 }
 
-CallGate::Outcome CallGate::run(int flags, milliseconds limit) {
+/// Whoever holds the panel's button down hasn't released it yet.
+bool CallGate::goesOn() const {
+    return !call_->finished() || Clock::now() < leastEnd_ || panel_->isButtonDown();
+}
+
+CallGate::Outcome CallGate::run(int flags, Moment until) {
     QEventLoop loop;
     loop_ = &loop;
+    const Moment now = Clock::now();
+    if (call_->finished())
+        until = std::min(until, std::max(leastEnd_, now + timeToLook));
+    const auto limit = std::chrono::ceil<milliseconds>(std::max(until, now) - now);
     timer_.start(static_cast<int>(limit.count()), Qt::PreciseTimer, this);
     const int code = loop.exec(static_cast<QEventLoop::ProcessEventsFlag>(flags));
     timer_.stop();
@@ -163,14 +195,28 @@ CallGate::Outcome CallGate::run(int flags, milliseconds limit) {
 void CallGate::leave() {
     if (!call_)
         return;
-    const QString text = call_->awaited() == hessiancln::Awaited::agent
-                             ? tr("Disconnected, as the agent hadn't answered for %1 s.")
-                             : tr("Disconnected, as the logon service hadn't answered for %1 s.");
+    QString text = tr("Disconnected, as the agent hadn't answered for %1 s.");
+    if (call_->awaited() == hessiancln::Awaited::logonService)
+        text = tr("Disconnected, as the logon service hadn't answered for %1 s.");
+    else if (answersSlowly())
+        text = tr("Disconnected, as the agent had answered slowly for %1 s.");
+    left_ = true;
     call_->giveUp(session::toWire(text.arg(elapsed().count())));
+    leastEnd_ = Moment();
+}
+
+/// Whether the agent has answered calls of this chain, but needs too long for them as a whole.
+bool CallGate::answersSlowly() const {
+    return call_->awaited() == hessiancln::Awaited::agent && callBegin_ != chainBegin_ &&
+           Clock::now() < callBegin_ + times_.untilPanel;
+}
+
+CallGate::Moment CallGate::awaitedSince() const {
+    return answersSlowly() ? *chainBegin_ : callBegin_;
 }
 
 std::chrono::seconds CallGate::elapsed() const {
-    return duration_cast<std::chrono::seconds>(Clock::now() - begin_);
+    return duration_cast<std::chrono::seconds>(Clock::now() - awaitedSince());
 }
 
 void CallGate::timerEvent(QTimerEvent* event) {
@@ -181,6 +227,8 @@ void CallGate::timerEvent(QTimerEvent* event) {
 void CallGate::customEvent(QEvent* event) {
     if (event->type() == wakeType && loop_)
         loop_->exit(wokenCode);
+    else if (event->type() == chainEndType)
+        chainBegin_.reset();
 }
 
 } // namespace app

@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <memory>
+#include <optional>
 
 #include <QBasicTimer>
 #include <QObject>
@@ -17,15 +18,17 @@ class WaitingPanel;
 namespace app {
 
 /// Keeps the windows alive while the thread that creates this object waits for the agent, or for
-/// the system's logon service. During a slow call they repaint but take no input; after a longer
-/// wait, a panel over the frontmost window lets the user disconnect. Quitting the program
-/// disconnects too.
+/// the system's logon service. During a slow call, or a chain of calls that is slow as a whole,
+/// they repaint but take no input; after a longer wait, a panel over the frontmost window lets the
+/// user disconnect. Quitting the program disconnects too. A chain is all calls that the thread
+/// makes before it returns to its event loop.
 ///
 /// Without this object the thread just sleeps until each reply arrives.
 class CallGate : public QObject, private hessiancln::WaitHook {
     Q_OBJECT
 public:
-    /// Measured from the start of a call.
+    /// Measured from the start of a chain of calls. Within a chain the windows paint again each
+    /// time that `untilPainting` has passed.
     struct Times {
         std::chrono::milliseconds untilPainting{200};
         std::chrono::milliseconds untilPanel{3000};
@@ -58,13 +61,18 @@ protected:
 private:
     enum class Outcome { woken, timeOut, programEnds };
 
-    std::chrono::milliseconds patience() const override { return times_.untilPainting; }
+    using Moment = std::chrono::steady_clock::time_point;
+
+    std::chrono::milliseconds patience() override;
     void wait(hessiancln::AwaitedCall& call) noexcept override;
 
-    void keepPainting(hessiancln::AwaitedCall& call);
-    void offerToLeave(hessiancln::AwaitedCall& call);
-    Outcome run(int flags, std::chrono::milliseconds limit);
+    void keepPainting();
+    void offerToLeave();
+    bool goesOn() const;
+    Outcome run(int flags, Moment until);
     void leave();
+    bool answersSlowly() const;
+    Moment awaitedSince() const;
     std::chrono::seconds elapsed() const;
 
     Times times_;
@@ -74,11 +82,17 @@ private:
     std::unique_ptr<WaitingPanel> panel_;
     hessiancln::WaitHookInstallation installation_;
 
+    std::optional<Moment> chainBegin_; ///< no value while the thread is in its event loop
+    Moment callBegin_;                 ///< of the latest call
+    Moment painted_;                   ///< when the windows last could paint
+    bool announced_ = false;           ///< the panel, in this chain
+    bool left_ = false;                ///< by the user, in this chain: no call of it is waited for
+
     // Used during a wait
     hessiancln::AwaitedCall* call_ = nullptr;
+    Moment leastEnd_;
     QEventLoop* loop_ = nullptr;
     QBasicTimer timer_;
-    std::chrono::steady_clock::time_point begin_;
 };
 
 } // namespace app

@@ -26,10 +26,8 @@ WaitingPanel::WaitingPanel()
 
 WaitingPanel::~WaitingPanel() = default;
 
-void WaitingPanel::showOver(QWidget* host, hessiancln::Awaited awaited,
-                            std::chrono::seconds elapsed) {
-    awaited_ = awaited;
-    elapsed_ = elapsed;
+void WaitingPanel::showOver(QWidget* host, const Reason& reason) {
+    reason_ = reason;
     if (host != host_)
         setHost(host);
     if (!host_)
@@ -40,11 +38,17 @@ void WaitingPanel::showOver(QWidget* host, hessiancln::Awaited awaited,
     // Fonts are known only for visible widgets.
     show();
     place();
-    if (wasVisible)
-        return;
-    raise();
+    if (!wasVisible)
+        raise();
+}
+
+void WaitingPanel::announce() {
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
+}
+
+bool WaitingPanel::isButtonDown() const {
+    return isVisible() && ui_->buttonDisconnect->isDown();
 }
 
 void WaitingPanel::setHost(QWidget* host) {
@@ -57,10 +61,12 @@ void WaitingPanel::setHost(QWidget* host) {
 }
 
 void WaitingPanel::setText() {
-    const QString sentence = awaited_ == hessiancln::Awaited::agent
-                                 ? tr("The agent hasn't answered for %1 s.")
-                                 : tr("The logon service hasn't answered for %1 s.");
-    const QString text = sentence.arg(elapsed_.count());
+    QString sentence = tr("The agent hasn't answered for %1 s.");
+    if (reason_.awaited == hessiancln::Awaited::logonService)
+        sentence = tr("The logon service hasn't answered for %1 s.");
+    else if (reason_.slow)
+        sentence = tr("The agent has answered slowly for %1 s.");
+    const QString text = sentence.arg(reason_.elapsed.count());
     ui_->labelWaiting->setText(text);
     setAccessibleName(text);
 }

@@ -19,11 +19,24 @@ class WaitingPanel;
 class WaitingPanel : public QFrame {
     Q_OBJECT
 public:
+    struct Reason {
+        hessiancln::Awaited awaited = hessiancln::Awaited::agent;
+        bool slow = false; ///< the agent answers, but slowly; otherwise there is no answer
+        std::chrono::seconds elapsed{0};
+    };
+
     WaitingPanel();
     ~WaitingPanel() override;
 
     /// Shows the panel over `host`, or hides it if `host` is null.
-    void showOver(QWidget* host, hessiancln::Awaited awaited, std::chrono::seconds elapsed);
+    void showOver(QWidget* host, const Reason& reason);
+    void hideFromHost() { showOver(nullptr, reason_); }
+
+    /// Lets a screen reader read the panel out.
+    void announce();
+
+    /// Whether the user has pressed the button but not released it yet.
+    bool isButtonDown() const;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -41,6 +54,5 @@ private:
 
     std::unique_ptr<Ui::WaitingPanel> ui_;
     QPointer<QWidget> host_;
-    hessiancln::Awaited awaited_ = hessiancln::Awaited::agent;
-    std::chrono::seconds elapsed_{0};
+    Reason reason_;
 };

@@ -45,8 +45,9 @@ public:
     WaitHook& operator=(const WaitHook&) = delete;
     virtual ~WaitHook() = default;
 
-    /// How long a call may take before `wait` runs. Until then the thread sleeps.
-    virtual std::chrono::milliseconds patience() const = 0;
+    /// How long the call that begins now may take before `wait` runs. Until then the thread sleeps.
+    /// Asked once for each call.
+    virtual std::chrono::milliseconds patience() = 0;
 
     /// Runs on the waiting thread, and returns once the call has finished.
     virtual void wait(AwaitedCall& call) noexcept = 0;

@@ -24,24 +24,23 @@ struct Target {
     std::uint32_t port = 0;
 };
 
-/// Runs the exchange on a thread of its own while the caller waits with its hook.
-std::string carryBeside(const std::shared_ptr<HttpExchange>& exchange,
-                        std::chrono::milliseconds waited) {
+/// Runs the exchange on a thread of its own while the caller waits with its hook, whose patience is
+/// over.
+std::string carryBeside(const std::shared_ptr<HttpExchange>& exchange) {
     const auto reply =
         std::make_shared<PendingReply>([exchange](const std::string&) { exchange->abandon(); });
     const auto runToEnd = [exchange] {
         exchange->run();
         return exchange->takeReply();
     };
-    return waitForThread(reply, runToEnd, waited);
+    return waitForThread(reply, runToEnd, std::chrono::milliseconds(0));
 }
 
 /// A quick exchange runs on the caller's thread: starting another one would slow it down.
 std::string carry(const std::shared_ptr<HttpExchange>& exchange) {
-    if (const WaitHook* hook = CallPassage::hook()) {
-        const auto patience = hook->patience();
-        if (!exchange->runFor(patience))
-            return carryBeside(exchange, patience);
+    if (WaitHook* hook = CallPassage::hook()) {
+        if (!exchange->runFor(hook->patience()))
+            return carryBeside(exchange);
     } else {
         exchange->run();
     }

@@ -61,11 +61,14 @@ bool PendingReply::fail(std::exception_ptr failure) {
     return finish([&] { failure_ = std::move(failure); });
 }
 
-std::string PendingReply::wait(std::chrono::milliseconds waited) {
+std::string PendingReply::wait(std::optional<std::chrono::milliseconds> patience) {
+    WaitHook* const hook = CallPassage::hook();
+    if (hook && !patience)
+        patience = hook->patience();
     std::unique_lock lock(mutex_);
     const auto done = [this] { return finished_; };
-    if (WaitHook* hook = CallPassage::hook()) {
-        if (!condition_.wait_for(lock, hook->patience() - waited, done)) {
+    if (hook) {
+        if (!condition_.wait_for(lock, *patience, done)) {
             lock.unlock();
             hook->wait(*this);
             lock.lock();
@@ -102,7 +105,8 @@ void PendingReply::giveUp(const std::string& text) {
 }
 
 std::string waitForThread(const std::shared_ptr<PendingReply>& reply,
-                          std::function<std::string()> work, std::chrono::milliseconds waited) {
+                          std::function<std::string()> work,
+                          std::optional<std::chrono::milliseconds> patience) {
     std::thread([reply, work = std::move(work)] {
         try {
             std::string result = work();
@@ -112,7 +116,7 @@ std::string waitForThread(const std::shared_ptr<PendingReply>& reply,
             reply->fail(std::current_exception());
         }
     }).detach();
-    return reply->wait(waited);
+    return reply->wait(patience);
 }
 
 } // namespace hessiancln

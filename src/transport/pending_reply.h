@@ -33,9 +33,9 @@ public:
     bool fail(std::exception_ptr failure);
 
     /// Sleeps, or runs this thread's hook, until the call has finished. Returns the reply or throws
-    /// the failure; a failure given as text is thrown as `invoke_exception`. `waited` is the part
-    /// of the hook's patience that has already passed.
-    std::string wait(std::chrono::milliseconds waited = {});
+    /// the failure; a failure given as text is thrown as `invoke_exception`. `patience` is that of
+    /// the hook, which is asked for it unless it is given.
+    std::string wait(std::optional<std::chrono::milliseconds> patience = {});
 
     Awaited awaited() const override { return awaited_; }
     bool finished() const override;
@@ -61,6 +61,7 @@ private:
 /// Runs `work`, which returns the reply or throws, on a thread of its own, and waits for it as
 /// above. That thread is abandoned if the caller gives up, so `work` must own all that it needs.
 std::string waitForThread(const std::shared_ptr<PendingReply>& reply,
-                          std::function<std::string()> work, std::chrono::milliseconds waited = {});
+                          std::function<std::string()> work,
+                          std::optional<std::chrono::milliseconds> patience = {});
 
 } // namespace hessiancln

@@ -93,6 +93,7 @@ private slots:
 private:
     /// Runs `act` once in a slow heartbeat, and checks that it leads to no call there.
     void duringACall(const std::function<void()>& act) {
+        endChain();
         agent_->clearCallLog();
         agent_->inject("getTarnClientInfo", simulator::Delay{300ms});
         int rounds = 0;

@@ -9,6 +9,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -20,14 +21,18 @@
 #include <QTableView>
 #include <QTest>
 #include <QWindow>
+#include <QWizard>
 
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "api/client_connection.h"
+#include "app/backup_set_view_item.h"
 #include "app/login_check.h"
 #include "app/start_up.h"
 #include "insight/backup_health_window.h"
 #include "session/connection.h"
+#include "simulator/world/world.h"
 #include "tests/support/gui_modal_driver.h"
 #include "tests/support/gui_port_redirect.h"
 #include "tests/support/gui_translation.h"
@@ -93,8 +98,13 @@ private slots:
     void anAgentThatIsSuspendedAnswersOnceItGoesOn();
     void aReplyThatDripsIsLeft();
     void aReplyThatIsOnlyAnnouncedTakesNoMemory();
+    void aChainOfCallsIsLeft_data();
+    void aChainOfCallsIsLeft();
+    void aChainEndsWithTheTurnOfTheLoop();
 
 private:
+    /// A gate with longer times, under a window that is logged in.
+    void startWith(const app::CallGate::Times& times);
     /// Ends each wait as soon as the panel appears.
     std::unique_ptr<InTheWait> leaveAtOnce() {
         return std::make_unique<InTheWait>([] {
@@ -122,12 +132,23 @@ private:
     void leaveAnAgentUnderPaints();
 };
 
+void WaitingTest::startWith(const app::CallGate::Times& times) {
+    driver_.reset();
+    gate_.reset();
+    gate_ = std::make_unique<app::CallGate>(times);
+    driver_ = std::make_unique<MainWindowDriver>();
+    driver_->window().keepAliveBy(*gate_);
+    driver_->logIn(*agent_);
+    endChain();
+}
+
 void WaitingTest::aSilentAgentIsLeftByTheButton() {
     beSilent();
     QCOMPARE(beatAndLeave(), firstText);
     QVERIFY(!session::connectedToAgent());
     QCOMPARE(driver_->status(), QStringLiteral("No API connection exists"));
     QCOMPARE(methodsOf(*agent_), Calls{"getTarnClientInfo"});
+    endChain();
     driver_->logIn(*agent_);
     QVERIFY(session::connectedToAgent());
 }
@@ -157,12 +178,7 @@ void WaitingTest::thePanelGoesWhenTheAnswerComes() {
 }
 
 void WaitingTest::aShorterWaitPaintsAndShowsNoPanel() {
-    driver_.reset();
-    gate_.reset();
-    gate_ = std::make_unique<app::CallGate>(app::CallGate::Times{20ms, 20s});
-    driver_ = std::make_unique<MainWindowDriver>();
-    driver_->window().keepAliveBy(*gate_);
-    driver_->logIn(*agent_);
+    startWith({20ms, 20s});
     agent_->inject("getTarnClientInfo", simulator::Delay{200ms});
     PaintCount paints(driver_->window());
     bool shown = false;
@@ -304,6 +320,7 @@ void WaitingTest::aHiddenWindowShowsThePanelOnceItIsShown() {
 
 void WaitingTest::thePanelLiesOverTheDialogInFront() {
     driver_->window().OnDisconnect();
+    endChain();
     agent_->inject("getTarnClientType", simulator::Silence{});
     QWidget* host = nullptr;
     ModalDriver modals;
@@ -438,6 +455,7 @@ void WaitingTest::leaveAnAgentUnderPaints() {
     QVERIFY(underPanel > 0);
     QVERIFY(!session::connectedToAgent());
     QCOMPARE(methodsOf(*agent_), Calls{"getTarnClientInfo"});
+    endChain();
     driver_->logIn(*agent_);
     QVERIFY(session::connectedToAgent());
 }
@@ -455,6 +473,86 @@ void WaitingTest::aReplyThatIsOnlyAnnouncedTakesNoMemory() {
     const InTheWait watch([&] { most = std::max(most, residentMemory()); });
     leaveAnAgentUnderPaints();
     QVERIFY2(most < before + 64'000'000, qPrintable(QString::number(most - before)));
+}
+
+void WaitingTest::aChainOfCallsIsLeft_data() {
+    QTest::addColumn<bool>("byButton");
+    QTest::newRow("button, pressed and released in different calls") << true;
+    QTest::newRow("Escape") << false;
+}
+
+/// Each call is quick, but there are hundreds of them.
+void WaitingTest::aChainOfCallsIsLeft() {
+    QFETCH(bool, byButton);
+    startWith({300ms, 900ms});
+    constexpr int items = 100;
+    agent_->withWorld([this](simulator::World& world) {
+        auto& set = *world.set(driver_->card(0).record().id);
+        const simulator::ItemState item = set.items.front();
+        set.items.assign(items, item);
+    });
+    driver_->sets().selectRow(0);
+    for (const char* method : {"getFolder", "getType"})
+        agent_->inject(method, simulator::Delay{40ms}, simulator::Times::UntilCleared);
+    agent_->clearCallLog();
+
+    PaintCount paints(driver_->window());
+    int paintsBeforePanel = 0;
+    QString text;
+    int looks = 0;
+    std::size_t callsAtPress = 0;
+    const InTheWait user([&] {
+        QWidget* panel = waitingPanel();
+        if (!panel) {
+            paintsBeforePanel = paints.count;
+            driver_->window().update();
+            return;
+        }
+        text = waitingText();
+        auto& button = child<QPushButton>(*panel, "buttonDisconnect");
+        if (!byButton)
+            QTest::keyClick(panel->window()->windowHandle(), Qt::Key_Escape);
+        else if (++looks == 1)
+            QTest::mousePress(&button, Qt::LeftButton);
+        else if (looks == 2)
+            callsAtPress = methodsOf(*agent_).size();
+        else if (looks == 6)
+            QTest::mouseRelease(&button, Qt::LeftButton);
+    });
+    ModalDriver modals;
+    modals.expect(QStringLiteral("wizard"), isDialog<QWizard>,
+                  [](QWidget& wizard) { static_cast<QWizard&>(wizard).next(); });
+    QString said;
+    modals.expect(QStringLiteral("box"), isDialog<QMessageBox>, [&](QWidget& box) {
+        said = static_cast<QMessageBox&>(box).text();
+        QTest::mouseClick(static_cast<QMessageBox&>(box).button(QMessageBox::Ok), Qt::LeftButton);
+    });
+    driver_->window().on_btnItems_clicked();
+    agent_->clearInjections();
+
+    QVERIFY(modals.done());
+    QVERIFY2(paintsBeforePanel >= 2, qPrintable(QString::number(paintsBeforePanel)));
+    QCOMPARE(text, QStringLiteral("The agent has answered slowly for N s."));
+    QVERIFY2(said.startsWith(QStringLiteral("Disconnected, as the agent had answered slowly for ")),
+             qPrintable(said));
+    const std::size_t calls = methodsOf(*agent_).size();
+    QVERIFY2(calls < 2 * items, qPrintable(QString::number(calls)));
+    if (byButton)
+        QVERIFY2(calls <= callsAtPress + 1, "the button was held down in a single call");
+}
+
+/// The time since the last turn counts, not that since the program was started.
+void WaitingTest::aChainEndsWithTheTurnOfTheLoop() {
+    startWith({300ms, 1200ms});
+    agent_->inject("*", simulator::Delay{20ms}, simulator::Times::UntilCleared);
+    const InTheWait user([] { QVERIFY2(!waitingPanel(), "no chain lasts so long"); });
+    QElapsedTimer time;
+    time.start();
+    while (time.elapsed() < 2500) {
+        session::getConnection()->getTarnClientInfo();
+        QCoreApplication::processEvents();
+    }
+    agent_->clearInjections();
 }
 
 QTEST_MAIN(WaitingTest)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "tests/support/gui_waiting_fixture.h"
 
+#include <QCoreApplication>
 #include <QTest>
 
 #include "resources/pictures.h"
@@ -19,6 +20,7 @@ void WaitingFixture::init() {
     driver_ = std::make_unique<MainWindowDriver>();
     driver_->window().keepAliveBy(*gate_);
     driver_->logIn(*agent_);
+    endChain();
 }
 
 void WaitingFixture::cleanup() {
@@ -31,6 +33,10 @@ void WaitingFixture::cleanup() {
 
 void WaitingFixture::beSilent(const char* method) {
     agent_->inject(method, simulator::Silence{});
+}
+
+void WaitingFixture::endChain() {
+    QCoreApplication::sendPostedEvents(gate_.get());
 }
 
 } // namespace support

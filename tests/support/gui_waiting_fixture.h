@@ -22,6 +22,8 @@ class WaitingFixture : public QObject {
     Q_OBJECT
 protected:
     void beSilent(const char* method = "getTarnClientInfo");
+    /// What comes next isn't part of the calls so far, as after a turn of the event loop.
+    void endChain();
 
     std::unique_ptr<GuiAgent> agent_;
     std::unique_ptr<app::CallGate> gate_;

@@ -4576,6 +4576,10 @@ Klicken Sie hier, um diesen Hinweis nicht mehr zu sehen.</translation>
         <translation>Der Agent antwortet seit %1 s nicht.</translation>
     </message>
     <message>
+        <source>The agent has answered slowly for %1 s.</source>
+        <translation>Der Agent antwortet seit %1 s nur langsam.</translation>
+    </message>
+    <message>
         <source>The logon service hasn&apos;t answered for %1 s.</source>
         <translation>Der Anmeldedienst antwortet seit %1 s nicht.</translation>
     </message>
@@ -4708,6 +4712,10 @@ Klicken Sie hier, um diesen Hinweis nicht mehr zu sehen.</translation>
     <message>
         <source>Disconnected, as the agent hadn&apos;t answered for %1 s.</source>
         <translation>Getrennt, da der Agent %1 s lang nicht geantwortet hat.</translation>
+    </message>
+    <message>
+        <source>Disconnected, as the agent had answered slowly for %1 s.</source>
+        <translation>Getrennt, da der Agent %1 s lang nur langsam geantwortet hat.</translation>
     </message>
     <message>
         <source>Disconnected, as the logon service hadn&apos;t answered for %1 s.</source>
