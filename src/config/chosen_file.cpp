@@ -25,18 +25,27 @@ struct Texts {
     throw std::runtime_error(session::toWire(why.arg(file.fileName())));
 }
 
-qint64 longestLineIn(QFile& file) {
+struct Extent {
+    qint64 bytes = 0;
+    qint64 longestLine = 0;
+};
+
+/// Stops once a file has too much. The size that is known before doesn't say how much can be read:
+/// it is 0 for the files of the system, as in /proc.
+Extent extentOf(QFile& file) {
     std::string block(4096, '\0');
     const base::WipedAtEnd blockGuard(block);
-    qint64 longest = 0;
+    Extent extent;
     qint64 line = 0;
-    for (qint64 size = 0; (size = file.read(block.data(), static_cast<qint64>(block.size()))) > 0;)
+    for (qint64 size = 0; extent.bytes <= largestChosenFile &&
+                          (size = file.read(block.data(), static_cast<qint64>(block.size()))) > 0;
+         extent.bytes += size)
         for (const char byte : std::string_view(block.data(), static_cast<std::size_t>(size))) {
-            longest = std::max(longest, ++line);
+            extent.longestLine = std::max(extent.longestLine, ++line);
             if (byte == '\n')
                 line = 0;
         }
-    return longest;
+    return extent;
 }
 
 } // namespace
@@ -55,9 +64,10 @@ bool openChosen(QFile& file, QIODevice::OpenMode mode) {
         refuse(Texts::tr("\"%1\" is not a regular file."), file);
     if (!file.open(QIODevice::ReadOnly | mode))
         return false;
-    if (file.size() > largestChosenFile)
+    const Extent extent = extentOf(file);
+    if (std::max(file.size(), extent.bytes) > largestChosenFile)
         refuse(Texts::tr("\"%1\" is larger than 1 MiB."), file);
-    if (longestLineIn(file) > longestLine)
+    if (extent.longestLine > longestLine)
         refuse(Texts::tr("\"%1\" has a line of more than 64 KiB."), file);
     return file.seek(0);
 }

@@ -105,6 +105,7 @@ void TFAUsersViewer::on_btnDelete_clicked() {
 void TFAUsersViewer::on_btnImport_clicked() {
     QFileDialog dialog(this, tr("Please choose a .CSV file"), QDir::homePath(),
                        tr("CSV Files (*.csv)"));
+    dialog.setWindowIcon(ui::g_branding.applicationIcon());
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     ui::setStandardButtonPictures(dialog);

@@ -65,6 +65,15 @@ TEST_F(OpenedFile, HasAtMostOneMebibyte) {
     EXPECT_EQ(refusalOf(path), "\"" + path.toStdString() + "\" is larger than 1 MiB.");
 }
 
+TEST_F(OpenedFile, HasAtMostOneMebibyteWhateverItsSizeSays) {
+    const QString pages = QStringLiteral("/proc/self/pagemap");
+    QFile file(pages);
+    if (!file.open(QIODevice::ReadOnly))
+        GTEST_SKIP() << "this system has no such file";
+    ASSERT_EQ(file.size(), 0);
+    EXPECT_EQ(refusalOf(pages), "\"/proc/self/pagemap\" is larger than 1 MiB.");
+}
+
 TEST_F(OpenedFile, HasLinesOfAtMost64Kibibytes) {
     const QByteArray line(64 * 1024 - 1, 'x');
     EXPECT_EQ(refusalOf(write("short\n" + line + "\nshort")), "");

@@ -11,6 +11,7 @@
 #include "session/connection.h"
 #include "simulator/world/world.h"
 #include "tests/config/dialog_steps.h"
+#include "tests/support/gui_form_texts.h"
 
 /// An agent with two-factor codes and two users, and the user in front of the dialogs about them.
 class TFAFixture {
@@ -55,6 +56,8 @@ protected:
         modals_->expect(steps::q("file"), support::isDialog<QFileDialog>, [path](QWidget& widget) {
             auto& dialog = static_cast<QFileDialog&>(widget);
             QCOMPARE(dialog.windowTitle(), steps::q("Please choose a .CSV file"));
+            QVERIFY(dialog.testOption(QFileDialog::DontUseNativeDialog));
+            support::compareWindowIcon(widget);
             QCOMPARE(dialog.nameFilters(), QStringList(steps::q("CSV Files (*.csv)")));
             support::child<QLineEdit>(dialog, "fileNameEdit").setText(path);
             static_cast<QDialog&>(dialog).accept();
