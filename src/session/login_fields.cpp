@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "session/login_fields.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "session/text.h"
@@ -33,10 +34,13 @@ QString agentAddressOf(const QString& userText) {
 void checkPort(const QString& agentAddress) {
     const QString authority = withoutScheme(agentAddress).section(QLatin1Char('/'), 0, 0);
     const int colon = authority.indexOf(QLatin1Char(':'));
-    bool isNumber = false;
-    const qlonglong port = authority.mid(colon + 1).toLongLong(&isNumber);
-    constexpr qlonglong largest = 65535;
-    if (colon >= 0 && isNumber && (port < 1 || port > largest))
+    const QString port = authority.mid(colon + 1);
+    const bool isNumber = std::all_of(port.begin(), port.end(), [](QChar character) {
+        return character >= QLatin1Char('0') && character <= QLatin1Char('9');
+    });
+    bool fits = false;
+    const bool isPort = isNumber && port.toUShort(&fits) >= 1 && fits;
+    if (colon >= 0 && !isPort)
         throw std::invalid_argument("Invalid port component in host '" + toWire(authority) + "'");
 }
 

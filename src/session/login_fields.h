@@ -14,8 +14,8 @@ namespace session {
 /// text has no address.
 QString agentAddressOf(const QString& userText);
 
-/// Throws `std::invalid_argument` if the address has an invalid port, that is, one outside 1 to
-/// 65535.
+/// Throws `std::invalid_argument` if the address has an invalid port, that is, anything but a
+/// decimal number from 1 to 65535.
 void checkPort(const QString& agentAddress);
 
 /// The host to show for `agentAddress`, without scheme and port.

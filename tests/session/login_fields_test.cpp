@@ -81,6 +81,13 @@ TEST(AgentPort, OutsideItsRangeIsRefused) {
     EXPECT_EQ(portProblem("https://a:65536"), "Invalid port component in host 'a:65536'");
     EXPECT_EQ(portProblem("a:-5"), "Invalid port component in host 'a:-5'");
     EXPECT_EQ(portProblem("a:4294971707/"), "Invalid port component in host 'a:4294971707'");
+    EXPECT_EQ(portProblem("a:99999999999999999999"),
+              "Invalid port component in host 'a:99999999999999999999'");
+}
+
+TEST(AgentPort, IsANumber) {
+    for (const char* host : {"a:", "a:x", "a:70000x", "a:4411x", "a:+80", "a: 80", "[::1]:4411"})
+        EXPECT_EQ(portProblem(host), "Invalid port component in host '" + std::string(host) + "'");
 }
 
 TEST(HostForDisplay, LosesThePort) {
