@@ -180,6 +180,25 @@ private slots:
         QCOMPARE(count(agent, "sspi_login"), 0);
     }
 
+    void asksAtTheStartWhenTheAgentGivesNoToken() {
+        realm_->getTicket();
+        simulator::Options options;
+        options.integratedLogon = [](const std::string&) { return simulator::LogonStep{}; };
+        GuiAgent agent(options);
+        // So that a client that begins again each time comes to an end.
+        agent.inject("sspi_login", simulator::Fault{"That was the tenth token."},
+                     simulator::Times::Once, 9);
+        MainWindowDriver driver;
+        ModalDriver modals;
+        modals.expect(QStringLiteral("the login dialog"), support::isDialog<LoginCheck>,
+                      [](QWidget& dialog) { press(dialog, "buttonQuit"); });
+        app::logInAtStart(driver.window());
+        QVERIFY(modals.done());
+        QVERIFY(!session::connectedToAgent());
+        QCOMPARE(count(agent, "sspi_login"), 1);
+        agent.clearInjections();
+    }
+
     void saysWhyTheAgentRefusesAtTheStart() {
         realm_->getTicket();
         const GuiAgent agent(accepting(realm_->wrongKeyTable()));
@@ -278,6 +297,7 @@ private slots:
         QTest::newRow("with a ticket") << true;
         QTest::newRow("with client keys") << false;
     }
+
     void aSilentKdcLeavesTheWindowAlive() {
         QFETCH(bool, withTicket);
         if (withTicket)
