@@ -135,7 +135,7 @@ void CallGate::wait(hessiancln::AwaitedCall& call) noexcept {
                 leave();
         });
         call.onFinish([this] { wake(*this); });
-        if (left_)
+        if (left_ && call.awaited() == hessiancln::Awaited::agent)
             leave();
         keepPainting();
         offerToLeave();
@@ -145,6 +145,9 @@ void CallGate::wait(hessiancln::AwaitedCall& call) noexcept {
     }
     call_ = nullptr;
     painted_ = Clock::now();
+    // The agent isn't to blame for the time that the logon service took.
+    if (call.awaited() == hessiancln::Awaited::logonService)
+        chainBegin_.reset();
 }
 
 /// Input stays in the queue, as during a short call.
@@ -200,7 +203,7 @@ void CallGate::leave() {
         text = tr("Disconnected, as the logon service hadn't answered for %1 s.");
     else if (answersSlowly())
         text = tr("Disconnected, as the agent had answered slowly for %1 s.");
-    left_ = true;
+    left_ = left_ || call_->awaited() == hessiancln::Awaited::agent;
     call_->giveUp(session::toWire(text.arg(elapsed().count())));
     leastEnd_ = Moment();
 }

@@ -86,7 +86,7 @@ private:
     Moment callBegin_;                 ///< of the latest call
     Moment painted_;                   ///< when the windows last could paint
     bool announced_ = false;           ///< the panel, in this chain
-    bool left_ = false;                ///< by the user, in this chain: no call of it is waited for
+    bool left_ = false;                ///< by the user; this chain no longer waits for the agent
 
     // Used during a wait
     hessiancln::AwaitedCall* call_ = nullptr;

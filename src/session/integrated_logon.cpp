@@ -3,19 +3,20 @@
 #include "session/integrated_logon.h"
 
 #include <memory>
+#include <mutex>
 #include <utility>
 
 #include "api/client_connection.h"
+#include "base/secret.h"
+#include "platform/user_name.h"
 #include "session/sspi_client_context.h"
+#include "session/system_question.h"
 #include "session/token_frame.h"
-#include "transport/call_passage.h"
-#include "transport/pending_reply.h"
+#include "transport/invoke_exception.h"
 
 namespace session {
 
-using hessiancln::CallPassage;
 using hessiancln::ClientConnection;
-using hessiancln::PendingReply;
 using platform::SecurityOperations;
 
 namespace {
@@ -23,23 +24,36 @@ namespace {
 // The service runs on the user's machine, whatever its address.
 const char* const targetName = "OstrandBakSvc/localhost";
 
-/// One round. Where the thread has a hook, it waits with it, since the system may have to wait for
-/// its logon service. A user who gives up leaves the context to the thread that runs the round.
+/// Wipes a token at the end of the block.
+struct WipedAtEnd {
+    hessianser::Binary& token;
+
+    ~WipedAtEnd() { base::wipe(token.data(), token.size()); }
+};
+
+/// One round. A user who gives up leaves the context to the thread that runs the round.
 bool runRound(const std::shared_ptr<SspiClientContext>& context) {
-    const CallPassage passage;
-    if (!CallPassage::hook())
-        return context->runRound(targetName);
-    const auto reply = std::make_shared<PendingReply>([](const std::string&) {},
-                                                      hessiancln::Awaited::logonService);
-    const auto succeeded = std::make_shared<bool>(false);
-    waitForThread(reply, [context, succeeded] {
-        *succeeded = context->runRound(targetName);
-        return std::string();
-    });
-    return *succeeded;
+    return askSystem<bool>([context] { return context->runRound(targetName); });
 }
 
 } // namespace
+
+std::string currentWindowsUser() {
+    static std::mutex mutex;
+    static std::string known;
+    {
+        const std::lock_guard lock(mutex);
+        if (!known.empty())
+            return known;
+    }
+    try {
+        std::string name = askSystem<std::string>(platform::currentWindowsUser);
+        const std::lock_guard lock(mutex);
+        return known = std::move(name);
+    } catch (const hessiancln::invoke_exception&) {
+        return {};
+    }
+}
 
 bool integratedLogonAvailable() {
     SecurityOperations* const operations = platform::securityOperations();
@@ -52,13 +66,16 @@ bool performIntegratedLogon(boost::shared_ptr<ClientConnection>& connectionOut,
     const auto context = std::make_shared<SspiClientContext>(operations);
     boost::shared_ptr<ClientConnection> root;
     while (!context->done() && runRound(context) && !context->outToken().empty()) {
-        auto answer = bootstrap.sspi_login(url, version, frameToken(context->outToken()));
+        hessianser::Binary token = frameToken(context->outToken());
+        const WipedAtEnd tokenGuard{token};
+        auto answer = bootstrap.sspi_login(url, version, token);
+        const WipedAtEnd answerGuard{answer.context};
         root = std::move(answer.conn);
-        const auto token = framedToken(answer.context);
+        const auto received = framedToken(answer.context);
         // A round without a token would begin the exchange again, perhaps forever.
-        if (!context->done() && token.empty())
+        if (!context->done() && received.empty())
             return false;
-        context->setInToken(token);
+        context->setInToken(received);
     }
     if (!context->done())
         return false;

@@ -7,7 +7,6 @@
 #include <boost/shared_ptr.hpp>
 
 #include "platform/security_context.h"
-#include "platform/user_name.h"
 
 namespace hessiancln {
 class ClientConnection;
@@ -16,7 +15,9 @@ class ClientConnection;
 /// Login as the current user of this system, without a password.
 namespace session {
 
-using platform::currentWindowsUser;
+/// The account name of the process in UTF-8, without a domain; empty if unknown. Once it is known,
+/// the system isn't asked again. Waits with the thread's `WaitHook`; empty if the user gives up.
+std::string currentWindowsUser();
 
 /// Whether the current user of this system can be logged on now.
 bool integratedLogonAvailable();

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "base/secret.h"
 #include "platform/security_context.h"
 
 namespace session {
@@ -39,7 +40,7 @@ public:
 private:
     /// A buffer for the package's largest token, allocated once, and the size used.
     struct Token {
-        std::vector<std::uint8_t> room;
+        std::vector<std::uint8_t, base::WipingAllocator<std::uint8_t>> room;
         std::size_t size = 0;
     };
 

@@ -49,7 +49,8 @@ RestoreWizard::RestoreWizard(QWidget& parent, const Set& set)
     wizard_.addPage(items_ = new RestoreSelectPage(set, &wizard_));
     location_ = new RestoreLocationPage(set, &wizard_);
     const int locationId = wizard_.addPage(location_);
-    source_ = new SelectDataSourcePage(&wizard_);
+    // The account of the agent isn't offered here, whoever the user is.
+    source_ = new SelectDataSourcePage([](const std::string&) { return false; }, &wizard_);
     location_->setDataSourcePageId(wizard_.addPage(source_));
     directory_ = new RestoreDirectoryDestination(&wizard_);
     location_->setDirectoryPageId(wizard_.addPage(directory_));

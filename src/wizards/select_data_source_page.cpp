@@ -7,7 +7,7 @@
 #include "api/checked_cast.h"
 #include "api/client_connection.h"
 #include "models/computer_tree_model.h"
-#include "platform/administrators.h"
+#include "session/administrators.h"
 #include "session/agent_kind.h"
 #include "session/connection.h"
 #include "session/required.h"
@@ -42,7 +42,7 @@ bool wizards::isLocalComputer(const QString& source) {
 }
 
 SelectDataSourcePage::SelectDataSourcePage(QWidget* parent)
-    : SelectDataSourcePage(platform::isAdministrator, parent) {}
+    : SelectDataSourcePage(session::isAdministrator, parent) {}
 
 SelectDataSourcePage::SelectDataSourcePage(const AdministratorTest& isAdministrator,
                                            QWidget* parent)
@@ -281,6 +281,9 @@ bool SelectDataSourcePage::takeTypedComputer() {
 }
 
 void SelectDataSourcePage::treeSelectionChanged() {
+    // A screen reader can select a row during a wait.
+    if (ui::waitsForCall(*this, [this] { treeSelectionChanged(); }))
+        return;
     const QItemSelection selection = ui_->treeNetworkDiscovery->selectionModel()->selection();
     if (selection.size() != 1)
         return;

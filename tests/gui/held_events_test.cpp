@@ -22,6 +22,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
+#include <QTreeView>
 #include <QWindow>
 #include <QWizard>
 
@@ -87,6 +88,7 @@ private slots:
     void anArrowThatIsHeldStepsNoFurther();
     void aScreenReaderSelectsASet();
     void aScreenReaderSelectsARowOfTheHealthWindow();
+    void aScreenReaderSelectsAComputer();
     void aScreenReaderFiltersTheEventLog();
     void anAnimatedClickWaits();
 
@@ -401,6 +403,25 @@ void HeldEventsTest::aScreenReaderSelectsARowOfTheHealthWindow() {
         QCOMPARE(help.text(), before);
     });
     QTRY_VERIFY(help.text() != before);
+}
+
+void HeldEventsTest::aScreenReaderSelectsAComputer() {
+    QWizard wizard;
+    wizard.addPage(new SelectDataSourcePage([](const std::string&) { return true; }));
+    wizard.show();
+    child<QPushButton>(wizard, "btnShowNetDiscovery").click();
+    auto& tree = child<QTreeView>(wizard, "treeNetworkDiscovery");
+    const auto& name = child<QLineEdit>(wizard, "editComputerName");
+    const QString before = name.text();
+    QTRY_COMPARE(tree.model()->rowCount(), 3);
+    const QModelIndex hosts = tree.model()->index(2, 0);
+    duringACall([&] {
+        tree.selectionModel()->select(hosts, QItemSelectionModel::ClearAndSelect);
+        QCOMPARE(name.text(), before);
+    });
+    agent_->clearCallLog();
+    QTRY_VERIFY(count("getCurrentCredentials") > 0);
+    QCOMPARE(name.text(), QStringLiteral("Unix Hosts"));
 }
 
 void HeldEventsTest::aScreenReaderFiltersTheEventLog() {

@@ -9,6 +9,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
@@ -73,6 +74,31 @@ std::size_t residentMemory() {
 #endif
 }
 
+/// Quits at the first heartbeat of the window that comes while no dialog is open.
+class QuitAtBeat : public QObject {
+public:
+    explicit QuitAtBeat(SimpleGUIMainWindow& window)
+        : window_(window) {
+        window.installEventFilter(this);
+    }
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != window_.heartbeatEventType() || quit)
+            return false;
+        if (QApplication::activeModalWidget()) {
+            QCoreApplication::postEvent(&window_, new QEvent(event->type()));
+        } else {
+            quit = true;
+            QCoreApplication::quit();
+        }
+        return true;
+    }
+
+    bool quit = false;
+
+private:
+    SimpleGUIMainWindow& window_;
+};
+
 } // namespace
 
 class WaitingTest : public support::WaitingFixture {
@@ -93,7 +119,9 @@ private slots:
     void thePanelLiesOverTheDialogInFront();
     void thePanelLiesOverAWindowBesideTheHiddenOne();
     void aQuitDuringTheFirstLoginAsksForNoOther();
+    void theProgramRunsOnAfterACancelledLogin();
     void aNameThatIsntResolvedIsLeft();
+    void anAccountThatIsntFoundIsLeft();
     void nobodyIsAskedOnceTheProgramEnds();
     void anAgentThatIsSuspendedAnswersOnceItGoesOn();
     void aReplyThatDripsIsLeft();
@@ -382,6 +410,22 @@ void WaitingTest::aQuitDuringTheFirstLoginAsksForNoOther() {
     QCOMPARE(methodsOf(*agent_), Calls{"getTarnClientType"});
 }
 
+void WaitingTest::theProgramRunsOnAfterACancelledLogin() {
+    driver_->window().OnDisconnect();
+    agent_->inject("login", simulator::Fault{"Not you."});
+    ModalDriver modals;
+    modals.expect(QStringLiteral("login"), isDialog<LoginCheck>, [this](QWidget& dialog) {
+        QTest::mouseClick(&child<QPushButton>(dialog, "buttonQuit"), Qt::LeftButton);
+        driver_->postBeat();
+    });
+    QuitAtBeat user(driver_->window());
+    QCOMPARE(app::runLoggedIn(driver_->window(), *gate_), 0);
+    QVERIFY(modals.done());
+    QVERIFY(user.quit);
+    QVERIFY(driver_->window().isVisible());
+    QVERIFY(!session::connectedToAgent());
+}
+
 void WaitingTest::aNameThatIsntResolvedIsLeft() {
     driver_->window().OnDisconnect();
     support::HeldNames names;
@@ -389,6 +433,32 @@ void WaitingTest::aNameThatIsntResolvedIsLeft() {
     QVERIFY_EXCEPTION_THROWN(session::connectToAgent("agent.held", "demo", "demo", 1),
                              std::exception);
     QVERIFY(!session::connectedToAgent());
+}
+
+/// The wizard asks whether the user is an administrator, which a directory service may have to say.
+void WaitingTest::anAccountThatIsntFoundIsLeft() {
+    driver_->window().OnDisconnect();
+    agent_.reset();
+    agent_ = std::make_unique<support::GuiAgent>(simulator::Options{.user = "ada.held"});
+    session::connectToAgent(agent_->address(), "ada.held", "demo", 1);
+    endChain();
+    support::HeldNames accounts;
+    int left = 0;
+    const InTheWait user([&] {
+        if (waitingText() != QStringLiteral("The logon service hasn't answered for N s."))
+            return;
+        ++left;
+        clickDisconnect();
+    });
+    ModalDriver modals;
+    modals.expect(QStringLiteral("wizard"), isDialog<QWizard>, [](QWidget& wizard) {
+        QVERIFY(child<QCheckBox>(wizard, "chkUseTarnClientAccount").isHidden());
+        static_cast<QWizard&>(wizard).reject();
+    });
+    driver_->window().OnNewBackupSet();
+    QVERIFY(modals.done());
+    QCOMPARE(left, 1);
+    driver_->window().OnDisconnect();
 }
 
 void WaitingTest::nobodyIsAskedOnceTheProgramEnds() {

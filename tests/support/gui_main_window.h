@@ -25,6 +25,7 @@ public:
         : available_(available) {}
 
     bool isAvailable() const override { return available_; }
+    void setAvailable(bool available) { available_ = available; }
     void showBalloon(const QString& title, const QString& text) override {
         balloons.append({title, text});
     }

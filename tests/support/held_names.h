@@ -6,9 +6,9 @@
 
 namespace support {
 
-/// Makes the system's resolver hang on each name under ".held" for the lifetime of the object. All
-/// other names are resolved as usual. The destructor waits until the last hanging thread has left
-/// the resolver.
+/// Makes the system's resolver, and its database of accounts, hang on each name under ".held" for
+/// the lifetime of the object. All other names are looked up as usual. The destructor waits until
+/// the last hanging thread has left the look-up.
 class HeldNames {
 public:
     /// `atEnd` runs on each thread that leaves the resolver.
@@ -17,7 +17,7 @@ public:
     HeldNames& operator=(const HeldNames&) = delete;
     ~HeldNames();
 
-    /// Waits until `count` threads hang in the resolver.
+    /// Waits until `count` threads hang in a look-up.
     bool waitForHeld(int count);
 
     /// From now on nothing hangs; the names still don't exist.

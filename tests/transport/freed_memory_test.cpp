@@ -2,60 +2,30 @@
 // SPDX-License-Identifier: Apache-2.0
 
 // What a call leaves in the memory that it frees.
-#include <cstddef>
 #include <ostream>
 #include <string>
-#include <string_view>
 #include <tuple>
 
 #include <gtest/gtest.h>
 
+#include "tests/support/freed_memory.h"
 #include "tests/support/loopback_server.h"
-#include "tests/support/watched_allocation.h"
 #include "transport/http_call_dispatcher.h"
 #include "transport/invoke_exception.h"
 
 namespace {
 
-const std::string secret = "a secret that crosses the wire";
-
-/// So short that a string stores it in the object itself.
-const std::string shortSecret = "a secret";
-
-thread_local std::string_view sought;
-thread_local int findings = 0;
-
-/// Counts the blocks containing the secret that the current thread frees during the lifetime of
-/// this object.
-class FreedMemory {
-public:
-    explicit FreedMemory(std::string_view text) {
-        findings = 0;
-        sought = text;
-    }
-    FreedMemory(const FreedMemory&) = delete;
-    FreedMemory& operator=(const FreedMemory&) = delete;
-    ~FreedMemory() { sought = {}; }
-
-    int blocksWithSecret() const { return findings; }
-};
-
-} // namespace
-
-void support::allocated(std::size_t) noexcept {}
-
-void support::freed(const char* block, std::size_t size) noexcept {
-    if (!sought.empty() && std::string_view(block, size).find(sought) != std::string_view::npos)
-        ++findings;
-}
-
-namespace {
-
 using namespace hessiancln;
+using support::FreedMemory;
 using support::LoopbackServer;
 using support::Peer;
 
 using Mode = LoopbackServer::Mode;
+
+const std::string secret = "a secret that crosses the wire";
+
+/// So short that a string stores it in the object itself.
+const std::string shortSecret = "a secret";
 
 /// How the server answers a call: with the secret of the call between two parts.
 struct Answer {
