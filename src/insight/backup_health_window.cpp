@@ -39,6 +39,7 @@ BackupHealthWindow::BackupHealthWindow(insight::HealthMonitor& monitor, AllowedO
     connect(&monitor_, &insight::HealthMonitor::progressed, this,
             &BackupHealthWindow::showProgress);
     connect(&monitor_, &insight::HealthMonitor::failed, ui_->labelFailure, &QLabel::setText);
+    connect(&monitor_, &insight::HealthMonitor::succeeded, ui_->labelFailure, &QLabel::clear);
     showProgress();
 }
 

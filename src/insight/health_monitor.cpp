@@ -36,7 +36,7 @@ HealthMonitor::HealthMonitor(HealthReader::Connect connect, Clock clock, QObject
     , clock_(std::move(clock))
     , slices_([this] { return step(); }) {
     QObject::connect(&slices_, &Slices::progressed, this, &HealthMonitor::takeDetails);
-    QObject::connect(&slices_, &Slices::finished, this, &HealthMonitor::progressed);
+    QObject::connect(&slices_, &Slices::finished, this, &HealthMonitor::endPass);
 }
 
 void HealthMonitor::takeSets(std::vector<backup_set_info> sets) {
@@ -48,9 +48,12 @@ void HealthMonitor::takeSets(std::vector<backup_set_info> sets) {
         const auto known = before.find(set.id);
         if (known != before.end() && known->second->schedule_id != set.schedule_id)
             reader_.forget(set.id);
-        if (known == before.end() || hasChanged(*known->second, set))
+        if (known == before.end() || hasChanged(*known->second, set) || reader_.hasFailed(set.id))
             unread.push_back(set);
+        before.erase(set.id);
     }
+    for (const auto& gone : before)
+        reader_.remove(gone.first);
     sets_ = std::move(sets);
     if (isWatched_)
         read(unread);
@@ -115,8 +118,10 @@ void HealthMonitor::read(const std::vector<backup_set_info>& sets) {
     if (sets.empty())
         return;
     const auto before = static_cast<int>(reader_.left());
-    if (before == 0)
+    if (before == 0) {
         total_ = 0;
+        hasFailed_ = false;
+    }
     for (const backup_set_info& set : sets)
         reader_.add(set);
     total_ += static_cast<int>(reader_.left()) - before;
@@ -128,9 +133,16 @@ bool HealthMonitor::step() {
     try {
         hasNewDetails_ = reader_.step().has_value() || hasNewDetails_;
     } catch (const std::exception& error) {
+        hasFailed_ = true;
         emit failed(ui::errorText(error));
     }
     return reader_.left() > 0;
+}
+
+void HealthMonitor::endPass() {
+    if (!hasFailed_)
+        emit succeeded();
+    emit progressed();
 }
 
 /// Once per slice, because the cost grows with the number of sets.
@@ -204,6 +216,9 @@ std::vector<PlannedRun> HealthMonitor::nextRuns() const {
         if (const auto& last = row.facts.lastAttempt;
             last && last->start >= 1 && last->end > last->start)
             set.duration = last->end - last->start;
+        // A backup that took longer, such as the first one, won't do so each time.
+        if (row.plan->interval)
+            set.duration = std::min(set.duration, *row.plan->interval);
         sets.push_back(std::move(set));
     }
     return plannedRuns(sets, clock.now, clock.now + lookAhead, clock.zone);

@@ -74,11 +74,15 @@ signals:
     void changed();
     /// Some sets were read, or reading has ended.
     void progressed();
-    /// A set couldn't be read; reading continues with the others.
+    /// A set couldn't be read; reading continues with the others, and the set is tried again with
+    /// the next data of a heartbeat.
     void failed(const QString& text);
+    /// All sets of a pass were read.
+    void succeeded();
 
 private:
     bool step();
+    void endPass();
     void takeDetails();
     void read(const std::vector<hessiancln::backup_set_info>& sets);
     void judgeAll();
@@ -90,6 +94,7 @@ private:
     int total_ = 0;
     bool isWatched_ = false;
     bool hasNewDetails_ = false; ///< read in the current slice
+    bool hasFailed_ = false;     ///< in this pass
     std::vector<hessiancln::backup_set_info> sets_;
     std::map<std::int32_t, BackupAttempt> loggedAttempts_; ///< the newest one of each set
     std::set<std::int32_t> running_;

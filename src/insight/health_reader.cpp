@@ -51,6 +51,7 @@ HealthReader::~HealthReader() = default;
 
 void HealthReader::add(const hessiancln::backup_set_info& set) {
     plans_.erase(set.schedule_id);
+    failed_.erase(set.id);
     const auto same = std::ranges::find(waiting_, set.id, &hessiancln::backup_set_info::id);
     if (same == waiting_.end()) {
         waiting_.push_back(set);
@@ -71,8 +72,20 @@ void HealthReader::forget(std::int32_t setId) {
     details_.erase(setId);
 }
 
+void HealthReader::remove(std::int32_t setId) {
+    forget(setId);
+    failed_.erase(setId);
+    const auto found = std::ranges::find(waiting_, setId, &hessiancln::backup_set_info::id);
+    if (found == waiting_.end())
+        return;
+    if (found == waiting_.begin())
+        reading_.reset();
+    waiting_.erase(found);
+}
+
 void HealthReader::forgetAll() {
     clear();
+    failed_.clear();
     details_.clear();
     plans_.clear();
     missedHours_.reset();
@@ -183,10 +196,14 @@ std::optional<std::int32_t> HealthReader::take(Reading& reading) {
 void HealthReader::skip(const Reading& reading) {
     const bool isBeforeTheSets = reading.stage == Reading::Stage::configuration ||
                                  reading.stage == Reading::Stage::missedHours;
-    if (isBeforeTheSets)
-        clear();
-    else
+    if (!isBeforeTheSets) {
+        failed_.insert(reading.info.id);
         endSet();
+        return;
+    }
+    for (const hessiancln::backup_set_info& set : waiting_)
+        failed_.insert(set.id);
+    clear();
 }
 
 void HealthReader::endSet() {

@@ -8,6 +8,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 
 #include <boost/shared_ptr.hpp>
@@ -57,8 +58,12 @@ public:
     void clear();
     /// Discards the details of a set.
     void forget(std::int32_t setId);
+    /// Also takes it out of the queue: the agent no longer has the set.
+    void remove(std::int32_t setId);
     /// Empties the queue and discards all data read so far, for example at the end of a session.
     void forgetAll();
+    /// Whether the last attempt to read the set failed.
+    bool hasFailed(std::int32_t setId) const { return failed_.contains(setId); }
     /// Number of sets still to read.
     std::size_t left() const { return waiting_.size(); }
 
@@ -89,6 +94,7 @@ private:
     std::optional<std::int32_t> missedHours_;
     std::map<std::int32_t, std::shared_ptr<const KnownPlan>> plans_; ///< by schedule
     std::map<std::int32_t, SetDetails> details_;                     ///< by set
+    std::set<std::int32_t> failed_;
 };
 
 } // namespace insight

@@ -26,12 +26,39 @@ std::vector<PlannedRun> runsOf(const ScheduledSet& set, std::int64_t from, std::
     return runs;
 }
 
-/// `runs` must be sorted by start.
+/// Marks the runs that start while a run of another set is going on.
+void markLaterOnes(std::vector<PlannedRun>& runs) {
+    const PlannedRun* last = nullptr;  // the run so far with the latest end
+    const PlannedRun* other = nullptr; // that of the sets other than that of `last`
+    for (PlannedRun& run : runs) {
+        const PlannedRun* rival = last && last->setId == run.setId ? other : last;
+        run.overlaps = rival && run.start < rival->end;
+        if (!last || run.end > last->end) {
+            if (last && last->setId != run.setId)
+                other = last;
+            last = &run;
+        } else if (last->setId != run.setId && (!other || run.end > other->end)) {
+            other = &run;
+        }
+    }
+}
+
+/// Marks the runs during which a run of another set starts.
+void markEarlierOnes(std::vector<PlannedRun>& runs) {
+    const PlannedRun* next = nullptr;  // the run behind
+    const PlannedRun* other = nullptr; // the first one behind of a set other than that of `next`
+    for (auto run = runs.rbegin(); run != runs.rend(); ++run) {
+        if (next && next->setId != run->setId)
+            other = next;
+        run->overlaps = run->overlaps || (other && other->start < run->end);
+        next = &*run;
+    }
+}
+
+/// `runs` must be sorted by start. Linear, since long runs may overlap all later ones.
 void markOverlaps(std::vector<PlannedRun>& runs) {
-    for (std::size_t i = 0; i < runs.size(); ++i)
-        for (std::size_t j = i + 1; j < runs.size() && runs[j].start < runs[i].end; ++j)
-            if (runs[i].setId != runs[j].setId)
-                runs[i].overlaps = runs[j].overlaps = true;
+    markLaterOnes(runs);
+    markEarlierOnes(runs);
 }
 
 double partOfDay(const QDateTime& time) {

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "insight/restore_summary.h"
 
+#include <algorithm>
+#include <limits>
+
 #include <QCoreApplication>
 
 #include "models/backed_up_node.h"
@@ -80,7 +83,9 @@ ChosenItems chosenItems(BackedUpNode& root, const KnownSize& sizeOf) {
         if (isChecked && node.isLeaf()) {
             ++chosen.files;
             const auto size = sizeOf(node.item().id);
-            chosen.bytes += size.value_or(0);
+            // The agent may send any number.
+            chosen.bytes += std::clamp<std::int64_t>(
+                size.value_or(0), 0, std::numeric_limits<std::int64_t>::max() - chosen.bytes);
             chosen.filesOfUnknownSize += size ? 0 : 1;
         } else if (isChecked && node.parent()) {
             ++chosen.folders;

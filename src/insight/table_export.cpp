@@ -32,9 +32,12 @@ bool looksLikeFormula(const QString& text) {
            QStringLiteral("\uFF1D\uFF0B\uFF0D\uFF20").contains(text.front());
 }
 
-QString csvCell(QString text) {
-    if (looksLikeFormula(text))
-        text.prepend(QLatin1Char('\''));
+QString withoutFormula(const QString& text) {
+    return looksLikeFormula(text) ? QLatin1Char('\'') + text : text;
+}
+
+QString csvCell(const QString& cell) {
+    QString text = withoutFormula(cell);
     const bool needsQuotes = text.contains(QLatin1Char('"')) || text.contains(QLatin1Char(',')) ||
                              text.contains(QLatin1Char(';')) || text.contains(QLatin1Char('\t')) ||
                              text.contains(QLatin1Char('\n')) || text.contains(QLatin1Char('\r'));
@@ -47,7 +50,7 @@ QString csvCell(QString text) {
 QString htmlRow(const QStringList& cells, const QString& tag) {
     QString row = QStringLiteral("<tr>");
     for (const QString& cell : cells)
-        row += QStringLiteral("<%1>%2</%1>").arg(tag, cell.toHtmlEscaped());
+        row += QStringLiteral("<%1>%2</%1>").arg(tag, withoutFormula(cell).toHtmlEscaped());
     return row + QStringLiteral("</tr>\n");
 }
 
@@ -72,7 +75,7 @@ QString tabbedText(const TextTable& table) {
     for (const QStringList& row : table.rows) {
         QStringList cells;
         for (const QString& cell : row)
-            cells.append(plainCell(cell));
+            cells.append(plainCell(withoutFormula(cell)));
         lines.append(cells.join(QLatin1Char('\t')));
     }
     return lines.join(QLatin1Char('\n'));

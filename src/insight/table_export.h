@@ -25,10 +25,10 @@ struct TextTable {
 TextTable textTable(const QAbstractItemModel& model, const QVector<int>& rows);
 
 /// One line per row, without the header, cells separated by tabs. A tab or a newline in a cell
-/// becomes a space.
+/// becomes a space. Formulas are defused as in `csvLine`, for a spreadsheet that it is pasted into.
 QString tabbedText(const TextTable& table);
 
-/// Includes the header.
+/// Likewise, with the header.
 QString htmlTable(const TextTable& table);
 
 /// Both formats, for the clipboard; the caller owns the result.

@@ -99,6 +99,9 @@ private slots:
     void readingCanBeCancelled();
     void anotherSessionStartsWithNothing();
     void aChangedScheduleNoLongerJudges();
+    void aSetThatCouldntBeReadIsTriedAgain();
+    void aSetThatHasGoneIsNotRead();
+    void aLongBackupIsPlannedForAnIntervalAtMost();
     void theLogsPeriodChangesNoHealth();
     void aHiddenWindowIsFilledWhenItIsShown();
     void theSelectionFollowsItsSet();
@@ -233,6 +236,66 @@ void HealthWindowTest::aChangedScheduleNoLongerJudges() {
     });
     fed.beat();
     QCOMPARE(fed.monitor.count(), (insight::HealthCount{5, 0, 2}));
+}
+
+void HealthWindowTest::aSetThatCouldntBeReadIsTriedAgain() {
+    Session session(Scenario::Overdue);
+    Fed fed;
+    session.agent.inject("getOverview", simulator::Fault{"Out of order."});
+    BackupHealthWindow window(fed.monitor, everything);
+    const auto& failure = child<QLabel>(window, "labelFailure");
+    const auto unread = [&fed] {
+        return std::ranges::count(fed.monitor.rows(), false, &insight::HealthRow::isRead);
+    };
+    window.show();
+    QTRY_VERIFY_WITH_TIMEOUT(!fed.monitor.isReading(), patience);
+    QCOMPARE(failure.text(), QStringLiteral("Out of order."));
+    QCOMPARE(unread(), 1);
+    fed.beat();
+    QTRY_VERIFY_WITH_TIMEOUT(!fed.monitor.isReading(), patience);
+    QCOMPARE(unread(), 0);
+    QCOMPARE(failure.text(), QString());
+    session.agent.clearCallLog();
+    fed.beat();
+    QVERIFY(!fed.monitor.isReading());
+}
+
+void HealthWindowTest::aSetThatHasGoneIsNotRead() {
+    Session session(Scenario::Overdue);
+    Fed fed;
+    const QSignalSpy failures(&fed.monitor, &insight::HealthMonitor::failed);
+    fed.monitor.watch();
+    // Nothing is read before the event loop runs.
+    const std::int32_t id = idNamed(fed.monitor, simulator::health::old);
+    session.agent.withWorld([id](simulator::World& world) { world.removeSet(id); });
+    fed.beat();
+    QTRY_VERIFY_WITH_TIMEOUT(!fed.monitor.isReading(), patience);
+    QCOMPARE(failures.size(), 0);
+    const auto methods = session.methods();
+    QCOMPARE(std::count(methods.begin(), methods.end(), "getOverview"), 4);
+}
+
+void HealthWindowTest::aLongBackupIsPlannedForAnIntervalAtMost() {
+    Session session(Scenario::Overlapping);
+    // Since 1970, as from a broken row.
+    hessiancln::activity_log_info row;
+    row.type = hessiancln::ActivityType::Backup;
+    row.start_time = 1;
+    row.end_time = static_cast<std::int32_t>(QDateTime::currentSecsSinceEpoch());
+    Fed fed;
+    row.set_id = idNamed(fed.monitor, "Pictures and Videos");
+    fed.monitor.takeActivities({row}, {});
+    fed.beat();
+    fed.monitor.watch();
+    QTRY_VERIFY_WITH_TIMEOUT(!fed.monitor.isReading(), patience);
+    int runs = 0;
+    for (const insight::PlannedRun& run : fed.monitor.nextRuns())
+        if (run.setId == row.set_id) {
+            ++runs;
+            // Every evening, on the day on which the clocks change, too.
+            QVERIFY(run.end - run.start <= 25 * 3600);
+        }
+    QCOMPARE(runs, 14);
 }
 
 void HealthWindowTest::theLogsPeriodChangesNoHealth() {

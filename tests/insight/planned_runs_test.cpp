@@ -55,6 +55,32 @@ TEST(PlannedRuns, RunsOfTwoSetsOverlap) {
     EXPECT_THAT(runs(3'601), ElementsAre("A 20:00-21:00!", "B 20:30-21:00!", "C 21:00-21:30!"));
 }
 
+TEST(PlannedRuns, LongRunsOverlapAllThatStartDuringThem) {
+    const SchedulePlan twice{{weekly(everyDay, 8), weekly(everyDay, 9)}};
+    const SchedulePlan late{{weekly(everyDay, 11)}};
+    const SchedulePlan later{{weekly(everyDay, 13)}};
+    const auto runs = [&](std::int64_t first) {
+        return written(insight::plannedRuns(
+            {{1, "A", &twice, first}, {2, "B", &late, 1'800}, {3, "C", &later, 1'800}},
+            at("2026-11-20T00:00:00Z"), at("2026-11-21T00:00:00Z"), utc));
+    };
+    // Only the second run of A lasts until B; neither overlaps the other.
+    EXPECT_THAT(runs(3 * 3'600 - 60),
+                ElementsAre("A 08:00-10:59", "A 09:00-11:59!", "B 11:00-11:30!", "C 13:00-13:30"));
+    EXPECT_THAT(runs(3 * 3'600 + 60),
+                ElementsAre("A 08:00-11:01!", "A 09:00-12:01!", "B 11:00-11:30!", "C 13:00-13:30"));
+    EXPECT_THAT(runs(5 * 3'600 + 60), ElementsAre("A 08:00-13:01!", "A 09:00-14:01!",
+                                                  "B 11:00-11:30!", "C 13:00-13:30!"));
+}
+
+TEST(PlannedRuns, RunsThatStartTogetherOverlap) {
+    const SchedulePlan plan{{weekly(everyDay, 8)}};
+    const auto runs =
+        insight::plannedRuns({{1, "A", &plan, 60}, {2, "B", &plan, 60}}, at("2026-11-20T00:00:00Z"),
+                             at("2026-11-21T00:00:00Z"), utc);
+    EXPECT_THAT(written(runs), ElementsAre("A 08:00-08:01!", "B 08:00-08:01!"));
+}
+
 TEST(PlannedRuns, ARunOfYearsEndsWithTheTable) {
     const SchedulePlan plan{{weekly(everyDay, 20)}};
     const std::int64_t from = at("2026-11-20T00:00:00Z");

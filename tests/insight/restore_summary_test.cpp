@@ -44,6 +44,9 @@ protected:
             return id == 3 ? std::optional<std::int64_t>(1'024) : std::nullopt;
         });
     }
+    insight::ChosenItems chosen(std::int64_t sizeOfEach) {
+        return insight::chosenItems(root, [=](std::int64_t) { return std::optional(sizeOfEach); });
+    }
 
     const boost::shared_ptr<ViewingAgent> agent = boost::make_shared<ViewingAgent>();
     BackedUpNode root{ViewingAgent::view(agent)};
@@ -59,6 +62,15 @@ TEST_F(ChosenItemsTest, FilesWithAndWithoutAKnownSize) {
     EXPECT_EQ(chosen().files, 2);
     EXPECT_EQ(chosen().filesOfUnknownSize, 1);
     EXPECT_FALSE(chosen().hasUnopened);
+}
+
+TEST_F(ChosenItemsTest, SizesOfAnyKindAddUpToOne) {
+    check(node(drive(), 0));
+    check(node(drive(), 1));
+    constexpr auto most = std::numeric_limits<std::int64_t>::max();
+    EXPECT_EQ(chosen(most).bytes, most);
+    EXPECT_EQ(chosen(most / 2 + 1).bytes, most);
+    EXPECT_EQ(chosen(-1).bytes, 0);
 }
 
 TEST_F(ChosenItemsTest, AnUnopenedFolderIsCountedAndNotAskedFor) {

@@ -77,6 +77,16 @@ TEST(Clipboard, TextHasTabsBetweenItsCells) {
     EXPECT_EQ(copied()->text().toStdString(), "00\t01\n<b> tab line\t21");
 }
 
+TEST(Clipboard, FormulasAreText) {
+    const insight::TextTable table{
+        {QStringLiteral("=H()")},
+        {{QStringLiteral("=HYPERLINK(1)"), QStringLiteral("-12"), QStringLiteral("\t@a")}}};
+    EXPECT_EQ(insight::tabbedText(table).toStdString(), "'=HYPERLINK(1)\t-12\t' @a");
+    EXPECT_EQ(insight::htmlTable(table).toStdString(),
+              "<table>\n<tr><th>'=H()</th></tr>\n"
+              "<tr><td>'=HYPERLINK(1)</td><td>-12</td><td>'\t@a</td></tr>\n</table>\n");
+}
+
 TEST(Clipboard, HtmlIsATableWithAHeader) {
     EXPECT_EQ(copied()->html().toStdString(),
               "<table>\n<tr><th>A &amp; B</th><th>C</th></tr>\n"
