@@ -93,6 +93,7 @@ void SimpleGUIMainWindow::updateEnabling() {
 
 bool SimpleGUIMainWindow::event(QEvent* event) {
     if (event->type() == heartbeatEventType()) {
+        tray_->keepReachable();
         refreshAll();
         return true;
     }

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QSettings>
 #include <QTextStream>
 #include <QTimer>
@@ -25,6 +26,7 @@
 namespace {
 
 constexpr int timeToAppear = 500;
+constexpr qint64 largestStyleSheet = qint64(16) * 1024 * 1024;
 
 } // namespace
 
@@ -88,8 +90,12 @@ void installTranslation(QApplication& application, const QString& language) {
 void applyStyleSheet(QApplication& application) {
     application.setStyleSheet(QString());
     QFile file(QDir::current().absoluteFilePath(QStringLiteral("tarnmobile.css")));
-    if (file.open(QIODevice::ReadOnly | QIODevice::Text))
-        application.setStyleSheet(QTextStream(&file).readAll());
+    // Opening a pipe that nobody writes to would take for ever, and so would reading a device.
+    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return;
+    const QByteArray sheet = file.read(largestStyleSheet + 1);
+    if (sheet.size() <= largestStyleSheet)
+        application.setStyleSheet(QTextStream(sheet).readAll());
 }
 
 void showAtOnce(QWidget& window) {

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "app/tray_presence.h"
 
+#include <utility>
+
 #include <QApplication>
 #include <QMenu>
 #include <QTimer>
@@ -16,7 +18,9 @@ namespace app {
 
 namespace {
 
-constexpr int timeToActivate = 300; ///< milliseconds
+// In milliseconds
+constexpr int timeToActivate = 300;
+constexpr int timeOfABusyMachine = 5000;
 
 QString productName() {
     return QStringLiteral("Tarn-Mobile User");
@@ -30,16 +34,32 @@ void letTheWindowHide() {
     QGuiApplication::setFallbackSessionManagementEnabled(false);
 }
 
+/// On a busy machine Qt gets the focus events of hiding and showing together, perhaps seconds later,
+/// and assumes that the window is still inactive.
+void correctFocus(QWidget& window) {
+    if (!QApplication::activeWindow() && window.windowHandle() == QGuiApplication::focusWindow())
+        QApplication::setActiveWindow(&window);
+}
+
+/// Does so each time that `timeToActivate` has passed, for `left` milliseconds.
+void keepCorrectingFocus(QWidget& window, int left) {
+    QTimer::singleShot(timeToActivate, &window, [&window, left] {
+        if (!window.isVisible())
+            return;
+        correctFocus(window);
+        if (left > timeToActivate)
+            keepCorrectingFocus(window, left - timeToActivate);
+    });
+}
+
 /// Makes up for an activation that went wrong.
 void insistOnFocus(QWidget& window) {
-    if (!window.isVisible() || QApplication::activeWindow())
+    if (!window.isVisible())
         return;
-    if (window.windowHandle() == QGuiApplication::focusWindow()) {
-        // On a busy machine Qt gets the focus events of hiding and showing together, and
-        // assumes that the window is still inactive.
-        QApplication::setActiveWindow(&window);
+    correctFocus(window);
+    keepCorrectingFocus(window, timeOfABusyMachine);
+    if (QApplication::activeWindow())
         return;
-    }
     // A desktop refuses the focus to a program whose last event is older than what the user did
     // elsewhere. By now there are newer ones.
     window.activateWindow();
@@ -114,6 +134,12 @@ void TrayPresence::hideWindow() {
     window_.hide();
     actionShow_.setEnabled(true);
     actionHide_.setEnabled(false);
+}
+
+void TrayPresence::keepReachable() {
+    const bool isLost = actionShow_.isEnabled() && !window_.isVisible() && !icon_->isAvailable();
+    if (std::exchange(lostTray_, isLost) && isLost)
+        showWindow();
 }
 
 void TrayPresence::announce(const QList<hessiancln::running_activity_info>& appeared,

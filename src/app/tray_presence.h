@@ -42,6 +42,9 @@ public:
     void showWindow();
     /// Does nothing if the desktop has no tray to restore it from.
     void hideWindow();
+    /// Call now and then. Shows a hidden window again once the desktop has had no tray two times in
+    /// a row: a panel that restarts is soon back.
+    void keepReachable();
 
     /// Shows a balloon about activities that have started and ended, unless the window is active.
     void announce(const QList<hessiancln::running_activity_info>& appeared,
@@ -69,6 +72,7 @@ private:
     QAction& actionHide_;
     QMenu& menu_;
     bool showReminder_ = true;
+    bool lostTray_ = false; ///< at the last look
     std::optional<hessiancln::activity_log_info> lastNews_;
 };
 

@@ -51,6 +51,10 @@ void TFAUsersViewer::setUpTable() {
             &TFAUsersViewer::updateEnabling);
     connect(table.selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &TFAUsersViewer::selectSomeRow);
+    // A click with Ctrl deselects the row. Later, since rows lose their selection before they are
+    // removed.
+    connect(table.selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &TFAUsersViewer::selectSomeRow, Qt::QueuedConnection);
     connect(&model_, &QAbstractItemModel::modelReset, this, &TFAUsersViewer::updateEnabling);
     connect(&model_, &QAbstractItemModel::modelReset, this, &TFAUsersViewer::selectSomeRow);
     for (const auto change : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})

@@ -55,8 +55,8 @@ void SecretField::replace(const QString& fresh) {
     QString held = text();
     QString shown = displayText(); // another copy, unless the content is hidden
     const bool changes = held != fresh;
-    const Silence silence;
     {
+        const Silence silence;
         const QSignalBlocker quiet(this);
         // Clearing a field drops its edit history but keeps the memory, so that the next edits
         // overwrite it.

@@ -111,14 +111,16 @@ void RestoreDirectoryDestination::showComputer() {
         wizard() ? qobject_cast<RestoreLocationPage*>(wizard()->page(locationPageId_)) : nullptr;
     if (!location)
         return;
+    // Those of another computer must not stay if a call fails.
+    ui_->treeAvailableDirectories->setModel(nullptr);
+    directories_.reset();
+    model_.reset();
+    ui_->editRestoreTo->clear();
     const auto browser = required(location->browser());
     const std::string computer = location->computer();
     const auto presets = browser->getPredefinedItems(computer);
-    auto model = std::make_unique<CRestoreDestinationModel>(computer, browser);
-    auto directories = std::make_unique<CRestoreDestinationDirectoryOnlyModel>(*model);
-    ui_->treeAvailableDirectories->setModel(nullptr);
-    directories_ = std::move(directories);
-    model_ = std::move(model);
+    model_ = std::make_unique<CRestoreDestinationModel>(computer, browser);
+    directories_ = std::make_unique<CRestoreDestinationDirectoryOnlyModel>(*model_);
     ui_->editRestoreTo->setText(
         presets.empty() ? QString()
                         : wizards::folderOfTreePath(fromWire(presets.front().path), osType_));

@@ -163,6 +163,26 @@ private slots:
         QVERIFY(modals.done());
     }
 
+    void takesNoStyleSheetThatIsNoFile_data() {
+        QTest::addColumn<QString>("target");
+        QTest::newRow("a device without end") << QStringLiteral("/dev/zero");
+        QTest::newRow("a folder") << QStringLiteral("/");
+    }
+    void takesNoStyleSheetThatIsNoFile() {
+        QFETCH(QString, target);
+        if (!QFile::exists(target))
+            QSKIP("This system has no such file");
+        QVERIFY(QFile::link(target, QStringLiteral("tarnmobile.css")));
+        app::applyStyleSheet(*qApp);
+        QCOMPARE(qApp->styleSheet(), QString());
+    }
+
+    void takesNoStyleSheetOfMoreThan16Mebibytes() {
+        write(QStringLiteral("tarnmobile.css"), QByteArray(16 * 1024 * 1024 + 1, ' '));
+        app::applyStyleSheet(*qApp);
+        QCOMPARE(qApp->styleSheet(), QString());
+    }
+
     void takesTheStyleSheet() {
         write(QStringLiteral("tarnmobile.css"), "QLabel { color: red; }");
         app::applyStyleSheet(*qApp);

@@ -98,6 +98,37 @@ private slots:
         QVERIFY(!shown.presence.actionShow().isEnabled());
     }
 
+    void aHiddenWindowComesBackWhenTheTrayGoes() {
+        ShownWindow shown;
+        shown.presence.keepReachable();
+        shown.presence.hideWindow();
+        shown.presence.keepReachable();
+        shown.presence.keepReachable();
+        QVERIFY(!shown.window.isVisible());
+        // A panel that restarts is back at the next look.
+        shown.icon->setAvailable(false);
+        shown.presence.keepReachable();
+        QVERIFY(!shown.window.isVisible());
+        shown.icon->setAvailable(true);
+        shown.presence.keepReachable();
+        shown.icon->setAvailable(false);
+        shown.presence.keepReachable();
+        QVERIFY(!shown.window.isVisible());
+        shown.presence.keepReachable();
+        QVERIFY(shown.window.isVisible());
+        QVERIFY(!shown.presence.actionShow().isEnabled());
+    }
+
+    void anActivationThatComesLateIsCorrected() {
+        ShownWindow shown;
+        shown.presence.showWindow();
+        // Later than the first look at it.
+        QTest::qWait(600);
+        QApplication::setActiveWindow(nullptr);
+        QCOMPARE(QGuiApplication::focusWindow(), shown.window.windowHandle());
+        QTRY_COMPARE(QApplication::activeWindow(), &shown.window);
+    }
+
     void remindsUntilDismissed() {
         ShownWindow shown;
         shown.presence.remind();

@@ -259,6 +259,11 @@ void TFADialogsTest::theRowThatLooksSelectedIsSelected() {
     };
     withViewer([&](QWidget& viewer) {
         selectedIs(viewer, 0);
+        auto& table = child<QTableView>(viewer, "tableUsers");
+        QTest::mouseClick(table.viewport(), Qt::LeftButton, Qt::ControlModifier,
+                          table.visualRect(table.model()->index(0, 0)).center());
+        QCoreApplication::processEvents();
+        selectedIs(viewer, 0);
         press(viewer, "btnDelete");
         selectedIs(viewer, 0);
         press(viewer, "btnDelete");

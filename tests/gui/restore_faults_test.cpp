@@ -104,6 +104,7 @@ private slots:
     void anObjectThatIsMissing();
     void aFolderOfTheDestinationThatFailsIsNotTold();
     void aPageWithoutDirectoryCanBeTriedAgain();
+    void theDirectoryOfAnotherComputerGoes();
 
 private:
     void failCall(std::size_t number);
@@ -370,6 +371,32 @@ void RestoreFaultsTest::aPageWithoutDirectoryCanBeTriedAgain() {
         wizard.back();
         wizard.next();
         QCOMPARE(directory.text(), q("C:\\Users\\anna\\Documents"));
+        wizard.reject();
+    });
+    test_.run("OnRestore");
+}
+
+/// The page has to be entered a second time to have one of the first.
+void RestoreFaultsTest::theDirectoryOfAnotherComputerGoes() {
+    test_.modals->expect(q("wizard"), isDialog<QWizard>, [this](QWidget& widget) {
+        auto& wizard = static_cast<QWizard&>(widget);
+        for (int page = 0; page < 3; ++page) {
+            wishing(wishes)(*wizard.currentPage());
+            wizard.next();
+        }
+        QWizardPage& last = *wizard.currentPage();
+        auto& directory = child<QLineEdit>(last, "editRestoreTo");
+        QVERIFY(!directory.text().isEmpty());
+        child<QPushButton>(last, "btnRestoreTo").click();
+        auto& tree = child<QTreeView>(last, "treeAvailableDirectories");
+        QVERIFY(tree.model());
+        wizard.back();
+        test_.agent->inject("getPredefinedItems", Fault{faultText});
+        expectBox("Error");
+        wizard.next();
+        QCOMPARE(directory.text(), QString());
+        QVERIFY(!tree.model());
+        QVERIFY(!last.isComplete());
         wizard.reject();
     });
     test_.run("OnRestore");

@@ -94,6 +94,19 @@ private slots:
         QVERIFY(updateHandler() == hears);
     }
 
+    void whatFollowsAChangeIsHeard() {
+        support::ScreenReader reader;
+        ui::SecretField field;
+        QLineEdit name;
+        connect(&field, &QLineEdit::textChanged, &name, [&] { name.setText(q("n")); });
+        showFocused(field);
+        name.show();
+        reader.forget();
+        field.setSecret("stored");
+        QVERIFY(reader.heard().contains(q("n")));
+        QCOMPARE(reader.heard().filter(q("s")), QStringList());
+    }
+
     void otherFieldsAreHeardAsBefore() {
         support::ScreenReader reader;
         const ui::SecretField secret;
