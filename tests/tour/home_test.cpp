@@ -12,6 +12,21 @@
 #include "tests/tour/album.h"
 #include "tests/tour/stories.h"
 
+namespace {
+
+/// Every program with fonts has Fontconfig write there while the system's own cache of a folder
+/// with fonts is older than the folder.
+bool isOfFontconfig(const QString& home, const QString& entry) {
+    const QString cache = home + QStringLiteral("/.cache");
+    const QString fonts = cache + QStringLiteral("/fontconfig");
+    return entry == fonts || entry.startsWith(fonts + QLatin1Char('/')) ||
+           (entry == cache &&
+            QDir(cache).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot) ==
+                QStringList(QStringLiteral("fontconfig")));
+}
+
+} // namespace
+
 /// The program keeps nothing in the user's home, whatever screens were open, and its menu bar stays
 /// in its window: the desktop would trigger commands even during a call.
 class HomeTest : public QObject {
@@ -31,7 +46,8 @@ private slots:
         QDirIterator entries(home, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
                              QDirIterator::Subdirectories);
         while (entries.hasNext())
-            left << entries.next();
+            if (const QString entry = entries.next(); !isOfFontconfig(home, entry))
+                left << entry;
         QVERIFY2(left.isEmpty(), qPrintable(left.join(QLatin1Char('\n'))));
     }
 };
@@ -42,8 +58,6 @@ int main(int argc, char** argv) {
     for (const char* folder :
          {"XDG_CACHE_HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"})
         qunsetenv(folder);
-    // In package builds. It makes Fontconfig reject the cache of the system and write another one.
-    qunsetenv("SOURCE_DATE_EPOCH");
     app::prepareToolkit();
     QApplication application(argc, argv);
     app::adjustToolkit(application);
