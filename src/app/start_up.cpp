@@ -18,6 +18,7 @@
 #include "app/call_gate.h"
 #include "app/even_scale.h"
 #include "app/simple_gui_main_window.h"
+#include "platform/file_dialog_history.h"
 #include "session/connection.h"
 #include "ui/error_box.h"
 #include "ui/outlined_indicators.h"
@@ -45,6 +46,8 @@ void prepareToolkit() {
     // At the end of the user's session Qt would close the main window, which refuses to, and
     // thereby keep the user logged in.
     QGuiApplication::setFallbackSessionManagementEnabled(false);
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs,
+                                   platform::desktopFileDialogKeepsHistory());
     // Qt's file dialog would keep the last folders in the user's home. Nothing can be written below
     // a path that isn't a folder. On Windows this has no effect: see platform::NoFileDialogHistory.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));

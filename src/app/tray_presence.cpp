@@ -34,8 +34,8 @@ void letTheWindowHide() {
     QGuiApplication::setFallbackSessionManagementEnabled(false);
 }
 
-/// On a busy machine Qt gets the focus events of hiding and showing together, perhaps seconds later,
-/// and assumes that the window is still inactive.
+/// On a busy machine Qt gets the focus events of hiding and showing together, perhaps seconds
+/// later, and assumes that the window is still inactive.
 void correctFocus(QWidget& window) {
     if (!QApplication::activeWindow() && window.windowHandle() == QGuiApplication::focusWindow())
         QApplication::setActiveWindow(&window);

@@ -23,4 +23,7 @@ private:
     std::unique_ptr<Found> found_;
 };
 
+/// Whether the desktop's own file dialog stores in the user's home what it was used for.
+bool desktopFileDialogKeepsHistory();
+
 } // namespace platform

@@ -195,24 +195,6 @@ TEST(Layout, HeadersThatOthersIncludeKeepTheNetworkLibraryOut) {
         }
 }
 
-TEST(Layout, AFileDialogIsNotTheDesktopsOwn) {
-    // That one would keep a list of recently used files in the user's home.
-    static const std::regex dialog(R"(\bQFileDialog \w+\()");
-    int found = 0;
-    for (const auto& entry : fs::recursive_directory_iterator(root / "src")) {
-        if (entry.path().extension() != ".cpp")
-            continue;
-        std::ifstream in(entry.path());
-        const std::string text(std::istreambuf_iterator<char>(in), {});
-        EXPECT_EQ(text.find("QFileDialog::get"), std::string::npos) << entry.path();
-        if (!std::regex_search(text, dialog))
-            continue;
-        ++found;
-        EXPECT_NE(text.find("QFileDialog::DontUseNativeDialog"), std::string::npos) << entry.path();
-    }
-    EXPECT_GE(found, 3);
-}
-
 TEST(Layout, AFieldThatHidesItsTextIsASecretField) {
     // Qt announces to screen readers what is typed into any other.
     static const std::string widget = "<widget class=\"";

@@ -36,6 +36,12 @@ private slots:
         QVERIFY(QCoreApplication::testAttribute(Qt::AA_DontUseNativeMenuBar));
     }
 
+    /// The desktop's own would keep a list of recently used files there; that of Windows doesn't.
+    void doesNotGetTheFilesOfDialogs() {
+        QCOMPARE(QCoreApplication::testAttribute(Qt::AA_DontUseNativeDialogs),
+                 QSysInfo::kernelType() != QLatin1String("winnt"));
+    }
+
     void staysEmpty() {
         const QString home = QDir::homePath();
         QCOMPARE(QFile::encodeName(home), qgetenv("HOME"));

@@ -12,4 +12,9 @@ NoFileDialogHistory::~NoFileDialogHistory() = default;
 
 void NoFileDialogHistory::forget() {}
 
+// The one of GTK has a list of recently used files.
+bool desktopFileDialogKeepsHistory() {
+    return true;
+}
+
 } // namespace platform

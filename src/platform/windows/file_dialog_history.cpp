@@ -46,4 +46,8 @@ void NoFileDialogHistory::forget() {
         RegDeleteTreeW(HKEY_CURRENT_USER, found_->firstMissing);
 }
 
+bool desktopFileDialogKeepsHistory() {
+    return false;
+}
+
 } // namespace platform
