@@ -13,6 +13,7 @@
 
 #include "base/secret.h"
 #include "transport/call_failure.h"
+#include "transport/tls_thread.h"
 
 namespace hessiancln {
 
@@ -81,6 +82,7 @@ void ICallDispatcher::WorkerPool::startWorkers() {
 }
 
 void ICallDispatcher::WorkerPool::work() {
+    freeTlsAtThreadEnd();
     while (std::optional<PendingCall> call = take())
         carryOut(*call);
 }

@@ -7,6 +7,7 @@
 
 #include "base/secret.h"
 #include "transport/call_failure.h"
+#include "transport/tls_thread.h"
 
 namespace hessiancln {
 
@@ -108,6 +109,7 @@ std::string waitForThread(const std::shared_ptr<PendingReply>& reply,
                           std::function<std::string()> work,
                           std::optional<std::chrono::milliseconds> patience) {
     std::thread([reply, work = std::move(work)] {
+        freeTlsAtThreadEnd();
         try {
             std::string result = work();
             const base::WipedAtEnd guard(result); // unless the caller has taken it

@@ -11,6 +11,7 @@
 #include "transport/call_passage.h"
 #include "transport/parse_url.h"
 #include "transport/single_stream_connection.h"
+#include "transport/tls_thread.h"
 #include "transport/tracer.h"
 
 namespace hessiancln {
@@ -36,6 +37,7 @@ public:
         }
         try {
             std::thread([teardowns, connection]() mutable {
+                freeTlsAtThreadEnd();
                 end(connection);
                 teardowns->done();
             }).detach();

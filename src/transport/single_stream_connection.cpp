@@ -9,6 +9,8 @@
 #include <boost/asio/post.hpp>
 #include <boost/make_shared.hpp>
 
+#include "transport/tls_thread.h"
+
 namespace hessiancln {
 
 namespace asio = boost::asio;
@@ -171,6 +173,7 @@ std::string CSingleStreamDispatcherConnection::errorText() {
 }
 
 void CSingleStreamDispatcherConnection::run() {
+    freeTlsAtThreadEnd();
     streamThread_ = std::this_thread::get_id();
     guarded([this] { IOProcessingThread(); });
 }

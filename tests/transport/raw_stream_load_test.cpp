@@ -64,6 +64,24 @@ TEST_P(RawStreamLoad, CarriesAReplyOf64MiBWithoutASecondCopy) {
     RecordProperty("grown", static_cast<int>(grown / 1024));
 }
 
+TEST(RawStreamThreads, LeaveNothingWhenTheyEnd) {
+    constexpr int connections = 300;
+    const auto connectAndEnd = [] {
+        LoopbackServer server(LoopbackServer::Mode::plain, [](Peer& peer) {
+            const RequestFrame frame = peer.open().receiveFrame();
+            peer.send(responseFrame(frame.id, "pong")).expectClose();
+        });
+        CRawStreamDispacher dispatcher(0, "", true);
+        ASSERT_EQ(dispatcher.sendRequest(server.url(), "ping"), "pong");
+    };
+    for (int i = 0; i < connections / 6; ++i)
+        connectAndEnd();
+    const std::size_t before = residentSize();
+    for (int i = 0; i < connections; ++i)
+        connectAndEnd();
+    EXPECT_LT(residentSize(), before + connections * 2048);
+}
+
 TEST_P(RawStreamLoad, ALengthThatIsOnlyClaimedTouchesNoMemory) {
     // The largest accepted length, followed by only the start of its data.
     LoopbackServer server(GetParam(), [&](Peer& peer) {
