@@ -56,6 +56,10 @@ Wizard::~Wizard() {
 void frameWizard(QWizard& wizard, const QString& title, const QString& watermark) {
     wizard.setWindowTitle(title);
     wizard.setWindowIcon(g_branding.applicationIcon());
+    // Unless a style is set, the one of Windows takes over when the wizard is shown: without a
+    // watermark, and without a text on the button for the way back.
+    const QWizard::WizardStyle style = wizard.wizardStyle();
+    wizard.setWizardStyle(style == QWizard::AeroStyle ? QWizard::ModernStyle : style);
     wizard.setPixmap(QWizard::WatermarkPixmap, picture(watermark));
     // In right-to-left layouts, forward is to the left.
     const bool mirrored = wizard.layoutDirection() == Qt::RightToLeft;

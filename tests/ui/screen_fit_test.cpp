@@ -107,6 +107,7 @@ private slots:
 
     void aWizardHasOneSizeAndItsButtonsStay() {
         QWizard wizard;
+        wizard.setWizardStyle(QWizard::ModernStyle);
         wizard.setPixmap(QWizard::WatermarkPixmap, QPixmap(164, 314));
         wizard.addPage(newPage(300, 100));
         wizard.addPage(newPage(600, 400));
