@@ -6,6 +6,7 @@
 #include "session/connection.h"
 #include "simulator/world/world.h"
 #include "tests/gui/new_set_calls.h"
+#include "tests/support/default_start.h"
 #include "tests/support/gui_wizard.h"
 
 using gui::newSetTable;
@@ -74,6 +75,7 @@ private:
 void NewSetFaultsTest::initTestCase() {
     resources::initPictures();
     agent_ = std::make_unique<GuiAgent>();
+    agent_->withWorld(support::beginSchedulesAtHalfPastEight);
     driver_ = std::make_unique<MainWindowDriver>();
     driver_->logIn(*agent_);
     modals_ = std::make_unique<ModalDriver>();

@@ -18,6 +18,7 @@
 #include "simulator/world/world.h"
 #include "tests/gui/new_set_calls.h"
 #include "tests/support/cursor_watch.h"
+#include "tests/support/default_start.h"
 #include "tests/support/gui_tree.h"
 #include "tests/support/gui_wizard.h"
 
@@ -124,6 +125,7 @@ void NewSetFlowTest::aNewSet() {
     QFETCH(int, pages);
     QFETCH(Calls, expected);
     test_.start(scenario, [&](World& world) {
+        support::beginSchedulesAtHalfPastEight(world);
         world.twoFactor = twoFactor;
         if (!tool)
             world.tools.clear();

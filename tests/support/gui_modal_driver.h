@@ -54,6 +54,7 @@ private:
 
     QObject context_; ///< its destruction stops the polling
     std::deque<Step> steps_;
+    QPointer<QWidget> seen_;              ///< by the latest look
     std::vector<QPointer<QWidget>> busy_; ///< dialogs whose step is running
 };
 

@@ -5,11 +5,11 @@
 #include <cstdlib>
 #include <new>
 
-// Each block is preceded by its size.
+// Each block is preceded by its size. It begins empty, without what another thread has left in it.
 static constexpr std::size_t headSize = alignof(std::max_align_t);
 
 void* operator new(std::size_t size) {
-    auto* const block = static_cast<char*>(std::malloc(headSize + size));
+    auto* const block = static_cast<char*>(std::calloc(1, headSize + size));
     if (!block)
         throw std::bad_alloc();
     new (block) std::size_t(size);

@@ -122,7 +122,9 @@ void CredentialDialogsTest::aRefusedUserNameIsExplained() {
     CEnterSimpleUserPsw dialog(QStringLiteral("anna"));
     dialog.show();
     auto& edit = child<QLineEdit>(dialog, "editUserName");
+    // That of an earlier test may stay for a moment.
     QToolTip::hideText();
+    QTRY_VERIFY(!QToolTip::isVisible());
     edit.end(false);
     QTest::keyClicks(&edit, QStringLiteral("1"));
     QCOMPARE(QToolTip::text(), QString());

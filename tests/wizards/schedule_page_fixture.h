@@ -12,6 +12,7 @@
 #include <QStackedWidget>
 #include <QTimeEdit>
 
+#include "tests/support/default_start.h"
 #include "tests/wizards/page_fixture.h"
 #include "wizards/schedule_select_page.h"
 
@@ -51,6 +52,11 @@ class SchedulePageFixture : public PageFixture {
 public:
     using Detail = simulator::ScheduleDetailState;
     using Schedule = simulator::ScheduleState;
+
+    void start() {
+        PageFixture::start();
+        agent().withWorld(support::beginSchedulesAtHalfPastEight);
+    }
 
     /// Gives the set a schedule with that name.
     void give(int set, const std::string& scheduleName, const std::vector<Detail>& details) {

@@ -63,7 +63,6 @@ void SchedulePageTest::theDefaultsComeFromTheAgent() {
     QCOMPARE(page.checkedType(), name("radioDaily"));
     QCOMPARE(page.shownDays(), name("frameDaily"));
     QCOMPARE(page.days(), name("MoTuWeThFr"));
-    // From the client number's end, 31700: 48271 * 31700 modulo 23 is 10.
     QCOMPARE(page.time("timeStart").time(), QTime(20, 30));
     QVERIFY(page.box("checkStop").isChecked());
     QCOMPARE(page.time("timeStop").time(), QTime(6, 0));
