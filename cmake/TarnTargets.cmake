@@ -100,13 +100,14 @@ function(_tarn_moc name)
     target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_BINARY_DIR})
 endfunction()
 
-# tarn_left_out(<name> ...): tests, or files of a test as in test_simulator.program_test, that aren't
-# built for this system. The run under Wine requires a reason for each of them.
-function(tarn_left_out)
-    foreach(name IN LISTS ARGN)
-        add_test(NAME ${name} COMMAND ${name}.exe)
-        set_tests_properties(${name} PROPERTIES DISABLED TRUE)
-    endforeach()
+# tarn_left_out(<name> <source>): a test, or a file of a test as in test_simulator.program_test, that
+# isn't built for this system. The run under Wine requires a reason for each of them.
+function(tarn_left_out name source)
+    if(NOT EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/${source})
+        message(FATAL_ERROR "${name} is left out, but there is no ${source}")
+    endif()
+    add_test(NAME ${name} COMMAND ${name}.exe)
+    set_tests_properties(${name} PROPERTIES DISABLED TRUE)
 endfunction()
 
 # tarn_test(<name> LABELS <labels> TIMEOUT <seconds> SOURCES <files> [LINK <libraries>])
