@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 // What the main window consists of, and how its parts are connected.
+#include <QDateTime>
 #include <QGuiApplication>
 #include <QMenu>
 #include <QScreen>
@@ -17,6 +18,7 @@
 #include "app/simple_gui_main_window.h"
 #include "app/tray_presence.h"
 #include "ui/branding_resources.h"
+#include "ui/locale_text.h"
 #include "ui/wrapping_row.h"
 #include "ui_simple_gui_main_window.h"
 
@@ -145,10 +147,13 @@ QList<int> SimpleGUIMainWindow::sizesOfSplitter() const {
     const int room =
         windowWidth - around.left() - around.right() - ui_->splitterSetView->handleWidth();
     const int share = room * detailsWidth / (setsWidth + detailsWidth);
-    // In another language the details may need more.
-    const int needed = ui_->pageProperties->sizeHint().width();
-    return needed <= share ? QList<int>{setsWidth, detailsWidth}
-                           : QList<int>{room - needed, needed};
+    const int captions = ui_->pageProperties->sizeHint().width();
+    if (captions <= share)
+        return {setsWidth, detailsWidth};
+    // In another language. The time of a backup is the widest of the values.
+    const QString time = ui::timeText(QDateTime::currentSecsSinceEpoch(), QLocale::ShortFormat);
+    const int needed = captions + fontMetrics().horizontalAdvance(time);
+    return {room - needed, needed};
 }
 
 void SimpleGUIMainWindow::setUpTray(std::unique_ptr<app::TrayIcon> icon) {

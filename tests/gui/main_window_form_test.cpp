@@ -292,6 +292,9 @@ private slots:
         QCOMPARE(child<QMenu>(fresh, "menu_Help").title(), QStringLiteral("&Hilfe"));
         QCOMPARE(fresh.windowTitle(), QStringLiteral("Ostrand Backup"));
         fresh.show();
+        child<QLabel>(fresh, "valLastBackup")
+            .setText(
+                QLocale::system().toString(QDateTime::currentDateTime(), QLocale::ShortFormat));
         const auto* details = child<QWidget>(fresh, "pageProperties").findChild<QScrollArea*>();
         QVERIFY(details);
         QTRY_VERIFY(!details->horizontalScrollBar()->isVisible());
