@@ -54,7 +54,7 @@ Qt::ItemFlags CBackedUpDataModel::flags(const QModelIndex& index) const {
 }
 
 void CBackedUpDataModel::fetchTopLevel() {
-    LazyTreeModel::fetch(nodeOf({}));
+    LazyTreeModel::load(nodeOf({}));
 }
 
 void CBackedUpDataModel::rethrowFailure() const {
@@ -89,9 +89,9 @@ void CBackedUpDataModel::checkStateChanged(BackedUpNode& node) {
     emit itemSelectionChanged();
 }
 
-void CBackedUpDataModel::fetch(models::LazyNode& node) const {
+void CBackedUpDataModel::load(models::LazyNode& node) const {
     try {
-        LazyTreeModel::fetch(node);
+        LazyTreeModel::load(node);
     } catch (const std::exception& error) {
         failure_ = std::current_exception();
         announceFetched(node);

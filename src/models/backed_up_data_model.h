@@ -68,7 +68,7 @@ signals:
     void fetchFailed(const QString& text);
 
 protected:
-    void fetch(models::LazyNode& node) const override;
+    void load(models::LazyNode& node) const override;
 
 private:
     std::function<void(models::CheckableNode&)> listener();

@@ -39,9 +39,7 @@ bool CComputerTreeModel::isComputer(const QModelIndex& index) const {
     return nodeAt(index).isLeaf();
 }
 
-void CComputerTreeModel::fetch(models::LazyNode& node) const {
-    if (node.isFetched())
-        return;
+void CComputerTreeModel::load(models::LazyNode& node) const {
     auto children = node.load();
     announceFetched(node);
     if (children.empty())

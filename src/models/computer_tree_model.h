@@ -26,5 +26,5 @@ public:
     bool isComputer(const QModelIndex& index) const;
 
 protected:
-    void fetch(models::LazyNode& node) const override;
+    void load(models::LazyNode& node) const override;
 };

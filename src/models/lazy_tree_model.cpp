@@ -97,6 +97,10 @@ void LazyTreeModel::fetch(LazyNode& node) const {
         offerAgainLater();
         return;
     }
+    load(node);
+}
+
+void LazyTreeModel::load(LazyNode& node) const {
     node.fetch();
     announceFetched(node);
 }

@@ -41,7 +41,10 @@ protected:
 
     /// Makes the node fetch its children if it hasn't yet. While another call is pending, the node
     /// is left as it is, and views are asked to look again afterwards.
-    virtual void fetch(LazyNode& node) const;
+    void fetch(LazyNode& node) const;
+    /// Makes the node fetch its children, and announces it. Only `fetch` calls it, for a node that
+    /// hasn't yet.
+    virtual void load(LazyNode& node) const;
 
     /// Notifies views that a node was fetched, which may have changed its look. Deferred, because
     /// it is views at work that trigger fetches.

@@ -89,6 +89,7 @@ private slots:
     void aScreenReaderSelectsASet();
     void aScreenReaderSelectsARowOfTheHealthWindow();
     void aScreenReaderSelectsAComputer();
+    void aScreenReaderLooksIntoTheNetwork();
     void aScreenReaderFiltersTheEventLog();
     void anAnimatedClickWaits();
 
@@ -422,6 +423,23 @@ void HeldEventsTest::aScreenReaderSelectsAComputer() {
     agent_->clearCallLog();
     QTRY_VERIFY(count("getCurrentCredentials") > 0);
     QCOMPARE(name.text(), QStringLiteral("Unix Hosts"));
+}
+
+void HeldEventsTest::aScreenReaderLooksIntoTheNetwork() {
+    QWizard wizard;
+    wizard.addPage(new SelectDataSourcePage([](const std::string&) { return true; }));
+    wizard.show();
+    child<QPushButton>(wizard, "btnShowNetDiscovery").click();
+    QAbstractItemModel& network = *child<QTreeView>(wizard, "treeNetworkDiscovery").model();
+    QTRY_COMPARE(network.rowCount(), 3);
+    const QModelIndex hosts = network.index(2, 0);
+    duringACall([&] {
+        QVERIFY(!network.index(0, 0, hosts).isValid());
+        network.fetchMore(hosts);
+    });
+    QVERIFY(network.canFetchMore(hosts));
+    network.fetchMore(hosts);
+    QVERIFY(network.index(0, 0, hosts).isValid());
 }
 
 void HeldEventsTest::aScreenReaderFiltersTheEventLog() {
