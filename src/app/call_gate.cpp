@@ -116,16 +116,17 @@ milliseconds CallGate::patience() {
     callBegin_ = Clock::now();
     if (!chainBegin_) {
         chainBegin_ = painted_ = callBegin_;
-        announced_ = left_ = false;
+        announced_ = leavesNext_ = false;
         QCoreApplication::postEvent(this, new QEvent(chainEndType));
     }
-    if (left_)
+    if (leavesNext_)
         return 0ms;
     return std::max(times_.untilPainting - duration_cast<milliseconds>(callBegin_ - painted_), 0ms);
 }
 
 void CallGate::wait(hessiancln::AwaitedCall& call) noexcept {
     call_ = &call;
+    left_ = false;
     // A call in a chain may end before anything is painted.
     leastEnd_ = callBegin_ == chainBegin_ ? Moment() : Clock::now() + timeToPaint;
     {
@@ -135,7 +136,7 @@ void CallGate::wait(hessiancln::AwaitedCall& call) noexcept {
                 leave();
         });
         call.onFinish([this] { wake(*this); });
-        if (left_ && call.awaited() == hessiancln::Awaited::agent)
+        if (std::exchange(leavesNext_, false))
             leave();
         keepPainting();
         offerToLeave();
@@ -145,8 +146,9 @@ void CallGate::wait(hessiancln::AwaitedCall& call) noexcept {
     }
     call_ = nullptr;
     painted_ = Clock::now();
-    // The agent isn't to blame for the time that the logon service took.
-    if (call.awaited() == hessiancln::Awaited::logonService)
+    // A call after one that was left is waited for as any other, and the agent isn't to blame for
+    // the time that the logon service took.
+    if (left_ || call.awaited() == hessiancln::Awaited::logonService)
         chainBegin_.reset();
 }
 
@@ -203,7 +205,8 @@ void CallGate::leave() {
         text = tr("Disconnected, as the logon service hadn't answered for %1 s.");
     else if (answersSlowly())
         text = tr("Disconnected, as the agent had answered slowly for %1 s.");
-    left_ = left_ || call_->awaited() == hessiancln::Awaited::agent;
+    leavesNext_ = call_->finished() && !left_;
+    left_ = left_ || !call_->finished();
     call_->giveUp(session::toWire(text.arg(elapsed().count())));
     leastEnd_ = Moment();
 }

@@ -86,10 +86,11 @@ private:
     Moment callBegin_;                 ///< of the latest call
     Moment painted_;                   ///< when the windows last could paint
     bool announced_ = false;           ///< the panel, in this chain
-    bool left_ = false;                ///< by the user; this chain no longer waits for the agent
+    bool leavesNext_ = false; ///< the user left when a call had just finished: the next one fails
 
     // Used during a wait
     hessiancln::AwaitedCall* call_ = nullptr;
+    bool left_ = false;
     Moment leastEnd_;
     QEventLoop* loop_ = nullptr;
     QBasicTimer timer_;

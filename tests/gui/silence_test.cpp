@@ -52,7 +52,9 @@ const QString faultText = QStringLiteral("Out of order.");
 QString withoutCause(QString text) {
     // The user's own end, the agent's fault, and a connection that was cut, as stream and as HTTP.
     for (const QString& failure :
-         {leftAgent + QStringLiteral("[0-9]+ s\\."), QRegularExpression::escape(faultText),
+         {leftAgent + QStringLiteral("[0-9]+ s\\."),
+          QStringLiteral("Disconnected, as the agent had answered slowly for [0-9]+ s\\."),
+          QRegularExpression::escape(faultText),
           QStringLiteral("Receive failed \\(header\\): stream truncated \\([0-9]+\\)"),
           QStringLiteral("Failed to receive the HTTP response. Error [0-9]+ "
                          "\\(stream truncated\\)")})

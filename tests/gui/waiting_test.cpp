@@ -398,6 +398,7 @@ void WaitingTest::thePanelLiesOverAWindowBesideTheHiddenOne() {
 
 void WaitingTest::aQuitDuringTheFirstLoginAsksForNoOther() {
     driver_->window().OnDisconnect();
+    endChain();
     agent_->clearCallLog();
     beSilent("getTarnClientType");
     bool quit = false;
