@@ -21,8 +21,10 @@ using support::MainWindowDriver;
 using support::methodsOf;
 using support::ModalDriver;
 using Calls = std::vector<std::string>;
+using Start = void (SimpleGUIMainWindow::*)();
 
 Q_DECLARE_METATYPE(simulator::Injection)
+Q_DECLARE_METATYPE(Start)
 
 namespace {
 
@@ -159,7 +161,6 @@ void MainWindowFaultsTest::theAgentAndItsActivitiesEndTheSession() {
 }
 
 void MainWindowFaultsTest::noActivityIsAnnouncedAtTheEndOfTheSession_data() {
-    using Start = void (SimpleGUIMainWindow::*)();
     QTest::addColumn<Start>("start");
     QTest::newRow("backup") << &SimpleGUIMainWindow::OnBackupNow;
     QTest::newRow("synchronization") << &SimpleGUIMainWindow::OnSync;
@@ -167,7 +168,7 @@ void MainWindowFaultsTest::noActivityIsAnnouncedAtTheEndOfTheSession_data() {
 }
 
 void MainWindowFaultsTest::noActivityIsAnnouncedAtTheEndOfTheSession() {
-    QFETCH(void(SimpleGUIMainWindow::*)(), start);
+    QFETCH(Start, start);
     inject(QStringLiteral("activity_log"), simulator::Fault{"Out of order."});
     (driver_->window().*start)();
     QCOMPARE(agent_->waitingInjections(), std::size_t(0));

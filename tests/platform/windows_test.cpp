@@ -163,4 +163,15 @@ TEST(NoFileDialogHistory, LeavesWhatOthersHadStored) {
     EXPECT_TRUE(Key::exists(ofTheDialog));
 }
 
+TEST(NoFileDialogHistory, LeavesWhatOthersStoreMeanwhile) {
+    const Key key(ofTheToolkit);
+    {
+        const platform::NoFileDialogHistory none;
+        Key::create(ofTheDialog);
+        Key::create(L"Software\\QtProject\\Other");
+    }
+    EXPECT_FALSE(Key::exists(L"Software\\QtProject\\OrganizationDefaults"));
+    EXPECT_TRUE(Key::exists(L"Software\\QtProject\\Other"));
+}
+
 } // namespace
