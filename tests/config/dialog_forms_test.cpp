@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
-#include <QAccessible>
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QRadioButton>
@@ -12,7 +11,6 @@
 #include "tests/config/registration_fixture.h"
 #include "tests/support/gui_exposed_text.h"
 #include "tests/support/gui_form_texts.h"
-#include "ui/secret_field.h"
 
 using namespace steps;
 using simulator::World;
@@ -68,7 +66,6 @@ private slots:
 
     void keysAreNeverTold();
     void passwordsAreNeverTold();
-    void fieldsAreFilledAndWipedWithoutAWord();
 
 private:
     /// Opens the dialog of the slot, inspects it, and closes it.
@@ -368,26 +365,6 @@ void DialogFormsTest::passwordsAreNeverTold() {
     });
     for (const char* secret : {"correct horse", "a typed password"})
         QCOMPARE(LogKeeper::lines.filter(q(secret)), QStringList());
-}
-
-void DialogFormsTest::fieldsAreFilledAndWipedWithoutAWord() {
-    // There are no listeners in a test, but any would have been replaced meanwhile.
-    ui::SecretField field;
-    const QAccessible::UpdateHandler telling = [](QAccessibleEvent*) {};
-    const QAccessible::UpdateHandler before = QAccessible::installUpdateHandler(telling);
-    QVector<QAccessible::UpdateHandler> heard;
-    connect(&field, &QLineEdit::textChanged, this, [&heard] {
-        heard << QAccessible::installUpdateHandler(nullptr);
-        QAccessible::installUpdateHandler(heard.last());
-    });
-    field.setSecret("a key");
-    QCOMPARE(field.text(), q("a key"));
-    field.wipe();
-    QCOMPARE(field.text(), QString());
-    QCOMPARE(heard.size(), 2);
-    for (const auto handler : qAsConst(heard))
-        QVERIFY(handler && handler != telling);
-    QVERIFY(QAccessible::installUpdateHandler(before) == telling);
 }
 
 QTEST_MAIN(DialogFormsTest)

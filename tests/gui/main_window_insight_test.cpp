@@ -340,8 +340,8 @@ private slots:
         QTest::keyClick(&table, Qt::Key_C, Qt::ControlModifier);
         const QMimeData& copied = *QGuiApplication::clipboard()->mimeData();
         QCOMPARE(copied.text().count(QLatin1Char('\n')), shown - 1);
-        QVERIFY(copied.text().contains(QStringLiteral("Backup\t=1+2\t3\t")));
-        QVERIFY(copied.html().contains(QStringLiteral("<td>=1+2</td>")));
+        QVERIFY(copied.text().contains(QStringLiteral("Backup\t'=1+2\t3\t")));
+        QVERIFY(copied.html().contains(QStringLiteral("<td>'=1+2</td>")));
     }
 
     void theEndOfARestoreStandsInTheStatusBar() {
