@@ -45,8 +45,8 @@ double seconds(Clock::duration time) {
 }
 
 void serveAgent(const bench::ServerProcess::Listening& listening) {
-    simulator::Simulator agent({.scenario = simulator::Scenario::Large, .recordCalls = false});
-    listening(agent.port());
+    simulator::Simulator large({.scenario = simulator::Scenario::Large, .recordCalls = false});
+    listening(large.port());
     while (true)
         ::pause();
 }
