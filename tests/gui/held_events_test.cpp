@@ -9,6 +9,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QElapsedTimer>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -58,6 +59,9 @@ void clickOnWindow(QWidget& window, QWidget& target) {
                       target.mapTo(&window, target.rect().center()));
 }
 
+/// Of a reply that leaves time to act before it.
+constexpr std::chrono::milliseconds longDelay(600);
+
 /// Selects a row as a screen reader does, without any input.
 void selectByReader(QTableView& table, int row) {
     QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(&table);
@@ -98,13 +102,18 @@ private:
     void duringACall(const std::function<void()>& act) {
         endChain();
         agent_->clearCallLog();
-        agent_->inject("getTarnClientInfo", simulator::Delay{300ms});
+        agent_->inject("getTarnClientInfo", simulator::Delay{longDelay});
         int rounds = 0;
+        QElapsedTimer time;
         const InTheWait user([&] {
+            // The heartbeat's next calls are waited for, too.
+            if (time.hasExpired(longDelay.count()))
+                return;
             if (++rounds == 1)
                 act();
             QCOMPARE(methodsOf(*agent_), Calls{"getTarnClientInfo"});
         });
+        time.start();
         driver_->beat();
         QVERIFY(rounds > 1);
     }
@@ -215,13 +224,17 @@ void HeldEventsTest::theWindowCantBeClosed() {
 }
 
 void HeldEventsTest::heartbeatsAreMadeUpForOnce() {
-    agent_->inject("getTarnClientInfo", simulator::Delay{300ms});
+    agent_->inject("getTarnClientInfo", simulator::Delay{longDelay});
     int posted = 0;
+    QElapsedTimer time;
     const InTheWait user([&] {
+        if (time.hasExpired(longDelay.count()))
+            return;
         if (++posted <= 5)
             driver_->postBeat();
         QVERIFY(methodsOf(*agent_).size() <= 1);
     });
+    time.start();
     driver_->beat();
     QVERIFY(posted >= 2);
     agent_->clearCallLog();
