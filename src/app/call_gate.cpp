@@ -173,7 +173,7 @@ void CallGate::offerToLeave() {
     }
 }
 
-/// Whoever holds the panel's button down hasn't released it yet.
+/// The user may still hold the panel's button down.
 bool CallGate::goesOn() const {
     return !call_->finished() || Clock::now() < leastEnd_ || panel_->isButtonDown();
 }

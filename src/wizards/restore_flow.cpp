@@ -49,7 +49,7 @@ RestoreWizard::RestoreWizard(QWidget& parent, const Set& set)
     wizard_.addPage(items_ = new RestoreSelectPage(set, &wizard_));
     location_ = new RestoreLocationPage(set, &wizard_);
     const int locationId = wizard_.addPage(location_);
-    // The account of the agent isn't offered here, whoever the user is.
+    // The account of the agent isn't offered here to any user.
     source_ = new SelectDataSourcePage([](const std::string&) { return false; }, &wizard_);
     location_->setDataSourcePageId(wizard_.addPage(source_));
     directory_ = new RestoreDirectoryDestination(&wizard_);
