@@ -11,6 +11,7 @@
 #include "platform/standard_streams.h"
 #include "resources/pictures.h"
 #include "session/connection.h"
+#include "transport/pending_reply.h"
 #include "ui/screen_fit.h"
 
 namespace {
@@ -42,9 +43,7 @@ int runWindow(QtSingleApplication& application) {
     return status;
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
+int run(int argc, char** argv) {
     prepareApplication();
     QtSingleApplication application(argc, argv);
     app::adjustToolkit(application);
@@ -59,4 +58,10 @@ int main(int argc, char** argv) {
     session::g_language = app::languageOf(QCoreApplication::arguments());
     app::installTranslation(application, session::g_language);
     return runWindow(application);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    hessiancln::exitProcess(run(argc, argv));
 }

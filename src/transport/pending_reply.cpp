@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "transport/pending_reply.h"
 
+#include <atomic>
+#include <cstdlib>
 #include <thread>
 #include <utility>
 
@@ -10,6 +12,21 @@
 #include "transport/tls_thread.h"
 
 namespace hessiancln {
+
+namespace {
+
+std::atomic<int> runningThreads = 0;
+
+/// Counts a thread while it exists.
+class RunningThread {
+public:
+    RunningThread() { ++runningThreads; }
+    RunningThread(RunningThread&&) noexcept { ++runningThreads; }
+    RunningThread& operator=(RunningThread&&) = delete;
+    ~RunningThread() { --runningThreads; }
+};
+
+} // namespace
 
 PendingReply::PendingReply(GiveUp giveUp, Awaited awaited)
     : giveUp_(std::move(giveUp))
@@ -108,7 +125,7 @@ void PendingReply::giveUp(const std::string& text) {
 std::string waitForThread(const std::shared_ptr<PendingReply>& reply,
                           std::function<std::string()> work,
                           std::optional<std::chrono::milliseconds> patience) {
-    std::thread([reply, work = std::move(work)] {
+    std::thread([reply, work = std::move(work), running = RunningThread()] {
         freeTlsAtThreadEnd();
         try {
             std::string result = work();
@@ -119,6 +136,12 @@ std::string waitForThread(const std::shared_ptr<PendingReply>& reply,
         }
     }).detach();
     return reply->wait(patience);
+}
+
+void exitProcess(int status) {
+    if (runningThreads > 0)
+        std::_Exit(status);
+    std::exit(status);
 }
 
 } // namespace hessiancln

@@ -64,4 +64,8 @@ std::string waitForThread(const std::shared_ptr<PendingReply>& reply,
                           std::function<std::string()> work,
                           std::optional<std::chrono::milliseconds> patience = {});
 
+/// Ends the process with `status`. While a thread from above still runs, the exit functions are
+/// skipped: those of the libraries that it is using could abort or crash.
+[[noreturn]] void exitProcess(int status);
+
 } // namespace hessiancln

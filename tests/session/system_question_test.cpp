@@ -2,14 +2,18 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "session/system_question.h"
 
+#include <cstdio>
+#include <cstdlib>
 #include <stdexcept>
 #include <thread>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "tests/support/scripted_hook.h"
 #include "tests/support/signal.h"
 #include "transport/invoke_exception.h"
+#include "transport/pending_reply.h"
 
 namespace {
 
@@ -61,6 +65,34 @@ TEST(SystemQuestion, ThrowsWhatTheQuestionThrows) {
     const hessiancln::WaitHookInstallation installed(hook);
     EXPECT_THROW(session::askSystem<int>([]() -> int { throw std::runtime_error("no"); }),
                  std::runtime_error);
+}
+
+const char* const exitFunctionRan = "The exit function ran.";
+
+void reportExitFunctions() {
+    static_cast<void>(std::atexit([] { std::fputs(exitFunctionRan, stderr); }));
+}
+
+TEST(SystemQuestionDeathTest, LeftByTheUserKeepsExitFunctionsFromRunning) {
+    const auto endAfterLeaving = [] {
+        reportExitFunctions();
+        ScriptedHook hook([](AwaitedCall& call) { call.giveUp("Enough of this"); });
+        const hessiancln::WaitHookInstallation installed(hook);
+        const auto service = std::make_shared<Service>();
+        EXPECT_THROW(ask(service), hessiancln::invoke_exception);
+        hessiancln::exitProcess(7);
+    };
+    EXPECT_EXIT(endAfterLeaving(), testing::ExitedWithCode(7),
+                testing::Not(testing::HasSubstr(exitFunctionRan)));
+}
+
+TEST(SystemQuestionDeathTest, AnsweredLetsExitFunctionsRun) {
+    const auto endAfterAnswer = [] {
+        reportExitFunctions();
+        EXPECT_EQ(session::askSystem<int>([] { return 1; }), 1);
+        hessiancln::exitProcess(7);
+    };
+    EXPECT_EXIT(endAfterAnswer(), testing::ExitedWithCode(7), testing::HasSubstr(exitFunctionRan));
 }
 
 } // namespace
