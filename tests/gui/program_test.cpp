@@ -140,8 +140,10 @@ private slots:
         QVERIFY(second.launch());
         // This waits without an event loop, so the second instance gets no answer from here.
         QVERIFY(agent.waitForCall("backup_sets_info", 1, 30s));
-        // Receive the pending message now, so that it isn't taken for one of a later test.
-        QTRY_COMPARE(messages.size(), 1);
+        // Receive the pending message now, so that it isn't taken for one of a later test. A named
+        // pipe loses it with the connection.
+        if (QSysInfo::kernelType() != QLatin1String("winnt"))
+            QTRY_COMPARE(messages.size(), 1);
     }
 
     void aCrashOfTheFirstDoesntHoldUpTheNextStart() {

@@ -9,6 +9,7 @@
 #include <QEvent>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <QTest>
 
 #include "config/tfa_code_dlg.h"
@@ -20,12 +21,23 @@ namespace support {
 
 namespace {
 
+/// A field may ask the agent when it loses the focus, even if nothing was typed. How soon after the
+/// start of a wizard it has the focus depends on the system.
+void leaveUntouchedField() {
+    auto* field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    if (!field || field->isModified())
+        return;
+    const QSignalBlocker silently(field);
+    field->clearFocus();
+}
+
 /// False if the button can't be pressed, or if the wizard stays on the page.
 bool press(QWizard& wizard, QWizard::WizardButton which) {
     const int before = wizard.currentId();
     QAbstractButton* button = wizard.button(which);
     if (!button->isVisible() || !button->isEnabled())
         return false;
+    leaveUntouchedField();
     QTest::mouseClick(button, Qt::LeftButton);
     // An error on a page ends the wizard a moment later.
     QCoreApplication::processEvents();
