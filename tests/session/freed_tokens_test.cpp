@@ -59,8 +59,8 @@ class Agent final : public hessiancln::ICallDispatcher {
 public:
     Agent()
         : ICallDispatcher(0, "") {
-        const auto text = [](std::string_view text) {
-            return std::string{'S', '\0', static_cast<char>(text.size())} + std::string(text);
+        const auto text = [](std::string_view bytes) {
+            return std::string{'S', '\0', static_cast<char>(bytes.size())} + std::string(bytes);
         };
         const std::string token =
             std::string{static_cast<char>(received.size()), '\0', '\0', '\0'} +
