@@ -21,11 +21,11 @@
 #include "session/text.h"
 #include "ui/branding_resources.h"
 #include "ui/error_box.h"
+#include "ui/file_dialog.h"
 #include "ui/message_box.h"
 #include "ui/red_label.h"
 #include "ui/remote_action.h"
 #include "ui/screen_fit.h"
-#include "ui/standard_buttons.h"
 #include "ui_init_clnt_cfg_dlg.h"
 
 namespace {
@@ -137,10 +137,9 @@ QString InitClntCfgDlg::chooseCriFile() {
     const bool isHome = !session::currentUser().empty() && QFileInfo(home).isDir();
     QFileDialog dialog(this, tr("Please choose CRI file"), isHome ? home : QDir::homePath(),
                        tr("CRI Files (*.cri)"));
-    dialog.setWindowIcon(ui::g_branding.applicationIcon());
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setFileMode(QFileDialog::ExistingFile);
-    ui::setStandardButtonPictures(dialog);
+    ui::adaptFileDialog(dialog);
     if (dialog.exec() != QDialog::Accepted)
         return {};
     return config::firstFileEndingIn(QLatin1String(".cri"), dialog.selectedFiles());

@@ -17,10 +17,10 @@
 #include "session/connection.h"
 #include "session/required.h"
 #include "ui/branding_resources.h"
+#include "ui/file_dialog.h"
 #include "ui/later.h"
 #include "ui/message_box.h"
 #include "ui/remote_action.h"
-#include "ui/standard_buttons.h"
 #include "ui/table_columns.h"
 #include "ui_tfa_users_viewer.h"
 
@@ -109,10 +109,9 @@ void TFAUsersViewer::on_btnDelete_clicked() {
 void TFAUsersViewer::on_btnImport_clicked() {
     QFileDialog dialog(this, tr("Please choose a .CSV file"), QDir::homePath(),
                        tr("CSV Files (*.csv)"));
-    dialog.setWindowIcon(ui::g_branding.applicationIcon());
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setOption(QFileDialog::DontUseNativeDialog);
-    ui::setStandardButtonPictures(dialog);
+    ui::adaptFileDialog(dialog);
     if (dialog.exec() != QDialog::Accepted)
         return;
     QFile file(config::firstFileEndingIn(QLatin1String(".csv"), dialog.selectedFiles()));

@@ -19,8 +19,8 @@
 #include "insight/copy_rows.h"
 #include "ui/empty_note.h"
 #include "ui/error_box.h"
+#include "ui/file_dialog.h"
 #include "ui/locale_text.h"
-#include "ui/standard_buttons.h"
 #include "ui/wrapping_row.h"
 #include "ui_log_search_bar.h"
 
@@ -137,7 +137,7 @@ void LogSearchBar::exportRows() {
     dialog.setLabelText(QFileDialog::Accept, tr("&Save"));
     dialog.setDefaultSuffix(QStringLiteral("csv"));
     dialog.selectFile(QStringLiteral("log.csv"));
-    ui::setStandardButtonPictures(dialog);
+    ui::adaptFileDialog(dialog);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return;
     const QString name = dialog.selectedFiles().first();

@@ -138,8 +138,7 @@ QStringList defectsOfLabel(const QLabel& label) {
     const QWidget* field = fieldBehind(label);
     // The mnemonic of a label may be for the button of a read-only field, which then has a name.
     const bool isNamed = label.buddy() == field || !field || !field->accessibleName().isEmpty();
-    const bool isQts = label.window()->inherits("QFileDialog");
-    if (isField(field) && field->isVisible() && !isNamed && !isQts)
+    if (isField(field) && field->isVisible() && !isNamed)
         defects << nameOf(label) + QStringLiteral(" doesn't belong to ") + nameOf(*field);
     return defects;
 }

@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
+// SPDX-License-Identifier: Apache-2.0
+#include "ui/file_dialog.h"
+
+#include <QComboBox>
+#include <QFileDialog>
+#include <QLabel>
+
+#include "ui/branding_resources.h"
+#include "ui/standard_buttons.h"
+
+namespace ui {
+
+namespace {
+
+/// The labels in front of Qt's combo boxes don't belong to them, and neither has a name.
+void nameField(const QFileDialog& dialog, const char* label, const char* field) {
+    auto* text = dialog.findChild<QLabel*>(QLatin1String(label));
+    auto* named = dialog.findChild<QComboBox*>(QLatin1String(field));
+    if (text && named)
+        text->setBuddy(named);
+}
+
+} // namespace
+
+void adaptFileDialog(QFileDialog& dialog) {
+    dialog.setWindowIcon(g_branding.applicationIcon());
+    setStandardButtonPictures(dialog);
+    nameField(dialog, "lookInLabel", "lookInCombo");
+    nameField(dialog, "fileTypeLabel", "fileTypeCombo");
+}
+
+} // namespace ui
