@@ -38,6 +38,17 @@ namespace {
     QT_TRANSLATE_NOOP("QFileDialog", "&Delete"),
     QT_TRANSLATE_NOOP("QFileDialog", "Show &hidden files"),
     QT_TRANSLATE_NOOP("QFileDialog", "&New Folder"),
+    QT_TRANSLATE_NOOP("QFileDialog", "New Folder"),
+    QT_TRANSLATE_NOOP("QFileDialog", "Recent Places"),
+    QT_TRANSLATE_NOOP("QFileDialog", "Remove"),
+    QT_TRANSLATE_NOOP("QFileDialog", "Show "),
+    QT_TRANSLATE_NOOP("QFileDialog", "Delete"),
+    QT_TRANSLATE_NOOP("QFileDialog", "Are you sure you want to delete '%1'?"),
+    QT_TRANSLATE_NOOP("QFileDialog", "'%1' is write protected.\nDo you want to delete it anyway?"),
+    QT_TRANSLATE_NOOP("QFileDialog", "Could not delete directory."),
+    QT_TRANSLATE_NOOP("QFileDialog",
+                      "%1\nDirectory not found.\nPlease verify the correct directory "
+                      "name was given."),
     QT_TRANSLATE_NOOP("QFileDialog",
                       "%1\nFile not found.\nPlease verify the correct file name was given."),
     QT_TRANSLATE_NOOP("QFileSystemModel", "Name"),
@@ -45,6 +56,10 @@ namespace {
     QT_TRANSLATE_NOOP("QFileSystemModel", "Date Modified"),
     QT_TRANSLATE_NOOP("QFileSystemModel", "Computer"),
     QT_TRANSLATE_NOOP("QFileSystemModel", "My Computer"),
+    QT_TRANSLATE_NOOP("QFileSystemModel", "Invalid filename"),
+    QT_TRANSLATE_NOOP("QFileSystemModel",
+                      "<b>The name \"%1\" cannot be used.</b><p>Try using another name, with fewer "
+                      "characters or no punctuation marks."),
 };
 
 struct Described {
@@ -55,6 +70,7 @@ struct Described {
 [[maybe_unused]] constexpr Described kindsOfFile[] = {
     QT_TRANSLATE_NOOP3("QFileSystemModel", "Type", "All other platforms"),
     QT_TRANSLATE_NOOP3("QFileDialog", "Folder", "All other platforms"),
+    QT_TRANSLATE_NOOP3("QFileDialog", "File Folder", "Match Windows Explorer"),
     QT_TRANSLATE_NOOP3("QFileDialog", "Shortcut", "All other platforms"),
 };
 

@@ -3005,6 +3005,48 @@ Möchten Sie den Sicherungssatz entfernen?</translation>
         <translation>&amp;Neuer Ordner</translation>
     </message>
     <message>
+        <source>New Folder</source>
+        <translation>Neuer Ordner</translation>
+    </message>
+    <message>
+        <source>Recent Places</source>
+        <translation>Zuletzt besucht</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Show </source>
+        <translation>Anzeigen: </translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete '%1'?</source>
+        <translation>Möchten Sie „%1“ wirklich löschen?</translation>
+    </message>
+    <message>
+        <source>'%1' is write protected.
+Do you want to delete it anyway?</source>
+        <translation>„%1“ ist schreibgeschützt.
+Möchten Sie trotzdem löschen?</translation>
+    </message>
+    <message>
+        <source>Could not delete directory.</source>
+        <translation>Der Ordner konnte nicht gelöscht werden.</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+Der Ordner wurde nicht gefunden.
+Bitte prüfen Sie den Namen des Ordners.</translation>
+    </message>
+    <message>
         <source>%1
 File not found.
 Please verify the correct file name was given.</source>
@@ -3016,6 +3058,11 @@ Bitte prüfen Sie den Dateinamen.</translation>
         <source>Folder</source>
         <comment>All other platforms</comment>
         <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>File Folder</source>
+        <comment>Match Windows Explorer</comment>
+        <translation>Dateiordner</translation>
     </message>
     <message>
         <source>Shortcut</source>
@@ -3044,6 +3091,14 @@ Bitte prüfen Sie den Dateinamen.</translation>
     <message>
         <source>My Computer</source>
         <translation>Mein Computer</translation>
+    </message>
+    <message>
+        <source>Invalid filename</source>
+        <translation>Ungültiger Dateiname</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;The name &quot;%1&quot; cannot be used.&lt;/b&gt;&lt;p&gt;Try using another name, with fewer characters or no punctuation marks.</source>
+        <translation>&lt;b&gt;Der Name „%1“ kann nicht verwendet werden.&lt;/b&gt;&lt;p&gt;Versuchen Sie einen anderen Namen, mit weniger Zeichen oder ohne Satzzeichen.</translation>
     </message>
     <message>
         <source>Type</source>
