@@ -77,16 +77,33 @@ void ModalDriver::lookSoon() {
 
 void ModalDriver::look() {
     lookSoon();
+    QWidget* dialog = unmetDialog();
+    if (!dialog)
+        return;
+    if (timersComeFirst())
+        meetAfterPostedEvents(*dialog);
+    else
+        meet(*dialog);
+}
+
+/// On Windows a timer fires ahead of the events that are posted already, and the dialog may have
+/// put off some of its work.
+void ModalDriver::meetAfterPostedEvents(QWidget& dialog) {
+    if (std::exchange(meeting_, true))
+        return;
+    const auto meetIt = [this, dialog = QPointer<QWidget>(&dialog)] {
+        meeting_ = false;
+        if (dialog && dialog == unmetDialog())
+            meet(*dialog);
+    };
+    QMetaObject::invokeMethod(&context_, meetIt, Qt::QueuedConnection);
+}
+
+QWidget* ModalDriver::unmetDialog() const {
     QWidget* dialog = QApplication::activeModalWidget();
-    if (!dialog || !dialog->isVisible())
-        return;
-    if (std::find(busy_.begin(), busy_.end(), dialog) != busy_.end())
-        return;
-    // On Windows a timer fires ahead of the events that are posted already, and the dialog may have
-    // put off some of its work.
-    if (timersComeFirst() && std::exchange(seen_, dialog) != dialog)
-        return;
-    meet(*dialog);
+    const bool waits = dialog && dialog->isVisible() &&
+                       std::find(busy_.begin(), busy_.end(), dialog) == busy_.end();
+    return waits ? dialog : nullptr;
 }
 
 void ModalDriver::meet(QWidget& dialog) {

@@ -49,12 +49,15 @@ private:
 
     void lookSoon();
     void look();
+    void meetAfterPostedEvents(QWidget& dialog);
+    /// The open dialog, unless its step is running.
+    QWidget* unmetDialog() const;
     void meet(QWidget& dialog);
     void refuse(QWidget& dialog);
 
     QObject context_; ///< its destruction stops the polling
     std::deque<Step> steps_;
-    QPointer<QWidget> seen_;              ///< by the latest look
+    bool meeting_ = false;                ///< once the posted events are handled
     std::vector<QPointer<QWidget>> busy_; ///< dialogs whose step is running
 };
 
