@@ -105,7 +105,9 @@ const char* const givenTwice[] = {
     "registration-first: Alt+O stands for labAccountNum \"Acc&ount #\" and labAccountKeyConfirm "
     "\"C&onfirm\"",
     "registration-first: Alt+T stands for labPrivateKeyType \"&Type\" and chkRegister \"Connect to "
-    "&Tarn-System and verify information\""};
+    "&Tarn-System and verify information\"",
+    "ssh-source: Alt+T stands for labelSudo \"SUDO &to:\" and chkUseTarnClientAccount \"Use "
+    "&Tarn-Client Account\""};
 
 /// Objects that show names, numbers and dates from the agent.
 const char* const agentsWords[] = {
