@@ -60,5 +60,6 @@ protected:
     }
 
     support::WizardTest test_;
-    QTemporaryDir folder_;
+    /// Like the home of a user whose name no ANSI code page can encode.
+    QTemporaryDir folder_{QDir::temp().filePath(steps::q("Jürgen Ωmega-XXXXXX"))};
 };
