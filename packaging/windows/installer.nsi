@@ -323,5 +323,9 @@ Section Uninstall
         ${If} $MultiUser.InstallMode == AllUsers
             DeleteRegKey HKLM "${EVENT_SOURCE}"
         ${EndIf}
+        ; The lock of a program that was killed. That of a running one can't be deleted.
+        SetShellVarContext current
+        Delete "$LOCALAPPDATA\Temp\session-*-tarn-mobile-user.lock"
+        Delete "$LOCALAPPDATA\session-*-tarn-mobile-user.lock"
     ${EndIf}
 SectionEnd
