@@ -24,8 +24,8 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// The variable with the folder of the user's session, per system.
-constexpr const char* runtimeVariables[] = {"XDG_RUNTIME_DIR", "TMP"};
+/// The folder of the user's session.
+constexpr char runtimeVariable[] = "XDG_RUNTIME_DIR";
 
 /// The session file of a client.
 QString sessionFile(const QString& runtimeDirectory, const QString& name) {
@@ -41,8 +41,7 @@ public:
     Client(const QString& runtimeDirectory, quint16 agentPort) {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-        for (const char* name : runtimeVariables)
-            environment.insert(QString::fromLatin1(name), runtimeDirectory);
+        environment.insert(QLatin1String(runtimeVariable), runtimeDirectory);
         environment.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(TARN_PORT_REDIRECT));
         environment.insert(QStringLiteral("TARN_TEST_AGENT_PORT"), QString::number(agentPort));
         // The redirect is loaded before the sanitizer's own library, which is fine here.
@@ -291,8 +290,7 @@ private:
 
 int main(int argc, char** argv) {
     const QTemporaryDir runtimeDirectory;
-    for (const char* name : runtimeVariables)
-        qputenv(name, runtimeDirectory.path().toLocal8Bit());
+    qputenv(runtimeVariable, runtimeDirectory.path().toLocal8Bit());
     QtSingleApplication application(argc, argv);
     ProgramTest test;
     return QTest::qExec(&test, argc, argv);
