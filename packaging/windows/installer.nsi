@@ -303,13 +303,26 @@ Function un.onInit
     ${EndIf}
 FunctionEnd
 
+; This is a copy, unless "_?=" has prevented it. The process that started the copy may not have ended
+; yet, and hold its file.
+Function un.RemoveItself
+    ${For} $R8 1 40
+        Delete "$INSTDIR\uninstall.exe"
+        ${IfNot} ${FileExists} "$INSTDIR\uninstall.exe"
+        ${OrIf} $EXEDIR == $INSTDIR
+            Return
+        ${EndIf}
+        Sleep 250
+    ${Next}
+FunctionEnd
+
 Section Uninstall
     StrCpy $Folder $INSTDIR
     Call un.CloseProgram
     Call un.IsRegistered
     StrCpy $R1 $0
     !insertmacro RemoveFiles
-    Delete "$INSTDIR\uninstall.exe"
+    Call un.RemoveItself
     RMDir "$INSTDIR"
     ${GetParameters} $0
     ClearErrors
