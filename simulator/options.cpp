@@ -17,7 +17,7 @@ Number number(const std::string& option, const std::string& text, Number least, 
     const char* const end = text.data() + text.size();
     const auto parsed = std::from_chars(text.data(), end, value);
     if (parsed.ec != std::errc() || parsed.ptr != end || !(value >= least && value <= most))
-        throw BadOption("'" + text + "' is no value for " + option);
+        throw BadOption("'" + text + "' is not a valid value for " + option);
     return value;
 }
 
@@ -43,7 +43,7 @@ private:
 Scenario scenario(const std::string& name) {
     const std::optional<Scenario> found = scenarioNamed(name);
     if (!found)
-        throw BadOption("there is no scenario '" + name + "'");
+        throw BadOption("unknown scenario '" + name + "'");
     return *found;
 }
 
@@ -81,7 +81,7 @@ void applyValue(Options& options, const std::string& option, const std::string& 
     else if (option == "--accept-logon")
         options.acceptLogon = value;
     else if (!applyToWorld(options, option, value))
-        throw BadOption("there is no option '" + option + "'");
+        throw BadOption("unknown option '" + option + "'");
 }
 
 bool takesValue(std::string_view option) {
@@ -113,7 +113,7 @@ CommandLine parseCommandLine(const std::vector<std::string>& arguments) {
         else if (takesValue(option))
             applyValue(result.options, option, rest.valueOf(option));
         else
-            throw BadOption("there is no option '" + option + "'");
+            throw BadOption("unknown option '" + option + "'");
     }
     return result;
 }
@@ -125,26 +125,26 @@ A simulated backup agent for testing and demonstrating the client. It listens
 on 127.0.0.1 only.
 
   --port PORT          listen on this port; 0 picks a free one (default 4411)
-  --scenario NAME      content of the agent: default, empty, central, notebook,
+  --scenario NAME      data of the agent: default, empty, central, notebook,
                        first-run, unix or large; for restoring and deleting,
                        generations (files of two years, some since removed),
                        groups (entries that can't be selected themselves),
                        shares (with colliding names), failing (with unreadable
                        folders), many-files (100,000 in one folder), deep (60
-                       nested folders) or storages (one set of each of these);
+                       nested folders) or storages (a backup set for each);
                        for problems to solve, overdue, failed, stalled (a
                        backup that makes no progress), overlapping (schedules
                        of all kinds) or many-folders (100,000 files in 1,000
                        folders)
   --client-type NUMBER
-                       kind of agent, overriding the scenario: 8 and 9 are
+                       kind of agent; overrides the scenario: 8 and 9 are
                        mobile, 14 is a notebook
-  --os-type NUMBER     operating system, overriding the scenario: 0 is
+  --os-type NUMBER     operating system; overrides the scenario: 0 is
                        Windows, 1 and 2 are Unix
   --without-tool NUMBER
-                       turn off a tool; can be repeated. Without tool 8, sets
-                       can't use local storage
-  --two-factor CODE    turn on two-factor authentication with this code
+                       disable a tool; can be repeated. Without tool 8,
+                       backup sets can't use local storage
+  --two-factor CODE    enable two-factor authentication with this code
   --user NAME          user who can log in (default demo)
   --password TEXT      password of the user (default demo)
   --domain NAME        domain offered for login; can be repeated

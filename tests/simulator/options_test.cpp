@@ -104,17 +104,17 @@ TEST(Options, HelpTellsEachScenario) {
 }
 
 TEST(Options, SaysWhatIsWrong) {
-    EXPECT_EQ(errorOf({"--prot"}), "there is no option '--prot'");
-    EXPECT_EQ(errorOf({"4411"}), "there is no option '4411'");
+    EXPECT_EQ(errorOf({"--prot"}), "unknown option '--prot'");
+    EXPECT_EQ(errorOf({"4411"}), "unknown option '4411'");
     EXPECT_EQ(errorOf({"--port"}), "--port needs a value");
-    EXPECT_EQ(errorOf({"--port", "65536"}), "'65536' is no value for --port");
-    EXPECT_EQ(errorOf({"--port", "-1"}), "'-1' is no value for --port");
-    EXPECT_EQ(errorOf({"--port", "44x"}), "'44x' is no value for --port");
-    EXPECT_EQ(errorOf({"--speed", "0"}), "'0' is no value for --speed");
-    EXPECT_EQ(errorOf({"--speed", "nan"}), "'nan' is no value for --speed");
-    EXPECT_EQ(errorOf({"--os-type", "3"}), "'3' is no value for --os-type");
-    EXPECT_EQ(errorOf({"--client-type", "x"}), "'x' is no value for --client-type");
-    EXPECT_EQ(errorOf({"--scenario", "huge"}), "there is no scenario 'huge'");
+    EXPECT_EQ(errorOf({"--port", "65536"}), "'65536' is not a valid value for --port");
+    EXPECT_EQ(errorOf({"--port", "-1"}), "'-1' is not a valid value for --port");
+    EXPECT_EQ(errorOf({"--port", "44x"}), "'44x' is not a valid value for --port");
+    EXPECT_EQ(errorOf({"--speed", "0"}), "'0' is not a valid value for --speed");
+    EXPECT_EQ(errorOf({"--speed", "nan"}), "'nan' is not a valid value for --speed");
+    EXPECT_EQ(errorOf({"--os-type", "3"}), "'3' is not a valid value for --os-type");
+    EXPECT_EQ(errorOf({"--client-type", "x"}), "'x' is not a valid value for --client-type");
+    EXPECT_EQ(errorOf({"--scenario", "huge"}), "unknown scenario 'huge'");
 }
 
 } // namespace

@@ -89,7 +89,7 @@ TEST(Program, LetsNoClientForgeALine) {
 
 TEST(Program, RefusesABadOption) {
     Program program({"--prot", "0"});
-    EXPECT_EQ(program.line(), "tarn-agent-simulator: there is no option '--prot'; see --help\n");
+    EXPECT_EQ(program.line(), "tarn-agent-simulator: unknown option '--prot'; see --help\n");
     EXPECT_EQ(program.status(), 2);
 }
 
