@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The main window with a session with the agent at the port of its argument, which refreshes itself
-// and is used by nobody. Writes a line when it is ready.
+// The main window with a session with the agent at the port of its argument. It refreshes itself
+// without user input. Writes a line when it is ready.
 
 #include <cstdio>
 #include <string>

@@ -54,7 +54,7 @@ void serveHttp(const ServerProcess::Listening& listening) {
         try {
             answerOne(acceptor.accept(), context);
         } catch (const boost::system::system_error&) {
-            // The client has gone in the middle of it.
+            // The client disconnected midway.
         }
     }
 }

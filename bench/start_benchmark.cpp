@@ -85,7 +85,7 @@ void startBareWindow(benchmark::State& state) {
     measure(state, "bare_window");
 }
 
-/// Not its start: the main window with a session, in front of which nobody sits.
+/// Not the start, but the main window with a session, while idle.
 void connectedWindow(benchmark::State& state) {
     for (auto round : state) {
         const bench::ChildProgram agent({programs / "tarn-agent-simulator"});

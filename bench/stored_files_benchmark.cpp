@@ -83,16 +83,16 @@ boost::shared_ptr<Agent> filledDrive(std::size_t count) {
 
 /// Reported next to the time, so that omitted work can't pass as speed. All benchmarks report all
 /// columns, as a table needs them.
-struct Told {
+struct Reported {
     std::size_t calls = 0;   ///< to the agent in the last round
     std::size_t missing = 0; ///< ids that were not found
     int closed = 0;          ///< folders that did not stay open
 };
 
-void tell(benchmark::State& state, const Told& told) {
-    state.counters["calls"] = static_cast<double>(told.calls);
-    state.counters["missing"] = static_cast<double>(told.missing);
-    state.counters["closed"] = told.closed;
+void report(benchmark::State& state, const Reported& reported) {
+    state.counters["calls"] = static_cast<double>(reported.calls);
+    state.counters["missing"] = static_cast<double>(reported.missing);
+    state.counters["closed"] = reported.closed;
 }
 
 template <class Act>
@@ -130,7 +130,7 @@ void type(benchmark::State& state, CBackedUpDataModel& model, Proxy& files) {
         const QString pattern = QString::fromLatin1(keys[next++ % std::size(keys)]);
         state.SetIterationTime(secondsOf([&] { files.setFilterWildcard(pattern); }));
     }
-    tell(state, {});
+    report(state, {});
     list.setModel(nullptr);
 }
 
@@ -155,7 +155,7 @@ void walkSelection(benchmark::State& state) {
     std::vector<std::int64_t> ids;
     for (auto round : state)
         state.SetIterationTime(secondsOf([&] { ids = model->selectedIds(); }));
-    tell(state, {.missing = entryCount / 2 - ids.size()});
+    report(state, {.missing = entryCount / 2 - ids.size()});
 }
 
 void walkItems(benchmark::State& state) {
@@ -177,7 +177,7 @@ void walkItems(benchmark::State& state) {
                 if (drive->child(row)->checkState() == Qt::Checked)
                     ids.push_back(drive->child(row)->data().toLongLong());
         }));
-    tell(state, {.missing = entryCount / 2 - ids.size()});
+    report(state, {.missing = entryCount / 2 - ids.size()});
 }
 
 constexpr int folderCount = 1'000;
@@ -223,7 +223,7 @@ void keepExpansion(benchmark::State& state) {
             memo.restore();
         }));
     }
-    tell(state, {.calls = agent->calls, .closed = closedIn(tree)});
+    report(state, {.calls = agent->calls, .closed = closedIn(tree)});
     tree.setModel(nullptr);
 }
 
@@ -256,7 +256,7 @@ void keepExpansionOfItems(benchmark::State& state) {
                 for (const QStandardItem* const item : model->findItems(name))
                     tree.expand(item->index());
         }));
-    tell(state, {.closed = closedIn(tree)});
+    report(state, {.closed = closedIn(tree)});
     tree.setModel(nullptr);
 }
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 
 // The window while its heartbeat waits for an agent: one that is silent for 20 seconds, a reply
-// that drips, a reply that is announced and never comes, and an agent that is suspended. Measured
-// is the longest time without painting, though updates are requested all the time.
+// that drips, a reply that is announced and never comes, and an agent that is suspended. Measures
+// the longest time without painting, although updates are requested continuously.
 
 #include <chrono>
 #include <csignal>

@@ -104,7 +104,7 @@ endfunction()
 # isn't built for this system. The run under Wine requires a reason for each of them.
 function(tarn_left_out name source)
     if(NOT EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/${source})
-        message(FATAL_ERROR "${name} is left out, but there is no ${source}")
+        message(FATAL_ERROR "${name} is excluded, but ${source} doesn't exist")
     endif()
     add_test(NAME ${name} COMMAND ${name}.exe)
     set_tests_properties(${name} PROPERTIES DISABLED TRUE)

@@ -61,7 +61,7 @@ void check(const tarnc_reg_info& info) {
         throw Violation("a key is empty");
 }
 
-void tell(World& world, const std::string& name, const std::string& value) {
+void setInfo(World& world, const std::string& name, const std::string& value) {
     for (hessiancln::tarn_client_info& row : world.about)
         if (row.name == name)
             row.value = value;
@@ -70,10 +70,10 @@ void tell(World& world, const std::string& name, const std::string& value) {
 void enrol(World& world, const tarnc_reg_info& info) {
     check(info);
     world.registration = info;
-    tell(world, "Account", info.account_num);
-    tell(world, "Client Number", info.client_num);
-    tell(world, "Tarn-System", info.tarnsys_ip_addr.substr(0, info.tarnsys_ip_addr.find("\\;")));
-    tell(world, "InitialClient", "No");
+    setInfo(world, "Account", info.account_num);
+    setInfo(world, "Client Number", info.client_num);
+    setInfo(world, "Tarn-System", info.tarnsys_ip_addr.substr(0, info.tarnsys_ip_addr.find("\\;")));
+    setInfo(world, "InitialClient", "No");
 }
 
 void registerAtServer(World& world) {

@@ -64,17 +64,17 @@ ItemState filtered(const BackupSetState& set, const std::string& root,
     return item;
 }
 
-void tell(World& world, const std::string& name, const std::string& value) {
+void setInfo(World& world, const std::string& name, const std::string& value) {
     world.about.push_back({name, value});
 }
 
 void describeAgent(World& world, bool central, bool firstRun) {
     const bool ofWindows = world.system == ClientOSType::Windows;
-    tell(world, "Computer", world.computer);
-    tell(world, "Operating System",
-         ofWindows ? "Windows 11 Pro 23H2 (build 22631)" : "Debian GNU/Linux 12, kernel 6.1.0");
-    tell(world, "Tarn-Client Version", "14.2.0.1180");
-    tell(world, "Database", "Embedded, 214 MB");
+    setInfo(world, "Computer", world.computer);
+    setInfo(world, "Operating System",
+            ofWindows ? "Windows 11 Pro 23H2 (build 22631)" : "Debian GNU/Linux 12, kernel 6.1.0");
+    setInfo(world, "Tarn-Client Version", "14.2.0.1180");
+    setInfo(world, "Database", "Embedded, 214 MB");
     auto& enrolled = world.registration;
     if (!firstRun) {
         enrolled.customer_name = "Müller & Söhne GmbH";
@@ -88,11 +88,11 @@ void describeAgent(World& world, bool central, bool firstRun) {
     } else {
         enrolled.private_key_enc = enrolled.account_key_enc = KeyEncryptionType::AES128;
     }
-    tell(world, "Account", enrolled.account_num);
-    tell(world, "Client Number", enrolled.client_num);
-    tell(world, "Tarn-System", firstRun ? "" : "vault1.example.net");
-    tell(world, "Centrally Managed Backup Policy", central ? "Yes" : "No");
-    tell(world, "InitialClient", firstRun ? "Yes" : "No");
+    setInfo(world, "Account", enrolled.account_num);
+    setInfo(world, "Client Number", enrolled.client_num);
+    setInfo(world, "Tarn-System", firstRun ? "" : "vault1.example.net");
+    setInfo(world, "Centrally Managed Backup Policy", central ? "Yes" : "No");
+    setInfo(world, "InitialClient", firstRun ? "Yes" : "No");
 }
 
 void addDiligentSets(World& world, History& history) {

@@ -146,8 +146,8 @@ void CallGate::wait(hessiancln::AwaitedCall& call) noexcept {
     }
     call_ = nullptr;
     painted_ = Clock::now();
-    // A call after one that was left is waited for as any other, and the agent isn't to blame for
-    // the time that the logon service took.
+    // After a call that the user left, the next one gets the full patience again; so does a call
+    // after a wait for the logon service.
     if (left_ || call.awaited() == hessiancln::Awaited::logonService)
         chainBegin_.reset();
 }

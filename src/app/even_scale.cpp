@@ -16,7 +16,7 @@ namespace {
 constexpr double step = 0.25;
 constexpr double tolerance = 0.05;
 
-/// By which the user scales all Qt programs.
+/// The factor by which the user scales all Qt programs.
 double globalScale() {
     bool isNumber = false;
     const double scale = qEnvironmentVariable("QT_SCALE_FACTOR").toDouble(&isNumber);
@@ -28,7 +28,7 @@ void scaleEvenly(QScreen& screen) {
     const double even = evenScale(computed);
     if (computed == even)
         return;
-    // Qt takes a factor of 1 for none, unless there has been another one.
+    // Qt ignores a factor of 1 unless another factor was set before.
     QHighDpiScaling::setScreenFactor(&screen, 2);
     QHighDpiScaling::setScreenFactor(&screen, even);
 }

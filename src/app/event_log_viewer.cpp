@@ -100,7 +100,7 @@ void EventLogViewer::updateEnabling() {
 }
 
 void EventLogViewer::done(int result) {
-    // A field that is hidden commits what is typed.
+    // Hiding a field commits the typed text.
     for (QAbstractSpinBox* field : fieldsOfFilter())
         field->blockSignals(true);
     QDialog::done(result);

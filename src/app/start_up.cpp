@@ -93,7 +93,7 @@ void installTranslation(QApplication& application, const QString& language) {
 void applyStyleSheet(QApplication& application) {
     application.setStyleSheet(QString());
     QFile file(QDir::current().absoluteFilePath(QStringLiteral("tarnmobile.css")));
-    // Opening a pipe that nobody writes to would take for ever, and so would reading a device.
+    // Opening a pipe without a writer, or reading a device, would block forever.
     if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Text))
         return;
     const QByteArray sheet = file.read(largestStyleSheet + 1);

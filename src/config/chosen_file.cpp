@@ -30,8 +30,7 @@ struct Extent {
     qint64 longestLine = 0;
 };
 
-/// Stops once a file has too much. The size that is known before doesn't say how much can be read:
-/// it is 0 for the files of the system, as in /proc.
+/// Stops at the limit. The size that the system reports is unreliable: it is 0 for files in /proc.
 Extent extentOf(QFile& file) {
     std::string block(4096, '\0');
     const base::WipedAtEnd blockGuard(block);

@@ -107,8 +107,8 @@ LinesRead readCri(QIODevice& file, const std::function<bool(const CriEntry&)>& t
 }
 
 QString keyTypeOfCri(const QString& number) {
-    const int told = number.toInt();
-    const int code = told == std::numeric_limits<int>::min() ? told : told - 1;
+    const int given = number.toInt();
+    const int code = given == std::numeric_limits<int>::min() ? given : given - 1;
     const auto name = hessiancln::keyEncryptionName(
         hessianser::enumerationFrom<hessiancln::KeyEncryptionType>(code));
     return session::fromWire(name);

@@ -25,14 +25,14 @@ constexpr Room roomOfStatus{1000, 12};
 /// A label grows with its text, and the dialog with the label: a long text from the agent could
 /// make it larger than the screen.
 QString shortened(QString text, Room room) {
-    const int told = text.size();
+    const int whole = text.size();
     text.truncate(room.characters);
     text = text.section(QLatin1Char('\n'), 0, room.lines - 1);
-    return text.size() == told ? text : text + QChar(0x2026);
+    return text.size() == whole ? text : text + QChar(0x2026);
 }
 
-QString valueOf(const std::string& told) {
-    return shortened(session::fromWire(told), roomOfValue);
+QString valueOf(const std::string& reported) {
+    return shortened(session::fromWire(reported), roomOfValue);
 }
 
 } // namespace

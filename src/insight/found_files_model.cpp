@@ -113,9 +113,9 @@ QVariant FoundFilesModel::data(const QModelIndex& index, int role) const {
 
 QVariant FoundFilesModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation == Qt::Horizontal && section >= 0 && section < columns)
-        if (QVariant told =
+        if (QVariant header =
                 ui::headerOf(*this, columnTable[static_cast<std::size_t>(section)], role);
-            told.isValid())
-            return told;
+            header.isValid())
+            return header;
     return QAbstractTableModel::headerData(section, orientation, role);
 }

@@ -18,7 +18,7 @@ namespace {
 
 using Interface = QAccessibleInterface;
 
-/// A row of a list. Not valid any more once the row is gone.
+/// A row of a list. Invalid once the row is removed.
 class Row final : public QAccessibleInterface,
                   public QAccessibleTableCellInterface,
                   public QAccessibleActionInterface {
@@ -126,7 +126,7 @@ void Row::doAction(const QString& name) {
     view_->model()->setData(index_, isChecked ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
 }
 
-/// A list, whose children are its rows. A row has an interface from when it is first asked for.
+/// A list, whose children are its rows. The interface of a row is created on the first request.
 class List final : public QAccessibleWidget, public QAccessibleTableInterface {
 public:
     explicit List(QListView& view)

@@ -96,8 +96,8 @@ void CBackedUpDataModel::load(models::LazyNode& node) const {
         failure_ = std::current_exception();
         announceFetched(node);
         auto* model = const_cast<CBackedUpDataModel*>(this);
-        const auto tell = [model, text = ui::errorText(error)] { emit model->fetchFailed(text); };
-        ui::later(*model, tell);
+        const auto report = [model, text = ui::errorText(error)] { emit model->fetchFailed(text); };
+        ui::later(*model, report);
     }
 }
 

@@ -143,7 +143,7 @@ void ItemsSelectPage::showContents(Contents contents) {
     showExclusions();
 }
 
-/// A preset is a path alone, and takes the place of all that the set had.
+/// A preset is only a path, and replaces all items of the set.
 void ItemsSelectPage::showExclusions() {
     ui_->labelExclusions->setText(
         tr("This set leaves out %1 path(s), which can't be shown with a specific location. "

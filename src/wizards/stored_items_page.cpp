@@ -62,7 +62,7 @@ bool StoredItemsPage::validatePage() {
 }
 
 void StoredItemsPage::atField(const std::function<void()>& work) {
-    // A field that is hidden commits what is typed, also when the wizard is left.
+    // Hiding a field commits the typed text, also when the wizard closes.
     if (wizard() && !isVisible())
         return;
     if (ui::waitsForCall(*this, [this, work] { atField(work); }))

@@ -44,13 +44,13 @@ namespace {
 
 const app::CallGate::Times quickTimes{5ms, 10ms};
 
-/// What a failed call says, whatever the failure.
+/// Placeholder for the text of any failure.
 const QString cause = QStringLiteral("<cause>");
 const QString faultText = QStringLiteral("Out of order.");
 
 /// The text with the cause of the failure, and the numbers, replaced.
 QString withoutCause(QString text) {
-    // The user's own end, the agent's fault, and a connection that was cut, as stream and as HTTP.
+    // A disconnect by the user, a fault of the agent, and a dropped connection of either transport.
     for (const QString& failure :
          {leftAgent + QStringLiteral("[0-9]+ s\\."),
           QStringLiteral("Disconnected, as the agent had answered slowly for [0-9]+ s\\."),

@@ -23,7 +23,7 @@ constexpr auto yes = State::Checked;
 constexpr auto excluded = State::Excluded;
 
 /// Records, in order, the names of the nodes that a change is reported for.
-class Told {
+class Notified {
 public:
     CheckListener listener() {
         return [this](const CheckableNode& node) { names_ += node.name() + ' '; };
@@ -68,11 +68,11 @@ TEST(CheckableNodeTest, UncheckingAChildOfACheckedFolderExcludesIt) {
     EXPECT_EQ(states(*tree), "2 C:2 d3 x3 e2");
 }
 
-TEST(CheckableNodeTest, AnExclusionIsNotToldToTheNodesAbove) {
+TEST(CheckableNodeTest, AnExclusionDoesNotNotifyTheNodesAbove) {
     const auto tree = root(yes, {folder("C:", yes, {file("a", yes)})});
-    Told told;
-    setChecked(at(*tree, "C:/a"), false, told.listener());
-    EXPECT_EQ(told.names(), "a ");
+    Notified notified;
+    setChecked(at(*tree, "C:/a"), false, notified.listener());
+    EXPECT_EQ(notified.names(), "a ");
     EXPECT_EQ(states(*tree), "2 C:2 a3");
 }
 
@@ -115,14 +115,14 @@ TEST(CheckableNodeTest, UncheckingTheLastCheckedChildUnchecksThePartlyCheckedFol
     EXPECT_EQ(states(*tree), "0 C:0 a0 b0");
 }
 
-TEST(CheckableNodeTest, EachNodeIsToldOnceParentsFirstThenTheAncestorsThatChange) {
+TEST(CheckableNodeTest, EachNodeIsNotifiedOnceParentsFirstThenTheAncestorsThatChange) {
     const auto tree = root(
         partly,
         {folder("C:", partly, {folder("d", no, {file("x"), file("y", yes)}), file("e", yes)})});
-    Told told;
-    setChecked(at(*tree, "C:/d"), true, told.listener());
-    EXPECT_EQ(told.names(), "d x y C:  "); // the root has no name
-    Told again;
+    Notified notified;
+    setChecked(at(*tree, "C:/d"), true, notified.listener());
+    EXPECT_EQ(notified.names(), "d x y C:  "); // the root has no name
+    Notified again;
     setChecked(at(*tree, "C:/d"), true, again.listener());
     EXPECT_EQ(again.names(), "d x y ");
 }
@@ -139,15 +139,15 @@ TEST(CheckableNodeTest, TheChildrenOfSomethingTakenOutFollowIt) {
 /// The state of a node after its recomputation, and the reported nodes.
 struct Recomputed {
     State state;
-    std::string told;
+    std::string notified;
     bool operator==(const Recomputed&) const = default;
 };
 
 Recomputed recomputed(const tree::Plan& plan) {
     const auto node = tree::make(plan);
-    Told told;
-    recompute(*node, told.listener());
-    return {node->checkState(), told.names()};
+    Notified notified;
+    recompute(*node, notified.listener());
+    return {node->checkState(), notified.names()};
 }
 
 TEST(RecomputeTest, AFileOrAnUnopenedFolderKeepsAWholeState) {
@@ -188,7 +188,7 @@ TEST(RecomputeTest, AFolderTakesItsStateFromItsChildren) {
     EXPECT_EQ(of({file("a", excluded), file("b")}), partly);
 }
 
-TEST(RecomputeTest, OnlyAChangeIsTold) {
+TEST(RecomputeTest, OnlyAChangeNotifies) {
     EXPECT_EQ(recomputed(folder("d", partly, {file("a", yes), file("b")})),
               (Recomputed{partly, ""}));
     EXPECT_EQ(recomputed(folder("d", yes, {file("a", yes), file("b")})),
@@ -197,9 +197,9 @@ TEST(RecomputeTest, OnlyAChangeIsTold) {
 
 TEST(RecomputeTest, AncestorsAreRecomputedUpToTheRoot) {
     const auto tree = root(no, {folder("C:", no, {folder("d", no, {file("x", yes)})})});
-    Told told;
-    recomputeAncestors(at(*tree, "C:/d/x"), told.listener());
-    EXPECT_EQ(told.names(), "d C:  ");
+    Notified notified;
+    recomputeAncestors(at(*tree, "C:/d/x"), notified.listener());
+    EXPECT_EQ(notified.names(), "d C:  ");
     EXPECT_EQ(states(*tree), "2 C:2 d2 x2");
 }
 

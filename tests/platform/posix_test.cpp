@@ -61,8 +61,8 @@ TEST(ProcessId, IsTheSystemsOwn) {
 TEST(UserName, IsTheAccountOfTheProcessWhateverTheEnvironmentSays) {
     const passwd* account = ::getpwuid(::geteuid());
     const std::string expected = account ? account->pw_name : "";
-    ::setenv("USER", "somebody-else", 1);
-    ::setenv("LOGNAME", "somebody-else", 1);
+    ::setenv("USER", "another-user", 1);
+    ::setenv("LOGNAME", "another-user", 1);
     EXPECT_EQ(platform::currentWindowsUser(), expected);
 }
 
