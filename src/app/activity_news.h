@@ -41,9 +41,9 @@ public:
     void follow(const std::optional<hessiancln::activity_log_info>& ended);
 
 signals:
-    /// The status bar is to show this text.
+    /// Requests that the status bar show this text.
     void statusChanged(const QString& text);
-    /// The window is to be shown.
+    /// Requests that the window be shown.
     void windowWanted();
 
 private:

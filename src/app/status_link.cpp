@@ -48,8 +48,8 @@ void StatusLink::showOrHide() {
 
 void StatusLink::setTexts() {
     button_.setText(tr("Events"));
-    button_.setToolTip(tr("Shows the events of what the status bar reports"));
-    button_.setAccessibleName(tr("Events of what the status bar reports"));
+    button_.setToolTip(tr("Shows the events of this activity"));
+    button_.setAccessibleName(tr("Events of this activity"));
 }
 
 void StatusLink::follow() {

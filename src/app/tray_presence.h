@@ -37,13 +37,13 @@ public:
     /// Sets all texts in the current language.
     void setTexts();
 
-    /// Also restores a minimized window. If the desktop refuses to activate the window, the window
+    /// Also restores a minimised window. If the desktop refuses to activate the window, the window
     /// asks for attention.
     void showWindow();
     /// Does nothing if the desktop has no tray to restore it from.
     void hideWindow();
-    /// Call now and then. Shows a hidden window again once the desktop has had no tray two times in
-    /// a row: a panel that restarts is soon back.
+    /// Call periodically. Shows a hidden window again once the desktop has had no tray in two calls
+    /// in a row: a panel that restarts is soon back.
     void keepReachable();
 
     /// Shows a balloon about activities that have started and ended, unless the window is active.

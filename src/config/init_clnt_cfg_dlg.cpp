@@ -161,7 +161,7 @@ void InitClntCfgDlg::read(QFile& file) {
         return changes;
     });
     ui_->labImport->setText(
-        tr("Values taken: %1. Lines not taken: %2.").arg(lines.taken).arg(lines.skipped));
+        tr("Values imported: %1. Lines skipped: %2.").arg(lines.taken).arg(lines.skipped));
 }
 
 /// A file can't set an encryption key that the user can't change.

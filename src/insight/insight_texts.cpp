@@ -36,9 +36,9 @@ QString warningsText(std::int32_t warnings) {
 QString failedHelp(const SetFacts& facts, const SetHealth& health) {
     if (health.reason == HealthReason::hasErrors)
         return Texts::tr("The last backup ended with %1, so some files may not be stored as they "
-                         "are now. Look at its events, mend the cause and back up again.")
+                         "are now. Look at its events, fix the cause and back up again.")
             .arg(errorsText(facts.lastAttempt->errors));
-    return Texts::tr("The last backup did not succeed. Look at the events, mend the cause and back "
+    return Texts::tr("The last backup did not succeed. Look at the events, fix the cause and back "
                      "up again.");
 }
 
@@ -73,7 +73,7 @@ QString helpBeneath(const SetFacts& facts, const SetHealth& health, const Health
     case HealthState::NeverBackedUp:
         return health.reason == HealthReason::noSuccess
                    ? Texts::tr("No backup of this set has succeeded yet, so nothing can be "
-                               "restored. Look at the events, mend the cause and back up again.")
+                               "restored. Look at the events, fix the cause and back up again.")
                    : Texts::tr("Nothing of this set is stored yet, so nothing can be restored. "
                                "Back up now.");
     case HealthState::Failed:

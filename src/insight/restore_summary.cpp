@@ -69,9 +69,8 @@ QString targetLine(const RestoreSummary& summary) {
 
 QString conflictLine(const RestoreSummary& summary) {
     return summary.target == RestoreTarget::original
-               ? Texts::tr("Files that are there: the agent does not say whether it replaces them")
-               : Texts::tr("Files that are there: kept, as the restore makes a directory of its "
-                           "own");
+               ? Texts::tr("Existing files: the agent doesn't report whether it replaces them")
+               : Texts::tr("Existing files: kept, because the restore creates its own directory");
 }
 
 } // namespace

@@ -17,8 +17,8 @@ namespace session {
 template <class Proxy>
 boost::shared_ptr<Proxy> required(boost::shared_ptr<Proxy> object) {
     if (!object)
-        throw std::runtime_error(toWire(
-            QCoreApplication::translate("required", "The agent doesn't have what was asked for.")));
+        throw std::runtime_error(toWire(QCoreApplication::translate(
+            "required", "The agent did not return the requested object.")));
     return object;
 }
 

@@ -6,8 +6,8 @@ class QApplication;
 
 namespace ui {
 
-/// On a dark palette Qt's own style frames check boxes and radio buttons in a shade that nobody
-/// sees. From here on, their frames have a shade of the text. Other styles stay as they are.
+/// On a dark palette, Qt's own style frames check boxes and radio buttons in a shade that is barely
+/// visible. After this call, the frames have a shade of the text colour. Other styles don't change.
 void outlineIndicators(QApplication& application);
 
 } // namespace ui

@@ -400,7 +400,7 @@ void ConfigurationDialogsTest::aFaultEndsTheTimes() {
 void ConfigurationDialogsTest::anAgentWithoutAConfigurationIsTold() {
     const auto expectBox = [this](const char* title) {
         test_.agent->inject("getConfigurationManager", simulator::NullResult{});
-        modals().expectErrorBox(q(title), q("The agent doesn't have what was asked for."));
+        modals().expectErrorBox(q(title), q("The agent did not return the requested object."));
     };
     expectBox(error);
     openRegister();

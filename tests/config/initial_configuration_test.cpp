@@ -458,7 +458,7 @@ void InitialConfigurationTest::keysThatCantBeChangedArentAFilesEither() {
             (QStringList{chosen(dialog, "cmbPrivateKeyType"), text(dialog, "txtFieldPrivateKey"),
                          chosen(dialog, "cmbAccountKeyType"), text(dialog, "txtFieldAccountKey")}),
             before);
-        QCOMPARE(label(dialog, "labImport"), q("Values taken: 1. Lines not taken: 4."));
+        QCOMPARE(label(dialog, "labImport"), q("Values imported: 1. Lines skipped: 4."));
         press(dialog, "btnCancel");
     });
     modify();

@@ -278,7 +278,7 @@ void RecoveryDialogTest::nothingOpensOnAFault() {
 void RecoveryDialogTest::anAgentWithoutAManagerIsTold() {
     test_.agent->inject("getSystemActivityManager", simulator::NullResult{});
     modals().expectErrorBox(q("Configuration Error"),
-                            q("The agent doesn't have what was asked for."));
+                            q("The agent did not return the requested object."));
     open();
 }
 

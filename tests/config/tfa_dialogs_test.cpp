@@ -311,7 +311,7 @@ void TFADialogsTest::aFileIsImported() {
                  (QStringList{q("Ada;Home;ada@example.org"), q("bob;;new@example.org"),
                               q("dan;home;dan@example.org")}));
         QCOMPARE(child<QLabel>(viewer, "labImport").text(),
-                 q("Users taken: 2. Lines not taken: 2."));
+                 q("Users imported: 2. Lines skipped: 2."));
     });
     QCOMPARE(agent_->callTexts(), reading);
 }
@@ -486,7 +486,7 @@ void TFADialogsTest::aCodeThatCantBeSentLeavesTheDialogOpen() {
 
 void TFADialogsTest::anAgentWithoutAManagerOfCodesIsTold() {
     const auto expectBox = [this](const char* title) {
-        modals_->expectErrorBox(q(title), q("The agent doesn't have what was asked for."));
+        modals_->expectErrorBox(q(title), q("The agent did not return the requested object."));
     };
     agent_->inject("getTFAManager", simulator::NullResult{}, simulator::Times::UntilCleared);
     expectBox("Error");

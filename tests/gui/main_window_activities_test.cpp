@@ -356,7 +356,7 @@ void MainWindowActivitiesTest::aStopThatFailsIsTold() {
     agent_->inject("activity", simulator::NullResult{});
     ModalDriver modals;
     modals.expectErrorBox(QStringLiteral("Error"),
-                          QStringLiteral("The agent doesn't have what was asked for."));
+                          QStringLiteral("The agent did not return the requested object."));
     window().OnStopActivity();
     QVERIFY(modals.done());
     agent_->inject("Stop", simulator::Fault{"Out of order."});

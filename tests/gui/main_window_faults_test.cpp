@@ -337,7 +337,7 @@ void MainWindowFaultsTest::theConfigurationThatCantBeReadEndsTheSession_data() {
         << QStringLiteral("getUserInfo") << Injection(simulator::UnknownKey{}) << unknownKey;
     QTest::addRow("no configuration")
         << QStringLiteral("getConfigurationManager") << Injection(simulator::NullResult{})
-        << QStringLiteral("The agent doesn't have what was asked for.");
+        << QStringLiteral("The agent did not return the requested object.");
 }
 
 void MainWindowFaultsTest::theConfigurationThatCantBeReadEndsTheSession() {

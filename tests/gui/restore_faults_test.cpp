@@ -332,7 +332,7 @@ void RestoreFaultsTest::anObjectThatIsMissing() {
     test_.agent->inject(method.toStdString(), simulator::NullResult{});
     if (opens)
         test_.expectWizard(wishing(wishes));
-    test_.modals->expectErrorBox(q("Error"), q("The agent doesn't have what was asked for."));
+    test_.modals->expectErrorBox(q("Error"), q("The agent did not return the requested object."));
     test_.run("OnRestore");
     QCOMPARE(restoresUnderWay(), restoresBefore_);
 }

@@ -96,8 +96,7 @@ TEST(RestoreSummary, SaysWhatIsKnown) {
     EXPECT_THAT(lines(summary),
                 ElementsAre("As it was: at the last backup", "What: 2 files, 1 folder",
                             "Size: 3.00 KB", "Where to: the original location",
-                            "Files that are there: the agent does not say whether it replaces "
-                            "them"));
+                            "Existing files: the agent doesn't report whether it replaces them"));
 }
 
 TEST(RestoreSummary, SaysWhatIsNotKnown) {
@@ -110,8 +109,7 @@ TEST(RestoreSummary, SaysWhatIsNotKnown) {
                 ElementsAre("As it was: 11/14/23 10:13 PM",
                             "What: at least 1 file, 3 folders, as not all folders were opened",
                             "Size: at least 2.00 KB", "Where to: D:/back/restore_1/",
-                            "Files that are there: kept, as the restore makes a directory of its "
-                            "own"));
+                            "Existing files: kept, because the restore creates its own directory"));
     summary.chosen = {1, 0, false, 0, 1};
     summary.target = RestoreTarget::otherComputer;
     summary.computer = QStringLiteral("HP-8200");

@@ -17,17 +17,17 @@
 
 namespace support {
 
-/// What the user does on a page before going on.
+/// The user's actions on a page before Next.
 using AtPage = std::function<void(QWizardPage&)>;
 
 /// Goes through the pages of an open wizard and finishes it; cancels it if it doesn't let the user
 /// continue. Returns whether it was finished.
 bool finishWizard(QWidget& wizard, const AtPage& atPage = {});
 
-/// Goes on by `page` pages and cancels.
+/// Advances by `page` pages and cancels.
 void cancelWizard(QWidget& wizard, int page, const AtPage& atPage = {});
 
-/// Types the name "  New one " on the page that wants a name.
+/// Types the name "  New one " on the page for the name.
 void nameNewSet(QWizardPage& page);
 
 /// How the user closes a wizard without finishing it.

@@ -328,7 +328,7 @@ void CredentialsSentTest::whatTheAgentRefusesIsShown() {
 
     shown.source.agent.inject("getCurrentCredentials", simulator::NullResult{});
     shown.modals.expectErrorBox(QStringLiteral("Error"),
-                                QStringLiteral("The agent doesn't have what was asked for."));
+                                QStringLiteral("The agent did not return the requested object."));
     shown.driver.click("btnConnectAs");
     QVERIFY(shown.modals.done());
 }

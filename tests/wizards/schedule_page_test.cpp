@@ -79,7 +79,7 @@ void SchedulePageTest::anAgentThatFailsFailsTheConstructor() {
     QCOMPARE(errorOf([] { ScheduleSelectPage page; }), name("No such number."));
     agent().inject("getConfigurationManager", simulator::NullResult{});
     QCOMPARE(errorOf([] { ScheduleSelectPage page; }),
-             name("The agent doesn't have what was asked for."));
+             name("The agent did not return the requested object."));
 }
 
 void SchedulePageTest::theTypeDecidesWhatIsShown() {

@@ -466,7 +466,7 @@ void SourcePageTest::anAgentWithoutCredentialsIsNoEndOfTheWizard() {
     Session session;
     session.source.agent.inject("neededCredentials", simulator::NullResult{});
     session.source.agent.inject("getCurrentCredentials", simulator::NullResult{});
-    const QString text = QStringLiteral("The agent doesn't have what was asked for.");
+    const QString text = QStringLiteral("The agent did not return the requested object.");
     ModalDriver modals;
     modals.expectErrorBox(QStringLiteral("Error R1"), text);
     modals.expectErrorBox(QStringLiteral("Error R2"), text);

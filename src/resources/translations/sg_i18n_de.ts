@@ -1092,8 +1092,8 @@ Möchten Sie den Sicherungssatz entfernen?</translation>
 <context>
     <name>InitClntCfgDlg</name>
     <message>
-        <source>Values taken: %1. Lines not taken: %2.</source>
-        <translation>Werte übernommen: %1. Zeilen nicht übernommen: %2.</translation>
+        <source>Values imported: %1. Lines skipped: %2.</source>
+        <translation>Werte importiert: %1. Zeilen übersprungen: %2.</translation>
     </message>
     <message>
         <source>Modify Tarn-Client Configuration</source>
@@ -2423,11 +2423,11 @@ Möchten Sie den Sicherungssatz entfernen?</translation>
         <translation>%1 Warnungen</translation>
     </message>
     <message>
-        <source>The last backup ended with %1, so some files may not be stored as they are now. Look at its events, mend the cause and back up again.</source>
+        <source>The last backup ended with %1, so some files may not be stored as they are now. Look at its events, fix the cause and back up again.</source>
         <translation>Die letzte Sicherung endete mit %1, daher sind einige Dateien vielleicht nicht auf dem jetzigen Stand gespeichert. Sehen Sie sich die Ereignisse an, beheben Sie die Ursache und sichern Sie erneut.</translation>
     </message>
     <message>
-        <source>The last backup did not succeed. Look at the events, mend the cause and back up again.</source>
+        <source>The last backup did not succeed. Look at the events, fix the cause and back up again.</source>
         <translation>Die letzte Sicherung ist nicht gelungen. Sehen Sie sich die Ereignisse an, beheben Sie die Ursache und sichern Sie erneut.</translation>
     </message>
     <message>
@@ -2455,7 +2455,7 @@ Möchten Sie den Sicherungssatz entfernen?</translation>
         <translation>Die letzte Sicherung ist gelungen, und die nächste folgt nach Zeitplan.</translation>
     </message>
     <message>
-        <source>No backup of this set has succeeded yet, so nothing can be restored. Look at the events, mend the cause and back up again.</source>
+        <source>No backup of this set has succeeded yet, so nothing can be restored. Look at the events, fix the cause and back up again.</source>
         <translation>Noch ist keine Sicherung dieses Satzes gelungen, daher kann nichts wiederhergestellt werden. Sehen Sie sich die Ereignisse an, beheben Sie die Ursache und sichern Sie erneut.</translation>
     </message>
     <message>
@@ -3494,11 +3494,11 @@ Möchten Sie die Datenbank wirklich aus der Cloud retten?</translation>
         <translation>Wohin: %1 auf %2</translation>
     </message>
     <message>
-        <source>Files that are there: the agent does not say whether it replaces them</source>
-        <translation>Vorhandene Dateien: Der Agent sagt nicht, ob er sie ersetzt</translation>
+        <source>Existing files: the agent doesn&apos;t report whether it replaces them</source>
+        <translation>Vorhandene Dateien: Der Agent meldet nicht, ob er sie ersetzt</translation>
     </message>
     <message>
-        <source>Files that are there: kept, as the restore makes a directory of its own</source>
+        <source>Existing files: kept, because the restore creates its own directory</source>
         <translation>Vorhandene Dateien: bleiben, da ein eigenes Verzeichnis entsteht</translation>
     </message>
 </context>
@@ -4545,8 +4545,8 @@ Klicken Sie hier, um diesen Hinweis nicht mehr zu sehen.</translation>
 <context>
     <name>TFAUsersViewer</name>
     <message>
-        <source>Users taken: %1. Lines not taken: %2.</source>
-        <translation>Benutzer übernommen: %1. Zeilen nicht übernommen: %2.</translation>
+        <source>Users imported: %1. Lines skipped: %2.</source>
+        <translation>Benutzer importiert: %1. Zeilen übersprungen: %2.</translation>
     </message>
     <message>
         <source>User Email Settimgs</source>
@@ -4619,8 +4619,8 @@ Klicken Sie hier, um diesen Hinweis nicht mehr zu sehen.</translation>
 <context>
     <name>WaitingPanel</name>
     <message>
-        <source>Stops waiting and leaves the agent (Esc)</source>
-        <translation>Beendet das Warten und verlässt den Agenten (Esc)</translation>
+        <source>Stops waiting and disconnects (Esc)</source>
+        <translation>Beendet das Warten und trennt die Verbindung (Esc)</translation>
     </message>
     <message>
         <source>Disconnect</source>
@@ -4791,12 +4791,12 @@ Klicken Sie hier, um diesen Hinweis nicht mehr zu sehen.</translation>
         <translation>Ereignisse</translation>
     </message>
     <message>
-        <source>Shows the events of what the status bar reports</source>
-        <translation>Zeigt die Ereignisse zu dem, was die Statusleiste meldet</translation>
+        <source>Shows the events of this activity</source>
+        <translation>Zeigt die Ereignisse dieser Aktivität</translation>
     </message>
     <message>
-        <source>Events of what the status bar reports</source>
-        <translation>Ereignisse zu dem, was die Statusleiste meldet</translation>
+        <source>Events of this activity</source>
+        <translation>Ereignisse dieser Aktivität</translation>
     </message>
 </context>
 <context>
@@ -4925,8 +4925,8 @@ Klicken Sie hier, um diesen Hinweis nicht mehr zu sehen.</translation>
 <context>
     <name>required</name>
     <message>
-        <source>The agent doesn&apos;t have what was asked for.</source>
-        <translation>Der Agent stellt das Angeforderte nicht bereit.</translation>
+        <source>The agent did not return the requested object.</source>
+        <translation>Der Agent hat das angeforderte Objekt nicht geliefert.</translation>
     </message>
 </context>
 <context>
