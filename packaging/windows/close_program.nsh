@@ -80,7 +80,7 @@ Function ${un}AskToEnd
         Pop $0
         IntOp $1 $1 - 1
         StrCpy $5 0
-        ; The last arguments are ENDSESSION_CLOSEAPP, SMTO_ABORTIFHUNG and the limit in milliseconds.
+        ; The last arguments: ENDSESSION_CLOSEAPP, SMTO_ABORTIFHUNG, the limit in milliseconds.
         System::Call 'user32::SendMessageTimeoutW(p r0, i ${WM_QUERYENDSESSION}, p 0, p 1, i 2, i 5000, *p r5r5)'
         ${If} $5 P<> 0
             System::Call 'user32::PostMessageW(p r0, i ${WM_ENDSESSION}, p 1, p 1)'

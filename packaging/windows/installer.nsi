@@ -15,7 +15,8 @@ AllowSkipFiles off
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Tarn-Mobile User"
 !define EVENT_SOURCE "SYSTEM\CurrentControlSet\Services\EventLog\Application\HessianClientAPI"
 
-; For all users if the user has administrator rights, otherwise for this user only; a page asks if both are
+; For all users if the user has administrator rights, otherwise for this user only; a page asks if
+; both are
 ; possible.
 !define MULTIUSER_EXECUTIONLEVEL Highest
 !define MULTIUSER_MUI
@@ -207,7 +208,7 @@ SectionEnd
     ${EndIf}
 !macroend
 
-; Selects the language of the command line, of the earlier installation, or of Windows, in this order.
+; Selects the language: of the command line, of the earlier installation, or of Windows.
 Function ChooseCode
     !insertmacro ForEachLanguage UseCode
     ClearErrors
