@@ -129,11 +129,11 @@ in_realm() {
         bash -c 'with_agent "$1" bash -c '"'"'"$@"'"'"' _ "${@:2}"' _ "$@"
 }
 
-# The installer that tools/windows/installer has built, and its version.
+# Sets `installer`, unless it is set, to the one that tools/windows/installer has built, and `version`.
 find_installer() {
     version=$(sed -n 's/^CMAKE_PROJECT_VERSION:[^=]*=//p' "$windows/CMakeCache.txt")
-    installer=$windows/tarn-mobile-user-$version-setup.exe
-    [ -e "$installer" ] || fail "there is no installer: tools/windows/installer builds it"
+    installer=${installer:-$windows/tarn-mobile-user-$version-setup.exe}
+    [ -e "$installer" ] || fail "$installer doesn't exist: tools/windows/installer builds an installer"
 }
 
 # state FILE: writes everything that an installation could leave behind, sorted: the files, and the
