@@ -43,7 +43,7 @@ TEST(ProcessId, IsTheSystemsOwn) {
 TEST(UserName, IsTheAccountOfTheProcessWhateverTheEnvironmentSays) {
     const std::string expected = support::process::accountName();
     ASSERT_FALSE(expected.empty());
-    setEnvironment("USERNAME", "somebody-else");
+    setEnvironment("USERNAME", "another-user");
     EXPECT_EQ(platform::currentWindowsUser(), expected);
 }
 
