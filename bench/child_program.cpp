@@ -40,7 +40,7 @@ std::array<int, 2> newPipe() {
 } // namespace
 
 ChildProgram::ChildProgram(const std::vector<std::string>& command,
-                           const std::function<void(int output)>& prepare) {
+                           const std::function<void()>& prepare) {
     const auto in = newPipe();
     const auto out = newPipe();
     child_ = ::fork();
@@ -50,7 +50,7 @@ ChildProgram::ChildProgram(const std::vector<std::string>& command,
         ::dup2(in[0], STDIN_FILENO);
         ::dup2(out[1], STDOUT_FILENO);
         if (prepare)
-            prepare(STDOUT_FILENO);
+            prepare();
         execute(command);
     }
     ::close(in[0]);

@@ -14,10 +14,9 @@ namespace bench {
 class ChildProgram {
 public:
     /// Starts the program with these arguments. `prepare` runs in the child before, and may change
-    /// its environment; it gets the descriptor of the output that is read. Throws
-    /// `std::system_error`.
+    /// its environment. Throws `std::system_error`.
     explicit ChildProgram(const std::vector<std::string>& command,
-                          const std::function<void(int output)>& prepare = {});
+                          const std::function<void()>& prepare = {});
     ChildProgram(const ChildProgram&) = delete;
     ChildProgram& operator=(const ChildProgram&) = delete;
     /// Kills it if it still runs.

@@ -9,13 +9,17 @@
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
+#include <stdexcept>
 #include <string>
 #include <thread>
+
+#include <time.h>
 
 #include <benchmark/benchmark.h>
 
 #include "child_program.h"
 #include "process_watch.h"
+#include "screen_watch.h"
 
 namespace {
 
@@ -31,20 +35,25 @@ double now() {
     return Seconds(std::chrono::steady_clock::now().time_since_epoch()).count();
 }
 
-void watchStart(int output) {
-    ::setenv("QT_PLUGIN_PATH", (programs.parent_path() / "watch").c_str(), 1);
-    ::setenv("QT_QPA_GENERIC_PLUGINS", ("startwatch:" + std::to_string(output)).c_str(), 1);
-    ::unsetenv("QT_XCB_GL_INTEGRATION");
+/// The processor time that a process has taken so far, in seconds.
+double processorTimeOf(pid_t process) {
+    clockid_t clock{};
+    timespec time{};
+    if (::clock_getcpuclockid(process, &clock) || ::clock_gettime(clock, &time))
+        throw std::runtime_error("The processor time of a program can't be read");
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
 }
 
-/// A running program that loads the watch over its start.
+/// A running program whose window has been drawn.
 class Started {
 public:
     explicit Started(const char* program)
         : begin_(now())
-        , program_({programs / program}, watchStart)
-        , firstPaint_(std::stod(program_.readLine()) - begin_)
-        , processorTime_(std::stod(program_.readLine())) {}
+        , program_({programs / program}, [] { ::unsetenv("QT_XCB_GL_INTEGRATION"); }) {
+        screen_.waitForWindow();
+        firstPaint_ = now() - begin_;
+        processorTime_ = processorTimeOf(program_.id());
+    }
 
     /// Seconds from the start.
     double firstPaint() const { return firstPaint_; }
@@ -54,10 +63,11 @@ public:
     pid_t id() const { return program_.id(); }
 
 private:
+    bench::ScreenWatch screen_;
     double begin_;
     bench::ChildProgram program_;
-    double firstPaint_;
-    double processorTime_;
+    double firstPaint_ = 0;
+    double processorTime_ = 0;
 };
 
 void idle(benchmark::State& state, pid_t process) {
