@@ -42,18 +42,25 @@ HealthMonitor::HealthMonitor(HealthReader::Connect connect, Clock clock, QObject
 void HealthMonitor::takeSets(std::vector<backup_set_info> sets) {
     std::map<std::int32_t, const backup_set_info*> before;
     for (const backup_set_info& set : sets_)
-        before[set.id] = &set;
+        before.emplace(set.id, &set);
+    std::set<std::int32_t> ids;
     std::vector<backup_set_info> unread;
     for (const backup_set_info& set : sets) {
+        // Of two sets with one id, the first one counts.
+        if (!ids.insert(set.id).second)
+            continue;
         const auto known = before.find(set.id);
         if (known != before.end() && known->second->schedule_id != set.schedule_id)
             reader_.forget(set.id);
         if (known == before.end() || hasChanged(*known->second, set) || reader_.hasFailed(set.id))
             unread.push_back(set);
-        before.erase(set.id);
     }
-    for (const auto& gone : before)
-        reader_.remove(gone.first);
+    const bool hadFailed = reader_.hasAnyFailed();
+    for (const backup_set_info& set : sets_)
+        if (!ids.contains(set.id))
+            reader_.remove(set.id);
+    if (hadFailed && !reader_.hasAnyFailed())
+        emit succeeded();
     sets_ = std::move(sets);
     if (isWatched_)
         read(unread);
@@ -118,10 +125,8 @@ void HealthMonitor::read(const std::vector<backup_set_info>& sets) {
     if (sets.empty())
         return;
     const auto before = static_cast<int>(reader_.left());
-    if (before == 0) {
+    if (before == 0)
         total_ = 0;
-        hasFailed_ = false;
-    }
     for (const backup_set_info& set : sets)
         reader_.add(set);
     total_ += static_cast<int>(reader_.left()) - before;
@@ -133,14 +138,13 @@ bool HealthMonitor::step() {
     try {
         hasNewDetails_ = reader_.step().has_value() || hasNewDetails_;
     } catch (const std::exception& error) {
-        hasFailed_ = true;
         emit failed(ui::errorText(error));
     }
     return reader_.left() > 0;
 }
 
 void HealthMonitor::endPass() {
-    if (!hasFailed_)
+    if (!reader_.hasAnyFailed())
         emit succeeded();
     emit progressed();
 }

@@ -52,7 +52,8 @@ public:
     void watch();
     /// Stops that, and cancels reading in progress.
     void unwatch();
-    /// Cancels reading in progress; sets that change are still read.
+    /// Cancels reading in progress, and further attempts at sets that failed; sets that change are
+    /// still read.
     void cancelReading();
     /// Call after the schedule of the set was edited.
     void scheduleChanged(std::int32_t setId);
@@ -77,7 +78,7 @@ signals:
     /// A set couldn't be read; reading continues with the others, and the set is tried again with
     /// the next data of a heartbeat.
     void failed(const QString& text);
-    /// All sets of a pass were read.
+    /// No set is left whose latest attempt failed.
     void succeeded();
 
 private:
@@ -94,7 +95,6 @@ private:
     int total_ = 0;
     bool isWatched_ = false;
     bool hasNewDetails_ = false; ///< read in the current slice
-    bool hasFailed_ = false;     ///< in this pass
     std::vector<hessiancln::backup_set_info> sets_;
     std::map<std::int32_t, BackupAttempt> loggedAttempts_; ///< the newest one of each set
     std::set<std::int32_t> running_;

@@ -65,6 +65,7 @@ void HealthReader::add(const hessiancln::backup_set_info& set) {
 
 void HealthReader::clear() {
     waiting_.clear();
+    failed_.clear();
     reading_.reset();
 }
 
@@ -85,7 +86,6 @@ void HealthReader::remove(std::int32_t setId) {
 
 void HealthReader::forgetAll() {
     clear();
-    failed_.clear();
     details_.clear();
     plans_.clear();
     missedHours_.reset();
@@ -203,7 +203,8 @@ void HealthReader::skip(const Reading& reading) {
     }
     for (const hessiancln::backup_set_info& set : waiting_)
         failed_.insert(set.id);
-    clear();
+    waiting_.clear();
+    reading_.reset();
 }
 
 void HealthReader::endSet() {

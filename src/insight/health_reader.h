@@ -54,7 +54,7 @@ public:
     /// Appends a set to the queue of sets to read, unless it is already in it. Its schedule is read
     /// again.
     void add(const hessiancln::backup_set_info& set);
-    /// Empties the queue. Details of sets read so far are kept.
+    /// Empties the queue, and forgets which sets failed. Details of sets read so far are kept.
     void clear();
     /// Discards the details of a set.
     void forget(std::int32_t setId);
@@ -64,6 +64,7 @@ public:
     void forgetAll();
     /// Whether the last attempt to read the set failed.
     bool hasFailed(std::int32_t setId) const { return failed_.contains(setId); }
+    bool hasAnyFailed() const { return !failed_.empty(); }
     /// Number of sets still to read.
     std::size_t left() const { return waiting_.size(); }
 

@@ -3,6 +3,7 @@
 
 // The health window with a simulated agent: its calls, and what it shows.
 
+#include <chrono>
 #include <optional>
 
 #include <QAbstractItemModelTester>
@@ -30,6 +31,7 @@
 
 namespace {
 
+using namespace std::chrono_literals;
 using simulator::Scenario;
 using support::child;
 using support::letTimersFire;
@@ -83,6 +85,18 @@ struct OpenWindow {
     BackupHealthWindow window{fed.monitor, everything};
 };
 
+/// A window, not shown yet, of an agent that fails one call of this method.
+struct FailingWindow {
+    explicit FailingWindow(const std::string& method = "getOverview") {
+        session.agent.inject(method, simulator::Fault{"Out of order."});
+    }
+
+    Session session{Scenario::Overdue};
+    Fed fed;
+    BackupHealthWindow window{fed.monitor, everything};
+    const QLabel& failure = child<QLabel>(window, "labelFailure");
+};
+
 } // namespace
 
 class HealthWindowTest : public QObject {
@@ -100,7 +114,12 @@ private slots:
     void anotherSessionStartsWithNothing();
     void aChangedScheduleNoLongerJudges();
     void aSetThatCouldntBeReadIsTriedAgain();
+    void aSetReadInTheSecondAttemptFailedNoLonger();
+    void aSetThatHasGoneFailedNoLonger();
     void aSetThatHasGoneIsNotRead();
+    void cancelledReadingIsNotResumed_data();
+    void cancelledReadingIsNotResumed();
+    void setsWithOneIdAreReadOnce();
     void aLongBackupIsPlannedForAnIntervalAtMost();
     void theLogsPeriodChangesNoHealth();
     void aHiddenWindowIsFilledWhenItIsShown();
@@ -239,15 +258,13 @@ void HealthWindowTest::aChangedScheduleNoLongerJudges() {
 }
 
 void HealthWindowTest::aSetThatCouldntBeReadIsTriedAgain() {
-    Session session(Scenario::Overdue);
-    Fed fed;
-    session.agent.inject("getOverview", simulator::Fault{"Out of order."});
-    BackupHealthWindow window(fed.monitor, everything);
-    const auto& failure = child<QLabel>(window, "labelFailure");
+    FailingWindow failing;
+    Fed& fed = failing.fed;
+    const QLabel& failure = failing.failure;
     const auto unread = [&fed] {
         return std::ranges::count(fed.monitor.rows(), false, &insight::HealthRow::isRead);
     };
-    window.show();
+    failing.window.show();
     QTRY_VERIFY_WITH_TIMEOUT(!fed.monitor.isReading(), patience);
     QCOMPARE(failure.text(), QStringLiteral("Out of order."));
     QCOMPARE(unread(), 1);
@@ -255,8 +272,84 @@ void HealthWindowTest::aSetThatCouldntBeReadIsTriedAgain() {
     QTRY_VERIFY_WITH_TIMEOUT(!fed.monitor.isReading(), patience);
     QCOMPARE(unread(), 0);
     QCOMPARE(failure.text(), QString());
-    session.agent.clearCallLog();
+    failing.session.agent.clearCallLog();
     fed.beat();
+    QVERIFY(!fed.monitor.isReading());
+}
+
+/// A pass may take longer than the time between two heartbeats.
+void HealthWindowTest::aSetReadInTheSecondAttemptFailedNoLonger() {
+    FailingWindow failing;
+    Fed& fed = failing.fed;
+    const QLabel& failure = failing.failure;
+    bool wasReading = false;
+    connect(
+        &fed.monitor, &insight::HealthMonitor::failed, this,
+        [&] {
+            fed.beat();
+            wasReading = fed.monitor.readSets() > 0 && fed.monitor.isReading();
+        },
+        Qt::QueuedConnection);
+    // Longer than a slice, so that the next set is read in another one.
+    failing.session.agent.inject("backup_set", simulator::Delay{40ms},
+                                 simulator::Times::UntilCleared);
+    failing.window.show();
+    QTRY_COMPARE(failure.text(), QStringLiteral("Out of order."));
+    QTRY_VERIFY_WITH_TIMEOUT(!fed.monitor.isReading(), patience);
+    QVERIFY(wasReading);
+    QVERIFY(std::ranges::all_of(fed.monitor.rows(), &insight::HealthRow::isRead));
+    QCOMPARE(failure.text(), QString());
+}
+
+void HealthWindowTest::aSetThatHasGoneFailedNoLonger() {
+    FailingWindow failing;
+    Fed& fed = failing.fed;
+    const QLabel& failure = failing.failure;
+    failing.window.show();
+    QTRY_VERIFY_WITH_TIMEOUT(!fed.monitor.isReading(), patience);
+    QCOMPARE(failure.text(), QStringLiteral("Out of order."));
+    const auto unread = std::ranges::find(fed.monitor.rows(), false, &insight::HealthRow::isRead);
+    failing.session.agent.withWorld(
+        [id = unread->facts.info.id](simulator::World& world) { world.removeSet(id); });
+    fed.beat();
+    QVERIFY(!fed.monitor.isReading());
+    QCOMPARE(failure.text(), QString());
+}
+
+void HealthWindowTest::cancelledReadingIsNotResumed_data() {
+    QTest::addColumn<QString>("method");
+    QTest::newRow("at a set") << QStringLiteral("getOverview");
+    QTest::newRow("before all sets") << QStringLiteral("getAdvancedConfigNumber");
+}
+
+void HealthWindowTest::cancelledReadingIsNotResumed() {
+    QFETCH(QString, method);
+    FailingWindow failing(method.toStdString());
+    Fed& fed = failing.fed;
+    const QLabel& failure = failing.failure;
+    failing.window.show();
+    QTRY_COMPARE(failure.text(), QStringLiteral("Out of order."));
+    fed.beat(); // which reads again
+    QVERIFY(fed.monitor.isReading());
+    failing.session.agent.inject(method.toStdString(), simulator::Fault{"Out of order."});
+    QSignalSpy failures(&fed.monitor, &insight::HealthMonitor::failed);
+    QTRY_COMPARE_WITH_TIMEOUT(failures.size(), 1, patience);
+    fed.monitor.cancelReading();
+    fed.beat();
+    QVERIFY(!fed.monitor.isReading());
+    // Nothing else has been read.
+    QCOMPARE(failure.text(), QStringLiteral("Out of order."));
+}
+
+void HealthWindowTest::setsWithOneIdAreReadOnce() {
+    const Session session(Scenario::Overdue);
+    Fed fed;
+    auto sets = session::getConnection()->backup_sets_info();
+    sets[1].id = sets[0].id;
+    fed.monitor.watch();
+    fed.monitor.takeSets(sets);
+    QTRY_VERIFY_WITH_TIMEOUT(!fed.monitor.isReading(), patience);
+    fed.monitor.takeSets(sets);
     QVERIFY(!fed.monitor.isReading());
 }
 
