@@ -75,6 +75,8 @@ void Notifications::send(const QString& title, const QString& text, const QStrin
     // A service without actions may open a dialog for them.
     if (capabilities.contains(QLatin1String("actions")))
         actions << QLatin1String(defaultAction) << tr("OK");
+    // A service that was replaced may use earlier ids again.
+    clickedUnknown_ = closedUnknown_ = 0;
     const QVariantMap hints{{QStringLiteral("desktop-entry"), QGuiApplication::desktopFileName()}};
     call<uint>(*this, "Notify",
                {QCoreApplication::applicationName(), uint{0}, icon, title,

@@ -43,7 +43,8 @@ private:
     void follow(uint id);
 
     QSet<uint> shown_; ///< ids; the service may reuse them once the notification is closed
-    // The last ids clicked and closed that aren't among them; initially 0.
+    // The last ids clicked and closed, since the latest notification was sent, that aren't among
+    // them; 0 if there is none.
     uint clickedUnknown_ = 0;
     uint closedUnknown_ = 0;
 };

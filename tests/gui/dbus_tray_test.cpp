@@ -15,6 +15,7 @@
 #include "tests/support/gui_agent.h"
 #include "tests/support/gui_display.h"
 #include "tests/support/gui_main_window.h"
+#include "tests/support/gui_timers.h"
 #include "tests/support/gui_wait.h"
 
 using namespace std::chrono_literals;
@@ -262,6 +263,33 @@ private slots:
         const Notification open = shown.close();
         QCOMPARE(shown.clicks.size(), 0);
         desktop->service.click(open.id);
+        QTRY_COMPARE(shown.clicks.size(), 1);
+    }
+
+    /// A service that starts again counts from 1 again, so another program may have had an id
+    /// first.
+    void anIdThatAnotherProgramHadBeforeIsOurs_data() {
+        QTest::addColumn<bool>("wasClicked");
+        QTest::newRow("closed") << false;
+        QTest::newRow("clicked") << true;
+    }
+    void anIdThatAnotherProgramHadBeforeIsOurs() {
+        QFETCH(bool, wasClicked);
+        Shown shown;
+        const uint next = shown.close().id + 2;
+        if (wasClicked)
+            desktop->service.click(next);
+        else
+            desktop->service.close(next);
+        QVERIFY(receiveReports());
+        QCoreApplication::processEvents();
+        shown.window.showMainWindow();
+        const Notification reminder = shown.close();
+        QCOMPARE(reminder.id, next);
+        QVERIFY(receiveReports());
+        support::letTimersFire();
+        QCOMPARE(shown.clicks.size(), 0);
+        desktop->service.click(reminder.id);
         QTRY_COMPARE(shown.clicks.size(), 1);
     }
 
