@@ -65,7 +65,9 @@ void callRawStream(benchmark::State& state) {
 }
 /// For calls that never take long enough to need it.
 class UnusedHook final : public hessiancln::WaitHook {
-    std::chrono::milliseconds patience() override { return std::chrono::minutes(1); }
+    std::chrono::milliseconds begin(hessiancln::AwaitedCall&) override {
+        return std::chrono::minutes(1);
+    }
     void wait(hessiancln::AwaitedCall&) noexcept override {}
 };
 

@@ -112,23 +112,37 @@ void CallGate::admit(QAction& action) {
     rules_.admittedActions.emplace_back(&action);
 }
 
-milliseconds CallGate::patience() {
+void CallGate::leaveSilentAgents() {
+    leaving_ = true;
+    if (call_)
+        return;
+    chain_.reset();
+    nextFailure_.reset();
+}
+
+milliseconds CallGate::begin(hessiancln::AwaitedCall& call) {
+    if (nextFailure_) {
+        call.giveUp(*nextFailure_);
+        // The agent is still to be left after a question to the system.
+        if (call.awaited() == hessiancln::Awaited::agent)
+            nextFailure_.reset();
+        chain_.reset();
+        return 0ms;
+    }
     callBegin_ = Clock::now();
-    if (!chainBegin_) {
-        chainBegin_ = painted_ = callBegin_;
-        announced_ = leavesNext_ = false;
+    if (!chain_) {
+        chain_ = Chain{callBegin_, callBegin_};
         QCoreApplication::postEvent(this, new QEvent(chainEndType));
     }
-    if (leavesNext_)
-        return 0ms;
-    return std::max(times_.untilPainting - duration_cast<milliseconds>(callBegin_ - painted_), 0ms);
+    const auto unpainted = duration_cast<milliseconds>(callBegin_ - chain_->painted);
+    return std::max(times_.untilPainting - unpainted, 0ms);
 }
 
 void CallGate::wait(hessiancln::AwaitedCall& call) noexcept {
     call_ = &call;
-    left_ = false;
+    givenUp_ = false;
     // A call in a chain may end before anything is painted.
-    leastEnd_ = callBegin_ == chainBegin_ ? Moment() : Clock::now() + timeToPaint;
+    leastEnd_ = callBegin_ == chain_->begin ? Moment() : Clock::now() + timeToPaint;
     {
         const PaintingWidgets asTheyAre;
         const HeldEvents held(rules_, *panel_, [this] {
@@ -136,8 +150,6 @@ void CallGate::wait(hessiancln::AwaitedCall& call) noexcept {
                 leave();
         });
         call.onFinish([this] { wake(*this); });
-        if (std::exchange(leavesNext_, false))
-            leave();
         keepPainting();
         offerToLeave();
         call.onFinish({});
@@ -145,40 +157,44 @@ void CallGate::wait(hessiancln::AwaitedCall& call) noexcept {
         panel_->hideFromHost();
     }
     call_ = nullptr;
-    painted_ = Clock::now();
-    // After a call that the user left, the next one gets the full patience again; so does a call
+    chain_->painted = Clock::now();
+    // After a call that was given up, the next one gets the full patience again; so does a call
     // after a wait for the logon service.
-    if (left_ || call.awaited() == hessiancln::Awaited::logonService)
-        chainBegin_.reset();
+    if (givenUp_ || call.awaited() == hessiancln::Awaited::logonService)
+        chain_.reset();
 }
 
 /// Input stays in the queue, as during a short call.
 void CallGate::keepPainting() {
-    const auto due = *chainBegin_ + times_.untilPanel;
+    const auto due = chain_->begin + times_.untilPanel;
     while (goesOn() && Clock::now() < due)
-        if (run(QEventLoop::ExcludeUserInputEvents, due) == Outcome::programEnds)
-            leave();
+        run(QEventLoop::ExcludeUserInputEvents, due);
 }
 
 void CallGate::offerToLeave() {
-    if (goesOn())
+    if (!leaving_ && goesOn())
         closeDroppedList();
-    while (goesOn()) {
+    while (!leaving_ && goesOn()) {
         panel_->showOver(windowInFront(), {call_->awaited(), answersSlowly(), elapsed()});
-        if (!std::exchange(announced_, true))
+        if (!std::exchange(chain_->announced, true))
             panel_->announce();
-        const Moment nextSecond = awaitedSince() + elapsed() + 1s;
-        if (leaving_ || run(QEventLoop::AllEvents, nextSecond) == Outcome::programEnds)
-            leave();
+        run(QEventLoop::AllEvents, awaitedSince() + elapsed() + 1s);
     }
+    if (leaving_)
+        abandon();
 }
 
-/// The user may still hold the panel's button down.
+/// After the reply, the windows need time to paint, and the user may still hold the panel's button
+/// down.
 bool CallGate::goesOn() const {
-    return !call_->finished() || Clock::now() < leastEnd_ || panel_->isButtonDown();
+    if (!call_->finished())
+        return true;
+    if (leaving_ || quitRequested_)
+        return false;
+    return Clock::now() < leastEnd_ || panel_->isButtonDown();
 }
 
-CallGate::Outcome CallGate::run(int flags, Moment until) {
+void CallGate::run(int flags, Moment until) {
     QEventLoop loop;
     loop_ = &loop;
     const Moment now = Clock::now();
@@ -189,36 +205,53 @@ CallGate::Outcome CallGate::run(int flags, Moment until) {
     const int code = loop.exec(static_cast<QEventLoop::ProcessEventsFlag>(flags));
     timer_.stop();
     loop_ = nullptr;
-    if (code == wokenCode)
-        return Outcome::woken;
-    if (code == timeOutCode)
-        return Outcome::timeOut;
+    if (code == wokenCode || code == timeOutCode)
+        return;
     quitRequested_ = true;
-    return Outcome::programEnds;
+    abandon();
 }
 
+/// Without the user, and with no event loop, a call still gets the time of a quick one.
+void CallGate::abandon() {
+    const auto left = callBegin_ + times_.untilPainting - Clock::now();
+    if (!call_->waitFor(std::max(std::chrono::ceil<milliseconds>(left), 0ms)))
+        giveUp();
+}
+
+/// The user's choice.
 void CallGate::leave() {
     if (!call_)
         return;
+    if (!giveUp() && !givenUp_)
+        nextFailure_ = leftText();
+    leastEnd_ = Moment();
+}
+
+/// Returns false if the call has already finished.
+bool CallGate::giveUp() {
+    if (!call_->giveUp(leftText()))
+        return false;
+    givenUp_ = true;
+    return true;
+}
+
+std::string CallGate::leftText() const {
     QString text = tr("Disconnected, as the agent hadn't answered for %1 s.");
     if (call_->awaited() == hessiancln::Awaited::logonService)
         text = tr("Disconnected, as the logon service hadn't answered for %1 s.");
     else if (answersSlowly())
         text = tr("Disconnected, as the agent had answered slowly for %1 s.");
-    leavesNext_ = call_->finished() && !left_;
-    left_ = left_ || !call_->finished();
-    call_->giveUp(session::toWire(text.arg(elapsed().count())));
-    leastEnd_ = Moment();
+    return session::toWire(text.arg(elapsed().count()));
 }
 
 /// Whether the agent has answered calls of this chain, but needs too long for them as a whole.
 bool CallGate::answersSlowly() const {
-    return call_->awaited() == hessiancln::Awaited::agent && callBegin_ != chainBegin_ &&
+    return call_->awaited() == hessiancln::Awaited::agent && callBegin_ != chain_->begin &&
            Clock::now() < callBegin_ + times_.untilPanel;
 }
 
 CallGate::Moment CallGate::awaitedSince() const {
-    return answersSlowly() ? *chainBegin_ : callBegin_;
+    return answersSlowly() ? chain_->begin : callBegin_;
 }
 
 std::chrono::seconds CallGate::elapsed() const {
@@ -233,8 +266,10 @@ void CallGate::timerEvent(QTimerEvent* event) {
 void CallGate::customEvent(QEvent* event) {
     if (event->type() == wakeType && loop_)
         loop_->exit(wokenCode);
-    else if (event->type() == chainEndType)
-        chainBegin_.reset();
+    else if (event->type() == chainEndType) {
+        chain_.reset();
+        nextFailure_.reset();
+    }
 }
 
 } // namespace app

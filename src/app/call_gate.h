@@ -5,6 +5,7 @@
 #include <chrono>
 #include <memory>
 #include <optional>
+#include <string>
 
 #include <QBasicTimer>
 #include <QObject>
@@ -22,6 +23,17 @@ namespace app {
 /// they repaint but take no input; after a longer wait, a panel over the frontmost window lets the
 /// user disconnect. Quitting the program disconnects too. A chain is all calls that the thread
 /// makes before it returns to its event loop.
+///
+/// The rules:
+/// - The thread sleeps until the windows haven't painted for `untilPainting`; then it waits in an
+///   event loop of its own. The panel appears once the chain has lasted for `untilPanel`.
+/// - The panel's button, like Esc, gives up the call that is waited for, and with it its
+///   connection. If that call has just finished, the next one is given up before it is sent. The
+///   calls after that are waited for as a chain of their own.
+/// - After a quit no event loop runs any more. A call then has `untilPainting` of its own to
+///   finish, however old its chain is, and is given up after that.
+/// - The logout that follows begins a chain of its own, and is given up when others would show the
+///   panel.
 ///
 /// Without this object the thread just sleeps until each reply arrives.
 class CallGate : public QObject, private hessiancln::WaitHook {
@@ -45,8 +57,9 @@ public:
     /// Lets menus trigger this action even during a wait. It must not make a call.
     void admit(QAction& action);
 
-    /// From now on, abandons a silent agent without asking: the user is gone.
-    void leaveSilentAgents() { leaving_ = true; }
+    /// From now on, abandons a silent agent without asking: the user is gone. Between two calls,
+    /// this also ends the chain.
+    void leaveSilentAgents();
 
     /// Whether a call waits for its reply. Another one would fail.
     bool waiting() const { return call_ != nullptr; }
@@ -59,18 +72,25 @@ protected:
     void customEvent(QEvent* event) override;
 
 private:
-    enum class Outcome { woken, timeOut, programEnds };
-
     using Moment = std::chrono::steady_clock::time_point;
 
-    std::chrono::milliseconds patience() override;
+    struct Chain {
+        Moment begin;
+        Moment painted;         ///< when the windows last could paint
+        bool announced = false; ///< the panel
+    };
+
+    std::chrono::milliseconds begin(hessiancln::AwaitedCall& call) override;
     void wait(hessiancln::AwaitedCall& call) noexcept override;
 
     void keepPainting();
     void offerToLeave();
     bool goesOn() const;
-    Outcome run(int flags, Moment until);
+    void run(int flags, Moment until);
+    void abandon();
     void leave();
+    bool giveUp();
+    std::string leftText() const;
     bool answersSlowly() const;
     Moment awaitedSince() const;
     std::chrono::seconds elapsed() const;
@@ -82,15 +102,14 @@ private:
     std::unique_ptr<WaitingPanel> panel_;
     hessiancln::WaitHookInstallation installation_;
 
-    std::optional<Moment> chainBegin_; ///< no value while the thread is in its event loop
-    Moment callBegin_;                 ///< of the latest call
-    Moment painted_;                   ///< when the windows last could paint
-    bool announced_ = false;           ///< the panel, in this chain
-    bool leavesNext_ = false; ///< the user left when a call had just finished: the next one fails
+    std::optional<Chain> chain_; ///< no value while the thread is in its event loop
+    Moment callBegin_;           ///< of the latest call
+    /// The failure of the next call: the user left when the latest one had just finished.
+    std::optional<std::string> nextFailure_;
 
     // Used during a wait
     hessiancln::AwaitedCall* call_ = nullptr;
-    bool left_ = false;
+    bool givenUp_ = false;
     Moment leastEnd_;
     QEventLoop* loop_ = nullptr;
     QBasicTimer timer_;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <exception>
 #include <functional>
 #include <memory>
 #include <string>
@@ -24,10 +25,18 @@ Answer askSystem(const std::function<Answer()>& question) {
     const auto reply = std::make_shared<hessiancln::PendingReply>(
         [](const std::string&) {}, hessiancln::Awaited::logonService);
     const auto answer = std::make_shared<Answer>();
-    waitForThread(reply, [question, answer] {
-        *answer = question();
-        return std::string();
-    });
+    if (!reply->finished()) {
+        try {
+            answerBeside(reply, [question, answer] {
+                *answer = question();
+                return std::string();
+            });
+        } catch (const std::exception&) {
+            // No thread or no memory for one, so the windows freeze for once.
+            return question();
+        }
+    }
+    reply->wait();
     return std::move(*answer);
 }
 

@@ -22,6 +22,9 @@ public:
 
     virtual bool finished() const = 0;
 
+    /// Sleeps until the call has finished, but not longer than this. Returns whether it has.
+    virtual bool waitFor(std::chrono::milliseconds time) = 0;
+
     /// Runs `wake` on any thread once the call has finished, or immediately if it already has.
     /// `wake` must not block, and isn't repeated if it throws `std::bad_alloc`: a hook therefore
     /// also asks `finished` from time to time. An empty `wake` unregisters: after this returns, the
@@ -30,8 +33,8 @@ public:
 
     /// Ends the connection that carries the call, in whatever state it is. The call then fails with
     /// an `invoke_exception` of this text, and nothing more is sent on that connection. A call of
-    /// the local system is abandoned. Does nothing to a finished call.
-    virtual void giveUp(const std::string& text) = 0;
+    /// the local system is abandoned. Does nothing to a finished call, and returns false.
+    virtual bool giveUp(const std::string& text) = 0;
 
 protected:
     ~AwaitedCall() = default;
@@ -45,9 +48,10 @@ public:
     WaitHook& operator=(const WaitHook&) = delete;
     virtual ~WaitHook() = default;
 
-    /// How long the call that begins now may take before `wait` runs. Until then the thread sleeps.
-    /// Asked once for each call.
-    virtual std::chrono::milliseconds patience() = 0;
+    /// Runs at the beginning of each call, before anything of it is sent. A call that it gives up
+    /// is never sent. Returns how long the call may take before `wait` runs; until then the thread
+    /// sleeps.
+    virtual std::chrono::milliseconds begin(AwaitedCall& call) = 0;
 
     /// Runs on the waiting thread, and returns once the call has finished.
     virtual void wait(AwaitedCall& call) noexcept = 0;

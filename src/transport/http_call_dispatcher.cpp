@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "transport/http_call_dispatcher.h"
 
-#include <chrono>
 #include <memory>
 #include <utility>
 
@@ -24,27 +23,20 @@ struct Target {
     std::uint32_t port = 0;
 };
 
-/// Runs the exchange on a thread of its own while the caller waits with its hook, whose patience is
-/// over.
-std::string carryBeside(const std::shared_ptr<HttpExchange>& exchange) {
-    const auto reply =
-        std::make_shared<PendingReply>([exchange](const std::string&) { exchange->abandon(); });
+/// A quick exchange runs on the caller's thread: starting another one would slow it down. A slow
+/// one moves to a thread of its own while the caller waits with its hook.
+std::string carry(const std::shared_ptr<HttpExchange>& exchange,
+                  const std::shared_ptr<PendingReply>& reply) {
     const auto runToEnd = [exchange] {
         exchange->run();
         return exchange->takeReply();
     };
-    return waitForThread(reply, runToEnd, std::chrono::milliseconds(0));
-}
-
-/// A quick exchange runs on the caller's thread: starting another one would slow it down.
-std::string carry(const std::shared_ptr<HttpExchange>& exchange) {
-    if (WaitHook* hook = CallPassage::hook()) {
-        if (!exchange->runFor(hook->patience()))
-            return carryBeside(exchange);
-    } else {
-        exchange->run();
-    }
-    return exchange->takeReply();
+    if (!CallPassage::hook())
+        return runToEnd();
+    if (exchange->runFor(reply->patience()))
+        return exchange->takeReply();
+    answerBeside(reply, runToEnd);
+    return reply->wait();
 }
 
 } // namespace
@@ -72,11 +64,15 @@ std::string CHttpCallDispatcher::exchange(const std::string& url, const std::str
     trace.detail("parseURL: ", target.host, " port: ", target.port);
 
     const auto exchange = std::make_shared<HttpExchange>(target.useTls, limits_, trace);
+    const auto reply =
+        std::make_shared<PendingReply>([exchange](const std::string&) { exchange->abandon(); });
+    if (reply->finished())
+        return reply->wait(); // fails
     exchange->start(target.host, target.port, target.path, request);
-    std::string reply = carry(exchange);
+    std::string body = carry(exchange, reply);
 
     trace.step("CHttpCallDispatcher::sendRequest LEAVE");
-    return reply;
+    return body;
 }
 
 } // namespace hessiancln

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "transport/pending_reply.h"
 
+#include <algorithm>
 #include <atomic>
 #include <cstdlib>
 #include <thread>
@@ -30,7 +31,12 @@ public:
 
 PendingReply::PendingReply(GiveUp giveUp, Awaited awaited)
     : giveUp_(std::move(giveUp))
-    , awaited_(awaited) {}
+    , awaited_(awaited) {
+    if (WaitHook* const hook = CallPassage::hook()) {
+        const std::chrono::milliseconds patience = hook->begin(*this);
+        hookRuns_ = std::chrono::steady_clock::now() + patience;
+    }
+}
 
 PendingReply::~PendingReply() {
     base::wipe(reply_);
@@ -79,14 +85,17 @@ bool PendingReply::fail(std::exception_ptr failure) {
     return finish([&] { failure_ = std::move(failure); });
 }
 
-std::string PendingReply::wait(std::optional<std::chrono::milliseconds> patience) {
-    WaitHook* const hook = CallPassage::hook();
-    if (hook && !patience)
-        patience = hook->patience();
+std::chrono::milliseconds PendingReply::patience() const {
+    const auto left = hookRuns_ - std::chrono::steady_clock::now();
+    return std::max(std::chrono::ceil<std::chrono::milliseconds>(left),
+                    std::chrono::milliseconds(0));
+}
+
+std::string PendingReply::wait() {
     std::unique_lock lock(mutex_);
     const auto done = [this] { return finished_; };
-    if (hook) {
-        if (!condition_.wait_for(lock, *patience, done)) {
+    if (WaitHook* const hook = CallPassage::hook()) {
+        if (!condition_.wait_until(lock, hookRuns_, done)) {
             lock.unlock();
             hook->wait(*this);
             lock.lock();
@@ -112,19 +121,23 @@ void PendingReply::onFinish(std::function<void()> wake) {
         this->wake();
 }
 
-void PendingReply::giveUp(const std::string& text) {
+bool PendingReply::waitFor(std::chrono::milliseconds time) {
+    std::unique_lock lock(mutex_);
+    return condition_.wait_for(lock, time, [this] { return finished_; });
+}
+
+bool PendingReply::giveUp(const std::string& text) {
     if (!fail(text))
-        return;
+        return false;
     try {
         giveUp_(text);
     } catch (const std::bad_alloc&) {
         // The caller returns anyway, and the connection stays as silent as it was.
     }
+    return true;
 }
 
-std::string waitForThread(const std::shared_ptr<PendingReply>& reply,
-                          std::function<std::string()> work,
-                          std::optional<std::chrono::milliseconds> patience) {
+void answerBeside(const std::shared_ptr<PendingReply>& reply, std::function<std::string()> work) {
     std::thread([reply, work = std::move(work), running = RunningThread()] {
         freeTlsAtThreadEnd();
         try {
@@ -135,7 +148,6 @@ std::string waitForThread(const std::shared_ptr<PendingReply>& reply,
             reply->fail(std::current_exception());
         }
     }).detach();
-    return reply->wait(patience);
 }
 
 void exitProcess(int status) {

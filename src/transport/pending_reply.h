@@ -22,6 +22,8 @@ public:
     /// Ends the connection without waiting for it to close. Runs on the caller's thread.
     using GiveUp = std::function<void(const std::string& text)>;
 
+    /// Begins the call. If this thread's hook gives it up, it has finished already and must not be
+    /// sent.
     explicit PendingReply(GiveUp giveUp, Awaited awaited = Awaited::agent);
     /// Wipes a reply that wasn't taken.
     ~PendingReply();
@@ -32,15 +34,18 @@ public:
     bool fail(const std::string& text);
     bool fail(std::exception_ptr failure);
 
+    /// The time left until `wait` runs the hook; 0 without a hook.
+    std::chrono::milliseconds patience() const;
+
     /// Sleeps, or runs this thread's hook, until the call has finished. Returns the reply or throws
-    /// the failure; a failure given as text is thrown as `invoke_exception`. `patience` is that of
-    /// the hook, which is asked for it unless it is given.
-    std::string wait(std::optional<std::chrono::milliseconds> patience = {});
+    /// the failure; a failure given as text is thrown as `invoke_exception`.
+    std::string wait();
 
     Awaited awaited() const override { return awaited_; }
     bool finished() const override;
     void onFinish(std::function<void()> wake) override;
-    void giveUp(const std::string& text) override;
+    bool waitFor(std::chrono::milliseconds time) override;
+    bool giveUp(const std::string& text) override;
 
 private:
     template <class Result>
@@ -49,7 +54,8 @@ private:
 
     const GiveUp giveUp_;
     const Awaited awaited_;
-    mutable std::mutex mutex_; ///< guards all members below
+    std::chrono::steady_clock::time_point hookRuns_; ///< unless the call finishes before
+    mutable std::mutex mutex_;                       ///< guards all members below
     std::condition_variable condition_;
     bool finished_ = false;
     std::exception_ptr failure_;
@@ -58,11 +64,10 @@ private:
     std::function<void()> wake_;
 };
 
-/// Runs `work`, which returns the reply or throws, on a thread of its own, and waits for it as
-/// above. That thread is abandoned if the caller gives up, so `work` must own all that it needs.
-std::string waitForThread(const std::shared_ptr<PendingReply>& reply,
-                          std::function<std::string()> work,
-                          std::optional<std::chrono::milliseconds> patience = {});
+/// Runs `work`, which returns the reply or throws, on a thread of its own. That thread is abandoned
+/// if the caller gives up, so `work` must own all that it needs. Throws `std::system_error` if no
+/// thread can be started.
+void answerBeside(const std::shared_ptr<PendingReply>& reply, std::function<std::string()> work);
 
 /// Ends the process with `status`. While a thread from above still runs, the exit functions are
 /// skipped: those of the libraries that it is using could abort or crash.

@@ -61,6 +61,19 @@ void CSingleStreamDispatcherConnection::SendRequest(const std::string& url,
 
     const auto reply =
         std::make_shared<PendingReply>([this](const std::string& text) { giveUp(text); });
+    if (!reply->finished())
+        send(url, request, reply);
+    try {
+        response = reply->wait();
+    } catch (const invoke_exception&) {
+        trace_.step("CSingleStreamDispatcherConnection::SendRequest EXCEPTION");
+        throw;
+    }
+    trace_.step("CSingleStreamDispatcherConnection::SendRequest LEAVE");
+}
+
+void CSingleStreamDispatcherConnection::send(const std::string& url, const std::string& request,
+                                             const std::shared_ptr<PendingReply>& reply) {
     Calls call = newCall(url, request);
     call.front()->succeed = [reply](std::string& body) { reply->succeed(body); };
     call.front()->fail = [reply](const std::string& text) { reply->fail(text); };
@@ -70,13 +83,6 @@ void CSingleStreamDispatcherConnection::SendRequest(const std::string& url,
     }
     if (!submit(call))
         reply->fail(errorText());
-    try {
-        response = reply->wait();
-    } catch (const invoke_exception&) {
-        trace_.step("CSingleStreamDispatcherConnection::SendRequest EXCEPTION");
-        throw;
-    }
-    trace_.step("CSingleStreamDispatcherConnection::SendRequest LEAVE");
 }
 
 void CSingleStreamDispatcherConnection::asyncSendRequest(const std::string& url,

@@ -87,6 +87,8 @@ private:
 
     // Thread-safe
     void giveUp(const std::string& text);
+    void send(const std::string& url, const std::string& request,
+              const std::shared_ptr<PendingReply>& reply);
     static Calls newCall(const std::string& url, const std::string& request);
     bool submit(Calls& call);
     void forgetUnwritten();

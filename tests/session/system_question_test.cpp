@@ -12,6 +12,7 @@
 
 #include "tests/support/scripted_hook.h"
 #include "tests/support/signal.h"
+#include "tests/support/system/no_more_threads.h"
 #include "transport/invoke_exception.h"
 #include "transport/pending_reply.h"
 
@@ -63,6 +64,18 @@ TEST(SystemQuestion, IsLeftByAUserWhoGivesUp) {
 TEST(SystemQuestion, ThrowsWhatTheQuestionThrows) {
     ScriptedHook hook([](AwaitedCall&) {});
     const hessiancln::WaitHookInstallation installed(hook);
+    EXPECT_THROW(session::askSystem<int>([]() -> int { throw std::runtime_error("no"); }),
+                 std::runtime_error);
+}
+
+TEST(SystemQuestion, IsAskedOnItsOwnThreadIfThereIsNoOther) {
+    if (!support::NoMoreThreads::isPossible())
+        GTEST_SKIP() << "this system always starts threads";
+    ScriptedHook hook([](AwaitedCall&) {});
+    const hessiancln::WaitHookInstallation installed(hook);
+    const support::NoMoreThreads none;
+    const auto here = std::this_thread::get_id();
+    EXPECT_EQ(session::askSystem<std::thread::id>([] { return std::this_thread::get_id(); }), here);
     EXPECT_THROW(session::askSystem<int>([]() -> int { throw std::runtime_error("no"); }),
                  std::runtime_error);
 }

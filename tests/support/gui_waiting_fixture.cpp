@@ -16,11 +16,7 @@ void WaitingFixture::initTestCase() {
 
 void WaitingFixture::init() {
     agent_ = std::make_unique<GuiAgent>();
-    gate_ = std::make_unique<app::CallGate>(quickTimes);
-    driver_ = std::make_unique<MainWindowDriver>();
-    driver_->window().keepAliveBy(*gate_);
-    driver_->logIn(*agent_);
-    endChain();
+    startWith(quickTimes);
 }
 
 void WaitingFixture::cleanup() {
@@ -29,6 +25,16 @@ void WaitingFixture::cleanup() {
     gate_.reset();
     QCOMPARE(agent_->violations(), Calls{});
     agent_.reset();
+}
+
+void WaitingFixture::startWith(const app::CallGate::Times& times) {
+    driver_.reset();
+    gate_.reset();
+    gate_ = std::make_unique<app::CallGate>(times);
+    driver_ = std::make_unique<MainWindowDriver>();
+    driver_->window().keepAliveBy(*gate_);
+    driver_->logIn(*agent_);
+    endChain();
 }
 
 void WaitingFixture::beSilent(const char* method) {

@@ -21,6 +21,8 @@ using Calls = std::vector<std::string>;
 class WaitingFixture : public QObject {
     Q_OBJECT
 protected:
+    /// Replaces the gate by one with other times, under a window that is logged in.
+    void startWith(const app::CallGate::Times& times);
     void beSilent(const char* method = "getTarnClientInfo");
     /// What comes next isn't part of the calls so far, as after a turn of the event loop.
     void endChain();

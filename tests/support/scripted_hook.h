@@ -22,7 +22,7 @@ public:
         : work_(std::move(work))
         , patience_(patience) {}
 
-    std::chrono::milliseconds patience() override { return patience_; }
+    std::chrono::milliseconds begin(hessiancln::AwaitedCall&) override { return patience_; }
 
     void wait(hessiancln::AwaitedCall& call) noexcept override {
         ++waits;

@@ -47,6 +47,23 @@ ScriptedHook::Work leaveAfter(Signal& asked) {
     };
 }
 
+/// Gives up the n-th call, before it is sent.
+class RefusingHook final : public WaitHook {
+public:
+    explicit RefusingHook(int nth)
+        : left_(nth) {}
+
+    std::chrono::milliseconds begin(AwaitedCall& call) override {
+        if (--left_ == 0)
+            EXPECT_TRUE(call.giveUp(goodbye));
+        return 20s;
+    }
+    void wait(AwaitedCall&) noexcept override { ADD_FAILURE() << "a quick call"; }
+
+private:
+    int left_;
+};
+
 struct Endpoint {
     bool stream = false;
     Mode mode = Mode::plain;
@@ -215,7 +232,7 @@ TEST_P(CallWait, AFinishedCallCantBeGivenUp) {
             waiting.raise();
             while (!call.finished())
                 std::this_thread::yield();
-            call.giveUp(goodbye);
+            EXPECT_FALSE(call.giveUp(goodbye));
         },
         1ms);
     const WaitHookInstallation installed(hook);
@@ -318,6 +335,33 @@ TEST_P(StreamWait, AfterAGivenUpCallTheOthersFailAtOnceAndSendNothing) {
     EXPECT_EQ(hook.waits, 1);
     EXPECT_EQ(server.connections(), 1u);
     EXPECT_TRUE(server.waitForEnded(1));
+}
+
+TEST_P(StreamWait, ACallGivenUpAtItsBeginningIsNotSentAndEndsTheConnection) {
+    LoopbackServer server(GetParam(), [](Peer& peer) {
+        peer.open().receiveFrame();
+        peer.send(responseFrame(1, "pong")).expectClose();
+    });
+    RefusingHook hook(2);
+    const WaitHookInstallation installed(hook);
+    CRawStreamDispacher dispatcher(0, "", true);
+    EXPECT_EQ(dispatcher.sendRequest(server.url(), "ping"), "pong");
+    EXPECT_EQ(failureOf(dispatcher, server.url()), goodbye);
+    EXPECT_FALSE(CallPassage::underWay());
+    EXPECT_TRUE(server.waitForEnded(1));
+    EXPECT_EQ(failureOf(dispatcher, server.url()), goodbye);
+    EXPECT_EQ(server.connections(), 1u);
+}
+
+TEST(HttpWait, ACallGivenUpAtItsBeginningConnectsNowhere) {
+    LoopbackServer server(Mode::tls, [](Peer& peer) { peer.receiveUntilClose(); });
+    RefusingHook hook(1);
+    const WaitHookInstallation installed(hook);
+    {
+        CHttpCallDispatcher dispatcher(0, "");
+        EXPECT_EQ(failureOf(dispatcher, server.url()), goodbye);
+    }
+    EXPECT_EQ(server.connections(), 0u);
 }
 
 TEST(StreamWaitForConnection, AfterAGivenUpConnectionTheOtherCallsFailAtOnce) {
