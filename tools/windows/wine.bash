@@ -132,7 +132,7 @@ in_realm() {
 # Sets `installer`, unless it is set, to the one that tools/windows/installer has built, and `version`.
 find_installer() {
     version=$(sed -n 's/^CMAKE_PROJECT_VERSION:[^=]*=//p' "$windows/CMakeCache.txt")
-    installer=${installer:-$windows/tarn-mobile-user-$version-setup.exe}
+    installer=$(realpath -m "${installer:-$windows/tarn-mobile-user-$version-setup.exe}")
     [ -e "$installer" ] || fail "$installer doesn't exist: tools/windows/installer builds an installer"
 }
 
@@ -157,8 +157,10 @@ changes() { LC_ALL=C comm -3 <(LC_ALL=C sort "$1") <(LC_ALL=C sort "$2") | sed '
 # Without the value.
 names() { sed 's/=.*//' | LC_ALL=C sort -u; }
 
-# start_again: like a restart of Windows, removes the files that programs have scheduled for it.
+# start_again: like a restart of Windows, removes the files that programs have scheduled for it. First
+# lets programs end: an uninstaller removes its temporary folder after the program's.
 start_again() {
+    timeout 60 wineserver -w || true
     wineserver -k || true
     wineserver -w
     wineboot --init >/dev/null 2>&1
