@@ -242,7 +242,7 @@ TEST(Records, AnUnknownKeyInTheNestedRecordIsRefused) {
     EXPECT_EQ(recordRefusal<backup_set_overview_info>(message), "Unknown map field type");
 }
 
-TEST(Records, KeysAreToldApartByCase) {
+TEST(Records, KeysDifferByCase) {
     EXPECT_EQ(recordRefusal<tarn_client_info>(
                   bytes("M t 00 1F 'com.norvel.api.tarn_client_info' S 00 04 'Name' S 00 00 z")),
               "Unknown map field type");

@@ -222,7 +222,7 @@ TEST_F(ReleaseTest, SwallowsAMalformedReply) {
     EXPECT_EQ(agent->left(), 0u);
 }
 
-TEST_F(ReleaseTest, ByHandTellsCodeAndMessageOfAFault) {
+TEST_F(ReleaseTest, ByHandReportsCodeAndMessageOfAFault) {
     const auto set = proxyAt<BackupSet>("set");
     agent->expect(
         "set", release,
@@ -235,7 +235,7 @@ TEST_F(ReleaseTest, ByHandTellsCodeAndMessageOfAFault) {
     }
 }
 
-TEST_F(ReleaseTest, ByHandTellsOfAFaultThatSaysNothing) {
+TEST_F(ReleaseTest, ByHandReportsAFaultThatSaysNothing) {
     const auto set = proxyAt<BackupSet>("set");
     agent->expect("set", release, "f z");
     try {

@@ -56,7 +56,7 @@ TEST(ActivityBalloon, SaysTheTypeAloneWhenNothingElseIsKnown) {
               QStringLiteral("Started - Delete\n"));
 }
 
-TEST(ActivityBalloon, TellsWhatHasBegunBeforeWhatHasEnded) {
+TEST(ActivityBalloon, ReportsWhatHasBegunBeforeWhatHasEnded) {
     const QString text = app::activityBalloonText(
         {activity(ActivityType::Backup, 0, "a"), activity(ActivityType::Restore, 0, "b")},
         {activity(ActivityType::Delete, 7, "c")}, nameOf);

@@ -192,19 +192,19 @@ private slots:
         shown.sets[2].is_created_by_policy = true;
         QVERIFY(shown.list.rebuild());
         const auto* table = QAccessible::queryAccessibleInterface(&shown.view)->tableInterface();
-        const auto told = [table](int row) {
+        const auto reported = [table](int row) {
             return const_cast<QAccessibleTableInterface*>(table)->cellAt(row, 0)->text(
                 QAccessible::Name);
         };
-        QCOMPARE(told(0), QStringLiteral("Set 1, Backup of: desk, In sync"));
-        QCOMPARE(told(1), QStringLiteral("Set 2, Backup of: desk, Not in sync"));
-        QCOMPARE(told(2), QStringLiteral("Set 3, Backup of: desk, Recovered, needs editing, "
-                                         "Created by a policy"));
+        QCOMPARE(reported(0), QStringLiteral("Set 1, Backup of: desk, In sync"));
+        QCOMPARE(reported(1), QStringLiteral("Set 2, Backup of: desk, Not in sync"));
+        QCOMPARE(reported(2), QStringLiteral("Set 3, Backup of: desk, Recovered, needs editing, "
+                                             "Created by a policy"));
         const QSignalSpy changes(shown.view.model(), &QAbstractItemModel::dataChanged);
         shown.sets[1].in_sync = true;
         QVERIFY(shown.list.rebuild());
         QCOMPARE(changes.count(), 1);
-        QCOMPARE(told(1), QStringLiteral("Set 2, Backup of: desk, In sync"));
+        QCOMPARE(reported(1), QStringLiteral("Set 2, Backup of: desk, In sync"));
         // The cards cover the rows.
         QCOMPARE(shown.view.model()->index(0, 0).data(), QVariant());
     }

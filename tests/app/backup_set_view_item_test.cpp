@@ -68,7 +68,7 @@ private slots:
     void showsTheSet();
     void showsItsStateByPictureColourAndToolTip();
     void itsRedIsReadOnADarkDesktop();
-    void anUnchangedCardIsNotDrawnAnew();
+    void anUnchangedCardIsNotRedrawn();
     void aCardThatRecoversLosesItsColour();
     void markupInANameIsText();
     void aNameThatIsTooLongEndsInTheCard();
@@ -151,7 +151,7 @@ void BackupSetViewItemTest::itsRedIsReadOnADarkDesktop() {
     QTRY_COMPARE(shown.card.styleSheet(), formSheet);
 }
 
-void BackupSetViewItemTest::anUnchangedCardIsNotDrawnAnew() {
+void BackupSetViewItemTest::anUnchangedCardIsNotRedrawn() {
     ShownCard shown;
     auto set = healthySet();
     set.in_sync = false;

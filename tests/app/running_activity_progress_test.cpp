@@ -47,7 +47,7 @@ TEST(ProgressText, WhatIsLeftStandsBehindTheStatus) {
     EXPECT_EQ(text({.sizeLeft = 5}, "Scanning"), "Scanning (5 Byte(s))");
 }
 
-TEST(ProgressText, AnEmptyStatusStillTellsWhatIsLeft) {
+TEST(ProgressText, AnEmptyStatusStillShowsWhatIsLeft) {
     EXPECT_EQ(text({.filesLeft = 3}), " (3 files)");
 }
 

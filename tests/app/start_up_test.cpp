@@ -142,7 +142,7 @@ private slots:
         QLocale::setDefault(before);
     }
 
-    void tellsThatATranslationIsMissing() { expectTranslationError(QStringLiteral("EN")); }
+    void reportsThatATranslationIsMissing() { expectTranslationError(QStringLiteral("EN")); }
 
     void takesNoFileOfAnotherName() {
         // Names that Qt would try on its own: with a suffix, and cut at the underscores.
@@ -152,7 +152,7 @@ private slots:
         expectTranslationError(QStringLiteral("de"));
     }
 
-    void tellsThatATranslationIsDamaged() {
+    void reportsThatATranslationIsDamaged() {
         write(QStringLiteral("sg_i18n_de"), "not a translation");
         expectTranslationError(QStringLiteral("de"));
     }

@@ -67,12 +67,12 @@ private slots:
     void theChecksEnableTheTimes();
     void runningNowWritesNothing_data();
     void runningNowWritesNothing();
-    void aRunThatFailsIsToldAndClosesToo_data();
-    void aRunThatFailsIsToldAndClosesToo();
+    void aRunThatFailsIsReportedAndClosesToo_data();
+    void aRunThatFailsIsReportedAndClosesToo();
     void aFaultEndsTheTimes_data();
     void aFaultEndsTheTimes();
 
-    void anAgentWithoutAConfigurationIsTold();
+    void anAgentWithoutAConfigurationIsReported();
 
 private:
     ModalDriver& modals() { return *test_.modals; }
@@ -340,7 +340,7 @@ void ConfigurationDialogsTest::runningNowWritesNothing() {
                  Calls{"ClientConfiguration." + method.toStdString() + "()"});
 }
 
-void ConfigurationDialogsTest::aRunThatFailsIsToldAndClosesToo_data() {
+void ConfigurationDialogsTest::aRunThatFailsIsReportedAndClosesToo_data() {
     QTest::addColumn<QString>("button");
     QTest::addColumn<QString>("method");
     QTest::addColumn<int>("after");
@@ -350,7 +350,7 @@ void ConfigurationDialogsTest::aRunThatFailsIsToldAndClosesToo_data() {
         QTest::addRow("%s, manager", button) << q(button) << q("getConfigurationManager") << 1;
 }
 
-void ConfigurationDialogsTest::aRunThatFailsIsToldAndClosesToo() {
+void ConfigurationDialogsTest::aRunThatFailsIsReportedAndClosesToo() {
     QFETCH(QString, button);
     QFETCH(QString, method);
     QFETCH(int, after);
@@ -397,7 +397,7 @@ void ConfigurationDialogsTest::aFaultEndsTheTimes() {
     QCOMPARE(test_.agent->waitingInjections(), std::size_t{0});
 }
 
-void ConfigurationDialogsTest::anAgentWithoutAConfigurationIsTold() {
+void ConfigurationDialogsTest::anAgentWithoutAConfigurationIsReported() {
     const auto expectBox = [this](const char* title) {
         test_.agent->inject("getConfigurationManager", simulator::NullResult{});
         modals().expectErrorBox(q(title), q("The agent did not return the requested object."));

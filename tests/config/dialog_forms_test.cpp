@@ -64,8 +64,8 @@ private slots:
     void tabGoesThroughTheFields_data();
     void tabGoesThroughTheFields();
 
-    void keysAreNeverTold();
-    void passwordsAreNeverTold();
+    void keysAreNeverAnnounced();
+    void passwordsAreNeverAnnounced();
 
 private:
     /// Opens the dialog of the slot, inspects it, and closes it.
@@ -87,7 +87,7 @@ private:
             act(dialog);
         });
     }
-    void verifyUntold(QWidget& dialog, std::initializer_list<const char*> secrets) {
+    void verifyUnannounced(QWidget& dialog, std::initializer_list<const char*> secrets) {
         for (const char* secret : secrets) {
             QVERIFY(!support::gives(dialog, q(secret)));
             QVERIFY(!support::gives(test_.driver->window(), q(secret)));
@@ -318,12 +318,12 @@ void DialogFormsTest::tabGoesThroughTheFields() {
     });
 }
 
-void DialogFormsTest::keysAreNeverTold() {
+void DialogFormsTest::keysAreNeverAnnounced() {
     LogKeeper log;
     const QString before = QDir::currentPath();
     QVERIFY(QDir::setCurrent(folder_.path()));
     const auto verify = [this](QWidget& dialog) {
-        verifyUntold(dialog, {"quick brown", "lazy dog", "typed key", "file key"});
+        verifyUnannounced(dialog, {"quick brown", "lazy dog", "typed key", "file key"});
     };
     expectDialog([&](QWidget& dialog) {
         verify(dialog);
@@ -351,17 +351,17 @@ void DialogFormsTest::keysAreNeverTold() {
         QCOMPARE(LogKeeper::lines.filter(q(secret)), QStringList());
 }
 
-void DialogFormsTest::passwordsAreNeverTold() {
+void DialogFormsTest::passwordsAreNeverAnnounced() {
     LogKeeper log;
     lookAtAccount([this](QWidget& dialog) {
-        verifyUntold(dialog, {"correct horse"});
+        verifyUnannounced(dialog, {"correct horse"});
         for (const char* name : {"editPassword", "editConfirm"})
             type(dialog, name, "a typed password");
-        verifyUntold(dialog, {"correct horse", "a typed password"});
+        verifyUnannounced(dialog, {"correct horse", "a typed password"});
         test_.agent->inject("setADUserInfo", simulator::Fault{"Out of order."});
         modals().expectErrorBox(q("LDAP User Validation Error"), q("Out of order."));
         press(dialog, "btnValidate");
-        verifyUntold(dialog, {"a typed password"});
+        verifyUnannounced(dialog, {"a typed password"});
     });
     for (const char* secret : {"correct horse", "a typed password"})
         QCOMPARE(LogKeeper::lines.filter(q(secret)), QStringList());

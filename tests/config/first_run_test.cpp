@@ -29,8 +29,8 @@ private slots:
 
     void theFirstRunIsSaved();
     void theFirstRunRegistersAndStartsTheDailyAdmin();
-    void aDailyAdminThatFailsIsTold_data();
-    void aDailyAdminThatFailsIsTold();
+    void aDailyAdminThatFailsIsReported_data();
+    void aDailyAdminThatFailsIsReported();
     void cancellingTheFirstRunDisconnects_data();
     void cancellingTheFirstRunDisconnects();
     void aNewAgentAsksAtTheLogin();
@@ -40,7 +40,7 @@ private slots:
     void aFaultAtSavingLeavesItOpen_data();
     void aFaultAtSavingLeavesItOpen();
     void aSecondPressSavesAllAgain();
-    void aSessionThatEndsMeanwhileIsToldAtSaving();
+    void aSessionThatEndsMeanwhileIsReportedAtSaving();
 
 private:
     /// Fills in everything, ticks the registration, and saves. Starting the daily work may then
@@ -98,7 +98,7 @@ void FirstRunTest::theFirstRunRegistersAndStartsTheDailyAdmin() {
     change([](World& world) { QCOMPARE(world.configuration.registrations, 1); });
 }
 
-void FirstRunTest::aDailyAdminThatFailsIsTold_data() {
+void FirstRunTest::aDailyAdminThatFailsIsReported_data() {
     QTest::addColumn<QString>("method");
     QTest::addColumn<int>("after");
     QTest::addColumn<int>("calls");
@@ -107,7 +107,7 @@ void FirstRunTest::aDailyAdminThatFailsIsTold_data() {
     QTest::newRow("run") << q("start_daily_admin") << 0 << all;
 }
 
-void FirstRunTest::aDailyAdminThatFailsIsTold() {
+void FirstRunTest::aDailyAdminThatFailsIsReported() {
     QFETCH(QString, method);
     QFETCH(int, after);
     QFETCH(int, calls);
@@ -243,7 +243,7 @@ void FirstRunTest::aSecondPressSavesAllAgain() {
     change([](World& world) { QCOMPARE(world.configuration.registrations, 1); });
 }
 
-void FirstRunTest::aSessionThatEndsMeanwhileIsToldAtSaving() {
+void FirstRunTest::aSessionThatEndsMeanwhileIsReportedAtSaving() {
     expectDialog([this](QWidget& dialog) {
         fill(dialog);
         failAfter(*test_.agent, 0, "getTarnClientInfo");

@@ -61,12 +61,12 @@ private slots:
     void aFailureLeavesTheRestOfTheOrphans();
     void theDatabaseIsRecovered();
     void noMeansNoRecovery();
-    void aDatabaseThatCantBeRecoveredIsTold_data();
-    void aDatabaseThatCantBeRecoveredIsTold();
+    void aDatabaseThatCantBeRecoveredIsReported_data();
+    void aDatabaseThatCantBeRecoveredIsReported();
     void cancellingDoesNothing();
     void nothingOpensOnAFault_data();
     void nothingOpensOnAFault();
-    void anAgentWithoutAManagerIsTold();
+    void anAgentWithoutAManagerIsReported();
 
 private:
     ModalDriver& modals() { return *test_.modals; }
@@ -229,7 +229,7 @@ void RecoveryDialogTest::noMeansNoRecovery() {
     compareCalls(countingCalls);
 }
 
-void RecoveryDialogTest::aDatabaseThatCantBeRecoveredIsTold_data() {
+void RecoveryDialogTest::aDatabaseThatCantBeRecoveredIsReported_data() {
     QTest::addColumn<QString>("method");
     QTest::addColumn<int>("after");
     QTest::addColumn<int>("calls");
@@ -237,7 +237,7 @@ void RecoveryDialogTest::aDatabaseThatCantBeRecoveredIsTold_data() {
     QTest::newRow("recovery") << q("recover_tarnclient_database") << 0 << 4;
 }
 
-void RecoveryDialogTest::aDatabaseThatCantBeRecoveredIsTold() {
+void RecoveryDialogTest::aDatabaseThatCantBeRecoveredIsReported() {
     QFETCH(QString, method);
     QFETCH(int, after);
     QFETCH(int, calls);
@@ -275,7 +275,7 @@ void RecoveryDialogTest::nothingOpensOnAFault() {
     compareCalls(first(calls, countingCalls));
 }
 
-void RecoveryDialogTest::anAgentWithoutAManagerIsTold() {
+void RecoveryDialogTest::anAgentWithoutAManagerIsReported() {
     test_.agent->inject("getSystemActivityManager", simulator::NullResult{});
     modals().expectErrorBox(q("Configuration Error"),
                             q("The agent did not return the requested object."));

@@ -34,9 +34,9 @@ private slots:
     void theNumbersAreShown();
     void registeringAgainReplacesItsStatus_data();
     void registeringAgainReplacesItsStatus();
-    void theStatusTellsThatItIsRegistering();
-    void whatTheAgentTellsDoesNotStretchTheDialog_data();
-    void whatTheAgentTellsDoesNotStretchTheDialog();
+    void theStatusReportsThatItIsRegistering();
+    void whatTheAgentReportsDoesNotStretchTheDialog_data();
+    void whatTheAgentReportsDoesNotStretchTheDialog();
     void noRegistrationOpensOnAFault_data();
     void noRegistrationOpensOnAFault();
 
@@ -96,7 +96,7 @@ void RegisterDialogTest::registeringAgainReplacesItsStatus() {
     test_.agent->withWorld([](World& world) { QCOMPARE(world.configuration.registrations, 1); });
 }
 
-void RegisterDialogTest::theStatusTellsThatItIsRegistering() {
+void RegisterDialogTest::theStatusReportsThatItIsRegistering() {
     expectRegister([](QWidget& dialog) {
         QVERIFY(QTest::qWaitForWindowExposed(&dialog));
         StatusWatch watch(child<QLabel>(dialog, "labStatus"));
@@ -107,13 +107,13 @@ void RegisterDialogTest::theStatusTellsThatItIsRegistering() {
     openRegister();
 }
 
-void RegisterDialogTest::whatTheAgentTellsDoesNotStretchTheDialog_data() {
+void RegisterDialogTest::whatTheAgentReportsDoesNotStretchTheDialog_data() {
     QTest::addColumn<QString>("text");
     QTest::newRow("one word") << QString(20000, QLatin1Char('W'));
     QTest::newRow("many lines") << q("word\n").repeated(4000);
 }
 
-void RegisterDialogTest::whatTheAgentTellsDoesNotStretchTheDialog() {
+void RegisterDialogTest::whatTheAgentReportsDoesNotStretchTheDialog() {
     QFETCH(QString, text);
     const hessiancln::tarnc_reg_info before = [this] {
         hessiancln::tarnc_reg_info registration;
@@ -121,8 +121,8 @@ void RegisterDialogTest::whatTheAgentTellsDoesNotStretchTheDialog() {
         return registration;
     }();
     test_.agent->withWorld([&](World& world) {
-        auto& told = world.registration;
-        told.customer_name = told.account_num = told.client_num = text.toStdString();
+        auto& reported = world.registration;
+        reported.customer_name = reported.account_num = reported.client_num = text.toStdString();
     });
     test_.agent->inject("re_register", simulator::Fault{text.toStdString()});
     expectRegister([&text](QWidget& dialog) {

@@ -116,30 +116,31 @@ TEST(RegistrationEntries, NeedEachChoice) {
 // From the last check to the first: each step adds a problem that precedes those so far.
 TEST(RegistrationEntries, AreCheckedInOrder) {
     RegistrationEntries entries = good();
-    const auto told = [&entries] { return problemOf(entries).toStdString(); };
+    const auto reported = [&entries] { return problemOf(entries).toStdString(); };
     entries.industryChosen = false;
-    EXPECT_EQ(told(), "Please select a industry vertical.");
+    EXPECT_EQ(reported(), "Please select a industry vertical.");
     entries.employeesChosen = false;
-    EXPECT_EQ(told(), "Please select a number of employees.");
+    EXPECT_EQ(reported(), "Please select a number of employees.");
     entries.countryChosen = false;
-    EXPECT_EQ(told(), "Please select a country.");
+    EXPECT_EQ(reported(), "Please select a country.");
     entries.accountKeyConfirm = other;
-    EXPECT_EQ(told(), "The account encryption keys you typed do not match.");
+    EXPECT_EQ(reported(), "The account encryption keys you typed do not match.");
     entries.accountKey = QString();
-    EXPECT_EQ(told(), "Please select \"NONE\" as the account key ecnryption type if you want to "
-                      "input the empty account key!!");
+    EXPECT_EQ(reported(),
+              "Please select \"NONE\" as the account key ecnryption type if you want to "
+              "input the empty account key!!");
     entries.privateKey = entries.privateKeyConfirm = QString();
-    EXPECT_EQ(told(), "Private key is needed for initialization.");
+    EXPECT_EQ(reported(), "Private key is needed for initialization.");
     entries.privateKeyConfirm = other;
-    EXPECT_EQ(told(), "The private encryption keys you typed do not match.");
+    EXPECT_EQ(reported(), "The private encryption keys you typed do not match.");
     entries.addresses = 0;
-    EXPECT_EQ(told(), "Need at least one Tarn-System address for initialization.");
+    EXPECT_EQ(reported(), "Need at least one Tarn-System address for initialization.");
     entries.clientNumber = QStringLiteral("1");
-    EXPECT_EQ(told(), "Client number needs to have 12 characters.");
+    EXPECT_EQ(reported(), "Client number needs to have 12 characters.");
     entries.clientNumber = QString();
-    EXPECT_EQ(told(), "Client Number is needed for initialization.");
+    EXPECT_EQ(reported(), "Client Number is needed for initialization.");
     entries.accountNumber = QString();
-    EXPECT_EQ(told(), "Account Number is needed for initialization.");
+    EXPECT_EQ(reported(), "Account Number is needed for initialization.");
     entries.customerName = QString();
-    EXPECT_EQ(told(), "Customer name is needed for initialization.");
+    EXPECT_EQ(reported(), "Customer name is needed for initialization.");
 }

@@ -73,14 +73,14 @@ private slots:
     void givingUpTheImportChangesNothing();
     void forwardingSendsTheWholeList();
     void givingUpTheCodeSendsNothing();
-    void aListThatIsRefusedIsTold();
+    void aListThatIsRefusedIsReported();
     void closingForgetsWhatWasChanged();
     void aCodeIsAskedForAtOnce();
     void anotherCodeIsSentOnDemand();
     void aWrongCodeLeavesTheDialogOpen();
     void aCodeThatCantBeSentLeavesTheDialogOpen();
     void theCodeDialogSaysWhatItWants();
-    void anAgentWithoutAManagerOfCodesIsTold();
+    void anAgentWithoutAManagerOfCodesIsReported();
     void theDialogsFollowTheLanguage();
 };
 
@@ -412,7 +412,7 @@ void TFADialogsTest::givingUpTheCodeSendsNothing() {
     agent_->withWorld([](World& world) { QCOMPARE(world.userEmails.size(), std::size_t{2}); });
 }
 
-void TFADialogsTest::aListThatIsRefusedIsTold() {
+void TFADialogsTest::aListThatIsRefusedIsReported() {
     agent_->inject("setUserEmails", Fault{"Out of order."});
     withViewer([this](QWidget& viewer) {
         expectCode([](QWidget& dialog) {
@@ -484,7 +484,7 @@ void TFADialogsTest::aCodeThatCantBeSentLeavesTheDialogOpen() {
     QCOMPARE(TFACodeDlg(1, nullptr).exec(), int(QDialog::Rejected));
 }
 
-void TFADialogsTest::anAgentWithoutAManagerOfCodesIsTold() {
+void TFADialogsTest::anAgentWithoutAManagerOfCodesIsReported() {
     const auto expectBox = [this](const char* title) {
         modals_->expectErrorBox(q(title), q("The agent did not return the requested object."));
     };

@@ -30,7 +30,7 @@ private slots:
     void aFaultOfTheDeletion();
     void aFaultOfAFilterLeavesThePage_data();
     void aFaultOfAFilterLeavesThePage();
-    void aFolderThatFailsIsToldOnce();
+    void aFolderThatFailsIsReportedOnce();
     void aGroupThatFailsEndsTheDeletion();
     void aGroupThatHoldsNothingDeletesNothing();
 
@@ -108,7 +108,7 @@ void DeleteFaultsTest::aFaultOfAFilterLeavesThePage() {
     test_.run("OnDelete");
 }
 
-void DeleteFaultsTest::aFolderThatFailsIsToldOnce() {
+void DeleteFaultsTest::aFolderThatFailsIsReportedOnce() {
     test_.agent->withWorld([](World& world) {
         for (const char* path : {"C:\\locked", "C:\\too"})
             world.set(setId)->stored->addFolder(path).denied = "Keep out.";

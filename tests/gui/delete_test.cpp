@@ -93,7 +93,7 @@ private slots:
     void aFieldThatIsHalfTypedGoesWithTheWizard_data();
     void aFieldThatIsHalfTypedGoesWithTheWizard();
     void aFilterThatCantBeSwitchedOnStaysDisabled();
-    void eachValueOfTheFilterAsksAnew();
+    void eachValueOfTheFilterAsksAgain();
     void aSetThatGoesUnderTheWizard();
 
 private:
@@ -346,7 +346,7 @@ void DeleteTest::aFilterThatCantBeSwitchedOnStaysDisabled() {
     test_.run("OnDelete");
 }
 
-void DeleteTest::eachValueOfTheFilterAsksAnew() {
+void DeleteTest::eachValueOfTheFilterAsksAgain() {
     start([](World& world) { gui::store(world); });
     test_.driver->sets().selectRow(gui::setRow);
     test_.modals->expect(q("wizard"), isDialog<QWizard>, [&](QWidget& widget) {

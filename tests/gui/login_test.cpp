@@ -268,10 +268,10 @@ private slots:
         QVERIFY(!dialog.isVisible());
     }
 
-    void anAbsentAgentIsTold() {
+    void anAbsentAgentIsReported() {
         expectFailure(
             session::fromWire("Failed to connect to '127.0.0.1' on port 4411. O/S error " +
-                              support::failures::refused().told()));
+                              support::failures::refused().reported()));
     }
 
     void anAgentOfAnotherKindIsRefused() {
@@ -283,7 +283,7 @@ private slots:
         QCOMPARE(session::clientType(), 1);
     }
 
-    void aFaultIsToldAsItCame() {
+    void aFaultIsReportedAsItCame() {
         GuiAgent agent;
         agent.inject("login", simulator::Fault{"<b>No</b> & never"});
         expectFailure(QStringLiteral("<b>No</b> & never"));

@@ -119,12 +119,12 @@ private slots:
     void theTablesShowWhatTheAgentHas();
     void theLogKeepsItsPlaceAndItsSelection();
     void backsUpTheSelectedSet();
-    void aBackupThatFailsIsTold_data();
-    void aBackupThatFailsIsTold();
+    void aBackupThatFailsIsReported_data();
+    void aBackupThatFailsIsReported();
     void synchronizesTheSelectedSet();
-    void aSynchronisationThatFailsIsTold();
+    void aSynchronisationThatFailsIsReported();
     void stopsTheSelectedActivities();
-    void aStopThatFailsIsTold();
+    void aStopThatFailsIsReported();
     void stopNeedsASelectedActivity();
     void startsTheDailyAdmin();
     void theEventLogOpensOnYesterdayAndToday();
@@ -132,10 +132,10 @@ private slots:
     void aDoubleClickOpensTheEventsOfARow();
     void anActivityWithoutIdOpensTheEventLogOnItsTimes();
     void theAboutBoxOpens();
-    void anAboutBoxThatCantAskIsTold();
+    void anAboutBoxThatCantAskIsReported();
     void theLogoOpensTheHomePage();
     void helpOpensTheGuide();
-    void helpThatCantBeOpenedIsTold();
+    void helpThatCantBeOpenedIsReported();
 
 private:
     SimpleGUIMainWindow& window() { return driver_->window(); }
@@ -281,14 +281,14 @@ void MainWindowActivitiesTest::backsUpTheSelectedSet() {
     QCOMPARE(agent_->liveObjects().size(), std::size_t(1));
 }
 
-void MainWindowActivitiesTest::aBackupThatFailsIsTold_data() {
+void MainWindowActivitiesTest::aBackupThatFailsIsReported_data() {
     QTest::addColumn<QString>("method");
     for (const char* method : {"backup_set", "items", "createDefaultBackupParameters",
                                "setDoRetentionAfter", "setPreScanSource", "start_backup"})
         QTest::newRow(method) << QString::fromLatin1(method);
 }
 
-void MainWindowActivitiesTest::aBackupThatFailsIsTold() {
+void MainWindowActivitiesTest::aBackupThatFailsIsReported() {
     QFETCH(QString, method);
     select(0);
     agent_->inject(session::toWire(method), simulator::Fault{"Out of order."});
@@ -314,7 +314,7 @@ void MainWindowActivitiesTest::synchronizesTheSelectedSet() {
     QCOMPARE(driver_->rows("tableCurrentActivities"), 2);
 }
 
-void MainWindowActivitiesTest::aSynchronisationThatFailsIsTold() {
+void MainWindowActivitiesTest::aSynchronisationThatFailsIsReported() {
     select(0);
     agent_->inject("start_sync", simulator::Fault{"Out of order."});
     ModalDriver modals;
@@ -351,7 +351,7 @@ void MainWindowActivitiesTest::stopsTheSelectedActivities() {
     QCOMPARE(driver_->rows("tableCurrentActivities"), 0);
 }
 
-void MainWindowActivitiesTest::aStopThatFailsIsTold() {
+void MainWindowActivitiesTest::aStopThatFailsIsReported() {
     table("tableCurrentActivities").selectRow(0);
     agent_->inject("activity", simulator::NullResult{});
     ModalDriver modals;
@@ -474,7 +474,7 @@ void MainWindowActivitiesTest::theAboutBoxOpens() {
     QCOMPARE(methodsOf(*agent_), Calls{"getTarnClientInfo"});
 }
 
-void MainWindowActivitiesTest::anAboutBoxThatCantAskIsTold() {
+void MainWindowActivitiesTest::anAboutBoxThatCantAskIsReported() {
     agent_->inject("getTarnClientInfo", simulator::Fault{"Out of order."});
     ModalDriver modals;
     modals.expectErrorBox(QStringLiteral("Configuration Error"), faultText);
@@ -498,7 +498,7 @@ void MainWindowActivitiesTest::helpOpensTheGuide() {
     QCOMPARE(opened_, QStringList{QUrl::fromLocalFile(guide.path()).toString()});
 }
 
-void MainWindowActivitiesTest::helpThatCantBeOpenedIsTold() {
+void MainWindowActivitiesTest::helpThatCantBeOpenedIsReported() {
     if (QGuiApplication::platformName() != QLatin1String("offscreen"))
         QSKIP("Here a browser may open");
     // The build may have put a guide next to the program, but this platform has no viewer for it.

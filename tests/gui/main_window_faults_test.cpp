@@ -91,7 +91,7 @@ private slots:
     void aLastingFailureOfTheDetailsHasOneBoxAtATime();
     void theSessionMayEndUnderTheBoxOfTheDetails_data();
     void theSessionMayEndUnderTheBoxOfTheDetails();
-    void aSetThatIsNoneIsToldOfToo();
+    void aSetThatIsNoneIsReportedToo();
     void anAgentWithoutTwoFactorManagerEndsTheSession();
     void aFailureAtLoginLeavesADisconnectedWindow();
     void aDeadAgentIsLeftAtOnce();
@@ -292,7 +292,7 @@ void MainWindowFaultsTest::theSessionMayEndUnderTheBoxOfTheDetails() {
     QCOMPARE(driver_->cards(), cardsOf(*agent_));
 }
 
-void MainWindowFaultsTest::aSetThatIsNoneIsToldOfToo() {
+void MainWindowFaultsTest::aSetThatIsNoneIsReportedToo() {
     ModalDriver modals;
     modals.expectErrorBox(QStringLiteral("Error checking backup set properties"),
                           QStringLiteral("The agent doesn't know this backup set."));

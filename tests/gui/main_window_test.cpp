@@ -114,15 +114,15 @@ private slots:
         QCOMPARE(agent.violations(), std::vector<std::string>{});
     }
 
-    void tellsWhyTheFirstLoginFailed() {
+    void reportsWhyTheFirstLoginFailed() {
         QVERIFY(!window().doLogin(true));
         QCOMPARE(status(),
                  session::fromWire("Failed to connect to '127.0.0.1' on port 4411. O/S error " +
-                                   support::failures::refused().told()));
+                                   support::failures::refused().reported()));
         QCOMPARE(window().windowTitle(), plainTitle);
     }
 
-    void tellsOfTheFirstLoginBeforeThatBlocks() {
+    void reportsTheFirstLoginBeforeThatBlocks() {
         const PaintedStatus painted(*window().statusBar());
         QVERIFY(!window().doLogin(true));
         QVERIFY(!painted.texts.isEmpty());

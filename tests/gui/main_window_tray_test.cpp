@@ -68,11 +68,11 @@ private slots:
     void announcesWhatBeginsAndEnds();
     void theVisibleActiveWindowAnnouncesNothingButKeepsTrack();
     void aVisibleWindowBehindAnotherOneAnnounces();
-    void whatCameAndWentBetweenHeartbeatsIsNeverTold();
+    void whatCameAndWentBetweenHeartbeatsIsNeverReported();
     void oldWorkIsAnnouncedOnlyAtItsEnd();
     void aLoginAnnouncesTheYoungOnly();
     void aLostSessionLeavesNothingToAnnounce();
-    void aLookUpThatFailsTellsTheDescription();
+    void aLookUpThatFailsReportsTheDescription();
 
 private:
     SimpleGUIMainWindow& window() { return driver_->window(); }
@@ -241,7 +241,7 @@ void MainWindowTrayTest::aVisibleWindowBehindAnotherOneAnnounces() {
     QTRY_VERIFY(window().isActiveWindow());
 }
 
-void MainWindowTrayTest::whatCameAndWentBetweenHeartbeatsIsNeverTold() {
+void MainWindowTrayTest::whatCameAndWentBetweenHeartbeatsIsNeverReported() {
     watch();
     agent_->withWorld([](World& world) {
         const auto id = world.start(world.backupOf(world.sets().front(), "anna"));
@@ -289,7 +289,7 @@ void MainWindowTrayTest::aLostSessionLeavesNothingToAnnounce() {
     QVERIFY(tray().balloons.isEmpty());
 }
 
-void MainWindowTrayTest::aLookUpThatFailsTellsTheDescription() {
+void MainWindowTrayTest::aLookUpThatFailsReportsTheDescription() {
     watch();
     agent_->withWorld([](World& world) {
         auto plan = world.backupOf(world.sets().front(), "anna");

@@ -48,9 +48,9 @@ private slots:
     void cleanupTestCase();
     void cleanup();
 
-    void aFaultIsToldAndStopsTheFlow_data();
-    void aFaultIsToldAndStopsTheFlow();
-    void aCutConnectionIsTold();
+    void aFaultIsReportedAndStopsTheFlow_data();
+    void aFaultIsReportedAndStopsTheFlow();
+    void aCutConnectionIsReported();
     void referencesThatCantBeReleasedStopNothing();
 
 private:
@@ -156,13 +156,13 @@ void NewSetFaultsTest::expectAfterFault(OnFault onFault) {
     }
 }
 
-void NewSetFaultsTest::aFaultIsToldAndStopsTheFlow_data() {
+void NewSetFaultsTest::aFaultIsReportedAndStopsTheFlow_data() {
     QTest::addColumn<int>("number");
     for (std::size_t i = 0; i < newSetTable.size(); ++i)
         QTest::addRow("%zu %s", i, methodOf(newSetTable[i].text).c_str()) << static_cast<int>(i);
 }
 
-void NewSetFaultsTest::aFaultIsToldAndStopsTheFlow() {
+void NewSetFaultsTest::aFaultIsReportedAndStopsTheFlow() {
     QFETCH(int, number);
     const auto index = static_cast<std::size_t>(number);
     const OnFault onFault = newSetTable[index].onFault;
@@ -184,7 +184,7 @@ void NewSetFaultsTest::aFaultIsToldAndStopsTheFlow() {
     QCOMPARE(support::difference(methods(callsOf(*agent_)), expected), QString());
 }
 
-void NewSetFaultsTest::aCutConnectionIsTold() {
+void NewSetFaultsTest::aCutConnectionIsReported() {
     agent_->inject("createBackupSet", simulator::CutBefore{});
     expectWizard();
     modals_->expect(

@@ -92,8 +92,8 @@ private slots:
     void init() { restoresBefore_ = restoresUnderWay(); }
     void cleanup();
 
-    void aFaultIsToldAndStopsTheFlow_data();
-    void aFaultIsToldAndStopsTheFlow();
+    void aFaultIsReportedAndStopsTheFlow_data();
+    void aFaultIsReportedAndStopsTheFlow();
     void aFaultOnTheWayToTheOriginalPlace_data();
     void aFaultOnTheWayToTheOriginalPlace();
     void aFaultOfAFilterLeavesThePage_data();
@@ -102,7 +102,7 @@ private slots:
     void aFaultOfTheGenerationsLeavesThePage();
     void anObjectThatIsMissing_data();
     void anObjectThatIsMissing();
-    void aFolderOfTheDestinationThatFailsIsNotTold();
+    void aFolderOfTheDestinationThatFailsIsNotReported();
     void aPageWithoutDirectoryCanBeTriedAgain();
     void theDirectoryOfAnotherComputerGoes();
 
@@ -194,13 +194,13 @@ std::size_t RestoreFaultsTest::restoresUnderWay() {
     return count;
 }
 
-void RestoreFaultsTest::aFaultIsToldAndStopsTheFlow_data() {
+void RestoreFaultsTest::aFaultIsReportedAndStopsTheFlow_data() {
     QTest::addColumn<int>("number");
     for (std::size_t i = 0; i < flow.size(); ++i)
         QTest::addRow("%zu %s", i, flow[i].method) << static_cast<int>(i);
 }
 
-void RestoreFaultsTest::aFaultIsToldAndStopsTheFlow() {
+void RestoreFaultsTest::aFaultIsReportedAndStopsTheFlow() {
     QFETCH(int, number);
     const auto index = static_cast<std::size_t>(number);
     const OnFault onFault = flow[index].onFault;
@@ -337,7 +337,7 @@ void RestoreFaultsTest::anObjectThatIsMissing() {
     QCOMPARE(restoresUnderWay(), restoresBefore_);
 }
 
-void RestoreFaultsTest::aFolderOfTheDestinationThatFailsIsNotTold() {
+void RestoreFaultsTest::aFolderOfTheDestinationThatFailsIsNotReported() {
     test_.modals->expect(q("wizard"), isDialog<QWizard>, [](QWidget& wizard) {
         QVERIFY(support::finishWizard(wizard, [](QWizardPage& page) {
             wishing(wishes)(page);

@@ -148,7 +148,7 @@ TEST(Reader, FaultWithMessageFirst) {
     EXPECT_EQ(fault.message, "m");
 }
 
-TEST(Reader, FaultTellsItsMessageTwice) {
+TEST(Reader, FaultReportsItsMessageTwice) {
     const Message message(bytes("66 53 00 07 'message' 53 00 01 'm' 53 00 07 'message'"
                                 "53 00 01 'n' 7A"));
     auto in = message.cursor();

@@ -14,7 +14,7 @@ constexpr const char* continuation =
     "Invalid UTF-8 character: continuation character at the beginning";
 constexpr const char* tooLarge = "Invalid UTF-8 character: character byte count too large";
 
-TEST(Utf8, TellsTheLengthFromTheFirstByte) {
+TEST(Utf8, ReportsTheLengthFromTheFirstByte) {
     EXPECT_EQ(utf8SequenceLength(0x00), 1u);
     EXPECT_EQ(utf8SequenceLength(0x7F), 1u);
     EXPECT_EQ(utf8SequenceLength(0xC0), 2u);

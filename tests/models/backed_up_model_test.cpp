@@ -77,11 +77,11 @@ private slots:
     void rolesOfAnItem();
     void onlyTheCheckStateCanBeSet();
     void checkingFetchesNothingAndIsInherited();
-    void eachChangeIsToldOnce();
+    void eachChangeIsReportedOnce();
     void aSingleTopLevelEntrySelectsAll();
     void aPartialCheckSelectsButNotAll();
-    void aFailedFolderIsToldLaterAndStaysEmpty();
-    void aFailedTopLevelIsToldAtOnce();
+    void aFailedFolderIsReportedLaterAndStaysEmpty();
+    void aFailedTopLevelIsReportedAtOnce();
     void directoriesOnly();
     void filesOfTheChosenFolder();
     void anEmptyFilterShowsAllFilesOfTheFolder();
@@ -227,7 +227,7 @@ void BackedUpModelTest::checkingFetchesNothingAndIsInherited() {
     QCOMPARE(state(*model_, "C:/users/bob/c.txt"), 2);
 }
 
-void BackedUpModelTest::eachChangeIsToldOnce() {
+void BackedUpModelTest::eachChangeIsReportedOnce() {
     indexAt(*model_, "C:/users/Ann/a.doc");
     const QSignalSpy changed(model_.get(), &CBackedUpDataModel::dataChanged);
     const QSignalSpy selected(model_.get(), &CBackedUpDataModel::itemSelectionChanged);
@@ -258,7 +258,7 @@ void BackedUpModelTest::aPartialCheckSelectsButNotAll() {
     QVERIFY(!model_->hasSelection());
 }
 
-void BackedUpModelTest::aFailedFolderIsToldLaterAndStaysEmpty() {
+void BackedUpModelTest::aFailedFolderIsReportedLaterAndStaysEmpty() {
     agent_->items.erase(10);
     const QModelIndex users = indexAt(*model_, "C:/users");
     calls();
@@ -272,7 +272,7 @@ void BackedUpModelTest::aFailedFolderIsToldLaterAndStaysEmpty() {
     QCOMPARE(calls(), q("10"));
 }
 
-void BackedUpModelTest::aFailedTopLevelIsToldAtOnce() {
+void BackedUpModelTest::aFailedTopLevelIsReportedAtOnce() {
     agent_->items.erase(-1);
     QVERIFY_EXCEPTION_THROWN(model_->fetchTopLevel(), hessiancln::invoke_exception);
     model_->fetchTopLevel();

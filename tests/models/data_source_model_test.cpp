@@ -69,7 +69,7 @@ private slots:
     void whatIsLoadedLaterTakesOverTheState();
     void uncheckingBelowACheckedFolderExcludesAndHidesTheBoxesBelow();
     void checkingAndCollectingFetchNothing();
-    void eachChangeIsToldOnce();
+    void eachChangeIsReportedOnce();
     void aFolderWithoutAccessHasASignAndNoArrow();
     void aFolderThatTurnsOutEmptyHasNoArrow();
     void anItemIsMarkedByItsPath();
@@ -280,22 +280,22 @@ void DataSourceModelTest::checkingAndCollectingFetchNothing() {
     QCOMPARE(calls(), QString());
 }
 
-void DataSourceModelTest::eachChangeIsToldOnce() {
+void DataSourceModelTest::eachChangeIsReportedOnce() {
     model_->rowCount(indexAt(*model_, "D:"));
-    QStringList told;
+    QStringList reported;
     connect(model_.get(), &QAbstractItemModel::dataChanged, this,
             [&](const QModelIndex& first, const QModelIndex& last) {
                 QCOMPARE(first, last);
-                told << first.data().toString();
+                reported << first.data().toString();
             });
     connect(model_.get(), &CDataSourceModel::itemSelectionChanged, this,
-            [&] { told << QStringLiteral("!"); });
+            [&] { reported << QStringLiteral("!"); });
     check(*model_, "D:", true);
     // The invisible root comes last.
-    QCOMPARE(told.join(QLatin1Char(' ')), QStringLiteral("D: ! x ! y ! !"));
-    told.clear();
+    QCOMPARE(reported.join(QLatin1Char(' ')), QStringLiteral("D: ! x ! y ! !"));
+    reported.clear();
     check(*model_, "D:/x", false);
-    QCOMPARE(told.join(QLatin1Char(' ')), QStringLiteral("x !"));
+    QCOMPARE(reported.join(QLatin1Char(' ')), QStringLiteral("x !"));
 }
 
 void DataSourceModelTest::aFolderWithoutAccessHasASignAndNoArrow() {

@@ -153,16 +153,16 @@ TEST(MarkPathTest, NodesBelowStayAsTheyAre) {
     EXPECT_EQ(states(*tree), "2 C:2 a0 b2");
 }
 
-TEST(MarkPathTest, TheAncestorsAreToldOfButNotTheNode) {
+TEST(MarkPathTest, TheAncestorsAreAnnouncedButNotTheNode) {
     const auto tree = root(no, {folder("C:", no, {folder("d", no, {file("x"), file("y")})})});
-    std::string told;
+    std::string reported;
     markPath(*tree, {"C:\\d\\x", false},
-             [&](const CheckableNode& node) { told += node.name() + ' '; });
-    EXPECT_EQ(told, "d C:  ");
-    told.clear();
+             [&](const CheckableNode& node) { reported += node.name() + ' '; });
+    EXPECT_EQ(reported, "d C:  ");
+    reported.clear();
     markPath(*tree, {"C:\\d\\y", true},
-             [&](const CheckableNode& node) { told += node.name() + ' '; });
-    EXPECT_EQ(told, "");
+             [&](const CheckableNode& node) { reported += node.name() + ' '; });
+    EXPECT_EQ(reported, "");
 }
 
 TEST(MarkPathTest, TheFirstOfTwoNamesThatDifferInCaseIsMarked) {

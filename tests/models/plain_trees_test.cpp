@@ -66,14 +66,14 @@ private slots:
     void theNetworkIsAModelOfQt();
     void makingTheNetworkFetchesNothing();
     void countingTheRowsOfTheNetworkFetchesNothing();
-    void anIndexOfTheNetworkFetchesAndTellsOfTheRows();
+    void anIndexOfTheNetworkFetchesAndAnnouncesTheRows();
     void theNetworkIsFetchedWhereItIsExpanded();
     void pseudoEntriesNeverAppear();
     void computersComeBeforeContainers();
     void rolesOfTheNetwork();
     void aComputerHasNothingBelowIt();
     void anUnknownKindIsAContainer();
-    void aContainerThatFailsIsTold();
+    void aContainerThatFailsIsReported();
     void theBoxIsShownWithoutTheWaitCursor();
 
     void theDestinationIsAModelOfQt();
@@ -132,7 +132,7 @@ void PlainTreesTest::countingTheRowsOfTheNetworkFetchesNothing() {
     QCOMPARE(calls(), QString());
 }
 
-void PlainTreesTest::anIndexOfTheNetworkFetchesAndTellsOfTheRows() {
+void PlainTreesTest::anIndexOfTheNetworkFetchesAndAnnouncesTheRows() {
     const QSignalSpy inserted(network_.get(), &QAbstractItemModel::rowsInserted);
     QVERIFY(network_->index(2, 0).isValid());
     QCOMPARE(calls(), QStringLiteral("networkDiscovery()"));
@@ -215,7 +215,7 @@ void PlainTreesTest::anUnknownKindIsAContainer() {
     QVERIFY(network_->hasChildren(odd));
 }
 
-void PlainTreesTest::aContainerThatFailsIsTold() {
+void PlainTreesTest::aContainerThatFailsIsReported() {
     const auto view = shown(*network_);
     const QModelIndex alpha = indexAt(*network_, "Alpha");
     QVERIFY(arrows_->hasArrow(*view, alpha));

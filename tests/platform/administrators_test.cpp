@@ -63,7 +63,7 @@ TEST(Administrators, HaveSuchAGroupAsTheirPrimaryOne) {
     EXPECT_FALSE(isAdministrator("ada", accounts));
 }
 
-TEST(Administrators, AreToldApartByCaseAndWhole) {
+TEST(Administrators, DifferByCaseAndWhole) {
     FewAccounts accounts;
     accounts.accounts["Ada"] = {1002, 1002};
     accounts.accounts["ad"] = {1003, 1003};

@@ -51,7 +51,7 @@ TEST_F(FailedLogin, AtAClosedPort) {
     const std::string port = std::to_string(closedPort());
     EXPECT_EQ(loginAt<invoke_exception>("127.0.0.1:" + port),
               "Failed to connect to '127.0.0.1' on port " + port + ". O/S error " +
-                  support::failures::refused().told());
+                  support::failures::refused().reported());
     expectNoSession();
     expectUntouchedKind();
 }
@@ -119,7 +119,7 @@ TEST_F(FailedLogin, AtAServerThatHangsUp) {
     expectUntouchedKind();
 }
 
-TEST_F(FailedLogin, WithAFaultBehindAnErrorStatusTellsTheStatus) {
+TEST_F(FailedLogin, WithAFaultBehindAnErrorStatusReportsTheStatus) {
     WebServer server([](const std::string&) {
         const std::string fault = bytes("f S 00 07 'message' S 00 02 'hi' z");
         return "HTTP/1.1 500 Internal Server Error\r\nContent-Length: " +
@@ -154,7 +154,7 @@ TEST_F(FailedLogin, WithARefusedKindStaysVisible) {
     expectStoredKind(7, false, false);
 }
 
-TEST_F(FailedLogin, KeepsTheKindThatTheAgentTold) {
+TEST_F(FailedLogin, KeepsTheKindThatTheAgentSent) {
     WebServer server(answers("r 01 00 I 00 00 00 0E z", "f z"));
     EXPECT_EQ(loginAt<invoke_exception>(server.url()), "<Message could not be parsed>");
     expectNoSession();

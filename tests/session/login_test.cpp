@@ -107,7 +107,7 @@ void PrintTo(const RefusedKind& kind, std::ostream* out) {
 class LoginOfARefusedKind : public session_tests::AgentTest,
                             public testing::WithParamInterface<RefusedKind> {};
 
-TEST_P(LoginOfARefusedKind, IsToldByName) {
+TEST_P(LoginOfARefusedKind, IsKnownByName) {
     setClientType(GetParam().type);
     EXPECT_EQ(textOf<serialize_exception>([this] { logIn(); }), GetParam().text);
     EXPECT_THAT(agent.callTexts(), ElementsAre(askKind)) << "Nothing follows a refusal";

@@ -121,7 +121,7 @@ TEST_F(SessionLifetime, SecondLoginToADeadAgentLeavesNoSession) {
     stopAgent();
     EXPECT_EQ(textOf<invoke_exception>([this] { logIn(); }),
               "Failed to connect to '127.0.0.1' on port " + std::to_string(agent.port()) +
-                  ". O/S error " + support::failures::refused().told());
+                  ". O/S error " + support::failures::refused().reported());
     EXPECT_FALSE(session::connectedToAgent());
 }
 

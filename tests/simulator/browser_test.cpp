@@ -88,7 +88,7 @@ TEST_F(Browser, LooksPastTheCaseOnWindows) {
     EXPECT_EQ(subItems("My Computer", "c:\\USERS\\Anna\\Music"), raw::reply(raw::list({})));
 }
 
-TEST_F(Browser, TellsTheCaseOnUnix) {
+TEST_F(Browser, ReportsTheCaseOnUnix) {
     open({.scenario = simulator::Scenario::Unix});
     EXPECT_EQ(subItems("Tarn-Client Computer", ""),
               raw::reply(raw::list({item(0, "/", false, 0)})));

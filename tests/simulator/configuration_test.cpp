@@ -47,7 +47,7 @@ protected:
     std::string set(std::string_view what, std::string_view value) {
         return callOn(manager_, what, value);
     }
-    std::string told(const std::string& name) {
+    std::string reported(const std::string& name) {
         std::string value;
         agent_->withWorld([&](World& world) {
             for (const auto& row : world.about)
@@ -87,17 +87,17 @@ TEST_F(Configuration, RunsItsOwnWorkOnDemand) {
     EXPECT_THAT(call("running_activities"), HasSubstr("Weekly administration"));
 }
 
-TEST_F(Configuration, TellsOfItsRegistration) {
+TEST_F(Configuration, ReportsItsRegistration) {
     open({.scenario = simulator::Scenario::FirstRun});
     EXPECT_EQ(refusalOf(callOn(manager_, "init_register")),
               "There is no registration information.");
-    EXPECT_EQ(told("InitialClient"), "Yes");
+    EXPECT_EQ(reported("InitialClient"), "Yes");
     EXPECT_EQ(set("setTarnCRegistrationInfo", registration("A", "ABCDEFGHIJK1", 5, "k")),
               raw::reply());
     EXPECT_EQ(callOn(manager_, "init_register"), raw::reply());
-    EXPECT_EQ(told("InitialClient"), "No");
-    EXPECT_EQ(told("Client Number"), "ABCDEFGHIJK1");
-    EXPECT_EQ(told("Tarn-System"), "a");
+    EXPECT_EQ(reported("InitialClient"), "No");
+    EXPECT_EQ(reported("Client Number"), "ABCDEFGHIJK1");
+    EXPECT_EQ(reported("Tarn-System"), "a");
     EXPECT_THAT(agent_->violations(), IsEmpty());
 }
 
@@ -113,7 +113,7 @@ TEST_F(Configuration, IsStrictAboutARegistration) {
     EXPECT_EQ(callOn(manager_, "getClientNumber"), raw::reply(raw::text("A4C100931700")));
 }
 
-TEST_F(Configuration, KeepsADirectoryAccountIfItIsToldTo) {
+TEST_F(Configuration, KeepsADirectoryAccountIfAskedTo) {
     EXPECT_EQ(set("setADUserInfo", account("HOME\\ada", false)), raw::reply());
     EXPECT_THAT(callOn(manager_, "getADUserInfo"), HasSubstr("OFFICE\\backup"));
     EXPECT_EQ(set("setADUserInfo", account("HOME\\ada", true)), raw::reply());

@@ -46,7 +46,7 @@ TEST_F(Login, LetsAGuestInThroughTheDialog) {
     expectIn(logInAs("", "", 1));
 }
 
-TEST_F(Login, RefusesAGuestIfTold) {
+TEST_F(Login, RefusesAGuestOnRequest) {
     start({.guest = false});
     expectRefused(logInAs("", "", 0), "A user name is needed to log in.");
 }
@@ -73,7 +73,7 @@ TEST_F(Login, RefusesAnotherUser) {
     expectRefused(logInAs("otto", "s3cret"), "Unknown user name or bad password.");
 }
 
-TEST_F(Login, TellsItsDomains) {
+TEST_F(Login, ReportsItsDomains) {
     start({.domains = {"OFFICE", "HOME"}});
     EXPECT_EQ(post(raw::call("getAvailableDomains")),
               raw::reply("V" + raw::text("OFFICE") + raw::text("HOME") + "z"));

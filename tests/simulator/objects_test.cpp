@@ -111,7 +111,7 @@ TEST_F(Objects, TakesAnObjectAsAnArgument) {
     EXPECT_THAT(agent_->violations(), IsEmpty());
 }
 
-TEST_F(Objects, TellsItsTypes) {
+TEST_F(Objects, ReportsItsTypes) {
     EXPECT_EQ(callOn(set_, "types"),
               raw::reply("V" + raw::text("BackupSet") + raw::text("Win32FS_BackupSet") + "z"));
 }

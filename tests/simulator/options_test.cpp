@@ -91,14 +91,14 @@ TEST(Options, AsksForHelpAndVersion) {
     EXPECT_EQ(parseCommandLine({"--version"}).action, Action::Version);
 }
 
-TEST(Options, HelpTellsEachOne) {
+TEST(Options, HelpReportsEachOne) {
     for (const char* option : {"--port", "--scenario", "--user", "--password", "--domain",
                                "--no-guest", "--speed", "--log", "--plain", "--help", "--version",
                                "--client-type", "--os-type", "--without-tool", "--two-factor"})
         EXPECT_NE(simulator::helpText().find(option), std::string_view::npos) << option;
 }
 
-TEST(Options, HelpTellsEachScenario) {
+TEST(Options, HelpReportsEachScenario) {
     for (const auto& [name, scenario] : simulator::allScenarios())
         EXPECT_NE(simulator::helpText().find(name), std::string_view::npos) << name;
 }

@@ -61,7 +61,7 @@ protected:
     std::string rules_;
 };
 
-TEST_F(Plans, ADetailTellsWhatItIs) {
+TEST_F(Plans, ADetailReportsWhatItIs) {
     const std::string base = raw::text("ScheduleDetail");
     EXPECT_EQ(callOn(weekly(), "types"),
               raw::reply(raw::list({base, raw::text("WeeklyScheduleDetail")})));
@@ -229,7 +229,7 @@ TEST_F(Plans, AScheduleThatWasRemovedIsGone) {
     EXPECT_EQ(refusalOf(named(schedule, "Other")), "The schedule 'Mine' was removed.");
 }
 
-TEST_F(Plans, ARuleKeepsWhatItIsTold) {
+TEST_F(Plans, ARuleKeepsWhatItIsGiven) {
     const std::string rule = getFrom(rules_, "createRule");
     const std::pair<const char*, std::string> values[] = {
         {"Name", raw::text("retention_for_set_1")},

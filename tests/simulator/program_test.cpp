@@ -44,7 +44,7 @@ TEST(Program, EndsOnSigint) {
     endsOn(SIGINT);
 }
 
-TEST(Program, ListensWithoutTlsIfTold) {
+TEST(Program, ListensWithoutTlsOnRequest) {
     Program program({"--port", "0", "--plain"});
     const std::string line = program.line();
     EXPECT_EQ(line.substr(0, 17), "http://127.0.0.1:");
@@ -109,7 +109,7 @@ TEST(Program, SaysThatTheLogCannotBeWritten) {
     EXPECT_EQ(program.status(), 1);
 }
 
-TEST(Program, TellsHelpAndVersion) {
+TEST(Program, ReportsHelpAndVersion) {
     Program help({"--help"});
     EXPECT_THAT(help.rest(), HasSubstr("Usage: tarn-agent-simulator"));
     EXPECT_EQ(help.status(), 0);

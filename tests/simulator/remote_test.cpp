@@ -126,7 +126,7 @@ TEST_F(Remote, RefusesABackupOfNothing) {
                 HasSubstr("no items"));
 }
 
-TEST_F(Remote, TellsAnItem) {
+TEST_F(Remote, ReportsAnItem) {
     const std::string items = callOn(set_, "items");
     const std::string item =
         items.substr(items.find("http"), items.rfind("zz") - items.find("http"));
@@ -136,20 +136,20 @@ TEST_F(Remote, TellsAnItem) {
                                                 raw::text("BackupSetInclusionItem") + "z"));
 }
 
-TEST_F(Remote, TellsTheEventsOfAnActivity) {
+TEST_F(Remote, ReportsTheEventsOfAnActivity) {
     callOn(set_, "start_sync", "F");
     EXPECT_THAT(call("event_log", raw::int32(0) + raw::int32(0) + raw::int32(1001)),
                 HasSubstr("Activity started: Papers"));
 }
 
-TEST_F(Remote, TellsTheSecondFactor) {
+TEST_F(Remote, ReportsTheSecondFactor) {
     const std::string manager = reference(call("getTFAManager"));
     EXPECT_EQ(callOn(manager, "is2FAEnabled"), raw::reply("F"));
     agent_->withWorld([](World& world) { world.twoFactor = true; });
     EXPECT_EQ(callOn(manager, "is2FAEnabled"), raw::reply("T"));
 }
 
-TEST_F(Remote, TellsTheCustomer) {
+TEST_F(Remote, ReportsTheCustomer) {
     const std::string settings = reference(call("getConfigurationManager"));
     const std::string info = reference(callOn(settings, "getUserInfoConfiguration"));
     EXPECT_EQ(

@@ -148,7 +148,7 @@ TEST_F(Restore, TakesNoBrowserOfAnotherSession) {
     EXPECT_EQ(violation(), "the browser belongs to another session");
 }
 
-TEST_F(Restore, TellsWhatThePlacesInAShareHaveInCommon) {
+TEST_F(Restore, ReportsWhatThePlacesInAShareHaveInCommon) {
     EXPECT_EQ(shares(prepared({7})), raw::reply(raw::list({share("C:", "C:\\Users\\ann")})));
     EXPECT_EQ(shares(prepared({7, 8})), raw::reply(raw::list({share("C:", "C:\\Users")})));
     EXPECT_EQ(shares(prepared({4})), raw::reply(raw::list({share("C:", "C:\\Users")})));

@@ -225,7 +225,7 @@ protected:
     }
 };
 
-TEST_F(Settings, TellsToolsAndNumbers) {
+TEST_F(Settings, ReportsToolsAndNumbers) {
     const std::string settings = configuration();
     EXPECT_EQ(callOn(settings, "isTarnToolEnabled", raw::int32(8)), raw::reply("T"));
     EXPECT_EQ(callOn(settings, "isTarnToolEnabled", raw::int32(7)), raw::reply("F"));

@@ -128,7 +128,7 @@ TEST_F(WorldTest, EndsAnActivityAtItsOwnTimeHoweverLateOneLooks) {
     EXPECT_EQ(row.end_time - row.start_time, 10);
 }
 
-TEST_F(WorldTest, RunsFasterIfTold) {
+TEST_F(WorldTest, RunsFasterOnRequest) {
     World world = make(Scenario::Empty, 10);
     ActivityPlan plan;
     plan.duration = 100'000;
@@ -172,7 +172,7 @@ TEST_F(WorldTest, RemovesASetWhenItsRemovalHasEnded) {
     EXPECT_THAT(world.sets(), IsEmpty());
 }
 
-TEST_F(WorldTest, TellsTheEventsOfAnActivityAndOfASpan) {
+TEST_F(WorldTest, ReportsTheEventsOfAnActivityAndOfASpan) {
     World world = make(Scenario::Empty);
     ActivityPlan plan;
     plan.duration = 10'000;
@@ -218,7 +218,7 @@ TEST_F(WorldTest, DefaultShowsEachLookOfASet) {
     EXPECT_FALSE(any([](const Info& info) { return info.is_created_by_policy; }));
 }
 
-std::string told(const World& world, const std::string& name) {
+std::string reported(const World& world, const std::string& name) {
     for (const auto& row : world.about)
         if (row.name == name)
             return row.value;
@@ -227,9 +227,9 @@ std::string told(const World& world, const std::string& name) {
 
 TEST_F(WorldTest, CentralComesFromAPolicy) {
     const World world = make(Scenario::Central);
-    EXPECT_EQ(told(world, "Centrally Managed Backup Policy"), "Yes");
+    EXPECT_EQ(reported(world, "Centrally Managed Backup Policy"), "Yes");
     EXPECT_TRUE(world.sets().front()->info.is_created_by_policy);
-    EXPECT_EQ(told(make(Scenario::Default), "Centrally Managed Backup Policy"), "No");
+    EXPECT_EQ(reported(make(Scenario::Default), "Centrally Managed Backup Policy"), "No");
 }
 
 TEST_F(WorldTest, NotebookIsOfItsKind) {
@@ -238,9 +238,9 @@ TEST_F(WorldTest, NotebookIsOfItsKind) {
 
 TEST_F(WorldTest, FirstRunIsNotConfigured) {
     const World world = make(Scenario::FirstRun);
-    EXPECT_EQ(told(world, "InitialClient"), "Yes");
+    EXPECT_EQ(reported(world, "InitialClient"), "Yes");
     EXPECT_EQ(world.customer.country_code, 0);
-    EXPECT_EQ(told(make(Scenario::Empty), "InitialClient"), "No");
+    EXPECT_EQ(reported(make(Scenario::Empty), "InitialClient"), "No");
 }
 
 TEST_F(WorldTest, EmptyHoldsNothing) {
@@ -253,7 +253,7 @@ TEST_F(WorldTest, EmptyHoldsNothing) {
 TEST_F(WorldTest, UnixHasItsPathsAndSystem) {
     const World world = make(Scenario::Unix);
     EXPECT_NE(world.system, hessiancln::ClientOSType::Windows);
-    EXPECT_THAT(told(world, "Operating System"), ::testing::HasSubstr("Linux"));
+    EXPECT_THAT(reported(world, "Operating System"), ::testing::HasSubstr("Linux"));
     EXPECT_EQ(world.sets().front()->items.front().folder, "/\\home");
 }
 

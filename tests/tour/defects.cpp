@@ -24,7 +24,7 @@ namespace tour {
 
 namespace {
 
-QString told(const QWidget& widget, const QString& text) {
+QString reported(const QWidget& widget, const QString& text) {
     return QStringLiteral("%1 \"%2\"").arg(widget.objectName(), text);
 }
 
@@ -162,7 +162,7 @@ QStringList defectsOf(const QWidget& shown) {
             continue;
         const QString cut = cutText(*widget);
         if (!cut.isEmpty())
-            defects << QStringLiteral("cut is ") + told(*widget, cut);
+            defects << QStringLiteral("cut is ") + reported(*widget, cut);
         if (sticksOut(*widget))
             defects << widget->objectName() + QStringLiteral(" sticks out");
         // A mnemonic only reaches enabled widgets.
@@ -170,7 +170,7 @@ QStringList defectsOf(const QWidget& shown) {
             continue;
         const QString key = QKeySequence::mnemonic(textWithKey(*widget)).toString();
         if (!key.isEmpty())
-            keys[key] << told(*widget, textWithKey(*widget));
+            keys[key] << reported(*widget, textWithKey(*widget));
     }
     for (auto key = keys.cbegin(); key != keys.cend(); ++key)
         if (key->size() > 1)

@@ -207,11 +207,12 @@ TEST_P(Http, ASilentServerRaisesAfterTheTimeOut) {
         peer.expectClose();
     });
     EXPECT_EQ(failureOf(server.url(), {.readTimeout = 300ms}),
-              "Failed to receive the HTTP response. Error " + support::failures::timedOut().told());
+              "Failed to receive the HTTP response. Error " +
+                  support::failures::timedOut().reported());
     EXPECT_TRUE(server.waitForEnded(1));
 }
 
-TEST_P(Http, ARefusalBeforeTheWholeRequestIsReadIsTold) {
+TEST_P(Http, ARefusalBeforeTheWholeRequestIsReadIsReported) {
     const std::string large(32'000'000, 'x'); // more than the socket buffers hold
     LoopbackServer server(GetParam(), [&](Peer& peer) {
         peer.open().receiveUntil("\r\n\r\n");
@@ -331,7 +332,7 @@ TEST(HttpFailures, AClosedPortRaises) {
     const std::string port = std::to_string(support::closedPort());
     EXPECT_EQ(failureOf("https://127.0.0.1:" + port + "/"),
               "Failed to connect to '127.0.0.1' on port " + port + ". O/S error " +
-                  support::failures::refused().told());
+                  support::failures::refused().reported());
 }
 
 TEST(HttpFailures, APortThatCannotExistRaises) {
@@ -366,7 +367,7 @@ TEST(HttpFailures, AServerThatIsSilentInTheHandshakeRaisesAfterTheTimeOut) {
     support::Signal done;
     LoopbackServer server(Mode::tls, [&](Peer&) { done.wait(); });
     EXPECT_EQ(failureOf(server.url(), {.readTimeout = 300ms}),
-              "SSL Handshake failed. Error " + support::failures::timedOut().told());
+              "SSL Handshake failed. Error " + support::failures::timedOut().reported());
     done.raise();
 }
 
@@ -378,7 +379,7 @@ TEST(HttpTrace, ABrokenTraceFileFailsTheCall) {
     EXPECT_EQ(server.connections(), 0u);
 }
 
-TEST(HttpLog, TellsTheSizeOfTheRequestOnceAFileIsOpen) {
+TEST(HttpLog, ReportsTheSizeOfTheRequestOnceAFileIsOpen) {
     const support::TemporaryFile file;
     LoopbackServer server(Mode::plain, answer(okStart + "Content-Length: 4\r\n\r\npong"));
     CHttpCallDispatcher dispatcher(0, "");

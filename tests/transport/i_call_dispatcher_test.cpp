@@ -91,7 +91,7 @@ void callAsync(ICallDispatcher& dispatcher, const std::string& request, Outcomes
                                 outcomes.note("failure: "));
 }
 
-TEST(ICallDispatcher, TellsTheReplyOfAnAsynchronousCall) {
+TEST(ICallDispatcher, ReportsTheReplyOfAnAsynchronousCall) {
     Outcomes outcomes(1);
     EchoDispatcher dispatcher;
     dispatcher.gate.raise();
@@ -100,7 +100,7 @@ TEST(ICallDispatcher, TellsTheReplyOfAnAsynchronousCall) {
     EXPECT_EQ(outcomes.list(), std::vector<std::string>{"success: request"});
 }
 
-TEST(ICallDispatcher, TellsTheFailureOfAnAsynchronousCall) {
+TEST(ICallDispatcher, ReportsTheFailureOfAnAsynchronousCall) {
     Outcomes outcomes(1);
     EchoDispatcher dispatcher;
     dispatcher.gate.raise();

@@ -260,7 +260,7 @@ TEST_P(RawStream, SixteenCallersAtOnceShareOneConnection) {
     server.stop();
 }
 
-TEST_P(RawStream, WithoutReuseEachCallConnectsAnewAndIsClosedAfterwards) {
+TEST_P(RawStream, WithoutReuseEachCallConnectsAgainAndIsClosedAfterwards) {
     LoopbackServer server(GetParam(), echo(1));
     {
         CRawStreamDispacher dispatcher(0, "", false);
@@ -349,7 +349,7 @@ TEST_P(RawStream, SixteenUnwrittenFramesBlockTheNextAsynchronousCaller) {
     EXPECT_TRUE(all.wait());
 }
 
-TEST_P(RawStream, AfterStopConnectionsTheNextCallConnectsAnew) {
+TEST_P(RawStream, AfterStopConnectionsTheNextCallConnectsAgain) {
     LoopbackServer server(GetParam(), echo(1));
     CRawStreamDispacher dispatcher(0, "", true);
     EXPECT_EQ(dispatcher.sendRequest(server.url(), "one"), "one");

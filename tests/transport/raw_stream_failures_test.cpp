@@ -53,7 +53,7 @@ TEST_P(RawStreamFailures, AClosedPort) {
     CRawStreamDispacher dispatcher(0, "", true);
     EXPECT_EQ(failureOf(dispatcher, scheme + "://127.0.0.1:" + port + "/api"),
               "Failed to connect to '127.0.0.1' on port " + port + ". O/S error " +
-                  support::failures::refused().told());
+                  support::failures::refused().reported());
 }
 
 TEST_P(RawStreamFailures, AHostThatCannotExist) {
@@ -207,7 +207,7 @@ TEST_P(RawStreamFailures, ALengthNearTwoToTheSixtyFourIsRefused) {
     }
 }
 
-TEST_P(RawStreamFailures, EveryWaitingCallerIsTold) {
+TEST_P(RawStreamFailures, EveryWaitingCallerFails) {
     LoopbackServer server(GetParam(), [](Peer& peer) {
         peer.open();
         for (int i = 0; i < 16; ++i)
@@ -249,7 +249,7 @@ TEST_P(RawStreamFailures, AStreamThatDiedWhileIdleRaisesItsText) {
     EXPECT_EQ(server.connections(), 1u);
 }
 
-TEST_P(RawStreamFailures, AConnectThatFailedIsTriedAnew) {
+TEST_P(RawStreamFailures, AConnectThatFailedIsRetried) {
     const std::string scheme = GetParam() == Mode::tls ? "https" : "http";
     const std::uint16_t port = support::closedPort();
     const std::string url = scheme + "://127.0.0.1:" + std::to_string(port) + "/api";
@@ -266,7 +266,7 @@ TEST_P(RawStreamFailures, AConnectThatFailedIsTriedAnew) {
     EXPECT_EQ(dispatcher.sendRequest(url, "ping"), "pong");
 }
 
-TEST_P(RawStreamFailures, WithoutReuseAFailureIsToldAndTheNextCallConnectsAnew) {
+TEST_P(RawStreamFailures, WithoutReuseAFailureIsReportedAndTheNextCallConnectsAgain) {
     LoopbackServer server(GetParam(), std::vector<LoopbackServer::Script>{
                                           answer(""), answer(responseFrame(1, "pong"))});
     CRawStreamDispacher dispatcher(0, "", false);
@@ -274,30 +274,30 @@ TEST_P(RawStreamFailures, WithoutReuseAFailureIsToldAndTheNextCallConnectsAnew) 
     EXPECT_EQ(dispatcher.sendRequest(server.url(), "ping"), "pong");
 }
 
-TEST_P(RawStreamFailures, AnAsynchronousCallIsToldOnce) {
+TEST_P(RawStreamFailures, AnAsynchronousCallIsReportedOnce) {
     LoopbackServer server(GetParam(), answer(""));
-    std::promise<std::string> told;
+    std::promise<std::string> reported;
     CRawStreamDispacher dispatcher(0, "", true);
     dispatcher.asyncSendRequest(
         server.url(), "ping", [](const std::string&) { ADD_FAILURE() << "no reply was sent"; },
-        [&](const std::string& text) { told.set_value(text); });
-    EXPECT_EQ(told.get_future().get(), "Receive failed (header): " + cut());
+        [&](const std::string& text) { reported.set_value(text); });
+    EXPECT_EQ(reported.get_future().get(), "Receive failed (header): " + cut());
 }
 
-TEST_P(RawStreamFailures, AnAsynchronousCallToADeadStreamIsTold) {
+TEST_P(RawStreamFailures, AnAsynchronousCallToADeadStreamIsReported) {
     LoopbackServer server(GetParam(), answer(""));
     CRawStreamDispacher dispatcher(0, "", true);
     const std::string expected = "Receive failed (header): " + cut();
     EXPECT_EQ(failureOf(dispatcher, server.url()), expected);
-    std::promise<std::string> told;
+    std::promise<std::string> reported;
     dispatcher.asyncSendRequest(
         server.url(), "ping", [](const std::string&) { ADD_FAILURE() << "the stream is dead"; },
-        [&](const std::string& text) { told.set_value(text); });
-    EXPECT_EQ(told.get_future().get(), expected);
+        [&](const std::string& text) { reported.set_value(text); });
+    EXPECT_EQ(reported.get_future().get(), expected);
     EXPECT_EQ(server.connections(), 1u);
 }
 
-TEST_P(RawStreamFailures, AsynchronousCallsAreToldInTheOrderOfTheirIds) {
+TEST_P(RawStreamFailures, AsynchronousCallsAreReportedInTheOrderOfTheirIds) {
     LoopbackServer server(GetParam(), [](Peer& peer) {
         peer.open();
         for (int i = 0; i < 5; ++i)
@@ -326,13 +326,13 @@ TEST_P(RawStreamFailures, AHandlerThatRaisesEndsTheConnectionWithItsText) {
         peer.open();
         peer.send(responseFrame(peer.receiveFrame().id, "pong")).expectClose();
     });
-    std::promise<std::string> told;
+    std::promise<std::string> reported;
     CRawStreamDispacher dispatcher(0, "", true);
     dispatcher.asyncSendRequest(
         server.url(), "ping",
         [](const std::string&) { throw std::runtime_error("the handler failed"); },
-        [&](const std::string& text) { told.set_value(text); });
-    EXPECT_EQ(told.get_future().get(), "the handler failed");
+        [&](const std::string& text) { reported.set_value(text); });
+    EXPECT_EQ(reported.get_future().get(), "the handler failed");
     EXPECT_EQ(failureOf(dispatcher, server.url()), "the handler failed");
 }
 
@@ -341,12 +341,12 @@ TEST_P(RawStreamFailures, AHandlerThatRaisesSomethingWithoutATextClosesTheConnec
         peer.open();
         peer.send(responseFrame(peer.receiveFrame().id, "pong")).expectClose();
     });
-    std::promise<std::string> told;
+    std::promise<std::string> reported;
     CRawStreamDispacher dispatcher(0, "", true);
     dispatcher.asyncSendRequest(
         server.url(), "ping", [](const std::string&) { throw 42; },
-        [&](const std::string& text) { told.set_value(text); });
-    EXPECT_EQ(told.get_future().get(), "Stream connection closed");
+        [&](const std::string& text) { reported.set_value(text); });
+    EXPECT_EQ(reported.get_future().get(), "Stream connection closed");
     EXPECT_EQ(dispatcher.sendRequest(server.url(), "ping"), "pong"); // its connection was closed
     EXPECT_EQ(server.connections(), 2u);
 }
@@ -357,13 +357,14 @@ TEST_P(RawStreamFailures, ABlockingCallInAHandlerRaisesInPlaceOfWaitingForItself
         peer.send(responseFrame(peer.receiveFrame().id, "pong"));
         peer.send(responseFrame(peer.receiveFrame().id, "pong")).expectClose();
     });
-    std::promise<std::string> told;
+    std::promise<std::string> reported;
     CRawStreamDispacher dispatcher(0, "", true);
     dispatcher.asyncSendRequest(
         server.url(), "ping",
-        [&](const std::string&) { told.set_value(failureOf(dispatcher, server.url())); },
+        [&](const std::string&) { reported.set_value(failureOf(dispatcher, server.url())); },
         [](const std::string& text) { ADD_FAILURE() << text; });
-    EXPECT_EQ(told.get_future().get(), "A handler can't wait for a reply on its own connection");
+    EXPECT_EQ(reported.get_future().get(),
+              "A handler can't wait for a reply on its own connection");
     EXPECT_EQ(dispatcher.sendRequest(server.url(), "ping"), "pong"); // the stream continues
 }
 
@@ -389,7 +390,7 @@ TEST(RawStreamHandshake, APeerThatClosesDuringTheHandshake) {
     EXPECT_TRUE(failureOf(dispatcher, server.url()).starts_with("SSL Handshake failed. Error "));
 }
 
-TEST(RawStreamHandshake, OneThatFailedIsTriedAnew) {
+TEST(RawStreamHandshake, OneThatFailedIsRetried) {
     LoopbackServer server(Mode::tls,
                           std::vector<LoopbackServer::Script>{
                               [](Peer& peer) { peer.close(); },

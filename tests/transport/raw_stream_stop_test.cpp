@@ -108,14 +108,14 @@ TEST_P(RawStreamStop, FreesAnAsynchronousCallerThatWaitsForRoom) {
         begun.raise();
         done.wait();
     });
-    std::atomic<int> told = 0;
+    std::atomic<int> reported = 0;
     CRawStreamDispacher dispatcher(0, "", true);
     const auto call = [&](const std::string& request) {
         dispatcher.asyncSendRequest(
             server.url(), request, [](const std::string&) { ADD_FAILURE(); },
             [&](const std::string& text) {
                 EXPECT_EQ(text, "Stream connection terminated");
-                ++told;
+                ++reported;
             });
     };
     call(std::string(32'000'000, 'x'));
@@ -132,7 +132,7 @@ TEST_P(RawStreamStop, FreesAnAsynchronousCallerThatWaitsForRoom) {
     EXPECT_TRUE(queued.wait());
     caller.join();
     done.raise();
-    EXPECT_EQ(told, 17);
+    EXPECT_EQ(reported, 17);
 }
 
 TEST_P(RawStreamStop, ACallToAStoppedConnectionRaisesAtOnce) {
@@ -258,16 +258,16 @@ TEST(RawStreamHandshakeStop, FailsAsynchronousCallsThatNeverWentOut) {
         connected.raise();
         peer.receiveUntilClose();
     });
-    std::vector<std::string> told;
+    std::vector<std::string> reported;
     CRawStreamDispacher dispatcher(0, "", true);
     for (int i = 0; i < 3; ++i) {
         dispatcher.asyncSendRequest(
             server.url(), "ping", [](const std::string&) { ADD_FAILURE(); },
-            [&](const std::string& text) { told.push_back(text); });
+            [&](const std::string& text) { reported.push_back(text); });
     }
     ASSERT_TRUE(connected.wait());
     dispatcher.stopConnections();
-    EXPECT_EQ(told, std::vector<std::string>(3, "Stream connection terminated"));
+    EXPECT_EQ(reported, std::vector<std::string>(3, "Stream connection terminated"));
 }
 
 } // namespace

@@ -70,7 +70,7 @@ std::string localTime() {
 }
 
 /// The zones are a day apart, so in at least one of them the day differs from the month's number.
-TEST(TraceEntry, TellsTheLocalTimeWithTheMonthBeforeTheDay) {
+TEST(TraceEntry, ReportsTheLocalTimeWithTheMonthBeforeTheDay) {
     for (const char* zone : {"Test-12", "Test+12"}) {
         const TimeZone here(zone);
         const TemporaryFile file;
@@ -83,8 +83,9 @@ TEST(TraceEntry, TellsTheLocalTimeWithTheMonthBeforeTheDay) {
         ASSERT_EQ(file.lines().size(), 1u);
         const std::string line = file.lines()[0];
         const std::size_t start = line.find(") ") + 2;
-        const std::string told = line.substr(start, line.rfind(" text") - start);
-        EXPECT_TRUE(told == before || told == after) << told << " in place of " << before;
+        const std::string reported = line.substr(start, line.rfind(" text") - start);
+        EXPECT_TRUE(reported == before || reported == after)
+            << reported << " in place of " << before;
     }
 }
 

@@ -114,7 +114,7 @@ private slots:
     void theFormatIsReadFromTheData();
     void anImageThatIsNoneLeavesTheDefault();
     void anEmptyValueReplacesTheDefault();
-    void anotherLoadBeginsAnew();
+    void anotherLoadStartsOver();
     void anEntryAtTheLimitIsRead();
     void aHundredMegabytesOfZerosCountAsMissing();
     void anImageOfTooManyPixelsCountsAsMissing();
@@ -213,7 +213,7 @@ void BrandingResourcesTest::anEmptyValueReplacesTheDefault() {
     QCOMPARE(loaded().homePageUrl(), QString());
 }
 
-void BrandingResourcesTest::anotherLoadBeginsAnew() {
+void BrandingResourcesTest::anotherLoadStartsOver() {
     Archive().add("icon.png", plainImage(Qt::green)).add("strtable.txt", "DESCRIPTION: x");
     ui::BrandingResources branding = loaded();
     QVERIFY(QFile::remove(QString::fromLatin1(archiveName)));

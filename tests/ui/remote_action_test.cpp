@@ -30,7 +30,7 @@ private slots:
         QCOMPARE(window.cursor().shape(), Qt::ArrowCursor);
     }
 
-    void leavesTheCursorAloneWhereNotTold() {
+    void leavesTheCursorAloneWhereNotAsked() {
         QWidget window;
         window.setCursor(Qt::CrossCursor);
         Qt::CursorShape during = Qt::ArrowCursor;

@@ -159,7 +159,7 @@ TEST(ExpressionsOf, NothingButBarsAndBlanksIsNothing) {
                 IsEmpty());
 }
 
-TEST(ReadExpression, WithoutTheMarkerAllOfItTellsKinds) {
+TEST(ReadExpression, WithoutTheMarkerAllOfItReportsKinds) {
     const ReadExpression read = wizards::readExpression(text(musicExpression));
     EXPECT_EQ(read.kinds, text(musicExpression));
     EXPECT_EQ(read.custom, std::nullopt);

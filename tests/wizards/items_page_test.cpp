@@ -64,7 +64,7 @@ private slots:
     void extensionsHaveAFieldWhenTheyAreChecked();
     void anEmptyFieldBlocks();
     void theTreeNeedsASelection();
-    void aCheckInTheTreeIsTold();
+    void aCheckInTheTreeIsReported();
     void exclusionsAreDrawnByOneDelegate();
     void theLocationTakesThePlaceItNeeds();
     void wrongExtensionsAreExplained();
@@ -381,7 +381,7 @@ void ItemsPageTest::theTreeNeedsASelection() {
     QVERIFY(page->isComplete());
 }
 
-void ItemsPageTest::aCheckInTheTreeIsTold() {
+void ItemsPageTest::aCheckInTheTreeIsReported() {
     PageOfSource page;
     page.radio("radioCustom").click();
     page.folder(path(R"(C:\Users\anna\Documents)"));

@@ -63,7 +63,7 @@ TEST(LocalPath, ThereAndBackAFolderOfUnixStaysWhatItIs) {
                   path);
 }
 
-TEST(LocalPath, EverySystemButWindowsTellsNamesApartByCase) {
+TEST(LocalPath, EverySystemButWindowsDistinguishesNamesByCase) {
     EXPECT_EQ(wizards::caseSensitivityOf(onWindows), Qt::CaseInsensitive);
     for (const int code : {1, 2, 3})
         EXPECT_EQ(wizards::caseSensitivityOf(static_cast<ClientOSType>(code)), Qt::CaseSensitive);
@@ -137,7 +137,7 @@ TEST_F(DeepestIndex, IsNothingIfNotEvenTheFirstPartIsThere) {
     EXPECT_EQ(find(R"(\D:)", Qt::CaseInsensitive), "");
 }
 
-TEST_F(DeepestIndex, FollowsTheCaseIfTold) {
+TEST_F(DeepestIndex, FollowsTheCaseOnRequest) {
     EXPECT_EQ(find(R"(d:\COPIES\old)", Qt::CaseInsensitive), "D:|Copies|Old");
     EXPECT_EQ(find(R"(e:\mÜLLER)", Qt::CaseInsensitive), "E:|Müller");
     EXPECT_EQ(find(R"(d:\Copies)", Qt::CaseSensitive), "");

@@ -74,7 +74,7 @@ TEST(RestoreDirectoryTest, StandsBetweenSlashes) {
     EXPECT_EQ(wizards::directoryIn(q("/"), q("restore_x")), q("//restore_x/"));
 }
 
-TEST(RestoreDirectoryTest, TellsItsTime) {
+TEST(RestoreDirectoryTest, ReportsItsTime) {
     const QDateTime time(QDate(2026, 5, 9), QTime(7, 3, 4));
     const QString month = QLocale::system().monthName(5, QLocale::ShortFormat);
     EXPECT_EQ(wizards::timeInDirectoryName(time), q("2026_") + month + q("_09_07-03-04"));

@@ -66,7 +66,7 @@ private slots:
     void textsOfTheSelectPage();
     void checkFromFromCodeAsksForNothing();
     void theOtherBoxesAskFromCodeToo();
-    void eachValueOfTheFilterAsksAnew();
+    void eachValueOfTheFilterAsksAgain();
     void aTypedDateAsksOnce();
     void aTypedDateCountsWithoutLeavingItsField();
     void theGenerationsWantAFile();
@@ -160,7 +160,7 @@ void RestoreSelectPageTest::theOtherBoxesAskFromCodeToo() {
              std::string("BackupSet.prepare_restore(0, 1730000000, 1730000060)"));
 }
 
-void RestoreSelectPageTest::eachValueOfTheFilterAsksAnew() {
+void RestoreSelectPageTest::eachValueOfTheFilterAsksAgain() {
     RestoreSelectPage page(setWithFiles());
     for (const char* box : {"checkFilter", "checkFrom", "checkTo", "checkRemoved"})
         child<QCheckBox>(page, box).click();

@@ -73,7 +73,7 @@ private slots:
     void theBoxesEnableTheirFields();
 
     void aSharedRuleIsLeftAlone();
-    void theOwnRuleIsWrittenAnew();
+    void theOwnRuleIsRewritten();
     void anOwnRuleThatTheSetLostIsTakenAgain();
     void aSetWithoutARuleGetsOne();
     void intervalsAreWrittenInTheirOrder();
@@ -304,7 +304,7 @@ void RetentionPageTest::aSharedRuleIsLeftAlone() {
     QCOMPARE(ruleOf(mail).keepLast, before.keepLast);
 }
 
-void RetentionPageTest::theOwnRuleIsWrittenAnew() {
+void RetentionPageTest::theOwnRuleIsRewritten() {
     give(music, {.name = "retention_for_set_8", .options = {validFor(RetentionTimeUnit::Weeks)}});
     Page page;
     QCOMPARE(callsOfWriting(page, music),

@@ -21,7 +21,7 @@ private slots:
     void cleanup() { end(); }
 
     void aSharedScheduleIsLeftAlone();
-    void theOwnScheduleIsWrittenAnew();
+    void theOwnScheduleIsRewritten();
     void anOwnScheduleThatTheSetLostIsTakenAgain();
     void aMonthlyScheduleIsWritten();
     void theDaysAreAMaskFromMonday();
@@ -81,7 +81,7 @@ void SchedulePageWritingTest::aSharedScheduleIsLeftAlone() {
     QCOMPARE(scheduleOf(mail).details.size(), before.details.size());
 }
 
-void SchedulePageWritingTest::theOwnScheduleIsWrittenAnew() {
+void SchedulePageWritingTest::theOwnScheduleIsRewritten() {
     give(music, "schedule_for_set_8",
          {{ScheduleDetailType::Monthly, 5, {1, 0, 0}, {}, 0, 3},
           {ScheduleDetailType(0), 5, {1, 0, 0}, {}, 0, 3}});

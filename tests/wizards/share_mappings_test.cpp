@@ -93,7 +93,7 @@ TEST(ShareMappingsTest, AThirdOneGetsBothNumbers) {
                 ElementsAre("T\\C", "T\\C_0001", "T\\C_0001_0002"));
 }
 
-TEST(ShareMappingsTest, EachShareCountsAnew) {
+TEST(ShareMappingsTest, EachShareCountsFromZero) {
     EXPECT_THAT(directoriesOf({"a", "a", "b", "b"}),
                 ElementsAre("T\\a", "T\\a_0001", "T\\b", "T\\b_0001"));
 }

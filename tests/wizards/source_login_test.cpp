@@ -43,7 +43,7 @@ TEST(ComputerName, InOtherCaseItIsAnotherComputer) {
     EXPECT_FALSE(local("Tarn-client Computer"));
 }
 
-TEST(CredentialsKind, IsToldByTheClasses) {
+TEST(CredentialsKind, IsKnownByTheClasses) {
     const char* windows = "Win32FS_Generic_BackupSetCredentials";
     const char* unixLike = "UnixFS_Generic_BackupSetCredentials";
     const char* ssh = "UnixFS_SSH_BackupSetCredentials";

@@ -13,7 +13,7 @@ struct Failure {
     std::string text;
 
     /// As in "111 (Connection refused)".
-    std::string told() const { return std::to_string(number) + " (" + text + ")"; }
+    std::string reported() const { return std::to_string(number) + " (" + text + ")"; }
 };
 
 /// There is no listener.
