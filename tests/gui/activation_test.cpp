@@ -1,9 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 #include <QApplication>
-#include <QDeadlineTimer>
 #include <QFile>
-#include <QTemporaryFile>
 #include <QTest>
 #include <QWindow>
 
@@ -25,36 +23,6 @@ public:
         return launch(QCoreApplication::applicationFilePath(), {QStringLiteral("--other")}) &&
                line() == "active";
     }
-};
-
-class WindowManager : public support::Helper {
-public:
-    bool begin() {
-        return configuration_.open() &&
-               configuration_.write("<openbox_config xmlns=\"http://openbox.org/3.4/rc\"/>") > 0 &&
-               configuration_.flush() &&
-               launch(QStringLiteral("openbox"),
-                      {QStringLiteral("--sm-disable"), QStringLiteral("--config-file"),
-                       configuration_.fileName()}) &&
-               manages();
-    }
-
-private:
-    /// Whether it gets to manage the display.
-    static bool manages() {
-        const QDeadlineTimer deadline(limit);
-        while (!deadline.hasExpired()) {
-            Helper properties;
-            if (properties.launch(QStringLiteral("xprop"),
-                                  {QStringLiteral("-root"), QStringLiteral("_NET_SUPPORTED")}) &&
-                properties.waitForFinished(1000) &&
-                properties.readAllStandardOutput().contains("_NET_ACTIVE_WINDOW"))
-                return true;
-        }
-        return false;
-    }
-
-    QTemporaryFile configuration_;
 };
 
 bool asksForAttention(const QWidget& window) {
@@ -140,7 +108,7 @@ int main(int argc, char** argv) {
         return runOther(other);
     }
     support::Display display;
-    WindowManager manager;
+    support::WindowManager manager;
     if (!display.begin() || !manager.begin())
         qFatal("The display or the window manager doesn't start");
     qputenv("QT_QPA_PLATFORM", "xcb");

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "tests/support/gui_display.h"
 
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QLockFile>
 #include <QPoint>
 
 namespace support {
@@ -9,6 +12,27 @@ namespace support {
 namespace {
 
 constexpr int limit = 10'000; ///< milliseconds
+
+QByteArray configurationWithTitles(int points) {
+    const QByteArray size = "<size>" + QByteArray::number(points) + "</size></font>";
+    return "<openbox_config xmlns=\"http://openbox.org/3.4/rc\"><theme>"
+           "<font place=\"ActiveWindow\">" +
+           size + "<font place=\"InactiveWindow\">" + size + "</theme></openbox_config>";
+}
+
+/// Whether a window manager manages the display before the limit.
+bool isManaged() {
+    const QDeadlineTimer deadline(limit);
+    while (!deadline.hasExpired()) {
+        Helper properties;
+        if (properties.launch(QStringLiteral("xprop"),
+                              {QStringLiteral("-root"), QStringLiteral("_NET_SUPPORTED")}) &&
+            properties.waitForFinished(1000) &&
+            properties.readAllStandardOutput().contains("_NET_ACTIVE_WINDOW"))
+            return true;
+    }
+    return false;
+}
 
 } // namespace
 
@@ -33,6 +57,9 @@ QByteArray Helper::line() {
 
 bool Display::begin(const QSize& size, int dots) {
     const QString screen = QStringLiteral("%1x%2x24").arg(size.width()).arg(size.height());
+    // Displays that start at the same moment may choose the same number.
+    QLockFile others(QDir::temp().filePath(QStringLiteral("tarn-test-display.lock")));
+    (void)others.tryLock(limit);
     // Without "-noreset" the end of the last client closes connections that are being opened.
     if (!launch(QStringLiteral("Xvfb"),
                 {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-noreset"),
@@ -41,6 +68,16 @@ bool Display::begin(const QSize& size, int dots) {
         return false;
     const QByteArray number = line();
     return !number.isEmpty() && qputenv("DISPLAY", ":" + number);
+}
+
+bool WindowManager::begin(int titlePoints) {
+    return configuration_.open() &&
+           configuration_.write(configurationWithTitles(titlePoints)) > 0 &&
+           configuration_.flush() &&
+           launch(QStringLiteral("openbox"),
+                  {QStringLiteral("--sm-disable"), QStringLiteral("--config-file"),
+                   configuration_.fileName()}) &&
+           isManaged();
 }
 
 bool Bus::begin() {

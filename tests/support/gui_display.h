@@ -4,6 +4,7 @@
 
 #include <QProcess>
 #include <QSize>
+#include <QTemporaryFile>
 
 /// The parts of a desktop that a test starts for itself.
 namespace support {
@@ -25,6 +26,16 @@ class Display : public Helper {
 public:
     /// `size` in pixels, `dots` per inch.
     bool begin(const QSize& size = {1280, 800}, int dots = 100);
+};
+
+/// A window manager for the display of this process.
+class WindowManager : public Helper {
+public:
+    /// `titlePoints` is the size of the font in the title bars.
+    bool begin(int titlePoints = 9);
+
+private:
+    QTemporaryFile configuration_;
 };
 
 /// A D-Bus session. It becomes the session of this process and its children.
