@@ -123,6 +123,8 @@ BackupSetViewItem& BackupSetList::needCard(int row) {
         return *card;
     auto* card = new BackupSetViewItem(&view_, rename_);
     card->setRecord(rows_.set(row));
+    // The view selects the row of a card that gets the focus, also when the window does.
+    card->setFocusProxy(&view_);
     const QModelIndex index = rows_.index(row);
     card->setSelected(view_.selectionModel()->isSelected(index));
     view_.setIndexWidget(index, card);

@@ -21,6 +21,7 @@
 #include "ui/later.h"
 #include "ui/message_box.h"
 #include "ui/remote_action.h"
+#include "ui/select_row.h"
 #include "ui/table_columns.h"
 #include "ui_tfa_users_viewer.h"
 
@@ -76,7 +77,7 @@ int TFAUsersViewer::selectedRow() const {
 /// focus.
 void TFAUsersViewer::selectSomeRow() {
     if (selectedRow() < 0 && model_.rowCount() > 0)
-        ui_->tableUsers->selectRow(std::max(ui_->tableUsers->currentIndex().row(), 0));
+        ui::selectRow(*ui_->tableUsers, std::max(ui_->tableUsers->currentIndex().row(), 0));
 }
 
 void TFAUsersViewer::updateEnabling() {
@@ -124,7 +125,7 @@ void TFAUsersViewer::read(QFile& file) {
         return;
     config::UserEmailList list = config::readUserEmails(file);
     model_.insert(list.rows);
-    ui_->labImport->setText(
+    ui_->labImport->tell(
         tr("Users imported: %1. Lines skipped: %2.").arg(list.lines.taken).arg(list.lines.skipped));
     ui_->labImport->show();
 }

@@ -17,6 +17,7 @@
 #include "ui/branding_resources.h"
 #include "ui/locale_text.h"
 #include "ui/remote_action.h"
+#include "ui/select_row.h"
 #include "ui/table_columns.h"
 #include "ui_find_file_window.h"
 #include "wizards/restore_flow.h"
@@ -172,7 +173,7 @@ void FindFileWindow::end() {
     showProgress();
     // For keyboard users: focusing the table doesn't select a row.
     if (!selectedFile() && found_.rowCount() > 0)
-        ui_->tableFound->selectRow(0);
+        ui::selectRow(*ui_->tableFound, 0);
 }
 
 void FindFileWindow::showProgress() {

@@ -13,8 +13,17 @@ namespace {
 
 QStringList texts;
 
+/// Desktop screen readers read out an alert that appears.
+QStringList textsOfAppearing(const QAccessibleInterface* face) {
+    return face && face->role() == QAccessible::AlertMessage
+               ? QStringList(face->text(QAccessible::Name))
+               : QStringList();
+}
+
 QStringList textsOf(const QAccessibleEvent& event) {
     switch (event.type()) {
+    case QAccessible::ObjectShow:
+        return textsOfAppearing(event.accessibleInterface());
     case QAccessible::TextInserted:
         return {static_cast<const QAccessibleTextInsertEvent&>(event).textInserted()};
     case QAccessible::TextRemoved:

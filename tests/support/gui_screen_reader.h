@@ -16,7 +16,7 @@ public:
     ScreenReader& operator=(const ScreenReader&) = delete;
     ~ScreenReader();
 
-    /// What was announced as typed, removed or replaced, or as a field's value.
+    /// What was announced as typed, removed or replaced, as a field's value, or as an alert.
     const QStringList& heard() const;
     void forget();
 };

@@ -14,6 +14,7 @@
 #include "simulator/world/world.h"
 #include "tests/tour/photographer.h"
 #include "tests/tour/stories.h"
+#include "ui/select_row.h"
 
 namespace tour {
 
@@ -60,7 +61,7 @@ void forward(Photographer& photographer, QDialog& users, const char* screen) {
 void takeTwoFactor(Photographer& photographer) {
     takeCode(photographer);
     photographer.expect<QDialog>([&](QDialog& users) {
-        child<QTableView>(users, "tableUsers").selectRow(0);
+        ui::selectRow(child<QTableView>(users, "tableUsers"), 0);
         photographer.take(users, "users");
         photographer.expect<QDialog>([&](QDialog& user) { takeUser(photographer, user); });
         click(users, "btnEdit");

@@ -6,6 +6,7 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QGroupBox>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -36,8 +37,17 @@ QColor behind(const QWidget& widget) {
     return colourOf(*at, at->backgroundRole());
 }
 
+/// Errors and warnings have fixed colours on a light palette, and the desktop gives both colours of
+/// a selection.
+bool isGiven(const QColor& fore, const QColor& back) {
+    const QPalette palette = QGuiApplication::palette();
+    return (!ui::isDark(palette) && (fore == QColor(Qt::red) || fore == QColor(Qt::darkYellow))) ||
+           (fore == palette.color(QPalette::HighlightedText) &&
+            back == palette.color(QPalette::Highlight));
+}
+
 QString defect(const QWidget& widget, const QString& text, const QColor& fore, const QColor& back) {
-    if (text.isEmpty() || ui::contrast(fore, back) >= ui::readableContrast)
+    if (text.isEmpty() || isGiven(fore, back) || ui::contrast(fore, back) >= ui::readableContrast)
         return {};
     return QStringLiteral("%1 \"%2\" is %3 on %4")
         .arg(widget.objectName(), text, fore.name(), back.name());

@@ -14,6 +14,7 @@
 #include "insight/find_file_window.h"
 #include "tests/tour/photographer.h"
 #include "tests/tour/stories.h"
+#include "ui/select_row.h"
 
 namespace tour {
 
@@ -86,7 +87,7 @@ void takeFind(Album& album) {
     type(find, "editName", "*.odt");
     click(find, "buttonFind");
     waitUntil([&] { return !find.isSearching(); });
-    child<QTableView>(find, "tableFound").selectRow(0);
+    ui::selectRow(child<QTableView>(find, "tableFound"), 0);
     photographer.take(find, "find-file");
     photographer.expect<QWizard>([&](QWizard& wizard) {
         next(wizard);

@@ -12,6 +12,7 @@
 #include "tests/support/gui_modal_driver.h"
 #include "tests/support/gui_wizard.h"
 #include "tests/tour/album.h"
+#include "ui/select_row.h"
 
 class QLineEdit;
 class QTreeView;
@@ -41,7 +42,7 @@ public:
     void logIn();
     /// Advances the agent's clock, and updates the window.
     void letPass(std::chrono::seconds time);
-    void selectSet(int row) { driver_.sets().selectRow(row); }
+    void selectSet(int row) { ui::selectRow(driver_.sets(), row); }
 
     /// Makes the agent refuse the next call of that method.
     void refuse(const char* method);

@@ -59,9 +59,9 @@ bool PseudoLanguage::isSpokenIn(const QString& text) {
 }
 
 QString PseudoLanguage::translate(const char*, const char* source, const char*, int) const {
-    // Not a text: Qt queries the layout direction.
+    // Not a text: Qt asks for the direction of the language.
     if (std::strcmp(source, "QT_LAYOUT_DIRECTION") == 0)
-        return {};
+        return QStringLiteral("RTL");
     return textOf(QString::fromUtf8(source));
 }
 

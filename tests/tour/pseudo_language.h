@@ -6,9 +6,9 @@
 
 namespace tour {
 
-/// A readable pseudo-language: each letter has an accent, and words are 40 % longer. Plain letters
-/// on the screen were never translated, and a text that is cut would also be cut in a language with
-/// long words.
+/// A readable pseudo-language: each letter has an accent, words are 40 % longer, and windows are
+/// laid out from right to left. Plain letters on the screen were never translated, and a text that
+/// is cut would also be cut in a language with long words.
 class PseudoLanguage : public QTranslator {
 public:
     /// The translation of `source`, with its placeholders, markup and mnemonic.

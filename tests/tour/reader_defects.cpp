@@ -26,6 +26,8 @@
 #include <QToolButton>
 #include <QTreeView>
 
+#include "ui/alert_label.h"
+
 namespace tour {
 
 namespace {
@@ -34,6 +36,8 @@ using Roles = std::vector<QAccessible::Role>;
 
 /// The roles that a widget may have for a screen reader; empty if any role is right.
 Roles fittingRoles(const QWidget& widget) {
+    if (qobject_cast<const ui::AlertLabel*>(&widget))
+        return {QAccessible::AlertMessage};
     if (const auto* label = qobject_cast<const QLabel*>(&widget))
         return label->text().isEmpty() ? Roles{QAccessible::Graphic, QAccessible::StaticText}
                                        : Roles{QAccessible::StaticText};
@@ -69,8 +73,8 @@ bool fits(QAccessible::Role role, const Roles& roles) {
     return roles.empty() || std::find(roles.begin(), roles.end(), role) != roles.end();
 }
 
-bool isReachedByTab(const QWidget& widget) {
-    return widget.isEnabled() && (widget.focusPolicy() & Qt::TabFocus) && !widget.focusProxy();
+bool isTabStop(const QWidget& widget) {
+    return (widget.focusPolicy() & Qt::TabFocus) && !widget.focusProxy();
 }
 
 /// Whether a label may name the widget.
@@ -105,6 +109,7 @@ const QWidget* fieldBehind(const QLabel& label) {
             grid->getItemPosition(index, &row, &column, &rows, &columns);
             return widgetAt(grid->itemAtPosition(row, column + columns));
         }
+        return widgetAt(layout->itemAt(index + 1));
     }
     return nullptr;
 }
@@ -151,10 +156,11 @@ QStringList defectsOfWidget(QWidget& widget) {
     if (!fits(face->role(), fittingRoles(widget)))
         defects << QStringLiteral("%1 has the role %2")
                        .arg(nameOf(widget), QString::number(face->role(), 16));
-    if (isReachedByTab(widget) && face->text(QAccessible::Name).isEmpty())
+    // Readers also read out what is disabled.
+    if (isTabStop(widget) && face->text(QAccessible::Name).isEmpty())
         defects << nameOf(widget) + QStringLiteral(" has no name");
     // Qt gives a scroll area that role; its name must describe the content.
-    if (isReachedByTab(widget) && fittingRoles(widget).empty() &&
+    if (isTabStop(widget) && fittingRoles(widget).empty() &&
         !qobject_cast<const QScrollArea*>(&widget) &&
         (face->role() == QAccessible::Client || face->role() == QAccessible::NoRole))
         defects << nameOf(widget) + QStringLiteral(" has no specific role");

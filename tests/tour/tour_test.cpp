@@ -249,6 +249,7 @@ void TourTest::inEachLanguage() {
 void TourTest::inAPseudoLanguage() {
     tour::PseudoLanguage language;
     QVERIFY(QCoreApplication::installTranslator(&language));
+    QCOMPARE(QGuiApplication::layoutDirection(), Qt::RightToLeft);
     tour::Album album(tour::PseudoLanguage::textOf(q("Out of order.")));
     tour::takeAll(album);
     QCoreApplication::removeTranslator(&language);

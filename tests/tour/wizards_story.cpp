@@ -13,6 +13,7 @@
 #include "simulator/world/world.h"
 #include "tests/tour/photographer.h"
 #include "tests/tour/stories.h"
+#include "ui/select_row.h"
 
 namespace tour {
 
@@ -179,7 +180,7 @@ void takeRestore(Photographer& photographer) {
         auto& files = child<QListView>(wizard, "listSelection");
         files.setCurrentIndex(files.model()->index(0, 0, files.rootIndex()));
         photographer.expect<QDialog>([&](QDialog& generations) {
-            child<QTableView>(generations, "listGenerations").selectRow(0);
+            ui::selectRow(child<QTableView>(generations, "listGenerations"), 0);
             photographer.take(generations, "restore-generations");
         });
         click(wizard, "buttonGenerations");
