@@ -30,7 +30,6 @@ int runWindow(QtSingleApplication& application) {
     app::CallGate gate;
     SimpleGUIMainWindow window;
     window.keepAliveBy(gate);
-    ui::keepOnScreen(window);
     if (app::startsInTray(QCoreApplication::arguments()))
         app::startInTray(window);
     else
@@ -49,7 +48,7 @@ int run(int argc, char** argv) {
     app::adjustToolkit(application);
     QGuiApplication::setDesktopFileName(QLatin1String(product::applicationId));
     resources::initPictures();
-    ui::keepDialogsOnScreen(application);
+    ui::keepWindowsOnScreen(application);
     app::applyStyleSheet(application);
     if (application.sendMessage(QString(), answerTime))
         return 0;

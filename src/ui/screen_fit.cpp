@@ -13,14 +13,19 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QStyle>
+#include <QWindow>
 #include <QWizard>
 
 namespace ui {
 
 namespace {
 
-/// Borders and title bar, whose size is unknown before the window is on the screen.
-constexpr QSize frame(8, 42);
+/// Of borders and title bar, as long as it is unknown.
+constexpr QSize usualFrame(8, 42);
+
+/// Set on a window that has opened; from then on, the user determines its size.
+constexpr char hasOpened[] = "hasOpened";
 
 /// Has the size hint of its content, or the wanted size if that is larger, and a small minimum
 /// size.
@@ -36,6 +41,8 @@ public:
         setWidget(content);
         content->setAutoFillBackground(false);
         viewport()->setAutoFillBackground(false);
+        connect(qApp, &QApplication::focusChanged, this,
+                [this](QWidget*, QWidget* focused) { follow(focused); });
     }
 
     bool viewportEvent(QEvent* event) override {
@@ -61,6 +68,14 @@ public:
 private:
     static constexpr QSize smallest{200, 80};
 
+    /// Scrolls to the field that gets the focus. `QScrollArea` does so for the Tab key only, not
+    /// for a mnemonic. A click must not move its target.
+    void follow(QWidget* focused) {
+        if (focused && widget()->isAncestorOf(focused) &&
+            QApplication::mouseButtons() == Qt::NoButton)
+            ensureWidgetVisible(focused);
+    }
+
     /// Fits the content to the viewport; below its minimum size, it scrolls. `QScrollArea` itself
     /// would scroll wrapped texts already below their preferred height.
     void fitContent() {
@@ -76,11 +91,78 @@ private:
     QSize wanted_;
 };
 
+QSize frameOf(const QWidget& window) {
+    const QMargins frame =
+        window.windowHandle() ? window.windowHandle()->frameMargins() : QMargins();
+    return usualFrame.expandedTo({frame.left() + frame.right(), frame.top() + frame.bottom()});
+}
+
 QSize roomOf(const QWidget& window) {
     const QScreen* screen = window.screen();
-    return screen ? largestWindow(screen->availableGeometry())
+    return screen ? screen->availableSize() - frameOf(window)
                   : QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
 }
+
+void shrinkToScreen(QWidget& window) {
+    window.resize(window.size().boundedTo(roomOf(window)));
+}
+
+void moveOntoScreen(QWidget& window) {
+    const QRect whole = window.frameGeometry();
+    const QRect room = window.screen() ? window.screen()->availableGeometry() : whole;
+    if (room.contains(whole))
+        return;
+    const QPoint least = room.topLeft();
+    const QPoint most = room.bottomRight() - QPoint(whole.width() - 1, whole.height() - 1);
+    window.move(std::max(std::min(whole.x(), most.x()), least.x()),
+                std::max(std::min(whole.y(), most.y()), least.y()));
+}
+
+/// Fits a window to its screen: first without knowing its frame, then again on the screen.
+class FitAtFirstShow : public QObject {
+public:
+    explicit FitAtFirstShow(QWidget& window)
+        : QObject(&window)
+        , window_(window) {
+        shrinkToScreen(window);
+        window.windowHandle()->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Expose && static_cast<QWindow*>(watched)->isExposed()) {
+            watched->removeEventFilter(this);
+            deleteLater();
+            shrinkToScreen(window_);
+            moveOntoScreen(window_);
+        }
+        return false;
+    }
+
+private:
+    QWidget& window_;
+};
+
+/// Fits windows to their screens as they open.
+class OpensOnScreen : public QObject {
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Show && !event->spontaneous())
+            if (auto* window = qobject_cast<QWidget*>(watched); window && opensFirst(*window)) {
+                window->setProperty(hasOpened, true);
+                new FitAtFirstShow(*window);
+            }
+        return false;
+    }
+
+private:
+    /// Popups and tool tips have sizes of their own.
+    static bool opensFirst(const QWidget& window) {
+        return (window.windowType() == Qt::Window || window.windowType() == Qt::Dialog) &&
+               window.windowHandle() && !window.property(hasOpened).isValid();
+    }
+};
 
 /// Acts just before a dialog is shown: it has its size, but no position yet.
 class AtShow : public QObject {
@@ -95,9 +177,7 @@ public:
     }
 
 private:
-    virtual void beforeShow(QDialog& dialog) {
-        dialog.resize(dialog.size().boundedTo(roomOf(dialog)));
-    }
+    virtual void beforeShow(QDialog& dialog) = 0;
 };
 
 /// Without this, a dialog with scrolling content would open without regard to the content's size.
@@ -139,8 +219,12 @@ private:
             return;
         isDone_ = true;
         // With a watermark, a wizard uses its size hint as minimum height unless one is set.
-        dialog.setMinimumHeight(leastHeight());
-        dialog.resize(dialog.sizeHint().boundedTo(roomOf(dialog)));
+        const QSize room = roomOf(dialog);
+        dialog.setMinimumHeight(std::min(leastHeight(), room.height()));
+        QSize wanted = dialog.sizeHint();
+        if (wanted.height() > room.height()) // the bar beside the pages needs width
+            wanted.rwidth() += dialog.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+        dialog.resize(wanted.boundedTo(room));
     }
 
     QWizard& wizard_;
@@ -160,38 +244,21 @@ ContentArea& contentAreaOf(QWidget& page) {
 } // namespace
 
 QSize largestWindow(const QRect& available) {
-    return available.size() - frame;
-}
-
-void keepOnScreen(QWidget& window) {
-    const QScreen* screen = window.screen();
-    if (!screen)
-        return;
-    const QRect room = screen->availableGeometry();
-    const QSize size = window.size().boundedTo(largestWindow(room));
-    if (size == window.size())
-        return;
-    window.resize(size);
-    window.move(room.topLeft() + QPoint((room.width() - size.width()) / 2, 0));
+    return available.size() - usualFrame;
 }
 
 int growOnScreen(QWidget& window, int height) {
-    const QRect room =
-        window.screen() ? window.screen()->availableGeometry() : QRect(QPoint(), window.size());
-    const int grown = std::clamp(largestWindow(room).height() - window.height(), 0, height);
+    const int grown = std::clamp(roomOf(window).height() - window.height(), 0, height);
     if (window.minimumHeight() == window.maximumHeight())
         window.setFixedHeight(window.height() + grown);
     else
         window.resize(window.width(), window.height() + grown);
-    const QRect whole = window.frameGeometry();
-    const int below = std::min(whole.bottom() - room.bottom(), whole.top() - room.top());
-    if (below > 0)
-        window.move(window.pos() - QPoint(0, below));
+    moveOntoScreen(window);
     return grown;
 }
 
-void keepDialogsOnScreen(QApplication& application) {
-    application.installEventFilter(new AtShow(&application));
+void keepWindowsOnScreen(QApplication& application) {
+    application.installEventFilter(new OpensOnScreen(&application));
 }
 
 void letContentScroll(QWidget& page, QLayout* buttons) {

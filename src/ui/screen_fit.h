@@ -13,21 +13,20 @@ class QWizard;
 /// Keeps windows within small screens: content that doesn't fit scrolls.
 namespace ui {
 
-/// The maximum size of a window on a screen with this available size, leaving room for its frame.
+/// The maximum size of a window on a screen with this available size, leaving room for a frame of
+/// the usual size.
 QSize largestWindow(const QRect& available);
 
-/// Shrinks a window that is larger than its screen. Call this before showing it.
-void keepOnScreen(QWidget& window);
-
-/// Makes a visible window up to `height` higher, as far as its screen has room, and moves it up if
-/// it would extend below the screen. Returns by how much it has grown.
+/// Makes a visible window up to `height` higher, as far as its screen has room, and moves it if it
+/// would extend beyond the screen. Returns by how much it has grown.
 int growOnScreen(QWidget& window, int height);
 
-/// After this call, no dialog of the program opens larger than its screen.
-void keepDialogsOnScreen(QApplication& application);
+/// After this call, no window or dialog of the program opens larger than its screen.
+void keepWindowsOnScreen(QApplication& application);
 
-/// Makes the content of a page or dialog scroll if it doesn't fit. A dialog opens large enough for
-/// its content if the screen permits. `buttons`, the row at its end, doesn't scroll.
+/// Makes the content of a page or dialog scroll if it doesn't fit, by itself to a field that gets the
+/// focus. A dialog opens large enough for its content if the screen permits. `buttons`, the row at
+/// its end, doesn't scroll.
 void letContentScroll(QWidget& page, QLayout* buttons = nullptr);
 void letContentScroll(QWidget& page, QWidget& buttons);
 

@@ -11,7 +11,6 @@
 #include "tests/tour/contrast_defects.h"
 #include "tests/tour/defects.h"
 #include "tests/tour/reader_defects.h"
-#include "ui/readable_colour.h"
 
 namespace tour {
 
@@ -57,7 +56,7 @@ void Album::take(QWidget& shown, const char* screen) {
     const QString name = QString::fromLatin1(screen);
     const char* className = chapterOf(screen).className;
     if (*className && !shows(shown, className) && !isAbout(shown, className))
-        qFatal("%s shows no %s", screen, className);
+        qFatal("%s shows no %s but \"%s\"", screen, className, qPrintable(shown.windowTitle()));
     if (taken_.contains(name))
         qFatal("There are two pictures of %s", screen);
     taken_ << name;
@@ -70,12 +69,10 @@ void Album::take(QWidget& shown, const char* screen) {
     boxTexts_ << textsOf(shown);
     titles_[name] = shown.windowTitle();
     seenTexts_[name] = tour::seenTexts(shown);
-    for (const QString& defect : defectsOf(shown) + readerDefectsOf(shown))
+    const QStringList others = otherDefectsOf_ ? otherDefectsOf_(shown) : QStringList();
+    for (const QString& defect :
+         defectsOf(shown) + readerDefectsOf(shown) + contrastDefectsOf(shown) + others)
         defects_ << name + QStringLiteral(": ") + defect;
-    // On a light palette some colours are fixed.
-    if (ui::isDark(QGuiApplication::palette()))
-        for (const QString& defect : contrastDefectsOf(shown))
-            defects_ << name + QStringLiteral(": ") + defect;
     // Waits for late changes, so that the picture shows them.
     if (folder_)
         QTest::qWait(timeToRest);

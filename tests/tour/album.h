@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <functional>
 #include <optional>
 
 #include <QDir>
@@ -22,6 +23,12 @@ public:
     explicit Album(QString refusal, std::optional<QDir> folder = {});
 
     const QString& refusal() const { return refusal_; }
+    bool keepsPictures() const { return folder_.has_value(); }
+
+    /// Also looks for these defects on each screen.
+    void alsoCheck(std::function<QStringList(const QWidget&)> defectsOf) {
+        otherDefectsOf_ = std::move(defectsOf);
+    }
 
     /// Takes a picture of a widget as a screen of the catalogue. Aborts the program if it isn't
     /// that screen, if there is such a picture already, or if it can't be written.
@@ -41,6 +48,7 @@ public:
 private:
     QString refusal_;
     std::optional<QDir> folder_;
+    std::function<QStringList(const QWidget&)> otherDefectsOf_;
     QStringList taken_;
     QStringList boxTexts_;
     QMap<QString, QString> titles_;

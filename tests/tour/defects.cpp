@@ -17,6 +17,7 @@
 #include <QStyleOptionGroupBox>
 #include <QTabBar>
 #include <QToolButton>
+#include <QtMath>
 
 #include "ui/table_columns.h"
 
@@ -31,9 +32,12 @@ QString reported(const QWidget& widget, const QString& text) {
 bool isCut(const QLabel& label) {
     if (label.text().isEmpty())
         return false;
+    // At 150 %, a window of whole pixels may be a fraction narrower than its size in Qt.
+    const qreal scale = label.devicePixelRatioF();
+    const QSize size = label.size() + (scale > qFloor(scale) ? QSize(1, 1) : QSize(0, 0));
     if (label.wordWrap())
-        return label.heightForWidth(label.width()) > label.height();
-    return label.sizeHint().width() > label.width() || label.sizeHint().height() > label.height();
+        return label.heightForWidth(size.width()) > size.height();
+    return label.sizeHint().width() > size.width() || label.sizeHint().height() > size.height();
 }
 
 bool isCut(const QComboBox& combo) {

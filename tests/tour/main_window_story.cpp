@@ -25,6 +25,8 @@
 #include "tests/support/security_operations_override.h"
 #include "tests/tour/photographer.h"
 #include "tests/tour/stories.h"
+#include "ui/screen_fit.h"
+#include "ui/select_row.h"
 
 namespace tour {
 
@@ -100,8 +102,8 @@ void takeMenus(Photographer& photographer) {
 void takeLogs(Photographer& photographer) {
     SimpleGUIMainWindow& window = photographer.window();
     child<QTabWidget>(window, "tabWidget").setCurrentIndex(1);
-    // High enough for a line with warnings.
-    window.resize(1000, 800);
+    // High enough for a line with warnings, if the screen is.
+    ui::growOnScreen(window, 200);
     photographer.take(window, "activity-log");
     photographer.expect<EventLogViewer>([&](EventLogViewer& viewer) {
         photographer.take(viewer, "event-log");
@@ -111,7 +113,7 @@ void takeLogs(Photographer& photographer) {
         child<QSpinBox>(viewer, "spinActivityID").setValue(1001);
     });
     photographer.run("ShowEventLog");
-    child<QTableView>(window, "tableActivityLog").selectRow(2);
+    ui::selectRow(child<QTableView>(window, "tableActivityLog"), 2);
     photographer.run("ShowEventLog", "event-log-activity");
 }
 
@@ -172,6 +174,14 @@ void takeFailures(Photographer& photographer, const QString& refusal) {
     photographer.run("OnDelete", "delete-question");
 }
 
+/// When the panel over a window that waits appears. Only a picture needs the usual time.
+app::CallGate::Times timesFor(const Album& album) {
+    app::CallGate::Times times;
+    if (!album.keepsPictures())
+        times.untilPanel = std::chrono::milliseconds(300);
+    return times;
+}
+
 /// Doesn't answer until it is released.
 struct SilentLogonService : support::ScriptedSecurityOperations {
     platform::SecurityStatus
@@ -194,7 +204,7 @@ struct SilentLogonService : support::ScriptedSecurityOperations {
 void takeSilentLogonService(Album& album) {
     SilentLogonService service;
     const support::SecurityOperationsOverride system(&service);
-    app::CallGate gate;
+    app::CallGate gate(timesFor(album));
     Photographer photographer(album);
     photographer.window().keepAliveBy(gate);
     {
@@ -213,7 +223,7 @@ void takeSilentLogonService(Album& album) {
 
 /// An agent that falls silent, and the session afterwards.
 void takeSilence(Album& album) {
-    app::CallGate gate;
+    app::CallGate gate(timesFor(album));
     Photographer photographer(album);
     photographer.window().keepAliveBy(gate);
     photographer.logIn();

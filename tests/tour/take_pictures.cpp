@@ -96,7 +96,7 @@ int main(int argc, char** argv) {
     app::prepareToolkit();
     QApplication application(argc, argv);
     app::adjustToolkit(application);
-    ui::keepDialogsOnScreen(application);
+    ui::keepWindowsOnScreen(application);
     support::applyLook();
     resources::initPictures();
     const QStringList arguments = QCoreApplication::arguments();

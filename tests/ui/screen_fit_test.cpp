@@ -4,9 +4,11 @@
 #include <QDialog>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 #include <QWizard>
 #include <QtTest>
@@ -37,7 +39,7 @@ QRect placeOf(QWizard& wizard, QWizard::WizardButton which) {
 class ScreenFitTest : public QObject {
     Q_OBJECT
 private slots:
-    void initTestCase() { ui::keepDialogsOnScreen(*qApp); }
+    void initTestCase() { ui::keepWindowsOnScreen(*qApp); }
 
     void aWindowLeavesRoomForItsFrame() {
         const QSize room = ui::largestWindow({0, 0, 910, 480});
@@ -53,16 +55,34 @@ private slots:
         QCOMPARE(dialog.size(), ui::largestWindow(screen));
     }
 
-    void aWindowIsMadeToFitTheScreen() {
+    void aWindowOpensWithinTheScreen() {
         QWidget window;
         window.setGeometry(100, 100, 5000, 300);
-        ui::keepOnScreen(window);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
         const QRect room = window.screen()->availableGeometry();
         QCOMPARE(window.size(), QSize(ui::largestWindow(room).width(), 300));
-        QVERIFY(room.contains(window.pos()));
+        QVERIFY(room.contains(window.frameGeometry()));
+    }
+
+    void aWindowThatFitsStaysInItsPlace() {
+        QWidget window;
         window.setGeometry(100, 100, 300, 300);
-        ui::keepOnScreen(window);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
         QCOMPARE(window.geometry(), QRect(100, 100, 300, 300));
+    }
+
+    void aWindowThatComesBackKeepsItsSize() {
+        QWidget window;
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        const QSize chosen = window.screen()->availableSize();
+        window.resize(chosen);
+        window.hide();
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QCOMPARE(window.size(), chosen);
     }
 
     void aWindowGrowsNoFurtherThanItsScreen() {
@@ -125,6 +145,47 @@ private slots:
         QCoreApplication::processEvents();
         QCOMPARE(wizard.size(), size);
         QCOMPARE(placeOf(wizard, QWizard::CancelButton).bottom(), next.bottom());
+    }
+
+    void contentScrollsToAMnemonic() {
+        QDialog dialog;
+        auto* layout = new QVBoxLayout(&dialog);
+        auto* first = new QLineEdit;
+        auto* space = new QWidget;
+        space->setFixedHeight(2000);
+        auto* label = new QLabel(QStringLiteral("&Industry"));
+        auto* last = new QLineEdit;
+        label->setBuddy(last);
+        for (QWidget* widget : std::initializer_list<QWidget*>{first, space, label, last})
+            layout->addWidget(widget);
+        ui::letContentScroll(dialog);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        QVERIFY(last->visibleRegion().isEmpty());
+        QTest::keyClick(&dialog, Qt::Key_I, Qt::AltModifier);
+        QVERIFY(last->hasFocus());
+        QCOMPARE(last->visibleRegion().boundingRect(), last->rect());
+    }
+
+    void aWizardFitsAScreenThatIsLowerThanItsPicture() {
+        QWizard wizard;
+        wizard.setPixmap(QWizard::WatermarkPixmap, QPixmap(164, 2000));
+        wizard.addPage(newPage(300, 100));
+        ui::giveOneSize(wizard);
+        wizard.show();
+        QVERIFY(wizard.height() <=
+                ui::largestWindow(wizard.screen()->availableGeometry()).height());
+    }
+
+    void aPageThatScrollsDownDoesNotScrollSideways() {
+        QWizard wizard;
+        wizard.addPage(newPage(300, 2000));
+        ui::giveOneSize(wizard);
+        wizard.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&wizard));
+        const auto* area = wizard.currentPage()->findChild<QScrollArea*>();
+        QVERIFY(area->verticalScrollBar()->maximum() > 0);
+        QCOMPARE(area->horizontalScrollBar()->maximum(), 0);
     }
 
     void aWizardFitsASmallScreen() {
