@@ -310,18 +310,19 @@ private slots:
         MainWindowDriver driver;
         driver.window().keepAliveBy(gate);
         PaintCount paints(driver.window());
-        QString text;
+        bool seen = false;
         const InTheWait user([&] {
-            if (!waitingPanel())
+            // On a busy machine, the agent may keep the program waiting first.
+            if (waitingText() != QStringLiteral("The logon service hasn't answered for N s."))
                 return;
-            if (std::exchange(text, waitingText()).isEmpty())
+            if (!std::exchange(seen, true))
                 paints.count = 0;
             driver.window().update();
             if (paints.count >= 3)
                 clickDisconnect();
         });
         QVERIFY(!driver.window().doLogin(true));
-        QCOMPARE(text, QStringLiteral("The logon service hasn't answered for N s."));
+        QVERIFY(seen);
         const QString left =
             QStringLiteral("Disconnected, as the logon service hadn't answered for ");
         QVERIFY2(driver.status().startsWith(left), qPrintable(driver.status()));
@@ -337,15 +338,16 @@ private slots:
         app::CallGate gate(quickTimes);
         MainWindowDriver driver;
         driver.window().keepAliveBy(gate);
-        QString text;
+        bool quit = false;
         const InTheWait user([&] {
-            if (!waitingPanel())
+            // On a busy machine, the agent may keep the program waiting first.
+            if (waitingText() != QStringLiteral("Der Anmeldedienst antwortet seit N s nicht."))
                 return;
-            text = waitingText();
+            quit = true;
             driver.trigger("actionQuit");
         });
         QCOMPARE(app::runLoggedIn(driver.window(), gate), 0);
-        QCOMPARE(text, QStringLiteral("Der Anmeldedienst antwortet seit N s nicht."));
+        QVERIFY(quit);
         QCOMPARE(methodsOf(agent), std::vector<std::string>{"getTarnClientType"});
     }
 
