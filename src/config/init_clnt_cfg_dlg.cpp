@@ -160,7 +160,7 @@ void InitClntCfgDlg::read(QFile& file) {
             take(entry);
         return changes;
     });
-    ui_->labImport->tell(
+    ui_->labImport->announce(
         tr("Values imported: %1. Lines skipped: %2.").arg(lines.taken).arg(lines.skipped));
 }
 

@@ -61,7 +61,7 @@ void RegisterDlg::on_btnRegister_clicked() {
 }
 
 void RegisterDlg::showStatus(const QString& text) {
-    ui_->labStatus->tell(text);
+    ui_->labStatus->announce(text);
     // The next step may be a blocking call.
     ui_->labStatus->repaint();
 }

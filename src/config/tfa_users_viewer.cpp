@@ -125,7 +125,7 @@ void TFAUsersViewer::read(QFile& file) {
         return;
     config::UserEmailList list = config::readUserEmails(file);
     model_.insert(list.rows);
-    ui_->labImport->tell(
+    ui_->labImport->announce(
         tr("Users imported: %1. Lines skipped: %2.").arg(list.lines.taken).arg(list.lines.skipped));
     ui_->labImport->show();
 }

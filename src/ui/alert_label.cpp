@@ -24,7 +24,7 @@ AlertLabel::AlertLabel(QWidget* parent)
     Q_UNUSED(isKnown)
 }
 
-void AlertLabel::tell(const QString& text) {
+void AlertLabel::announce(const QString& text) {
     setText(text);
     setAccessibleName(text);
     if (!isVisible())

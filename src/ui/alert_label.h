@@ -14,7 +14,7 @@ public:
     explicit AlertLabel(QWidget* parent = nullptr);
 
     /// Sets the text, and has it announced if the label is visible.
-    void tell(const QString& text);
+    void announce(const QString& text);
 };
 
 } // namespace ui

@@ -24,9 +24,9 @@ int growOnScreen(QWidget& window, int height);
 /// After this call, no window or dialog of the program opens larger than its screen.
 void keepWindowsOnScreen(QApplication& application);
 
-/// Makes the content of a page or dialog scroll if it doesn't fit, by itself to a field that gets the
-/// focus. A dialog opens large enough for its content if the screen permits. `buttons`, the row at
-/// its end, doesn't scroll.
+/// Makes the content of a page or dialog scroll if it doesn't fit, by itself to a field that gets
+/// the focus. A dialog opens large enough for its content if the screen permits. `buttons`, the row
+/// at its end, doesn't scroll.
 void letContentScroll(QWidget& page, QLayout* buttons = nullptr);
 void letContentScroll(QWidget& page, QWidget& buttons);
 

@@ -145,7 +145,7 @@ void ItemsSelectPage::showContents(Contents contents) {
 
 /// A preset is only a path, and replaces all items of the set.
 void ItemsSelectPage::showExclusions() {
-    ui_->labelExclusions->tell(
+    ui_->labelExclusions->announce(
         tr("This set leaves out %1 path(s), which can't be shown with a specific location. "
            "Finishing the wizard removes these exclusions.")
             .arg(exclusions_));

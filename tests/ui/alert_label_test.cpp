@@ -18,14 +18,14 @@ QString q(const char* text) {
 class AlertLabelTest : public QObject {
     Q_OBJECT
 private slots:
-    void whatALabelTellsIsHeard() {
+    void anAnnouncementIsHeard() {
         const support::ScreenReader reader;
         ui::AlertLabel label;
-        label.tell(q("Values imported: 3."));
+        label.announce(q("Values imported: 3."));
         QCOMPARE(reader.heard(), QStringList());
         label.show();
         QCOMPARE(reader.heard(), QStringList{q("Values imported: 3.")});
-        label.tell(q("Values imported: 4."));
+        label.announce(q("Values imported: 4."));
         QCOMPARE(reader.heard().last(), q("Values imported: 4."));
         QCOMPARE(reader.heard().size(), 2);
         QCOMPARE(label.text(), q("Values imported: 4."));
