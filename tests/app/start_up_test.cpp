@@ -165,14 +165,15 @@ private slots:
 
     void takesNoStyleSheetThatIsNoFile_data() {
         QTest::addColumn<QString>("target");
-        QTest::newRow("a device without end") << QStringLiteral("/dev/zero");
-        QTest::newRow("a folder") << QStringLiteral("/");
+        QTest::newRow("a folder") << QString();
+        const QString endless = QStringLiteral("/dev/zero");
+        if (QFile::exists(endless))
+            QTest::newRow("a device without end") << endless;
     }
     void takesNoStyleSheetThatIsNoFile() {
         QFETCH(QString, target);
-        if (!QFile::exists(target))
-            QSKIP("This system has no such file");
-        QVERIFY(QFile::link(target, QStringLiteral("tarnmobile.css")));
+        const QString name = QStringLiteral("tarnmobile.css");
+        QVERIFY(target.isEmpty() ? QDir().mkdir(name) : QFile::link(target, name));
         app::applyStyleSheet(*qApp);
         QCOMPARE(qApp->styleSheet(), QString());
     }
