@@ -44,6 +44,15 @@ namespace {
     QT_TRANSLATE_NOOP("QFileDialog", "Show "),
     QT_TRANSLATE_NOOP("QFileDialog", "Delete"),
     QT_TRANSLATE_NOOP("QFileDialog", "Are you sure you want to delete '%1'?"),
+    QT_TRANSLATE_NOOP("QFileSystemModel", "Name"),
+    QT_TRANSLATE_NOOP("QFileSystemModel", "Size"),
+    QT_TRANSLATE_NOOP("QFileSystemModel", "Date Modified"),
+    QT_TRANSLATE_NOOP("QFileSystemModel", "Computer"),
+    QT_TRANSLATE_NOOP("QFileSystemModel", "My Computer"),
+    QT_TRANSLATE_NOOP("QFileSystemModel", "Invalid filename"),
+};
+
+[[maybe_unused]] constexpr const char* fileProblems[] = {
     QT_TRANSLATE_NOOP("QFileDialog", "'%1' is write protected.\nDo you want to delete it anyway?"),
     QT_TRANSLATE_NOOP("QFileDialog", "Could not delete directory."),
     QT_TRANSLATE_NOOP("QFileDialog",
@@ -51,12 +60,6 @@ namespace {
                       "name was given."),
     QT_TRANSLATE_NOOP("QFileDialog",
                       "%1\nFile not found.\nPlease verify the correct file name was given."),
-    QT_TRANSLATE_NOOP("QFileSystemModel", "Name"),
-    QT_TRANSLATE_NOOP("QFileSystemModel", "Size"),
-    QT_TRANSLATE_NOOP("QFileSystemModel", "Date Modified"),
-    QT_TRANSLATE_NOOP("QFileSystemModel", "Computer"),
-    QT_TRANSLATE_NOOP("QFileSystemModel", "My Computer"),
-    QT_TRANSLATE_NOOP("QFileSystemModel", "Invalid filename"),
     QT_TRANSLATE_NOOP("QFileSystemModel",
                       "<b>The name \"%1\" cannot be used.</b><p>Try using another name, with fewer "
                       "characters or no punctuation marks."),
