@@ -4027,7 +4027,7 @@ Bitte wählen Sie einen anderen Namen.</translation>
     </message>
     <message>
         <source>Protected file generations:</source>
-        <translation>Geschützte Dateigenerationen:</translation>
+        <translation>Geschützte Generationen:</translation>
     </message>
     <message>
         <source>Protected size:</source>
