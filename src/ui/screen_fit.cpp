@@ -44,6 +44,8 @@ public:
         connect(qApp, &QApplication::focusChanged, this,
                 [this](QWidget*, QWidget* focused) { follow(focused); });
     }
+    // The focus also changes while the base classes delete the content.
+    ~ContentArea() override { disconnect(qApp, nullptr, this, nullptr); }
 
     bool viewportEvent(QEvent* event) override {
         const bool handled = QScrollArea::viewportEvent(event);
