@@ -5,6 +5,7 @@
 
 #include <memory>
 
+#include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QLabel>
 #include <QLineEdit>
@@ -102,10 +103,15 @@ private:
 
     /// Destroys the window with a slow release. Returns whether `part` was there all that time.
     bool outlivesTheRelease(const QPointer<QObject>& part) {
-        agent_->inject("Release", simulator::Delay{300ms});
+        constexpr auto release = 500ms;
+        agent_->inject("Release", simulator::Delay{release});
+        const QDeadlineTimer end(release);
         int rounds = 0;
         bool isThere = true;
         const InTheWait loop([&] {
+            // On a busy machine, the logout may have to be waited for, too.
+            if (end.hasExpired())
+                return;
             ++rounds;
             isThere = isThere && part;
         });
