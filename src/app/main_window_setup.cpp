@@ -17,6 +17,7 @@
 #include "app/sets_splitter.h"
 #include "app/simple_gui_main_window.h"
 #include "app/tray_presence.h"
+#include "session/process_values.h"
 #include "ui/branding_resources.h"
 #include "ui/locale_text.h"
 #include "ui/wrapping_row.h"
@@ -147,12 +148,12 @@ QList<int> SimpleGUIMainWindow::sizesOfSplitter() const {
     const int room =
         windowWidth - around.left() - around.right() - ui_->splitterSetView->handleWidth();
     const int share = room * detailsWidth / (setsWidth + detailsWidth);
-    const int captions = ui_->pageProperties->sizeHint().width();
-    if (captions <= share)
-        return {setsWidth, detailsWidth};
-    // In another language. The time of a backup is the widest of the values.
+    // The time of a backup is the widest of the values. A translation may need more room.
     const QString time = ui::timeText(QDateTime::currentSecsSinceEpoch(), QLocale::ShortFormat);
-    const int needed = captions + fontMetrics().horizontalAdvance(time);
+    const int needed =
+        ui_->pageProperties->sizeHint().width() + fontMetrics().horizontalAdvance(time);
+    if (session::g_language.isEmpty() || needed <= share)
+        return {setsWidth, detailsWidth};
     return {room - needed, needed};
 }
 

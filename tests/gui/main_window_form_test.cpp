@@ -26,6 +26,7 @@
 
 #include "app/simple_gui_main_window.h"
 #include "resources/pictures.h"
+#include "session/process_values.h"
 #include "tests/support/gui_agent.h"
 #include "tests/support/gui_form_texts.h"
 #include "tests/support/gui_modal_driver.h"
@@ -288,7 +289,9 @@ private slots:
         QTRY_COMPARE(child<QAction>(*window_, "actionLogin").text(), QStringLiteral("&Verbinden"));
         QCOMPARE(window_->windowTitle(), QStringLiteral("Ostrand Backup - demo@there"));
 
+        session::g_language = QStringLiteral("de");
         SimpleGUIMainWindow fresh;
+        session::g_language.clear();
         QCOMPARE(child<QMenu>(fresh, "menu_Help").title(), QStringLiteral("&Hilfe"));
         QCOMPARE(fresh.windowTitle(), QStringLiteral("Ostrand Backup"));
         fresh.show();
