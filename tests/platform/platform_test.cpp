@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/foreground.h"
-#include "platform/library_search.h"
 #include "platform/process_id.h"
 #include "platform/security_context.h"
 
@@ -27,15 +25,6 @@ TEST(SecurityHandle, HoldsNothingWhileBothWordsAreZero) {
 
 TEST(SecurityOperations, AreThereOnEverySystem) {
     EXPECT_NE(platform::securityOperations(), nullptr);
-}
-
-TEST(Foreground, MayBePassedAtAnyTime) {
-    EXPECT_NO_THROW(platform::allowSetForeground());
-}
-
-TEST(LibrarySearch, MayBeRestrictedMoreThanOnce) {
-    EXPECT_NO_THROW(platform::restrictLibrarySearch());
-    EXPECT_NO_THROW(platform::restrictLibrarySearch());
 }
 
 } // namespace

@@ -6,8 +6,6 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
-#include "platform/administrators.h"
-#include "platform/event_log.h"
 #include "platform/file_dialog_history.h"
 #include "platform/library_search.h"
 #include "platform/process_id.h"
@@ -45,19 +43,6 @@ TEST(UserName, IsTheAccountOfTheProcessWhateverTheEnvironmentSays) {
     ASSERT_FALSE(expected.empty());
     setEnvironment("USERNAME", "another-user");
     EXPECT_EQ(platform::currentWindowsUser(), expected);
-}
-
-TEST(EventLog, TakesAnErrorOfASourceThatNobodyRegistered) {
-    EXPECT_NO_THROW(platform::reportError("HessianClientAPI", "100%s of a test \xF0\x9F\x8C\xB2"));
-}
-
-TEST(Administrators, HoldNoStranger) {
-    EXPECT_FALSE(platform::isAdministrator("no such account \xF0\x9F\x8C\xB2"));
-}
-
-TEST(Administrators, HoldNoEmptyNameAndNoneWithAZeroInside) {
-    EXPECT_FALSE(platform::isAdministrator(""));
-    EXPECT_FALSE(platform::isAdministrator(std::string("Administrator\0x", 15)));
 }
 
 bool loads(const wchar_t* name) {

@@ -13,6 +13,8 @@
 #include <mswsock.h>
 #include <ws2tcpip.h>
 
+#include "tests/support/system/windows/system_function.h"
+
 namespace {
 
 constexpr std::uint16_t localAgentPort = 4411;
@@ -23,12 +25,6 @@ std::uint16_t portOfEnvironment() {
 }
 
 std::atomic<std::uint16_t> agentPort = portOfEnvironment();
-
-template <class Function>
-Function systemFunction(const char* name) {
-    const FARPROC found = GetProcAddress(GetModuleHandleW(L"ws2_32.dll"), name);
-    return reinterpret_cast<Function>(reinterpret_cast<void*>(found));
-}
 
 /// The redirected destination of an address; port 0 for none.
 class Destination {
@@ -74,7 +70,8 @@ BOOL PASCAL redirectedConnectEx(SOCKET socket, const sockaddr* address, int leng
 }
 
 int PASCAL redirectedConnect(SOCKET socket, const sockaddr* address, int length) {
-    static const auto systemConnect = systemFunction<decltype(&redirectedConnect)>("connect");
+    static const auto systemConnect =
+        support::systemFunction<decltype(&redirectedConnect)>(L"ws2_32.dll", "connect");
     const Destination destination(address, length);
     if (destination.refused()) {
         WSASetLastError(WSAECONNREFUSED);
@@ -87,7 +84,8 @@ int PASCAL redirectedConnect(SOCKET socket, const sockaddr* address, int length)
 int PASCAL redirectedIoctl(SOCKET socket, DWORD code, void* in, DWORD inSize, void* out,
                            DWORD outSize, DWORD* written, WSAOVERLAPPED* overlapped,
                            LPWSAOVERLAPPED_COMPLETION_ROUTINE done) {
-    static const auto systemIoctl = systemFunction<decltype(&redirectedIoctl)>("WSAIoctl");
+    static const auto systemIoctl =
+        support::systemFunction<decltype(&redirectedIoctl)>(L"ws2_32.dll", "WSAIoctl");
     const int status =
         systemIoctl(socket, code, in, inSize, out, outSize, written, overlapped, done);
     static const GUID connectEx = WSAID_CONNECTEX;
