@@ -18,8 +18,10 @@
 #include "app/call_gate.h"
 #include "app/even_scale.h"
 #include "app/simple_gui_main_window.h"
+#include "platform/dark_mode.h"
 #include "platform/file_dialog_history.h"
 #include "session/connection.h"
+#include "ui/dark_palette.h"
 #include "ui/error_box.h"
 #include "ui/outlined_indicators.h"
 #include "ui/screen_fit.h"
@@ -34,8 +36,9 @@ constexpr qint64 largestStyleSheet = qint64(16) * 1024 * 1024;
 namespace app {
 
 void prepareToolkit() {
-    // If the style is missing, Qt's default stays.
-    QApplication::setStyle(QStringLiteral("plastique"));
+    // If the style is missing, Qt's default stays. The one of Windows is always light.
+    QApplication::setStyle(platform::needsDarkPalette() ? QStringLiteral("fusion")
+                                                        : QStringLiteral("plastique"));
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     // A menu bar shown by the desktop would trigger commands during a call.
@@ -58,6 +61,8 @@ void prepareToolkit() {
 
 void adjustToolkit(QApplication& application) {
     scaleEvenly(application);
+    if (platform::needsDarkPalette())
+        ui::useDarkPalette(application);
     ui::outlineIndicators(application);
 }
 

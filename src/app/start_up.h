@@ -20,8 +20,8 @@ class CallGate;
 /// search for OpenGL. The toolkit's own dialogs keep no settings.
 void prepareToolkit();
 
-/// Sets what needs the application object and no window: even scaling, and frames of check boxes
-/// that can be seen.
+/// Sets what needs the application object and no window: even scaling, the palette of a dark
+/// desktop that has none for the toolkit, and frames of check boxes that can be seen.
 void adjustToolkit(QApplication& application);
 
 /// The language code after the first "--lang". Empty for the built-in English: without such an

@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QMessageBox>
+#include <QStyle>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -16,6 +17,7 @@
 #include "app/login_check.h"
 #include "app/simple_gui_main_window.h"
 #include "app/start_up.h"
+#include "platform/dark_mode.h"
 #include "resources/pictures.h"
 #include "session/connection.h"
 #include "session/process_values.h"
@@ -24,9 +26,21 @@
 #include "tests/support/gui_modal_driver.h"
 #include "tests/support/gui_translation.h"
 #include "tests/support/gui_wait.h"
+#include "ui/dark_palette.h"
 #include "ui/size_text.h"
 
 using namespace std::chrono_literals;
+
+namespace {
+
+bool systemNeedsDarkPalette = false;
+
+} // namespace
+
+/// Instead of the system's.
+bool platform::needsDarkPalette() {
+    return systemNeedsDarkPalette;
+}
 
 namespace {
 
@@ -77,6 +91,34 @@ private slots:
         app::prepareToolkit();
         QCOMPARE(qgetenv("QT_XCB_GL_INTEGRATION"), QByteArray("xcb_glx"));
         qunsetenv("QT_XCB_GL_INTEGRATION");
+    }
+
+    void aDarkSystemWithoutAPaletteGetsOneWithTheStyleForIt() {
+        const QString style = QApplication::style()->objectName();
+        QApplication::setStyle(QStringLiteral("windows"));
+        systemNeedsDarkPalette = true;
+        app::prepareToolkit();
+        app::adjustToolkit(*qApp);
+        const QString styleOnDark = QApplication::style()->objectName();
+        const QPalette paletteOnDark = QApplication::palette();
+        systemNeedsDarkPalette = false;
+        QApplication::setPalette(QPalette());
+        QApplication::setStyle(style);
+        QCOMPARE(styleOnDark, QStringLiteral("fusion"));
+        QCOMPARE(paletteOnDark.color(QPalette::Window), ui::darkPalette().color(QPalette::Window));
+    }
+
+    void anyOtherSystemKeepsItsPaletteAndStyle() {
+        const QString style = QApplication::style()->objectName();
+        QApplication::setStyle(QStringLiteral("windows"));
+        const QPalette before = QApplication::palette();
+        app::prepareToolkit();
+        app::adjustToolkit(*qApp);
+        const QString after = QApplication::style()->objectName();
+        const QPalette paletteAfter = QApplication::palette();
+        QApplication::setStyle(style);
+        QCOMPARE(after, QStringLiteral("windows"));
+        QCOMPARE(paletteAfter, before);
     }
 
     void startsInTheTrayOnlyIfAskedAndThereIsOne() {

@@ -6,9 +6,6 @@
 
 namespace support {
 
-/// Light text on dark grey, as on the dark desktops of KDE and GNOME.
-QPalette darkPalette();
-
 /// White text on black.
 QPalette highContrastPalette();
 

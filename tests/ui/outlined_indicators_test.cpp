@@ -10,6 +10,7 @@
 #include <QTest>
 
 #include "tests/support/gui_palettes.h"
+#include "ui/dark_palette.h"
 #include "ui/outlined_indicators.h"
 #include "ui/readable_colour.h"
 
@@ -41,7 +42,7 @@ private slots:
 
     void theFrameIsSeen_data() {
         QTest::addColumn<QPalette>("palette");
-        QTest::newRow("dark") << support::darkPalette();
+        QTest::newRow("dark") << ui::darkPalette();
         QTest::newRow("high contrast") << support::highContrastPalette();
     }
     void theFrameIsSeen() {
