@@ -21,6 +21,7 @@
 #include "platform/dark_mode.h"
 #include "platform/file_dialog_history.h"
 #include "session/connection.h"
+#include "ui/contrast_theme.h"
 #include "ui/dark_palette.h"
 #include "ui/error_box.h"
 #include "ui/outlined_indicators.h"
@@ -63,6 +64,7 @@ void adjustToolkit(QApplication& application) {
     scaleEvenly(application);
     if (platform::needsDarkPalette())
         ui::useDarkPalette(application);
+    ui::completeContrastTheme(application);
     ui::outlineIndicators(application);
 }
 

@@ -21,7 +21,8 @@ class CallGate;
 void prepareToolkit();
 
 /// Sets what needs the application object and no window: even scaling, the palette of a dark
-/// desktop that has none for the toolkit, and frames of check boxes that can be seen.
+/// desktop that has none for the toolkit, missing colours of a contrast theme, and frames of check
+/// boxes that can be seen.
 void adjustToolkit(QApplication& application);
 
 /// The language code after the first "--lang". Empty for the built-in English: without such an

@@ -2,13 +2,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ui/outlined_indicators.h"
 
-#include <memory>
-
 #include <QApplication>
 #include <QProxyStyle>
 #include <QStyleOptionButton>
 
 #include "ui/readable_colour.h"
+#include "ui/style_replacement.h"
 
 namespace ui {
 
@@ -41,14 +40,8 @@ public:
 } // namespace
 
 void outlineIndicators(QApplication& application) {
-    const QStyle& style = *application.style();
-    if (!style.inherits("QFusionStyle"))
-        return;
-    const QString name = style.objectName();
-    auto outlined = std::make_unique<OutlinedIndicators>(name);
-    // It is still the desktop's style.
-    outlined->setObjectName(name);
-    application.setStyle(outlined.release());
+    if (application.style()->inherits("QFusionStyle"))
+        putInFrontOfStyle<OutlinedIndicators>(application);
 }
 
 } // namespace ui
