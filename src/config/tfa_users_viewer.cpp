@@ -111,7 +111,6 @@ void TFAUsersViewer::on_btnImport_clicked() {
     QFileDialog dialog(this, tr("Please choose a .CSV file"), QDir::homePath(),
                        tr("CSV Files (*.csv)"));
     dialog.setFileMode(QFileDialog::ExistingFile);
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
     ui::adaptFileDialog(dialog);
     if (dialog.exec() != QDialog::Accepted)
         return;
