@@ -56,7 +56,7 @@ protected:
         modals_->expect(steps::q("file"), support::isDialog<QFileDialog>, [path](QWidget& widget) {
             auto& dialog = static_cast<QFileDialog&>(widget);
             QCOMPARE(dialog.windowTitle(), steps::q("Please choose a .CSV file"));
-            QVERIFY(dialog.testOption(QFileDialog::DontUseNativeDialog));
+            QVERIFY(!dialog.testOption(QFileDialog::DontUseNativeDialog));
             support::compareWindowIcon(widget);
             QCOMPARE(dialog.nameFilters(), QStringList(steps::q("CSV Files (*.csv)")));
             support::child<QLineEdit>(dialog, "fileNameEdit").setText(path);
