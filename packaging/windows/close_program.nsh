@@ -4,20 +4,11 @@
 ; Closes every running instance in the folder $Folder, as Windows does at sign-out, and waits until
 ; the program's file is no longer in use. Instances in other sessions can't be closed.
 
-Var Folder
-
 !macro CloseFunctions un
 ; Sets $R0 to 1 if the program in $Folder is running, perhaps in another session, else to 0.
 Function ${un}LookIfRunning
-    StrCpy $R0 0
-    ; GENERIC_WRITE, sharing everything, OPEN_EXISTING
-    System::Call 'kernel32::CreateFileW(w "$Folder\${PROGRAM}", i 0x40000000, i 7, p 0, i 3, i 0, p 0) p .r0 ?e'
-    Pop $1
-    ${If} $0 != -1
-        System::Call 'kernel32::CloseHandle(p r0)'
-    ${ElseIf} $1 = 32 ; ERROR_SHARING_VIOLATION
-        StrCpy $R0 1
-    ${EndIf}
+    StrCpy $File "$Folder\${PROGRAM}"
+    Call ${un}LookIfUsed
 FunctionEnd
 
 ; Replaces the path $6 by the identity of the file, which may have several paths; by an empty text if
@@ -97,8 +88,12 @@ Function ${un}CloseProgram
     SetErrorLevel 1
     Abort
     ask:
-    Call ${un}AskToEnd
-    ${For} $R8 1 60
+    ${For} $R8 0 59
+        ; Windows that open or close meanwhile can hide others from a single pass.
+        IntOp $R7 $R8 % 20
+        ${If} $R7 = 0
+            Call ${un}AskToEnd
+        ${EndIf}
         Sleep 250
         Call ${un}LookIfRunning
         ${If} $R0 = 0

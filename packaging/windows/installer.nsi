@@ -16,15 +16,15 @@ AllowSkipFiles off
 !define EVENT_SOURCE "SYSTEM\CurrentControlSet\Services\EventLog\Application\HessianClientAPI"
 
 ; For all users if the user has administrator rights, otherwise for this user only; a page asks if
-; both are
-; possible.
+; both are possible.
 !define MULTIUSER_EXECUTIONLEVEL Highest
 !define MULTIUSER_MUI
 !define MULTIUSER_USE_PROGRAMFILES64
+; What the uninstaller removes depends on its folder only.
+!define MULTIUSER_NOUNINSTALL
 !define MULTIUSER_INSTALLMODE_COMMANDLINE
 !define MULTIUSER_INSTALLMODE_INSTDIR "${NAME}"
 !define MULTIUSER_INSTALLMODE_FUNCTION ModeChosen
-!define MULTIUSER_INSTALLMODE_UNFUNCTION un.ModeChosen
 !define MULTIUSER_INSTALLMODE_INSTDIR_REGISTRY_KEY "${UNINSTALL_KEY}"
 !define MULTIUSER_INSTALLMODE_INSTDIR_REGISTRY_VALUENAME InstallLocation
 !define MULTIUSER_INSTALLMODE_DEFAULT_REGISTRY_KEY "${UNINSTALL_KEY}"
@@ -35,15 +35,19 @@ AllowSkipFiles off
 !include FileFunc.nsh
 !include LogicLib.nsh
 !include Sections.nsh
+!include WordFunc.nsh
 !include WinMessages.nsh
 !include WinVer.nsh
-; Defines the macros InstallFiles, RemoveFiles and ForEachLanguage.
+; Defines the macros InstallFiles, ForEachFile, RemoveFolders and ForEachLanguage.
 !include "${LISTS}"
 
-; The folder from the command line, or that of the uninstaller; otherwise empty.
+; The folder from the command line; otherwise empty.
 Var GivenFolder
 ; Where the program is installed; empty if it isn't.
 Var OldFolder
+; 1 if the uninstaller's folder is that of the program for all users, or for this user; else 0.
+Var ForAll
+Var ForUser
 ; The language of the program, as in "--lang de".
 Var Code
 
@@ -81,79 +85,123 @@ VIAddVersionKey LegalCopyright "Copyright 2026 The Tarn-Mobile User authors"
 !macroend
 !insertmacro ForEachLanguage AddLanguage
 
+!include files.nsh
 !include close_program.nsh
 
 ; The shortcut starts in the program's folder, where its translations and branding are.
 !macro Shortcut path options
+    SetOutPath "$INSTDIR"
     CreateShortcut "${path}" "$INSTDIR\${PROGRAM}" "--lang $Code${options}" "$INSTDIR\${PROGRAM}" 0
 !macroend
 
-; If the chosen folder contains other files, the program gets a subfolder.
+; An older version doesn't know which files it would have to remove.
+Function RefuseOlder
+    ReadRegStr $0 SHCTX "${UNINSTALL_KEY}" DisplayVersion
+    ${VersionCompare} "$0" "${VERSION}" $1
+    ${If} $1 = 1
+    ${AndIf} ${FileExists} "$OldFolder\uninstall.exe"
+        MessageBox MB_OK|MB_ICONSTOP $(IsNewer) /SD IDOK
+        SetErrorLevel 6
+        Quit
+    ${EndIf}
+FunctionEnd
+
+; If the chosen folder contains files that aren't ours, the program gets a subfolder. Branding, style
+; and translations may be there before the program, and stay when it is removed.
 Function UseOwnFolder
-    ${If} ${FileExists} "$INSTDIR\${PROGRAM}"
+    ${GetFileName} "$INSTDIR" $0
+    ${If} $0 == "${NAME}"
+    ${OrIf} ${FileExists} "$INSTDIR\${PROGRAM}"
         Return
     ${EndIf}
-    ${DirState} $INSTDIR $0
-    ${If} $0 = 1
-        StrCpy $INSTDIR "$INSTDIR\${NAME}"
-    ${EndIf}
+    FindFirst $0 $1 "$INSTDIR\*"
+    ${DoWhile} $1 != ""
+        StrCpy $2 $1 8
+        ${If} $1 != "."
+        ${AndIf} $1 != ".."
+        ${AndIf} $1 != "resources.zip"
+        ${AndIf} $1 != "tarnmobile.css"
+        ${AndIf} $2 != "sg_i18n_"
+            StrCpy $INSTDIR "$INSTDIR\${NAME}"
+            ${Break}
+        ${EndIf}
+        FindNext $0 $1
+    ${Loop}
+    FindClose $0
 FunctionEnd
 
-Function CloseOldAndNew
+Function FreeOldAndNew
     StrCpy $Folder $INSTDIR
-    Call CloseProgram
+    Call FreeFiles
     ${If} $OldFolder != ""
         StrCpy $Folder $OldFolder
-        Call CloseProgram
+        Call FreeFiles
     ${EndIf}
 FunctionEnd
 
-; Removes the installed version; otherwise, files that only that version has would remain. The
-; shortcuts are kept, wherever the user has put them.
+; Removes the installed version; otherwise, files that only that version has would remain. Shortcuts
+; are kept, wherever the user has put them. Doesn't run the old uninstaller: this process may have
+; more rights than those who can write to that folder.
 Function RemoveOld
     ${If} $OldFolder == ""
     ${OrIfNot} ${FileExists} "$OldFolder\uninstall.exe"
         Return
     ${EndIf}
-    ExecWait '"$OldFolder\uninstall.exe" /S /Upgrade /$MultiUser.InstallMode _?=$OldFolder' $0
-    ${If} $0 <> 0
-        MessageBox MB_OK|MB_ICONSTOP $(StillRuns) /SD IDOK
-        SetErrorLevel 2
-        Quit
-    ${EndIf}
-    ; It can't remove itself while it runs.
+    StrCpy $Folder $OldFolder
+    Call RemoveFiles
     Delete "$OldFolder\uninstall.exe"
     RMDir "$OldFolder"
 FunctionEnd
 
-Section "!${NAME}" WithProgram
-    SectionIn RO
-    Call UseOwnFolder
-    Call CloseOldAndNew
-    Call RemoveOld
-    SetErrorLevel 5
-    !insertmacro InstallFiles
+Function AddUninstaller
     SetOutPath "$INSTDIR"
+    again:
+    ClearErrors
     WriteUninstaller "$INSTDIR\uninstall.exe"
-    !insertmacro Shortcut "$SMPROGRAMS\${NAME}.lnk" ""
-
+    ${If} ${Errors}
+        StrCpy $0 "$INSTDIR\uninstall.exe"
+        MessageBox MB_RETRYCANCEL|MB_ICONSTOP $(^FileError_NoIgnore) /SD IDCANCEL IDRETRY again
+        Quit
+    ${EndIf}
     WriteRegStr SHCTX "${UNINSTALL_KEY}" DisplayName "${NAME}"
     WriteRegStr SHCTX "${UNINSTALL_KEY}" DisplayVersion "${VERSION}"
     WriteRegStr SHCTX "${UNINSTALL_KEY}" DisplayIcon "$INSTDIR\${PROGRAM}"
     WriteRegStr SHCTX "${UNINSTALL_KEY}" Publisher "The Tarn-Mobile User authors"
     WriteRegStr SHCTX "${UNINSTALL_KEY}" InstallLocation "$INSTDIR"
-    WriteRegStr SHCTX "${UNINSTALL_KEY}" UninstallString '"$INSTDIR\uninstall.exe" /$MultiUser.InstallMode'
-    WriteRegStr SHCTX "${UNINSTALL_KEY}" QuietUninstallString '"$INSTDIR\uninstall.exe" /$MultiUser.InstallMode /S'
+    WriteRegStr SHCTX "${UNINSTALL_KEY}" UninstallString '"$INSTDIR\uninstall.exe"'
+    WriteRegStr SHCTX "${UNINSTALL_KEY}" QuietUninstallString '"$INSTDIR\uninstall.exe" /S'
     WriteRegStr SHCTX "${UNINSTALL_KEY}" Language "$Code"
     WriteRegDWORD SHCTX "${UNINSTALL_KEY}" NoModify 1
     WriteRegDWORD SHCTX "${UNINSTALL_KEY}" NoRepair 1
-    ${GetSize} "$INSTDIR" "/S=0K" $0 $1 $2
-    WriteRegDWORD SHCTX "${UNINSTALL_KEY}" EstimatedSize $0
+FunctionEnd
 
-    ; Only an administrator can register an event log source.
-    ${If} $MultiUser.InstallMode == AllUsers
+; Only an administrator can register an event log source. One that another product has registered
+; under the same name stays as it is.
+Function AddEventSource
+    ReadRegStr $0 HKLM "${EVENT_SOURCE}" EventMessageFile
+    ${If} $0 == ""
+    ${OrIf} $0 == "$INSTDIR\${PROGRAM}"
+    ${OrIf} $0 == "$OldFolder\${PROGRAM}"
         WriteRegExpandStr HKLM "${EVENT_SOURCE}" EventMessageFile "$INSTDIR\${PROGRAM}"
         WriteRegDWORD HKLM "${EVENT_SOURCE}" TypesSupported 1
+    ${EndIf}
+FunctionEnd
+
+Section "!${NAME}" WithProgram
+    SectionIn RO
+    Call RefuseOlder
+    Call UseOwnFolder
+    Call FreeOldAndNew
+    SetErrorLevel 5
+    Call RemoveOld
+    ; First, so that an incomplete installation can be removed.
+    Call AddUninstaller
+    !insertmacro InstallFiles
+    ${GetSize} "$INSTDIR" "/S=0K" $0 $1 $2
+    WriteRegDWORD SHCTX "${UNINSTALL_KEY}" EstimatedSize $0
+    !insertmacro Shortcut "$SMPROGRAMS\${NAME}.lnk" ""
+    ${If} $MultiUser.InstallMode == AllUsers
+        Call AddEventSource
     ${EndIf}
     SetErrorLevel 0
 SectionEnd
@@ -233,19 +281,14 @@ Function ModeChosen
     !insertmacro Choose ${WithStartAtLogOn} "/STARTATLOGON" "$SMSTARTUP\${NAME}.lnk"
 FunctionEnd
 
-; MultiUser.nsh would show a message even in a silent installation.
-!macro RefuseWithoutRights un
+!macro RefuseWithoutRights
     UserInfo::GetAccountType
     Pop $0
     ${If} $0 != Admin
     ${AndIf} $0 != Power
-        ${GetParameters} $1
-        ${${un}StrStr} $2 $1 "/AllUsers"
-        ${If} $2 != ""
-            MessageBox MB_OK|MB_ICONSTOP $(NeedsRights) /SD IDOK
-            SetErrorLevel 4
-            Quit
-        ${EndIf}
+        MessageBox MB_OK|MB_ICONSTOP $(NeedsRights) /SD IDOK
+        SetErrorLevel 4
+        Quit
     ${EndIf}
 !macroend
 
@@ -261,7 +304,12 @@ Function .onInit
         Quit
     ${EndIf}
     SetRegView 64
-    !insertmacro RefuseWithoutRights ""
+    ; MultiUser.nsh would show a message even in a silent installation.
+    ${GetParameters} $1
+    ${StrStr} $2 $1 "/AllUsers"
+    ${If} $2 != ""
+        !insertmacro RefuseWithoutRights
+    ${EndIf}
     StrCpy $GivenFolder $INSTDIR
     !insertmacro MULTIUSER_INIT
 FunctionEnd
@@ -272,35 +320,34 @@ Function StartProgram
     Exec '"$WINDIR\explorer.exe" "$SMPROGRAMS\${NAME}.lnk"'
 FunctionEnd
 
-; The folder of the uninstaller is the one to remove, even if the program was installed elsewhere
-; later.
-Function un.ModeChosen
-    ReadRegStr $OldFolder SHCTX "${UNINSTALL_KEY}" InstallLocation
-    StrCpy $INSTDIR $GivenFolder
-FunctionEnd
-
-; Sets $0 to 1 if the registry and the shortcuts belong to the program in this folder, else to 0.
-Function un.IsRegistered
-    StrCpy $0 1
-    StrCpy $6 "$INSTDIR\uninstall.exe"
+; Sets $0 to 1 if $6 is the folder of this uninstaller, else to 0.
+Function un.IsThisFolder
+    StrCpy $0 0
+    ${If} $6 == ""
+        Return
+    ${EndIf}
+    StrCpy $6 "$6\uninstall.exe"
     Call un.Identify
     StrCpy $1 $6
-    StrCpy $6 "$OldFolder\uninstall.exe"
+    StrCpy $6 "$INSTDIR\uninstall.exe"
     Call un.Identify
     ${If} $6 != ""
-    ${AndIf} $6 != $1
-        StrCpy $0 0
+    ${AndIf} $6 == $1
+        StrCpy $0 1
     ${EndIf}
 FunctionEnd
 
+; The program may have been installed again elsewhere, or this folder may be a copy.
 Function un.onInit
     SetRegView 64
-    !insertmacro RefuseWithoutRights Un
-    StrCpy $GivenFolder $INSTDIR
-    !insertmacro MULTIUSER_UNINIT
-    Call un.IsRegistered
-    ${If} $0 = 0
-        Call un.MultiUser.InstallMode.CurrentUser
+    ReadRegStr $6 HKLM "${UNINSTALL_KEY}" InstallLocation
+    Call un.IsThisFolder
+    StrCpy $ForAll $0
+    ReadRegStr $6 HKCU "${UNINSTALL_KEY}" InstallLocation
+    Call un.IsThisFolder
+    StrCpy $ForUser $0
+    ${If} $ForAll = 1
+        !insertmacro RefuseWithoutRights
     ${EndIf}
 FunctionEnd
 
@@ -317,29 +364,37 @@ Function un.RemoveItself
     ${Next}
 FunctionEnd
 
+!macro Unregister hive context
+    SetShellVarContext ${context}
+    Delete "$SMPROGRAMS\${NAME}.lnk"
+    Delete "$DESKTOP\${NAME}.lnk"
+    Delete "$SMSTARTUP\${NAME}.lnk"
+    DeleteRegKey ${hive} "${UNINSTALL_KEY}"
+!macroend
+
+Function un.RemoveEventSource
+    ReadRegStr $0 HKLM "${UNINSTALL_KEY}" InstallLocation
+    ReadRegStr $1 HKLM "${EVENT_SOURCE}" EventMessageFile
+    ${If} $1 == "$0\${PROGRAM}"
+        DeleteRegKey HKLM "${EVENT_SOURCE}"
+    ${EndIf}
+FunctionEnd
+
 Section Uninstall
     StrCpy $Folder $INSTDIR
-    Call un.CloseProgram
-    Call un.IsRegistered
-    StrCpy $R1 $0
-    !insertmacro RemoveFiles
+    Call un.FreeFiles
+    Call un.RemoveFiles
     Call un.RemoveItself
     RMDir "$INSTDIR"
-    ${GetParameters} $0
-    ClearErrors
-    ${GetOptions} $0 "/Upgrade" $1
-    ${If} ${Errors}
-    ${AndIf} $R1 = 1
-        Delete "$SMPROGRAMS\${NAME}.lnk"
-        Delete "$DESKTOP\${NAME}.lnk"
-        Delete "$SMSTARTUP\${NAME}.lnk"
-        DeleteRegKey SHCTX "${UNINSTALL_KEY}"
-        ${If} $MultiUser.InstallMode == AllUsers
-            DeleteRegKey HKLM "${EVENT_SOURCE}"
-        ${EndIf}
-        ; The lock of a program that was killed. That of a running one can't be deleted.
-        SetShellVarContext current
-        Delete "$LOCALAPPDATA\Temp\session-*-tarn-mobile-user.lock"
-        Delete "$LOCALAPPDATA\session-*-tarn-mobile-user.lock"
+    ${If} $ForAll = 1
+        Call un.RemoveEventSource
+        !insertmacro Unregister HKLM all
     ${EndIf}
+    ${If} $ForUser = 1
+        !insertmacro Unregister HKCU current
+    ${EndIf}
+    ; The lock of a program that was killed. That of a running one can't be deleted.
+    SetShellVarContext current
+    Delete "$LOCALAPPDATA\Temp\session-*-tarn-mobile-user.lock"
+    Delete "$LOCALAPPDATA\session-*-tarn-mobile-user.lock"
 SectionEnd

@@ -12,3 +12,6 @@ LangString IsRunning ${LANG_GERMAN} "${NAME} läuft und muss beendet werden. Jet
 LangString StillRuns ${LANG_GERMAN} "${NAME} läuft noch. Beenden Sie es über sein Symbol im Infobereich und versuchen Sie es erneut."
 LangString TooOld ${LANG_GERMAN} "${NAME} benötigt Windows 10, Version 1903, oder neuer."
 LangString NeedsRights ${LANG_GERMAN} "Nur ein Administrator kann ${NAME} für alle Benutzer installieren oder entfernen."
+LangString InUse ${LANG_GERMAN} "$File wird gerade verwendet. Schließen Sie das Programm, das die Datei verwendet, und versuchen Sie es erneut."
+LangString NotRemoved ${LANG_GERMAN} "$File konnte nicht gelöscht werden. Prüfen Sie, ob Sie das Recht dazu haben, und versuchen Sie es erneut."
+LangString IsNewer ${LANG_GERMAN} "Eine neuere Version von ${NAME} ist installiert. Um sie durch Version ${VERSION} zu ersetzen, deinstallieren Sie sie zuerst."

@@ -12,3 +12,6 @@ LangString IsRunning ${LANG_ENGLISH} "${NAME} is running and must be closed. Clo
 LangString StillRuns ${LANG_ENGLISH} "${NAME} is still running. Quit it from its icon in the notification area, then try again."
 LangString TooOld ${LANG_ENGLISH} "${NAME} needs Windows 10, version 1903, or later."
 LangString NeedsRights ${LANG_ENGLISH} "Only an administrator can install or remove ${NAME} for all users."
+LangString InUse ${LANG_ENGLISH} "$File is in use. Close the program that uses it, then try again."
+LangString NotRemoved ${LANG_ENGLISH} "$File could not be removed. Make sure that you have the right to delete it, then try again."
+LangString IsNewer ${LANG_ENGLISH} "A newer version of ${NAME} is installed. To replace it with version ${VERSION}, uninstall it first."
