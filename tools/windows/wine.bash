@@ -26,7 +26,9 @@ begin() {
     if [ -z "${TARN_OWN_NETWORK-}" ]; then
         tools/install-packages screen test windows windows-test
         # The client looks for its agent at a fixed port, which is free in a private network namespace.
-        exec env TARN_OWN_NETWORK=yes unshare --net "$@"
+        local user_namespace=()
+        [ "$(id -u)" = 0 ] || user_namespace=(--map-root-user)
+        exec env TARN_OWN_NETWORK=yes unshare ${user_namespace[@]+"${user_namespace[@]}"} --net "$@"
     fi
     ip link set lo up
     work=$(mktemp -d)
