@@ -74,7 +74,7 @@ void ICallDispatcher::WorkerPool::startWorkers() {
     workers_.reserve(workerCount);
     try {
         while (workers_.size() < workerCount)
-            workers_.emplace_back([this] { work(); });
+            workers_.emplace_back(tlsThread([this] { work(); }));
     } catch (const std::system_error& failure) {
         if (workers_.empty())
             throw invoke_exception() << "Failed to start a worker thread: " << failure.what();
@@ -82,7 +82,6 @@ void ICallDispatcher::WorkerPool::startWorkers() {
 }
 
 void ICallDispatcher::WorkerPool::work() {
-    freeTlsAtThreadEnd();
     while (std::optional<PendingCall> call = take())
         carryOut(*call);
 }

@@ -138,8 +138,7 @@ bool PendingReply::giveUp(const std::string& text) {
 }
 
 void answerBeside(const std::shared_ptr<PendingReply>& reply, std::function<std::string()> work) {
-    std::thread([reply, work = std::move(work), running = RunningThread()] {
-        freeTlsAtThreadEnd();
+    std::thread(tlsThread([reply, work = std::move(work), running = RunningThread()] {
         try {
             std::string result = work();
             const base::WipedAtEnd guard(result); // unless the caller has taken it
@@ -147,7 +146,7 @@ void answerBeside(const std::shared_ptr<PendingReply>& reply, std::function<std:
         } catch (...) {
             reply->fail(std::current_exception());
         }
-    }).detach();
+    })).detach();
 }
 
 void exitProcess(int status) {

@@ -36,11 +36,10 @@ public:
             ++teardowns->running_;
         }
         try {
-            std::thread([teardowns, connection]() mutable {
-                freeTlsAtThreadEnd();
+            std::thread(tlsThread([teardowns, connection]() mutable {
                 end(connection);
                 teardowns->done();
-            }).detach();
+            })).detach();
         } catch (const std::exception&) {
             // No thread or no memory for one, so the caller waits.
             end(connection);

@@ -28,7 +28,7 @@ CSingleStreamDispatcherConnection::start(const ConnectionKey& key, std::uint32_t
     auto connection = boost::make_shared<CSingleStreamDispatcherConnection>(
         key, traceLevel, traceFile, lastRequestId);
     try {
-        connection->thread_ = std::thread([connection] { connection->run(); });
+        connection->thread_ = std::thread(tlsThread([connection] { connection->run(); }));
     } catch (const std::system_error& failure) {
         throw invoke_exception() << "Failed to start a connection thread: " << failure.what();
     }
@@ -179,7 +179,6 @@ std::string CSingleStreamDispatcherConnection::errorText() {
 }
 
 void CSingleStreamDispatcherConnection::run() {
-    freeTlsAtThreadEnd();
     streamThread_ = std::this_thread::get_id();
     guarded([this] { IOProcessingThread(); });
 }

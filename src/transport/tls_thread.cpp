@@ -6,13 +6,8 @@
 
 namespace hessiancln {
 
-void freeTlsAtThreadEnd() {
-    // Ends after the objects that the thread's function holds, which may use TLS once more.
-    struct AtEnd {
-        ~AtEnd() { OPENSSL_thread_stop(); }
-    };
-    static thread_local const AtEnd atEnd;
-    static_cast<void>(atEnd);
+void freeTlsOfThread() {
+    OPENSSL_thread_stop();
 }
 
 } // namespace hessiancln
