@@ -28,6 +28,7 @@
 #include "resources/pictures.h"
 #include "session/connection.h"
 #include "tests/support/derived_secret.h"
+#include "tests/support/security_operations_override.h"
 #include "wizards/enter_simple_user_psw.h"
 #include "wizards/select_data_source_page.h"
 #include "wizards/ssh_connect_as_dlg.h"
@@ -289,6 +290,8 @@ int main(int argc, char* argv[]) {
     if (arguments.size() < 4)
         return 2;
     resources::initPictures();
+    // Otherwise a system may offer a login without a password, and disable the field.
+    support::leaveOutSystemSecurity();
     seed = arguments[3].toUInt();
     confirmMessages();
     try {

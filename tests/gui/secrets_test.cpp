@@ -48,7 +48,7 @@ public:
     }
 
     std::vector<std::string> findings(const std::string& secret) const {
-        return memory_scan::findings(static_cast<pid_t>(processId()), secret);
+        return memory_scan::findings(static_cast<long>(processId()), secret);
     }
 };
 

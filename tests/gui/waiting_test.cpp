@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // The window while the agent doesn't answer.
 #include <algorithm>
-#include <csignal>
-#include <fstream>
 #include <memory>
 #include <utility>
 
@@ -24,9 +22,6 @@
 #include <QWindow>
 #include <QWizard>
 
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include "api/client_connection.h"
 #include "app/backup_set_view_item.h"
 #include "app/login_check.h"
@@ -40,6 +35,7 @@
 #include "tests/support/gui_wait.h"
 #include "tests/support/gui_waiting_fixture.h"
 #include "tests/support/held_names.h"
+#include "tests/support/system/process.h"
 
 using namespace std::chrono_literals;
 using support::Calls;
@@ -65,12 +61,10 @@ std::size_t residentMemory() {
 #ifdef TARN_SANITIZED
     return 0;
 #else
-    std::ifstream pages("/proc/self/statm");
-    std::size_t whole = 0;
-    std::size_t resident = 0;
-    if (!(pages >> whole >> resident))
+    const std::size_t size = support::process::residentSize();
+    if (size == 0)
         qFatal("The system doesn't report the resident memory");
-    return resident * static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
+    return size;
 #endif
 }
 
@@ -469,12 +463,8 @@ void WaitingTest::anAgentThatIsSuspendedAnswersOnceItGoesOn() {
     support::redirectLocalAgent(url.section(QLatin1Char(':'), -1).toUShort());
     QVERIFY(driver_->window().doLogin(true));
     QVERIFY(session::connectedToAgent());
-    const auto id = static_cast<pid_t>(agent.processId());
-    QCOMPARE(::kill(id, SIGSTOP), 0);
-    // Until all of its threads have stopped, it may still answer.
-    int status = 0;
-    QCOMPARE(::waitpid(id, &status, WUNTRACED | __WALL), id);
-    QVERIFY(WIFSTOPPED(status));
+    const auto id = static_cast<long>(agent.processId());
+    QVERIFY(support::process::suspend(id));
     PaintCount paints(driver_->window());
     int rounds = 0;
     bool continued = false;
@@ -486,13 +476,13 @@ void WaitingTest::anAgentThatIsSuspendedAnswersOnceItGoesOn() {
         driver_->window().update();
         continued = paints.count >= 3;
         if (continued)
-            ::kill(id, SIGCONT);
+            QVERIFY(support::process::resume(id));
     });
     driver_->beat();
     QVERIFY(continued);
     QVERIFY(session::connectedToAgent());
     driver_->window().OnDisconnect();
-    agent.terminate();
+    agent.kill();
     QVERIFY(agent.waitForFinished());
 }
 

@@ -1,16 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
-#include <csignal>
+#include <cstdio>
 #include <fstream>
 #include <string>
 #include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include "tests/simulator/raw_client.h"
 #include "tests/support/child_process.h"
+#include "tests/support/system/failures.h"
+#include "tests/support/system/process.h"
 
 using namespace std::string_literals;
 using ::testing::HasSubstr;
@@ -27,21 +28,17 @@ std::uint16_t portOf(const std::string& line) {
     return static_cast<std::uint16_t>(std::stoi(line.substr(line.rfind(':') + 1)));
 }
 
-void endsOn(int signal) {
+std::string logFile() {
+    return ::testing::TempDir() + "simulator-" + std::to_string(support::process::id());
+}
+
+TEST(Program, EndsOnAnInterruption) {
     Program program({"--port", "0"});
     const std::string line = program.line();
     EXPECT_EQ(line.substr(0, 18), "https://127.0.0.1:");
     raw::Connection open(portOf(line), true);
-    program.signal(signal);
+    program.interrupt();
     EXPECT_EQ(program.status(), 0);
-}
-
-TEST(Program, EndsOnSigterm) {
-    endsOn(SIGTERM);
-}
-
-TEST(Program, EndsOnSigint) {
-    endsOn(SIGINT);
 }
 
 TEST(Program, ListensWithoutTlsOnRequest) {
@@ -54,7 +51,7 @@ TEST(Program, ListensWithoutTlsOnRequest) {
 }
 
 TEST(Program, WritesALineForEachCallAndNoPassword) {
-    const std::string file = ::testing::TempDir() + "simulator-" + std::to_string(::getpid());
+    const std::string file = logFile();
     Program program({"--port", "0", "--log", file, "--user", "anna", "--password", "s3cret"});
     const std::uint16_t port = portOf(program.line());
     const std::string base = "https://127.0.0.1:" + std::to_string(port);
@@ -62,26 +59,26 @@ TEST(Program, WritesALineForEachCallAndNoPassword) {
         raw::call("login", raw::text(base) + raw::text("13.0.0.0") + raw::text("anna") +
                                raw::text("s3cret") + raw::int32(1));
     raw::exchange(port, true, raw::post(port, "/api", login));
-    program.signal(SIGTERM);
+    program.interrupt();
     EXPECT_EQ(program.status(), 0);
     std::ifstream log(file);
     const std::string text{std::istreambuf_iterator<char>(log), {}};
-    ::unlink(file.c_str());
+    std::remove(file.c_str());
     EXPECT_THAT(text, HasSubstr("http   ClientConnection.login(\"" + base +
                                 "\", \"13.0.0.0\", \"anna\", ***, 1) ok\n"));
     EXPECT_EQ(text.find("s3cret"), std::string::npos);
 }
 
 TEST(Program, LetsNoClientForgeALine) {
-    const std::string file = ::testing::TempDir() + "simulator-" + std::to_string(::getpid());
+    const std::string file = logFile();
     Program program({"--port", "0", "--log", file});
     const std::uint16_t port = portOf(program.line());
     raw::exchange(port, true, raw::post(port, "/api", raw::call("a\nforged\x1B[2J")));
-    program.signal(SIGTERM);
+    program.interrupt();
     EXPECT_EQ(program.status(), 0);
     std::ifstream log(file);
     const std::string text{std::istreambuf_iterator<char>(log), {}};
-    ::unlink(file.c_str());
+    std::remove(file.c_str());
     EXPECT_THAT(text, HasSubstr("a?forged?[2J"));
     EXPECT_EQ(text.find("\nforged"), std::string::npos);
     EXPECT_EQ(text.find('\x1B'), std::string::npos);
@@ -97,8 +94,8 @@ TEST(Program, SaysThatThePortIsInUse) {
     Program first({"--port", "0"});
     const std::string port = std::to_string(portOf(first.line()));
     Program second({"--port", port});
-    EXPECT_EQ(second.line(),
-              "tarn-agent-simulator: can't listen on port " + port + ": Address already in use\n");
+    EXPECT_EQ(second.line(), "tarn-agent-simulator: can't listen on port " + port + ": " +
+                                 support::failures::portTaken().text + "\n");
     EXPECT_EQ(second.status(), 1);
 }
 

@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <memory>
 #include <string>
 #include <vector>
-
-#include <sys/types.h>
 
 namespace support {
 
@@ -28,7 +27,11 @@ public:
     /// Writes to its standard input, then closes it.
     void write(const std::string& input);
 
+    /// Where the system has signals.
     void signal(int number);
+
+    /// Asks it to end, as a user does who presses Ctrl+C. On Windows, that reaches all children.
+    void interrupt();
 
     /// Whether it is still running.
     bool runs();
@@ -37,13 +40,9 @@ public:
     int status();
 
 private:
-    bool readable() const;
-    void note(int waitStatus);
+    struct Parts;
 
-    pid_t id_ = -1;
-    int status_ = -1; ///< set once it has ended
-    int input_ = -1;
-    int output_ = -1;
+    const std::unique_ptr<Parts> parts_;
 };
 
 /// Runs a program to its end and returns its output. Throws `std::runtime_error` with that output

@@ -3,12 +3,13 @@
 #pragma once
 
 #include <functional>
+#include <string_view>
 
 namespace support {
 
 /// Makes the system's resolver, and its database of accounts, hang on each name under ".held" for
 /// the lifetime of the object. All other names are looked up as usual. The destructor waits until
-/// the last hanging thread has left the look-up.
+/// the last hanging thread has left the look-up. The program links system/*/name_look_ups.cpp.
 class HeldNames {
 public:
     /// `atEnd` runs on each thread that leaves the resolver.
@@ -22,6 +23,9 @@ public:
 
     /// From now on nothing hangs; the names still don't exist.
     void letGo();
+
+    /// For the replaced functions: true for a name under ".held", after hanging on it.
+    static bool hangs(std::string_view name);
 };
 
 } // namespace support

@@ -5,8 +5,6 @@
 #include <string>
 #include <vector>
 
-#include <sys/types.h>
-
 /// Searches the memory of another process for a secret, including freed memory.
 namespace memory_scan {
 
@@ -16,6 +14,6 @@ bool isPossible();
 
 /// Each place that holds the secret, as in "UTF-16 at distance 16 in [heap]": as bytes, as UTF-16,
 /// or with its characters at equal distances, forwards or backwards, as in a list.
-std::vector<std::string> findings(pid_t process, const std::string& secret);
+std::vector<std::string> findings(long process, const std::string& secret);
 
 } // namespace memory_scan

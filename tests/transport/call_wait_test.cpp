@@ -7,13 +7,10 @@
 #include <stdexcept>
 #include <thread>
 
-#include <netinet/in.h>
-#include <sys/socket.h>
-#include <unistd.h>
-
 #include "tests/support/held_names.h"
 #include "tests/support/scripted_hook.h"
 #include "tests/support/signal.h"
+#include "tests/support/system/sockets.h"
 #include "tests/transport/raw_stream_fixture.h"
 #include "transport/call_passage.h"
 #include "transport/http_call_dispatcher.h"
@@ -24,6 +21,7 @@
 namespace {
 
 using namespace hessiancln;
+namespace sockets = support::sockets;
 using namespace std::chrono_literals;
 using support::HeldNames;
 using support::LoopbackServer;
@@ -54,8 +52,7 @@ public:
         : left_(nth) {}
 
     std::chrono::milliseconds begin(AwaitedCall& call) override {
-        if (--left_ == 0)
-            EXPECT_TRUE(call.giveUp(goodbye));
+        EXPECT_TRUE(--left_ != 0 || call.giveUp(goodbye));
         return 20s;
     }
     void wait(AwaitedCall&) noexcept override { ADD_FAILURE() << "a quick call"; }
@@ -264,33 +261,22 @@ TEST_P(CallWait, OtherThreadsSleepWithoutTheHook) {
 /// A port to which no connection can be established, as the listener's queue is full.
 class FullPort {
 public:
-    FullPort()
-        : listener_(makeSocket()) {
-        sockaddr_in address{};
-        address.sin_family = AF_INET;
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        bind(listener_, reinterpret_cast<sockaddr*>(&address), sizeof address);
-        listen(listener_, 0);
-        socklen_t size = sizeof address;
-        getsockname(listener_, reinterpret_cast<sockaddr*>(&address), &size);
-        port_ = ntohs(address.sin_port);
-        if (connect(filler_, reinterpret_cast<sockaddr*>(&address), size) != 0)
+    FullPort() {
+        if (filler_ < 0)
             throw std::runtime_error("The first connection must come up");
     }
     FullPort(const FullPort&) = delete;
     FullPort& operator=(const FullPort&) = delete;
     ~FullPort() {
-        close(filler_);
-        close(listener_);
+        sockets::close(filler_);
+        sockets::close(listener_);
     }
     std::string url() const { return "https://127.0.0.1:" + std::to_string(port_) + "/api"; }
 
 private:
-    static int makeSocket() { return socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0); }
-
-    int listener_;
-    int filler_ = makeSocket();
     std::uint16_t port_ = 0;
+    sockets::Socket listener_ = sockets::listenOnLoopback(port_, 0);
+    sockets::Socket filler_ = sockets::connectToLoopback(port_);
 };
 
 TEST_P(CallWait, AConnectionThatDoesntComeUpCanBeGivenUp) {
@@ -301,9 +287,13 @@ TEST_P(CallWait, AConnectionThatDoesntComeUpCanBeGivenUp) {
     EXPECT_EQ(hook.waits, 1);
 }
 
-TEST_P(CallWait, AHandshakeThatStopsCanBeGivenUp) {
-    if (GetParam().mode == Mode::plain)
-        GTEST_SKIP() << "there is no handshake";
+class HandshakeWait : public CallWait {};
+
+INSTANTIATE_TEST_SUITE_P(Each, HandshakeWait,
+                         testing::Values(Endpoint{false, Mode::tls}, Endpoint{true, Mode::tls}),
+                         [](const auto& test) { return test.param.stream ? "Stream" : "Http"; });
+
+TEST_P(HandshakeWait, ThatStopsCanBeGivenUp) {
     Signal asked;
     LoopbackServer server(Mode::tls, [&](Peer& peer) {
         peer.receive(5);

@@ -9,6 +9,7 @@
 
 #include "tests/support/failing_allocation.h"
 #include "tests/support/held_names.h"
+#include "tests/support/system/failures.h"
 #include "transport/http_call_dispatcher.h"
 #include "transport/invoke_exception.h"
 #include "transport/raw_stream_dispatcher.h"
@@ -38,8 +39,8 @@ std::string failureWithoutMemory(ICallDispatcher& dispatcher) {
     return failure;
 }
 
-const std::string noMemory =
-    "Failed to connect to 'agent.held' on port 4411. O/S error 12 (Cannot allocate memory)";
+const std::string noMemory = "Failed to connect to 'agent.held' on port 4411. O/S error " +
+                             support::failures::outOfMemory().reported();
 
 TEST(NameShortage, FailsAnHttpCall) {
     CHttpCallDispatcher dispatcher(0, "");

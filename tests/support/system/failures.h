@@ -20,5 +20,8 @@ struct Failure {
 Failure refused();
 Failure reset();
 Failure timedOut();
+/// A listener that asks for a port of another process, if only to reuse it.
+Failure portTaken();
+Failure outOfMemory();
 
 } // namespace support::failures

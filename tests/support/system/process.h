@@ -6,7 +6,8 @@
 #include <optional>
 #include <string>
 
-/// Queries of the operating system about the test's own process, independent of the product.
+/// Queries of the operating system about the test's own process and its children, independent of
+/// the product.
 namespace support::process {
 
 long id();
@@ -22,5 +23,9 @@ void readTimeZone();
 
 /// Bytes of memory that the process has touched.
 std::size_t residentSize();
+
+/// Stops a child process, with all of its threads, until `resume`. False on a failure.
+bool suspend(long child);
+bool resume(long child);
 
 } // namespace support::process

@@ -14,8 +14,9 @@ namespace support::sockets {
 /// Owned by the receiver, which calls `close`.
 using Socket = std::intptr_t;
 
-/// With a `port` of 0 the system picks one and sets it. Throws `std::system_error`.
-Socket listenOnLoopback(std::uint16_t& port);
+/// With a `port` of 0 the system picks one and sets it. `backlog` is the length of the queue of
+/// connections that aren't accepted yet; one more than it comes up. Throws `std::system_error`.
+Socket listenOnLoopback(std::uint16_t& port, int backlog = 64);
 
 /// The next connection; negative if there will be none.
 Socket accept(Socket listener);

@@ -32,13 +32,31 @@ constexpr int notStarted = 127;
 
 } // namespace
 
-ChildProcess::ChildProcess(const std::string& program, std::vector<std::string> arguments) {
+struct ChildProcess::Parts {
+    pid_t id = -1;
+    int status = -1; ///< set once it has ended
+    int input = -1;
+    int output = -1;
+
+    bool readable() const {
+        pollfd waiting{output, POLLIN, 0};
+        return ::poll(&waiting, 1, limitMilliseconds) == 1;
+    }
+
+    void note(int waitStatus) {
+        id = -1;
+        status = WIFEXITED(waitStatus) ? WEXITSTATUS(waitStatus) : 1000 + WTERMSIG(waitStatus);
+    }
+};
+
+ChildProcess::ChildProcess(const std::string& program, std::vector<std::string> arguments)
+    : parts_(std::make_unique<Parts>()) {
     int in[2];
     int out[2];
     if (::pipe2(in, O_CLOEXEC) != 0 || ::pipe2(out, O_CLOEXEC) != 0)
         throw std::runtime_error("no pipe");
-    id_ = ::fork();
-    if (id_ == 0) {
+    parts_->id = ::fork();
+    if (parts_->id == 0) {
         ::dup2(in[0], STDIN_FILENO);
         ::dup2(out[1], STDOUT_FILENO);
         ::dup2(out[1], STDERR_FILENO);
@@ -46,25 +64,25 @@ ChildProcess::ChildProcess(const std::string& program, std::vector<std::string> 
     }
     ::close(in[0]);
     ::close(out[1]);
-    input_ = in[1];
-    output_ = out[0];
+    parts_->input = in[1];
+    parts_->output = out[0];
 }
 
 ChildProcess::~ChildProcess() {
-    if (id_ > 0) {
-        ::kill(id_, SIGKILL);
-        ::waitpid(id_, nullptr, 0);
+    if (parts_->id > 0) {
+        ::kill(parts_->id, SIGKILL);
+        ::waitpid(parts_->id, nullptr, 0);
     }
-    if (input_ >= 0)
-        ::close(input_);
-    ::close(output_);
+    if (parts_->input >= 0)
+        ::close(parts_->input);
+    ::close(parts_->output);
 }
 
 std::string ChildProcess::line() {
     std::string text;
     while (!text.ends_with('\n')) {
         char byte = 0;
-        if (!readable() || ::read(output_, &byte, 1) != 1)
+        if (!parts_->readable() || ::read(parts_->output, &byte, 1) != 1)
             throw std::runtime_error("no whole line: " + text);
         text += byte;
     }
@@ -74,8 +92,8 @@ std::string ChildProcess::line() {
 std::string ChildProcess::rest() {
     std::string text;
     char part[4096];
-    while (readable()) {
-        const ssize_t got = ::read(output_, part, sizeof part);
+    while (parts_->readable()) {
+        const ssize_t got = ::read(parts_->output, part, sizeof part);
         if (got <= 0)
             return text;
         text.append(part, static_cast<std::size_t>(got));
@@ -84,53 +102,35 @@ std::string ChildProcess::rest() {
 }
 
 void ChildProcess::write(const std::string& input) {
-    const ssize_t written = ::write(input_, input.data(), input.size());
-    ::close(input_);
-    input_ = -1;
+    const ssize_t written = ::write(parts_->input, input.data(), input.size());
+    ::close(parts_->input);
+    parts_->input = -1;
     if (written != static_cast<ssize_t>(input.size()))
         throw std::runtime_error("the program doesn't read");
 }
 
 void ChildProcess::signal(int number) {
-    if (id_ > 0)
-        ::kill(id_, number);
+    if (parts_->id > 0)
+        ::kill(parts_->id, number);
+}
+
+void ChildProcess::interrupt() {
+    signal(SIGINT);
 }
 
 bool ChildProcess::runs() {
     int status = 0;
-    if (id_ > 0 && ::waitpid(id_, &status, WNOHANG) == id_)
-        note(status);
-    return id_ > 0;
+    if (parts_->id > 0 && ::waitpid(parts_->id, &status, WNOHANG) == parts_->id)
+        parts_->note(status);
+    return parts_->id > 0;
 }
 
 int ChildProcess::status() {
     rest();
     int status = 0;
-    if (id_ > 0 && ::waitpid(id_, &status, 0) == id_)
-        note(status);
-    return status_;
-}
-
-void ChildProcess::note(int waitStatus) {
-    id_ = -1;
-    status_ = WIFEXITED(waitStatus) ? WEXITSTATUS(waitStatus) : 1000 + WTERMSIG(waitStatus);
-}
-
-bool ChildProcess::readable() const {
-    pollfd waiting{output_, POLLIN, 0};
-    return ::poll(&waiting, 1, limitMilliseconds) == 1;
-}
-
-std::string runProgram(const std::string& program, const std::vector<std::string>& arguments,
-                       const std::string& input) {
-    ChildProcess process(program, arguments);
-    process.write(input);
-    std::string said = process.rest();
-    const int status = process.status();
-    if (status != 0)
-        throw std::runtime_error(program + " ends with status " + std::to_string(status) + ": " +
-                                 said);
-    return said;
+    if (parts_->id > 0 && ::waitpid(parts_->id, &status, 0) == parts_->id)
+        parts_->note(status);
+    return parts_->status;
 }
 
 } // namespace support

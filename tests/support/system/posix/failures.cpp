@@ -16,4 +16,12 @@ Failure timedOut() {
     return {110, "Connection timed out"};
 }
 
+Failure portTaken() {
+    return {98, "Address already in use"};
+}
+
+Failure outOfMemory() {
+    return {12, "Cannot allocate memory"};
+}
+
 } // namespace support::failures

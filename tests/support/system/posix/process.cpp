@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "tests/support/system/process.h"
 
+#include <csignal>
 #include <cstdlib>
 #include <ctime>
 #include <fstream>
 
 #include <pwd.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace support::process {
@@ -33,6 +35,19 @@ std::size_t residentSize() {
     std::size_t resident = 0;
     std::ifstream("/proc/self/statm") >> total >> resident;
     return resident * static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
+}
+
+bool suspend(long child) {
+    const auto id = static_cast<pid_t>(child);
+    if (::kill(id, SIGSTOP) != 0)
+        return false;
+    // Until all of its threads have stopped.
+    int status = 0;
+    return ::waitpid(id, &status, WUNTRACED | __WALL) == id && WIFSTOPPED(status);
+}
+
+bool resume(long child) {
+    return ::kill(static_cast<pid_t>(child), SIGCONT) == 0;
 }
 
 } // namespace support::process

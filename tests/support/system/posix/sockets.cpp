@@ -41,14 +41,14 @@ void setLimit(Socket socket, int option, std::chrono::milliseconds limit) {
 
 } // namespace
 
-Socket listenOnLoopback(std::uint16_t& port) {
+Socket listenOnLoopback(std::uint16_t& port, int backlog) {
     const int listener = newSocket();
     sockaddr_in address = loopback(port);
     const int on = 1;
     ::setsockopt(listener, SOL_SOCKET, SO_REUSEADDR, &on, sizeof on);
     socklen_t size = sizeof address;
     auto* any = reinterpret_cast<sockaddr*>(&address);
-    if (listener < 0 || ::bind(listener, any, size) != 0 || ::listen(listener, 64) != 0 ||
+    if (listener < 0 || ::bind(listener, any, size) != 0 || ::listen(listener, backlog) != 0 ||
         ::getsockname(listener, any, &size) != 0)
         throw std::system_error(errno, std::generic_category(), "no listener");
     port = ntohs(address.sin_port);

@@ -41,4 +41,12 @@ Failure timedOut() {
     return inThisLanguage(10060);
 }
 
+Failure portTaken() {
+    return inThisLanguage(10013);
+}
+
+Failure outOfMemory() {
+    return inThisLanguage(ERROR_OUTOFMEMORY);
+}
+
 } // namespace support::failures

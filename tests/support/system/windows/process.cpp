@@ -11,7 +11,22 @@
 #include <lmcons.h>
 #include <psapi.h>
 
+#include "tests/support/system/windows/system_function.h"
+
 namespace support::process {
+
+namespace {
+
+/// Calls one of the functions on processes that no header declares.
+bool applyTo(long child, const char* function) {
+    using Apply = LONG(WINAPI*)(HANDLE);
+    const HANDLE handle = ::OpenProcess(PROCESS_SUSPEND_RESUME, FALSE, static_cast<DWORD>(child));
+    const bool done = handle && systemFunction<Apply>(L"ntdll.dll", function)(handle) >= 0;
+    ::CloseHandle(handle);
+    return done;
+}
+
+} // namespace
 
 long id() {
     return static_cast<long>(::GetCurrentProcessId());
@@ -38,6 +53,14 @@ std::size_t residentSize() {
     PROCESS_MEMORY_COUNTERS counters{};
     ::GetProcessMemoryInfo(::GetCurrentProcess(), &counters, sizeof counters);
     return counters.WorkingSetSize;
+}
+
+bool suspend(long child) {
+    return applyTo(child, "NtSuspendProcess");
+}
+
+bool resume(long child) {
+    return applyTo(child, "NtResumeProcess");
 }
 
 } // namespace support::process

@@ -40,13 +40,13 @@ void setOption(Socket socket, int level, int option, const Value& value) {
 
 } // namespace
 
-Socket listenOnLoopback(std::uint16_t& port) {
+Socket listenOnLoopback(std::uint16_t& port, int backlog) {
     const SOCKET listener = newSocket();
     sockaddr_in address = loopback(port);
     int size = sizeof address;
     auto* any = reinterpret_cast<sockaddr*>(&address);
     if (listener == INVALID_SOCKET || ::bind(listener, any, size) != 0 ||
-        ::listen(listener, 64) != 0 || ::getsockname(listener, any, &size) != 0)
+        ::listen(listener, backlog) != 0 || ::getsockname(listener, any, &size) != 0)
         throw std::system_error(WSAGetLastError(), std::system_category(), "no listener");
     port = ntohs(address.sin_port);
     return static_cast<Socket>(listener);
