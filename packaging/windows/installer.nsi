@@ -1,7 +1,7 @@
 ; SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 ; SPDX-License-Identifier: Apache-2.0
 ;
-; The installer. tools/windows/pack defines VERSION, LISTS, ICON, LICENSE, SIGN and OUTPUT.
+; The installer. tools/windows/pack defines VERSION, LISTS, ICON, LICENSE, PICTURE, SIGN and OUTPUT.
 
 Target amd64-unicode
 Unicode true
@@ -65,6 +65,8 @@ VIAddVersionKey LegalCopyright "Copyright 2026 The Tarn-Mobile User authors"
 
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
+!define MUI_WELCOMEPAGE_TEXT $(Welcome)
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${PICTURE}"
 !define MUI_ABORTWARNING
 !define MUI_FINISHPAGE_RUN
 !define MUI_FINISHPAGE_RUN_FUNCTION StartProgram
