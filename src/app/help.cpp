@@ -35,7 +35,15 @@ bool openGuide(const QUrl& url) {
     // Desktops accept the URL of a missing file without an error.
     if (url.isLocalFile() && !QFile::exists(url.toLocalFile()))
         return false;
-    return QDesktopServices::openUrl(url);
+    return openUrl(url);
+}
+
+bool openUrl(const QUrl& url) {
+    const QString current = QDir::currentPath();
+    QDir::setCurrent(QDir::homePath());
+    const bool opened = QDesktopServices::openUrl(url);
+    QDir::setCurrent(current);
+    return opened;
 }
 
 } // namespace app

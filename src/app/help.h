@@ -6,7 +6,7 @@
 #include <QStringList>
 #include <QUrl>
 
-/// Finding and opening the user guide.
+/// Finding and opening the user guide and web pages.
 namespace app {
 
 /// The guide in `language`, a code as in "--lang" or empty for English: "user-guide.<language>.pdf"
@@ -20,5 +20,10 @@ QUrl helpUrl(const QString& language);
 
 /// Returns false if `url` is a missing file, or if the desktop has no program for it.
 bool openGuide(const QUrl& url);
+
+/// Opens `url` in the desktop's program for it. That program's current directory is the user's home
+/// folder: on Windows, ours is usually the program's folder, which couldn't be removed while
+/// another program runs in it. Returns false if the desktop has no program for it.
+bool openUrl(const QUrl& url);
 
 } // namespace app

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 // The main window's slots that open dialogs or pages of the menus Configuration and Help.
-#include <QDesktopServices>
 #include <QUrl>
 
 #include "app/about_dlg.h"
@@ -58,7 +57,7 @@ void SimpleGUIMainWindow::on_actionAdmin_triggered() {
 }
 
 void SimpleGUIMainWindow::on_actionLogo_triggered() {
-    QDesktopServices::openUrl(QUrl::fromUserInput(ui::g_branding.homePageUrl()));
+    app::openUrl(QUrl::fromUserInput(ui::g_branding.homePageUrl()));
 }
 
 void SimpleGUIMainWindow::on_actionHelp_triggered() {

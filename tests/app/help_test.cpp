@@ -12,7 +12,10 @@ class HelpTest : public QObject {
     Q_OBJECT
 
 public slots:
-    void open(const QUrl& url) { opened_ << url; }
+    void open(const QUrl& url) {
+        opened_ << url;
+        folder_ = QDir::currentPath();
+    }
 
 private slots:
     void initTestCase();
@@ -22,6 +25,7 @@ private slots:
     void withoutAGuideTheLastFolderIsNamed();
     void aMissingFileDoesNotOpen();
     void aFileOpens();
+    void theOtherProgramDoesNotRunInTheCurrentFolder();
 
 private:
     static void make(const QDir& folder, const QString& name) {
@@ -34,6 +38,7 @@ private:
     QDir english_;
     QDir empty_;
     QList<QUrl> opened_;
+    QString folder_;
 };
 
 void HelpTest::initTestCase() {
@@ -87,6 +92,19 @@ void HelpTest::aFileOpens() {
     QVERIFY(app::openGuide(guide));
     QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
     QCOMPARE(opened_, QList<QUrl>{guide});
+}
+
+void HelpTest::theOtherProgramDoesNotRunInTheCurrentFolder() {
+    const QString before = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(both_.path()));
+    const QString current = QDir::currentPath();
+    QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "open");
+    app::openGuide(QUrl::fromLocalFile(both_.filePath(QStringLiteral("user-guide.pdf"))));
+    QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+    const QString after = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(before));
+    QCOMPARE(QDir(folder_).canonicalPath(), QDir::home().canonicalPath());
+    QCOMPARE(after, current);
 }
 
 QTEST_MAIN(HelpTest)
