@@ -20,6 +20,7 @@
 #include "app/simple_gui_main_window.h"
 #include "platform/dark_mode.h"
 #include "platform/file_dialog_history.h"
+#include "platform/plugin_folder.h"
 #include "session/connection.h"
 #include "ui/contrast_theme.h"
 #include "ui/dark_palette.h"
@@ -37,6 +38,9 @@ constexpr qint64 largestStyleSheet = qint64(16) * 1024 * 1024;
 namespace app {
 
 void prepareToolkit() {
+    // Looking for a style, Qt remembers which plug-ins there are. It would never find the style of
+    // Windows.
+    QCoreApplication::addLibraryPath(QString::fromStdString(platform::pluginFolder()));
     // If the style is missing, Qt's default stays. The one of Windows is always light.
     QApplication::setStyle(platform::needsDarkPalette() ? QStringLiteral("fusion")
                                                         : QStringLiteral("plastique"));

@@ -61,6 +61,10 @@ private:
 class ContrastThemeTest : public QObject {
     Q_OBJECT
 private slots:
+    void theStyleIsTheOneOfWindows() {
+        QCOMPARE(QApplication::style()->objectName(), QStringLiteral("windowsvista"));
+    }
+
     void everyTextIsReadable_data() {
         QTest::addColumn<QPalette>("palette");
         QTest::addColumn<QPalette::ColorRole>("text");

@@ -9,6 +9,7 @@
 #include "platform/dark_mode.h"
 #include "platform/file_dialog_history.h"
 #include "platform/library_search.h"
+#include "platform/plugin_folder.h"
 #include "platform/process_id.h"
 #include "platform/session_folder.h"
 #include "platform/user_name.h"
@@ -158,6 +159,11 @@ TEST(NoFileDialogHistory, LeavesWhatOthersStoreMeanwhile) {
     }
     EXPECT_FALSE(Key::exists(L"Software\\QtProject\\OrganizationDefaults"));
     EXPECT_TRUE(Key::exists(L"Software\\QtProject\\Other"));
+}
+
+TEST(PluginFolder, IsThatOfTheProgram) {
+    const std::filesystem::path folder(platform::toWide(platform::pluginFolder()));
+    EXPECT_TRUE(std::filesystem::is_regular_file(folder / "test_platform.exe")) << folder;
 }
 
 /// Replaces the user's registry by an empty key below it, for this process.
