@@ -10,6 +10,7 @@
 
 #include "session/wire_time.h"
 #include "ui/branding_resources.h"
+#include "ui/date_fields.h"
 #include "ui/fitting_text_delegate.h"
 #include "ui/later.h"
 #include "ui/locale_text.h"
@@ -21,6 +22,7 @@ EventLogViewer::EventLogViewer(QWidget* parent)
     : QDialog(parent)
     , ui_(std::make_unique<Ui::EventLogViewer>()) {
     ui_->setupUi(this);
+    ui::fitDateFields(*this);
     setWindowIcon(ui::g_branding.applicationIcon());
     setUpTable();
     connect(ui_->timeFrom, &QDateTimeEdit::dateTimeChanged, this, &EventLogViewer::refreshData);

@@ -15,6 +15,7 @@
 #include "app/tray_presence.h"
 #include "session/process_values.h"
 #include "ui/branding_resources.h"
+#include "ui/date_fields.h"
 #include "ui/screen_fit.h"
 #include "ui_simple_gui_main_window.h"
 
@@ -24,6 +25,7 @@ SimpleGUIMainWindow::SimpleGUIMainWindow(QWidget* parent, std::unique_ptr<app::T
     , ui_(std::make_unique<Ui::SimpleGUIMainWindow>())
     , heartbeat_(*this, std::move(sleep)) {
     ui_->setupUi(this);
+    ui::fitDateFields(*this);
     ui_->pageProperties->resize(ui_->pageProperties->layout()->sizeHint());
     ui::letContentScroll(*ui_->pageProperties);
     setUpBranding();

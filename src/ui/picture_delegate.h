@@ -6,12 +6,12 @@
 
 namespace ui {
 
-/// The picture of a row; in a selected row, blended with the colour of the text. Styles would tint
-/// it with the row's colour, which hides thin lines.
+/// The picture of a row; in a selected row, blended with the palette's colour of selected text.
+/// Styles would tint it with the row's colour, which hides thin lines.
 QPixmap pictureInRow(const QPixmap& picture, const QStyleOptionViewItem& row);
 
-/// Blends the picture of a selected row with the colour of its text, except for signs (see
-/// `ui::sharedIcon`), which keep their colours.
+/// Blends the picture of a selected row with the colour of the text that the style paints, except
+/// for signs (see `ui::sharedIcon`), which keep their colours.
 class PictureDelegate : public QStyledItemDelegate {
     Q_OBJECT
 public:

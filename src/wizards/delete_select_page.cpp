@@ -10,6 +10,7 @@
 #include "api/backup_set.h"
 #include "models/backed_up_data_model.h"
 #include "session/required.h"
+#include "ui/date_fields.h"
 #include "ui/message_box.h"
 #include "ui/wait_cursor.h"
 #include "ui_delete_select_page.h"
@@ -31,6 +32,7 @@ DeleteSelectPage::DeleteSelectPage(boost::shared_ptr<hessiancln::BackupSet> set,
     , ui_(std::make_unique<Ui::DeleteSelectPage>())
     , set_(std::move(set)) {
     ui_->setupUi(this);
+    ui::fitDateFields(*this);
     setUp({*ui_->treeSelection, *ui_->listSelection, *ui_->splitter, *ui_->editFilter},
           {ui_->groupFilter, ui_->checkFrom, ui_->dateFrom, ui_->checkTo, ui_->dateTo,
            ui_->checkRemoved, ui_->dateRemoved, ui_->checkKeep, ui_->spinKeep});

@@ -17,6 +17,7 @@
 #include "models/display_path.h"
 #include "models/generation_select_model.h"
 #include "session/required.h"
+#include "ui/date_fields.h"
 #include "ui/wait_cursor.h"
 #include "ui_restore_select_page.h"
 #include "wizards/backup_time_span.h"
@@ -60,6 +61,7 @@ RestoreSelectPage::RestoreSelectPage(boost::shared_ptr<hessiancln::BackupSet> se
     , ui_(std::make_unique<Ui::RestoreSelectPage>())
     , set_(std::move(set)) {
     ui_->setupUi(this);
+    ui::fitDateFields(*this);
     ui_->filterDisplay->hide();
     setUp({*ui_->treeSelection, *ui_->listSelection, *ui_->splitter, *ui_->editFilter},
           {ui_->checkFilter, ui_->checkFrom, ui_->dateFrom, ui_->checkTo, ui_->dateTo,

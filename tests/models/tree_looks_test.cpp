@@ -78,6 +78,7 @@ private slots:
     void theAsteriskKeyExpandsOneLevel();
     void thePictureOfASelectedRowStandsOut_data();
     void thePictureOfASelectedRowStandsOut();
+    void thePictureOfARowOnALightSelectionIsDark();
 
 private:
     boost::shared_ptr<BrowsingAgent> agent_;
@@ -215,6 +216,50 @@ void TreeLooksTest::thePictureOfASelectedRowStandsOut() {
         if (QColor(look.pixel(x, look.height() / 2)).lightness() > row.lightness() + 50)
             ++light;
     QCOMPARE(light, picture.width());
+}
+
+namespace {
+
+/// Paints the selection in a light colour of its own, as Windows does.
+class LightSelectionStyle : public QProxyStyle {
+public:
+    using QProxyStyle::QProxyStyle;
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override {
+        if (element == PE_PanelItemViewItem)
+            painter->fillRect(option->rect, QColor(0xbb, 0xdd, 0xff));
+        else
+            QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+};
+
+} // namespace
+
+void TreeLooksTest::thePictureOfARowOnALightSelectionIsDark() {
+    LightSelectionStyle style(QStringLiteral("fusion"));
+    QPalette palette(Qt::black, Qt::white);
+    palette.setColor(QPalette::Highlight, Qt::darkBlue);
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    // Only the picture is visible.
+    QPixmap picture(16, 16);
+    picture.fill(Qt::gray);
+    QStandardItemModel model;
+    model.appendRow(new QStandardItem);
+    model.item(0)->setData(picture, Qt::DecorationRole);
+    CSmallTreeView view;
+    view.setStyle(&style);
+    view.setPalette(palette);
+    view.setModel(&model);
+    view.resize(200, 100);
+    view.setCurrentIndex(model.index(0, 0));
+    view.show();
+    const QImage look = view.viewport()->grab(view.visualRect(model.index(0, 0))).toImage();
+    int dark = 0;
+    for (int x = 0; x < look.width(); ++x)
+        if (qGray(look.pixel(x, look.height() / 2)) < 64)
+            ++dark;
+    QCOMPARE(dark, picture.width());
 }
 
 QTEST_MAIN(TreeLooksTest)
