@@ -110,20 +110,22 @@ function(tarn_left_out name source)
     set_tests_properties(${name} PROPERTIES DISABLED TRUE)
 endfunction()
 
-# tarn_test(<name> LABELS <labels> TIMEOUT <seconds> SOURCES <files> [LINK <libraries>])
+# tarn_test(<name> LABELS <labels> TIMEOUT <seconds> SOURCES <files> [LINK <libraries>]
+#           [ENVIRONMENT <variables>])
 #
 # LABELS are of unit, wire, gui, slow. With the word QTEST the program is one QTest class and a
-# single ctest test; otherwise it uses GoogleTest, and each TEST is a ctest test. Under a sanitizer
-# and on Windows, where processes start slowly, the whole program is a single ctest test too.
+# single ctest test; otherwise it uses GoogleTest, and each TEST is a ctest test. Under a sanitizer,
+# on Windows, where processes start slowly, and with ENVIRONMENT, the whole program is a single ctest
+# test too.
 # The headers that all tests of a kind include are precompiled once: see tarn_qt_test and
 # tarn_google_test.
 function(tarn_test name)
-    cmake_parse_arguments(arg "QTEST" "TIMEOUT" "LABELS;SOURCES;LINK" ${ARGN})
+    cmake_parse_arguments(arg "QTEST" "TIMEOUT" "LABELS;SOURCES;LINK;ENVIRONMENT" ${ARGN})
     tarn_program(${name} SOURCES ${arg_SOURCES} LINK ${arg_LINK})
     # Tests may include the doubles in tests/support and the simulator next to the product.
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
     # Hides any Kerberos ticket of the developer from the tests.
-    set(environment KRB5CCNAME=FILE:${PROJECT_BINARY_DIR}/no-ticket)
+    set(environment KRB5CCNAME=FILE:${PROJECT_BINARY_DIR}/no-ticket ${arg_ENVIRONMENT})
     if(arg_QTEST)
         target_link_libraries(${name} PRIVATE tarn_qt_test)
         target_precompile_headers(${name} REUSE_FROM tarn_qt_test)
@@ -147,7 +149,7 @@ function(tarn_test name)
 
     target_link_libraries(${name} PRIVATE tarn_google_test)
     target_precompile_headers(${name} REUSE_FROM tarn_google_test)
-    if(TARN_SANITIZE OR WIN32)
+    if(TARN_SANITIZE OR WIN32 OR arg_ENVIRONMENT)
         add_test(NAME ${name} COMMAND ${name})
         set_tests_properties(${name} PROPERTIES
             LABELS "${arg_LABELS}" TIMEOUT 300 ENVIRONMENT "${environment}")

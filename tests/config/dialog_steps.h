@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QTest>
 
+#include "tests/support/gui_click.h"
 #include "tests/support/gui_wizard.h"
 
 /// Test steps shared by the tests of the dialogs.
@@ -36,7 +37,7 @@ inline const Calls managerAsked{"ClientConnection.getConfigurationManager()"};
 inline void press(QWidget& dialog, const char* button) {
     auto& found = support::child<QAbstractButton>(dialog, button);
     QVERIFY2(found.isEnabled(), button);
-    QTest::mouseClick(&found, Qt::LeftButton, {}, QPoint(8, found.height() / 2));
+    support::clickBox(found);
 }
 
 inline QString text(QWidget& dialog, const char* field) {

@@ -24,11 +24,9 @@ namespace {
 class Client : public QProcess {
 public:
     explicit Client(const QStringList& arguments) {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-        setProcessEnvironment(environment);
         setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        start(QStringLiteral(TARN_SECRET_DIALOGS), arguments);
+        start(QStringLiteral(TARN_SECRET_DIALOGS),
+              arguments + QStringList{QStringLiteral("-platform"), QStringLiteral("offscreen")});
     }
     ~Client() override {
         kill();

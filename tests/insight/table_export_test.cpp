@@ -8,7 +8,7 @@
 #include <QStandardItemModel>
 
 #include "insight/table_export.h"
-#include "tests/insight/local_zone.h"
+#include "tests/support/time_zone.h"
 
 namespace {
 
@@ -57,9 +57,9 @@ TEST(Csv, BeginsWithTheMarkOfUtf8) {
 }
 
 TEST(Csv, TimesAreLocalWithTheirOffset) {
-    const LocalZone zone("Europe/Berlin");
-    EXPECT_EQ(insight::isoTime(1'774'746'000).toStdString(), "2026-03-29T03:00:00+02:00");
-    EXPECT_EQ(insight::isoTime(1'774'745'999).toStdString(), "2026-03-29T01:59:59+01:00");
+    const support::TimeZone zone("EST5EDT,M3.2.0,M11.1.0");
+    EXPECT_EQ(insight::isoTime(1'772'953'199).toStdString(), "2026-03-08T01:59:59-05:00");
+    EXPECT_EQ(insight::isoTime(1'772'953'200).toStdString(), "2026-03-08T03:00:00-04:00");
 }
 
 std::unique_ptr<QMimeData> copied() {

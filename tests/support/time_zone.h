@@ -11,7 +11,8 @@
 namespace support {
 
 /// Sets the time zone of the process and restores the previous one at the end. POSIX rules, as in
-/// "CET-1CEST,M3.5.0,M10.5.0/3", work on every machine; zone names don't.
+/// "CET-1CEST,M3.5.0,M10.5.0/3", work on every machine; zone names don't. Windows ignores the dates
+/// of summer time, and has those of New York: "EST5EDT,M3.2.0,M11.1.0".
 class TimeZone {
 public:
     explicit TimeZone(const char* rules) {

@@ -179,7 +179,8 @@ TEST(TraceEntry, ADirectoryThatDoesNotExistIsReportedAndRaised) {
 }
 
 TEST(TraceEntry, AFullDiskIsReportedAndRaised) {
-    if (!std::filesystem::exists("/dev/full"))
+    // Wine opens it, though it says that no such file exists.
+    if (!std::ofstream("/dev/full", std::ios::app).is_open())
         GTEST_SKIP() << "needs /dev/full";
     EventLog log;
     TraceEntry entry("/dev/full", true, log.sink());

@@ -19,6 +19,7 @@
 #include "session/text.h"
 #include "simulator/world/world.h"
 #include "tests/support/gui_agent.h"
+#include "tests/support/gui_click.h"
 #include "tests/support/gui_modal_driver.h"
 #include "tests/support/gui_selected_row_look.h"
 #include "ui/wizard_frame.h"
@@ -85,7 +86,7 @@ QString folder(const SetOptionsPage& page) {
 }
 
 void click(QWidget& page, const char* button) {
-    QTest::mouseClick(&child<QAbstractButton>(page, button), Qt::LeftButton);
+    support::clickBox(child<QAbstractButton>(page, button));
 }
 
 QString selectedFolder(QWidget& page) {

@@ -13,6 +13,7 @@
 #include "api/client_connection.h"
 #include "session/connection.h"
 #include "simulator/world/world.h"
+#include "tests/support/gui_click.h"
 #include "ui/screen_fit.h"
 
 namespace wizards_test {
@@ -129,7 +130,7 @@ bool PageDriver::canGoNext() const {
 }
 
 void PageDriver::click(const char* button) {
-    QTest::mouseClick(&child<QAbstractButton>(*page_, button), Qt::LeftButton);
+    support::clickBox(child<QAbstractButton>(*page_, button));
 }
 
 void PageDriver::pressNext() {
