@@ -5,7 +5,6 @@
 #include <cerrno>
 #include <cstdio>
 #include <ctime>
-#include <filesystem>
 #include <locale>
 #include <regex>
 #include <utility>
