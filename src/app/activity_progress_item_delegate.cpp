@@ -66,7 +66,11 @@ void CActivityProgressItemDelegate::paint(QPainter* painter, const QStyleOptionV
     } else {
         painter->setPen(palette.color(group, QPalette::Text));
     }
-    const auto bar = barOption(option, index.data().toString(), *progress);
+    auto bar = barOption(option, index.data().toString(), *progress);
+    // The style of Windows moves a glow across the bar of each object. It would stay where the last
+    // painting has put it, so each painting has an object of its own.
+    QObject painted;
+    bar.styleObject = &painted;
     QApplication::style()->drawControl(QStyle::CE_ProgressBar, &bar, painter);
     painter->restore();
 }

@@ -1,7 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
+#include <memory>
+
 #include <QApplication>
 #include <QPainter>
+#include <QPointer>
 #include <QProxyStyle>
 #include <QStyleFactory>
 #include <QtTest>
@@ -23,6 +26,9 @@ public:
         if (element == CE_ProgressBar && bar) {
             bars.push_back(*bar);
             pens.push_back(painter->pen().color());
+            hasObject = option->styleObject != nullptr;
+            // As a style does that animates the bar of each object.
+            animation = std::make_unique<QObject>(option->styleObject).release();
         } else if (element == CE_ItemViewItem) {
             ++items;
         } else {
@@ -32,6 +38,8 @@ public:
 
     mutable std::vector<QStyleOptionProgressBar> bars;
     mutable std::vector<QColor> pens;
+    mutable bool hasObject = false;
+    mutable QPointer<QObject> animation;
     mutable int items = 0;
 };
 
@@ -59,6 +67,7 @@ private slots:
 
     void aKnownProgressIsABar();
     void anUnknownProgressIsText();
+    void noAnimationOfTheBarRemains();
     void theBarKeepsAMarginThatLeavesRoomForItsText();
     void aSelectedCellIsHighlighted_data();
     void aSelectedCellIsHighlighted();
@@ -108,6 +117,12 @@ void ActivityProgressItemDelegateTest::aKnownProgressIsABar() {
     QVERIFY(bar.state.testFlag(QStyle::State_Enabled));
     QCOMPARE(style_->pens.front(), QColor(Qt::green));
     QVERIFY(penIsRestored_);
+}
+
+void ActivityProgressItemDelegateTest::noAnimationOfTheBarRemains() {
+    paint(moving(2, 1), {0, 0, 320, 40});
+    QVERIFY(style_->hasObject);
+    QVERIFY(!style_->animation);
 }
 
 void ActivityProgressItemDelegateTest::anUnknownProgressIsText() {

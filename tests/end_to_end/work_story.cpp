@@ -30,7 +30,7 @@ bool select(int row) {
 }
 
 void logIn(Player& player) {
-    player.then(q("the login dialog"), [&player] {
+    player.then(q("the login dialog"), [] {
         auto* dialog = modal<QDialog>();
         auto* name = dialog ? dialog->findChild<QLineEdit*>(q("lineEditUserName")) : nullptr;
         if (!name)
@@ -40,6 +40,11 @@ void logIn(Player& player) {
             box->click();
         name->setText(q("demo"));
         dialog->findChild<QLineEdit*>(q("lineEditPassword"))->setText(q("demo"));
+        return true;
+    });
+    player.then(q("its painting"), looks(timeForPainting));
+    player.then(q("the login button"), [&player] {
+        auto* dialog = modal<QDialog>();
         player.take(*dialog, q("login"));
         return click(dialog->findChild<QPushButton*>(q("buttonLogin")));
     });
