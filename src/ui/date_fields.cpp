@@ -11,7 +11,7 @@ namespace ui {
 namespace {
 
 /// The margins in a line edit, and the cursor.
-constexpr int spaceAroundText = 6;
+constexpr int spaceAroundText = 5;
 
 int textWidth(const QDateTimeEdit& field) {
     return field.fontMetrics().horizontalAdvance(

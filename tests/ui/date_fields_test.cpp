@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ui/date_fields.h"
 
+#include <memory>
+
 #include <QApplication>
 #include <QDateTimeEdit>
 #include <QHBoxLayout>
@@ -11,18 +13,28 @@
 
 namespace {
 
-/// Its combo boxes have wide buttons, as on Windows.
-class WideButtonStyle : public QProxyStyle {
+/// The buttons of its combo boxes take that much more room.
+class ButtonStyle : public QProxyStyle {
 public:
-    using QProxyStyle::QProxyStyle;
+    explicit ButtonStyle(int room)
+        : QProxyStyle(QStringLiteral("fusion"))
+        , room_(room) {}
 
     QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
                          const QWidget* widget) const override {
         const QRect rect = QProxyStyle::subControlRect(control, option, part, widget);
-        return part == SC_ComboBoxEditField && control == CC_ComboBox ? rect.adjusted(0, 0, -30, 0)
-                                                                      : rect;
+        return part == SC_ComboBoxEditField && control == CC_ComboBox
+                   ? rect.adjusted(0, 0, -room_, 0)
+                   : rect;
     }
+
+private:
+    int room_;
 };
+
+void useButtons(int room) {
+    QApplication::setStyle(std::make_unique<ButtonStyle>(room).release());
+}
 
 struct Form : QWidget {
     explicit Form(bool calendar)
@@ -53,22 +65,26 @@ private slots:
     void cleanup() { QApplication::setStyle(QStringLiteral("fusion")); }
 
     void aFieldWithAWideButtonShowsItsText() {
-        QApplication::setStyle(
-            std::make_unique<WideButtonStyle>(QStringLiteral("fusion")).release());
+        useButtons(30);
         QVERIFY(!Form(true).showsWholeText());
         Form form(true);
         ui::fitDateFields(form);
         QVERIFY(form.showsWholeText());
     }
 
-    void otherFieldsKeepTheirWidth() {
-        QApplication::setStyle(QStringLiteral("fusion"));
-        for (const bool calendar : {true, false}) {
-            Form form(calendar);
-            ui::fitDateFields(form);
-            QCOMPARE(form.field.minimumWidth(), 0);
-            QVERIFY(form.showsWholeText());
-        }
+    void aFieldWithEnoughRoomKeepsItsWidth() {
+        useButtons(-10);
+        Form form(true);
+        ui::fitDateFields(form);
+        QCOMPARE(form.field.minimumWidth(), 0);
+    }
+
+    void aFieldWithoutACalendarKeepsItsWidth() {
+        useButtons(30);
+        Form form(false);
+        ui::fitDateFields(form);
+        QCOMPARE(form.field.minimumWidth(), 0);
+        QVERIFY(form.showsWholeText());
     }
 };
 
