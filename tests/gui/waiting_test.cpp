@@ -272,10 +272,12 @@ void WaitingTest::quitWorks_data() {
 
 void WaitingTest::quitWorks() {
     QFETCH(bool, withPanel);
+    if (!withPanel)
+        startWith({20ms, 20s}); // even on a busy machine
     beSilent();
     bool quit = false;
     const InTheWait user([&] {
-        if (quit || withPanel != (waitingPanel() != nullptr))
+        if (quit || methodsOf(*agent_).empty() || withPanel != (waitingPanel() != nullptr))
             return;
         quit = true;
         driver_->trigger("actionQuit");
@@ -385,7 +387,8 @@ void WaitingTest::aQuitDuringTheFirstLoginAsksForNoOther() {
     beSilent("getTarnClientType");
     bool quit = false;
     const InTheWait user([&] {
-        if (!std::exchange(quit, true))
+        // On a busy machine, the call comes to the agent later.
+        if (!methodsOf(*agent_).empty() && !std::exchange(quit, true))
             driver_->trigger("actionQuit");
     });
     QCOMPARE(app::runLoggedIn(driver_->window(), *gate_), 0);
