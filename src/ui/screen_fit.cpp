@@ -14,6 +14,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStyle>
+#include <QTimer>
 #include <QWindow>
 #include <QWizard>
 
@@ -120,7 +121,11 @@ void moveOntoScreen(QWidget& window) {
                 std::max(std::min(whole.y(), most.y()), least.y()));
 }
 
-/// Fits a window to its screen: first without knowing its frame, then again on the screen.
+/// How long after the first paint the window manager may still place the window.
+constexpr int timeToPlace = 1000; // milliseconds
+
+/// Fits a window to its screen: first without knowing its frame, then again on the screen, until
+/// the window manager has placed it.
 class FitAtFirstShow : public QObject {
 public:
     explicit FitAtFirstShow(QWidget& window)
@@ -131,17 +136,30 @@ public:
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::Expose && static_cast<QWindow*>(watched)->isExposed()) {
-            watched->removeEventFilter(this);
-            deleteLater();
-            shrinkToScreen(window_);
-            moveOntoScreen(window_);
+        const QEvent::Type type = event->type();
+        if (isExposed_ && (type == QEvent::Move || type == QEvent::Resize)) {
+            // The window takes note of its geometry after this filter.
+            QMetaObject::invokeMethod(
+                this, [this] { fit(); }, Qt::QueuedConnection);
+        } else if (!isExposed_ && type == QEvent::Expose &&
+                   static_cast<QWindow*>(watched)->isExposed()) {
+            isExposed_ = true;
+            QTimer::singleShot(timeToPlace, this, &QObject::deleteLater);
+            fit();
         }
         return false;
     }
 
 private:
+    void fit() {
+        if (window_.windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen))
+            return;
+        shrinkToScreen(window_);
+        moveOntoScreen(window_);
+    }
+
     QWidget& window_;
+    bool isExposed_ = false;
 };
 
 /// Fits windows to their screens as they open.
