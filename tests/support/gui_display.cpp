@@ -20,15 +20,16 @@ QByteArray configurationWithTitles(int points) {
            size + "<font place=\"InactiveWindow\">" + size + "</theme></openbox_config>";
 }
 
-/// Whether a window manager manages the display before the limit.
+/// Whether a window manager manages the display before the limit. It lists its windows last, long
+/// after what it supports.
 bool isManaged() {
     const QDeadlineTimer deadline(limit);
     while (!deadline.hasExpired()) {
         Helper properties;
         if (properties.launch(QStringLiteral("xprop"),
-                              {QStringLiteral("-root"), QStringLiteral("_NET_SUPPORTED")}) &&
+                              {QStringLiteral("-root"), QStringLiteral("_NET_CLIENT_LIST")}) &&
             properties.waitForFinished(1000) &&
-            properties.readAllStandardOutput().contains("_NET_ACTIVE_WINDOW"))
+            properties.readAllStandardOutput().contains("_NET_CLIENT_LIST(WINDOW)"))
             return true;
     }
     return false;
