@@ -42,8 +42,8 @@ void prepareToolkit() {
     // Windows.
     QCoreApplication::addLibraryPath(QString::fromStdString(platform::pluginFolder()));
     // If the style is missing, Qt's default stays. The one of Windows is always light.
-    QApplication::setStyle(platform::needsDarkPalette() ? QStringLiteral("fusion")
-                                                        : QStringLiteral("plastique"));
+    if (!QApplication::setStyle(QStringLiteral("plastique")) && platform::needsDarkPalette())
+        QApplication::setStyle(QStringLiteral("fusion"));
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     // A menu bar shown by the desktop would trigger commands during a call.
