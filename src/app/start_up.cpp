@@ -66,6 +66,8 @@ void prepareToolkit() {
 
 void adjustToolkit(QApplication& application) {
     scaleEvenly(application);
+    // Qt's option for a style sheet would put a style in front of the one looked at below.
+    application.setStyleSheet(QString());
     if (platform::needsDarkPalette())
         ui::useDarkPalette(application);
     ui::completeContrastTheme(application);

@@ -121,6 +121,21 @@ private slots:
         QCOMPARE(paletteAfter, before);
     }
 
+    void aStyleSheetByOptionHidesNoStyle() {
+        const QString style = QApplication::style()->objectName();
+        QApplication::setStyle(QStringLiteral("fusion"));
+        QApplication::setPalette(ui::darkPalette());
+        qApp->setStyleSheet(QStringLiteral("QLabel { color: red }"));
+        app::adjustToolkit(*qApp);
+        app::applyStyleSheet(*qApp);
+        const QString after = QApplication::style()->objectName();
+        const QBrush rows = QApplication::palette().alternateBase();
+        QApplication::setPalette(QPalette());
+        QApplication::setStyle(style);
+        QCOMPARE(after, QStringLiteral("fusion"));
+        QCOMPARE(rows, ui::darkPalette().alternateBase());
+    }
+
     void startsInTheTrayOnlyIfAskedAndThereIsOne() {
         const QString program = QStringLiteral("tarn-mobile-user");
         const QString option = QStringLiteral("--tray");
