@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
-#include "platform/dark_mode.h"
 #include "platform/file_dialog_history.h"
 #include "platform/library_search.h"
 #include "platform/plugin_folder.h"
@@ -164,52 +163,6 @@ TEST(NoFileDialogHistory, LeavesWhatOthersStoreMeanwhile) {
 TEST(PluginFolder, IsThatOfTheProgram) {
     const std::filesystem::path folder(platform::toWide(platform::pluginFolder()));
     EXPECT_TRUE(std::filesystem::is_regular_file(folder / "test_platform.exe")) << folder;
-}
-
-/// Replaces the user's registry by an empty key below it, for this process.
-class EmptyRegistry {
-public:
-    EmptyRegistry() {
-        RegCreateKeyW(HKEY_CURRENT_USER, path, &key_);
-        RegOverridePredefKey(HKEY_CURRENT_USER, key_);
-    }
-    EmptyRegistry(const EmptyRegistry&) = delete;
-    EmptyRegistry& operator=(const EmptyRegistry&) = delete;
-    ~EmptyRegistry() {
-        RegOverridePredefKey(HKEY_CURRENT_USER, nullptr);
-        RegCloseKey(key_);
-        RegDeleteTreeW(HKEY_CURRENT_USER, path);
-    }
-
-    template <class Value>
-    void setAppsUseLightTheme(DWORD type, const Value& value) {
-        ASSERT_EQ(
-            RegSetKeyValueW(HKEY_CURRENT_USER,
-                            L"Software\\Microsoft\\Windows\\CurrentVersion\\Themes\\Personalize",
-                            L"AppsUseLightTheme", type, &value, sizeof value),
-            ERROR_SUCCESS);
-    }
-
-private:
-    static constexpr const wchar_t* path = L"Software\\TarnMobileTest";
-    HKEY key_ = nullptr;
-};
-
-TEST(DarkMode, IsTheColourModeOfApps) {
-    EmptyRegistry registry;
-    EXPECT_FALSE(platform::needsDarkPalette());
-    registry.setAppsUseLightTheme(REG_DWORD, DWORD{0});
-    EXPECT_TRUE(platform::needsDarkPalette());
-    registry.setAppsUseLightTheme(REG_DWORD, DWORD{1});
-    EXPECT_FALSE(platform::needsDarkPalette());
-}
-
-TEST(DarkMode, IsOffIfTheValueIsNoNumber) {
-    EmptyRegistry registry;
-    registry.setAppsUseLightTheme(REG_SZ, L"0");
-    EXPECT_FALSE(platform::needsDarkPalette());
-    registry.setAppsUseLightTheme(REG_BINARY, '\0');
-    EXPECT_FALSE(platform::needsDarkPalette());
 }
 
 } // namespace
