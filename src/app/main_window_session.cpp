@@ -23,6 +23,7 @@
 #include "session/integrated_logon.h"
 #include "session/text.h"
 #include "ui/error_box.h"
+#include "ui/file_dialog.h"
 #include "ui/locale_text.h"
 #include "ui_simple_gui_main_window.h"
 
@@ -92,6 +93,7 @@ void SimpleGUIMainWindow::showNoSession() {
 }
 
 void SimpleGUIMainWindow::OnQuit() {
+    ui::rejectFileDialogs();
     QCoreApplication::quit();
 }
 

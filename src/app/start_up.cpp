@@ -25,6 +25,7 @@
 #include "ui/contrast_theme.h"
 #include "ui/dark_palette.h"
 #include "ui/error_box.h"
+#include "ui/file_dialog.h"
 #include "ui/outlined_indicators.h"
 #include "ui/screen_fit.h"
 
@@ -138,6 +139,7 @@ void logOut(CallGate& gate) {
 
 void logOutAtQuit(QCoreApplication& application, CallGate& gate) {
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &gate, [&gate] {
+        ui::rejectFileDialogs();
         // A call that runs now ends by itself when the event loops do.
         if (gate.waiting())
             gate.leaveSilentAgents();

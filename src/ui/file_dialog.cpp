@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ui/file_dialog.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QFileDialog>
 #include <QLabel>
@@ -28,6 +29,12 @@ void adaptFileDialog(QFileDialog& dialog) {
     setStandardButtonPictures(dialog);
     nameField(dialog, "lookInLabel", "lookInCombo");
     nameField(dialog, "fileTypeLabel", "fileTypeCombo");
+}
+
+void rejectFileDialogs() {
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (auto* dialog = qobject_cast<QFileDialog*>(window); dialog && dialog->isVisible())
+            dialog->reject();
 }
 
 } // namespace ui

@@ -10,4 +10,8 @@ namespace ui {
 /// readers. Call it after the dialog's options are set. A native dialog stays as it is.
 void adaptFileDialog(QFileDialog& dialog);
 
+/// Rejects each open file dialog. A native one has an event loop of its own, which the end of the
+/// program doesn't end.
+void rejectFileDialogs();
+
 } // namespace ui

@@ -224,13 +224,35 @@ private slots:
         QCOMPARE(users.index(2, 0).data().toString(), QStringLiteral("dan"));
     }
 
+    void quittingClosesTheDialog() {
+        support::GuiAgent agent;
+        support::MainWindowDriver driver;
+        driver.logIn(agent);
+        bool closed = false;
+        std::thread user([&] {
+            HWND dialog = nullptr;
+            const bool opened = waitFor([&] { return (dialog = openDialog()) != nullptr; });
+            QMetaObject::invokeMethod(&driver.window(), "OnQuit", Qt::QueuedConnection);
+            closed = opened && waitFor([&] { return !IsWindow(dialog); });
+            if (opened && !closed)
+                PostMessageW(dialog, WM_CLOSE, 0, 0);
+        });
+        exportLog(driver);
+        user.join();
+        QVERIFY(closed);
+    }
+
 private:
+    static void exportLog(support::MainWindowDriver& driver) {
+        support::child<QTabWidget>(driver.window(), "tabWidget").setCurrentIndex(1);
+        support::child<QPushButton>(driver.window(), "buttonExport").click();
+    }
+
     static void exportLog() {
         support::GuiAgent agent;
         support::MainWindowDriver driver;
         driver.logIn(agent);
-        support::child<QTabWidget>(driver.window(), "tabWidget").setCurrentIndex(1);
-        support::child<QPushButton>(driver.window(), "buttonExport").click();
+        exportLog(driver);
     }
 };
 
