@@ -126,6 +126,10 @@ function(tarn_test name)
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
     # Hides any Kerberos ticket of the developer from the tests.
     set(environment KRB5CCNAME=FILE:${PROJECT_BINARY_DIR}/no-ticket ${arg_ENVIRONMENT})
+    if(TARN_SANITIZE MATCHES "thread")
+        list(APPEND environment
+            TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/races_of_openssl.txt)
+    endif()
     if(arg_QTEST)
         target_link_libraries(${name} PRIVATE tarn_qt_test)
         target_precompile_headers(${name} REUSE_FROM tarn_qt_test)
