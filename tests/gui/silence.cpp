@@ -121,11 +121,9 @@ simulator::LogonStep acceptLogon(const std::string& token) {
 /// Continues wherever possible, and closes dialogs that stay open.
 class User : public QObject {
 public:
-    User(Outcome& outcome, const GuiAgent& agent, const app::CallGate& gate,
-         QStringList pageButtons, bool leavesSilentAgent)
+    User(Outcome& outcome, const GuiAgent& agent, QStringList pageButtons, bool leavesSilentAgent)
         : outcome_(outcome)
         , agent_(agent)
-        , gate_(gate)
         , pageButtons_(std::move(pageButtons))
         , leaves_(leavesSilentAgent)
         , wait_([this] { leave(); }) {
@@ -148,10 +146,12 @@ private:
 
     void look() {
         lookSoon();
-        // How long a call takes doesn't decide which dialogs a user can answer.
-        if (gate_.waiting())
-            return;
         auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        // At the first look, a wizard whose first call has failed may not have closed yet.
+        if (seen_ != dialog) {
+            seen_ = dialog;
+            return;
+        }
         if (!dialog || !dialog->isVisible() || busy_.count(dialog) != 0)
             return;
         busy_.insert(dialog);
@@ -215,7 +215,7 @@ private:
 
     Outcome& outcome_;
     const GuiAgent& agent_;
-    const app::CallGate& gate_;
+    QPointer<QDialog> seen_;
     QStringList pageButtons_;
     bool leaves_;
     std::set<QDialog*> busy_;
@@ -250,7 +250,7 @@ Outcome run(const Flow& flow, const simulator::Injection* injection, std::size_t
         agent.inject("*", *injection, simulator::Times::Once, at);
     {
         const bool silent = injection && std::holds_alternative<simulator::Silence>(*injection);
-        const User user(outcome, agent, gate, flow.pageButtons, silent);
+        const User user(outcome, agent, flow.pageButtons, silent);
         flow.act(driver, gate);
         outcome.connected = session::connectedToAgent();
         outcome.title = driver.window().windowTitle();
