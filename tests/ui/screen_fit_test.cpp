@@ -65,6 +65,16 @@ private slots:
         QVERIFY(room.contains(window.frameGeometry()));
     }
 
+    void aWindowPlacedBesideTheScreenAfterItsFirstPaintReturns() {
+        QWidget window;
+        window.setGeometry(100, 100, 300, 300);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        window.move(100, -50);
+        QTRY_VERIFY(window.screen()->availableGeometry().contains(window.frameGeometry()));
+        QCOMPARE(window.size(), QSize(300, 300));
+    }
+
     void aWindowThatFitsStaysInItsPlace() {
         QWidget window;
         window.setGeometry(100, 100, 300, 300);
