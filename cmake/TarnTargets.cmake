@@ -46,18 +46,23 @@ if(TARN_SANITIZE)
 endif()
 
 function(_tarn_prepare target)
-    set_target_properties(${target} PROPERTIES
-        CXX_EXTENSIONS OFF CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
+    set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF)
+    if(NOT BUILD_SHARED_LIBS)
+        set_target_properties(${target} PROPERTIES
+            CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
+    endif()
 endfunction()
 
 # tarn_library(<name> SOURCES <files> [LINK <public>] [LINK_PRIVATE <private>]
 #              [PRECOMPILE <headers> | PRECOMPILED_BY <library>])
 #
+# A static library, or with BUILD_SHARED_LIBS a shared one: each test program with all sanitized
+# libraries inside would have 150 MB.
 # PRECOMPILE lists the headers, spelled as after #include, that most of the sources include; it pays
 # off from about eight sources on. PRECOMPILED_BY reuses those of another library.
 function(tarn_library name)
     cmake_parse_arguments(arg "" "PRECOMPILED_BY" "SOURCES;LINK;LINK_PRIVATE;PRECOMPILE" ${ARGN})
-    add_library(${name} STATIC ${arg_SOURCES})
+    add_library(${name} ${arg_SOURCES})
     target_link_libraries(${name} PUBLIC tarn_options ${arg_LINK} PRIVATE ${arg_LINK_PRIVATE})
     _tarn_prepare(${name})
     if(arg_PRECOMPILE)
