@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "app/tray_icon.h"
 
+#include <QGuiApplication>
+
 #include "app/notifications.h"
 #include "ui/later.h"
 
@@ -11,7 +13,20 @@ namespace {
 
 constexpr int balloonTime = 10000;
 
+// Windows would cut a longer text anywhere: NOTIFYICONDATA::szInfo, without its final zero.
+constexpr int mostOnWindows = 255;
+
 } // namespace
+
+QString fittingBalloonText(const QString& text, int most) {
+    if (text.size() <= most)
+        return text;
+    const QChar ellipsis(0x2026);
+    const QString start = text.left(most - 1);
+    if (const int lines = start.lastIndexOf(QLatin1Char('\n')) + 1; lines > 0)
+        return start.left(lines) + ellipsis;
+    return start.left(start.size() - (start.back().isHighSurrogate() ? 1 : 0)) + ellipsis;
+}
 
 TrayIcon::TrayIcon(QObject* parent)
     : QSystemTrayIcon(parent) {
@@ -40,6 +55,8 @@ void TrayIcon::announce(const QString& title, const QString& text, MessageIcon i
                         const char* iconName) {
     if (Notifications* service = notifications())
         service->show(title, text, QLatin1String(iconName), balloonTime);
+    else if (QGuiApplication::platformName() == QLatin1String("windows"))
+        showMessage(title, fittingBalloonText(text, mostOnWindows), icon, balloonTime);
     else
         showMessage(title, text, icon, balloonTime);
 }

@@ -10,6 +10,10 @@ namespace app {
 
 class Notifications;
 
+/// The text if it has at most `most` UTF-16 units; otherwise its first lines that fit, or the start
+/// of its only line, and an ellipsis.
+QString fittingBalloonText(const QString& text, int most);
+
 /// The program's icon in the system tray. Desktop-dependent parts can be overridden.
 class TrayIcon : public QSystemTrayIcon {
     Q_OBJECT
