@@ -24,6 +24,8 @@ public:
             playNoTicket(*player);
         else if (story == QLatin1String("tarnlogon"))
             playLogon(*player);
+        else if (story == QLatin1String("tarnlook"))
+            playLook(*player);
         else if (story == QLatin1String("tarnstay"))
             playStay(*player);
         else if (story == QLatin1String("tarntray"))

@@ -6,8 +6,12 @@ namespace end_to_end {
 
 class Player;
 
-/// Logs in with a password, backs up, creates a set and deletes it, and quits.
+/// Logs in with a password, backs up, creates a set and deletes it, and quits. Records the style
+/// and the button for the way back in a wizard.
 void playWork(Player& player);
+
+/// Logs in with a password, records the style and the colours, and quits.
+void playLook(Player& player);
 
 /// Logs in with a password, records it, and leaves the about box open until the program is closed.
 void playStay(Player& player);

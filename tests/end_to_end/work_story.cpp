@@ -9,7 +9,9 @@
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMessageBox>
+#include <QPalette>
 #include <QPushButton>
+#include <QStyle>
 #include <QTableView>
 #include <QTimer>
 #include <QWizard>
@@ -52,13 +54,17 @@ void logIn(Player& player) {
     player.then(q("its painting"), looks(timeForPainting));
 }
 
-void backUp(Player& player) {
+void seeMainWindow(Player& player) {
     player.then(q("a set to select"), [] { return select(0); });
     player.then(q("the details"), looks(timeForPainting));
     player.then(q("the main window"), [&player] {
         player.take(*topLevel<QMainWindow>(), q("main-window"));
+        player.note(q("style: ") + QApplication::style()->objectName());
         return true;
     });
+}
+
+void backUp(Player& player) {
     player.then(q("the backup command"), [] { return trigger("actionBackup_Now"); });
     player.then(q("the running backup"), [&player] {
         if (rows("tableCurrentActivities") == 0)
@@ -82,6 +88,11 @@ void readAbout(Player& player) {
     player.then(q("the end of the about box"), [] { return !modal<QWidget>(); });
 }
 
+void noteWayBack(Player& player, const QWizard& wizard) {
+    const auto* back = wizard.button(QWizard::BackButton);
+    player.note(q("way back: ") + (back->isVisible() ? back->text() : q("none")));
+}
+
 /// One step for all pages: returns true once the wizard's last button has been clicked.
 Player::Step throughPages(Player& player) {
     return [&player, seen = -1]() mutable {
@@ -93,6 +104,8 @@ Player::Step throughPages(Player& player) {
         if (auto* name = wizard->currentPage()->findChild<QLineEdit*>(q("editSetName")))
             name->setText(q("Letters"));
         player.take(*wizard, q("new-set-%1").arg(wizard->currentId()));
+        if (wizard->visitedIds().size() == 2)
+            noteWayBack(player, *wizard);
         seen = wizard->currentId();
         const bool last = wizard->currentPage()->isFinalPage();
         const auto button = last ? QWizard::FinishButton : QWizard::NextButton;
@@ -133,10 +146,24 @@ void quit(Player& player) {
 void playWork(Player& player) {
     const auto before = std::make_shared<int>(0);
     logIn(player);
+    seeMainWindow(player);
     backUp(player);
     readAbout(player);
     makeSet(player, before);
     deleteSet(player, before);
+    quit(player);
+}
+
+void playLook(Player& player) {
+    logIn(player);
+    seeMainWindow(player);
+    player.then(q("the colours"), [&player] {
+        const QPalette colours = topLevel<QMainWindow>()->palette();
+        const bool dark =
+            colours.window().color().lightness() < colours.windowText().color().lightness();
+        player.note(q(dark ? "dark" : "light"));
+        return true;
+    });
     quit(player);
 }
 
