@@ -21,6 +21,13 @@ Var File
     ${EndIf}
 !macroend
 
+; $File can't be removed.
+!macro EndIncomplete
+    MessageBox MB_OK|MB_ICONSTOP $(NotRemoved) /SD IDOK
+    SetErrorLevel 5
+    Quit
+!macroend
+
 !macro FileFunctions un
 ; Sets $R0 to 1 if another program has $File open in a way that prevents its removal, else to 0.
 Function ${un}LookIfUsed
@@ -63,9 +70,7 @@ Function ${un}RemoveFiles
         ${EndIf}
         Sleep 250
     ${Next}
-    MessageBox MB_OK|MB_ICONSTOP $(NotRemoved) /SD IDOK
-    SetErrorLevel 5
-    Quit
+    !insertmacro EndIncomplete
 FunctionEnd
 !macroend
 !insertmacro FileFunctions ""

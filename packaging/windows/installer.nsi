@@ -13,6 +13,8 @@ AllowSkipFiles off
 !define NAME "Tarn-Mobile User"
 !define PROGRAM "tarn-mobile-user.exe"
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Tarn-Mobile User"
+; In the version information of our uninstaller: American English, Unicode.
+!define PRODUCT_NAME "\StringFileInfo\040904B0\ProductName"
 !define EVENT_SOURCE "SYSTEM\CurrentControlSet\Services\EventLog\Application\HessianClientAPI"
 
 ; For all users if the user has administrator rights, otherwise for this user only; a page asks if
@@ -43,8 +45,10 @@ AllowSkipFiles off
 
 ; The folder from the command line; otherwise empty.
 Var GivenFolder
-; Where the program is installed; empty if it isn't.
+; Where the program is installed, as the registry says; otherwise empty.
 Var OldFolder
+; 1 if that folder contains our uninstaller, else 0: then nothing there may be removed.
+Var OldIsOurs
 ; 1 if the uninstaller's folder is that of the program for all users, or for this user; else 0.
 Var ForAll
 Var ForUser
@@ -96,12 +100,39 @@ VIAddVersionKey LegalCopyright "Copyright 2026 The Tarn-Mobile User authors"
     CreateShortcut "${path}" "$INSTDIR\${PROGRAM}" "--lang $Code${options}" "$INSTDIR\${PROGRAM}" 0
 !macroend
 
+; The registry may be out of date, and the folder now that of another program. Even an incomplete
+; installation contains the uninstaller, which has this installer's version information.
+Function LookIfOldIsOurs
+    StrCpy $OldIsOurs 0
+    ${If} $OldFolder == ""
+        Return
+    ${EndIf}
+    StrCpy $0 "$OldFolder\uninstall.exe"
+    System::Call 'version::GetFileVersionInfoSizeW(w r0, p 0) i .r1'
+    ${If} $1 = 0
+        Return
+    ${EndIf}
+    System::Alloc $1
+    Pop $2
+    System::Call 'version::GetFileVersionInfoW(w r0, i 0, i r1, p r2) i .r3'
+    ${If} $3 <> 0
+        System::Call 'version::VerQueryValueW(p r2, w "${PRODUCT_NAME}", *p .r4, *i .r5) i .r3'
+    ${EndIf}
+    ${If} $3 <> 0
+        System::Call '*$4(&w$5 .r0)'
+        ${If} $0 == "${NAME}"
+            StrCpy $OldIsOurs 1
+        ${EndIf}
+    ${EndIf}
+    System::Free $2
+FunctionEnd
+
 ; An older version doesn't know which files it would have to remove.
 Function RefuseOlder
     ReadRegStr $0 SHCTX "${UNINSTALL_KEY}" DisplayVersion
     ${VersionCompare} "$0" "${VERSION}" $1
     ${If} $1 = 1
-    ${AndIf} ${FileExists} "$OldFolder\uninstall.exe"
+    ${AndIf} $OldIsOurs = 1
         MessageBox MB_OK|MB_ICONSTOP $(IsNewer) /SD IDOK
         SetErrorLevel 6
         Quit
@@ -135,7 +166,7 @@ FunctionEnd
 Function FreeOldAndNew
     StrCpy $Folder $INSTDIR
     Call FreeFiles
-    ${If} $OldFolder != ""
+    ${If} $OldIsOurs = 1
         StrCpy $Folder $OldFolder
         Call FreeFiles
     ${EndIf}
@@ -145,8 +176,7 @@ FunctionEnd
 ; are kept, wherever the user has put them. Doesn't run the old uninstaller: this process may have
 ; more rights than those who can write to that folder.
 Function RemoveOld
-    ${If} $OldFolder == ""
-    ${OrIfNot} ${FileExists} "$OldFolder\uninstall.exe"
+    ${If} $OldIsOurs = 0
         Return
     ${EndIf}
     StrCpy $Folder $OldFolder
@@ -274,6 +304,7 @@ FunctionEnd
 ; Called at the start, and after the user has chosen who to install for.
 Function ModeChosen
     ReadRegStr $OldFolder SHCTX "${UNINSTALL_KEY}" InstallLocation
+    Call LookIfOldIsOurs
     ${If} $GivenFolder != ""
         StrCpy $INSTDIR $GivenFolder
     ${EndIf}
@@ -356,14 +387,20 @@ FunctionEnd
 ; This is a copy, unless "_?=" has prevented it. The process that started the copy may not have ended
 ; yet, and hold its file.
 Function un.RemoveItself
+    StrCpy $6 $EXEDIR
+    Call un.IsThisFolder
+    ${If} $0 = 1
+        Return
+    ${EndIf}
+    StrCpy $File "$INSTDIR\uninstall.exe"
     ${For} $R8 1 40
-        Delete "$INSTDIR\uninstall.exe"
-        ${IfNot} ${FileExists} "$INSTDIR\uninstall.exe"
-        ${OrIf} $EXEDIR == $INSTDIR
+        Delete "$File"
+        ${IfNot} ${FileExists} "$File"
             Return
         ${EndIf}
         Sleep 250
     ${Next}
+    !insertmacro EndIncomplete
 FunctionEnd
 
 !macro Unregister hive context
