@@ -41,6 +41,7 @@ bool SimpleGUIMainWindow::doLogin(bool automatic) {
         server = QStringLiteral("127.0.0.1");
         user = session::fromWire(session::currentWindowsUser());
     } else {
+        comeOut();
         LoginCheck dialog(this);
         dialog.setWindowIcon(windowIcon());
         if (dialog.exec() != 0)
@@ -117,7 +118,13 @@ void SimpleGUIMainWindow::checkInitialConfiguration() {
     OnDisconnect();
 }
 
+void SimpleGUIMainWindow::comeOut() {
+    if (!isVisible())
+        showMainWindow();
+}
+
 void SimpleGUIMainWindow::openInitialConfiguration() {
+    comeOut();
     const int result = InitClntCfgDlg(true, this).exec();
     if (result == InitClntCfgDlg::cancelled)
         OnDisconnect();
@@ -126,8 +133,10 @@ void SimpleGUIMainWindow::openInitialConfiguration() {
 }
 
 void SimpleGUIMainWindow::offerNewBackupSet() {
-    if (session::connectedToAgent() && sets_->isKnownToBeEmpty() && !session::g_isCentrallyManaged)
-        OnNewBackupSet();
+    if (!session::connectedToAgent() || !sets_->isKnownToBeEmpty() || session::g_isCentrallyManaged)
+        return;
+    comeOut();
+    OnNewBackupSet();
 }
 
 void SimpleGUIMainWindow::startDailyAdmin() {

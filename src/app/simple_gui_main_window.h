@@ -165,6 +165,9 @@ private:
     /// Shows that an activity was started, unless the session has ended in the refresh after it,
     /// whose text stays.
     void showStarted(const QString& text);
+    /// Shows the window if it is hidden. Without it, a dialog may be behind others and has no entry
+    /// in the task bar.
+    void comeOut();
     void openInitialConfiguration();
 
     /// Reads something in the session, or ends the session if that fails.

@@ -22,6 +22,7 @@
 #include "platform/file_dialog_history.h"
 #include "platform/plugin_folder.h"
 #include "session/connection.h"
+#include "session/integrated_logon.h"
 #include "ui/contrast_theme.h"
 #include "ui/dark_palette.h"
 #include "ui/error_box.h"
@@ -32,7 +33,46 @@
 namespace {
 
 constexpr int timeToAppear = 500;
+constexpr int attemptsWhileHidden = 5;
 constexpr qint64 largestStyleSheet = qint64(16) * 1024 * 1024;
+
+class FirstLogin : public QObject {
+public:
+    FirstLogin(SimpleGUIMainWindow& window, const app::CallGate* gate,
+               std::chrono::milliseconds pause)
+        : QObject(&window)
+        , window_(window)
+        , gate_(gate) {
+        timer_.setSingleShot(true);
+        timer_.setInterval(pause);
+        connect(&timer_, &QTimer::timeout, this, &FirstLogin::retry);
+    }
+
+    void run() {
+        window_.doLogin(true);
+        if (gate_ && gate_->quitRequested())
+            return;
+        // The return value says less than the session does.
+        if (session::connectedToAgent())
+            return;
+        if (--attempts_ > 0 && !window_.isVisible() && session::integratedLogonAvailable())
+            timer_.start();
+        else
+            window_.doLogin(false);
+    }
+
+private:
+    void retry() {
+        // Meanwhile the user may have opened the window and be logging in.
+        if (!session::connectedToAgent() && !QApplication::activeModalWidget())
+            run();
+    }
+
+    SimpleGUIMainWindow& window_;
+    const app::CallGate* gate_;
+    QTimer timer_;
+    int attempts_ = attemptsWhileHidden;
+};
 
 } // namespace
 
@@ -148,13 +188,9 @@ void logOutAtQuit(QCoreApplication& application, CallGate& gate) {
     });
 }
 
-void logInAtStart(SimpleGUIMainWindow& window, const CallGate* gate) {
-    window.doLogin(true);
-    if (gate && gate->quitRequested())
-        return;
-    // The return value says less than the session does.
-    if (!session::connectedToAgent())
-        window.doLogin(false);
+void logInAtStart(SimpleGUIMainWindow& window, const CallGate* gate,
+                  std::chrono::milliseconds pause) {
+    (new FirstLogin(window, gate, pause))->run();
 }
 
 int runLoggedIn(SimpleGUIMainWindow& window, const CallGate& gate) {

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <chrono>
+
 #include <QString>
 #include <QStringList>
 #include <QSystemTrayIcon>
@@ -60,7 +62,12 @@ void logOutAtQuit(QCoreApplication& application, CallGate& gate);
 /// Tries the agent on this machine first, and asks the user if that didn't start a session. If
 /// that fails too, the window stays disconnected. With `gate`, quitting during the first login
 /// skips the second.
-void logInAtStart(SimpleGUIMainWindow& window, const CallGate* gate = nullptr);
+///
+/// When the user has just logged on to the system, agent and network may not be ready. So if the
+/// window is hidden and a logon without a password is possible, returns after the first attempt,
+/// makes four more with `pause` in between, and only then asks the user.
+void logInAtStart(SimpleGUIMainWindow& window, const CallGate* gate = nullptr,
+                  std::chrono::milliseconds pause = std::chrono::seconds(15));
 
 /// Logs in as above, then runs the event loop to its end and returns its status. A quit during the
 /// login dialog, for example from the tray, ends both.

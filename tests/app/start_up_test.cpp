@@ -282,6 +282,19 @@ private slots:
         QVERIFY(window.internalWinId() != 0);
     }
 
+    void aHiddenWindowComesOutToAskForAPassword() {
+        SimpleGUIMainWindow window;
+        support::ModalDriver modals;
+        modals.expect(QStringLiteral("login"), support::isDialog<LoginCheck>, [&](QWidget& dialog) {
+            QVERIFY(window.isVisible());
+            QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("buttonQuit")),
+                              Qt::LeftButton);
+        });
+        app::startInTray(window);
+        app::logInAtStart(window);
+        QVERIFY(modals.done());
+    }
+
     void logsOutBeforeTheEventLoopEnds() {
         support::GuiAgent agent;
         support::MainWindowDriver driver;

@@ -160,6 +160,57 @@ private slots:
         QCOMPARE(count(agent, "sspi_login"), 0);
     }
 
+    void aHiddenWindowWaitsForTheAgent() {
+        realm_->getTicket();
+        MainWindowDriver driver;
+        ModalDriver modals;
+        app::startInTray(driver.window());
+        app::logInAtStart(driver.window(), nullptr, 50ms);
+        QVERIFY(!session::connectedToAgent());
+        const GuiAgent agent(accepting(realm_->keyTable()));
+        QTRY_VERIFY(session::connectedToAgent());
+        QVERIFY(modals.done());
+        QVERIFY(!driver.window().isVisible());
+        QCOMPARE(count(agent, "getTarnClientType"), 1);
+        expectTheSessionOf(driver, currentUser());
+    }
+
+    void aHiddenWindowComesOutWhenTheAgentStaysAway() {
+        realm_->getTicket();
+        MainWindowDriver driver;
+        ModalDriver modals;
+        modals.expect(QStringLiteral("the login dialog"), support::isDialog<LoginCheck>,
+                      [&](QWidget& dialog) {
+                          QVERIFY(driver.window().isVisible());
+                          press(dialog, "buttonQuit");
+                      });
+        app::startInTray(driver.window());
+        app::logInAtStart(driver.window(), nullptr, 5ms);
+        QVERIFY(!driver.window().isVisible());
+        QTRY_VERIFY(modals.done());
+        QVERIFY(driver.window().isVisible());
+    }
+
+    void aLoginByTheUserEndsTheWaitForTheAgent() {
+        realm_->getTicket();
+        MainWindowDriver driver;
+        ModalDriver modals;
+        modals.expect(QStringLiteral("the login dialog"), support::isDialog<LoginCheck>,
+                      [](QWidget& dialog) {
+                          // Longer than until the next attempt.
+                          QTest::qWait(100);
+                          press(dialog, "buttonQuit");
+                      });
+        app::startInTray(driver.window());
+        app::logInAtStart(driver.window(), nullptr, 20ms);
+        driver.window().showMainWindow();
+        driver.trigger("actionLogin");
+        QVERIFY(modals.done());
+        const GuiAgent agent(accepting(realm_->keyTable()));
+        QTest::qWait(200);
+        QCOMPARE(count(agent, "getTarnClientType"), 0);
+    }
+
     void asksAtTheStartWhenTheKdcIsAway() {
         realm_->getTicket();
         realm_->stopKdc();
