@@ -162,25 +162,43 @@ private:
     bool isExposed_ = false;
 };
 
-/// Fits windows to their screens as they open.
+/// Whether the user could see and drag the title bar.
+bool hasReachableTitle(const QWidget& window) {
+    QRect title = window.frameGeometry();
+    title.setHeight(usualFrame.height());
+    const auto screens = QGuiApplication::screens();
+    return std::any_of(screens.begin(), screens.end(), [&](const QScreen* screen) {
+        return screen->availableGeometry().intersects(title);
+    });
+}
+
+/// Fits windows to their screens as they open. A window that comes back after its screen has been
+/// unplugged moves to another.
 class OpensOnScreen : public QObject {
 public:
     using QObject::QObject;
 
     bool eventFilter(QObject* watched, QEvent* event) override {
         if (event->type() == QEvent::Show && !event->spontaneous())
-            if (auto* window = qobject_cast<QWidget*>(watched); window && opensFirst(*window)) {
-                window->setProperty(hasOpened, true);
-                new FitAtFirstShow(*window);
-            }
+            if (auto* window = qobject_cast<QWidget*>(watched); window && isForScreen(*window))
+                opens(*window);
         return false;
     }
 
 private:
     /// Popups and tool tips have sizes of their own.
-    static bool opensFirst(const QWidget& window) {
+    static bool isForScreen(const QWidget& window) {
         return (window.windowType() == Qt::Window || window.windowType() == Qt::Dialog) &&
-               window.windowHandle() && !window.property(hasOpened).isValid();
+               window.windowHandle();
+    }
+
+    static void opens(QWidget& window) {
+        if (!window.property(hasOpened).isValid()) {
+            window.setProperty(hasOpened, true);
+            new FitAtFirstShow(window);
+        } else if (!hasReachableTitle(window)) {
+            moveOntoScreen(window);
+        }
     }
 };
 

@@ -95,6 +95,34 @@ private slots:
         QCOMPARE(window.size(), chosen);
     }
 
+    void aWindowWhoseScreenIsGoneComesBackOnAnother() {
+        QWidget window;
+        window.setGeometry(100, 100, 300, 300);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        window.hide();
+        window.move(9000, 9000);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QVERIFY(window.screen()->availableGeometry().contains(window.frameGeometry()));
+        QCOMPARE(window.size(), QSize(300, 300));
+    }
+
+    void aWindowThatComesBackPartlyOffTheScreenStaysThere() {
+        QWidget window;
+        window.setGeometry(100, 100, 300, 300);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        // Only at its first opening it is moved for a while.
+        QVERIFY(!window.findChild<QObject*>() ||
+                QTest::qWaitFor([&] { return window.children().isEmpty(); }));
+        window.hide();
+        window.move(-100, 100);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QCOMPARE(window.x(), -100);
+    }
+
     void aWindowGrowsNoFurtherThanItsScreen() {
         QDialog window;
         window.setGeometry(10, 300, 300, 400);
