@@ -107,6 +107,9 @@ void prepareToolkit() {
 
 void adjustToolkit(QApplication& application) {
     scaleEvenly(application);
+    // Qt's default there is the font of Windows 2000. This one is the user's for texts of windows.
+    if (QGuiApplication::platformName() == QLatin1String("windows"))
+        QApplication::setFont(QApplication::font("QMessageBox"));
     // Qt's option for a style sheet would put a style in front of the one looked at below.
     application.setStyleSheet(QString());
     if (platform::needsDarkPalette())
