@@ -5,12 +5,9 @@
 #include <QTest>
 
 #include "app/set_card_look.h"
-#include "app/start_up.h"
-#include "resources/pictures.h"
 #include "tests/support/gui_display.h"
-#include "tests/support/gui_palettes.h"
 #include "tests/tour/album.h"
-#include "tests/tour/stories.h"
+#include "tests/tour/display_test.h"
 
 /// Every screen of the program looks as it should on other desktops than the usual one.
 class LooksTest : public QObject {
@@ -34,12 +31,7 @@ private slots:
     void haveNoDefects() {
         QCOMPARE(qApp->devicePixelRatio(), qEnvironmentVariable("QT_SCALE_FACTOR").toDouble());
         tour::Album album(QStringLiteral("Out of order."));
-        tour::takeAll(album);
-        QCOMPARE(album.missing(), QStringList());
-        for (const QString& defect : album.defects())
-            // The same as at any other scale; see the test of the tour.
-            if (!defect.contains(QLatin1String(" stands for ")))
-                QTest::qFail(qPrintable(defect), __FILE__, __LINE__);
+        tour::checkAll(album);
     }
 };
 
@@ -48,15 +40,7 @@ int main(int argc, char** argv) {
     support::Display display;
     if (!display.begin({3200, 2000}))
         qFatal("Xvfb doesn't start");
-    qputenv("QT_QPA_PLATFORM", "xcb");
-    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
-    app::prepareToolkit();
-    QApplication application(argc, argv);
-    app::adjustToolkit(application);
-    support::applyLook();
-    resources::initPictures();
-    LooksTest test;
-    return QTest::qExec(&test, argc, argv);
+    return tour::runTest<LooksTest>("xcb", argc, argv);
 }
 
 #include "looks_test.moc"

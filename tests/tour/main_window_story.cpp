@@ -229,13 +229,15 @@ void takeSilence(Album& album) {
     photographer.logIn();
     photographer.selectSet(documents);
     photographer.agent().inject("getTarnClientInfo", simulator::Silence{});
-    const support::InTheWait user([&] {
-        if (!support::waitingPanel())
-            return;
-        photographer.take(photographer.window(), "main-window-waiting");
-        support::clickDisconnect();
-    });
-    photographer.window().refreshAll();
+    {
+        const support::InTheWait user([&] {
+            if (!support::waitingPanel())
+                return;
+            photographer.take(photographer.window(), "main-window-waiting");
+            support::clickDisconnect();
+        });
+        photographer.window().refreshAll();
+    }
     photographer.take(photographer.window(), "main-window-lost");
     photographer.logIn();
     photographer.selectSet(documents);

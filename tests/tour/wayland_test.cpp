@@ -8,9 +8,9 @@
 
 #include "app/simple_gui_main_window.h"
 #include "app/start_up.h"
-#include "resources/pictures.h"
 #include "tests/support/gui_display.h"
 #include "tests/tour/album.h"
+#include "tests/tour/display_test.h"
 #include "tests/tour/stories.h"
 
 namespace {
@@ -41,10 +41,7 @@ public:
 class WaylandTest : public QObject {
     Q_OBJECT
 private slots:
-    void initTestCase() {
-        QCOMPARE(QGuiApplication::platformName(), QStringLiteral("wayland"));
-        resources::initPictures();
-    }
+    void initTestCase() { QCOMPARE(QGuiApplication::platformName(), QStringLiteral("wayland")); }
 
     void everyScreenOpens() {
         tour::Album album(QStringLiteral("Out of order."));
@@ -74,12 +71,7 @@ int main(int argc, char** argv) {
     Compositor compositor;
     if (!compositor.begin(runtimeFolder.path()))
         qFatal("weston doesn't start:\n%s", compositor.readAll().constData());
-    qputenv("QT_QPA_PLATFORM", "wayland");
-    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
-    app::prepareToolkit();
-    QApplication application(argc, argv);
-    WaylandTest test;
-    return QTest::qExec(&test, argc, argv);
+    return tour::runTest<WaylandTest>("wayland", argc, argv);
 }
 
 #include "wayland_test.moc"
