@@ -138,7 +138,7 @@ bool PendingReply::giveUp(const std::string& text) {
 }
 
 void answerBeside(const std::shared_ptr<PendingReply>& reply, std::function<std::string()> work) {
-    std::thread(tlsThread([reply, work = std::move(work), running = RunningThread()] {
+    auto run = tlsThread([reply, work = std::move(work)] {
         try {
             std::string result = work();
             const base::WipedAtEnd guard(result); // unless the caller has taken it
@@ -146,7 +146,9 @@ void answerBeside(const std::shared_ptr<PendingReply>& reply, std::function<std:
         } catch (...) {
             reply->fail(std::current_exception());
         }
-    })).detach();
+    });
+    // It counts until OpenSSL's memory is freed, too: the exit functions would free it as well.
+    std::thread([run = std::move(run), running = RunningThread()]() mutable { run(); }).detach();
 }
 
 void exitProcess(int status) {

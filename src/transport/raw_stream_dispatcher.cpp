@@ -36,10 +36,11 @@ public:
             ++teardowns->running_;
         }
         try {
-            std::thread(tlsThread([teardowns, connection]() mutable {
-                end(connection);
+            auto run = tlsThread([connection]() mutable { end(connection); });
+            std::thread([teardowns, run = std::move(run)]() mutable {
+                run();
                 teardowns->done();
-            })).detach();
+            }).detach();
         } catch (const std::exception&) {
             // No thread or no memory for one, so the caller waits.
             end(connection);

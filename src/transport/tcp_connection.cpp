@@ -11,6 +11,8 @@
 #include <boost/asio/post.hpp>
 #include <boost/asio/ssl/error.hpp>
 
+#include "transport/tls_thread.h"
+
 namespace hessiancln {
 
 namespace asio = boost::asio;
@@ -86,13 +88,13 @@ void TcpConnection::asyncResolve(const std::string& host, std::uint32_t port,
     }
     // A name resolution can't be cancelled. The thread is then abandoned with its share in the
     // owner, and the result that it posts never runs.
-    std::thread([owner, resolveAndPost, post] {
+    std::thread(tlsThread([owner, resolveAndPost, post] {
         try {
             resolveAndPost();
         } catch (const std::bad_alloc&) {
             postAtLast([&post] { post(asio::error::no_memory, {}); });
         }
-    }).detach();
+    })).detach();
 }
 
 void TcpConnection::asyncConnect(const Endpoints& endpoints, Completion completion) {
