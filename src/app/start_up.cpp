@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLibraryInfo>
 #include <QSettings>
 #include <QTextStream>
 #include <QTimer>
@@ -35,6 +36,17 @@ namespace {
 constexpr int timeToAppear = 500;
 constexpr int attemptsWhileHidden = 5;
 constexpr qint64 largestStyleSheet = qint64(16) * 1024 * 1024;
+
+/// Looking for a style, Qt remembers which plug-ins there are. It would never find the style of
+/// Windows, but those of another program: until it reads qt.conf, its own folder is one beside the
+/// program's.
+void usePluginFolder() {
+    const QString folder = QString::fromStdString(platform::pluginFolder());
+    if (folder.isEmpty())
+        return;
+    QCoreApplication::removeLibraryPath(QLibraryInfo::location(QLibraryInfo::PluginsPath));
+    QCoreApplication::addLibraryPath(folder);
+}
 
 class FirstLogin : public QObject {
 public:
@@ -79,9 +91,7 @@ private:
 namespace app {
 
 void prepareToolkit() {
-    // Looking for a style, Qt remembers which plug-ins there are. It would never find the style of
-    // Windows.
-    QCoreApplication::addLibraryPath(QString::fromStdString(platform::pluginFolder()));
+    usePluginFolder();
     // If the style is missing, Qt's default stays. The one of Windows is always light.
     if (!QApplication::setStyle(QStringLiteral("plastique")) && platform::needsDarkPalette())
         QApplication::setStyle(QStringLiteral("fusion"));

@@ -1,10 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
 #include <chrono>
+#include <string>
 #include <utility>
 
 #include <QDir>
 #include <QFile>
+#include <QLibraryInfo>
 #include <QMessageBox>
 #include <QStyle>
 #include <QTemporaryDir>
@@ -18,6 +20,7 @@
 #include "app/simple_gui_main_window.h"
 #include "app/start_up.h"
 #include "platform/dark_mode.h"
+#include "platform/plugin_folder.h"
 #include "resources/pictures.h"
 #include "session/connection.h"
 #include "session/process_values.h"
@@ -34,12 +37,16 @@ using namespace std::chrono_literals;
 namespace {
 
 bool systemNeedsDarkPalette = false;
+std::string folderOfPlugins;
 
 } // namespace
 
 /// Instead of the system's.
 bool platform::needsDarkPalette() {
     return systemNeedsDarkPalette;
+}
+std::string platform::pluginFolder() {
+    return folderOfPlugins;
 }
 
 namespace {
@@ -134,6 +141,20 @@ private slots:
         QApplication::setStyle(style);
         QCOMPARE(after, QStringLiteral("fusion"));
         QCOMPARE(rows, ui::darkPalette().alternateBase());
+    }
+
+    void aKnownFolderOfPlugInsReplacesTheOneOfQt() {
+        const QStringList before = QCoreApplication::libraryPaths();
+        QVERIFY(before.contains(QLibraryInfo::location(QLibraryInfo::PluginsPath)));
+        app::prepareToolkit();
+        QCOMPARE(QCoreApplication::libraryPaths(), before);
+        folderOfPlugins = directory_->path().toStdString();
+        app::prepareToolkit();
+        const QStringList after = QCoreApplication::libraryPaths();
+        QCoreApplication::setLibraryPaths(before);
+        folderOfPlugins.clear();
+        QVERIFY(after.contains(QDir(directory_->path()).canonicalPath()));
+        QVERIFY(!after.contains(QLibraryInfo::location(QLibraryInfo::PluginsPath)));
     }
 
     void startsInTheTrayOnlyIfAskedAndThereIsOne() {
