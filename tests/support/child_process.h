@@ -24,20 +24,21 @@ public:
     /// All remaining output, until it closes both streams.
     std::string rest();
 
-    /// Writes to its standard input, then closes it.
-    void write(const std::string& input);
-
-    /// Where the system has signals.
-    void signal(int number);
-
     /// Asks it to end, as a user does who presses Ctrl+C. On Windows, that reaches all children.
     void interrupt();
 
-    /// Whether it is still running.
-    bool runs();
-
     /// The exit status, once it has closed its output; 1000 plus the number for a signal.
     int status();
+
+    // These three aren't there on Windows, where no test needs them.
+
+    /// Writes to its standard input, then closes it.
+    void write(const std::string& input);
+
+    void signal(int number);
+
+    /// Whether it is still running.
+    bool runs();
 
 private:
     struct Parts;
@@ -46,7 +47,7 @@ private:
 };
 
 /// Runs a program to its end and returns its output. Throws `std::runtime_error` with that output
-/// if the exit status isn't 0.
+/// if the exit status isn't 0. Not there on Windows.
 std::string runProgram(const std::string& program, const std::vector<std::string>& arguments,
                        const std::string& input = {});
 

@@ -55,16 +55,11 @@ struct Pipe {
     HANDLE write = nullptr;
 };
 
-void keep(HANDLE end) {
-    SetHandleInformation(end, HANDLE_FLAG_INHERIT, 0);
-}
-
 } // namespace
 
 struct ChildProcess::Parts {
     PROCESS_INFORMATION process{};
     HANDLE job = nullptr;
-    HANDLE input = nullptr;
     HANDLE output = nullptr;
     std::thread reader;
 
@@ -105,21 +100,16 @@ struct ChildProcess::Parts {
     }
 
     void start(const std::string& program, const std::vector<std::string>& arguments) {
-        const Pipe in;
         const Pipe out;
-        keep(in.write);
-        keep(out.read);
-        input = in.write;
+        SetHandleInformation(out.read, HANDLE_FLAG_INHERIT, 0);
         output = out.read;
         STARTUPINFOW startup{};
         startup.cb = sizeof startup;
         startup.dwFlags = STARTF_USESTDHANDLES;
-        startup.hStdInput = in.read;
         startup.hStdOutput = startup.hStdError = out.write;
         std::wstring line = commandLine(program, arguments);
         const BOOL started = CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0,
                                             nullptr, nullptr, &startup, &process);
-        CloseHandle(in.read);
         CloseHandle(out.write);
         if (!started)
             throw std::runtime_error(program + " doesn't start");
@@ -142,8 +132,8 @@ ChildProcess::ChildProcess(const std::string& program, std::vector<std::string> 
 ChildProcess::~ChildProcess() {
     TerminateProcess(parts_->process.hProcess, 1);
     parts_->reader.join();
-    for (const HANDLE handle : {parts_->process.hProcess, parts_->process.hThread, parts_->job,
-                                parts_->input, parts_->output})
+    for (const HANDLE handle :
+         {parts_->process.hProcess, parts_->process.hThread, parts_->job, parts_->output})
         CloseHandle(handle);
 }
 
@@ -155,27 +145,10 @@ std::string ChildProcess::rest() {
     return parts_->take(true);
 }
 
-void ChildProcess::write(const std::string& input) {
-    DWORD written = 0;
-    WriteFile(parts_->input, input.data(), static_cast<DWORD>(input.size()), &written, nullptr);
-    CloseHandle(parts_->input);
-    parts_->input = nullptr;
-    if (written != input.size())
-        throw std::runtime_error("the program doesn't read");
-}
-
-void ChildProcess::signal(int) {
-    throw std::logic_error("Windows has no signals");
-}
-
 void ChildProcess::interrupt() {
     if (!GenerateConsoleCtrlEvent(CTRL_C_EVENT, 0))
         throw std::runtime_error("the program can't be interrupted: " +
                                  std::to_string(GetLastError()));
-}
-
-bool ChildProcess::runs() {
-    return WaitForSingleObject(parts_->process.hProcess, 0) == WAIT_TIMEOUT;
 }
 
 int ChildProcess::status() {
