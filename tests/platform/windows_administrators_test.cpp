@@ -200,6 +200,14 @@ TEST(Administrators, IncludeTheDomainAccountOfTheProcess) {
     EXPECT_FALSE(isAdministrator("ann")) << "another account's name";
 }
 
+TEST(Administrators, AreNotConfusedWithALocalAccountOfTheSameName) {
+    FakeAccounts accounts;
+    accounts.memberships[L"anna"] = {L"Administrators"};
+    accounts.memberships[L"DOMAIN\\anna"] = {L"Users"};
+    EXPECT_FALSE(isAdministrator("anna"));
+    EXPECT_THAT(accounts.asked, testing::ElementsAre(L"DOMAIN\\anna"));
+}
+
 TEST(Administrators, HoldNoStranger) {
     FakeAccounts accounts;
     accounts.memberships[L"DOMAIN\\anna"] = {L"Administrators"};

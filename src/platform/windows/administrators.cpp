@@ -91,15 +91,15 @@ bool isAdministrator(const std::string& user) {
     // An embedded zero would truncate the name on its way to the system.
     if (name.empty() || name.find(L'\0') != std::wstring::npos)
         return false;
+    // Without a domain, only the accounts of this machine are found, and one of them may have the
+    // same name as the account of the process.
+    const std::wstring account = qualifiedAccount();
+    const bool isOwn = isNameOf(account, name);
     OwnedGroups groups;
     DWORD count = 0;
-    NET_API_STATUS status = readGroups(name, groups, count);
-    if (status == NERR_UserNotFound) {
-        // Without a domain, only the accounts of this machine are found.
-        const std::wstring account = qualifiedAccount();
-        if (isNameOf(account, name))
-            status = readGroups(account, groups, count);
-    }
+    NET_API_STATUS status = readGroups(isOwn ? account : name, groups, count);
+    if (isOwn && status == NERR_UserNotFound)
+        status = readGroups(name, groups, count);
     if (status != NERR_Success || !groups)
         return false;
     const OwnedSid administrators = administratorsSid();
