@@ -11,6 +11,8 @@
 #include <QThread>
 #include <QtEndian>
 
+#include "platform/event_log.h"
+#include "platform/local_server.h"
 #include "platform/session_folder.h"
 
 namespace {
@@ -47,12 +49,17 @@ QByteArray frame(const QString& message) {
     return bytes + text;
 }
 
-/// Retries, because the first instance may hold its lock before it listens.
+/// Retries, because the first instance may hold its lock before it listens, and because another
+/// user may have taken the name: all users of Windows share the names of pipes, and a pipe may have
+/// several servers.
 bool connectUntil(QLocalSocket& socket, const QString& name, const QDeadlineTimer& deadline) {
     while (!deadline.hasExpired()) {
         socket.connectToServer(name);
-        if (socket.waitForConnected(static_cast<int>(deadline.remainingTime())))
+        if (socket.waitForConnected(static_cast<int>(deadline.remainingTime())) &&
+            platform::isServedByThisUser(socket.socketDescriptor()))
             return true;
+        // A server can take on the identity of a client once it has read something.
+        socket.abort();
         QThread::msleep(pauseBeforeNextTry);
     }
     return false;
@@ -116,7 +123,9 @@ void QtSingleApplication::listen() {
     server_.setSocketOptions(QLocalServer::UserAccessOption);
     // This process holds the lock, so an existing socket was left by a crash.
     QLocalServer::removeServer(socketName_);
-    server_.listen(socketName_);
+    if (!server_.listen(socketName_))
+        platform::reportError("Tarn-Mobile User", "Later starts can't reach this one: " +
+                                                      server_.errorString().toStdString());
 }
 
 void QtSingleApplication::receive() {

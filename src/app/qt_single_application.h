@@ -16,7 +16,8 @@ public:
     QtSingleApplication(int& argc, char** argv);
 
     /// Sends the message to the first instance. True if it confirms within the time-out, in
-    /// milliseconds; immediately false if this process is the first.
+    /// milliseconds; immediately false if this process is the first. A server of another user gets
+    /// nothing.
     bool sendMessage(const QString& message, int timeout = 5000);
 
     bool event(QEvent* event) override;

@@ -8,10 +8,13 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <pwd.h>
+#include <sys/socket.h>
+#include <sys/syscall.h>
 #include <syslog.h>
 #include <unistd.h>
 
 #include "platform/event_log.h"
+#include "platform/local_server.h"
 #include "platform/process_id.h"
 #include "platform/standard_streams.h"
 #include "platform/user_name.h"
@@ -53,6 +56,33 @@ TEST(StandardStreams, StayWhatTheyAreWhereTheyAreOpen) {
                 testing::ExitedWithCode(0), "^said$");
 }
 
+/// A connection of this process to itself.
+struct Sockets {
+    Sockets() { EXPECT_EQ(::socketpair(AF_UNIX, SOCK_STREAM, 0, ends), 0); }
+    Sockets(const Sockets&) = delete;
+    Sockets& operator=(const Sockets&) = delete;
+    ~Sockets() {
+        for (const int end : ends)
+            ::close(end);
+    }
+
+    int ends[2] = {-1, -1};
+};
+
+bool peerIsAnother = false;
+
+TEST(LocalServer, IsOfThisUserOrOfAnother) {
+    const Sockets sockets;
+    EXPECT_TRUE(platform::isServedByThisUser(sockets.ends[0]));
+    peerIsAnother = true;
+    EXPECT_FALSE(platform::isServedByThisUser(sockets.ends[0]));
+    peerIsAnother = false;
+}
+
+TEST(LocalServer, IsOfAnotherUserIfTheSystemDoesntSay) {
+    EXPECT_FALSE(platform::isServedByThisUser(-1));
+}
+
 TEST(ProcessId, IsTheSystemsOwn) {
     EXPECT_EQ(platform::processId(), static_cast<long>(::getpid()));
     EXPECT_EQ(platform::threadId(), platform::processId()); // as on the first thread of any process
@@ -67,3 +97,12 @@ TEST(UserName, IsTheAccountOfTheProcessWhateverTheEnvironmentSays) {
 }
 
 } // namespace
+
+/// The system's, with another user at the other end if a test wants it.
+extern "C" int getsockopt(int socket, int level, int option, void* value,
+                          socklen_t* size) noexcept {
+    const auto result = ::syscall(SYS_getsockopt, socket, level, option, value, size);
+    if (result == 0 && peerIsAnother && level == SOL_SOCKET && option == SO_PEERCRED)
+        ++static_cast<ucred*>(value)->uid;
+    return static_cast<int>(result);
+}
