@@ -11,6 +11,7 @@
 #include <QLocalSocket>
 #include <QLockFile>
 #include <QSemaphore>
+#include <QSysInfo>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QThread>
@@ -135,8 +136,9 @@ private slots:
     }
 
     void aFirstStartThatCantListenSaysSo() {
-        // Too long for a socket or a pipe.
-        prefix += std::string(220, 'a');
+        if (QSysInfo::kernelType() == QLatin1String("winnt"))
+            QSKIP("The name of a pipe may be longer than that of a socket.");
+        prefix += std::string(108, 'a'); // too long for a socket
         const Start start;
         QCOMPARE(errors.size(), std::size_t(1));
         QVERIFY(errors.front().find("can't reach this one: ") != std::string::npos);
