@@ -1,8 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Tarn-Mobile User authors
 // SPDX-License-Identifier: Apache-2.0
-// A contrast theme, which Windows hands to programs as its system colours.
+// A contrast theme, which Windows hands to programs as its system colours, with a large font.
 #include <array>
+#include <cwchar>
 
+#include <QLabel>
 #include <QMenu>
 #include <QTest>
 #include <QToolTip>
@@ -56,6 +58,29 @@ private:
     std::array<COLORREF, elements.size()> before_{};
 };
 
+/// "DejaVu Serif" in 15 points as the font of message boxes, for as long as it lives.
+class LargeMessageFont {
+public:
+    LargeMessageFont() {
+        before_.cbSize = sizeof before_;
+        apply(SPI_GETNONCLIENTMETRICS, before_);
+        NONCLIENTMETRICSW large = before_;
+        large.lfMessageFont.lfHeight = -20; // pixels at 96 dpi
+        std::wcscpy(large.lfMessageFont.lfFaceName, L"DejaVu Serif");
+        apply(SPI_SETNONCLIENTMETRICS, large);
+    }
+    LargeMessageFont(const LargeMessageFont&) = delete;
+    LargeMessageFont& operator=(const LargeMessageFont&) = delete;
+    ~LargeMessageFont() { apply(SPI_SETNONCLIENTMETRICS, before_); }
+
+private:
+    static void apply(UINT action, NONCLIENTMETRICSW& metrics) {
+        SystemParametersInfoW(action, sizeof metrics, &metrics, 0);
+    }
+
+    NONCLIENTMETRICSW before_{};
+};
+
 } // namespace
 
 class ContrastThemeTest : public QObject {
@@ -63,6 +88,12 @@ class ContrastThemeTest : public QObject {
 private slots:
     void theStyleIsTheOneOfWindows() {
         QCOMPARE(QApplication::style()->objectName(), QStringLiteral("windowsvista"));
+    }
+
+    void labelsHaveTheFontOfMessages() {
+        const QLabel label;
+        QCOMPARE(label.font().family(), QStringLiteral("DejaVu Serif"));
+        QCOMPARE(label.font().pointSize(), 15);
     }
 
     void everyTextIsReadable_data() {
@@ -99,6 +130,7 @@ int main(int argc, char** argv) {
     // The offscreen platform doesn't read the system's colours.
     qputenv("QT_QPA_PLATFORM", "windows");
     const ContrastTheme theme;
+    const LargeMessageFont font;
     app::prepareToolkit();
     QApplication application(argc, argv);
     app::adjustToolkit(application);
