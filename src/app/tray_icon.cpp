@@ -56,9 +56,13 @@ void TrayIcon::announce(const QString& title, const QString& text, MessageIcon i
     if (Notifications* service = notifications())
         service->show(title, text, QLatin1String(iconName), balloonTime);
     else if (QGuiApplication::platformName() == QLatin1String("windows"))
-        showMessage(title, fittingBalloonText(text, mostOnWindows), icon, balloonTime);
+        showNative(title, fittingBalloonText(text, mostOnWindows), icon);
     else
-        showMessage(title, text, icon, balloonTime);
+        showNative(title, text, icon);
+}
+
+void TrayIcon::showNative(const QString& title, const QString& text, MessageIcon icon) {
+    showMessage(title, text, icon, balloonTime);
 }
 
 Notifications* TrayIcon::notifications() {

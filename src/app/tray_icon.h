@@ -32,6 +32,10 @@ signals:
     /// A balloon was clicked. Unlike `messageClicked`, it works on desktops with a tray on D-Bus.
     void balloonClicked();
 
+protected:
+    /// Shows a balloon with exactly this text on a desktop without a notification service.
+    virtual void showNative(const QString& title, const QString& text, MessageIcon icon);
+
 private:
     void announce(const QString& title, const QString& text, MessageIcon icon,
                   const char* iconName);

@@ -3,6 +3,7 @@
 // The icon in the tray of Windows, which sends a message for each click to a hidden window of Qt's.
 #include <memory>
 #include <string>
+#include <vector>
 
 #include <QTest>
 
@@ -15,15 +16,22 @@
 
 namespace {
 
-/// Counts the balloons that it shows.
-class CountingTray : public app::TrayIcon {
-public:
-    void showBalloon(const QString& title, const QString& text) override {
-        ++balloons;
-        app::TrayIcon::showBalloon(title, text);
-    }
+struct Balloon {
+    QString title;
+    QString text;
+    QSystemTrayIcon::MessageIcon icon = QSystemTrayIcon::NoIcon;
+};
 
-    int balloons = 0;
+/// Remembers the balloons that it hands to Windows.
+class RecordingTray : public app::TrayIcon {
+public:
+    std::vector<Balloon> balloons;
+
+protected:
+    void showNative(const QString& title, const QString& text, MessageIcon icon) override {
+        balloons.push_back({title, text, icon});
+        app::TrayIcon::showNative(title, text, icon);
+    }
 };
 
 BOOL CALLBACK takeWindowOfIcon(HWND window, LPARAM found) {
@@ -56,7 +64,7 @@ private slots:
 
     void init() {
         QVERIFY(QSystemTrayIcon::isSystemTrayAvailable());
-        auto tray = std::make_unique<CountingTray>();
+        auto tray = std::make_unique<RecordingTray>();
         tray_ = tray.get();
         window_ = std::make_unique<SimpleGUIMainWindow>(nullptr, std::move(tray));
         window_->show();
@@ -88,16 +96,43 @@ private slots:
         window_->close();
         window_->showMainWindow();
         window_->close();
-        QCOMPARE(tray_->balloons, 2);
+        QCOMPARE(tray_->balloons.size(), std::size_t{2});
         notify(NIN_BALLOONUSERCLICK);
         window_->showMainWindow();
         window_->close();
         QVERIFY(!window_->isVisible());
-        QCOMPARE(tray_->balloons, 2);
+        QCOMPARE(tray_->balloons.size(), std::size_t{2});
+    }
+
+    void aBalloonHasItsTextAndKind() {
+        tray_->showBalloon(QStringLiteral("Title"), QStringLiteral("Text"));
+        tray_->showWarning(QStringLiteral("Warning"), QString(200, QLatin1Char('a')) +
+                                                          QLatin1Char('\n') +
+                                                          QString(100, QLatin1Char('b')));
+        QCOMPARE(tray_->balloons.size(), std::size_t{2});
+        const Balloon& plain = tray_->balloons[0];
+        QCOMPARE(plain.title, QStringLiteral("Title"));
+        QCOMPARE(plain.text, QStringLiteral("Text"));
+        QCOMPARE(plain.icon, QSystemTrayIcon::Information);
+        const Balloon& warning = tray_->balloons[1];
+        QCOMPARE(warning.title, QStringLiteral("Warning"));
+        // Windows takes 255 characters.
+        QCOMPARE(warning.text, QString(200, QLatin1Char('a')) + QStringLiteral("\n\u2026"));
+        QCOMPARE(warning.icon, QSystemTrayIcon::Warning);
+    }
+
+    void theIconComesBackAfterARestartOfTheShell() {
+        NOTIFYICONDATAW icon{};
+        icon.cbSize = sizeof icon;
+        icon.hWnd = windowOfIcon();
+        QVERIFY(Shell_NotifyIconW(NIM_DELETE, &icon));
+        QVERIFY(!Shell_NotifyIconW(NIM_MODIFY, &icon));
+        SendMessageW(icon.hWnd, RegisterWindowMessageW(L"TaskbarCreated"), 0, 0);
+        QVERIFY(Shell_NotifyIconW(NIM_MODIFY, &icon));
     }
 
 private:
-    CountingTray* tray_ = nullptr; ///< owned by the window
+    RecordingTray* tray_ = nullptr; ///< owned by the window
     std::unique_ptr<SimpleGUIMainWindow> window_;
 };
 
