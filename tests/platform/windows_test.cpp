@@ -19,6 +19,14 @@ namespace {
 
 using support::process::setEnvironment;
 
+DWORD sessionOfProcess = 1;
+
+BOOL WINAPI getSession(DWORD process, DWORD* session) {
+    EXPECT_EQ(process, GetCurrentProcessId());
+    *session = sessionOfProcess;
+    return TRUE;
+}
+
 TEST(WideText, CarriesWhatNoCodePageHolds) {
     const std::string utf8 = "J\xC3\xBCrgen \xCE\xA9mega \xF0\x9F\x8C\xB2";
     EXPECT_EQ(platform::toWide(utf8), L"J\x00FCrgen \x03A9mega \xD83C\xDF32");
@@ -70,10 +78,11 @@ TEST(LibrarySearch, FindsNothingInTheCurrentDirectory) {
 }
 
 TEST(SessionFilePrefix, NamesTheFolderAndTheSession) {
-    DWORD session = 0;
-    ASSERT_TRUE(ProcessIdToSessionId(GetCurrentProcessId(), &session));
+    sessionOfProcess = 7;
     const std::string prefix = platform::sessionFilePrefix();
-    EXPECT_TRUE(prefix.ends_with("/session-" + std::to_string(session) + '-')) << prefix;
+    EXPECT_TRUE(prefix.ends_with("/session-7-")) << prefix;
+    sessionOfProcess = 12;
+    EXPECT_TRUE(platform::sessionFilePrefix().ends_with("/session-12-"));
     EXPECT_EQ(prefix.find('\\'), std::string::npos) << prefix;
     const std::filesystem::path folder =
         std::filesystem::path(platform::toWide(prefix)).parent_path();
@@ -166,3 +175,7 @@ TEST(PluginFolder, IsThatOfTheProgram) {
 }
 
 } // namespace
+
+extern "C" {
+decltype(&ProcessIdToSessionId) __imp_ProcessIdToSessionId = getSession;
+}
