@@ -47,6 +47,8 @@ class TFADialogsTest : public QObject, private TFAFixture {
 private slots:
     void initTestCase() {
         resources::initPictures();
+        // Only Qt's own file dialog has widgets that a test can use.
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
         ui::g_branding.load();
     }
     void init() { start(); }

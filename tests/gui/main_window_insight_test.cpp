@@ -106,7 +106,11 @@ FindFileWindow& findDiary(MainWindowDriver& driver) {
 class MainWindowInsightTest : public QObject {
     Q_OBJECT
 private slots:
-    void initTestCase() { resources::initPictures(); }
+    void initTestCase() {
+        resources::initPictures();
+        // Only Qt's own file dialog has widgets that a test can use.
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    }
 
     void theFieldSaysHowTheSetsAre() {
         GuiAgent agent({.scenario = Scenario::Failed});

@@ -47,6 +47,11 @@ private:
 class LogSearchBarTest : public QObject {
     Q_OBJECT
 private slots:
+    void initTestCase() {
+        // Only Qt's own file dialog has widgets that a test can use.
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    }
+
     void aSearchIsPreparedWhenTheLineGetsTheFocus();
     void andAfterEachRefreshWhileItHasTheFocus();
     void theNumberOfRowsHasASingular();

@@ -208,7 +208,11 @@ void check(const tour::Album& album) {
 class TourTest : public QObject {
     Q_OBJECT
 private slots:
-    void initTestCase() { resources::initPictures(); }
+    void initTestCase() {
+        resources::initPictures();
+        // Only Qt's own file dialog has widgets that a test can use.
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    }
 
     void inEnglish();
     void inEachLanguage_data();
