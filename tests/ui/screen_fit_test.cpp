@@ -114,8 +114,7 @@ private slots:
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
         // Only at its first opening it is moved for a while.
-        QVERIFY(!window.findChild<QObject*>() ||
-                QTest::qWaitFor([&] { return window.children().isEmpty(); }));
+        QTRY_VERIFY(window.children().isEmpty());
         window.hide();
         window.move(-100, 100);
         window.show();
